@@ -1,0 +1,21 @@
+# What every target of the project is compiled with.
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(kavrel_flags INTERFACE)
+target_include_directories(kavrel_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(kavrel_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(KAVREL_SANITIZE)
+  target_compile_options(kavrel_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                -fno-omit-frame-pointer)
+  target_link_options(kavrel_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(KAVREL_FUZZ)
+  # Coverage for the fuzzer goes into the library too; only the targets link its main().
+  target_compile_options(kavrel_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                                -fno-sanitize-recover=all)
+  target_link_options(kavrel_flags INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,1 @@
+#include "observation/Struct_Weather.h"

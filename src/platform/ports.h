@@ -1,0 +1,217 @@
+#pragma once
+// Everything outside the process is behind one of these interfaces. Inside the program a path is
+// what the officer knows ("C:\kavrel\file\FIXDATA.DAT"); the implementation owns the map from drive
+// letters to the computer's folders.
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace ui {
+class Screen;
+}
+
+namespace platform {
+
+struct DateTime {
+  int year = 0;
+  int month = 0;
+  int day = 0;
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+  auto operator<=>(const DateTime&) const = default;
+};
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  [[nodiscard]] virtual DateTime local() const = 0;
+  [[nodiscard]] virtual DateTime utc() const = 0;
+};
+
+/// The user's default locale, as the id that this kind of program has always tested.
+class Locale {
+ public:
+  virtual ~Locale() = default;
+  /// Low 10 bits: primary language; 0x0411 for Japanese (primary language 17), 0x0409 for English.
+  [[nodiscard]] virtual unsigned locale_id() const = 0;
+};
+inline constexpr unsigned kJapaneseLanguage = 17;
+
+enum class DriveType {
+  kUnknown = 0,
+  kNone = 1,
+  kRemovable = 2,
+  kFixed = 3,
+  kRemote = 4,
+  kCdRom = 5,
+  kRamDisk = 6
+};
+
+struct Drive {
+  char letter = 'C';
+  DriveType type = DriveType::kUnknown;
+  /// Medium kind of the drive's geometry: 0 unknown, 11 removable other than floppy, 12 fixed, else
+  /// a floppy form.
+  int media_type = 0;
+};
+
+class Drives {
+ public:
+  virtual ~Drives() = default;
+  /// The logical drives in letter order.
+  [[nodiscard]] virtual std::vector<Drive> drives() const = 0;
+  /// Device kind of a drive number (1 = A) asked as an older system answers it (2 and 7 are
+  /// floppies), or nothing on a current system, where `Drive::media_type` counts.
+  [[nodiscard]] virtual std::optional<int> older_device_type(int drive_number) const = 0;
+  /// True when a medium is in the drive.
+  [[nodiscard]] virtual bool medium_present(char letter) const = 0;
+  /// Folder of the operating system, such as "C:\system"; its first three characters are the system
+  /// root.
+  [[nodiscard]] virtual std::string system_folder() const = 0;
+  /// Path of the program as it was started.
+  [[nodiscard]] virtual std::string program_path() const = 0;
+};
+
+enum class FileError {
+  kNone,
+  kNotFound,
+  kAccessDenied,  ///< no permission, read-only medium, a folder where a file was wanted
+  kNoSpace,
+  kMediumMissing,  ///< the drive is not there or holds no medium
+  kOther,
+};
+
+/// A value or the reason why there is none.
+template <class T>
+struct Result {
+  std::optional<T> value;
+  FileError error = FileError::kNone;
+
+  Result(T v)
+      : value(std::move(v)) {}  // NOLINT(google-explicit-constructor): a function returns either
+  Result(FileError e) : error(e) {}  // NOLINT(google-explicit-constructor)
+  [[nodiscard]] bool ok() const { return value.has_value(); }
+};
+
+struct FolderEntry {
+  std::string name;
+  bool is_folder = false;
+};
+
+/// A file written and flushed beside its place, not yet in it.
+struct StagedFile {
+  std::string path;       ///< where it will go
+  std::string temporary;  ///< where it lies; no search for ".tlx" or "immt5.log" matches the name
+};
+
+/// What an append did, so that it can be taken back.
+struct AppendMark {
+  std::string path;
+  bool existed = false;
+  std::uint64_t old_size = 0;
+  std::uint64_t new_size = 0;
+};
+
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  /// The whole file. Nothing above `largest` bytes is read (kOther).
+  [[nodiscard]] virtual Result<std::string> read(const std::string& path,
+                                                 std::uint64_t largest = 64U << 20U) const = 0;
+
+  // Replacing: stage() writes beside the place and flushes; commit() renames over the old file and
+  // flushes the folder; discard() removes what was staged. A crash before commit() leaves the old
+  // file, a crash after it the new one.
+  [[nodiscard]] virtual Result<StagedFile> stage(const std::string& path,
+                                                 std::string_view content) = 0;
+  [[nodiscard]] virtual FileError commit(const StagedFile& staged) = 0;
+  virtual void discard(const StagedFile& staged) = 0;
+  /// stage() and commit(), with discard() on failure.
+  [[nodiscard]] FileError replace(const std::string& path, std::string_view content);
+
+  /// Appends in one write, flushed, under a lock that other copies of the program respect; cut back
+  /// when it did not go in whole. Creates the file when there is none.
+  [[nodiscard]] virtual Result<AppendMark> append(const std::string& path,
+                                                  std::string_view content) = 0;
+  /// Cuts the file back to what it was before the append (removes it when the append created it),
+  /// unless somebody appended more since.
+  [[nodiscard]] virtual FileError take_back(const AppendMark& mark) = 0;
+
+  [[nodiscard]] virtual bool is_file(const std::string& path) const = 0;
+  [[nodiscard]] virtual bool is_folder(const std::string& path) const = 0;
+  [[nodiscard]] virtual std::optional<std::uint64_t> size(const std::string& path) const = 0;
+  /// Local time of the last change.
+  [[nodiscard]] virtual std::optional<DateTime> modified(const std::string& path) const = 0;
+  /// Entries of a folder without "." and "..", in the order the file system gives them.
+  [[nodiscard]] virtual Result<std::vector<FolderEntry>> list(const std::string& folder) const = 0;
+  /// One folder; its parent must exist. An existing folder is kNone.
+  [[nodiscard]] virtual FileError create_folder(const std::string& path) = 0;
+  /// Copies over an existing file; the target is old or new, never half.
+  [[nodiscard]] virtual FileError copy(const std::string& from, const std::string& to) = 0;
+  [[nodiscard]] virtual FileError remove(const std::string& path) = 0;
+  [[nodiscard]] virtual FileError clear_read_only(const std::string& path) = 0;
+  /// Bytes free for this user on the drive that holds the path.
+  [[nodiscard]] virtual std::optional<std::uint64_t> free_space(const std::string& path) const = 0;
+  /// True when both paths name one file or folder.
+  [[nodiscard]] virtual bool same(const std::string& a, const std::string& b) const = 0;
+  [[nodiscard]] virtual std::string current_folder() const = 0;
+  virtual void set_current_folder(const std::string& folder) = 0;
+};
+
+enum class PrintResult { kSuccess, kCancelled, kFailed };
+
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  [[nodiscard]] virtual bool has_default_printer() const = 0;
+  /// Shows the system's print dialog and prints the lines.
+  [[nodiscard]] virtual PrintResult print(const std::string& document,
+                                          const std::vector<std::string>& lines) = 0;
+};
+
+class HelpViewer {
+ public:
+  virtual ~HelpViewer() = default;
+  /// Full path of a help file, with "::/" and the topic when there is one. True when a help window
+  /// was opened.
+  virtual bool show(const std::string& path) = 0;
+};
+
+struct BoxButton {
+  std::string label;  ///< with its access key: "はい(&Y)"
+  std::string name;   ///< what a script answers: "yes", "no", "cancel", "ok"
+  int result = 0;
+};
+
+/// A message or question as the person will see it.
+struct MessageBox {
+  std::string title;
+  std::string text;
+  std::vector<BoxButton> buttons;
+  int close_result = 0;  ///< result of the close box and of Escape
+  int text_id = 0;       ///< id in the string table, 0 for a literal text; for tests
+};
+
+/// Everything that opens a window. Each call returns when the window is closed.
+class Windows {
+ public:
+  virtual ~Windows() = default;
+  virtual int show_message(const MessageBox& box) = 0;
+  /// Runs the screen until it has a result and returns that.
+  virtual int run_modal(ui::Screen& screen) = 0;
+  /// A notice that stays while something longer runs; the program goes on.
+  virtual void show_notice(ui::Screen& screen) = 0;
+  virtual void hide_notice(ui::Screen& screen) = 0;
+  virtual void pause(int milliseconds) = 0;
+  /// Folder chosen in the system's own folder browser, or nothing when it was cancelled.
+  virtual std::optional<std::string> browse_for_folder(const std::string& caption,
+                                                       const std::string& initial) = 0;
+};
+
+}  // namespace platform

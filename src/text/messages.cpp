@@ -1,0 +1,114 @@
+#include "text/messages.h"
+
+#include <utility>
+
+#include "text/ids.h"
+
+namespace text {
+namespace {
+
+constexpr std::string_view kTitle = "KAVREL for WIN";
+constexpr std::string_view kTitle3 = "KAVREL for Win";
+
+std::string or_default(std::string given, std::string_view otherwise) {
+  return given.empty() ? std::string(otherwise) : std::move(given);
+}
+
+// Sets a flag for as long as a box is shown, and puts back what was there: boxes nest.
+class Raised {
+ public:
+  explicit Raised(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+  ~Raised() { flag_ = before_; }
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
+
+ private:
+  bool& flag_;
+  bool before_;
+};
+
+}  // namespace
+
+CMessageBox1::CMessageBox1(std::string text, std::string yes, std::string no, std::string title)
+    : box_{or_default(std::move(title), kTitle),
+           std::move(text),
+           {{or_default(std::move(yes), "&YES"), "yes", kYes},
+            {or_default(std::move(no), "&NO"), "no", kNo}},
+           kNo,
+           0} {}
+
+CMessageBox2::CMessageBox2(std::string text, std::string yes, std::string no, std::string cancel,
+                           std::string title)
+    : box_{or_default(std::move(title), kTitle),
+           std::move(text),
+           {{std::move(yes), "yes", kOk},
+            {std::move(no), "no", kNo},
+            {std::move(cancel), "cancel", kCancel}},
+           kCancel,
+           0} {}
+
+CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, std::string title)
+    : box_{or_default(std::move(title), kTitle3),
+           std::move(text),
+           {{or_default(std::move(no), "&NO"), "no", kNo},
+            {or_default(std::move(yes), "&YES"), "yes", kYes}},
+           kNo,
+           0} {}
+
+void Messages::error(int id, std::string_view literal) {
+  if (quiet) return;
+  std::string shown(id >= 1 ? texts_.get(id) : literal);
+  if (shown.empty() && id < 1) shown = texts_.get(id::kCheckError);
+  windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
+}
+
+void Messages::error_filled(int id, std::initializer_list<std::string_view> arguments) {
+  if (quiet) return;
+  windows_.show_message(
+      {std::string(kTitle), fill(texts_.get(id), arguments), {{"OK", "ok", kOk}}, kOk, id});
+}
+
+int Messages::question(std::string_view text, std::string_view title, QuestionMode mode,
+                       int text_id) {
+  const bool english = texts_.language == Language::kEnglish;
+  const auto label = [&](int id) { return std::string(texts_.get(id)); };
+  const Raised open(question_open);
+  switch (mode) {
+    case QuestionMode::kOkCancel: {
+      CMessageBox1 box(std::string(text), english ? "OK" : label(id::kButtonYes),
+                       label(id::kButtonCancel), std::string(title));
+      box.box().buttons[0].name = "ok";
+      box.box().buttons[1].name = "cancel";
+      box.box().text_id = text_id;
+      return show(box) == kYes ? kOk : kCancel;
+    }
+    case QuestionMode::kYesNoCancel: {
+      CMessageBox2 box(std::string(text), label(id::kButtonYes), label(id::kButtonNo),
+                       label(id::kButtonCancel), std::string(title));
+      box.box().text_id = text_id;
+      return show(box);
+    }
+    case QuestionMode::kYesNo: {
+      CMessageBox1 box(std::string(text), label(id::kButtonYes), label(id::kButtonNo),
+                       std::string(title));
+      box.box().text_id = text_id;
+      return show(box);
+    }
+  }
+  return 0;
+}
+
+int Messages::show(const CMessageBox1& box) {
+  const Raised open(message_box_open);
+  return windows_.show_message(box.box());
+}
+
+int Messages::show(const CMessageBox2& box) {
+  return windows_.show_message(box.box());
+}
+
+int Messages::show(const CMessageBox3& box) {
+  return windows_.show_message(box.box());
+}
+
+}  // namespace text

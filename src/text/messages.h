@@ -1,0 +1,93 @@
+#pragma once
+// Message services: every notice and question of the program goes through here.
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "platform/ports.h"
+#include "text/texts.h"
+
+namespace text {
+
+// Results of the message boxes, and of screens.
+inline constexpr int kOk = 1;
+inline constexpr int kCancel = 2;
+inline constexpr int kYes = 6;
+inline constexpr int kNo = 7;
+
+/// Which buttons a question has.
+enum class QuestionMode { kOkCancel = 1, kYesNoCancel = 3, kYesNo = 4 };
+
+/// Two buttons in the order Yes, No: kYes, or kNo for No and for closing.
+class CMessageBox1 {
+ public:
+  /// Empty labels mean "&YES" and "&NO"; an empty title the program's.
+  explicit CMessageBox1(std::string text, std::string yes = {}, std::string no = {},
+                        std::string title = {});
+  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
+  [[nodiscard]] platform::MessageBox& box() { return box_; }
+
+ private:
+  platform::MessageBox box_;
+};
+
+/// Three buttons with the caller's labels: kOk for Yes, kNo, or kCancel for Cancel and for closing.
+class CMessageBox2 {
+ public:
+  CMessageBox2(std::string text, std::string yes, std::string no, std::string cancel,
+               std::string title = {});
+  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
+  [[nodiscard]] platform::MessageBox& box() { return box_; }
+
+ private:
+  platform::MessageBox box_;
+};
+
+/// CMessageBox1 with the buttons in the order No, Yes. Its title is capitalised differently, on
+/// purpose.
+class CMessageBox3 {
+ public:
+  explicit CMessageBox3(std::string text, std::string yes = {}, std::string no = {},
+                        std::string title = {});
+  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
+  [[nodiscard]] platform::MessageBox& box() { return box_; }
+
+ private:
+  platform::MessageBox box_;
+};
+
+class Messages {
+ public:
+  Messages(Texts& texts, platform::Windows& windows) : texts_(texts), windows_(windows) {}
+
+  bool quiet = false;             ///< while set, error notices are not shown
+  bool question_open = false;     ///< a question is on the screen
+  bool message_box_open = false;  ///< a CMessageBox1 is on the screen
+
+  /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
+  /// "Check Error".
+  void error(int id, std::string_view literal = {});
+  /// Error notice of a text whose "%s" and "%d" are filled in.
+  void error_filled(int id, std::initializer_list<std::string_view> arguments);
+
+  /// A question; the result is one of the four codes above (mode kOkCancel gives kOk or kCancel).
+  /// Any other mode shows nothing and returns 0. An empty title means the program's. `text_id` only
+  /// tells tests which text it is.
+  int question(std::string_view text, std::string_view title, QuestionMode mode, int text_id = 0);
+  /// The same for a text of the table.
+  int question(int id, QuestionMode mode, std::string_view title = {}) {
+    return question(texts_.get(id), title, mode, id);
+  }
+
+  /// Shows one of the three message boxes; message_box_open is set while a CMessageBox1 is shown.
+  int show(const CMessageBox1& box);
+  int show(const CMessageBox2& box);
+  int show(const CMessageBox3& box);
+
+ private:
+  Texts& texts_;
+  platform::Windows& windows_;
+};
+
+}  // namespace text

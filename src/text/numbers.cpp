@@ -1,0 +1,82 @@
+#include "text/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace text {
+namespace {
+
+std::string pad(std::string digits, int width, char fill) {
+  const auto wanted = static_cast<std::size_t>(std::max(width, 0));
+  if (digits.size() >= wanted) return digits;
+  const bool behind_sign = fill == '0' && !digits.empty() && digits.front() == '-';
+  digits.insert(behind_sign ? 1U : 0U, wanted - digits.size(), fill);
+  return digits;
+}
+
+bool is_blank(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
+bool is_digit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+std::string_view skip_blanks(std::string_view text) {
+  while (!text.empty() && is_blank(text.front())) text.remove_prefix(1);
+  return text;
+}
+
+}  // namespace
+
+std::string format_fixed(double value, int precision, int width, char fill) {
+  // The longest finite double has 309 digits before the point.
+  std::array<char, 400> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                    std::chars_format::fixed, precision);
+  return pad(std::string(buffer.data(), result.ptr), width, fill);
+}
+
+std::string format_int(long long value, int width, char fill) {
+  return pad(std::to_string(value), width, fill);
+}
+
+std::string format_digits(long long value, int digits) {
+  return pad(std::to_string(value), value < 0 ? digits + 1 : digits, '0');
+}
+
+double leading_number(std::string_view text) {
+  text = skip_blanks(text);
+  if (!text.empty() && text.front() == '+') {
+    text.remove_prefix(1);
+    if (!text.empty() && text.front() == '-') return 0.0;
+  }
+  // from_chars would take "inf" and "nan"; only a digit, perhaps behind a point, starts a number
+  // here.
+  std::string_view digits = text;
+  if (!digits.empty() && digits.front() == '-') digits.remove_prefix(1);
+  if (!digits.empty() && digits.front() == '.') digits.remove_prefix(1);
+  if (digits.empty() || !is_digit(digits.front())) return 0.0;
+  double value = 0.0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  return result.ec == std::errc{} ? value : 0.0;
+}
+
+int leading_int(std::string_view text) {
+  text = skip_blanks(text);
+  bool negative = false;
+  if (!text.empty() && (text.front() == '+' || text.front() == '-')) {
+    negative = text.front() == '-';
+    text.remove_prefix(1);
+  }
+  constexpr long long kLimit = std::numeric_limits<int>::max();
+  long long value = 0;
+  for (const char c : text) {
+    if (!is_digit(c)) break;
+    value = std::min(value * 10 + (c - '0'), kLimit);
+  }
+  return static_cast<int>(negative ? -value : value);
+}
+
+}  // namespace text

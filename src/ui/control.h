@@ -1,0 +1,148 @@
+#pragma once
+// A control holds its own value; a front end only copies it to a widget and tells what the person
+// did.
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text/texts.h"
+
+namespace ui {
+
+class Screen;
+
+enum class Kind {
+  kLabel,     ///< a text; clickable when on_press is set
+  kReadOnly,  ///< a value that is shown, never typed
+  kEdit,      ///< one line of text
+  kMemo,      ///< several lines, read-only
+  kCombo,     ///< editable drop-down
+  kDropDown,  ///< drop-down of fixed lines
+  kList,      ///< list box
+  kChoice,    ///< one of several (radio buttons); the items are their texts
+  kTick,      ///< tick box
+  kButton,
+  kPicture,  ///< clickable when on_press is set
+  kTree,
+};
+
+/// "edit", "combo" … as `show` prints it.
+[[nodiscard]] std::string_view name_of(Kind kind);
+
+/// A visible row of a tree. Rows are in display order; a level is read when its parent is expanded.
+struct TreeRow {
+  std::string text;
+  std::string path;  ///< what the row stands for
+  int depth = 0;
+  bool can_expand = true;
+  bool expanded = false;
+  bool marked = false;  ///< set apart (remote and CD-ROM drives)
+};
+
+/// What a button is for; the shared behaviours follow from it.
+enum class Role { kNone, kOk, kCancel, kHelp };
+
+/// State of one control. Screens declare the kinds below as members, in reading order.
+class Control {
+ public:
+  Control(Screen& owner, Kind control_kind, std::string_view control_name, text::Ref text = {});
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  ~Control() = default;
+
+  const std::string name;  ///< stable: layouts, scripts and tests use it
+  const Kind kind;
+
+  text::Ref caption;            ///< on a label, button or tick box; beside (or above) anything else
+  std::string literal_caption;  ///< instead of `caption` where the text is not in the table (a
+                                ///< report group, a date)
+  text::Ref unit;               ///< behind the value
+  std::string
+      content;  ///< what an edit, combo, memo, read-only text or picture (its file name) holds
+  std::vector<std::string> items;  ///< lines of a combo, drop-down, list or choice
+  std::vector<text::Ref>
+      item_refs;  ///< when set, `items` is made of these in the language of the moment
+  std::vector<bool> item_disabled;  ///< choice only; empty means all enabled
+  std::vector<TreeRow> rows;        ///< tree only
+  int selected = -1;                ///< line of a drop-down, list, choice or tree
+  bool checked = false;
+  bool enabled = true;
+  bool visible = true;
+  bool read_only = false;  ///< an edit that is shown but locked; it can have the focus
+  int max_length = 0;      ///< in characters; 0 is no limit
+  Role role = Role::kNone;
+  bool narrow = true;      ///< full-width characters are narrowed before checks
+  std::string why_locked;  ///< why it is locked or disabled, for the person; empty when it is not
+
+  /// Runs when the focus leaves after the content was narrowed; false refuses: the focus comes back
+  /// and the text is selected. Skipped while Cancel or Help is being pressed.
+  std::function<bool()> on_leave;
+  /// After the person typed, chose or ticked.
+  std::function<void()> on_change;
+  /// Button pressed, label or picture clicked, tree or list line double-clicked.
+  std::function<void()> on_press;
+  /// Before the focus enters.
+  std::function<void()> on_enter;
+  /// Tree: a row is about to be opened; insert its children behind it.
+  std::function<void(std::size_t row)> on_expand;
+
+  [[nodiscard]] bool can_focus() const;
+  /// The text of the selected line, empty when there is none.
+  [[nodiscard]] std::string selected_text() const;
+  /// Sets the content and, in a drop-down or combo, selects the line that equals it.
+  void set(std::string_view value);
+};
+
+// One type per kind, so that a screen reads like its form.
+#define KAVREL_CONTROL(Type, kind_value)                                    \
+  class Type : public Control {                                             \
+   public:                                                                  \
+    Type(Screen& owner, std::string_view control_name, text::Ref text = {}) \
+        : Control(owner, kind_value, control_name, text) {}                 \
+  }
+KAVREL_CONTROL(Label, Kind::kLabel);
+KAVREL_CONTROL(ReadOnly, Kind::kReadOnly);
+KAVREL_CONTROL(Memo, Kind::kMemo);
+KAVREL_CONTROL(DropDown, Kind::kDropDown);
+KAVREL_CONTROL(List, Kind::kList);
+KAVREL_CONTROL(Tick, Kind::kTick);
+KAVREL_CONTROL(Picture, Kind::kPicture);
+KAVREL_CONTROL(Tree, Kind::kTree);
+#undef KAVREL_CONTROL
+
+class Edit : public Control {
+ public:
+  Edit(Screen& owner, std::string_view control_name, text::Ref text = {}, int largest = 0)
+      : Control(owner, Kind::kEdit, control_name, text) {
+    max_length = largest;
+  }
+};
+
+class Combo : public Control {
+ public:
+  Combo(Screen& owner, std::string_view control_name, text::Ref text = {}, int largest = 0)
+      : Control(owner, Kind::kCombo, control_name, text) {
+    max_length = largest;
+  }
+};
+
+class Choice : public Control {
+ public:
+  Choice(Screen& owner, std::string_view control_name, text::Ref text, std::vector<text::Ref> lines)
+      : Control(owner, Kind::kChoice, control_name, text) {
+    item_refs = std::move(lines);
+  }
+};
+
+class Button : public Control {
+ public:
+  Button(Screen& owner, std::string_view control_name, text::Ref text,
+         Role button_role = Role::kNone)
+      : Control(owner, Kind::kButton, control_name, text) {
+    role = button_role;
+  }
+};
+
+}  // namespace ui

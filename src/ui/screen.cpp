@@ -1,0 +1,295 @@
+#include "ui/screen.h"
+
+#include <algorithm>
+
+#include "text/strings.h"
+
+namespace ui {
+
+// One event at a time: a message shown by a handler makes a windowing system send focus events of
+// its own.
+class Screen::Handling {
+ public:
+  explicit Handling(Screen& screen)
+      : screen_(screen), first_(!screen.handling_ && !screen.result_) {
+    if (first_) screen_.handling_ = true;
+  }
+  ~Handling() {
+    if (first_) screen_.handling_ = false;
+  }
+  Handling(const Handling&) = delete;
+  Handling& operator=(const Handling&) = delete;
+  explicit operator bool() const { return first_; }
+
+ private:
+  Screen& screen_;
+  bool first_;
+};
+
+Screen::Screen(Services& services, std::string_view class_name, text::Ref title)
+    : services_(services), class_name_(class_name), title_(title) {}
+
+std::string Screen::title() const {
+  return std::string(services_.texts.get(title_));
+}
+
+Control* Screen::find(std::string_view name) const {
+  const auto at = std::find_if(controls_.begin(), controls_.end(),
+                               [&](const Control* c) { return c->name == name; });
+  return at == controls_.end() ? nullptr : *at;
+}
+
+std::string Screen::caption(const Control& control) const {
+  if (!control.literal_caption.empty()) return control.literal_caption;
+  return std::string(services_.texts.get(control.caption));
+}
+
+std::string Screen::english_caption(const Control& control) const {
+  if (!control.literal_caption.empty()) return control.literal_caption;
+  return std::string(text::resolve(control.caption, text::Language::kEnglish));
+}
+
+std::string Screen::unit(const Control& control) const {
+  return std::string(services_.texts.get(control.unit));
+}
+
+void Screen::open() {
+  const Handling handling(*this);
+  if (!handling || opened_) return;
+  opened_ = true;
+  relabel();
+  on_open();
+  if (!result_ && focused_ == nullptr) {
+    if (Control* const first = neighbour(nullptr, true)) focus(*first);
+  }
+}
+
+void Screen::type(Control& control, std::string_view text) {
+  const Handling handling(*this);
+  if (!handling || !control.can_focus() || control.read_only) return;
+  if (control.kind != Kind::kEdit && control.kind != Kind::kCombo) return;
+  if (control.max_length > 0)
+    text = text::first(text, static_cast<std::size_t>(control.max_length));
+  control.set(text);
+  if (control.on_change) control.on_change();
+}
+
+void Screen::choose(Control& control, int index) {
+  const Handling handling(*this);
+  if (!handling || !control.enabled || !control.visible || control.read_only) return;
+  const std::size_t lines =
+      control.kind == Kind::kTree ? control.rows.size() : control.items.size();
+  const bool valid = index >= 0 && static_cast<std::size_t>(index) < lines;
+  if (valid && static_cast<std::size_t>(index) < control.item_disabled.size() &&
+      control.item_disabled[static_cast<std::size_t>(index)]) {
+    return;
+  }
+  control.selected = valid ? index : -1;
+  if (valid && (control.kind == Kind::kCombo || control.kind == Kind::kDropDown)) {
+    control.content = control.items[static_cast<std::size_t>(index)];
+  }
+  if (control.on_change) control.on_change();
+}
+
+void Screen::tick(Control& control, bool on) {
+  const Handling handling(*this);
+  if (!handling || !control.enabled || !control.visible || control.checked == on) return;
+  control.checked = on;
+  if (control.on_change) control.on_change();
+}
+
+void Screen::press(Control& control) {
+  const Handling handling(*this);
+  if (!handling || !control.enabled || !control.visible) return;
+  if (control.can_focus()) {
+    if (!move_focus_inside(control)) return;
+  } else if (!leave_focused(control)) {
+    return;
+  }
+  if (control.on_press) {
+    control.on_press();
+    return;
+  }
+  switch (control.role) {
+    case Role::kOk:
+      on_ok();
+      break;
+    case Role::kCancel:
+      on_cancel();
+      break;
+    case Role::kHelp:
+      on_help();
+      break;
+    case Role::kNone:
+      break;
+  }
+}
+
+bool Screen::move_focus(Control& to) {
+  const Handling handling(*this);
+  return handling && move_focus_inside(to);
+}
+
+bool Screen::move_focus_inside(Control& to) {
+  if (!to.can_focus()) return false;
+  if (&to == focused_) return true;
+  Control* const before = focused_;
+  if (!leave_focused(to)) return false;
+  // The check may have moved the focus itself (to the field after the one that a dialog filled,
+  // say), or closed the screen, or switched off the control that was to have it.
+  if (focused_ != before || result_ || !to.can_focus()) return false;
+  if (to.on_enter) to.on_enter();
+  focused_ = &to;
+  selection_length_ = selection_on_focus_;
+  ++focus_serial_;
+  return true;
+}
+
+bool Screen::leave_focused(const Control& to) {
+  Control* const from = focused_;
+  if (from == nullptr || from == &to || to.role == Role::kCancel || to.role == Role::kHelp)
+    return true;
+  if ((from->kind == Kind::kEdit || from->kind == Kind::kCombo) && from->narrow &&
+      !from->read_only) {
+    if (std::string narrowed = text::narrow(from->content); narrowed != from->content)
+      from->set(narrowed);
+  }
+  if (!from->enabled || !from->on_leave || from->on_leave()) return true;
+  if (focused_ == from) focus(*from);
+  return false;
+}
+
+void Screen::key(Key key) {
+  const Handling handling(*this);
+  if (!handling) return;
+  switch (key) {
+    case Key::kF1:
+      on_f1(focused_);
+      return;
+    case Key::kTab:
+    case Key::kShiftTab:
+      if (Control* const next = neighbour(focused_, key == Key::kTab)) move_focus_inside(*next);
+      return;
+    case Key::kEnter:
+    case Key::kEscape:
+      break;
+  }
+  if (on_enter_or_escape(key)) return;
+  if (key == Key::kEscape) {
+    on_cancel();
+    return;
+  }
+  // Enter presses the button that has the focus, else OK; a field is left for that, so it is
+  // checked first.
+  Control* target = focused_;
+  if (target == nullptr || target->kind != Kind::kButton) {
+    const auto ok = std::find_if(controls_.begin(), controls_.end(), [](const Control* c) {
+      return c->role == Role::kOk && c->can_focus();
+    });
+    if (ok == controls_.end()) return;
+    target = *ok;
+    if (!move_focus_inside(*target)) return;
+  }
+  if (target->on_press) {
+    target->on_press();
+  } else if (target->role == Role::kOk) {
+    on_ok();
+  } else if (target->role == Role::kCancel) {
+    on_cancel();
+  } else if (target->role == Role::kHelp) {
+    on_help();
+  }
+}
+
+void Screen::command(const MenuItem& item) {
+  const Handling handling(*this);
+  if (!handling || !item.enabled || !item.on_command) return;
+  // The command may change the menu that the item lives in.
+  const auto run = item.on_command;
+  run();
+}
+
+void Screen::expand(Control& tree, std::size_t row) {
+  const Handling handling(*this);
+  if (!handling || !tree.enabled || row >= tree.rows.size()) return;
+  if (!tree.rows[row].can_expand || tree.rows[row].expanded) return;
+  const auto before = tree.rows.size();
+  tree.rows[row].expanded = true;
+  if (tree.on_expand) tree.on_expand(row);
+  if (tree.selected > static_cast<int>(row))
+    tree.selected += static_cast<int>(tree.rows.size() - before);
+}
+
+void Screen::collapse(Control& tree, std::size_t row) {
+  const Handling handling(*this);
+  if (!handling || !tree.enabled || row >= tree.rows.size() || !tree.rows[row].expanded) return;
+  const int depth = tree.rows[row].depth;
+  std::size_t end = row + 1;
+  while (end < tree.rows.size() && tree.rows[end].depth > depth) ++end;
+  const auto begin = tree.rows.begin();
+  tree.rows.erase(begin + static_cast<std::ptrdiff_t>(row) + 1,
+                  begin + static_cast<std::ptrdiff_t>(end));
+  tree.rows[row].expanded = false;
+  if (tree.selected >= static_cast<int>(end)) {
+    tree.selected -= static_cast<int>(end - row - 1);
+  } else if (tree.selected > static_cast<int>(row)) {
+    tree.selected = static_cast<int>(row);
+    if (tree.on_change) tree.on_change();
+  }
+}
+
+void Screen::close_box() {
+  const Handling handling(*this);
+  if (handling) on_cancel();
+}
+
+void Screen::on_f1(Control* /*focused*/) {
+  on_help();
+}
+
+void Screen::on_help() {
+  const text::HelpTopic topic = text::dialog_topic(class_name_);
+  if (!topic.base.empty()) services_.help.show(topic);
+}
+
+void Screen::close(int result) {
+  result_ = result;
+}
+
+void Screen::focus(Control& control) {
+  if (!control.can_focus()) return;
+  focused_ = &control;
+  selection_length_ = -1;
+  ++focus_serial_;
+}
+
+Control* Screen::neighbour(const Control* from, bool forward) const {
+  const std::size_t count = controls_.size();
+  if (count == 0) return nullptr;
+  std::size_t at = forward ? count - 1 : 0;
+  if (from != nullptr) {
+    at = static_cast<std::size_t>(std::find(controls_.begin(), controls_.end(), from) -
+                                  controls_.begin());
+  }
+  for (std::size_t i = 0; i < count; ++i) {
+    at = forward ? (at + 1) % count : (at + count - 1) % count;
+    if (controls_[at]->can_focus()) return controls_[at];
+  }
+  return nullptr;
+}
+
+void Screen::relabel() {
+  for (Control* const control : controls_) {
+    if (control->item_refs.empty()) continue;
+    control->items.clear();
+    for (const text::Ref ref : control->item_refs)
+      control->items.emplace_back(services_.texts.get(ref));
+  }
+}
+
+void Screen::set_menu(std::vector<MenuItem> items) {
+  menu_ = std::move(items);
+  ++menu_serial_;
+}
+
+}  // namespace ui

@@ -1,0 +1,119 @@
+#pragma once
+// A screen is a list of controls with handlers. A front end tells it what the person did through
+// the functions under "What the person did" and after each copies the controls' state to its
+// widgets: one event in, one refresh out.
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/control.h"
+#include "ui/menu.h"
+#include "ui/services.h"
+
+namespace ui {
+
+enum class Key { kF1, kEnter, kEscape, kTab, kShiftTab };
+
+class Screen {
+ public:
+  /// `class_name` names the layout and the help topic.
+  Screen(Services& services, std::string_view class_name, text::Ref title);
+  virtual ~Screen() = default;
+  Screen(const Screen&) = delete;
+  Screen& operator=(const Screen&) = delete;
+
+  // What a front end reads.
+  [[nodiscard]] const std::string& class_name() const { return class_name_; }
+  [[nodiscard]] virtual std::string title() const;
+  [[nodiscard]] std::span<Control* const> controls() const { return controls_; }
+  [[nodiscard]] Control* find(std::string_view name) const;
+  [[nodiscard]] std::string caption(const Control& control) const;
+  [[nodiscard]] std::string english_caption(const Control& control) const;
+  [[nodiscard]] std::string unit(const Control& control) const;
+  [[nodiscard]] Control* focused() const { return focused_; }
+  /// Changes whenever the focus is to be set anew, also to the same control.
+  [[nodiscard]] unsigned focus_serial() const { return focus_serial_; }
+  /// Characters to select when the focus is set; a length of -1 is all.
+  [[nodiscard]] int selection_length() const { return selection_length_; }
+  [[nodiscard]] std::span<const MenuItem> menu() const { return menu_; }
+  /// Changes whenever the menu bar is to be redrawn.
+  [[nodiscard]] unsigned menu_serial() const { return menu_serial_; }
+  /// Set once the screen has closed.
+  [[nodiscard]] std::optional<int> result() const { return result_; }
+  [[nodiscard]] text::Language language() const { return services_.texts.language; }
+
+  // What the person did. An event that comes while another is being handled is dropped.
+  /// Fills texts, runs on_open() and puts the focus on the first control. Called once by the front
+  /// end; a screen may close itself in on_open() and is then never shown.
+  void open();
+  /// Typed text in place of the content, cut at max_length. Nothing happens to a locked or disabled
+  /// control.
+  void type(Control& control, std::string_view text);
+  /// Picked a line; an index outside the lines picks none.
+  void choose(Control& control, int index);
+  void tick(Control& control, bool on);
+  /// Pressed a button, clicked a label or picture, double-clicked a list or tree line. The focus
+  /// moves first (labels and pictures do not take it, but the field that has it is checked), so
+  /// that a refused field keeps it and nothing is pressed.
+  void press(Control& control);
+  /// Moves the focus. False when the field that has it refused to let go.
+  bool move_focus(Control& to);
+  void key(Key key);
+  void command(const MenuItem& item);
+  void expand(Control& tree, std::size_t row);
+  void collapse(Control& tree, std::size_t row);
+  void close_box();
+
+ protected:
+  [[nodiscard]] Services& services() const { return services_; }
+
+  virtual void on_open() {}
+  /// The OK button (and Enter). The default closes with kOk.
+  virtual void on_ok() { close(text::kOk); }
+  /// The Cancel button, Escape and the close box. The default closes with kCancel.
+  virtual void on_cancel() { close(text::kCancel); }
+  /// F1. The default opens the help topic.
+  virtual void on_f1(Control* focused);
+  /// Returns true when Enter or Escape was dealt with; the default is false: OK and Cancel follow.
+  virtual bool on_enter_or_escape(Key) { return false; }
+  /// The default opens the dialog's help topic.
+  virtual void on_help();
+
+  void close(int result);
+  /// Gives the focus without a check, its text selected.
+  void focus(Control& control);
+  /// The control after (or before) this one in tab order that can have the focus; the same one when
+  /// there is no other.
+  [[nodiscard]] Control* neighbour(const Control* from, bool forward) const;
+  /// Texts of all choices in the language of the moment; after a language switch call it again.
+  void relabel();
+  void set_menu(std::vector<MenuItem> items);
+  /// Characters selected when a field gets the focus; -1 is all.
+  void select_on_focus(int length) { selection_on_focus_ = length; }
+
+ private:
+  friend class Control;
+  class Handling;
+
+  bool leave_focused(const Control& to);
+  bool move_focus_inside(Control& to);
+
+  Services& services_;
+  std::string class_name_;
+  text::Ref title_;
+  std::vector<Control*> controls_;
+  std::vector<MenuItem> menu_;
+  Control* focused_ = nullptr;
+  unsigned focus_serial_ = 0;
+  unsigned menu_serial_ = 0;
+  int selection_length_ = -1;
+  int selection_on_focus_ = -1;
+  std::optional<int> result_;
+  bool opened_ = false;
+  bool handling_ = false;
+};
+
+}  // namespace ui
