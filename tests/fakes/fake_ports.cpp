@@ -1,0 +1,124 @@
+#include "fakes/fake_ports.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace fakes {
+
+platform::PrintResult FakePrinter::print(const std::string& /*document*/,
+                                         const std::vector<std::string>& lines) {
+  if (answer == platform::PrintResult::kSuccess) printed.push_back(lines);
+  return answer;
+}
+
+FakeWindows::~FakeWindows() {
+  verify();
+}
+
+void FakeWindows::expect(int text_id, std::string answer) {
+  expected_.push_back({text_id, {}, std::move(answer), {}, {}});
+}
+
+void FakeWindows::expect_text(std::string text, std::string answer) {
+  expected_.push_back({0, std::move(text), std::move(answer), {}, {}});
+}
+
+void FakeWindows::expect_screen(std::string class_name, std::function<void(ui::Screen&)> act) {
+  expected_.push_back({0, {}, {}, std::move(class_name), std::move(act)});
+}
+
+void FakeWindows::verify() {
+  for (const Expected& left : expected_) {
+    ADD_FAILURE() << "expected and never came: " << left.text_id << " " << left.text << left.screen;
+  }
+  expected_.clear();
+}
+
+int FakeWindows::show_message(const platform::MessageBox& box) {
+  boxes.push_back(box);
+  if (expected_.empty()) {
+    ADD_FAILURE() << "unexpected message " << box.text_id << ": " << box.text;
+    return box.close_result;
+  }
+  const Expected next = std::move(expected_.front());
+  expected_.pop_front();
+  EXPECT_TRUE(next.screen.empty())
+      << "expected the screen " << next.screen << ", got: " << box.text;
+  if (next.text.empty()) {
+    EXPECT_EQ(next.text_id, box.text_id) << box.text;
+  } else {
+    EXPECT_EQ(next.text, box.text);
+  }
+  if (next.answer == "close") return box.close_result;
+  const auto button =
+      std::find_if(box.buttons.begin(), box.buttons.end(),
+                   [&](const platform::BoxButton& b) { return b.name == next.answer; });
+  if (button == box.buttons.end()) {
+    ADD_FAILURE() << "no button " << next.answer << " in: " << box.text;
+    return box.close_result;
+  }
+  return button->result;
+}
+
+int FakeWindows::run_modal(ui::Screen& screen) {
+  screen.open();
+  if (screen.result()) return *screen.result();
+  if (expected_.empty() || expected_.front().screen != screen.class_name()) {
+    ADD_FAILURE() << "unexpected screen " << screen.class_name();
+    return text::kCancel;
+  }
+  const Expected next = std::move(expected_.front());
+  expected_.pop_front();
+  if (next.act) next.act(screen);
+  if (!screen.result()) {
+    ADD_FAILURE() << screen.class_name() << " was left open";
+    return text::kCancel;
+  }
+  return *screen.result();
+}
+
+void FakeWindows::show_notice(ui::Screen& screen) {
+  screen.open();
+  notices.push_back("show " + screen.class_name());
+}
+
+void FakeWindows::hide_notice(ui::Screen& screen) {
+  notices.push_back("hide " + screen.class_name());
+}
+
+void FakeWindows::pause(int milliseconds) {
+  notices.push_back("pause " + std::to_string(milliseconds));
+}
+
+std::optional<std::string> FakeWindows::browse_for_folder(const std::string& /*caption*/,
+                                                          const std::string& /*initial*/) {
+  return browse_answer;
+}
+
+bool enter(ui::Screen& screen, ui::Control& control, std::string_view text) {
+  if (!screen.move_focus(control)) return false;
+  screen.type(control, text);
+  return true;
+}
+
+void choose_text(ui::Screen& screen, ui::Control& control, std::string_view line) {
+  const auto at = std::find(control.items.begin(), control.items.end(), line);
+  if (at == control.items.end()) {
+    ADD_FAILURE() << control.name << " has no line " << line;
+    return;
+  }
+  if (control.can_focus() && !screen.move_focus(control)) return;
+  screen.choose(control, static_cast<int>(at - control.items.begin()));
+}
+
+std::string dump(const ui::Screen& screen) {
+  std::string result;
+  for (const ui::Control* const c : screen.controls()) {
+    result += c->name + "=" + c->content + "/" + std::to_string(c->selected) + "/" +
+              (c->checked ? "on" : "off") + "/" + (c->enabled ? "enabled" : "disabled") + "/" +
+              (c->visible ? "visible" : "hidden") + "\n";
+  }
+  return result;
+}
+
+}  // namespace fakes

@@ -1,0 +1,210 @@
+#pragma once
+// One fake per port. FakeWindows holds a script of what will be asked and how the officer answers;
+// an unexpected question, a wrong answer and an answer left over are failures.
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/ports.h"
+#include "ui/screen.h"
+#include "ui/services.h"
+
+namespace fakes {
+
+class FakeClock : public platform::Clock {
+ public:
+  platform::DateTime local_time{2014, 11, 15, 20, 50, 0};
+  platform::DateTime utc_time{2014, 11, 15, 11, 50, 0};
+  [[nodiscard]] platform::DateTime local() const override { return local_time; }
+  [[nodiscard]] platform::DateTime utc() const override { return utc_time; }
+};
+
+class FakeLocale : public platform::Locale {
+ public:
+  unsigned id = 0x0409;
+  [[nodiscard]] unsigned locale_id() const override { return id; }
+};
+
+class FakeDrives : public platform::Drives {
+ public:
+  std::vector<platform::Drive> list{{'C', platform::DriveType::kFixed, 12}};
+  std::map<int, int> older;  ///< drive number to device type, for an older system
+  std::map<char, bool> medium;
+  std::string system = "C:\\system";
+  std::string program = "C:\\program\\kavrel.exe";
+
+  [[nodiscard]] std::vector<platform::Drive> drives() const override { return list; }
+  [[nodiscard]] std::optional<int> older_device_type(int drive_number) const override {
+    const auto at = older.find(drive_number);
+    return at == older.end() ? std::nullopt : std::optional<int>(at->second);
+  }
+  [[nodiscard]] bool medium_present(char letter) const override {
+    const auto at = medium.find(letter);
+    return at == medium.end() || at->second;
+  }
+  [[nodiscard]] std::string system_folder() const override { return system; }
+  [[nodiscard]] std::string program_path() const override { return program; }
+};
+
+class FakePrinter : public platform::Printer {
+ public:
+  bool installed = true;
+  platform::PrintResult answer = platform::PrintResult::kSuccess;
+  std::vector<std::vector<std::string>> printed;
+
+  [[nodiscard]] bool has_default_printer() const override { return installed; }
+  [[nodiscard]] platform::PrintResult print(const std::string& document,
+                                            const std::vector<std::string>& lines) override;
+};
+
+class FakeHelp : public platform::HelpViewer {
+ public:
+  bool opens = true;
+  std::vector<std::string> shown;
+  bool show(const std::string& path) override {
+    shown.push_back(path);
+    return opens;
+  }
+};
+
+class FakeWindows : public platform::Windows {
+ public:
+  ~FakeWindows() override;
+
+  /// Next, a message or question of this id comes and is answered with the button of this name
+  /// ("ok", "yes", "no", "cancel", or "close" for the close box).
+  void expect(int text_id, std::string answer = "ok");
+  /// The same for a text that is not in the table.
+  void expect_text(std::string text, std::string answer = "ok");
+  /// Next, a screen of this class opens; `act` is the officer and must close it.
+  void expect_screen(std::string class_name, std::function<void(ui::Screen&)> act);
+  /// Nothing expected may be left; also checked by the destructor.
+  void verify();
+
+  /// Every box that was shown, in order.
+  std::vector<platform::MessageBox> boxes;
+  /// "show CLASS", "hide CLASS", "pause 1000" in order.
+  std::vector<std::string> notices;
+  std::optional<std::string> browse_answer;
+
+  int show_message(const platform::MessageBox& box) override;
+  int run_modal(ui::Screen& screen) override;
+  void show_notice(ui::Screen& screen) override;
+  void hide_notice(ui::Screen& screen) override;
+  void pause(int milliseconds) override;
+  std::optional<std::string> browse_for_folder(const std::string& caption,
+                                               const std::string& initial) override;
+
+ private:
+  struct Expected {
+    int text_id = 0;
+    std::string text;
+    std::string answer;
+    std::string screen;
+    std::function<void(ui::Screen&)> act;
+  };
+  std::deque<Expected> expected_;
+};
+
+/// A Files where nothing exists and nothing can be written; for screens that touch no file.
+class NoFiles : public platform::Files {
+ public:
+  [[nodiscard]] platform::Result<std::string> read(const std::string&,
+                                                   std::uint64_t) const override {
+    return platform::FileError::kNotFound;
+  }
+  [[nodiscard]] platform::Result<platform::StagedFile> stage(const std::string&,
+                                                             std::string_view) override {
+    return platform::FileError::kAccessDenied;
+  }
+  [[nodiscard]] platform::FileError commit(const platform::StagedFile&) override {
+    return platform::FileError::kAccessDenied;
+  }
+  void discard(const platform::StagedFile&) override {}
+  [[nodiscard]] platform::Result<platform::AppendMark> append(const std::string&,
+                                                              std::string_view) override {
+    return platform::FileError::kAccessDenied;
+  }
+  [[nodiscard]] platform::FileError take_back(const platform::AppendMark&) override {
+    return platform::FileError::kAccessDenied;
+  }
+  [[nodiscard]] bool is_file(const std::string&) const override { return false; }
+  [[nodiscard]] bool is_folder(const std::string&) const override { return false; }
+  [[nodiscard]] std::optional<std::uint64_t> size(const std::string&) const override {
+    return std::nullopt;
+  }
+  [[nodiscard]] std::optional<platform::DateTime> modified(const std::string&) const override {
+    return std::nullopt;
+  }
+  [[nodiscard]] platform::Result<std::vector<platform::FolderEntry>> list(
+      const std::string&) const override {
+    return platform::FileError::kNotFound;
+  }
+  [[nodiscard]] platform::FileError create_folder(const std::string&) override {
+    return platform::FileError::kAccessDenied;
+  }
+  [[nodiscard]] platform::FileError copy(const std::string&, const std::string&) override {
+    return platform::FileError::kNotFound;
+  }
+  [[nodiscard]] platform::FileError remove(const std::string&) override {
+    return platform::FileError::kNotFound;
+  }
+  [[nodiscard]] platform::FileError clear_read_only(const std::string&) override {
+    return platform::FileError::kNotFound;
+  }
+  [[nodiscard]] std::optional<std::uint64_t> free_space(const std::string&) const override {
+    return std::nullopt;
+  }
+  [[nodiscard]] bool same(const std::string& a, const std::string& b) const override {
+    return a == b;
+  }
+  [[nodiscard]] std::string current_folder() const override { return "C:\\"; }
+  void set_current_folder(const std::string&) override {}
+};
+
+/// All fakes and the services made of them. A test with files hands its own Files in.
+class World {
+ public:
+  World() : World(nullptr) {}
+  explicit World(platform::Files& with) : World(&with) {}
+
+  FakeClock clock;
+  FakeLocale locale;
+  FakeDrives drives;
+  NoFiles no_files;
+  FakePrinter printer;
+  FakeHelp help_viewer;
+  FakeWindows windows;
+  text::Texts texts;
+  text::Messages messages;
+  text::HelpLauncher help;
+  ui::Services services;
+
+  void japanese() { texts.language = text::Language::kJapanese; }
+
+ private:
+  explicit World(platform::Files* with)
+      : messages(texts, windows),
+        help(texts, help_viewer, "C:\\program"),
+        services{clock,   locale,
+                 drives,  with == nullptr ? static_cast<platform::Files&>(no_files) : *with,
+                 printer, windows,
+                 texts,   messages,
+                 help} {}
+};
+
+/// Puts the focus on the control and types, as a script's `set` does. False when the focus was
+/// refused.
+bool enter(ui::Screen& screen, ui::Control& control, std::string_view text);
+/// Picks the line that reads so; fails the test when there is none.
+void choose_text(ui::Screen& screen, ui::Control& control, std::string_view line);
+/// name=content/selected/checked/enabled/visible of every control: what a refusal must leave as it
+/// was.
+[[nodiscard]] std::string dump(const ui::Screen& screen);
+
+}  // namespace fakes
