@@ -1,0 +1,350 @@
+#include "fakes/fake_files.h"
+
+#include <algorithm>
+#include <array>
+
+using platform::FileError;
+
+namespace {
+
+constexpr std::array kOperationNames = {"read",   "stage",     "commit",         "discard",
+                                        "append", "take_back", "list",           "create_folder",
+                                        "copy",   "remove",    "clear_read_only"};
+constexpr const char* kStagedEnding = ".~staged";
+
+char lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+char drive_of(const std::string& key) {
+  return key.size() >= 2 && key[1] == ':' ? key[0] : 'c';
+}
+
+}  // namespace
+
+std::string FakeFiles::key(const std::string& path) const {
+  const bool absolute = path.size() >= 2 && path[1] == ':';
+  const std::string whole = absolute ? path : current_folder_ + "\\" + path;
+  std::string result;
+  for (const char c : whole) {
+    const char slash = c == '/' ? '\\' : lower(c);
+    if (slash == '\\' && !result.empty() && result.back() == '\\') continue;
+    result.push_back(slash);
+  }
+  while (!result.empty() && result.back() == '\\') result.pop_back();
+  return result;
+}
+
+std::string FakeFiles::parent(const std::string& key) {
+  const auto at = key.rfind('\\');
+  return at == std::string::npos ? std::string() : key.substr(0, at);
+}
+
+bool FakeFiles::missing(const std::string& path) const {
+  return missing_.contains(drive_of(key(path)));
+}
+
+const FakeFiles::Node* FakeFiles::find(const std::string& path) const {
+  const std::string wanted = key(path);
+  const auto at = std::find_if(nodes_.begin(), nodes_.end(),
+                               [&](const Node& node) { return key(node.path) == wanted; });
+  return at == nodes_.end() ? nullptr : &*at;
+}
+
+FakeFiles::Node* FakeFiles::find(const std::string& path) {
+  return const_cast<Node*>(static_cast<const FakeFiles*>(this)->find(path));
+}
+
+FakeFiles::Node& FakeFiles::put(const std::string& path, std::string content) {
+  Node* node = find(path);
+  if (node == nullptr) {
+    nodes_.push_back({path, false, false, {}, {2014, 11, 15, 12, 0, 0}});
+    node = &nodes_.back();
+  }
+  node->content = std::move(content);
+  return *node;
+}
+
+// ---- What is there
+
+void FakeFiles::add_file(const std::string& path, std::string content) {
+  const auto at = path.find_last_of("\\/");
+  if (at != std::string::npos) add_folder(path.substr(0, at));
+  put(path, std::move(content));
+}
+
+void FakeFiles::add_folder(const std::string& path) {
+  std::string so_far;
+  for (const char c : path + "\\") {
+    if ((c == '\\' || c == '/') && so_far.size() > 2 && find(so_far) == nullptr)
+      nodes_.push_back({so_far, true, false, {}, {2014, 11, 15, 12, 0, 0}});
+    so_far.push_back(c);
+  }
+}
+
+void FakeFiles::set_modified(const std::string& path, platform::DateTime when) {
+  if (Node* node = find(path)) node->modified = when;
+}
+
+void FakeFiles::set_read_only(const std::string& path, bool read_only) {
+  if (Node* node = find(path)) node->read_only = read_only;
+}
+
+void FakeFiles::set_free_space(char drive, std::uint64_t bytes) {
+  free_space_[lower(drive)] = bytes;
+}
+
+void FakeFiles::set_medium_missing(char drive, bool is_missing) {
+  if (is_missing)
+    missing_.insert(lower(drive));
+  else
+    missing_.erase(lower(drive));
+}
+
+std::optional<std::string> FakeFiles::content(const std::string& path) const {
+  const Node* node = find(path);
+  if (node == nullptr || node->folder) return std::nullopt;
+  return node->content;
+}
+
+std::map<std::string, std::string> FakeFiles::snapshot() const {
+  std::map<std::string, std::string> result;
+  for (const Node& node : nodes_)
+    if (!node.folder) result.emplace(node.path, node.content);
+  return result;
+}
+
+// ---- Scripted errors
+
+void FakeFiles::fail_next(Operation operation, FileError error) {
+  next_errors_[operation].push_back(error);
+}
+
+void FakeFiles::fail_at(int n, FileError error) {
+  errors_at_[count_ + n] = error;
+}
+
+void FakeFiles::fail_path(const std::string& path, FileError error) {
+  path_errors_[key(path)] = error;
+}
+
+void FakeFiles::kill_before(int n) {
+  kills_before_.insert(count_ + n);
+}
+
+void FakeFiles::kill_after(int n) {
+  kills_after_.insert(count_ + n);
+}
+
+void FakeFiles::heal() {
+  next_errors_.clear();
+  errors_at_.clear();
+  path_errors_.clear();
+  kills_before_.clear();
+  kills_after_.clear();
+}
+
+FileError FakeFiles::begin(Operation operation, const std::string& path,
+                           const std::string& second) const {
+  ++count_;
+  if (kills_before_.contains(count_)) throw Killed{};
+  log_.push_back(std::string(kOperationNames[static_cast<std::size_t>(operation)]) + " " + path +
+                 (second.empty() ? "" : " " + second));
+  FileError error = FileError::kNone;
+  if (auto& queue = next_errors_[operation]; !queue.empty()) {
+    error = queue.front();
+    queue.erase(queue.begin());
+  }
+  if (const auto at = errors_at_.find(count_); at != errors_at_.end()) error = at->second;
+  for (const std::string* each : {&path, &second}) {
+    if (each->empty()) continue;
+    if (const auto at = path_errors_.find(key(*each)); at != path_errors_.end()) error = at->second;
+    if (missing(*each)) error = FileError::kMediumMissing;
+  }
+  return operation == Operation::kDiscard ? FileError::kNone : error;
+}
+
+FileError FakeFiles::end(FileError error) const {
+  if (error != FileError::kNone) log_.back() += " !";
+  if (kills_after_.contains(count_)) throw Killed{};
+  return error;
+}
+
+FileError FakeFiles::writable(const std::string& path, std::uint64_t more) const {
+  const std::string above = parent(key(path));
+  if (above.size() > 2) {
+    const Node* folder = find(above);
+    if (folder == nullptr || !folder->folder) return FileError::kNotFound;
+    if (folder->read_only) return FileError::kAccessDenied;
+  }
+  const Node* node = find(path);
+  if (node != nullptr && (node->folder || node->read_only)) return FileError::kAccessDenied;
+  const auto space = free_space(path);
+  return space && *space < more ? FileError::kNoSpace : FileError::kNone;
+}
+
+// ---- The port
+
+platform::Result<std::string> FakeFiles::read(const std::string& path,
+                                              std::uint64_t largest) const {
+  FileError error = begin(Operation::kRead, path);
+  const Node* node = find(path);
+  if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
+  if (error == FileError::kNone && node->folder) error = FileError::kAccessDenied;
+  if (error == FileError::kNone && node->content.size() > largest) error = FileError::kOther;
+  if (end(error) != FileError::kNone) return error;
+  return node->content;
+}
+
+platform::Result<platform::StagedFile> FakeFiles::stage(const std::string& path,
+                                                        std::string_view content) {
+  FileError error = begin(Operation::kStage, path);
+  if (error == FileError::kNone) error = writable(path, content.size());
+  platform::StagedFile staged{path, path + kStagedEnding};
+  if (error == FileError::kNone) put(staged.temporary, std::string(content));
+  if (end(error) != FileError::kNone) return error;
+  return staged;
+}
+
+FileError FakeFiles::commit(const platform::StagedFile& staged) {
+  FileError error = begin(Operation::kCommit, staged.path);
+  const Node* beside = find(staged.temporary);
+  if (error == FileError::kNone && beside == nullptr) error = FileError::kNotFound;
+  if (error == FileError::kNone) {
+    const std::string content = beside->content;
+    std::erase_if(nodes_, [&](const Node& node) { return node.path == staged.temporary; });
+    put(staged.path, content);
+  }
+  return end(error);
+}
+
+void FakeFiles::discard(const platform::StagedFile& staged) {
+  begin(Operation::kDiscard, staged.path);
+  std::erase_if(nodes_, [&](const Node& node) { return node.path == staged.temporary; });
+  end(FileError::kNone);
+}
+
+platform::Result<platform::AppendMark> FakeFiles::append(const std::string& path,
+                                                         std::string_view content) {
+  FileError error = begin(Operation::kAppend, path);
+  if (error == FileError::kNone) error = writable(path, content.size());
+  platform::AppendMark mark{path, false, 0, 0};
+  if (error == FileError::kNone) {
+    const Node* node = find(path);
+    const std::string old = node == nullptr ? std::string() : node->content;
+    mark.existed = node != nullptr;
+    mark.old_size = old.size();
+    mark.new_size = old.size() + content.size();
+    put(path, old + std::string(content));
+  }
+  if (end(error) != FileError::kNone) return error;
+  return mark;
+}
+
+FileError FakeFiles::take_back(const platform::AppendMark& mark) {
+  FileError error = begin(Operation::kTakeBack, mark.path);
+  Node* node = find(mark.path);
+  if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
+  if (error == FileError::kNone && node->content.size() != mark.new_size) error = FileError::kOther;
+  if (error == FileError::kNone) {
+    if (mark.existed)
+      node->content.resize(mark.old_size);
+    else
+      std::erase_if(nodes_, [&](const Node& each) { return key(each.path) == key(mark.path); });
+  }
+  return end(error);
+}
+
+bool FakeFiles::is_file(const std::string& path) const {
+  const Node* node = find(path);
+  return node != nullptr && !node->folder && !missing(path);
+}
+
+bool FakeFiles::is_folder(const std::string& path) const {
+  if (missing(path)) return false;
+  const std::string wanted = key(path);
+  if (wanted.size() == 2) return true;
+  const Node* node = find(path);
+  return node != nullptr && node->folder;
+}
+
+std::optional<std::uint64_t> FakeFiles::size(const std::string& path) const {
+  if (!is_file(path)) return std::nullopt;
+  return find(path)->content.size();
+}
+
+std::optional<platform::DateTime> FakeFiles::modified(const std::string& path) const {
+  const Node* node = find(path);
+  if (node == nullptr || missing(path)) return std::nullopt;
+  return node->modified;
+}
+
+platform::Result<std::vector<platform::FolderEntry>> FakeFiles::list(
+    const std::string& folder) const {
+  FileError error = begin(Operation::kList, folder);
+  if (error == FileError::kNone && !is_folder(folder)) error = FileError::kNotFound;
+  if (end(error) != FileError::kNone) return error;
+  std::vector<platform::FolderEntry> result;
+  for (const Node& node : nodes_) {
+    if (parent(key(node.path)) != key(folder)) continue;
+    const auto at = node.path.find_last_of("\\/");
+    result.push_back({node.path.substr(at + 1), node.folder});
+  }
+  return result;
+}
+
+FileError FakeFiles::create_folder(const std::string& path) {
+  FileError error = begin(Operation::kCreateFolder, path);
+  if (error == FileError::kNone && !is_folder(path)) {
+    error = find(path) != nullptr ? FileError::kAccessDenied : writable(path, 0);
+    if (error == FileError::kNone) add_folder(path);
+  }
+  return end(error);
+}
+
+FileError FakeFiles::copy(const std::string& from, const std::string& to) {
+  FileError error = begin(Operation::kCopy, from, to);
+  const Node* node = find(from);
+  if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
+  if (error == FileError::kNone && node->folder) error = FileError::kAccessDenied;
+  if (error == FileError::kNone) error = writable(to, node->content.size());
+  if (error == FileError::kNone) {
+    const std::string content = node->content;
+    put(to, content);
+  }
+  return end(error);
+}
+
+FileError FakeFiles::remove(const std::string& path) {
+  FileError error = begin(Operation::kRemove, path);
+  const Node* node = find(path);
+  if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
+  if (error == FileError::kNone && node->read_only) error = FileError::kAccessDenied;
+  if (error == FileError::kNone && node->folder) {
+    const bool empty = std::none_of(nodes_.begin(), nodes_.end(), [&](const Node& each) {
+      return parent(key(each.path)) == key(path);
+    });
+    if (!empty) error = FileError::kOther;
+  }
+  if (error == FileError::kNone)
+    std::erase_if(nodes_, [&](const Node& each) { return key(each.path) == key(path); });
+  return end(error);
+}
+
+FileError FakeFiles::clear_read_only(const std::string& path) {
+  FileError error = begin(Operation::kClearReadOnly, path);
+  Node* node = find(path);
+  if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
+  if (error == FileError::kNone) node->read_only = false;
+  return end(error);
+}
+
+std::optional<std::uint64_t> FakeFiles::free_space(const std::string& path) const {
+  if (missing(path)) return std::nullopt;
+  const auto at = free_space_.find(drive_of(key(path)));
+  return at == free_space_.end() ? std::uint64_t{1} << 40U : at->second;
+}
+
+bool FakeFiles::same(const std::string& a, const std::string& b) const {
+  return key(a) == key(b);
+}
