@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+namespace fakes {
+
 using platform::FileError;
 
 namespace {
@@ -348,3 +350,5 @@ std::optional<std::uint64_t> FakeFiles::free_space(const std::string& path) cons
 bool FakeFiles::same(const std::string& a, const std::string& b) const {
   return key(a) == key(b);
 }
+
+}  // namespace fakes

@@ -2,10 +2,10 @@
 // Files in memory, for every room's tests. Errors are scripted, every fallible operation is counted
 // and logged, and a kill of the program can be placed before or after any of them.
 //
-//   FakeFiles files;
+//   fakes::FakeFiles files;
 //   files.add_folder("C:\\out\\");
 //   files.add_file("C:\\kavrel\\kavrel.ini", "[KAVREL]\n");
-//   files.fail_next(FakeFiles::Operation::kAppend, platform::FileError::kNoSpace);
+//   files.fail_next(fakes::FakeFiles::Operation::kAppend, platform::FileError::kNoSpace);
 //   files.fail_at(3, platform::FileError::kAccessDenied);  // the third operation from now on
 //   ... EXPECT_EQ(files.log(), (std::vector<std::string>{"stage C:\\out\\a.tlx", ...}));
 //
@@ -20,6 +20,8 @@
 #include <vector>
 
 #include "platform/ports.h"
+
+namespace fakes {
 
 class FakeFiles : public platform::Files {
  public:
@@ -141,3 +143,5 @@ class FakeFiles : public platform::Files {
   mutable std::vector<std::string> log_;
   std::string current_folder_ = "C:\\";
 };
+
+}  // namespace fakes

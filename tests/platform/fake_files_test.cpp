@@ -4,6 +4,7 @@
 
 namespace {
 
+using fakes::FakeFiles;
 using platform::FileError;
 
 FakeFiles with_folder() {
