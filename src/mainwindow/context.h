@@ -1,0 +1,37 @@
+#pragma once
+// What the main window shares with the application, which owns all of it for the whole run.
+
+#include <functional>
+#include <string>
+
+#include "ship/KeyObservationItems.h"
+#include "ship/ShipFixedData.h"
+#include "text/texts.h"
+
+namespace mainwindow {
+
+/// Folders and files of the settings. A folder is as the settings have it: it usually ends in a
+/// backslash, and is empty when it was never chosen.
+struct Folders {
+  std::string reports;        ///< where report files are written
+  std::string logbook;        ///< where the logbook is written
+  std::string report_copies;  ///< where copies of reports went last
+  std::string logbook_copies;
+  std::string removable_root;  ///< "A:\" of the removable drive, empty when there is none
+  std::string fixed_data;      ///< path of FIXDATA.DAT
+  std::string key_items;       ///< path of MOKSDATA.DAT
+};
+
+/// The application's values are changed in place, then told through the callbacks; a callback that
+/// is not set is not called.
+struct MainWindowContext {
+  ShipFixedData& ship;
+  KeyObservationItems& items;
+  Folders& folders;
+  std::function<void()> save_fixed_data;  ///< writes `ship` to FIXDATA.DAT
+  std::function<void(text::Language)>
+      language_changed;                   ///< after the language of the texts was switched
+  std::function<void()> folders_changed;  ///< after a menu command changed `folders`
+};
+
+}  // namespace mainwindow
