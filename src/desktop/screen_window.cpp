@@ -1,1 +1,389 @@
-#include <QWidget>
+#include "desktop/screen_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <optional>
+
+namespace desktop {
+namespace {
+
+std::optional<ui::Key> key_of(const QKeyEvent& event) {
+  if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return std::nullopt;
+  switch (event.key()) {
+    case Qt::Key_F1:
+      return ui::Key::kF1;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return ui::Key::kEnter;
+    case Qt::Key_Escape:
+      return ui::Key::kEscape;
+    default:
+      return std::nullopt;
+  }
+}
+
+// A layout for a screen that has none: its controls in order, the buttons in one line at the end.
+ui::LayoutNode stacked(const ui::Screen& screen) {
+  ui::LayoutNode root;
+  ui::LayoutNode buttons;
+  buttons.type = ui::LayoutNode::Type::kButtons;
+  for (const ui::Control* const control : screen.controls()) {
+    ui::LayoutNode leaf;
+    leaf.type = ui::LayoutNode::Type::kControl;
+    leaf.name = control->name;
+    if (control->role != ui::Role::kNone) {
+      buttons.children.push_back(leaf);
+      continue;
+    }
+    ui::LayoutNode row;
+    row.type = ui::LayoutNode::Type::kRow;
+    row.children.push_back(leaf);
+    root.children.push_back(row);
+  }
+  if (!buttons.children.empty()) root.children.push_back(buttons);
+  return root;
+}
+
+}  // namespace
+
+ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent), screen_(screen) {
+  if (!screen_.menu().empty()) {
+    setWindowFlags(Qt::Window);
+  } else {
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  }
+  setObjectName(QString::fromStdString(screen_.class_name()));
+  build();
+  refresh();
+  fit_to_screen();
+  qApp->installEventFilter(this);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    // The focus has already moved; the screen is asked once the event that moved it is through.
+    if (now != nullptr && now->window() == this) {
+      QMetaObject::invokeMethod(
+          this, [this] { settle_focus(); }, Qt::QueuedConnection);
+    }
+  });
+}
+
+ScreenWindow::~ScreenWindow() {
+  qApp->removeEventFilter(this);
+}
+
+void ScreenWindow::build() {
+  auto* const outer = new QVBoxLayout(this);
+  outer->setContentsMargins(0, 0, 0, 0);
+  outer->setSpacing(0);
+  auto* const scroll = new QScrollArea(this);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  content_ = new QWidget(scroll);
+  for (ui::Control* const control : screen_.controls()) {
+    bindings_.push_back(make_binding(screen_, *control, content_, [this] { refresh(); }));
+  }
+  ui::LayoutResult layout = ui::parse_layout(ui::layout_source(screen_.class_name()));
+  if (layout.root.children.empty() || !layout.error.empty()) layout.root = stacked(screen_);
+  auto* const column = new QVBoxLayout(content_);
+  const int margin = screen_.menu().empty() ? 10 : 6;
+  column->setContentsMargins(margin, margin, margin, margin);
+  column->setSpacing(screen_.menu().empty() ? 8 : 4);
+  for (const ui::LayoutNode& child : layout.root.children) build_node(child, *column);
+  // What no layout places is still there, but seen only when it has a place.
+  for (const auto& binding : bindings_) {
+    if (binding->widget()->property("placed").toBool()) continue;
+    column->addWidget(binding->widget());
+  }
+  scroll->setWidget(content_);
+  if (!screen_.menu().empty()) {
+    menu_bar_ = new QMenuBar(this);
+    outer->setMenuBar(menu_bar_);
+  }
+  outer->addWidget(scroll);
+  set_tab_order();
+  built_ = true;
+}
+
+ClickableLabel* ScreenWindow::caption_of(Binding& binding) {
+  auto* const label = new ClickableLabel(content_);
+  binding.caption_label = label;
+  if (binding.focus_widget() != nullptr) label->setBuddy(binding.focus_widget());
+  return label;
+}
+
+QWidget* ScreenWindow::placed(const ui::LayoutNode& node, bool caption_apart) {
+  Binding* const found = binding(node.name);
+  if (found == nullptr) return nullptr;
+  found->widget()->setProperty("placed", true);
+  const bool has_unit = found->control().unit.id != 0;
+  const bool captioned = !caption_apart && !found->shows_own_caption() &&
+                         node.caption != ui::LayoutNode::Caption::kNone &&
+                         !screen_.english_caption(found->control()).empty();
+  if (!has_unit && !captioned) return found->widget();
+  const bool above = node.caption == ui::LayoutNode::Caption::kAbove;
+  auto* const box = new QWidget(content_);
+  auto* const outer =
+      new QBoxLayout(above ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, box);
+  outer->setContentsMargins(0, 0, 0, 0);
+  outer->setSpacing(above ? 1 : 6);
+  if (captioned) outer->addWidget(caption_of(*found));
+  if (!has_unit) {
+    outer->addWidget(found->widget());
+    return box;
+  }
+  auto* const line = new QHBoxLayout;
+  line->setSpacing(4);
+  line->addWidget(found->widget());
+  found->unit_label = new QLabel(content_);
+  found->unit_label->setTextFormat(Qt::PlainText);
+  line->addWidget(found->unit_label);
+  if (above || caption_apart) line->addStretch();
+  outer->addLayout(line);
+  return box;
+}
+
+void ScreenWindow::build_node(const ui::LayoutNode& node, QBoxLayout& into) {
+  using Type = ui::LayoutNode::Type;
+  switch (node.type) {
+    case Type::kRows:
+    case Type::kColumns: {
+      auto* const box = new QBoxLayout(node.type == Type::kRows ? QBoxLayout::TopToBottom
+                                                                : QBoxLayout::LeftToRight);
+      box->setSpacing(into.spacing());
+      into.addLayout(box);
+      for (const ui::LayoutNode& child : node.children) build_node(child, *box);
+      if (node.type == Type::kRows && into.direction() == QBoxLayout::LeftToRight)
+        box->addStretch();
+      break;
+    }
+    case Type::kGroup:
+      into.addWidget(build_group(node));
+      break;
+    case Type::kGrid:
+      build_grid(node, into);
+      break;
+    case Type::kRow:
+    case Type::kButtons: {
+      auto* const line = new QHBoxLayout;
+      line->setSpacing(node.type == Type::kButtons ? 8 : 10);
+      into.addLayout(line);
+      if (node.type == Type::kButtons) line->addStretch();
+      for (const ui::LayoutNode& child : node.children) build_node(child, *line);
+      const bool grows = std::any_of(
+          node.children.begin(), node.children.end(), [this](const ui::LayoutNode& child) {
+            const Binding* const found = binding(child.name);
+            return found != nullptr &&
+                   (found->widget()->sizePolicy().expandingDirections() & Qt::Horizontal) &&
+                   found->widget()->maximumWidth() == QWIDGETSIZE_MAX;
+          });
+      if (node.type == Type::kRow && !grows) line->addStretch();
+      break;
+    }
+    case Type::kSpace:
+      into.addStretch();
+      break;
+    case Type::kControl:
+      if (QWidget* const widget = placed(node, false)) into.addWidget(widget);
+      break;
+  }
+}
+
+// Cells are filled in order; a captioned control takes two, caption and value, so that both line
+// up.
+void ScreenWindow::build_grid(const ui::LayoutNode& node, QBoxLayout& into) {
+  auto* const grid = new QGridLayout;
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(screen_.menu().empty() ? 6 : 3);
+  into.addLayout(grid);
+  int row = 0;
+  for (const ui::LayoutNode& line : node.children) {
+    int column = 0;
+    if (line.type != ui::LayoutNode::Type::kRow) {
+      auto* const box = new QVBoxLayout;
+      grid->addLayout(box, row++, 0, 1, node.grid_columns * 2);
+      build_node(line, *box);
+      continue;
+    }
+    for (const ui::LayoutNode& child : line.children) {
+      if (column >= node.grid_columns * 2) {
+        column = 0;
+        ++row;
+      }
+      Binding* const found = binding(child.name);
+      if (found == nullptr) continue;
+      const bool left = child.caption == ui::LayoutNode::Caption::kLeft &&
+                        !found->shows_own_caption() &&
+                        !screen_.english_caption(found->control()).empty();
+      if (left) {
+        grid->addWidget(caption_of(*found), row, column, Qt::AlignLeft | Qt::AlignVCenter);
+        grid->addWidget(placed(child, true), row, column + 1);
+      } else {
+        grid->addWidget(placed(child, false), row, column, 1, 2);
+      }
+      column += 2;
+    }
+    ++row;
+  }
+  grid->setColumnStretch(node.grid_columns * 2, 1);
+}
+
+QWidget* ScreenWindow::build_group(const ui::LayoutNode& node) {
+  auto* const frame = new QFrame(content_);
+  frame->setObjectName(QStringLiteral("group"));
+  frame->setFrameShape(QFrame::StyledPanel);
+  auto* const column = new QVBoxLayout(frame);
+  const bool compact = !screen_.menu().empty();
+  column->setContentsMargins(compact ? 6 : 10, compact ? 3 : 6, compact ? 6 : 10, compact ? 4 : 8);
+  column->setSpacing(compact ? 2 : 6);
+  if (Binding* const title = binding(node.name)) {
+    title->widget()->setProperty("placed", true);
+    title->widget()->setProperty("title", true);
+    column->addWidget(title->widget());
+  }
+  for (const ui::LayoutNode& child : node.children) build_node(child, *column);
+  return frame;
+}
+
+void ScreenWindow::set_tab_order() {
+  QWidget* before = nullptr;
+  for (const auto& binding : bindings_) {
+    QWidget* const widget = binding->focus_widget();
+    if (widget == nullptr) continue;
+    if (before != nullptr) QWidget::setTabOrder(before, widget);
+    before = widget;
+  }
+}
+
+Binding* ScreenWindow::binding(const ui::Control& control) const {
+  const auto at = std::find_if(bindings_.begin(), bindings_.end(), [&](const auto& candidate) {
+    return &candidate->control() == &control;
+  });
+  return at == bindings_.end() ? nullptr : at->get();
+}
+
+Binding* ScreenWindow::binding(std::string_view name) const {
+  const auto at = std::find_if(bindings_.begin(), bindings_.end(), [&](const auto& candidate) {
+    return candidate->control().name == name;
+  });
+  return at == bindings_.end() ? nullptr : at->get();
+}
+
+void ScreenWindow::refresh() {
+  if (!built_) return;
+  if (screen_.result()) {
+    done(*screen_.result());
+    return;
+  }
+  const QString title = QString::fromStdString(screen_.title());
+  if (windowTitle() != title) setWindowTitle(title);
+  for (const auto& binding : bindings_) binding->show();
+  show_menu();
+  apply_focus();
+}
+
+namespace {
+
+void add_items(ScreenWindow& window, ui::Screen& screen, QWidget& menu,
+               std::span<const ui::MenuItem> items) {
+  for (const ui::MenuItem& item : items) {
+    const std::string_view label = text::resolve(item.text, screen.language());
+    const QString text = QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size()));
+    if (!item.children.empty()) {
+      auto* const below = new QMenu(text, &menu);
+      menu.addAction(below->menuAction());
+      add_items(window, screen, *below, item.children);
+      continue;
+    }
+    auto* const action = new QAction(text, &menu);
+    action->setEnabled(item.enabled);
+    menu.addAction(action);
+    // A copy: the command may make a new menu bar.
+    QObject::connect(action, &QAction::triggered, &window, [&window, &screen, item] {
+      screen.command(item);
+      window.refresh();
+    });
+  }
+}
+
+}  // namespace
+
+void ScreenWindow::show_menu() {
+  if (menu_bar_ == nullptr) return;
+  if (menu_serial_ == screen_.menu_serial() && menu_language_ == screen_.language() &&
+      !menu_bar_->actions().isEmpty())
+    return;
+  menu_serial_ = screen_.menu_serial();
+  menu_language_ = screen_.language();
+  menu_bar_->clear();
+  for (QMenu* const old : menu_bar_->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly))
+    old->deleteLater();
+  add_items(*this, screen_, *menu_bar_, screen_.menu());
+}
+
+void ScreenWindow::apply_focus() {
+  if (screen_.focused() == nullptr || focus_serial_ == screen_.focus_serial()) return;
+  focus_serial_ = screen_.focus_serial();
+  Binding* const target = binding(*screen_.focused());
+  if (target == nullptr || target->focus_widget() == nullptr) return;
+  target->focus_widget()->setFocus(Qt::OtherFocusReason);
+  target->select(screen_.selection_length());
+  if (auto* const scroll = findChild<QScrollArea*>())
+    scroll->ensureWidgetVisible(target->widget(), 20, 20);
+}
+
+void ScreenWindow::settle_focus() {
+  const QWidget* const now = QApplication::focusWidget();
+  if (now == nullptr || now->window() != this) return;
+  for (const auto& binding : bindings_) {
+    if (!binding->owns(now) || screen_.focused() == &binding->control()) continue;
+    if (!screen_.move_focus(binding->control())) focus_serial_ = screen_.focus_serial() - 1;
+    refresh();
+    return;
+  }
+}
+
+bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+  const auto* const widget = qobject_cast<QWidget*>(watched);
+  if (widget == nullptr || widget->window() != this) return QDialog::eventFilter(watched, event);
+  const auto key = key_of(*static_cast<QKeyEvent*>(event));
+  if (!key) return QDialog::eventFilter(watched, event);
+  settle_focus();
+  screen_.key(*key);
+  refresh();
+  return true;
+}
+
+bool ScreenWindow::focusNextPrevChild(bool next) {
+  settle_focus();
+  screen_.key(next ? ui::Key::kTab : ui::Key::kShiftTab);
+  refresh();
+  return true;
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  screen_.close_box();
+  refresh();
+}
+
+void ScreenWindow::reject() {
+  screen_.key(ui::Key::kEscape);
+  refresh();
+}
+
+void ScreenWindow::fit_to_screen() {
+  const QRect room = screen()->availableGeometry();
+  const int bar = menu_bar_ == nullptr ? 0 : menu_bar_->sizeHint().height();
+  const QSize wanted = content_->sizeHint() + QSize(2, bar + 2);
+  resize(wanted.boundedTo(QSize(room.width(), room.height() - 32)));
+}
+
+}  // namespace desktop

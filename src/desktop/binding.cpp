@@ -1,0 +1,508 @@
+#include "desktop/binding.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QTreeWidget>
+#include <algorithm>
+#include <array>
+
+namespace desktop {
+namespace {
+
+QString text_of(const std::string& utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QStringList lines_of(const std::vector<std::string>& lines) {
+  QStringList result;
+  result.reserve(static_cast<qsizetype>(lines.size()));
+  for (const std::string& line : lines) result << text_of(line);
+  return result;
+}
+
+// Room for so many figures or letters, and the frame.
+int width_for(const QWidget& widget, int characters) {
+  return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters +
+         widget.fontMetrics().height();
+}
+
+constexpr int kWideField = 16;    // characters; longer fields grow with the window
+constexpr int kDefaultField = 8;  // where no largest length is given
+
+class LineBinding : public Binding {
+ public:
+  LineBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), edit_(new QLineEdit(parent)) {
+    const int characters = c.max_length > 0 ? c.max_length : kDefaultField;
+    edit_->setMinimumWidth(width_for(*edit_, std::min(characters, kWideField)));
+    if (c.max_length > 0 && characters <= kWideField)
+      edit_->setMaximumWidth(width_for(*edit_, characters + 1));
+    connect(edit_, &QLineEdit::textEdited, this, [this](const QString& typed) {
+      tell([&] { screen().type(control(), typed.toStdString()); });
+    });
+  }
+  [[nodiscard]] QWidget* widget() const override { return edit_; }
+  void select(int length) override {
+    if (length < 0) {
+      edit_->selectAll();
+    } else {
+      edit_->setSelection(0, length);
+    }
+  }
+  [[nodiscard]] Shown shown() const override { return {edit_->text(), {}, -1, false}; }
+
+ protected:
+  void show_state() override {
+    // Setting the largest length anew would wipe undo and move the caret.
+    if (control().max_length > 0 && edit_->maxLength() != control().max_length) {
+      edit_->setMaxLength(control().max_length);
+    }
+    const QString wanted = text_of(control().content);
+    if (edit_->text() != wanted) edit_->setText(wanted);
+    if (edit_->isReadOnly() != control().read_only) edit_->setReadOnly(control().read_only);
+  }
+
+ private:
+  QLineEdit* edit_;
+};
+
+// A value that is shown, never typed: looks like a field, takes no focus.
+class ReadOnlyBinding : public Binding {
+ public:
+  ReadOnlyBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), edit_(new QLineEdit(parent)) {
+    edit_->setReadOnly(true);
+    edit_->setFocusPolicy(Qt::NoFocus);
+    edit_->setProperty("shown", true);
+    if (c.max_length > 0) edit_->setMaximumWidth(width_for(*edit_, c.max_length + 1));
+  }
+  [[nodiscard]] QWidget* widget() const override { return edit_; }
+  [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
+  [[nodiscard]] Shown shown() const override { return {edit_->text(), {}, -1, false}; }
+
+ protected:
+  void show_state() override {
+    const QString wanted = text_of(control().content);
+    if (edit_->text() == wanted) return;
+    edit_->setText(wanted);
+    edit_->setCursorPosition(0);
+    const int characters =
+        control().max_length > 0 ? control().max_length : static_cast<int>(wanted.size());
+    edit_->setMinimumWidth(width_for(*edit_, std::clamp(characters, 4, 40)));
+  }
+
+ private:
+  QLineEdit* edit_;
+};
+
+class MemoBinding : public Binding {
+ public:
+  MemoBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), edit_(new QPlainTextEdit(parent)) {
+    edit_->setReadOnly(true);
+    edit_->setTabChangesFocus(true);
+    edit_->setMinimumSize(width_for(*edit_, 60), edit_->fontMetrics().lineSpacing() * 8);
+  }
+  [[nodiscard]] QWidget* widget() const override { return edit_; }
+  [[nodiscard]] Shown shown() const override { return {edit_->toPlainText(), {}, -1, false}; }
+
+ protected:
+  void show_state() override {
+    QString wanted = text_of(control().content);
+    wanted.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    if (edit_->toPlainText() != wanted) edit_->setPlainText(wanted);
+  }
+
+ private:
+  QPlainTextEdit* edit_;
+};
+
+class ComboBinding : public Binding {
+ public:
+  ComboBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), box_(new QComboBox(parent)) {
+    if (c.kind == ui::Kind::kCombo) {
+      box_->setEditable(true);
+      // Qt would complete "087" to "0870" while it is typed, and add what was typed to the list.
+      box_->setCompleter(nullptr);
+      box_->setInsertPolicy(QComboBox::NoInsert);
+      if (c.max_length > 0) box_->lineEdit()->setMaxLength(c.max_length);
+      connect(box_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
+        tell([&] { screen().type(control(), typed.toStdString()); });
+      });
+    }
+    if (c.max_length > 0) {
+      box_->setMinimumWidth(width_for(*box_, c.max_length) + box_->fontMetrics().height() * 2);
+    } else {
+      box_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    }
+    connect(box_, &QComboBox::activated, this,
+            [this](int index) { tell([&] { screen().choose(control(), index); }); });
+  }
+  [[nodiscard]] QWidget* widget() const override { return box_; }
+  [[nodiscard]] QWidget* focus_widget() const override { return box_; }
+  void select(int length) override {
+    if (box_->lineEdit() == nullptr) return;
+    if (length < 0) {
+      box_->lineEdit()->selectAll();
+    } else {
+      box_->lineEdit()->setSelection(0, length);
+    }
+  }
+  [[nodiscard]] Shown shown() const override {
+    return {box_->isEditable() ? box_->currentText() : box_->itemText(box_->currentIndex()), lines_,
+            box_->currentIndex(), false};
+  }
+
+ protected:
+  void show_state() override {
+    if (const QStringList wanted = lines_of(control().items); wanted != lines_) {
+      lines_ = wanted;
+      box_->clear();
+      box_->addItems(lines_);
+    }
+    if (box_->currentIndex() != control().selected) box_->setCurrentIndex(control().selected);
+    if (QLineEdit* const edit = box_->lineEdit()) {
+      const QString wanted = text_of(control().content);
+      if (edit->text() != wanted) edit->setText(wanted);
+      edit->setReadOnly(control().read_only);
+    }
+  }
+
+ private:
+  QComboBox* box_;
+  QStringList lines_;
+};
+
+class ListBinding : public Binding {
+ public:
+  ListBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), list_(new QListWidget(parent)) {
+    list_->setUniformItemSizes(true);
+    connect(list_, &QListWidget::itemSelectionChanged, this,
+            [this] { tell([&] { screen().choose(control(), list_->currentRow()); }); });
+    connect(list_, &QListWidget::itemDoubleClicked, this,
+            [this](QListWidgetItem*) { tell([&] { screen().press(control()); }); });
+  }
+  [[nodiscard]] QWidget* widget() const override { return list_; }
+  [[nodiscard]] Shown shown() const override { return {{}, lines_, list_->currentRow(), false}; }
+
+ protected:
+  void show_state() override {
+    // A list's selection signal also fires for the program's own changes.
+    const QSignalBlocker quiet(list_);
+    if (const QStringList wanted = lines_of(control().items); wanted != lines_) {
+      lines_ = wanted;
+      list_->clear();
+      list_->addItems(lines_);
+      const int rows = std::clamp(static_cast<int>(lines_.size()), 3, 12);
+      list_->setMinimumHeight(list_->fontMetrics().lineSpacing() * (rows + 1));
+      list_->setMinimumWidth(
+          std::min(list_->sizeHintForColumn(0) + list_->fontMetrics().height() * 2, 900));
+    }
+    if (list_->currentRow() != control().selected) {
+      list_->setCurrentRow(control().selected);
+      if (control().selected < 0) list_->clearSelection();
+    }
+  }
+
+ private:
+  QListWidget* list_;
+  QStringList lines_;
+};
+
+class ChoiceBinding : public Binding {
+ public:
+  ChoiceBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)),
+        box_(new QWidget(parent)),
+        group_(new QButtonGroup(box_)) {
+    connect(group_, &QButtonGroup::idClicked, this,
+            [this](int index) { tell([&] { screen().choose(control(), index); }); });
+  }
+  [[nodiscard]] QWidget* widget() const override { return box_; }
+  [[nodiscard]] QWidget* focus_widget() const override {
+    if (QAbstractButton* const on = group_->checkedButton()) return on;
+    const auto buttons = group_->buttons();
+    return buttons.isEmpty() ? nullptr : buttons.front();
+  }
+  [[nodiscard]] Shown shown() const override { return {{}, lines_, group_->checkedId(), false}; }
+
+ protected:
+  void show_state() override {
+    if (const QStringList wanted = lines_of(control().items); wanted != lines_) relabel(wanted);
+    const auto buttons = group_->buttons();
+    for (int i = 0; i < buttons.size(); ++i) {
+      const auto at = static_cast<std::size_t>(i);
+      const auto& off = control().item_disabled;
+      buttons[i]->setEnabled(!(at < off.size() && off[at]));
+    }
+    if (group_->checkedId() == control().selected) return;
+    // An exclusive group cannot be emptied: it is opened for the moment.
+    group_->setExclusive(false);
+    for (QAbstractButton* const button : buttons)
+      button->setChecked(group_->id(button) == control().selected);
+    group_->setExclusive(true);
+  }
+
+ private:
+  void relabel(const QStringList& wanted) {
+    if (wanted.size() == lines_.size()) {
+      for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(wanted[i]);
+      lines_ = wanted;
+      return;
+    }
+    for (QAbstractButton* const button : group_->buttons()) delete button;
+    delete box_->layout();
+    // Short choices stand side by side, long ones below each other.
+    int letters = 0;
+    for (const QString& line : wanted) letters += static_cast<int>(line.size());
+    constexpr int kOneLine = 48;
+    auto* const layout = new QBoxLayout(
+        letters <= kOneLine ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, box_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(letters <= kOneLine ? 10 : 2);
+    for (int i = 0; i < wanted.size(); ++i) {
+      auto* const button = new QRadioButton(wanted[i], box_);
+      group_->addButton(button, i);
+      layout->addWidget(button);
+    }
+    lines_ = wanted;
+  }
+
+  QWidget* box_;
+  QButtonGroup* group_;
+  QStringList lines_;
+};
+
+class TickBinding : public Binding {
+ public:
+  TickBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), box_(new QCheckBox(parent)) {
+    connect(box_, &QCheckBox::clicked, this,
+            [this](bool on) { tell([&] { screen().tick(control(), on); }); });
+  }
+  [[nodiscard]] QWidget* widget() const override { return box_; }
+  [[nodiscard]] bool shows_own_caption() const override { return true; }
+  [[nodiscard]] Shown shown() const override { return {{}, {}, -1, box_->isChecked()}; }
+
+ protected:
+  void show_state() override {
+    if (box_->text() != caption()) box_->setText(caption());
+    if (box_->isChecked() != control().checked) box_->setChecked(control().checked);
+  }
+
+ private:
+  QCheckBox* box_;
+};
+
+class ButtonBinding : public Binding {
+ public:
+  ButtonBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), button_(new QPushButton(parent)) {
+    button_->setAutoDefault(false);
+    connect(button_, &QPushButton::clicked, this,
+            [this] { tell([&] { screen().press(control()); }); });
+  }
+  [[nodiscard]] QWidget* widget() const override { return button_; }
+  [[nodiscard]] bool shows_own_caption() const override { return true; }
+
+ protected:
+  void show_state() override {
+    if (button_->text() != caption()) button_->setText(caption());
+    button_->setDefault(control().role == ui::Role::kOk);
+  }
+
+ private:
+  QPushButton* button_;
+};
+
+class LabelBinding : public Binding {
+ public:
+  LabelBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), label_(new ClickableLabel(parent)) {
+    connect(label_, &ClickableLabel::clicked, this,
+            [this] { tell([&] { screen().press(control()); }); });
+  }
+  [[nodiscard]] QWidget* widget() const override { return label_; }
+  [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
+  [[nodiscard]] bool shows_own_caption() const override { return true; }
+  [[nodiscard]] Shown shown() const override { return {label_->text(), {}, -1, false}; }
+
+ protected:
+  void show_state() override {
+    QString wanted = control().content.empty() ? caption() : text_of(control().content);
+    wanted.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    if (label_->text() != wanted) label_->setText(wanted);
+    label_->set_clickable(static_cast<bool>(control().on_press));
+  }
+
+ private:
+  ClickableLabel* label_;
+};
+
+class TreeBinding : public Binding {
+ public:
+  TreeBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
+      : Binding(s, c, std::move(refresh)), tree_(new QTreeWidget(parent)) {
+    tree_->setHeaderHidden(true);
+    tree_->setUniformRowHeights(true);
+    tree_->setMinimumSize(width_for(*tree_, 44), tree_->fontMetrics().lineSpacing() * 12);
+    const auto row_of = [](const QTreeWidgetItem* item) {
+      return item->data(0, Qt::UserRole).toInt();
+    };
+    connect(tree_, &QTreeWidget::itemExpanded, this, [this, row_of](QTreeWidgetItem* item) {
+      tell([&] { screen().expand(control(), static_cast<std::size_t>(row_of(item))); });
+    });
+    connect(tree_, &QTreeWidget::itemCollapsed, this, [this, row_of](QTreeWidgetItem* item) {
+      tell([&] { screen().collapse(control(), static_cast<std::size_t>(row_of(item))); });
+    });
+    connect(tree_, &QTreeWidget::currentItemChanged, this,
+            [this, row_of](QTreeWidgetItem* item, QTreeWidgetItem*) {
+              if (item != nullptr) tell([&] { screen().choose(control(), row_of(item)); });
+            });
+  }
+  [[nodiscard]] QWidget* widget() const override { return tree_; }
+  [[nodiscard]] Shown shown() const override {
+    Shown result;
+    if (const QTreeWidgetItem* const item = tree_->currentItem())
+      result.selected = item->data(0, Qt::UserRole).toInt();
+    for (const ui::TreeRow& row : rows_) result.items << text_of(row.text);
+    return result;
+  }
+
+ protected:
+  void show_state() override {
+    const QSignalBlocker quiet(tree_);
+    const auto same = [](const ui::TreeRow& a, const ui::TreeRow& b) {
+      return a.text == b.text && a.path == b.path && a.depth == b.depth &&
+             a.can_expand == b.can_expand && a.expanded == b.expanded && a.marked == b.marked;
+    };
+    const auto& rows = control().rows;
+    if (!std::equal(rows.begin(), rows.end(), rows_.begin(), rows_.end(), same)) {
+      rows_ = rows;
+      fill();
+    }
+    const auto at = static_cast<std::size_t>(control().selected);
+    QTreeWidgetItem* const wanted =
+        control().selected >= 0 && at < items_.size() ? items_[at] : nullptr;
+    if (tree_->currentItem() != wanted) {
+      tree_->setCurrentItem(wanted);
+      if (wanted != nullptr) tree_->scrollToItem(wanted);
+    }
+  }
+
+ private:
+  void fill() {
+    tree_->clear();
+    items_.clear();
+    std::vector<QTreeWidgetItem*> parents;
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+      const ui::TreeRow& row = rows_[i];
+      const auto depth = static_cast<std::size_t>(std::max(row.depth, 0));
+      parents.resize(std::min(parents.size(), depth));
+      auto* const item =
+          parents.empty() ? new QTreeWidgetItem(tree_) : new QTreeWidgetItem(parents.back());
+      item->setText(0, text_of(row.text));
+      item->setData(0, Qt::UserRole, static_cast<int>(i));
+      item->setChildIndicatorPolicy(row.can_expand ? QTreeWidgetItem::ShowIndicator
+                                                   : QTreeWidgetItem::DontShowIndicator);
+      if (row.marked) {
+        QFont slanted = tree_->font();
+        slanted.setItalic(true);
+        item->setFont(0, slanted);
+      }
+      parents.push_back(item);
+      items_.push_back(item);
+    }
+    // Only an item that has its children can be opened.
+    for (std::size_t i = 0; i < rows_.size(); ++i) items_[i]->setExpanded(rows_[i].expanded);
+  }
+
+  QTreeWidget* tree_;
+  std::vector<ui::TreeRow> rows_;
+  std::vector<QTreeWidgetItem*> items_;
+};
+
+template <class B>
+std::unique_ptr<Binding> make(ui::Screen& screen, ui::Control& control, QWidget* parent,
+                              Refresh refresh) {
+  return std::make_unique<B>(screen, control, parent, std::move(refresh));
+}
+
+using Maker = std::unique_ptr<Binding> (*)(ui::Screen&, ui::Control&, QWidget*, Refresh);
+
+// One row per ui::Kind, in its order.
+constexpr std::array<Maker, 12> kMakers = {
+    make<LabelBinding>, make<ReadOnlyBinding>, make<LineBinding>,  make<MemoBinding>,
+    make<ComboBinding>, make<ComboBinding>,    make<ListBinding>,  make<ChoiceBinding>,
+    make<TickBinding>,  make<ButtonBinding>,   make<LabelBinding>, make<TreeBinding>,
+};
+
+}  // namespace
+
+void ClickableLabel::set_clickable(bool on) {
+  if (clickable_ == on) return;
+  clickable_ = on;
+  setCursor(on ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  setProperty("clickable", on);
+}
+
+void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {
+  if (clickable_ && event->button() == Qt::LeftButton && rect().contains(event->pos()))
+    Q_EMIT clicked();
+}
+
+Binding::Binding(ui::Screen& screen, ui::Control& control, Refresh refresh)
+    : screen_(screen), control_(control), refresh_(std::move(refresh)) {}
+
+bool Binding::owns(const QWidget* candidate) const {
+  return candidate != nullptr && (candidate == widget() || widget()->isAncestorOf(candidate));
+}
+
+void Binding::select(int /*length*/) {}
+
+void Binding::show() {
+  QWidget* const shown_widget = widget();
+  const QSignalBlocker quiet(shown_widget);
+  show_state();
+  if (shown_widget->isEnabledTo(shown_widget->parentWidget()) != control_.enabled)
+    shown_widget->setEnabled(control_.enabled);
+  for (QWidget* const part :
+       {shown_widget, static_cast<QWidget*>(caption_label), static_cast<QWidget*>(unit_label)}) {
+    if (part != nullptr && part->isHidden() == control_.visible) part->setVisible(control_.visible);
+  }
+  if (caption_label != nullptr) {
+    if (caption_label->text() != caption()) caption_label->setText(caption());
+  }
+  if (unit_label != nullptr) {
+    const QString unit = QString::fromStdString(screen_.unit(control_));
+    if (unit_label->text() != unit) unit_label->setText(unit);
+  }
+  // Screen readers say the caption; whoever wonders why a field is locked is told.
+  QString spoken = caption();
+  spoken.remove(QLatin1Char('&'));
+  if (shown_widget->accessibleName() != spoken) shown_widget->setAccessibleName(spoken);
+  const QString why = text_of(control_.why_locked);
+  if (shown_widget->toolTip() != why) {
+    shown_widget->setToolTip(why);
+    shown_widget->setAccessibleDescription(why);
+  }
+}
+
+std::unique_ptr<Binding> make_binding(ui::Screen& screen, ui::Control& control, QWidget* parent,
+                                      Refresh refresh) {
+  return kMakers[static_cast<std::size_t>(control.kind)](screen, control, parent,
+                                                         std::move(refresh));
+}
+
+}  // namespace desktop

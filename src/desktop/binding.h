@@ -1,0 +1,92 @@
+#pragma once
+// A control and its widget. One small class per control kind: it makes the widget, shows the
+// control's state on it, and reports what the person did. Only signals that the person causes are
+// connected, and only what differs is written.
+
+#include <QLabel>
+#include <QObject>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "ui/screen.h"
+
+namespace desktop {
+
+/// What a binding tells its window: the event has been handed to the screen, now show everything.
+using Refresh = std::function<void()>;
+
+/// A label that can be clicked; used for captions, group titles and pictures that open something.
+class ClickableLabel : public QLabel {
+  Q_OBJECT
+ public:
+  explicit ClickableLabel(QWidget* parent = nullptr) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+  }
+  void set_clickable(bool on);
+
+ Q_SIGNALS:
+  void clicked();
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  bool clickable_ = false;
+};
+
+class Binding : public QObject {
+  Q_OBJECT
+ public:
+  Binding(ui::Screen& screen, ui::Control& control, Refresh refresh);
+
+  [[nodiscard]] ui::Control& control() const { return control_; }
+  /// The widget that stands for the control.
+  [[nodiscard]] virtual QWidget* widget() const = 0;
+  /// The part of it that takes the focus, nullptr when none does.
+  [[nodiscard]] virtual QWidget* focus_widget() const { return widget(); }
+  /// True when this widget is it or a part of it.
+  [[nodiscard]] bool owns(const QWidget* candidate) const;
+  /// Selects the first `length` characters (all when negative); nothing where there is no text.
+  virtual void select(int length);
+  /// The control's state on the widget.
+  void show();
+  /// The state read back from the widget, for tests: content, selected line, tick.
+  struct Shown {
+    QString content;
+    QStringList items;
+    int selected = -1;
+    bool checked = false;
+  };
+  [[nodiscard]] virtual Shown shown() const { return {}; }
+
+  /// The labels beside the widget; the window places them. They stay empty until there is a text.
+  ClickableLabel* caption_label = nullptr;
+  QLabel* unit_label = nullptr;
+  /// True when the widget shows the caption itself (buttons, tick boxes, labels).
+  [[nodiscard]] virtual bool shows_own_caption() const { return false; }
+
+ protected:
+  virtual void show_state() = 0;
+  [[nodiscard]] ui::Screen& screen() const { return screen_; }
+  [[nodiscard]] QString caption() const {
+    return QString::fromStdString(screen_.caption(control_));
+  }
+  /// Hands one event to the screen and shows the result.
+  template <class Event>
+  void tell(Event event) {
+    event();
+    refresh_();
+  }
+
+ private:
+  ui::Screen& screen_;
+  ui::Control& control_;
+  Refresh refresh_;
+};
+
+/// The binding for the control's kind, its widget a child of `parent`.
+[[nodiscard]] std::unique_ptr<Binding> make_binding(ui::Screen& screen, ui::Control& control,
+                                                    QWidget* parent, Refresh refresh);
+
+}  // namespace desktop

@@ -1,0 +1,102 @@
+#include "desktop/desktop_windows.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <clocale>
+
+#include "desktop/screen_window.h"
+
+namespace desktop {
+namespace {
+
+QString text_of(const std::string& utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+// The focus must be seen from two metres away, in light and dark themes alike.
+constexpr const char* kStyle = R"(
+  QLineEdit:focus, QComboBox:focus, QListWidget:focus, QTreeWidget:focus, QPlainTextEdit:focus {
+    border: 2px solid palette(highlight);
+  }
+  QPushButton:focus { border: 2px solid palette(highlight); border-radius: 3px; padding: 3px 14px; }
+  QRadioButton:focus, QCheckBox:focus { background: palette(highlight); color: palette(highlighted-text); }
+  QLineEdit[shown="true"] { background: palette(window); }
+  QLabel[title="true"] { font-weight: bold; }
+  QLabel[clickable="true"] { color: palette(link); }
+)";
+
+}  // namespace
+
+void prepare_application() {
+  // QApplication sets the process locale; a decimal comma in a report is a wrong report.
+  std::setlocale(LC_NUMERIC, "C");
+  qApp->setStyleSheet(QString::fromLatin1(kStyle));
+}
+
+DesktopWindows::DesktopWindows(PathMap paths) : paths_(std::move(paths)) {}
+
+DesktopWindows::~DesktopWindows() = default;
+
+int DesktopWindows::show_message(const platform::MessageBox& box) {
+  QMessageBox window(QApplication::activeWindow());
+  window.setWindowTitle(text_of(box.title));
+  window.setTextFormat(Qt::PlainText);
+  QString text = text_of(box.text);
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  window.setText(text);
+  window.setIcon(box.buttons.size() > 1 ? QMessageBox::Question : QMessageBox::Warning);
+  // One role for all: the buttons stay in the given order on every platform.
+  std::map<QAbstractButton*, int> results;
+  for (const platform::BoxButton& button : box.buttons) {
+    QPushButton* const made = window.addButton(text_of(button.label), QMessageBox::ActionRole);
+    results[made] = button.result;
+    if (results.size() == 1) window.setDefaultButton(made);
+    if (button.result == box.close_result) window.setEscapeButton(made);
+  }
+  window.exec();
+  const auto at = results.find(window.clickedButton());
+  return at == results.end() ? box.close_result : at->second;
+}
+
+int DesktopWindows::run_modal(ui::Screen& screen) {
+  screen.open();
+  if (screen.result()) return *screen.result();
+  ScreenWindow window(screen, QApplication::activeWindow());
+  if (on_shown) QTimer::singleShot(0, &window, [this, &window] { on_shown(window); });
+  window.exec();
+  return screen.result().value_or(text::kCancel);
+}
+
+void DesktopWindows::show_notice(ui::Screen& screen) {
+  screen.open();
+  auto window = std::make_unique<ScreenWindow>(screen, QApplication::activeWindow());
+  window->setModal(false);
+  window->show();
+  QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  notices_[&screen] = std::move(window);
+}
+
+void DesktopWindows::hide_notice(ui::Screen& screen) {
+  notices_.erase(&screen);
+}
+
+void DesktopWindows::pause(int milliseconds) {
+  QEventLoop loop;
+  QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+std::optional<std::string> DesktopWindows::browse_for_folder(const std::string& caption,
+                                                             const std::string& initial) {
+  const QString chosen = QFileDialog::getExistingDirectory(
+      QApplication::activeWindow(), text_of(caption), text_of(paths_.to_system(initial)));
+  if (chosen.isEmpty()) return std::nullopt;
+  return paths_.from_system(chosen.toStdString());
+}
+
+}  // namespace desktop

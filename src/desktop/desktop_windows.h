@@ -1,0 +1,52 @@
+#pragma once
+// The windows port in Qt: screens as dialogs, messages as the platform's message boxes.
+
+#include <QPointer>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/ports.h"
+
+class QWidget;
+
+namespace desktop {
+
+class ScreenWindow;
+
+/// Between the program's paths ("C:\…") and this computer's, for the system's folder browser.
+struct PathMap {
+  std::function<std::string(const std::string&)> to_system;
+  std::function<std::string(const std::string&)> from_system;
+};
+
+class DesktopWindows : public platform::Windows {
+ public:
+  explicit DesktopWindows(PathMap paths);
+  ~DesktopWindows() override;
+  DesktopWindows(const DesktopWindows&) = delete;
+  DesktopWindows& operator=(const DesktopWindows&) = delete;
+
+  int show_message(const platform::MessageBox& box) override;
+  int run_modal(ui::Screen& screen) override;
+  void show_notice(ui::Screen& screen) override;
+  void hide_notice(ui::Screen& screen) override;
+  void pause(int milliseconds) override;
+  std::optional<std::string> browse_for_folder(const std::string& caption,
+                                               const std::string& initial) override;
+
+  /// Called with each window once it is on the screen; for tests and pictures.
+  std::function<void(ScreenWindow&)> on_shown;
+
+ private:
+  PathMap paths_;
+  std::map<ui::Screen*, std::unique_ptr<ScreenWindow>> notices_;
+};
+
+/// Style sheet and number locale; call once after the QApplication was made (it sets the process
+/// locale).
+void prepare_application();
+
+}  // namespace desktop

@@ -1,0 +1,60 @@
+#pragma once
+// Renders any screen: widgets from its controls, their places from its layout. It contains no rule
+// of the program.
+
+#include <QDialog>
+#include <memory>
+#include <vector>
+
+#include "desktop/binding.h"
+#include "ui/layout.h"
+
+class QBoxLayout;
+class QMenuBar;
+
+namespace desktop {
+
+class ScreenWindow : public QDialog {
+  Q_OBJECT
+ public:
+  /// The screen must be open and outlive the window.
+  ScreenWindow(ui::Screen& screen, QWidget* parent);
+  ~ScreenWindow() override;
+
+  /// Everything the screen holds, on the widgets; closes the window when the screen has a result.
+  void refresh();
+  [[nodiscard]] const std::vector<std::unique_ptr<Binding>>& bindings() const { return bindings_; }
+  [[nodiscard]] Binding* binding(const ui::Control& control) const;
+  [[nodiscard]] Binding* binding(std::string_view name) const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  void closeEvent(QCloseEvent* event) override;
+  /// Escape reaches the screen as a key; a window never closes behind its back.
+  void reject() override;
+
+ private:
+  void build();
+  void build_node(const ui::LayoutNode& node, QBoxLayout& into);
+  void build_grid(const ui::LayoutNode& node, QBoxLayout& into);
+  QWidget* build_group(const ui::LayoutNode& node);
+  QWidget* placed(const ui::LayoutNode& node, bool caption_apart);
+  ClickableLabel* caption_of(Binding& binding);
+  void set_tab_order();
+  void show_menu();
+  void apply_focus();
+  void settle_focus();
+  void fit_to_screen();
+
+  ui::Screen& screen_;
+  std::vector<std::unique_ptr<Binding>> bindings_;
+  QWidget* content_ = nullptr;
+  QMenuBar* menu_bar_ = nullptr;
+  unsigned focus_serial_ = 0;
+  unsigned menu_serial_ = 0;
+  bool built_ = false;
+  text::Language menu_language_ = text::Language::kEnglish;
+};
+
+}  // namespace desktop
