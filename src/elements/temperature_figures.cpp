@@ -1,0 +1,44 @@
+#include "elements/temperature_figures.h"
+
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace elements {
+
+std::string zero_filled_tenths(double value) {
+  // The rounded value decides on the form: 9.96 is "10.0".
+  const double rounded = text::leading_number(text::format_fixed(value, 1, 2));
+  if (rounded >= 0.0) return text::format_fixed(rounded, 1, 4, '0');
+  if (rounded > -10.0) return text::format_fixed(rounded, 1, 5, '0');
+  return text::without_spaces(text::format_fixed(rounded, 1, 5));
+}
+
+TemperatureFigures temperature_figures(Celsius t) {
+  TemperatureFigures result;
+  result.text = zero_filled_tenths(t.value);
+  result.sign = result.text.starts_with('-') ? "1" : "0";
+  result.figures = result.text;
+  std::erase_if(result.figures, [](char c) { return c == '.' || c == '-'; });
+  result.figures.resize(result.figures.size() < 3 ? result.figures.size() : 3);
+  if (result.figures.size() < 3) result.figures.insert(0, 1, '0');
+  return result;
+}
+
+std::string wet_bulb_sign(const TemperatureFigures& wet, WetBulbState state) {
+  return state == WetBulbState::kIced ? "2" : wet.sign;
+}
+
+std::string joined_temperature(std::string_view whole, std::string_view tenths) {
+  whole = text::trim(whole);
+  tenths = text::trim(tenths);
+  if (whole.empty()) return {};
+  return std::string(whole).append(".").append(tenths.empty() ? "0" : tenths);
+}
+
+TemperatureRange temperature_range(std::string_view text) {
+  const long long tenths = 10LL * text::leading_int(text);
+  if (tenths > 400) return TemperatureRange::kAbove;
+  return tenths < -250 ? TemperatureRange::kBelow : TemperatureRange::kUsual;
+}
+
+}  // namespace elements
