@@ -34,6 +34,23 @@ inline constexpr int kNoDigitalString = 40907;
 
 // Main window: messages
 
+// Report: missing groups
+inline constexpr int kMissingYYGGiw = 41500;
+inline constexpr int kMissing99LaLaLa = 41501;
+inline constexpr int kMissingQcLoLoLoLo = 41502;
+inline constexpr int kMissingiRiXhVV = 41503;
+inline constexpr int kMissingNddff = 41504;
+inline constexpr int kMissing1SnTTT = 41505;
+inline constexpr int kMissing2SnTdTdTd = 41506;
+inline constexpr int kMissing4PPPP = 41507;
+inline constexpr int kMissing5appp = 41508;
+inline constexpr int kMissing8NhCLCMCH = 41509;
+inline constexpr int kMissing222DsVs = 41510;
+inline constexpr int kMissing0SsTwTwTw = 41511;
+inline constexpr int kMissing3dw1dw1dw2dw2 = 41512;
+inline constexpr int kMissing4Pw1Pw1Hw1Hw1 = 41513;
+inline constexpr int kMissing8SwTbTbTb = 41514;
+
 // Group editors: messages
 
 // CUTCTimeDlg1
