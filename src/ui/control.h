@@ -96,21 +96,20 @@ class Control {
 };
 
 // One type per kind, so that a screen reads like its form.
-#define KAVREL_CONTROL(Type, kind_value)                                    \
-  class Type : public Control {                                             \
-   public:                                                                  \
-    Type(Screen& owner, std::string_view control_name, text::Ref text = {}) \
-        : Control(owner, kind_value, control_name, text) {}                 \
-  }
-KAVREL_CONTROL(Label, Kind::kLabel);
-KAVREL_CONTROL(ReadOnly, Kind::kReadOnly);
-KAVREL_CONTROL(Memo, Kind::kMemo);
-KAVREL_CONTROL(DropDown, Kind::kDropDown);
-KAVREL_CONTROL(List, Kind::kList);
-KAVREL_CONTROL(Tick, Kind::kTick);
-KAVREL_CONTROL(Picture, Kind::kPicture);
-KAVREL_CONTROL(Tree, Kind::kTree);
-#undef KAVREL_CONTROL
+template <Kind kKind>
+class Simple : public Control {
+ public:
+  Simple(Screen& owner, std::string_view control_name, text::Ref text = {})
+      : Control(owner, kKind, control_name, text) {}
+};
+using Label = Simple<Kind::kLabel>;
+using ReadOnly = Simple<Kind::kReadOnly>;
+using Memo = Simple<Kind::kMemo>;
+using DropDown = Simple<Kind::kDropDown>;
+using List = Simple<Kind::kList>;
+using Tick = Simple<Kind::kTick>;
+using Picture = Simple<Kind::kPicture>;
+using Tree = Simple<Kind::kTree>;
 
 class Edit : public Control {
  public:
