@@ -159,4 +159,21 @@ TEST(SeaLevelPressure, FiguresAreTheLastFour) {
   }
 }
 
+TEST(SeaLevelPressure, OnlyAChangedNewValueClearsTheCharacteristic) {
+  Struct_Weather record{ShipFixedData{}, KeyObservationItems{}};
+  record.a = "2";
+  record.ppp = "012";
+  record.PPPP = "0132";
+  elements::store_pppp(record, "0132");
+  EXPECT_EQ(record.a, "2");
+  elements::store_pppp(record, "");
+  EXPECT_EQ(record.PPPP, "");
+  EXPECT_EQ(record.a, "2");
+  record.PPPP = "0132";
+  elements::store_pppp(record, "0133");
+  EXPECT_EQ(record.PPPP, "0133");
+  EXPECT_EQ(record.a, "");
+  EXPECT_EQ(record.ppp, "012");
+}
+
 }  // namespace
