@@ -233,6 +233,15 @@ std::string quoted(std::string_view text) {
   return result + "\"";
 }
 
+bool is_utf8(std::string_view text) {
+  while (!text.empty()) {
+    const std::size_t size = well_formed(text);
+    if (size == 0) return false;
+    text.remove_prefix(size);
+  }
+  return true;
+}
+
 std::string without_access_key(std::string_view caption) {
   std::string result;
   for (std::size_t i = 0; i < caption.size(); ++i) {

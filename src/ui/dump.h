@@ -50,6 +50,9 @@ struct ControlView {
 /// are not UTF-8 as \xNN, the full-width space as \u3000, so that blanks are seen.
 [[nodiscard]] std::string quoted(std::string_view text);
 
+/// True when the text is well-formed UTF-8.
+[[nodiscard]] bool is_utf8(std::string_view text);
+
 /// A caption without its access key: "はい(&Y)" gives "はい", "&Save" gives "Save", "&&" is "&".
 [[nodiscard]] std::string without_access_key(std::string_view caption);
 /// The access key of a caption, in upper case; 0 when there is none.

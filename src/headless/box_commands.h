@@ -1,0 +1,22 @@
+#pragma once
+// What a script can do while a message or question is on top.
+
+#include <optional>
+#include <string>
+
+#include "headless/script.h"
+#include "platform/ports.h"
+
+namespace headless {
+
+class ScriptWindows;
+
+/// `"KAVREL for WIN": "Input error" [OK]`.
+[[nodiscard]] std::string describe(const platform::MessageBox& box);
+
+/// Carries out one command; the result of the box once it is answered. Ends the run when the
+/// command cannot be carried out.
+[[nodiscard]] std::optional<int> answer_box(ScriptWindows& windows, const platform::MessageBox& box,
+                                            const Line& line);
+
+}  // namespace headless

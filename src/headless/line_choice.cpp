@@ -1,0 +1,89 @@
+#include "headless/line_choice.h"
+
+#include <algorithm>
+
+#include "headless/script.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+#include "ui/dump.h"
+
+namespace headless {
+namespace {
+
+std::optional<int> line_that_reads(const ui::Control& control, const std::string& wanted) {
+  const auto at = std::find(control.items.begin(), control.items.end(), wanted);
+  if (at != control.items.end()) return static_cast<int>(at - control.items.begin());
+  for (std::size_t i = 0; i < control.item_refs.size(); ++i) {
+    const auto english = text::resolve(control.item_refs[i], text::Language::kEnglish);
+    if (english == wanted || ui::without_access_key(english) == wanted) return static_cast<int>(i);
+  }
+  return std::nullopt;
+}
+
+std::optional<int> index_meant(const ui::Control& control, std::string_view written) {
+  if (!text::is_all_digits(written)) return std::nullopt;
+  const int index = text::leading_int(written);
+  if (static_cast<std::size_t>(index) >= control.items.size()) return std::nullopt;
+  return index;
+}
+
+std::string menu_text(const ui::MenuItem& item) {
+  const auto english = text::resolve(item.text, text::Language::kEnglish);
+  std::string plain = ui::without_access_key(english.substr(0, english.find('\t')));
+  while (plain.ends_with('.') || plain.ends_with(' ')) plain.pop_back();
+  return plain;
+}
+
+}  // namespace
+
+std::optional<int> line_meant(const ui::Control& control, std::string_view written) {
+  const std::string exact = plain_text(written);
+  const std::string trimmed(text::trim(written));
+  const bool needless_zeros = trimmed.size() > 1 && trimmed.front() == '0';
+  const std::optional<int> index =
+      is_quoted(written) ? std::nullopt : index_meant(control, trimmed);
+  if (index && !needless_zeros) return index;
+  if (const auto line = line_that_reads(control, exact)) return line;
+  if (!is_quoted(written)) {
+    if (const auto line = line_that_reads(control, trimmed)) return line;
+  }
+  return index;
+}
+
+std::optional<int> row_meant(const ui::Control& tree, std::string_view wanted) {
+  const auto by = [&](auto same) -> std::optional<int> {
+    const auto at = std::find_if(tree.rows.begin(), tree.rows.end(), same);
+    if (at == tree.rows.end()) return std::nullopt;
+    return static_cast<int>(at - tree.rows.begin());
+  };
+  if (const auto row = by([&](const ui::TreeRow& r) { return same_word(r.path, wanted); }))
+    return row;
+  return by([&](const ui::TreeRow& r) { return same_word(r.text, wanted); });
+}
+
+std::optional<std::size_t> row_on_the_way(const ui::Control& tree, std::string_view path) {
+  for (std::size_t i = 0; i < tree.rows.size(); ++i) {
+    const ui::TreeRow& row = tree.rows[i];
+    if (row.expanded || !row.can_expand || row.path.empty() || row.path.size() >= path.size())
+      continue;
+    const bool whole_name = row.path.ends_with('\\') || path[row.path.size()] == '\\';
+    if (whole_name && same_word(path.substr(0, row.path.size()), row.path)) return i;
+  }
+  return std::nullopt;
+}
+
+const ui::MenuItem* item_meant(std::span<const ui::MenuItem> items, std::string_view path) {
+  for (const ui::MenuItem& item : items) {
+    const std::string own = menu_text(item);
+    if (own.empty()) continue;
+    if (same_word(path, own)) return &item;
+    if (path.size() > own.size() && path[own.size()] == '/' &&
+        same_word(path.substr(0, own.size()), own)) {
+      if (const auto* const found = item_meant(item.children, path.substr(own.size() + 1)))
+        return found;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace headless

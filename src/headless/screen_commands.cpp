@@ -1,0 +1,297 @@
+#include "headless/screen_commands.h"
+
+#include <algorithm>
+#include <array>
+
+#include "headless/line_choice.h"
+#include "headless/script_windows.h"
+#include "text/strings.h"
+#include "ui/observation_view.h"
+
+namespace headless {
+namespace {
+
+bool can_be_typed_into(ui::Kind kind) {
+  return kind == ui::Kind::kEdit || kind == ui::Kind::kCombo;
+}
+
+bool has_lines(ui::Kind kind) {
+  return kind == ui::Kind::kCombo || kind == ui::Kind::kDropDown || kind == ui::Kind::kList ||
+         kind == ui::Kind::kChoice || kind == ui::Kind::kTree;
+}
+
+std::string a_kind(const ui::Control& control) {
+  const std::string_view kind = ui::name_of(control.kind);
+  return control.name + " is " + (kind == "edit" ? "an " : "a ") + std::string(kind);
+}
+
+std::string because(const ui::Control& control) {
+  return control.why_locked.empty() ? std::string() : " (" + control.why_locked + ")";
+}
+
+}  // namespace
+
+struct ScreenCommands::Row {
+  std::string_view verb;
+  void (ScreenCommands::*carry_out)();
+};
+
+const ScreenCommands::Row ScreenCommands::kRows[] = {
+    {"start", &ScreenCommands::start},   {"show", &ScreenCommands::show},
+    {"set", &ScreenCommands::set},       {"focus", &ScreenCommands::focus},
+    {"choose", &ScreenCommands::choose}, {"tick", &ScreenCommands::tick},
+    {"press", &ScreenCommands::press},   {"click", &ScreenCommands::press},
+    {"menu", &ScreenCommands::menu},     {"key", &ScreenCommands::key},
+    {"answer", &ScreenCommands::answer}, {"close", &ScreenCommands::close},
+    {"expect", &ScreenCommands::expect}, {"expect-message", &ScreenCommands::expect_message},
+    {"record", &ScreenCommands::record}, {"report", &ScreenCommands::report},
+};
+
+void ScreenCommands::carry_out(const Line& line) {
+  line_ = line;
+  const auto* const row = std::find_if(std::begin(kRows), std::end(kRows),
+                                       [&](const Row& r) { return r.verb == line_.verb(); });
+  if (row == std::end(kRows)) cannot("no command " + ui::quoted(text::first(line_.verb(), 40)));
+  (this->*row->carry_out)();
+  if (!screen_.result()) windows_.say_changes(watch_, true);
+}
+
+void ScreenCommands::cannot(const std::string& reason) {
+  windows_.stop(line_, Status::kCannot, reason);
+}
+
+NameAndText ScreenCommands::arguments() {
+  const auto split = split_name(line_.rest());
+  if (!split) cannot(std::string(line_.verb()) + " wants the name of a control");
+  return *split;
+}
+
+ui::Control& ScreenCommands::control_named(const NameAndText& name) {
+  if (name.is_label) return control_labelled(name.name);
+  ui::Control* const control = screen_.find(name.name);
+  if (control == nullptr)
+    cannot("no control " + std::string(text::first(name.name, 60)) + " in " + screen_.class_name());
+  return *control;
+}
+
+// A value's caption may stand in a label of its own beside it; the value is meant then.
+ui::Control& ScreenCommands::control_labelled(const std::string& label) {
+  std::vector<ui::Control*> found;
+  for (ui::Control* const control : screen_.controls()) {
+    const std::string caption = screen_.english_caption(*control);
+    if (!caption.empty() && (caption == label || ui::without_access_key(caption) == label))
+      found.push_back(control);
+  }
+  if (found.size() > 1)
+    std::erase_if(found, [](const ui::Control* c) { return c->kind == ui::Kind::kLabel; });
+  if (found.empty())
+    cannot("no control labelled " + ui::quoted(label) + " in " + screen_.class_name());
+  if (found.size() > 1) {
+    std::string names;
+    for (const ui::Control* const control : found) names += " " + control->name;
+    cannot(ui::quoted(label) + " is the label of several controls:" + names);
+  }
+  return *found.front();
+}
+
+ui::Control& ScreenCommands::usable(const NameAndText& name) {
+  ui::Control& control = control_named(name);
+  if (!control.visible) cannot(control.name + " is hidden");
+  if (!control.enabled) cannot(control.name + " is disabled" + because(control));
+  return control;
+}
+
+bool ScreenCommands::take_focus(ui::Control& control) {
+  watch_.expect_focus(&control);
+  return screen_.move_focus(control) && screen_.focused() == &control && !screen_.result();
+}
+
+void ScreenCommands::start() {
+  cannot("the program is already running");
+}
+
+void ScreenCommands::show() {
+  const std::string_view rest = text::trim(line_.rest());
+  if (!rest.empty()) {
+    windows_.say(ui::describe(ui::view_of(screen_, control_named(arguments()))));
+    return;
+  }
+  std::string dump = ui::dump(screen_);
+  for (std::size_t at = 0; at < dump.size();) {
+    const auto end = dump.find('\n', at);
+    windows_.say(std::string_view(dump).substr(at, end - at));
+    at = end + 1;
+  }
+}
+
+void ScreenCommands::set() {
+  const NameAndText args = arguments();
+  ui::Control& control = usable(args);
+  if (!can_be_typed_into(control.kind)) cannot(a_kind(control) + ": nothing can be typed into it");
+  if (control.read_only) cannot(control.name + " is locked" + because(control));
+  if (!take_focus(control)) {
+    if (!screen_.result()) windows_.say("  nothing typed: the focus was not given");
+    return;
+  }
+  const std::string typed = plain_text(args.text);
+  watch_.expect_text(control, typed);
+  screen_.type(control, typed);
+}
+
+void ScreenCommands::focus() {
+  ui::Control& control = usable(arguments());
+  if (!control.can_focus()) cannot(a_kind(control) + ": it takes no focus");
+  take_focus(control);
+}
+
+void ScreenCommands::choose() {
+  const NameAndText args = arguments();
+  ui::Control& control = usable(args);
+  if (!has_lines(control.kind)) cannot(a_kind(control) + ": there is nothing to choose");
+  if (control.read_only) cannot(control.name + " is locked" + because(control));
+  if (control.kind == ui::Kind::kTree) {
+    choose_in_tree(control, plain_text(text::trim(args.text)));
+    return;
+  }
+  const std::optional<int> index = line_meant(control, args.text);
+  if (!index)
+    cannot(control.name + " has no line " + ui::quoted(text::first(plain_text(args.text), 60)));
+  const auto at = static_cast<std::size_t>(*index);
+  if (at < control.item_disabled.size() && control.item_disabled[at])
+    cannot("line " + ui::quoted(control.items[at]) + " of " + control.name + " is disabled");
+  const std::string wanted = control.items[at];
+  if (!take_focus(control)) {
+    if (!screen_.result()) windows_.say("  nothing chosen: the focus was not given");
+    return;
+  }
+  // Entering the field may have filled it anew.
+  if (at >= control.items.size() || control.items[at] != wanted)
+    cannot(control.name + " has other lines now");
+  watch_.expect_text(control, wanted);
+  screen_.choose(control, *index);
+}
+
+void ScreenCommands::choose_in_tree(ui::Control& tree, const std::string& wanted) {
+  if (!take_focus(tree)) return;
+  std::optional<int> row = row_meant(tree, wanted);
+  // A person opens the folders on the way.
+  for (auto way = row_on_the_way(tree, wanted); !row && way; way = row_on_the_way(tree, wanted)) {
+    screen_.expand(tree, *way);
+    row = row_meant(tree, wanted);
+  }
+  if (!row) cannot(tree.name + " has no row " + ui::quoted(text::first(wanted, 60)));
+  watch_.expect_text(tree, tree.rows[static_cast<std::size_t>(*row)].path);
+  screen_.choose(tree, *row);
+}
+
+void ScreenCommands::tick() {
+  const NameAndText args = arguments();
+  ui::Control& control = usable(args);
+  if (control.kind != ui::Kind::kTick) cannot(a_kind(control) + ", not a tick box");
+  if (control.read_only) cannot(control.name + " is locked" + because(control));
+  const std::string_view wanted = text::trim(args.text);
+  if (wanted != "on" && wanted != "off") cannot("tick NAME on, or tick NAME off");
+  if (!take_focus(control)) {
+    if (!screen_.result()) windows_.say("  nothing ticked: the focus was not given");
+    return;
+  }
+  watch_.expect_text(control, wanted);
+  screen_.tick(control, wanted == "on");
+}
+
+void ScreenCommands::press() {
+  ui::Control& control = usable(arguments());
+  const bool lines = control.kind == ui::Kind::kList || control.kind == ui::Kind::kTree;
+  if (control.kind != ui::Kind::kButton && !control.on_press && control.kind != ui::Kind::kTree)
+    cannot(a_kind(control) + " that cannot be pressed");
+  if (lines && control.selected < 0) cannot("no line of " + control.name + " is chosen");
+  if (control.can_focus()) watch_.expect_focus(&control);
+  if (control.kind == ui::Kind::kTree && !control.on_press) {
+    const auto row = static_cast<std::size_t>(control.selected);
+    if (control.rows[row].expanded) {
+      screen_.collapse(control, row);
+    } else {
+      screen_.expand(control, row);
+    }
+    return;
+  }
+  screen_.press(control);
+}
+
+void ScreenCommands::menu() {
+  const std::string path = plain_text(text::trim(line_.rest()));
+  const ui::MenuItem* const item = item_meant(screen_.menu(), path);
+  if (item == nullptr) cannot("no menu command " + ui::quoted(text::first(path, 60)));
+  if (!item->children.empty()) cannot(ui::quoted(path) + " is a menu, not a command");
+  if (!item->enabled) cannot("the menu command " + ui::quoted(path) + " is greyed");
+  screen_.command(*item);
+}
+
+void ScreenCommands::key() {
+  struct Named {
+    std::string_view name;
+    ui::Key key;
+  };
+  static constexpr std::array<Named, 5> kKeys = {{{"F1", ui::Key::kF1},
+                                                  {"Enter", ui::Key::kEnter},
+                                                  {"Escape", ui::Key::kEscape},
+                                                  {"Tab", ui::Key::kTab},
+                                                  {"Shift+Tab", ui::Key::kShiftTab}}};
+  const std::string_view wanted = text::trim(line_.rest());
+  for (const Named& named : kKeys) {
+    if (!same_word(named.name, wanted)) continue;
+    screen_.key(named.key);
+    return;
+  }
+  cannot("no key " + ui::quoted(text::first(wanted, 40)) + "; F1, Enter, Escape, Tab or Shift+Tab");
+}
+
+void ScreenCommands::close() {
+  screen_.close_box();
+}
+
+void ScreenCommands::answer() {
+  cannot("there is no question to answer");
+}
+
+void ScreenCommands::expect() {
+  const NameAndText args = arguments();
+  const ui::Control& control = control_named(args);
+  if (!control.visible) cannot(control.name + " is hidden");
+  const std::string wanted = plain_text(args.text);
+  const std::string shown = ui::shown_text(screen_, control);
+  if (shown != wanted) {
+    windows_.stop(
+        line_, Status::kExpectFailed,
+        control.name + " shows " + ui::quoted(shown) + ", expected " + ui::quoted(wanted));
+  }
+}
+
+void ScreenCommands::expect_message() {
+  windows_.stop(
+      line_, Status::kExpectFailed,
+      "expected a message with " + ui::quoted(plain_text(line_.rest())) + ", there is none");
+}
+
+void ScreenCommands::record() {
+  for (auto at = windows_.screens().rbegin(); at != windows_.screens().rend(); ++at) {
+    const auto* const view = dynamic_cast<const ui::ObservationView*>(*at);
+    if (view == nullptr) continue;
+    for (const auto& [name, value] : view->record_fields())
+      windows_.say("  " + name + " = " + ui::quoted(value));
+    return;
+  }
+  cannot("no window that holds an observation is open");
+}
+
+void ScreenCommands::report() {
+  for (auto at = windows_.screens().rbegin(); at != windows_.screens().rend(); ++at) {
+    const auto* const view = dynamic_cast<const ui::ObservationView*>(*at);
+    if (view == nullptr) continue;
+    windows_.say("report " + ui::quoted(view->report()));
+    return;
+  }
+  cannot("no window that holds an observation is open");
+}
+
+}  // namespace headless

@@ -1,0 +1,80 @@
+#include "headless/screen_watch.h"
+
+namespace headless {
+namespace {
+
+std::string arrow(const std::string& from, const std::string& to) {
+  return ui::quoted(from) + " -> " + ui::quoted(to);
+}
+
+bool caption_is_value(ui::Kind kind) {
+  return kind == ui::Kind::kLabel || kind == ui::Kind::kButton;
+}
+
+void add_flag_changes(const ui::ControlView& was, const ui::ControlView& is,
+                      std::vector<std::string>& out) {
+  if (was.visible != is.visible) out.push_back(is.name + (is.visible ? ": shown" : ": hidden"));
+  if (was.enabled != is.enabled) out.push_back(is.name + (is.enabled ? ": enabled" : ": disabled"));
+  if (was.locked != is.locked) out.push_back(is.name + (is.locked ? ": locked" : ": unlocked"));
+  if (was.why != is.why && !is.why.empty()) out.push_back(is.name + ": why " + ui::quoted(is.why));
+}
+
+void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new_language,
+                 std::vector<std::string>& out) {
+  if (!(new_language && caption_is_value(is.kind)) && was.text != is.text)
+    out.push_back(is.name + ": " + arrow(was.text, is.text));
+  if (!new_language) {
+    if (!caption_is_value(is.kind) && was.caption != is.caption)
+      out.push_back(is.name + " caption: " + arrow(was.caption, is.caption));
+    if (was.unit != is.unit) out.push_back(is.name + " unit: " + arrow(was.unit, is.unit));
+    const bool choice = is.kind == ui::Kind::kChoice;
+    if (was.lines != is.lines || was.line_disabled != is.line_disabled) {
+      if (is.kind == ui::Kind::kTree) {
+        out.push_back(is.name + " rows:");
+        for (const std::string& line : is.lines) out.push_back("  " + line);
+      } else {
+        out.push_back(is.name + (choice ? " choices: " : " lines: ") + ui::describe_lines(is));
+      }
+    }
+  }
+  add_flag_changes(was, is, out);
+}
+
+}  // namespace
+
+void ScreenWatch::look() {
+  seen_ = {screen_.title(), screen_.language(), screen_.menu_serial(), screen_.focused(),
+           ui::views_of(screen_)};
+}
+
+void ScreenWatch::expect_text(const ui::Control& control, std::string_view text) {
+  for (ui::ControlView& view : seen_.views) {
+    if (view.name == control.name) view.text = text;
+  }
+}
+
+void ScreenWatch::expect_focus(const ui::Control* control) {
+  seen_.focused = control;
+}
+
+std::vector<std::string> ScreenWatch::changes(bool with_focus) {
+  const Seen was = seen_;
+  look();
+  if (!with_focus) seen_.focused = was.focused;
+  std::vector<std::string> out;
+  const bool new_language = was.language != seen_.language;
+  if (was.title != seen_.title) out.push_back("title: " + arrow(was.title, seen_.title));
+  if (new_language) {
+    out.emplace_back(seen_.language == text::Language::kJapanese ? "language: Japanese"
+                                                                 : "language: English");
+  } else if (was.menu_serial != seen_.menu_serial) {
+    out.emplace_back("menu changed");
+  }
+  for (std::size_t i = 0; i < seen_.views.size() && i < was.views.size(); ++i)
+    add_changes(was.views[i], seen_.views[i], new_language, out);
+  if (was.focused != seen_.focused && seen_.focused != nullptr)
+    out.push_back("focus: " + seen_.focused->name);
+  return out;
+}
+
+}  // namespace headless

@@ -1,0 +1,43 @@
+#pragma once
+// The front end without windows: a script is the person, a transcript is the screen.
+//
+// The program runs on `start` and, whenever it waits for the person, the next command of the script
+// is carried out on the window on top; so a window opened by a handler reads on from the same
+// script until it is closed, and only then the handler goes on. The end of the script with windows
+// open ends the run as a killed program ends: nothing more is asked, shown or saved.
+
+#include <functional>
+#include <istream>
+#include <ostream>
+
+#include "platform/ports.h"
+
+namespace headless {
+
+/// The doors to a person; everything else of the program's world is the caller's.
+struct Doors {
+  platform::Windows& windows;
+  platform::HelpViewer& help;
+  platform::Printer& printer;
+};
+
+/// Runs the program until its last window is closed; called once for each `start`.
+using Program = std::function<void(const Doors&)>;
+
+enum class Status {
+  kDone = 0,
+  kExpectFailed = 1,
+  kCannot = 2,  ///< a command could not be carried out
+};
+
+struct Options {
+  bool has_printer = true;
+};
+
+/// Plays the script. The reason of a failure is the transcript's last line, and is also handed to
+/// `error` with its line number.
+[[nodiscard]] Status run_session(std::istream& script, std::ostream& transcript,
+                                 std::ostream& error, const Program& program,
+                                 const Options& options = {});
+
+}  // namespace headless
