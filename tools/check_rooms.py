@@ -11,7 +11,7 @@ import sys
 KNOWS = {
     "text": {"platform"},
     "platform": set(),
-    "platform/posix": {"platform"},
+    "platform/posix": {"platform", "text"},
     "observation": {"text", "platform", "ship:data"},
     "ship": {"text", "platform", "ui", "ship"},
     "elements": {"text", "platform", "ui", "ship:data", "observation", "map"},

@@ -1,0 +1,484 @@
+#include "platform/posix/posix_files.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <ctime>
+#include <filesystem>
+
+namespace platform::posix {
+
+namespace {
+
+constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t kNewFile = 0666;    // less the user's mask
+constexpr mode_t kNewFolder = 0777;  // less the user's mask
+constexpr int kTries = 1000;
+
+/// Repeats a call for as long as a signal interrupts it.
+template <class Call>
+auto unbroken(Call call) {
+  auto result = call();
+  while (result == -1 && errno == EINTR) result = call();
+  return result;
+}
+
+std::string folder_of(const std::string& os_path) {
+  const auto at = os_path.rfind('/');
+  if (at == std::string::npos) return ".";
+  return at == 0 ? "/" : os_path.substr(0, at);
+}
+
+std::string name_of(const std::string& os_path) {
+  return os_path.substr(os_path.rfind('/') + 1);
+}
+
+bool same_file(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+}  // namespace
+
+FileError file_error(int error_number) {
+  switch (error_number) {
+    case ENOENT:
+    case ENOTDIR:
+      return FileError::kNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EISDIR:
+    case ETXTBSY:
+      return FileError::kAccessDenied;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return FileError::kNoSpace;
+    case ENOMEDIUM:
+    case ENXIO:
+    case ENODEV:
+      return FileError::kMediumMissing;
+    default:
+      return FileError::kOther;
+  }
+}
+
+/// A file that closes itself.
+class PosixFiles::Open {
+ public:
+  Open(SystemCalls& calls, const std::string& os_path, int flags, mode_t mode = kNewFile)
+      : calls_(calls), file_(unbroken([&] { return calls.open(os_path.c_str(), flags, mode); })) {
+    error_number_ = file_ == -1 ? errno : 0;
+  }
+  ~Open() { close(); }
+  Open(const Open&) = delete;
+  Open& operator=(const Open&) = delete;
+
+  [[nodiscard]] bool ok() const { return file_ != -1; }
+  [[nodiscard]] int file() const { return file_; }
+  [[nodiscard]] int error_number() const { return error_number_; }
+  [[nodiscard]] FileError error() const { return file_error(error_number_); }
+  /// Some file systems tell only here that the data did not arrive. A signal changes nothing: the
+  /// file is closed all the same.
+  FileError close() {
+    if (file_ == -1) return FileError::kNone;
+    const int result = calls_.close(file_);
+    file_ = -1;
+    return result == -1 && errno != EINTR ? file_error(errno) : FileError::kNone;
+  }
+
+ private:
+  SystemCalls& calls_;
+  int file_;
+  int error_number_ = 0;
+};
+
+/// The file under its path, open for writing at its end and locked.
+class PosixFiles::Locked {
+ public:
+  /// Creates the file when that is wanted and there is none. Between opening and locking another
+  /// copy of the program may have removed or replaced the file; then what was opened is no longer
+  /// what the path names, and the whole is done again.
+  Locked(SystemCalls& calls, const std::string& os_path, bool create) : os_path_(os_path) {
+    constexpr int kFlags = O_WRONLY | O_APPEND | O_NONBLOCK | O_NOCTTY;
+    for (int i = 0; i < kTries; ++i) {
+      created_ = false;
+      open_.emplace(calls, os_path, kFlags);
+      if (!open_->ok() && open_->error_number() == ENOENT && create) {
+        created_ = true;
+        open_.emplace(calls, os_path, kFlags | O_CREAT | O_EXCL);
+        if (!open_->ok() && open_->error_number() == EEXIST) continue;
+      }
+      if (!open_->ok()) {
+        error_ = open_->error();
+        return;
+      }
+      if (lock(calls)) return;
+    }
+    error_ = FileError::kOther;
+  }
+
+  [[nodiscard]] FileError error() const { return error_; }
+  [[nodiscard]] int file() const { return open_->file(); }
+  [[nodiscard]] const std::string& os_path() const { return os_path_; }
+  [[nodiscard]] const struct stat& about() const { return about_; }
+  [[nodiscard]] bool created() const { return created_; }
+
+ private:
+  /// True when the matter is settled, well or not.
+  bool lock(SystemCalls& calls) {
+    struct stat named {};
+    if (unbroken([&] { return calls.lock(open_->file()); }) == -1 ||
+        unbroken([&] { return calls.fstat(open_->file(), &about_); }) == -1) {
+      // An empty file that this call created stays: without the lock nobody can tell whether
+      // another copy of the program has begun to write into it.
+      error_ = file_error(errno);
+      return true;
+    }
+    if (unbroken([&] { return calls.stat(os_path_.c_str(), &named); }) == -1) {
+      if (errno == ENOENT) return false;
+      error_ = file_error(errno);
+      return true;
+    }
+    if (!same_file(about_, named)) return false;
+    if (!S_ISREG(about_.st_mode) || (about_.st_mode & kAnyWrite) == 0)
+      error_ = FileError::kAccessDenied;
+    return true;
+  }
+
+  std::string os_path_;
+  std::optional<Open> open_;
+  struct stat about_ {};
+  bool created_ = false;
+  FileError error_ = FileError::kNone;
+};
+
+PosixFiles::PosixFiles(const DriveMap& drives, SystemCalls& calls)
+    : drives_(drives), calls_(calls), current_folder_("C:\\") {
+  std::error_code error;
+  const auto here = std::filesystem::current_path(error);
+  if (!error) current_folder_ = drives.to_program(here.string()).value_or(current_folder_);
+}
+
+Result<std::string> PosixFiles::os(const std::string& path) const {
+  return drives_.to_os(path, current_folder_);
+}
+
+std::optional<struct stat> PosixFiles::about(const std::string& path) const {
+  const auto os_path = os(path);
+  struct stat result {};
+  if (!os_path.ok() || unbroken([&] { return calls_.stat(os_path.value->c_str(), &result); }) == -1)
+    return std::nullopt;
+  return result;
+}
+
+FileError PosixFiles::folder_writable(const std::string& os_path) const {
+  struct stat folder {};
+  if (unbroken([&] { return calls_.stat(folder_of(os_path).c_str(), &folder); }) == -1)
+    return file_error(errno);
+  if (!S_ISDIR(folder.st_mode)) return FileError::kNotFound;
+  return (folder.st_mode & kAnyWrite) == 0 ? FileError::kAccessDenied : FileError::kNone;
+}
+
+FileError PosixFiles::flush_folder(const std::string& os_path) const {
+  const Open folder(calls_, folder_of(os_path), O_RDONLY | O_DIRECTORY);
+  if (!folder.ok()) return folder.error();
+  // A file system that cannot flush a folder says EINVAL; there is nothing more to be done then.
+  if (unbroken([&] { return calls_.fsync(folder.file()); }) == -1 && errno != EINVAL)
+    return file_error(errno);
+  return FileError::kNone;
+}
+
+// ---- Reading
+
+Result<std::string> PosixFiles::read(const std::string& path, std::uint64_t largest) const {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  const Open file(calls_, *os_path.value, O_RDONLY | O_NOCTTY);
+  if (!file.ok()) return file.error();
+  std::string content;
+  std::array<char, 1U << 16U> block;
+  for (;;) {
+    const auto count =
+        unbroken([&] { return calls_.read(file.file(), block.data(), block.size()); });
+    if (count == -1) return file_error(errno);
+    if (count == 0) return content;
+    content.append(block.data(), static_cast<std::size_t>(count));
+    if (content.size() > largest) return FileError::kOther;
+  }
+}
+
+// ---- Replacing
+
+FileError PosixFiles::write_all(int file, std::string_view content) const {
+  while (!content.empty()) {
+    const auto count = unbroken([&] { return calls_.write(file, content.data(), content.size()); });
+    if (count == -1) return file_error(errno);
+    if (count == 0) return FileError::kNoSpace;
+    content.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return FileError::kNone;
+}
+
+FileError PosixFiles::fill(int file, std::string_view content,
+                           const std::optional<struct stat>& old) const {
+  if (const auto error = write_all(file, content); error != FileError::kNone) return error;
+  constexpr mode_t kPermissions = 0777;
+  // A medium without permissions refuses this; the file itself is none the worse for it.
+  if (old) (void)calls_.fchmod(file, old->st_mode & kPermissions);
+  if (unbroken([&] { return calls_.fsync(file); }) == -1) return file_error(errno);
+  return FileError::kNone;
+}
+
+Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view content) {
+  const auto target = os(path);
+  if (!target.ok()) return target.error;
+  if (const auto error = folder_writable(*target.value); error != FileError::kNone) return error;
+  const auto old = about(path);
+  if (old && (!S_ISREG(old->st_mode) || (old->st_mode & kAnyWrite) == 0 ||
+              calls_.access(target.value->c_str(), W_OK) == -1))
+    return FileError::kAccessDenied;
+
+  const auto at = path.find_last_of("\\/:");
+  const std::string folder = at == std::string::npos ? std::string() : path.substr(0, at + 1);
+  for (int i = 0; i < kTries; ++i) {
+    // Never the name of the file: no search for reports or logbooks may find a half-written one.
+    const std::string name =
+        ".kavrel-" + std::to_string(::getpid()) + "-" + std::to_string(staged_count_++) + ".part";
+    const std::string beside =
+        (folder_of(*target.value) == "/" ? "" : folder_of(*target.value)) + "/" + name;
+    Open file(calls_, beside, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
+    if (!file.ok() && file.error_number() == EEXIST) continue;  // left by an earlier crash
+    if (!file.ok()) return file.error();
+    FileError error = fill(file.file(), content, old);
+    const FileError closing = file.close();
+    if (error == FileError::kNone) error = closing;
+    if (error == FileError::kNone) return StagedFile{path, folder + name};
+    (void)calls_.unlink(beside.c_str());
+    return error;
+  }
+  return FileError::kOther;
+}
+
+FileError PosixFiles::commit(const StagedFile& staged) {
+  const auto from = os(staged.temporary);
+  const auto to = os(staged.path);
+  if (!from.ok()) return from.error;
+  if (!to.ok()) return to.error;
+  // Opened first: whatever can be refused is refused before anything has changed.
+  const Open folder(calls_, folder_of(*to.value), O_RDONLY | O_DIRECTORY);
+  if (!folder.ok()) return folder.error();
+  if (unbroken([&] { return calls_.rename(from.value->c_str(), to.value->c_str()); }) == -1)
+    return file_error(errno);
+  // The new file is in its place from here on. Should the folder not be flushed, a power failure
+  // may still bring back the old one, whole as well; to call that a failed save would be untrue.
+  (void)unbroken([&] { return calls_.fsync(folder.file()); });
+  return FileError::kNone;
+}
+
+void PosixFiles::discard(const StagedFile& staged) {
+  if (const auto os_path = os(staged.temporary); os_path.ok())
+    (void)unbroken([&] { return calls_.unlink(os_path.value->c_str()); });
+}
+
+// ---- Appending
+
+FileError PosixFiles::append_locked(const Locked& log, AppendMark& mark, std::string_view content) {
+  const auto end = static_cast<off_t>(mark.old_size);
+  const auto length = static_cast<off_t>(content.size());
+  // With the room set aside the write cannot stop half-way on a full disk. Not every file system
+  // can do it; then the cutting back below has to serve.
+  if (length > 0 && unbroken([&] { return calls_.reserve(log.file(), end, length); }) == -1 &&
+      (errno == ENOSPC || errno == EDQUOT))
+    return FileError::kNoSpace;
+  FileError error = FileError::kNone;
+  const auto count =
+      unbroken([&] { return calls_.write(log.file(), content.data(), content.size()); });
+  if (count == -1)
+    error = file_error(errno);
+  else if (static_cast<std::size_t>(count) != content.size())
+    error = FileError::kNoSpace;
+  else if (unbroken([&] { return calls_.fsync(log.file()); }) == -1)
+    error = file_error(errno);
+  else if (log.created())
+    error = flush_folder(log.os_path());
+  if (error != FileError::kNone) {
+    (void)unbroken([&] { return calls_.ftruncate(log.file(), end); });
+    (void)unbroken([&] { return calls_.fsync(log.file()); });
+  }
+  return error;
+}
+
+Result<AppendMark> PosixFiles::append(const std::string& path, std::string_view content) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  if (!about(path)) {
+    if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
+  }
+  const Locked log(calls_, *os_path.value, true);
+  if (log.error() != FileError::kNone) return log.error();
+  AppendMark mark{path, true, static_cast<std::uint64_t>(log.about().st_size), 0};
+  // Another copy may have written between our creating the file and locking it.
+  mark.existed = !log.created() || mark.old_size > 0;
+  mark.new_size = mark.old_size + content.size();
+  const FileError error = append_locked(log, mark, content);
+  if (error == FileError::kNone) return mark;
+  if (!mark.existed) (void)unbroken([&] { return calls_.unlink(os_path.value->c_str()); });
+  return error;
+}
+
+FileError PosixFiles::take_back(const AppendMark& mark) {
+  const auto os_path = os(mark.path);
+  if (!os_path.ok()) return os_path.error;
+  const Locked log(calls_, *os_path.value, false);
+  if (log.error() != FileError::kNone) return log.error();
+  if (static_cast<std::uint64_t>(log.about().st_size) != mark.new_size) return FileError::kOther;
+  if (!mark.existed) {
+    const int gone = unbroken([&] { return calls_.unlink(os_path.value->c_str()); });
+    return gone == -1 ? file_error(errno) : FileError::kNone;
+  }
+  const auto end = static_cast<off_t>(mark.old_size);
+  if (unbroken([&] { return calls_.ftruncate(log.file(), end); }) == -1) return file_error(errno);
+  (void)unbroken([&] { return calls_.fsync(log.file()); });
+  return FileError::kNone;
+}
+
+// ---- What is there
+
+bool PosixFiles::is_file(const std::string& path) const {
+  const auto found = about(path);
+  return found && !S_ISDIR(found->st_mode);
+}
+
+bool PosixFiles::is_folder(const std::string& path) const {
+  const auto found = about(path);
+  return found && S_ISDIR(found->st_mode);
+}
+
+std::optional<std::uint64_t> PosixFiles::size(const std::string& path) const {
+  const auto found = about(path);
+  if (!found || S_ISDIR(found->st_mode)) return std::nullopt;
+  return static_cast<std::uint64_t>(found->st_size);
+}
+
+std::optional<DateTime> PosixFiles::modified(const std::string& path) const {
+  const auto found = about(path);
+  if (!found) return std::nullopt;
+  std::tm when{};
+  if (::localtime_r(&found->st_mtim.tv_sec, &when) == nullptr) return std::nullopt;
+  return DateTime{when.tm_year + 1900, when.tm_mon + 1, when.tm_mday,
+                  when.tm_hour,        when.tm_min,     when.tm_sec};
+}
+
+Result<std::vector<FolderEntry>> PosixFiles::list(const std::string& folder) const {
+  const auto os_path = os(folder);
+  if (!os_path.ok()) return os_path.error;
+  DIR* open = calls_.opendir(os_path.value->c_str());
+  if (open == nullptr) return file_error(errno);
+  std::vector<FolderEntry> entries;
+  int error_number = 0;
+  for (;;) {
+    const dirent* entry = calls_.readdir(open);
+    if (entry == nullptr) {
+      error_number = errno;
+      break;
+    }
+    const std::string name = static_cast<const char*>(entry->d_name);
+    if (name == "." || name == ".." || name.find('\\') != std::string::npos) continue;
+    bool is_a_folder = entry->d_type == DT_DIR;
+    if (entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK) {
+      struct stat target {};
+      is_a_folder = calls_.stat((*os_path.value + "/" + name).c_str(), &target) == 0 &&
+                    S_ISDIR(target.st_mode);
+    }
+    entries.push_back({name, is_a_folder});
+  }
+  (void)calls_.closedir(open);
+  if (error_number != 0) return file_error(error_number);
+  return entries;
+}
+
+// ---- Changing what is there
+
+FileError PosixFiles::create_folder(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  if (const auto found = about(path))
+    return S_ISDIR(found->st_mode) ? FileError::kNone : FileError::kAccessDenied;
+  if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
+  if (unbroken([&] { return calls_.mkdir(os_path.value->c_str(), kNewFolder); }) == -1)
+    return errno == EEXIST && is_folder(path) ? FileError::kNone : file_error(errno);
+  return FileError::kNone;
+}
+
+FileError PosixFiles::copy(const std::string& from, const std::string& to) {
+  constexpr std::uint64_t kLargest = 1U << 30U;
+  const auto content = read(from, kLargest);
+  return content.ok() ? replace(to, *content.value) : content.error;
+}
+
+FileError PosixFiles::remove(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  const auto found = about(path);
+  if (found && (found->st_mode & kAnyWrite) == 0) return FileError::kAccessDenied;
+  if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
+  const bool is_a_folder = found && S_ISDIR(found->st_mode);
+  const int gone = unbroken([&] {
+    return is_a_folder ? calls_.rmdir(os_path.value->c_str())
+                       : calls_.unlink(os_path.value->c_str());
+  });
+  return gone == -1 ? file_error(errno) : FileError::kNone;
+}
+
+FileError PosixFiles::clear_read_only(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  const auto found = about(path);
+  if (!found) return FileError::kNotFound;
+  if ((found->st_mode & S_IWUSR) != 0) return FileError::kNone;
+  constexpr mode_t kPermissions = 07777;
+  const mode_t mode = (found->st_mode & kPermissions) | S_IWUSR;
+  return calls_.chmod(os_path.value->c_str(), mode) == -1 ? file_error(errno) : FileError::kNone;
+}
+
+std::optional<std::uint64_t> PosixFiles::free_space(const std::string& path) const {
+  auto os_path = os(path);
+  if (!os_path.ok()) return std::nullopt;
+  struct statvfs room {};
+  // A file that is not there yet will lie on its folder's disk.
+  if (calls_.statvfs(os_path.value->c_str(), &room) == -1 &&
+      calls_.statvfs(folder_of(*os_path.value).c_str(), &room) == -1)
+    return std::nullopt;
+  return static_cast<std::uint64_t>(room.f_bavail) * room.f_frsize;
+}
+
+bool PosixFiles::same(const std::string& a, const std::string& b) const {
+  const auto os_a = os(a);
+  const auto os_b = os(b);
+  if (!os_a.ok() || !os_b.ok()) return false;
+  if (*os_a.value == *os_b.value) return true;
+  const auto found_a = about(a);
+  const auto found_b = about(b);
+  if (found_a && found_b) return same_file(*found_a, *found_b);
+  if (found_a || found_b || name_of(*os_a.value) != name_of(*os_b.value)) return false;
+  struct stat folder_a {};
+  struct stat folder_b {};
+  return calls_.stat(folder_of(*os_a.value).c_str(), &folder_a) == 0 &&
+         calls_.stat(folder_of(*os_b.value).c_str(), &folder_b) == 0 &&
+         same_file(folder_a, folder_b);
+}
+
+void PosixFiles::set_current_folder(const std::string& folder) {
+  if (!is_folder(folder)) return;
+  const bool has_drive = folder.size() >= 2 && folder[1] == ':';
+  const auto os_path = os(folder);
+  if (has_drive)
+    current_folder_ = folder;
+  else if (os_path.ok())
+    current_folder_ = drives_.to_program(*os_path.value).value_or(current_folder_);
+}
+
+}  // namespace platform::posix

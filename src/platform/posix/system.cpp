@@ -1,0 +1,103 @@
+#include "platform/posix/system.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "platform/posix/drives_file.h"
+#include "platform/posix/removable_media.h"
+
+namespace platform::posix {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+std::string home() {
+  if (auto folder = environment("HOME"); !folder.empty()) return folder;
+  const passwd* user = ::getpwuid(::getuid());
+  return user == nullptr || user->pw_dir == nullptr ? std::string("/tmp") : user->pw_dir;
+}
+
+std::string absolute(const std::string& path) {
+  std::error_code error;
+  const fs::path whole = fs::absolute(path, error);
+  return error ? path : whole.lexically_normal().string();
+}
+
+std::optional<std::string> content_of(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+std::string drives_file_of(const std::string& root) {
+  return root + "/drives.txt";
+}
+
+}  // namespace
+
+std::string default_root() {
+  std::string data = environment("XDG_DATA_HOME");
+  if (data.empty() || data.front() != '/') data = home() + "/.local/share";
+  return data + "/kavrel/drive_c";
+}
+
+System::System(const SystemOptions& options) {
+  choose_root(options);
+  choose_clock(options);
+  choose_locale(options);
+  map_ = std::make_unique<DriveMap>(root_, [this] { return find_media(); });
+  drives_ = std::make_unique<PosixDrives>(*map_, choose_program(options));
+  files_ = std::make_unique<PosixFiles>(*map_, calls_);
+  help_ = std::make_unique<PosixHelp>(*map_);
+}
+
+void System::choose_root(const SystemOptions& options) {
+  root_ = options.root.empty() ? environment("KAVREL_ROOT") : options.root;
+  if (root_.empty()) root_ = default_root();
+  root_ = absolute(root_);
+  std::error_code error;
+  fs::create_directories(root_, error);
+  if (!fs::is_directory(root_, error))
+    problems_.push_back("--root: \"" + root_ + "\" is not a folder and could not be made one");
+  if (const auto text = content_of(drives_file_of(root_)))
+    for (const std::string& problem : read_drives(*text, root_).problems)
+      problems_.push_back("drives.txt: " + problem);
+}
+
+std::vector<Medium> System::find_media() const {
+  const auto text = content_of(drives_file_of(root_));
+  return text ? read_drives(*text, root_).media : removable_media();
+}
+
+void System::choose_clock(const SystemOptions& options) {
+  const auto time = parse_date_time(options.clock);
+  if (!options.clock.empty() && !time)
+    problems_.push_back("--clock: \"" + options.clock + "\" is no time such as 2014-11-15T11:50");
+  clock_ = time ? std::make_unique<PosixClock>(*time) : std::make_unique<PosixClock>();
+}
+
+void System::choose_locale(const SystemOptions& options) {
+  locale_ =
+      std::make_unique<PosixLocale>(options.locale.empty() ? environment_locale() : options.locale);
+}
+
+std::string System::choose_program(const SystemOptions& options) {
+  std::error_code error;
+  std::string os_path = options.program.empty() ? fs::read_symlink("/proc/self/exe", error).string()
+                                                : absolute(options.program) + "/kavrel";
+  // Without a path the program's folder is the current one.
+  return map_->to_program(os_path).value_or("kavrel");
+}
+
+}  // namespace platform::posix

@@ -1,0 +1,60 @@
+#pragma once
+// A folder of this computer for one test, gone afterwards with all that lies in it.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace fakes {
+
+class TempFolder {
+ public:
+  TempFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "kavrel-test-XXXXXX").string();
+    if (::mkdtemp(pattern.data()) == nullptr) ADD_FAILURE() << "no temporary folder";
+    path_ = pattern;
+  }
+  ~TempFolder() {
+    std::error_code error;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(path_, error))
+      if (entry.is_directory() && !entry.is_symlink())
+        std::filesystem::permissions(entry.path(), std::filesystem::perms::owner_all, error);
+    std::filesystem::remove_all(path_, error);
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  [[nodiscard]] const std::string& path() const { return path_; }
+  [[nodiscard]] std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+
+  /// Writes a file with all its folders.
+  void write(const std::string& name, const std::string& content) const {
+    std::filesystem::create_directories(std::filesystem::path(*this / name).parent_path());
+    std::ofstream(*this / name, std::ios::binary) << content;
+  }
+  void folder(const std::string& name) const { std::filesystem::create_directories(*this / name); }
+  [[nodiscard]] std::string content(const std::string& name) const {
+    std::ifstream file(*this / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  /// Names in a folder, sorted.
+  [[nodiscard]] std::vector<std::string> names(const std::string& name = ".") const {
+    std::vector<std::string> result;
+    for (const auto& entry : std::filesystem::directory_iterator(*this / name))
+      result.push_back(entry.path().filename().string());
+    std::sort(result.begin(), result.end());
+    return result;
+  }
+
+ private:
+  std::string path_;
+};
+
+}  // namespace fakes
