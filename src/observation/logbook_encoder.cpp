@@ -1,0 +1,314 @@
+#include "observation/logbook_encoder.h"
+
+#include <cmath>
+#include <cstdint>
+#include <string_view>
+
+#include "observation/field_text.h"
+#include "observation/logbook_fields.h"
+#include "observation/report_groups.h"
+
+namespace observation {
+namespace {
+
+using W = Struct_Weather;
+
+struct Source {
+  const Struct_Weather& record;
+  const ShipFixedData& ship;
+  const KeyObservationItems& items;
+};
+
+enum class Writer : std::uint8_t {
+  kText,       ///< fixed text
+  kLeft,       ///< left writer, spaces to "/"
+  kLeftPlain,  ///< left writer, spaces kept
+  kZero,       ///< zero writer, spaces to "/"
+  kInteger,    ///< integer writer, spaces to "0"
+  kSpecial,    ///< a rule of its own
+};
+
+struct Column {
+  std::uint8_t first;
+  std::uint8_t last;
+  Writer writer;
+  std::string W::*field = nullptr;
+  std::string_view text;
+  void (*special)(std::string& line, const Source& source) = nullptr;
+
+  [[nodiscard]] constexpr std::size_t width() const { return last - first + 1U; }
+};
+
+constexpr Column of(std::uint8_t first, std::uint8_t last, std::string W::*field,
+                    Writer writer = Writer::kLeft) {
+  return {first, last, writer, field, {}, nullptr};
+}
+constexpr Column fixed(std::uint8_t first, std::uint8_t last, std::string_view text) {
+  return {first, last, Writer::kText, nullptr, text, nullptr};
+}
+constexpr Column rule(std::uint8_t first, std::uint8_t last,
+                      void (*special)(std::string&, const Source&)) {
+  return {first, last, Writer::kSpecial, nullptr, {}, special};
+}
+
+bool nearly(double a, double b) {
+  return std::abs(a - b) < 1e-6;
+}
+
+// ---- Columns with a rule of their own
+
+void temperature_unit(std::string& line, const Source& source) {
+  const double tenths = source.ship.temperature_unit * 10;
+  if (nearly(tenths, 1)) line.push_back('3');
+  if (nearly(tenths, 5)) line.push_back('4');
+  if (nearly(tenths, 10)) line.push_back('5');
+}
+
+// The last figures of a report group, so that report and logbook cannot differ.
+void end_of_group(std::string& line, const Struct_Weather& record, Group group, std::size_t count) {
+  const std::size_t start = line.size();
+  append_group(line, record, group);
+  line.erase(start, line.size() - start - count);
+}
+
+void latitude(std::string& line, const Source& source) {
+  const auto& record = source.record;
+  if (is_unset(record.LaDeg) || is_unset(record.LaMin))
+    line.append("///");
+  else
+    end_of_group(line, record, Group::k99LaLaLa, 3);
+}
+
+void longitude(std::string& line, const Source& source) {
+  const auto& record = source.record;
+  if (is_unset(record.LoDeg) || is_unset(record.LoMin) || is_unset(record.Qc))
+    line.append("////");
+  else
+    end_of_group(line, record, Group::kQcLoLoLoLo, 4);
+}
+
+// A computed dew point carries the kind of wet bulb that it was computed from.
+void dew_point_sign(std::string& line, const Source& source) {
+  const auto& record = source.record;
+  if (source.ship.dew_point_method != DewPointMethod::kComputed)
+    write_left(line, record.SnTd, 1, true);
+  else if (record.SnTd == "0")
+    line.push_back('5');
+  else
+    line.push_back(record.Sw == "2" ? '7' : '6');
+}
+
+void sea_temperature_sign(std::string& line, const Source& source) {
+  const std::string& sign = source.record.Ss;
+  const bool positive = sign == "0" || sign == "2" || sign == "4" || sign == "6";
+  line.push_back(positive ? '0' : '1');
+}
+
+void sea_temperature_method(std::string& line, const Source& source) {
+  switch (source.ship.sea_temperature_method) {
+    case SeaTemperatureMethod::kIntake:
+      line.push_back('1');
+      break;
+    case SeaTemperatureMethod::kBucket:
+      line.push_back('0');
+      break;
+    case SeaTemperatureMethod::kHullContactSensor:
+      line.push_back('3');
+      break;
+    case SeaTemperatureMethod::kOther:
+      line.push_back('7');
+      break;
+  }
+}
+
+// Waves measured by instrument stand in where wind waves are not observed.
+void wind_wave_period(std::string& line, const Source& source) {
+  const auto& record = source.record;
+  const bool observed = source.items.observed(ObservationItem::PwHw);
+  write_left(line, observed ? record.PwPw : record.PwaPwa, 2, true);
+}
+
+void wind_wave_height(std::string& line, const Source& source) {
+  const auto& record = source.record;
+  const bool observed = source.items.observed(ObservationItem::PwHw);
+  write_left(line, observed ? record.HwHw : record.HwaHwa, 2, true);
+}
+
+void first_swell(std::string& line, const Source& source) {
+  const auto& record = source.record;
+  if (record.dw1dw1 == "00") {
+    line.append("0000");
+    return;
+  }
+  write_left(line, record.Pw1Pw1, 2, true);
+  write_left(line, record.Hw1Hw1, 2, true);
+}
+
+void second_swell(std::string& line, const Source& source) {
+  const auto& record = source.record;
+  if (record.dw1dw1 == "00") {
+    line.append("000000");
+  } else if (record.dw2dw2 == "00") {
+    line.append("      ");
+  } else {
+    write_left(line, record.dw2dw2, 2, true);
+    write_left(line, record.Pw2Pw2, 2, true);
+    write_left(line, record.Hw2Hw2, 2, true);
+  }
+}
+
+void cargo_height(std::string& line, const Source& source) {
+  write_zero(line, source.ship.vosclim_cargo_height, 2, false);
+}
+
+// "+05" is written "005", "-05" is written "105".
+void load_line_departure(std::string& line, const Source& source) {
+  const std::string& departure = source.ship.vosclim_load_line_departure;
+  const std::size_t start = line.size();
+  write_zero(line, departure, 3, false);
+  for (std::size_t at = start; at < line.size(); ++at) {
+    if (line[at] == '+') line[at] = '0';
+    if (line[at] == '-') line[at] = '1';
+  }
+}
+
+void humidity_indicator(std::string& line, const Source& source) {
+  const bool tenths = nearly(source.ship.humidity_unit, 0.1);
+  if (source.ship.humidity_method != HumidityMethod::kDirect)
+    line.push_back(tenths ? '3' : '4');
+  else
+    line.push_back(tenths ? '0' : '1');
+}
+
+void station_indicator(std::string& line, const Source& source) {
+  if (!source.ship.aws_fitted)
+    line.push_back('0');
+  else
+    line.push_back(source.items.none_observed() ? '1' : '2');
+}
+
+void imo_number(std::string& line, const Source& source) {
+  write_left(line, source.ship.imo_number, 7, false);
+}
+
+// ---- The line
+
+constexpr Column kColumns[] = {
+    rule(1, 1, temperature_unit),
+    of(2, 5, &W::Year, Writer::kLeftPlain),
+    of(6, 7, &W::Month, Writer::kLeftPlain),
+    of(8, 9, &W::YY),
+    of(10, 11, &W::GG),
+    of(12, 12, &W::Qc),
+    rule(13, 15, latitude),
+    rule(16, 19, longitude),
+    fixed(20, 20, "0"),
+    of(21, 21, &W::h),
+    of(22, 23, &W::VV),
+    of(24, 24, &W::N),
+    of(25, 26, &W::dd),
+    of(27, 27, &W::iw),
+    of(28, 29, &W::ff),
+    of(30, 30, &W::SnT),
+    of(31, 33, &W::TTT),
+    rule(34, 34, dew_point_sign),
+    of(35, 37, &W::TdTdTd),
+    of(38, 41, &W::PPPP),
+    of(42, 43, &W::ww),
+    of(44, 44, &W::W1),
+    of(45, 45, &W::W2),
+    of(46, 46, &W::Nh),
+    of(47, 47, &W::CL),
+    of(48, 48, &W::CM),
+    of(49, 49, &W::CH),
+    rule(50, 50, sea_temperature_sign),
+    of(51, 53, &W::TwTwTw),
+    rule(54, 54, sea_temperature_method),
+    fixed(55, 55, "0"),
+    rule(56, 57, wind_wave_period),
+    rule(58, 59, wind_wave_height),
+    of(60, 61, &W::dw1dw1),
+    rule(62, 65, first_swell),
+    of(66, 66, &W::Is),
+    of(67, 68, &W::EsEs),
+    of(69, 69, &W::Rs),
+    fixed(70, 70, "4"),
+    fixed(71, 71, " "),
+    of(72, 78, &W::CallSign, Writer::kLeftPlain),
+    fixed(79, 82, "JP30"),
+    of(83, 83, &W::iX),
+    fixed(84, 84, "4"),
+    fixed(85, 88, "    "),
+    of(89, 89, &W::Sw),
+    of(90, 92, &W::TbTbTb),
+    of(93, 93, &W::a),
+    of(94, 96, &W::ppp),
+    of(97, 97, &W::Ds),
+    of(98, 98, &W::Vs),
+    rule(99, 104, second_swell),
+    of(105, 105, &W::ci),
+    of(106, 106, &W::Si),
+    of(107, 107, &W::bi),
+    of(108, 108, &W::Di),
+    of(109, 109, &W::zi),
+    fixed(110, 132, "8500000000000000000000 "),
+    of(133, 135, &W::VosClim3, Writer::kZero),
+    of(136, 138, &W::VosClim5, Writer::kInteger),
+    of(139, 140, &W::VosClim4, Writer::kZero),
+    rule(141, 142, cargo_height),
+    rule(143, 145, load_line_departure),
+    of(146, 148, &W::VosClim1, Writer::kZero),
+    of(149, 151, &W::VosClim2, Writer::kInteger),
+    fixed(152, 159, "0000 000"),
+    of(160, 163, &W::LogExtra),
+    rule(164, 164, humidity_indicator),
+    rule(165, 165, station_indicator),
+    rule(166, 172, imo_number),
+};
+
+constexpr bool columns_follow_each_other() {
+  std::size_t next = 1;
+  for (const Column& column : kColumns) {
+    if (column.first != next || column.last < column.first) return false;
+    if (column.writer == Writer::kText && column.text.size() != column.width()) return false;
+    next = column.last + 1U;
+  }
+  return next == kLogbookColumns + 1;
+}
+static_assert(columns_follow_each_other());
+
+void write(std::string& line, const Column& column, const Source& source) {
+  switch (column.writer) {
+    case Writer::kText:
+      line.append(column.text);
+      break;
+    case Writer::kLeft:
+      write_left(line, source.record.*column.field, column.width(), true);
+      break;
+    case Writer::kLeftPlain:
+      write_left(line, source.record.*column.field, column.width(), false);
+      break;
+    case Writer::kZero:
+      write_zero(line, source.record.*column.field, column.width(), true);
+      break;
+    case Writer::kInteger:
+      write_integer(line, source.record.*column.field, column.width(), true);
+      break;
+    case Writer::kSpecial:
+      column.special(line, source);
+      break;
+  }
+}
+
+}  // namespace
+
+std::string encode_logbook(const Struct_Weather& record, const ShipFixedData& ship,
+                           const KeyObservationItems& items) {
+  std::string line;
+  line.reserve(kLogbookColumns + 8);
+  const Source source{record, ship, items};
+  for (const Column& column : kColumns) write(line, column, source);
+  return line;
+}
+
+}  // namespace observation

@@ -1,0 +1,243 @@
+#include "observation/report_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <bitset>
+
+#include "observation/report_groups.h"
+#include "observation/report_text.h"
+#include "text/strings.h"
+
+namespace observation {
+namespace {
+
+constexpr std::size_t kGroupWidth = 5;
+
+bool is_group(std::string_view word) {
+  return word.size() == kGroupWidth && is_figures(word);
+}
+
+bool is_latitude_group(std::string_view word) {
+  return is_group(word) && word.starts_with("99");
+}
+
+// A call sign goes back into a report as it is, so it may hold nothing that would end or break one.
+bool is_call_sign(std::string_view word) {
+  return !word.empty() && std::all_of(word.begin(), word.end(), [](char c) {
+    return c > ' ' && c < '\x7f' && c != '=' && c != '.' && c != '&';
+  });
+}
+
+bool is_section_mark(std::string_view word) {
+  return word == "333" || word == "444" || word == "555";
+}
+
+bool is_one_of(char c, std::string_view allowed) {
+  return allowed.find(c) != std::string_view::npos;
+}
+
+/// Goes through a report once, section by section.
+class Reader {
+ public:
+  Reader(std::string_view body, ReadReport& result) : words_(body), result_(result) {}
+
+  void read() {
+    if (read_call_sign()) read_positional(Group::kYYGGiw);
+    read_positional(Group::k99LaLaLa);
+    read_positional(Group::kQcLoLoLoLo);
+    read_positional(Group::kiRiXhVV);
+    read_positional(Group::kNddff);
+    read_high_wind();
+    Word word = words_.next();
+    for (; !word.empty() && !is_section_mark(word.text()); word = words_.next()) {
+      if (word.text().starts_with("ICE"))
+        read_ice(word.text());
+      else
+        read_group(word.text());
+    }
+    for (; !word.empty(); word = words_.next()) name(word.text(), Unplaced::kOtherSection);
+  }
+
+ private:
+  // The call sign stands before YYGGiw, and YYGGiw before the group that begins with 99: that one
+  // tells which word is which when the call sign is missing or followed by a word too many. False
+  // when YYGGiw is missing.
+  bool read_call_sign() {
+    result_.record.CallSign.clear();
+    Words ahead = words_;
+    std::array<Word, 6> first;
+    for (Word& word : first) word = ahead.next();
+    std::size_t latitude = 0;
+    for (const std::size_t at : {2U, 1U, 3U, 4U, 5U})
+      if (latitude == 0 && is_latitude_group(first[at].text())) latitude = at;
+    if (latitude == 1 && is_group(first[0].text())) return true;
+    const std::size_t before_groups = latitude < 2 ? 1 : latitude - 1;
+    for (std::size_t at = 0; at < before_groups; ++at) {
+      const Word word = words_.next();
+      if (word.empty()) return false;
+      if (at == 0 && is_call_sign(word.text()))
+        result_.record.CallSign = word.text();
+      else
+        name(word.text(), Unplaced::kCallSign);
+    }
+    return latitude != 1;
+  }
+
+  // The first five groups have no indicator (or share it): their place tells them apart.
+  void read_positional(Group group) {
+    const Words before = words_;
+    const Word word = words_.next();
+    const std::string_view figures = word.text();
+    if (figures.empty()) return;
+    if (is_section_mark(figures) || figures.starts_with("ICE")) {
+      words_ = before;  // the report is shorter than it should be
+      return;
+    }
+    if (!is_group(figures))
+      name(figures, Unplaced::kNotAGroup);
+    else if (!can_be(group, figures))
+      name(figures, Unplaced::kOutOfRange);
+    else
+      place(row_of(group), figures);
+  }
+
+  static bool can_be(Group group, std::string_view figures) {
+    switch (group) {
+      case Group::k99LaLaLa:
+        return is_latitude_group(figures);
+      case Group::kQcLoLoLoLo:
+        return is_one_of(figures[0], "1357/");
+      case Group::kiRiXhVV:
+        return is_one_of(figures[0], "01234/") && is_one_of(figures[1], "1234567/");
+      default:
+        return true;
+    }
+  }
+
+  void read_high_wind() {
+    const Words before = words_;
+    const Word word = words_.next();
+    if (is_group(word.text()) && word.text().starts_with("00"))
+      place(row_of(Group::k00fff), word.text());
+    else
+      words_ = before;
+  }
+
+  void read_group(std::string_view word) {
+    if (!in_section_2_ && word.starts_with("222")) in_section_2_ = true;
+    if (!is_group(word)) {
+      name(word, Unplaced::kNotAGroup);
+      return;
+    }
+    const GroupRow* row = find_row(word);
+    if (row == nullptr)
+      name(word, Unplaced::kNoField);
+    else
+      place(*row, word);
+  }
+
+  const GroupRow* find_row(std::string_view word) {
+    if (in_section_2_ && word.starts_with("222") && !placed(Group::k222DsVs))
+      return &row_of(Group::k222DsVs);
+    // Relative humidity stands in for the dew point; the record has no field for it.
+    if (!in_section_2_ && word.starts_with("29")) return nullptr;
+    const Group first = in_section_2_ ? Group::k0SsTwTwTw : Group::k1SnTTT;
+    const Group last = in_section_2_ ? Group::k8SwTbTbTb : Group::k9GGgg;
+    for (auto at = static_cast<std::size_t>(first); at <= static_cast<std::size_t>(last); ++at)
+      if (word.starts_with(group_rows()[at].indicator)) return &group_rows()[at];
+    return nullptr;
+  }
+
+  void read_ice(std::string_view word) {
+    Words ahead = words_;
+    const Word figures = ahead.next();
+    if (word == "ICE" && is_group(figures.text())) {
+      words_ = ahead;
+      place_ice(figures.text());
+      return;
+    }
+    if (word.size() == 3 + kGroupWidth && is_group(word.substr(3))) {
+      place_ice(word.substr(3));
+      return;
+    }
+    // Plain language goes on to the end of the section.
+    std::string plain(word);
+    for (ahead = words_;; words_ = ahead) {
+      const Word more = ahead.next();
+      if (more.empty() || is_section_mark(more.text())) break;
+      plain.append(" ").append(more.text());
+    }
+    name(plain, Unplaced::kIcePlainText);
+  }
+
+  void place_ice(std::string_view figures) {
+    const GroupRow& row = row_of(Group::kICE);
+    place(row, std::string(row.indicator).append(figures));
+  }
+
+  void place(const GroupRow& row, std::string_view word) {
+    if (placed(row.group)) {
+      name(word, Unplaced::kRepeated);
+      return;
+    }
+    placed_.set(static_cast<std::size_t>(row.group));
+    if (row.group == Group::k8SwTbTbTb) result_.has_wet_bulb = true;
+    word.remove_prefix(row.indicator.size());
+    for (const Symbol& symbol : row.used()) {
+      store(symbol, word.substr(0, symbol.width));
+      word.remove_prefix(symbol.width);
+    }
+  }
+
+  void store(const Symbol& symbol, std::string_view figures) {
+    std::string& field = result_.record.*symbol.field;
+    if (symbol.figures != Figures::kTenths) {
+      field = figures;
+      return;
+    }
+    field.clear();
+    if (figures[0] == '/') return;
+    const int minutes = (figures[0] - '0') * 6;
+    field.push_back(static_cast<char>('0' + minutes / 10));
+    field.push_back(static_cast<char>('0' + minutes % 10));
+  }
+
+  [[nodiscard]] bool placed(Group group) const {
+    return placed_.test(static_cast<std::size_t>(group));
+  }
+
+  void name(std::string_view word, Unplaced why) {
+    result_.unplaced.push_back({std::string(word), why});
+  }
+
+  Words words_;
+  ReadReport& result_;
+  std::bitset<kGroups> placed_;
+  bool in_section_2_ = false;
+};
+
+}  // namespace
+
+std::optional<ReadReport> read_report(std::string_view text, const Struct_Weather& start) {
+  const auto found = find_report(text);
+  if (!found) return std::nullopt;
+  std::optional<ReadReport> result(ReadReport{start, {}, false});
+  if (!found->before.empty())
+    result->unplaced.push_back({std::string(found->before), Unplaced::kOutsideReport});
+  Reader(found->body, *result).read();
+  if (!found->after.empty() && found->after != "NNNN")
+    result->unplaced.push_back({std::string(found->after), Unplaced::kOutsideReport});
+  return result;
+}
+
+std::optional<TenthsPosition> read_report_position(std::string_view text) {
+  const auto report = read_report(text, Struct_Weather(ShipFixedData(), KeyObservationItems()));
+  if (!report) return std::nullopt;
+  const Struct_Weather& record = report->record;
+  for (const std::string* part :
+       {&record.Qc, &record.LaDeg, &record.LaMin, &record.LoDeg, &record.LoMin})
+    if (!text::is_all_digits(*part)) return std::nullopt;
+  return record.position();
+}
+
+}  // namespace observation

@@ -1,0 +1,109 @@
+#include "observation/report_text.h"
+
+#include <algorithm>
+
+namespace observation {
+namespace {
+
+constexpr std::size_t kGroupWidth = 5;
+constexpr std::size_t kFullStops = 5;
+
+bool is_blank(char c) {
+  return static_cast<unsigned char>(c) <= ' ';
+}
+
+std::string_view trimmed(std::string_view text) {
+  while (!text.empty() && is_blank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && is_blank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+// Takes the next word off the text.
+std::string_view take_word(std::string_view& rest, bool* line_broken = nullptr) {
+  std::size_t start = 0;
+  while (start < rest.size() && is_blank(rest[start])) {
+    if (line_broken != nullptr && (rest[start] == '\n' || rest[start] == '\r')) *line_broken = true;
+    ++start;
+  }
+  std::size_t end = start;
+  while (end < rest.size() && !is_blank(rest[end])) ++end;
+  const std::string_view word = rest.substr(start, end - start);
+  rest.remove_prefix(end);
+  return word;
+}
+
+// Length of the end mark at the end of a word, 0 when there is none.
+std::size_t end_mark(std::string_view word) {
+  if (word == "NNNN") return word.size();
+  if (word.ends_with('=')) return word.size() - (word.find_last_not_of('=') + 1);
+  const std::size_t dots = word.size() - (word.find_last_not_of('.') + 1);
+  return dots >= kFullStops ? dots : 0;
+}
+
+}  // namespace
+
+bool is_figures(std::string_view text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(),
+                                      [](char c) { return (c >= '0' && c <= '9') || c == '/'; });
+}
+
+std::optional<FoundReport> find_report(std::string_view text) {
+  FoundReport found;
+  std::string_view rest = text;
+  std::string_view word = take_word(rest);
+  while (!word.empty() && word != "BBXX") word = take_word(rest);
+  if (word.empty()) return std::nullopt;
+  const auto offset = [&](std::string_view part) {
+    return static_cast<std::size_t>(part.data() - text.data());
+  };
+  found.before = trimmed(text.substr(0, offset(word)));
+  const std::string_view start = rest;
+  found.body = start;
+  found.length = text.size();
+  while (!(word = take_word(rest)).empty()) {
+    std::size_t mark = 0;
+    if (word != "BBXX") {
+      mark = end_mark(word);
+      if (mark == 0) continue;
+    }
+    const std::size_t end = word == "BBXX" ? offset(word) : offset(word) + word.size() - mark;
+    found.body = start.substr(0, end - offset(start));
+    found.after = trimmed(text.substr(end + mark));
+    found.ended = true;
+    found.length = end + mark;
+    break;
+  }
+  found.body = trimmed(found.body);
+  return found;
+}
+
+Word::Word(std::string_view first, std::string_view second) : is_joined_(true) {
+  std::copy(second.begin(), second.end(), std::copy(first.begin(), first.end(), joined_.begin()));
+}
+
+std::string_view Word::text() const {
+  return is_joined_ ? std::string_view(joined_.data(), joined_.size()) : text_;
+}
+
+std::string_view Words::take() {
+  line_broken_ = false;
+  return take_word(rest_, &line_broken_);
+}
+
+Word Words::next() {
+  const std::string_view word = take();
+  const bool first = first_;
+  first_ = false;
+  // The call sign is no group, and the section marks are whole with three figures.
+  if (first || word.size() >= kGroupWidth || !is_figures(word) || word == "333" || word == "444" ||
+      word == "555")
+    return Word(word);
+  const std::string_view before = rest_;
+  const std::string_view following = take();
+  if (line_broken_ && is_figures(following) && word.size() + following.size() == kGroupWidth)
+    return {word, following};
+  rest_ = before;
+  return Word(word);
+}
+
+}  // namespace observation
