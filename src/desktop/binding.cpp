@@ -340,7 +340,7 @@ class LabelBinding : public Binding {
 
  protected:
   void show_state() override {
-    QString wanted = control().content.empty() ? caption() : text_of(control().content);
+    QString wanted = caption();
     wanted.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (label_->text() != wanted) label_->setText(wanted);
     label_->set_clickable(static_cast<bool>(control().on_press));

@@ -14,6 +14,7 @@
 #include "desktop/desktop_windows.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
+#include "widget_views.h"
 
 namespace {
 
@@ -211,6 +212,22 @@ TEST(ScreenWindow, CaptionsAreRelabelledWithTheLanguageAndNamedForScreenReaders)
   s.window->refresh();
   EXPECT_EQ(s.window->binding("first")->caption_label->text(), "未入力です");
   EXPECT_EQ(s.widget<QLineEdit>("first")->accessibleName(), "未入力です");
+}
+
+TEST(ScreenWindow, WidgetsShowWhatTheControlsHold) {
+  Shown s;
+  QTest::keyClicks(s.widget<QLineEdit>("first"), "JABC");
+  s.screen.second.enabled = false;
+  s.screen.combo.read_only = true;
+  s.screen.choice.item_disabled = {true, false};
+  s.screen.choice.selected = 1;
+  s.screen.tick_box.checked = true;
+  s.window->refresh();
+  const auto shown = tests::widget_views(*s.window);
+  const auto held = tests::control_views(s.screen);
+  ASSERT_EQ(shown.size(), held.size());
+  for (std::size_t i = 0; i < held.size(); ++i)
+    EXPECT_EQ(ui::describe(shown[i]), ui::describe(held[i]));
 }
 
 }  // namespace
