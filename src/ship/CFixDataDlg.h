@@ -1,0 +1,97 @@
+#pragma once
+// The ship's fixed data. The barometer card is shown here and entered in its own screens.
+
+#include <string>
+
+#include "ship/ShipFixedData.h"
+#include "ship/barometer_card.h"
+#include "ship/ship_files.h"
+#include "ui/screen.h"
+
+class CFixDataDlg : public ui::Screen {
+ public:
+  /// `path` is that of FIXDATA.DAT, read when the screen opens. With `auto_accept` the screen
+  /// closes at once with OK, unchecked, when the file was read or there is none. A file of a wrong
+  /// size or one that cannot be read (which the officer is told) leaves it open with `fallback`:
+  /// the defaults at start-up, what the program already knows later. The screen never writes.
+  CFixDataDlg(ui::Services& services, std::string path, bool auto_accept, std::string reports = {},
+              std::string logbook = {}, ShipFixedData fallback = {});
+
+  /// The data as accepted by OK; before that, and after Cancel, as the file or the fallback has
+  /// them.
+  [[nodiscard]] ShipFixedData values() const { return accepted_; }
+  [[nodiscard]] FileRead file_read() const { return file_read_; }
+
+  ui::Label ship;
+  ui::Edit call_sign;
+  ui::Edit imo_number;
+  ui::Label card;
+  ui::Label card_text;     ///< the clickable text that leads to the card's screens
+  ui::Button card_button;  ///< the same for the keyboard
+  ui::ReadOnly card_type;
+  ui::ReadOnly barometer_check_date;
+  ui::ReadOnly barometer_check_port;
+  ui::ReadOnly total_correction;
+  ui::ReadOnly instrumental_correction;
+  ui::Choice loading_state;
+  ui::Label full_load;
+  ui::ReadOnly height_full_load;
+  ui::ReadOnly total_correction_full_load;
+  ui::Label ballast;
+  ui::ReadOnly height_ballast;
+  ui::ReadOnly total_correction_ballast;
+  ui::Label wind;
+  ui::Choice wind_input_method;
+  ui::Choice wind_speed_method;
+  ui::Label temperature;
+  ui::Choice temperature_unit;
+  ui::Choice dew_point_method;
+  ui::Choice sea_temperature_method;
+  ui::Label humidity;
+  ui::Choice humidity_method;
+  ui::Choice humidity_unit;
+  ui::Label equipment;
+  ui::Choice wave_recorder;
+  ui::Choice aws_fitted;
+  ui::Edit aws_manufacturer;
+  ui::Choice vosclim;
+  ui::Button vosclim_inputting;
+  ui::Label folders;
+  ui::ReadOnly report_folder;
+  ui::ReadOnly logbook_folder;
+  ui::Button ok;
+  ui::Button cancel;
+  ui::Button help;
+
+ protected:
+  void on_open() override;
+  void on_ok() override;
+
+ private:
+  void set_up_ship();
+  void set_up_card();
+  void set_up_methods();
+  void show_values();
+  void show_card();
+  void read_values();
+
+  bool check_call_sign();
+  bool check_imo_number();
+  bool check_manufacturer();
+  bool check_wind();
+  [[nodiscard]] bool refuse(ui::Control& control, int message);
+
+  void apply_aws();
+  void apply_humidity_method();
+  void apply_vosclim();
+  void edit_card();
+  bool check_card();
+
+  std::string path_;
+  bool auto_accept_;
+  FileRead file_read_ = FileRead::kMissing;
+  ShipFixedData accepted_;
+  ShipFixedData draft_;
+  int last_wind_input_ = 0;
+  int last_wind_speed_ = 0;
+};

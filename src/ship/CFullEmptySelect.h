@@ -1,0 +1,22 @@
+#pragma once
+// At full load or in ballast: asked when a card of type "1" was entered without it.
+
+#include "ship/ShipFixedData.h"
+#include "ui/screen.h"
+
+class CFullEmptySelect : public ui::Screen {
+ public:
+  explicit CFullEmptySelect(ui::Services& services);
+
+  /// The choice, once the screen has closed with OK.
+  [[nodiscard]] LoadingState state() const;
+
+  ui::Label prompt;
+  ui::Choice loading_state;
+  ui::Button ok;
+  ui::Button cancel;
+
+ protected:
+  void on_ok() override;
+  void on_help() override;
+};

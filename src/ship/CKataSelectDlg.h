@@ -1,0 +1,22 @@
+#pragma once
+// Which of the two kinds of barometer correction card the ship has.
+
+#include "ship/ShipFixedData.h"
+#include "ui/screen.h"
+
+class CKataSelectDlg : public ui::Screen {
+ public:
+  CKataSelectDlg(ui::Services& services, CardType current);
+
+  /// The choice, once the screen has closed with OK.
+  [[nodiscard]] CardType type() const;
+
+  ui::Label prompt;
+  ui::Choice card_type;
+  ui::Button ok;
+  ui::Button cancel;
+
+ protected:
+  void on_ok() override;
+  void on_help() override;
+};

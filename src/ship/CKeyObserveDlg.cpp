@@ -1,0 +1,80 @@
+#include "ship/CKeyObserveDlg.h"
+
+#include <utility>
+
+#include "text/ids.h"
+
+namespace id = text::id;
+
+namespace {
+
+// The English labels lie behind the block of the Japanese ones.
+constexpr int kEnglishOffset = 40;
+
+text::Ref label(int japanese) {
+  return {japanese, kEnglishOffset};
+}
+
+struct Item {
+  const char* name;
+  int label;
+};
+
+// In the order of the file.
+constexpr Item kItems[] = {
+    {"h", id::kItemH},
+    {"VV", id::kItemVV},
+    {"N", id::kItemN},
+    {"Nh", id::kItemNh},
+    {"CLCMCH", id::kItemCLCMCH},
+    {"ww", id::kItemww},
+    {"W1W2", id::kItemW1W2},
+    {"PwHw", id::kItemPwHw},
+    {"dw1Pw1Hw1", id::kItemSwell1},
+    {"dw2Pw2Hw2", id::kItemSwell2},
+    {"IsEsEsRs", id::kItemIsEsEsRs},
+    {"ciSibiDizi", id::kItemSeaIce},
+};
+static_assert(std::size(kItems) == kObservationItems);
+
+}  // namespace
+
+std::deque<ui::Choice> CKeyObserveDlg::choices(ui::Screen& owner) {
+  std::deque<ui::Choice> result;
+  for (const Item& item : kItems) {
+    result.emplace_back(
+        owner, item.name, label(item.label),
+        std::vector<text::Ref>{label(id::kItemsObserved), label(id::kItemsNotObserved)});
+  }
+  return result;
+}
+
+CKeyObserveDlg::CKeyObserveDlg(ui::Services& services, std::string path, bool auto_accept)
+    : Screen(services, "CKeyObserveDlg", label(id::kItemsTitle)),
+      prompt(*this, "prompt", label(id::kItemsPrompt)),
+      items(choices(*this)),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
+      path_(std::move(path)),
+      auto_accept_(auto_accept) {}
+
+void CKeyObserveDlg::on_open() {
+  const auto loaded = load_key_items(services().files, path_);
+  file_read_ = loaded.outcome;
+  accepted_ = loaded.values;
+  if (file_read_ == FileRead::kUnreadable)
+    services().messages.error_filled(id::kShipFileUnreadable, {path_});
+  for (std::size_t i = 0; i < kObservationItems; ++i)
+    items[i].selected = accepted_.not_observed[i] ? 1 : 0;
+  if (auto_accept_ && (file_read_ == FileRead::kRead || file_read_ == FileRead::kMissing))
+    close(text::kOk);
+}
+
+void CKeyObserveDlg::on_ok() {
+  for (std::size_t i = 0; i < kObservationItems; ++i)
+    accepted_.not_observed[i] = items[i].selected == 1;
+  if (save_key_items(services().files, path_, accepted_) != platform::FileError::kNone)
+    services().messages.error_filled(id::kShipFileNotSaved, {path_});
+  close(text::kOk);
+}

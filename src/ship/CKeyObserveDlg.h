@@ -1,0 +1,41 @@
+#pragma once
+// Which of the visually observed elements the ship reports; kept in MOKSDATA.DAT.
+
+#include <deque>
+#include <string>
+
+#include "ship/KeyObservationItems.h"
+#include "ship/ship_files.h"
+#include "ui/screen.h"
+
+class CKeyObserveDlg : public ui::Screen {
+ public:
+  /// `path` is that of MOKSDATA.DAT. With `auto_accept` the screen closes at once with OK when the
+  /// file was read or there is none; one of a wrong size or unreadable is shown with the defaults.
+  CKeyObserveDlg(ui::Services& services, std::string path, bool auto_accept);
+
+  /// The switches as accepted by OK; before that, and after Cancel, as the file or the defaults
+  /// have them.
+  [[nodiscard]] KeyObservationItems values() const { return accepted_; }
+  [[nodiscard]] FileRead file_read() const { return file_read_; }
+
+  ui::Label prompt;
+  std::deque<ui::Choice> items;  ///< one for each switch, in their order
+  ui::Button ok;
+  ui::Button cancel;
+  ui::Button help;
+
+ protected:
+  void on_open() override;
+  /// Writes the file. When it cannot be written the officer is told; the switches hold for this
+  /// run.
+  void on_ok() override;
+
+ private:
+  [[nodiscard]] static std::deque<ui::Choice> choices(ui::Screen& owner);
+
+  std::string path_;
+  bool auto_accept_;
+  FileRead file_read_ = FileRead::kMissing;
+  KeyObservationItems accepted_;
+};

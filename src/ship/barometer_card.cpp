@@ -1,0 +1,170 @@
+#include "ship/barometer_card.h"
+
+#include <algorithm>
+#include <array>
+
+#include "ship/barometer_date.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace {
+
+enum class Form { kText, kHeight, kCorrection };
+
+constexpr CardField kNone = CardField::kType;  // in the table below: compared with nothing
+
+// A value that is typed: what is accepted and the messages when it is not.
+struct Row {
+  CardField field;
+  std::string BarometerCard::*value;
+  Form form;
+  CardType only_for;  // kNotChosen: for every card
+  double lowest;
+  double highest;
+  CardField not_above;  // the value in ballast that bounds this one at full load, or kNone
+  CardField not_below;  // the other way round
+  int missing;
+  int malformed;
+  int out_of_range;
+};
+
+namespace id = text::id;
+constexpr CardType kOne = CardType::kHeightAndTemperature;
+constexpr CardType kTwo = CardType::kTotalCorrection;
+
+constexpr Row kRows[] = {
+    {CardField::kCheckPort, &BarometerCard::check_port, Form::kText, CardType::kNotChosen, 0, 0,
+     kNone, kNone, id::kCheckPortMissing, 0, 0},
+    {CardField::kTotalCorrection, &BarometerCard::total_correction, Form::kCorrection, kTwo, -50,
+     80, kNone, kNone, id::kTotalCorrectionMissing, id::kTotalCorrectionNotNumeric,
+     id::kTotalCorrectionRange},
+    {CardField::kInstrumentalCorrection, &BarometerCard::instrumental_correction, Form::kCorrection,
+     kOne, -50, 50, kNone, kNone, id::kInstrumentalMissing, id::kInstrumentalNotNumeric,
+     id::kInstrumentalRange},
+    {CardField::kHeightFullLoad, &BarometerCard::height_full_load, Form::kHeight, kOne, 0, 200,
+     CardField::kHeightBallast, kNone, id::kHeightFullLoadMissing, id::kHeightNotInteger,
+     id::kHeightRange},
+    {CardField::kTotalCorrectionFullLoad, &BarometerCard::total_correction_full_load,
+     Form::kCorrection, kOne, -50, 80, CardField::kTotalCorrectionBallast, kNone,
+     id::kTotalFullLoadMissing, id::kTotalCorrectionNotNumeric, id::kTotalFullLoadRange},
+    {CardField::kHeightBallast, &BarometerCard::height_ballast, Form::kHeight, kOne, 0, 200, kNone,
+     CardField::kHeightFullLoad, id::kHeightBallastMissing, id::kHeightNotInteger,
+     id::kHeightRange},
+    {CardField::kTotalCorrectionBallast, &BarometerCard::total_correction_ballast,
+     Form::kCorrection, kOne, -50, 80, kNone, CardField::kTotalCorrectionFullLoad,
+     id::kTotalBallastMissing, id::kTotalCorrectionNotNumeric, id::kTotalBallastRange},
+};
+
+const Row* row_of(CardField field) {
+  const auto* const at = std::find_if(std::begin(kRows), std::end(kRows),
+                                      [&](const Row& r) { return r.field == field; });
+  return at == std::end(kRows) ? nullptr : at;
+}
+
+// A sign or none, digits, and perhaps a point with digits. Too many decimals are another matter.
+bool is_numeric(std::string_view value) {
+  if (!value.empty() && (value.front() == '+' || value.front() == '-')) value.remove_prefix(1);
+  const auto point = value.find('.');
+  if (!text::is_all_digits(value.substr(0, point))) return false;
+  if (point == std::string_view::npos || point + 1 == value.size()) return true;
+  return text::is_all_digits(value.substr(point + 1));
+}
+
+std::size_t decimals(std::string_view value) {
+  const auto point = value.find('.');
+  return point == std::string_view::npos ? 0 : value.size() - point - 1;
+}
+
+// A value that is missing itself bounds nothing: it is asked for first.
+bool in_range(const BarometerCard& card, const Row& row, bool compare_states) {
+  const double value = text::leading_number(card.*row.value);
+  if (value < row.lowest || value > row.highest) return false;
+  const CardField partner = row.not_above != kNone ? row.not_above : row.not_below;
+  if (!compare_states || partner == kNone) return true;
+  const std::string& bound = card.*row_of(partner)->value;
+  if (bound.empty()) return true;
+  return row.not_above != kNone ? value <= text::leading_number(bound)
+                                : value >= text::leading_number(bound);
+}
+
+// The message's id, 0 when the value is accepted.
+int value_fault(const BarometerCard& card, const Row& row, bool compare_states) {
+  const std::string& value = card.*row.value;
+  if (value.empty()) return row.missing;
+  switch (row.form) {
+    case Form::kText:
+      return 0;
+    case Form::kHeight:
+      if (!text::is_all_digits(value)) return row.malformed;
+      return in_range(card, row, compare_states) ? 0 : row.out_of_range;
+    case Form::kCorrection:
+      if (!is_numeric(value)) return row.malformed;
+      if (!in_range(card, row, compare_states)) return row.out_of_range;
+      return decimals(value) > 1 ? id::kOneDecimalOnly : 0;
+  }
+  return 0;
+}
+
+}  // namespace
+
+std::optional<CardFault> card_field_fault(const BarometerCard& card, CardField field,
+                                          const platform::DateTime& today, bool compare_states) {
+  if (field == CardField::kCheckDate) {
+    if (text::without_spaces(card.check_date).empty())
+      return CardFault{field, id::kCheckDateMissing, {}};
+    if (is_check_date(card.check_date, today)) return std::nullopt;
+    return CardFault{field, id::kCheckDateRange, slashed_date(today)};
+  }
+  if (field == CardField::kType) {
+    if (card.type != CardType::kNotChosen) return std::nullopt;
+    return CardFault{field, id::kCardTypeMissing, {}};
+  }
+  if (field == CardField::kLoadingState) {
+    if (card.type != kOne || card.loading_state != LoadingState::kNotChosen) return std::nullopt;
+    return CardFault{field, id::kLoadingStateMissing, {}};
+  }
+  const Row& row = *row_of(field);
+  if (row.only_for != CardType::kNotChosen && row.only_for != card.type) return std::nullopt;
+  const int message = value_fault(card, row, compare_states);
+  if (message == 0) return std::nullopt;
+  return CardFault{field, message, {}};
+}
+
+std::optional<CardFault> first_card_fault(const BarometerCard& card,
+                                          const platform::DateTime& today,
+                                          std::span<const CardField> order) {
+  for (const CardField field : order) {
+    if (auto fault = card_field_fault(card, field, today)) return fault;
+  }
+  return std::nullopt;
+}
+
+std::optional<CardField> compared_field(CardField field) {
+  const Row* const row = row_of(field);
+  if (row == nullptr) return std::nullopt;
+  if (row->not_above != kNone) return row->not_above;
+  if (row->not_below != kNone) return row->not_below;
+  return std::nullopt;
+}
+
+std::string BarometerCard::*card_text(CardField field) {
+  const Row* const row = row_of(field);
+  return row == nullptr ? nullptr : row->value;
+}
+
+std::string_view card_default(CardField field) {
+  const Row* const row = row_of(field);
+  if (row == nullptr || row->form == Form::kText) return {};
+  return row->form == Form::kHeight ? "0" : "+0.0";
+}
+
+void change_card_type(BarometerCard& card, CardType type) {
+  if (card.type == type) return;
+  card.type = type;
+  for (const Row& row : kRows) {
+    if (row.only_for != CardType::kNotChosen && row.only_for != type)
+      card.*row.value = card_default(row.field);
+  }
+  if (type != kOne) card.loading_state = LoadingState::kNotChosen;
+}

@@ -1,0 +1,64 @@
+#pragma once
+// FIXDATA.DAT (the ship's fixed data, one line of 155 characters) and MOKSDATA.DAT (the twelve
+// observation items, 12 digits). The encoding is a table of fields; reading and writing are pure
+// functions, and load/save put them on the files port.
+//
+// A save replaces the file as a whole: a full disk, a refusal or a kill at any moment leaves the
+// old file. Reading survives any bytes. What the format cannot hold is lost by design: blanks of
+// the text fields (also those inside a port), "not chosen" as card type (it is written like type
+// "1"), underscores of a manufacturer.
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/ports.h"
+#include "ship/KeyObservationItems.h"
+#include "ship/ShipFixedData.h"
+
+inline constexpr std::size_t kFixedDataSize = 155;
+inline constexpr std::size_t kKeyItemsSize = kObservationItems;
+
+/// The line of FIXDATA.DAT, always 155 bytes. `written` is the local date put in front. A value too
+/// long for its field is cut at a character, so that no later field moves.
+[[nodiscard]] std::string encode_fixed_data(const ShipFixedData& data,
+                                            const platform::DateTime& written);
+
+/// The values of a line, or nothing when it is not exactly 155 bytes. A blank check date becomes
+/// `utc`, without leading zeros.
+[[nodiscard]] std::optional<ShipFixedData> decode_fixed_data(std::string_view line,
+                                                             const platform::DateTime& utc);
+
+/// Twelve digits, "0" observed and "1" not observed.
+[[nodiscard]] std::string encode_key_items(const KeyObservationItems& items);
+
+/// Nothing when the text is not exactly 12 bytes. Anything but "0" is not observed.
+[[nodiscard]] std::optional<KeyObservationItems> decode_key_items(std::string_view digits);
+
+/// How reading one of the two files ended.
+enum class FileRead {
+  kRead,
+  kMissing,
+  kWrongSize,   ///< not the size of its kind: ignored, the caller goes on with its defaults
+  kUnreadable,  ///< it is there and cannot be read: the officer is told
+};
+
+template <class T>
+struct Loaded {
+  FileRead outcome = FileRead::kMissing;
+  T values{};  ///< the defaults unless outcome is kRead
+};
+
+[[nodiscard]] Loaded<ShipFixedData> load_fixed_data(const platform::Files& files,
+                                                    const std::string& path,
+                                                    const platform::Clock& clock);
+[[nodiscard]] Loaded<KeyObservationItems> load_key_items(const platform::Files& files,
+                                                         const std::string& path);
+
+/// Replaces the file. On an error the old file, or none, is there as before.
+[[nodiscard]] platform::FileError save_fixed_data(platform::Files& files, const std::string& path,
+                                                  const ShipFixedData& data,
+                                                  const platform::Clock& clock);
+[[nodiscard]] platform::FileError save_key_items(platform::Files& files, const std::string& path,
+                                                 const KeyObservationItems& items);
