@@ -65,6 +65,7 @@ class Control {
   std::vector<text::Ref>
       item_refs;  ///< when set, `items` is made of these in the language of the moment
   std::vector<bool> item_disabled;  ///< choice only; empty means all enabled
+  std::vector<bool> item_marked;    ///< lines of a list or drop-down set apart; empty means none
   std::vector<TreeRow> rows;        ///< tree only
   int selected = -1;                ///< line of a drop-down, list, choice or tree
   bool checked = false;
@@ -73,6 +74,7 @@ class Control {
   bool read_only = false;  ///< an edit that is shown but locked; it can have the focus
   int max_length = 0;      ///< in characters; 0 is no limit
   Role role = Role::kNone;
+  std::string font;        ///< font family asked for; empty is the usual one
   bool narrow = true;      ///< full-width characters are narrowed before checks
   std::string why_locked;  ///< why it is locked or disabled, for the person; empty when it is not
 
@@ -87,6 +89,9 @@ class Control {
   std::function<void()> on_enter;
   /// Tree: a row is about to be opened; insert its children behind it.
   std::function<void(std::size_t row)> on_expand;
+  /// Tree: opens the rows above what the path names and selects it; false, with nothing changed,
+  /// when there is no such thing. Front ends go through Screen::reveal().
+  std::function<bool(std::string_view path)> on_reveal;
 
   [[nodiscard]] bool can_focus() const;
   /// The text of the selected line, empty when there is none.

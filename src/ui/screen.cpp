@@ -238,6 +238,20 @@ void Screen::collapse(Control& tree, std::size_t row) {
   }
 }
 
+bool Screen::reveal(Control& tree, std::string_view path) {
+  const Handling handling(*this);
+  if (!handling || !tree.enabled || !tree.visible) return false;
+  const auto at = std::find_if(tree.rows.begin(), tree.rows.end(),
+                               [&](const TreeRow& row) { return row.path == path; });
+  if (at != tree.rows.end()) {
+    tree.selected = static_cast<int>(at - tree.rows.begin());
+  } else if (!tree.on_reveal || !tree.on_reveal(path)) {
+    return false;
+  }
+  if (tree.on_change) tree.on_change();
+  return true;
+}
+
 void Screen::close_box() {
   const Handling handling(*this);
   if (handling) on_cancel();

@@ -65,6 +65,9 @@ class Screen {
   void command(const MenuItem& item);
   void expand(Control& tree, std::size_t row);
   void collapse(Control& tree, std::size_t row);
+  /// Picks what the path names in a tree, opening the rows above it. False when there is no such
+  /// thing.
+  bool reveal(Control& tree, std::string_view path);
   void close_box();
 
  protected:
