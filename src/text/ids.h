@@ -21,6 +21,33 @@ inline constexpr int kNoDigitalString = 40907;
 // Start-up, settings, files
 
 // Archive and media: folder dialog
+inline constexpr int kReportFolderTitle = 12500;
+inline constexpr int kLogbookFolderTitle = 12501;
+inline constexpr int kReportCopyTitle = 12502;
+inline constexpr int kLogbookCopyTitle = 12503;
+inline constexpr int kReportFolderPrompt = 12504;
+inline constexpr int kLogbookFolderPrompt = 12505;
+inline constexpr int kReportCopyPrompt = 12506;
+inline constexpr int kLogbookCopyPrompt = 12507;
+inline constexpr int kReportFolderCurrent = 12508;
+inline constexpr int kLogbookFolderCurrent = 12509;
+inline constexpr int kReportCopyCurrent = 12510;
+inline constexpr int kLogbookCopyCurrent = 12511;
+inline constexpr int kDriveList = 12512;
+inline constexpr int kFolderTree = 12513;
+inline constexpr int kChosenFolder = 12514;
+inline constexpr int kCreateFolder = 12515;
+inline constexpr int kMyComputer = 12516;
+inline constexpr int kCreateFolderTitle = 12517;
+inline constexpr int kNewFolderName = 12518;
+inline constexpr int kInCalculating = 12519;
+inline constexpr int kProgramTitleForNotice = 12520;
+inline constexpr int kChooseAnotherFolder = 40300;
+inline constexpr int kNoFolderChosen = 40301;
+inline constexpr int kFolderGone = 40302;
+inline constexpr int kFolderNotReadable = 40303;
+inline constexpr int kFolderNotCreated = 40304;
+inline constexpr int kBadFolderName = 40305;
 
 // CFixDataDlg
 inline constexpr int kFixTitle = 12000;

@@ -1,0 +1,46 @@
+#include "archive/CCreateDir.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "archive/paths.h"
+#include "text/ids.h"
+#include "text/strings.h"
+
+namespace id = text::id;
+
+bool archive::is_folder_name(std::string_view name) {
+  const bool has_bad = std::any_of(name.begin(), name.end(), [](char c) {
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7f' ||
+           std::string_view("\\/:*?\"<>|;").find(c) != std::string_view::npos;
+  });
+  return !has_bad && !name.empty() && name.find_first_not_of('.') != std::string_view::npos;
+}
+
+CCreateDir::CCreateDir(ui::Services& services, std::string parent)
+    : Screen(services, "CCreateDir", {id::kCreateFolderTitle}),
+      folder_name(*this, "folder_name", {id::kNewFolderName}),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      parent_(std::move(parent)) {}
+
+void CCreateDir::on_open() {
+  folder_name.content.clear();
+}
+
+void CCreateDir::on_ok() {
+  const std::string_view name = text::trim(folder_name.content);
+  if (name.empty()) return refuse(id::kNoValueInput);
+  if (!archive::is_folder_name(name)) return refuse(id::kBadFolderName);
+  std::string path = archive::join(parent_, name);
+  platform::Files& files = services().files;
+  if (!files.is_folder(path) && files.create_folder(path) != platform::FileError::kNone)
+    return refuse(id::kFolderNotCreated);
+  path_ = std::move(path);
+  close(text::kOk);
+}
+
+void CCreateDir::refuse(int message) {
+  services().messages.error(message);
+  focus(folder_name);
+}

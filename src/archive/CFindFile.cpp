@@ -1,0 +1,18 @@
+#include "archive/CFindFile.h"
+
+#include "archive/paths.h"
+
+platform::FileError CFindFile::find(const std::string& folder, std::string_view pattern,
+                                    std::vector<std::string>& result) {
+  const std::string before = files_.current_folder();
+  files_.set_current_folder(folder);
+  const auto entries = files_.list(folder);
+  files_.set_current_folder(before);
+  if (!entries.ok()) return entries.error;
+  for (const platform::FolderEntry& entry : *entries.value) {
+    if (entry.is_folder || entry.name == "." || entry.name == "..") continue;
+    if (entry.name.find(pattern) == std::string::npos) continue;
+    result.push_back(archive::join(folder, entry.name));
+  }
+  return platform::FileError::kNone;
+}

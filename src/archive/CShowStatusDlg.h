@@ -1,0 +1,15 @@
+#pragma once
+// A notice on the screen while something longer runs.
+
+#include "ui/screen.h"
+
+class CShowStatusDlg : public ui::Screen {
+ public:
+  /// Shown from here until the object is gone.
+  explicit CShowStatusDlg(ui::Services& services);
+  ~CShowStatusDlg() override;
+  CShowStatusDlg(const CShowStatusDlg&) = delete;
+  CShowStatusDlg& operator=(const CShowStatusDlg&) = delete;
+
+  ui::Label status;
+};

@@ -1,0 +1,124 @@
+#include "media/CLogDiskSavePathDlg.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "archive/CCreateDir.h"
+#include "archive/paths.h"
+#include "text/ids.h"
+
+namespace id = text::id;
+
+namespace {
+
+struct ModeRow {
+  int title;
+  int prompt;
+  int current;
+  std::string_view key;
+  bool is_copy;
+};
+
+constexpr ModeRow kModes[] = {
+    {id::kReportFolderTitle, id::kReportFolderPrompt, id::kReportFolderCurrent, "TLX", false},
+    {id::kLogbookFolderTitle, id::kLogbookFolderPrompt, id::kLogbookFolderCurrent, "LOG", false},
+    {id::kReportCopyTitle, id::kReportCopyPrompt, id::kReportCopyCurrent, "TLXC", true},
+    {id::kLogbookCopyTitle, id::kLogbookCopyPrompt, id::kLogbookCopyCurrent, "LOGC", true},
+};
+
+const ModeRow& row_of(CLogDiskSavePathDlg::Mode mode) {
+  return kModes[static_cast<std::size_t>(mode)];
+}
+
+}  // namespace
+
+CLogDiskSavePathDlg::CLogDiskSavePathDlg(ui::Services& services, Mode mode, Folders folders,
+                                         Write write)
+    : Screen(services, "CLogDiskSavePathDlg", {row_of(mode).title}),
+      prompt(*this, "prompt", {row_of(mode).prompt}),
+      current(*this, "current", {row_of(mode).current}),
+      drives(*this, "drives", {id::kDriveList}),
+      tree(*this, "tree", {id::kFolderTree}),
+      chosen(*this, "chosen", {id::kChosenFolder}),
+      create_folder(*this, "create_folder", {id::kCreateFolder}),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      mode_(mode),
+      folders_(std::move(folders)),
+      write_(std::move(write)),
+      drive_list_(drives, services.drives),
+      directory_(tree, services.files, services.drives, services.texts) {
+  drives.on_change = [this] { drive_chosen(); };
+  tree.on_change = [this] { show_chosen(); };
+  create_folder.on_press = [this] { create(); };
+  directory_.on_unreadable = [this](const std::string& path, platform::FileError) {
+    this->services().messages.error_filled(id::kFolderNotReadable, {path});
+  };
+}
+
+void CLogDiskSavePathDlg::on_open() {
+  current.content = folders_.current;
+  drive_list_.fill();
+  directory_.fill();
+  const std::string& wanted = folders_.proposed.empty() ? folders_.current : folders_.proposed;
+  directory_.reveal(wanted);
+  show_chosen();
+  focus(tree);
+}
+
+void CLogDiskSavePathDlg::show_chosen() {
+  chosen.content = archive::with_backslash(directory_.folder());
+  drive_list_.select(chosen.content);
+}
+
+void CLogDiskSavePathDlg::drive_chosen() {
+  if (!directory_.reveal(drive_list_.root())) return;
+  directory_.open_selected();
+  show_chosen();
+}
+
+void CLogDiskSavePathDlg::create() {
+  const std::string parent = directory_.folder();
+  if (parent.empty()) return refuse(id::kNoFolderChosen);
+  CCreateDir dialog(services(), parent);
+  if (services().windows.run_modal(dialog) != text::kOk) return;
+  directory_.read_again(parent);
+  directory_.reveal(dialog.path());
+  show_chosen();
+  focus(tree);
+}
+
+void CLogDiskSavePathDlg::on_ok() {
+  std::string folder = archive::with_backslash(directory_.folder());
+  if (const int message = refusal(folder); message != 0) return refuse(message);
+  folder_ = std::move(folder);
+  if (write_) write_(row_of(mode_).key, folder_);
+  close(text::kOk);
+}
+
+int CLogDiskSavePathDlg::refusal(const std::string& folder) const {
+  if (folder.empty()) return id::kNoFolderChosen;
+  if (row_of(mode_).is_copy && is_source(folder)) return id::kChooseAnotherFolder;
+  // The settings file takes what follows a ";" for a comment, so the name would come back cut.
+  if (folder.find(';') != std::string::npos) return id::kBadFolderName;
+  if (!services().files.is_folder(folder) && !is_on_removable_drive(folder)) return id::kFolderGone;
+  return 0;
+}
+
+bool CLogDiskSavePathDlg::is_source(const std::string& folder) const {
+  const std::string source = archive::with_backslash(folders_.source);
+  return !source.empty() &&
+         (archive::equal_ignoring_case(folder, source) || services().files.same(folder, source));
+}
+
+bool CLogDiskSavePathDlg::is_on_removable_drive(const std::string& folder) const {
+  const auto all = services().drives.drives();
+  return std::any_of(all.begin(), all.end(), [&](const platform::Drive& drive) {
+    return drive.type == platform::DriveType::kRemovable && drive.letter == folder.front();
+  });
+}
+
+void CLogDiskSavePathDlg::refuse(int message) {
+  services().messages.error(message);
+  focus(tree);
+}
