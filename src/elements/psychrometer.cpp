@@ -53,6 +53,15 @@ DewPointSearch search(double e) {
 
 }  // namespace
 
+bool can_be_iced(Celsius wet) {
+  return wet.value < 0.1;
+}
+
+WetBulbState toggled_wet_bulb(WetBulbState state, Celsius wet) {
+  if (!can_be_iced(wet) || state == WetBulbState::kIced) return WetBulbState::kNotSet;
+  return WetBulbState::kIced;
+}
+
 Hectopascal vapour_pressure_over_water(Celsius t) {
   const double kelvin = t.value + kZeroCelsiusInKelvin;
   if (kelvin <= 0.0) return {0.0};

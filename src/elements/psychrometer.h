@@ -13,6 +13,13 @@ namespace elements {
 /// State of the wet bulb. Only an iced bulb takes the formula for ice.
 enum class WetBulbState { kNotSet = -1, kIced = 0, kNotIced = 1 };
 
+/// Ice can be on a bulb below 0.1 degrees only.
+[[nodiscard]] bool can_be_iced(Celsius wet);
+
+/// State after the form's "Freeze" button: iced and not set take turns below 0.1 degrees; from 0.1
+/// up the state is not set.
+[[nodiscard]] WetBulbState toggled_wet_bulb(WetBulbState state, Celsius wet);
+
 /// Saturation vapour pressure over water (Goff-Gratch form, as the WMO technical regulations give
 /// it). 0 at and below absolute zero, where the formula has no value; never NaN.
 [[nodiscard]] Hectopascal vapour_pressure_over_water(Celsius t);

@@ -31,6 +31,29 @@ HumidityTexts humidity_texts(Percent humidity) {
   return texts;
 }
 
+HumidityCheck check_humidity(std::string_view text, bool whole_percent) {
+  const double value = text::leading_number(text);
+  const bool negative = text.starts_with('-');
+  if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);
+  std::string digits(text);
+  // A humidity of the form may carry its decimal ("53.0"); in whole percent it must then be 0.
+  if (const auto point = digits.find('.'); point != std::string::npos) {
+    if (point == 0 || point + 1 == digits.size()) return HumidityCheck::kNotANumber;
+    if (whole_percent && digits.find_first_not_of('0', point + 1) != std::string::npos)
+      return HumidityCheck::kNotANumber;
+    digits.erase(point, 1);
+  }
+  if (!text::is_all_digits(digits)) return HumidityCheck::kNotANumber;
+  return !negative && value <= 100.0 ? HumidityCheck::kAccepted : HumidityCheck::kOutOfRange;
+}
+
+std::string shown_humidity(std::string_view text, bool whole_percent) {
+  text = text::trim(text);
+  if (text.empty()) return {};
+  if (whole_percent) return text::format_int(text::leading_int(text), 2, '0');
+  return text::format_fixed(text::leading_number(text), 1, 4, '0');
+}
+
 std::optional<HumidityTexts> humidity_of_texts(std::string_view air, std::string_view dew_point) {
   air = text::trim(air);
   dew_point = text::trim(dew_point);

@@ -28,4 +28,13 @@ struct HumidityTexts {
 [[nodiscard]] std::optional<HumidityTexts> humidity_of_texts(std::string_view air,
                                                              std::string_view dew_point);
 
+enum class HumidityCheck { kAccepted, kNotANumber, kOutOfRange };
+
+/// A humidity read directly, not empty: digits, in tenths of a percent also one point among them;
+/// 0 to 100 percent. A sign in front makes it out of range, not unreadable.
+[[nodiscard]] HumidityCheck check_humidity(std::string_view text, bool whole_percent);
+
+/// It as shown: "%02d" in whole percent, "%04.1f" in tenths. Empty stays empty.
+[[nodiscard]] std::string shown_humidity(std::string_view text, bool whole_percent);
+
 }  // namespace elements

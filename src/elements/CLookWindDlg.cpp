@@ -1,0 +1,107 @@
+#include "elements/CLookWindDlg.h"
+
+#include <utility>
+
+#include "elements/wind_fields.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace id = text::id;
+
+const CLookWindDlg::DegreesField CLookWindDlg::kDegreesFields[] = {
+    {&CLookWindDlg::heading, 1, id::kHeadingRange},
+    {&CLookWindDlg::course, 0, id::kCourseRange},
+    {&CLookWindDlg::direction, 0, id::kApparentDirectionRange},
+};
+const CLookWindDlg::SpeedField CLookWindDlg::kSpeedFields[] = {
+    {&CLookWindDlg::ship_speed, 99.9, 4},
+    {&CLookWindDlg::speed, 999.9, 5},
+};
+
+CLookWindDlg::CLookWindDlg(ui::Services& services, elements::ApparentWindTexts values)
+    : Screen(services, "CLookWindDlg", {id::kApparentWindTitle}),
+      ship_group(*this, "ship_group", {id::kShipMovementGroup}),
+      heading(*this, "heading", {id::kHeading}, 3),
+      course(*this, "course", {id::kCourse}, 3),
+      ship_speed(*this, "ship_speed", {id::kShipSpeed}, 5),
+      wind_group(*this, "wind_group", {id::kApparentWindGroup}),
+      hint(*this, "hint", {id::kApparentWindHint}),
+      direction(*this, "direction", {id::kApparentDirection}, 3),
+      speed(*this, "speed", {id::kApparentSpeed}, 5),
+      true_group(*this, "true_group", {id::kTrueWindGroup}),
+      true_direction(*this, "true_direction", {id::kComputedDirection}),
+      true_speed(*this, "true_speed", {id::kComputedSpeed}),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
+      values_(std::move(values)) {
+  true_direction.unit = {id::kUnitTensOfDegrees};
+  true_speed.unit = {id::kUnitKnots};
+  for (const DegreesField& row : kDegreesFields) {
+    (this->*row.field).on_leave = [this, &row] { return check(row); };
+    (this->*row.field).on_change = [this] { recompute(); };
+  }
+  for (const SpeedField& row : kSpeedFields) {
+    (this->*row.field).on_leave = [this, &row] { return check(row); };
+    (this->*row.field).on_change = [this] { recompute(); };
+  }
+}
+
+void CLookWindDlg::on_open() {
+  heading.set(values_.heading);
+  course.set(values_.course);
+  ship_speed.set(values_.ship_speed);
+  direction.set(values_.direction);
+  speed.set(values_.speed);
+  recompute();
+}
+
+elements::ApparentWindTexts CLookWindDlg::entered() const {
+  return {direction.content, speed.content, heading.content, course.content, ship_speed.content};
+}
+
+void CLookWindDlg::recompute() {
+  const auto found = elements::true_wind_of_texts(entered());
+  true_direction.content = found ? found->direction : "";
+  true_speed.content = found ? found->speed : "";
+}
+
+bool CLookWindDlg::check(const DegreesField& row) {
+  const std::string& typed = (this->*row.field).content;
+  if (text::trim(typed).empty() || elements::is_degrees(typed, row.lowest)) return true;
+  services().messages.error(row.message);
+  return false;
+}
+
+bool CLookWindDlg::check(const SpeedField& row) {
+  ui::Edit& field = this->*row.field;
+  if (text::trim(field.content).empty()) return true;
+  if (!elements::is_speed(field.content)) {
+    services().messages.error(id::kNotANumber);
+    return false;
+  }
+  const double knots = text::leading_number(field.content);
+  if (knots > row.largest) {
+    services().messages.error(id::kInputError);
+    return false;
+  }
+  field.set(text::format_fixed(knots, 1, row.width));
+  recompute();
+  return true;
+}
+
+void CLookWindDlg::on_ok() {
+  for (const DegreesField& row : kDegreesFields) {
+    if (check(row)) continue;
+    focus(this->*row.field);
+    return;
+  }
+  for (const SpeedField& row : kSpeedFields) {
+    if (check(row)) continue;
+    focus(this->*row.field);
+    return;
+  }
+  values_ = entered();
+  close(text::kOk);
+}

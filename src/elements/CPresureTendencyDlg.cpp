@@ -1,0 +1,134 @@
+#include "elements/CPresureTendencyDlg.h"
+
+#include <utility>
+
+#include "text/ids.h"
+#include "text/strings.h"
+
+namespace id = text::id;
+using elements::TendencyKind;
+
+namespace {
+
+// Code table 0200, characteristics 0-8.
+constexpr int kTable0200[] = {id::kCharacteristic0, id::kCharacteristic1, id::kCharacteristic2,
+                              id::kCharacteristic3, id::kCharacteristic4, id::kCharacteristic5,
+                              id::kCharacteristic6, id::kCharacteristic7, id::kCharacteristic8};
+
+int line_of(char code) {
+  return code == '/' ? id::kCharacteristicUnknown : kTable0200[code - '0'];
+}
+
+}  // namespace
+
+CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, std::string ppp)
+    : Screen(services, "CPresureTendencyDlg", {id::kTendencyTitle}),
+      choice(*this, "choice"),
+      kind_group(*this, "kind_group", {id::kTendencyKindGroup}),
+      kind(*this, "kind"),
+      characteristic_group(*this, "characteristic_group", {id::kTendencyCharacteristicGroup}),
+      characteristic(*this, "characteristic"),
+      amount(*this, "amount", {id::kTendencyAmount}),
+      code(*this, "code", {id::kTendencyCode}),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
+      a_(std::move(a)),
+      ppp_(std::move(ppp)) {
+  kind.item_refs = {
+      {id::kTendencyRisen}, {id::kTendencySame}, {id::kTendencyDescended}, {id::kTendencyUnknown}};
+  amount.unit = {id::kUnitHectopascal};
+  kind.on_change = [this] { kind_changed(); };
+  characteristic.on_change = [this] { show_code(); };
+  amount.on_leave = [this] { return leave_amount(); };
+}
+
+void CPresureTendencyDlg::on_open() {
+  amount.set(elements::tendency_shown(ppp_));
+  kind.selected = static_cast<int>(elements::tendency_kind(a_, amount.content));
+  fill_characteristics();
+  characteristic.selected = elements::characteristic_line(chosen_kind(), a_);
+  show_code();
+}
+
+TendencyKind CPresureTendencyDlg::chosen_kind() const {
+  return static_cast<TendencyKind>(kind.selected);
+}
+
+std::string CPresureTendencyDlg::chosen_code() const {
+  if (kind.selected < 0) return a_;
+  return elements::characteristic(chosen_kind(), characteristic.selected, a_);
+}
+
+void CPresureTendencyDlg::fill_characteristics() {
+  characteristic.item_refs.clear();
+  characteristic.items.clear();
+  characteristic.selected = -1;
+  choice.literal_caption = kind.selected_text();
+  if (kind.selected < 0) return;
+  for (const char one : elements::characteristics(chosen_kind()))
+    characteristic.item_refs.push_back({line_of(one)});
+  relabel();
+}
+
+// Another kind offers other characteristics: the current one when it is among them, else the first,
+// so that what OK stores always belongs to the kind that is shown.
+void CPresureTendencyDlg::kind_changed() {
+  fill_characteristics();
+  if (kind.selected >= 0) {
+    const int line = elements::characteristic_line(chosen_kind(), a_);
+    characteristic.selected = line < 0 ? 0 : line;
+  }
+  show_code();
+}
+
+void CPresureTendencyDlg::show_code() {
+  code.content = chosen_code();
+}
+
+bool CPresureTendencyDlg::leave_amount() {
+  const std::string typed = text::without_spaces(amount.content);
+  if (!elements::is_tendency_amount(typed)) {
+    services().messages.error(id::kTendencyAmountRange);
+    return false;
+  }
+  // No characteristic yet: the rule for a steady pressure waits for OK.
+  if (!check_amount("/", typed)) return false;
+  amount.set(elements::tendency_amount_text(typed));
+  return true;
+}
+
+bool CPresureTendencyDlg::check_amount(const std::string& characteristic_code,
+                                       const std::string& typed) {
+  switch (elements::check_tendency(characteristic_code, typed)) {
+    case elements::TendencyCheck::kAccepted:
+      return true;
+    case elements::TendencyCheck::kSteadyWithAmount:
+      services().messages.error(id::kSteadyWithAmount);
+      return false;
+    case elements::TendencyCheck::kTooLarge:
+      services().messages.error(id::kTendencyAmountRange);
+      return false;
+    case elements::TendencyCheck::kAsks:
+      break;
+  }
+  const std::string stored = elements::tendency_stored(typed);
+  if (stored == confirmed_) return true;
+  if (services().messages.question(id::kTendencyAmountQuestion, text::QuestionMode::kYesNo) !=
+      text::kYes)
+    return false;
+  confirmed_ = stored;
+  return true;
+}
+
+void CPresureTendencyDlg::on_ok() {
+  const std::string typed = text::without_spaces(amount.content);
+  const std::string new_a = chosen_code();
+  if (!check_amount(new_a, typed)) {
+    focus(amount);
+    return;
+  }
+  a_ = new_a;
+  ppp_ = elements::tendency_stored(typed);
+  close(text::kOk);
+}

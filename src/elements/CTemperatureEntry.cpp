@@ -1,0 +1,92 @@
+#include "elements/CTemperatureEntry.h"
+
+#include "elements/temperature_figures.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace id = text::id;
+
+namespace {
+
+bool is_whole_degrees(std::string_view whole) {
+  if (!whole.empty() && (whole.front() == '+' || whole.front() == '-')) whole.remove_prefix(1);
+  return text::is_all_digits(whole);
+}
+
+}  // namespace
+
+CTemperatureEntry::CTemperatureEntry(ui::Screen& owner, ui::Services& services, const Texts& texts)
+    : group(owner, texts.group_name, {texts.group_label}),
+      whole(owner, texts.whole_name, {texts.whole_label}, 3),
+      tenths(owner, texts.tenths_name, {id::kTemperatureTenths}, 1),
+      services_(services),
+      texts_(texts) {
+  for (char digit = '0'; digit <= '9'; ++digit) tenths.items.emplace_back(1, digit);
+  tenths.unit = {id::kUnitCelsius};
+  const auto changed = [this] {
+    if (on_change) on_change();
+  };
+  whole.on_change = changed;
+  tenths.on_change = changed;
+  whole.on_leave = [this] { return check_whole(); };
+  tenths.on_leave = [this] { return check_tenths(); };
+}
+
+void CTemperatureEntry::set(std::string_view text) {
+  text = text::trim(text);
+  const auto point = text.find('.');
+  whole.set(text.substr(0, point));
+  tenths.set(point == std::string_view::npos ? std::string_view() : text.substr(point + 1, 1));
+}
+
+std::string CTemperatureEntry::text() const {
+  return elements::joined_temperature(whole.content, tenths.content);
+}
+
+double CTemperatureEntry::value() const {
+  return text::leading_number(text());
+}
+
+bool CTemperatureEntry::well_formed() const {
+  const std::string_view degrees = text::trim(whole.content);
+  const std::string_view decimals = text::trim(tenths.content);
+  return (degrees.empty() || is_whole_degrees(degrees)) &&
+         (decimals.empty() || text::is_all_digits(decimals));
+}
+
+ui::Control* CTemperatureEntry::check() {
+  if (!check_whole()) return &whole;
+  return check_tenths() ? nullptr : &tenths;
+}
+
+bool CTemperatureEntry::check_whole() {
+  const std::string degrees(text::trim(whole.content));
+  if (degrees.empty()) return true;
+  if (!is_whole_degrees(degrees)) {
+    services_.messages.error(id::kInvalidValue);
+    return false;
+  }
+  const elements::TemperatureRange range = elements::temperature_range(degrees);
+  if (range != elements::TemperatureRange::kUsual && degrees != confirmed_) {
+    const int question =
+        range == elements::TemperatureRange::kAbove ? texts_.high_question : texts_.low_question;
+    if (services_.messages.question(question, text::QuestionMode::kYesNo) != text::kYes)
+      return false;
+    confirmed_ = degrees;
+  }
+  return true;
+}
+
+bool CTemperatureEntry::check_tenths() {
+  const std::string_view decimals = text::trim(tenths.content);
+  if (!decimals.empty() && !text::is_all_digits(decimals)) {
+    services_.messages.error(id::kInvalidValue);
+    return false;
+  }
+  if (decimals.empty() && !text::trim(whole.content).empty()) {
+    tenths.set("0");
+    if (on_change) on_change();
+  }
+  return true;
+}

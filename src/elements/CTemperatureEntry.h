@@ -1,0 +1,52 @@
+#pragma once
+// A temperature as two fields, whole degrees and tenths. The temperature screens have two each.
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "ui/screen.h"
+
+class CTemperatureEntry {
+ public:
+  /// Names, captions and the two questions of one temperature.
+  struct Texts {
+    std::string_view group_name;
+    std::string_view whole_name;
+    std::string_view tenths_name;
+    int group_label = 0;
+    int whole_label = 0;
+    int high_question = 0;  ///< above 40 degrees
+    int low_question = 0;   ///< below -25 degrees
+  };
+
+  CTemperatureEntry(ui::Screen& owner, ui::Services& services, const Texts& texts);
+
+  ui::Label group;
+  ui::Edit whole;
+  ui::Combo tenths;
+
+  /// After each typed character, and when the tenths were filled in.
+  std::function<void()> on_change;
+
+  /// Splits a text such as "-1.8" at its point. Call in on_open().
+  void set(std::string_view text);
+  /// Whole + "." + tenths, tenths "0" when empty; empty without whole degrees.
+  [[nodiscard]] std::string text() const;
+  [[nodiscard]] bool empty() const { return text().empty(); }
+  [[nodiscard]] double value() const;
+  /// True when both fields hold what a temperature is written with (or nothing).
+  [[nodiscard]] bool well_formed() const;
+
+  /// The checks of both fields, for OK. Returns the field that was refused, after its message, or
+  /// nullptr. A value that the officer has confirmed is not asked about again.
+  [[nodiscard]] ui::Control* check();
+
+ private:
+  bool check_whole();
+  bool check_tenths();
+
+  ui::Services& services_;
+  Texts texts_;
+  std::string confirmed_;
+};

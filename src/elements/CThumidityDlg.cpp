@@ -1,0 +1,53 @@
+#include "elements/CThumidityDlg.h"
+
+#include <utility>
+
+#include "elements/relative_humidity.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace id = text::id;
+
+CThumidityDlg::CThumidityDlg(ui::Services& services, std::string humidity, double unit)
+    : Screen(services, "CThumidityDlg", {id::kHumidityTitle}),
+      value(*this, "value", {id::kHumidityValue}),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
+      humidity_(std::move(humidity)),
+      whole_percent_(unit >= 1.0) {
+  value.max_length = 5;
+  value.unit = {id::kUnitPercent};
+  value.on_leave = [this] { return check(); };
+}
+
+void CThumidityDlg::on_open() {
+  value.set(elements::shown_humidity(humidity_, whole_percent_));
+}
+
+bool CThumidityDlg::check() {
+  const std::string_view typed = text::trim(value.content);
+  if (typed.empty()) return true;
+  switch (elements::check_humidity(typed, whole_percent_)) {
+    case elements::HumidityCheck::kAccepted:
+      value.set(elements::shown_humidity(typed, whole_percent_));
+      return true;
+    case elements::HumidityCheck::kNotANumber:
+      services().messages.error(id::kInvalidValue);
+      return false;
+    case elements::HumidityCheck::kOutOfRange:
+      services().messages.error(id::kHumidityRange);
+      return false;
+  }
+  return false;
+}
+
+void CThumidityDlg::on_ok() {
+  if (!check()) {
+    focus(value);
+    return;
+  }
+  humidity_ = text::trim(value.content);
+  close(text::kOk);
+}
