@@ -76,6 +76,7 @@ class Control {
   Role role = Role::kNone;
   std::string font;        ///< font family asked for; empty is the usual one
   bool narrow = true;      ///< full-width characters are narrowed before checks
+  std::string mark;        ///< state that a front end may show ("missing", "wrong"); empty for none
   std::string why_locked;  ///< why it is locked or disabled, for the person; empty when it is not
 
   /// Runs when the focus leaves after the content was narrowed; false refuses: the focus comes back

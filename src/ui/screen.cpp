@@ -168,6 +168,7 @@ void Screen::key(Key key) {
       return;
     case Key::kTab:
     case Key::kShiftTab:
+      on_tab(key);
       if (Control* const next = neighbour(focused_, key == Key::kTab)) move_focus_inside(*next);
       return;
     case Key::kEnter:

@@ -84,6 +84,8 @@ class Screen {
   virtual bool on_enter_or_escape(Key) { return false; }
   /// The default opens the dialog's help topic.
   virtual void on_help();
+  /// Tab, or Tab with Shift, before the field is checked and the focus moves.
+  virtual void on_tab(Key) {}
 
   void close(int result);
   /// Gives the focus without a check, its text selected.

@@ -1,0 +1,94 @@
+#pragma once
+// The form as rows: its labelled groups and captions, its fields in tab order, and the report's
+// groups at the bottom.
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "observation/report_groups.h"
+#include "text/texts.h"
+
+namespace mainwindow {
+
+/// Numbers by which a field names the element dialog that F1 opens.
+enum Element : int {
+  kObservationTime = 0,
+  kPosition = 1,
+  kCourseAndSpeed = 2,
+  kPressure = 3,
+  kPressureTendency = 4,
+  kPsychrometer = 5,
+  kTemperatureAndDewPoint = 6,
+  kSeaTemperature = 7,
+  kApparentWind = 8,
+  kWindWave = 9,
+  kSwell = 10,
+  kVisibility = 11,
+  kPresentWeather = 12,
+  kPastWeather = 13,
+  kCloudAmount = 14,
+  kLowestCloud = 15,
+  kUpperCloud = 16,
+  kMiddleCloud = 17,
+  kLowerCloud = 18,
+  kIceAccretion = 19,
+  kCloudHeight = 20,
+  kIceConcentration = 21,
+  kIceStage = 22,
+  kIceBearing = 23,
+  kIceTrend = 24,
+  kTrueWind = 25,
+  kRelativeHumidity = 26,  ///< has a dialog but no number of old
+  kNoElement = 99,
+};
+
+/// Main labels: the English text stands this much behind the Japanese one.
+inline constexpr int kLabelsToEnglish = 74;
+[[nodiscard]] constexpr text::Ref label_ref(int id) {
+  return {id, id == 0 ? 0 : kLabelsToEnglish};
+}
+
+/// A label that opens an element's dialog. A group's label does nothing when the element is
+/// switched off; a caption moves the focus on to the field behind its own.
+struct LabelRow {
+  std::string_view name;
+  int label = 0;
+  int element = kNoElement;
+  std::string_view caption_of = {};  ///< the field that the caption stands at; empty for a group
+};
+[[nodiscard]] std::span<const LabelRow> label_rows();
+
+enum class FieldKind : std::uint8_t {
+  kEdit,
+  kNorthSouth,
+  kEastWest,
+  kLoadingState,
+  kFreeze,
+};
+
+/// A field of the form; the rows are in tab order.
+struct FieldRow {
+  std::string_view name;
+  int label = 0;  ///< main label, 0 for none
+  text::Ref unit = {};
+  int max_length = 0;
+  int element = kNoElement;
+  FieldKind kind = FieldKind::kEdit;
+};
+[[nodiscard]] std::span<const FieldRow> field_rows();
+
+/// A group of the report under its fixed caption.
+struct ReportGroupRow {
+  observation::Group group;
+  std::string_view name;
+  std::string_view caption;
+};
+[[nodiscard]] std::span<const ReportGroupRow> report_group_rows();
+
+/// Caption of the call sign, which stands in front of the groups.
+inline constexpr std::string_view kCallSignCaption = "CALLSIGN";
+/// Caption of the word in front of the sea-ice group.
+inline constexpr std::string_view kIceCaption = "I C E";
+
+}  // namespace mainwindow
