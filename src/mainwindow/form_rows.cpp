@@ -51,10 +51,10 @@ constexpr text::Ref kTens = label_ref(id::kLabelTensOfDegrees);
 constexpr text::Ref kKnots = label_ref(id::kLabelKnots);
 constexpr text::Ref kPercent = label_ref(id::kLabelPercent);
 constexpr text::Ref kSeconds = label_ref(id::kLabelSeconds);
-constexpr text::Ref kHectopascal{id::kUnitHectopascal, 0};
-constexpr text::Ref kCelsius{id::kUnitCelsius, 0};
-constexpr text::Ref kMetres{id::kUnitMetres, 0};
-constexpr text::Ref kCentimetres{id::kUnitCentimetres, 0};
+constexpr text::Ref kHectopascal{id::kFormHectopascal, 0};
+constexpr text::Ref kCelsius{id::kFormCelsius, 0};
+constexpr text::Ref kMetres{id::kFormMetres, 0};
+constexpr text::Ref kCentimetres{id::kFormCentimetres, 0};
 
 constexpr FieldRow kFields[] = {
     {"Year", id::kLabelYear, {}, 4, kObservationTime},

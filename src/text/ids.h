@@ -293,10 +293,10 @@ inline constexpr int kWhyNotObserved = 40510;
 inline constexpr int kWhyOtherMethod = 40511;
 inline constexpr int kWhyNoLoadingState = 40512;
 inline constexpr int kWhyNoWaveRecorder = 40513;
-inline constexpr int kUnitHectopascal = 40520;
-inline constexpr int kUnitCelsius = 40521;
-inline constexpr int kUnitMetres = 40522;
-inline constexpr int kUnitCentimetres = 40523;
+inline constexpr int kFormHectopascal = 40520;
+inline constexpr int kFormCelsius = 40521;
+inline constexpr int kFormMetres = 40522;
+inline constexpr int kFormCentimetres = 40523;
 
 // Report: missing groups
 inline constexpr int kMissingYYGGiw = 41500;
