@@ -19,6 +19,7 @@ inline constexpr int kHelpLabel = 40906;
 inline constexpr int kNoDigitalString = 40907;
 
 // Start-up, settings, files
+inline constexpr int kSettingsNotSaved = 41000;
 
 // Archive and media: folder dialog
 inline constexpr int kReportFolderTitle = 12500;

@@ -1,0 +1,126 @@
+#include "app/CVelmaranApp.h"
+
+#include "app/CAssistantClass.h"
+#include "ship/ship_files.h"
+#include "text/ids.h"
+
+namespace app {
+
+using platform::FileError;
+
+CVelmaranApp::CVelmaranApp(const Ports& ports, Dialogs dialogs)
+    : messages_(texts_, ports.windows),
+      help_(texts_, ports.help, CAssistantClass(ports.drives, ports.files).program_folder()),
+      services_{ports.clock,   ports.locale, ports.drives, ports.files, ports.printer,
+                ports.windows, texts_,       messages_,    help_},
+      dialogs_(std::move(dialogs)),
+      places_(settings_places(system_root(ports.drives),
+                              CAssistantClass(ports.drives, ports.files).program_folder())) {}
+
+int CVelmaranApp::run() {
+  if (!read_settings()) return 1;
+  find_removable();
+  check_folder(WorkingFolder::kReports);
+  check_folder(WorkingFolder::kLogbook);
+  ask_fixed_data();
+  ask_key_items();
+  show_main_window();
+  write_settings();
+  return 0;
+}
+
+bool CVelmaranApp::read_settings() {
+  settings_ = {};
+  settings_.locale_is_japanese = is_japanese(services_.locale);
+  settings_.system_root = system_root(services_.drives);
+  CIniEx ini(services_.files);
+  if (open_settings(ini, services_.files, places_, true) != FileError::kNone) return false;
+  const auto language =
+      language_of(ini.value(kSection, kLanguageKey), settings_.locale_is_japanese);
+  if (!language) return false;
+  texts_.language = *language;
+  read_folders(ini, settings_.folders);
+  create_folders();
+  return true;
+}
+
+void CVelmaranApp::create_folders() {
+  settings_.file_folder = places_.folder + "file";
+  settings_.data_folder = places_.folder + "data";
+  settings_.folders.fixed_data = settings_.file_folder + "\\FIXDATA.DAT";
+  settings_.folders.key_items = settings_.file_folder + "\\MOKSDATA.DAT";
+  // One that cannot be created shows when something is saved into it.
+  for (const std::string& folder : {settings_.file_folder, settings_.data_folder})
+    if (!services_.files.is_folder(folder)) (void)services_.files.create_folder(folder);
+}
+
+void CVelmaranApp::find_removable() {
+  find_removable_drive(settings_, services_.drives);
+}
+
+void CVelmaranApp::check_folder(WorkingFolder which) {
+  std::string& folder =
+      which == WorkingFolder::kReports ? settings_.folders.reports : settings_.folders.logbook;
+  if (folder_accepted(folder, settings_.folders.removable_root, services_.files)) return;
+  folder.clear();
+  const auto write = [this](std::string_view key, std::string_view chosen) {
+    keep([&](CIniEx& ini) { return ini.set_value(kSection, key, chosen); });
+  };
+  folder = dialogs_.working_folder(services_, which, settings_.data_folder, write).value_or("");
+}
+
+void CVelmaranApp::ask_fixed_data() {
+  const std::string& path = settings_.folders.fixed_data;
+  const bool exists = services_.files.is_file(path);
+  const auto answer = dialogs_.fixed_data(
+      services_, {path, exists, settings_.folders.reports, settings_.folders.logbook});
+  ship_ = answer.values;
+  // A save that fails is not reported here: the officer is asked again at the next start.
+  if (!exists && answer.confirmed)
+    (void)save_fixed_data(services_.files, path, ship_, services_.clock);
+}
+
+void CVelmaranApp::ask_key_items() {
+  const std::string& path = settings_.folders.key_items;
+  items_ = dialogs_.key_items(services_, path, services_.files.is_file(path)).values;
+}
+
+void CVelmaranApp::show_main_window() {
+  const auto save_ship = [this] {
+    (void)save_fixed_data(services_.files, settings_.folders.fixed_data, ship_, services_.clock);
+  };
+  dialogs_.main_window(
+      services_, {ship_, items_, settings_.folders, save_ship, {}, [this] { keep_folders(); }});
+}
+
+void CVelmaranApp::keep(const std::function<bool(CIniEx&)>& set) {
+  CIniEx ini(services_.files);
+  const bool kept = open_settings(ini, services_.files, places_, false) == FileError::kNone &&
+                    set(ini) && ini.save() == FileError::kNone;
+  if (!kept) messages_.error(text::id::kSettingsNotSaved);
+}
+
+void CVelmaranApp::keep_folders() {
+  const mainwindow::Folders& folders = settings_.folders;
+  keep([&](CIniEx& ini) {
+    bool kept = true;
+    // An empty folder was never chosen, or was not found at this start: what the file has stays.
+    const auto keep_one = [&](std::string_view key, const std::string& folder) {
+      if (!folder.empty()) kept = ini.set_value(kSection, key, folder) && kept;
+    };
+    keep_one(kReportKey, folders.reports);
+    keep_one(kLogbookKey, folders.logbook);
+    keep_one(kReportCopyKey, folders.report_copies);
+    keep_one(kLogbookCopyKey, folders.logbook_copies);
+    return kept;
+  });
+}
+
+void CVelmaranApp::write_settings() {
+  keep([this](CIniEx& ini) {
+    const bool drive = ini.set_value(kSection, kRemovableDriveKey, settings_.removable_letter);
+    return ini.set_value(kSection, kLanguageKey, language_value(texts_.language)) && drive;
+  });
+}
+
+}  // namespace app

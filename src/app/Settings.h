@@ -1,0 +1,75 @@
+#pragma once
+// The application's settings and the file that keeps some of them.
+//
+// The live file is kavrel\kavrel.ini beneath the system root; a copy that lies beside the program
+// is its seed. One section, "KAVREL": LANG ("JPN" or "ENG"), TLX and LOG (folders of reports and
+// logbook), TLXC and LOGC (folders of their copies), FD (letter of the removable drive, written
+// only).
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/CIniEx.h"
+#include "mainwindow/context.h"
+#include "platform/ports.h"
+#include "text/texts.h"
+
+namespace app {
+
+inline constexpr std::string_view kSection = "KAVREL";
+inline constexpr std::string_view kLanguageKey = "LANG";
+inline constexpr std::string_view kReportKey = "TLX";
+inline constexpr std::string_view kLogbookKey = "LOG";
+inline constexpr std::string_view kReportCopyKey = "TLXC";
+inline constexpr std::string_view kLogbookCopyKey = "LOGC";
+inline constexpr std::string_view kRemovableDriveKey = "FD";
+
+struct Settings {
+  bool locale_is_japanese = false;
+  std::string system_root;       ///< "C:\"
+  std::string file_folder;       ///< system root + "kavrel\file"
+  std::string data_folder;       ///< system root + "kavrel\data"
+  std::string removable_letter;  ///< "A", or empty without a floppy-type drive
+  mainwindow::Folders folders;
+};
+
+/// True when the primary language of the locale id is Japanese.
+[[nodiscard]] bool is_japanese(const platform::Locale& locale);
+
+/// First three characters of the operating system's folder.
+[[nodiscard]] std::string system_root(const platform::Drives& drives);
+
+/// Where the live file and its seed are.
+struct SettingsPlaces {
+  std::string folder;  ///< "C:\kavrel\"
+  std::string live;
+  std::string seed;
+};
+/// `program_folder` has no final "\".
+[[nodiscard]] SettingsPlaces settings_places(const std::string& root,
+                                             const std::string& program_folder);
+
+/// Opens the live file, seeding it first when it is missing. An error when there is neither, or
+/// when it cannot be read.
+[[nodiscard]] platform::FileError open_settings(CIniEx& ini, platform::Files& files,
+                                                const SettingsPlaces& places, bool auto_save);
+
+/// Language for the value of LANG, which counts as "ENG" on a system that is not Japanese; nothing
+/// when it is empty then. Only "JPN" in capitals is Japanese.
+[[nodiscard]] std::optional<text::Language> language_of(std::string value, bool locale_is_japanese);
+[[nodiscard]] std::string_view language_value(text::Language language);
+
+/// Takes the four folders from the file.
+void read_folders(const CIniEx& ini, mainwindow::Folders& folders);
+
+/// Sets letter and root from the first floppy-type drive. A letter that is set already gives the
+/// root: a lone letter gets ":\", and a "\" is added unless it ends in one.
+void find_removable_drive(Settings& settings, const platform::Drives& drives);
+
+/// True when a working folder can be used as it stands: it is there, or it lies on the removable
+/// drive, whose medium may not be inserted yet.
+[[nodiscard]] bool folder_accepted(const std::string& folder, const std::string& removable_root,
+                                   const platform::Files& files);
+
+}  // namespace app

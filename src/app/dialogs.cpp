@@ -1,0 +1,45 @@
+#include "app/dialogs.h"
+
+#include "ship/CFixDataDlg.h"
+#include "ship/CKeyObserveDlg.h"
+#include "text/messages.h"
+
+namespace app {
+
+namespace {
+
+std::optional<std::string> ask_working_folder(ui::Services& services, WorkingFolder which,
+                                              const std::string& proposed,
+                                              const Dialogs::Write& write) {
+  (void)services;
+  (void)which;
+  (void)proposed;
+  (void)write;
+  return std::nullopt;
+}
+
+Answer<ShipFixedData> ask_fixed_data(ui::Services& services, const FixedDataQuestion& question) {
+  CFixDataDlg screen(services, question.path, question.exists, question.reports, question.logbook);
+  const bool confirmed = services.windows.run_modal(screen) == text::kOk;
+  return {confirmed, screen.values()};
+}
+
+Answer<KeyObservationItems> ask_key_items(ui::Services& services, const std::string& path,
+                                          bool exists) {
+  CKeyObserveDlg screen(services, path, exists);
+  const bool confirmed = services.windows.run_modal(screen) == text::kOk;
+  return {confirmed, screen.values()};
+}
+
+void show_main_window(ui::Services& services, const mainwindow::MainWindowContext& context) {
+  (void)services;
+  (void)context;
+}
+
+}  // namespace
+
+Dialogs real_dialogs() {
+  return {ask_working_folder, ask_fixed_data, ask_key_items, show_main_window};
+}
+
+}  // namespace app
