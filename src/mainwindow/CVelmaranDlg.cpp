@@ -4,6 +4,8 @@
 
 #include "mainwindow/element_openers.h"
 #include "observation/report_encoder.h"
+#include "ship/CFixDataDlg.h"
+#include "ship/CKeyObserveDlg.h"
 #include "text/ids.h"
 
 namespace {
@@ -252,15 +254,21 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kNone:
       break;
     case Command::kCorrectReports:
+      correct_reports();
+      break;
     case Command::kPrintSelected:
     case Command::kPrintAll:
     case Command::kPrintLogbook:
     case Command::kCopyReport:
     case Command::kCopyLogbook:
     case Command::kVosClim:
-    case Command::kFixedData:
-    case Command::kObservationItem:
       services().messages.error(id::kNotInThisVersion);
+      break;
+    case Command::kFixedData:
+      edit_fixed_data();
+      break;
+    case Command::kObservationItem:
+      edit_observation_items();
       break;
     case Command::kExit:
       exit();
@@ -281,6 +289,43 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
       services().messages.error(id::kVersionInformation);
       break;
   }
+}
+
+void CVelmaranDlg::correct_reports() {
+  if (unsaved_) {
+    const int answer =
+        services().messages.question(id::kAskSaveBeforeCorrecting, text::QuestionMode::kYesNoCancel,
+                                     services().texts.get(id::kExitQuestionTitle));
+    if (answer == text::kCancel || (answer == text::kOk && !save())) return;
+  }
+  services().messages.error(id::kNotInThisVersion);
+}
+
+void CVelmaranDlg::edit_fixed_data() {
+  CFixDataDlg dialog(services(), context_.folders.fixed_data, false, context_.folders.reports,
+                     context_.folders.logbook, context_.ship);
+  if (services().windows.run_modal(dialog) != text::kOk) return;
+  context_.ship = dialog.values();
+  if (context_.save_fixed_data) context_.save_fixed_data();
+  ship_changed();
+  show_menu();
+}
+
+void CVelmaranDlg::edit_observation_items() {
+  CKeyObserveDlg dialog(services(), context_.folders.key_items, false);
+  if (services().windows.run_modal(dialog) != text::kOk) return;
+  context_.items = dialog.values();
+  ship_changed();
+}
+
+// What the record has from the ship when it is built follows the ship.
+void CVelmaranDlg::ship_changed() {
+  const Struct_Weather fresh(context_.ship, context_.items);
+  record_.iw = fresh.iw;
+  record_.iX = fresh.iX;
+  record_.CallSign = fresh.CallSign;
+  record_.ShipFixed = fresh.ShipFixed;
+  refresh();
 }
 
 void CVelmaranDlg::loading_state_chosen() {

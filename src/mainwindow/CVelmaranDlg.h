@@ -78,6 +78,10 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void focus_behind(const ui::Control* last);
   [[nodiscard]] const ui::Control* last_field_of(int element) const;
   bool leave(const Field& field);
+  void correct_reports();
+  void edit_fixed_data();
+  void edit_observation_items();
+  void ship_changed();
   void loading_state_chosen();
   void switch_language(text::Language language);
   void exit();
