@@ -4,11 +4,9 @@
 #include <iostream>
 #include <optional>
 
+#include "app/CVelmaranApp.h"
 #include "headless/session.h"
 #include "platform/posix/system.h"
-#include "text/help.h"
-#include "text/messages.h"
-#include "ui/services.h"
 
 namespace cli {
 namespace {
@@ -50,24 +48,13 @@ std::optional<SessionArguments> read_arguments(const std::vector<std::string>& a
   return result;
 }
 
-// The whole program, from start-up to the closing of the main window.
-void run_program(ui::Services& /*services*/) {}
-
 headless::Status play(std::istream& script, platform::posix::System& system,
                       const headless::Options& options) {
   const auto program = [&system](const headless::Doors& doors) {
-    text::Texts texts;
-    text::Messages messages(texts, doors.windows);
-    // The folder part of the path that the program was started by.
-    const std::string path = system.drives().program_path();
-    const auto end = path.rfind('\\');
-    text::HelpLauncher help(
-        texts, doors.help,
-        end == std::string::npos ? system.files().current_folder() : path.substr(0, end));
-    ui::Services services{system.clock(), system.locale(), system.drives(),
-                          system.files(), doors.printer,   doors.windows,
-                          texts,          messages,        help};
-    run_program(services);
+    app::CVelmaranApp app({system.clock(), system.locale(), system.drives(), system.files(),
+                           doors.printer, doors.windows, doors.help});
+    // A start-up that ends silently shows nothing, so nothing is said of it here either.
+    (void)app.run();
   };
   return headless::run_session(script, std::cout, std::cerr, program, options);
 }

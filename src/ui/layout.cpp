@@ -1,5 +1,7 @@
 #include "ui/layout.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "text/numbers.h"
@@ -41,6 +43,27 @@ LayoutNode control_node(std::string_view word) {
   return node;
 }
 
+LayoutNode row_of(const std::vector<std::string_view>& names) {
+  LayoutNode node;
+  node.type = LayoutNode::Type::kRow;
+  for (const std::string_view name : names) node.children.push_back(control_node(name));
+  return node;
+}
+
+bool is_verb(std::string_view word) {
+  static constexpr std::string_view kVerbs[] = {"rows", "columns", "group", "grid",
+                                                "row",  "buttons", "space", "end"};
+  return std::find(std::begin(kVerbs), std::end(kVerbs), word) != std::end(kVerbs);
+}
+
+// Letters, digits and "_", and the mark of where the caption stands.
+bool is_name(std::string_view word) {
+  if (word.ends_with('^') || word.ends_with('-')) word.remove_suffix(1);
+  return !word.empty() && std::all_of(word.begin(), word.end(), [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+  });
+}
+
 // One line into the open containers; the reason when it is wrong.
 std::string take_line(const std::vector<std::string_view>& words, std::vector<LayoutNode>& open) {
   const std::string_view verb = words.front();
@@ -54,8 +77,8 @@ std::string take_line(const std::vector<std::string_view>& words, std::vector<La
   }
   if (verb == "row" || verb == "buttons") {
     if (words.size() < 2) return std::string(verb) + " without a control";
-    node.type = verb == "row" ? LayoutNode::Type::kRow : LayoutNode::Type::kButtons;
-    for (std::size_t i = 1; i < words.size(); ++i) node.children.push_back(control_node(words[i]));
+    node = row_of({words.begin() + 1, words.end()});
+    if (verb == "buttons") node.type = LayoutNode::Type::kButtons;
     open.back().children.push_back(std::move(node));
     return {};
   }
@@ -74,6 +97,9 @@ std::string take_line(const std::vector<std::string_view>& words, std::vector<La
   } else if (verb == "grid" && words.size() == 2 && text::leading_int(words[1]) > 0) {
     node.type = LayoutNode::Type::kGrid;
     node.grid_columns = text::leading_int(words[1]);
+  } else if (!is_verb(verb) && std::all_of(words.begin(), words.end(), is_name)) {
+    open.back().children.push_back(row_of(words));
+    return {};
   } else {
     return "unknown: " + std::string(verb);
   }

@@ -8,7 +8,7 @@
 //   label with on_press makes
 //                        the title clickable); children one below the other
 //   grid N               N cells a line, filled in order, so that captions and values line up
-//   row NAME NAME …      controls on one line
+//   row NAME NAME …      controls on one line; a line of names alone is a row too
 //   buttons NAME …       the line of buttons at the bottom, right-aligned
 //   space                takes up what room is left
 //   end                  closes rows, columns, group and grid

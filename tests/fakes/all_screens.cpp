@@ -1,0 +1,148 @@
+#include "fakes/all_screens.h"
+
+#include "archive/CCreateDir.h"
+#include "archive/CShowStatusDlg.h"
+#include "elements/CCountDewDlg.h"
+#include "elements/CLookWindDlg.h"
+#include "elements/CPresureTendencyDlg.h"
+#include "elements/CSeaSurfacePressureDlg.h"
+#include "elements/CTemperatureAndDewDlg.h"
+#include "elements/CThumidityDlg.h"
+#include "elements/CTrueDirWindDlg.h"
+#include "mainwindow/CVelmaranDlg.h"
+#include "media/CLogDiskSavePathDlg.h"
+#include "ship/CFixDataDlg.h"
+#include "ship/CFullEmptySelect.h"
+#include "ship/CKataInputDlg.h"
+#include "ship/CKataSelectDlg.h"
+#include "ship/CKeyObserveDlg.h"
+
+namespace fakes {
+namespace {
+
+using Made = std::unique_ptr<ui::Screen>;
+
+ShipFixedData sample_ship() {
+  ShipFixedData ship;
+  ship.call_sign = "JABC";
+  ship.imo_number = "9074729";
+  ship.card.check_date = "2014/10/01";
+  ship.card.check_port = "YOKOHAMA";
+  ship.card.type = CardType::kHeightAndTemperature;
+  ship.card.loading_state = LoadingState::kFullLoad;
+  ship.card.instrumental_correction = "+0.3";
+  ship.card.height_full_load = "18";
+  ship.card.total_correction_full_load = "+2.5";
+  ship.card.height_ballast = "24";
+  ship.card.total_correction_ballast = "+3.2";
+  ship.vosclim = true;
+  ship.aws_fitted = true;
+  ship.aws_manufacturer = "SAMPLE MAKER CO., LTD.";
+  return ship;
+}
+
+// What the application owns, for as long as the main window is there.
+struct Owned {
+  ShipFixedData ship = sample_ship();
+  KeyObservationItems items;
+  mainwindow::Folders folders{
+      "C:\\kavrel\\data\\tlx\\", "C:\\kavrel\\data\\log\\", {}, {}, {}, "C:\\none", "C:\\none"};
+};
+
+class MainWindow : private Owned, public CVelmaranDlg {
+ public:
+  explicit MainWindow(ui::Services& services)
+      : CVelmaranDlg(services, {ship, items, folders, {}, {}, {}}) {}
+};
+
+std::vector<ScreenCase> make_table() {
+  return {
+      // archive
+      {"CCreateDir",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CCreateDir>(services, "C:\\kavrel\\data");
+       }},
+      {"CShowStatusDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
+      // codetables
+      // elements
+      {"CCountDewDlg",
+       [](ui::Services& services) -> Made {
+         CCountDewDlg::Values values;
+         values.dry = "18.3";
+         values.wet = "15.1";
+         return std::make_unique<CCountDewDlg>(services, values);
+       }},
+      {"CLookWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CLookWindDlg>(
+             services, elements::ApparentWindTexts{"045", " 18.5", "090", "092", "12.5"});
+       }},
+      {"CPresureTendencyDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPresureTendencyDlg>(services, "3", "012");
+       }},
+      {"CSeaSurfacePressureDlg",
+       [](ui::Services& services) -> Made {
+         CSeaSurfacePressureDlg::Values values;
+         values.reading = "1013.2";
+         values.air_temperature = "18.3";
+         values.card = sample_ship().card;
+         return std::make_unique<CSeaSurfacePressureDlg>(services, values,
+                                                         CSeaSurfacePressureDlg::CardActions{});
+       }},
+      {"CTemperatureAndDewDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CTemperatureAndDewDlg>(
+             services, CTemperatureAndDewDlg::Values{"18.3", "12.0"});
+       }},
+      {"CThumidityDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CThumidityDlg>(services, "68", 1.0);
+       }},
+      {"CTrueDirWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CTrueDirWindDlg>(services, "18", "12");
+       }},
+      // mainwindow
+      {"CVelmaranDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<MainWindow>(services); }},
+      // media
+      {"CLogDiskSavePathDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CLogDiskSavePathDlg>(
+             services, CLogDiskSavePathDlg::Mode::kReport,
+             CLogDiskSavePathDlg::Folders{{}, "C:\\kavrel\\data", {}},
+             [](std::string_view, std::string_view) {});
+       }},
+      // ship
+      {"CFixDataDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CFixDataDlg>(services, "C:\\none", false, "C:\\kavrel\\data\\tlx",
+                                              "C:\\kavrel\\data\\log", sample_ship());
+       }},
+      {"CFullEmptySelect",
+       [](ui::Services& services) -> Made { return std::make_unique<CFullEmptySelect>(services); }},
+      {"CKataInputDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CKataInputDlg>(services, sample_ship().card);
+       }},
+      {"CKataSelectDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CKataSelectDlg>(services, CardType::kTotalCorrection);
+       }},
+      {"CKeyObserveDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
+       }},
+  };
+}
+
+}  // namespace
+
+const std::vector<ScreenCase>& all_screens() {
+  static const std::vector<ScreenCase> kTable = make_table();
+  return kTable;
+}
+
+}  // namespace fakes
