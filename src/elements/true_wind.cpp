@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "elements/rounding.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -19,7 +20,7 @@ int from_direction(double x, double y) {
   const double angle = std::atan2(x, y) / kRadiansPerDegree;
   double degrees = 90.0 - (angle + 0.5 + 180.0);
   if (degrees < 0.0) degrees += 360.0;
-  return static_cast<int>(degrees + 0.5);
+  return static_cast<int>(truncated(degrees + 0.5));
 }
 
 }  // namespace
@@ -69,6 +70,20 @@ std::optional<TrueWindTexts> true_wind_of_texts(const ApparentWindTexts& texts) 
                                    .direction = {text::leading_int(direction)},
                                    .speed = {text::leading_number(speed)}});
   return TrueWindTexts{text::format_int(wind.code), text::format_int(wind.speed)};
+}
+
+WindFigures wind_figures(std::string_view direction, std::string_view speed) {
+  direction = text::trim(direction);
+  speed = text::trim(speed);
+  WindFigures figures{std::string(direction), std::string(speed), {}};
+  if (text::is_all_digits(direction))
+    figures.dd = text::format_digits(text::leading_int(direction), 2);
+  if (speed.empty() || speed == "//") return figures;
+  const long long units =
+      truncated(std::min(whole_units({text::leading_number(speed)}), kLargestSpeed));
+  figures.ff = text::format_digits(std::min(units, 99LL), 2);
+  if (units >= 99) figures.fff = text::format_digits(units, 3);
+  return figures;
 }
 
 }  // namespace elements

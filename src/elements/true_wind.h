@@ -49,4 +49,12 @@ struct ApparentWindTexts {
 };
 [[nodiscard]] std::optional<TrueWindTexts> true_wind_of_texts(const ApparentWindTexts& texts);
 
+/// The form's true direction and speed as the record's figures: two for the direction, two for the
+/// whole speed; from 99 units up ff is "99" and fff has the speed in three. "//" stays, empty too.
+struct WindFigures {
+  std::string dd, ff, fff;
+  bool operator==(const WindFigures&) const = default;
+};
+[[nodiscard]] WindFigures wind_figures(std::string_view direction, std::string_view speed);
+
 }  // namespace elements

@@ -115,6 +115,25 @@ TEST(TrueWindOfTexts, SurvivesWildTexts) {
   }
 }
 
+TEST(WindFigures, SpeedsFrom99UnitsUpGoToThreeFigures) {
+  using elements::WindFigures;
+  struct Row {
+    const char* direction;
+    const char* speed;
+    WindFigures figures;
+  };
+  for (const Row& row :
+       {Row{"14", "14", {"14", "14", ""}}, Row{"0", "0", {"00", "00", ""}},
+        Row{"5", "98", {"05", "98", ""}}, Row{"36", "98.4", {"36", "98", ""}},
+        Row{"36", "98.5", {"36", "99", "099"}}, Row{"36", "99", {"36", "99", "099"}},
+        Row{"36", "120", {"36", "99", "120"}}, Row{"36", "1e300", {"36", "99", "999"}},
+        Row{"00", "0.3", {"00", "00", ""}}, Row{"//", "//", {"//", "//", ""}},
+        Row{"", "", {"", "", ""}}}) {
+    EXPECT_EQ(elements::wind_figures(row.direction, row.speed), row.figures)
+        << row.direction << ' ' << row.speed;
+  }
+}
+
 TEST(TrueWindRules, DirectionAndSpeedGoTogether) {
   struct Row {
     const char* direction;
