@@ -272,6 +272,8 @@ void CFixDataDlg::edit_card() {
   if (!renew_card(services(), copy)) return;
   draft_.card = std::move(copy);
   show_card();
+  // On to the next field, so that Enter does not open the card again.
+  if (focused() == &card_button) focus(*neighbour(&card_button, true));
 }
 
 bool CFixDataDlg::check_card() {

@@ -76,14 +76,18 @@ std::size_t decimals(std::string_view value) {
   return point == std::string_view::npos ? 0 : value.size() - point - 1;
 }
 
-// A value that is missing itself bounds nothing: it is asked for first.
+bool is_well_formed(const std::string& value, Form form) {
+  return form == Form::kHeight ? text::is_all_digits(value) : is_numeric(value);
+}
+
+// A partner that is missing or no number bounds nothing: it gets a message of its own.
 bool in_range(const BarometerCard& card, const Row& row, bool compare_states) {
   const double value = text::leading_number(card.*row.value);
   if (value < row.lowest || value > row.highest) return false;
   const CardField partner = row.not_above != kNone ? row.not_above : row.not_below;
   if (!compare_states || partner == kNone) return true;
   const std::string& bound = card.*row_of(partner)->value;
-  if (bound.empty()) return true;
+  if (!is_well_formed(bound, row.form)) return true;
   return row.not_above != kNone ? value <= text::leading_number(bound)
                                 : value >= text::leading_number(bound);
 }
@@ -92,18 +96,10 @@ bool in_range(const BarometerCard& card, const Row& row, bool compare_states) {
 int value_fault(const BarometerCard& card, const Row& row, bool compare_states) {
   const std::string& value = card.*row.value;
   if (value.empty()) return row.missing;
-  switch (row.form) {
-    case Form::kText:
-      return 0;
-    case Form::kHeight:
-      if (!text::is_all_digits(value)) return row.malformed;
-      return in_range(card, row, compare_states) ? 0 : row.out_of_range;
-    case Form::kCorrection:
-      if (!is_numeric(value)) return row.malformed;
-      if (!in_range(card, row, compare_states)) return row.out_of_range;
-      return decimals(value) > 1 ? id::kOneDecimalOnly : 0;
-  }
-  return 0;
+  if (row.form == Form::kText) return 0;
+  if (!is_well_formed(value, row.form)) return row.malformed;
+  if (!in_range(card, row, compare_states)) return row.out_of_range;
+  return decimals(value) > 1 ? id::kOneDecimalOnly : 0;
 }
 
 }  // namespace
