@@ -1,13 +1,54 @@
+// kavrel-cli: the program without windows.
+
 #include <iostream>
 #include <string>
 #include <vector>
 
+#include "cli/commands.h"
 #include "cli/session_command.h"
 
+namespace {
+
+struct Command {
+  const char* name;
+  int (*run)(const std::vector<std::string>& arguments);
+  const char* help;
+};
+
+constexpr Command kCommands[] = {
+    {"encode", cli::encode_command, "observations to reports and logbook lines, as JSON"},
+    {"read", cli::read_command, "reports back to observations"},
+    {"save", cli::save_command, "observations to report files and the logbook"},
+    {"session", cli::session_command, "the whole program, steered by a script"},
+};
+
+int help(std::ostream& out, int status) {
+  out << "usage: kavrel-cli COMMAND [ARGUMENTS]\n";
+  for (const Command& command : kCommands)
+    out << "  " << command.name << std::string(9 - std::string(command.name).size(), ' ')
+        << command.help << "\n";
+  return status;
+}
+
+}  // namespace
+
+namespace cli {
+
+int usage(const std::string& reason, const char* usage) {
+  std::cerr << "kavrel-cli: " << reason << "\nusage: " << usage << "\n";
+  return kWrong;
+}
+
+}  // namespace cli
+
 int main(int count, char** words) {
+  std::ios::sync_with_stdio(false);
   const std::vector<std::string> arguments(words + (count > 0 ? 1 : 0), words + count);
-  if (!arguments.empty() && arguments.front() == "session")
-    return cli::session_command({arguments.begin() + 1, arguments.end()});
-  std::cerr << "usage: kavrel-cli session\n";
-  return 2;
+  if (arguments.empty()) return help(std::cerr, cli::kWrong);
+  if (arguments.front() == "--help") return help(std::cout, cli::kOk);
+  for (const Command& command : kCommands)
+    if (arguments.front() == command.name)
+      return command.run({arguments.begin() + 1, arguments.end()});
+  std::cerr << "kavrel-cli: unknown command " << arguments.front() << "\n";
+  return help(std::cerr, cli::kWrong);
 }

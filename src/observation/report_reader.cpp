@@ -6,6 +6,7 @@
 
 #include "observation/report_groups.h"
 #include "observation/report_text.h"
+#include "observation/ship_values.h"
 #include "text/strings.h"
 
 namespace observation {
@@ -19,13 +20,6 @@ bool is_group(std::string_view word) {
 
 bool is_latitude_group(std::string_view word) {
   return is_group(word) && word.starts_with("99");
-}
-
-// A call sign goes back into a report as it is, so it may hold nothing that would end or break one.
-bool is_call_sign(std::string_view word) {
-  return !word.empty() && std::all_of(word.begin(), word.end(), [](char c) {
-    return c > ' ' && c < '\x7f' && c != '=' && c != '.' && c != '&';
-  });
 }
 
 bool is_section_mark(std::string_view word) {
@@ -75,7 +69,7 @@ class Reader {
     for (std::size_t at = 0; at < before_groups; ++at) {
       const Word word = words_.next();
       if (word.empty()) return false;
-      if (at == 0 && is_call_sign(word.text()))
+      if (at == 0 && is_report_call_sign(word.text()))
         result_.record.CallSign = word.text();
       else
         name(word.text(), Unplaced::kCallSign);

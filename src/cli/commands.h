@@ -1,0 +1,30 @@
+#pragma once
+// The commands that work on observations without any dialog. Each takes the words behind its name
+// and gives the exit status: 0, or 2 for wrong arguments and wrong input, told on standard error as
+// "FILE:LINE: reason".
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+inline constexpr int kOk = 0;
+inline constexpr int kWrong = 2;
+
+/// encode [--language en|ja] [FILE]: each observation becomes a line of JSON with its report, the
+/// missing groups and the logbook line.
+int encode_command(const std::vector<std::string>& arguments);
+
+/// read [FILE]: each report becomes the lines of an observation file, with a comment for every word
+/// that could not be placed.
+int read_command(const std::vector<std::string>& arguments);
+
+/// save --reports DIR --logbook DIR [--replace] [FILE]: writes both files of each observation and
+/// tells where.
+int save_command(const std::vector<std::string>& arguments);
+
+/// "kavrel-cli: REASON" on standard error, with the command's usage.
+int usage(const std::string& reason, const char* usage);
+
+}  // namespace cli

@@ -1,0 +1,61 @@
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "cli/commands.h"
+#include "cli/observations.h"
+#include "observation/logbook_encoder.h"
+#include "observation/report_encoder.h"
+
+namespace cli {
+namespace {
+
+constexpr const char* kUsage = "kavrel-cli encode [--language en|ja] [FILE]";
+
+std::string products(const observation::ObservationReader& observed, text::Language language) {
+  std::string report;
+  std::string missing;
+  observation::encode_report(observed.record(), report, missing,
+                             observation::wants_wet_bulb(observed.ship()), language);
+  nlohmann::ordered_json line;
+  line["report"] = std::move(report);
+  line["missing"] = std::move(missing);
+  line["logbook"] =
+      observation::encode_logbook(observed.record(), observed.ship(), observed.items());
+  return line.dump() + "\n";
+}
+
+}  // namespace
+
+int encode_command(const std::vector<std::string>& arguments) {
+  text::Language language = text::Language::kEnglish;
+  std::string file;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& word = arguments[i];
+    if (word == "--language") {
+      if (++i == arguments.size()) return usage("--language wants en or ja", kUsage);
+      if (arguments[i] != "en" && arguments[i] != "ja")
+        return usage("unknown language " + arguments[i], kUsage);
+      language = arguments[i] == "ja" ? text::Language::kJapanese : text::Language::kEnglish;
+    } else if (word.starts_with("--") || !file.empty()) {
+      return usage("unknown argument " + word, kUsage);
+    } else {
+      file = word;
+    }
+  }
+  Input input(file);
+  const auto any = [](const observation::ObservationReader&) -> std::optional<std::string> {
+    return std::nullopt;
+  };
+  const auto print = [&](const observation::ObservationReader& observed) {
+    std::cout << products(observed, language);
+    return std::cout ? std::nullopt : std::optional<std::string>("standard output is closed");
+  };
+  const bool done = for_each_observation(input, any, print);
+  if (!std::cout.flush()) {
+    complain(input, 0, "the result cannot be written");
+    return kWrong;
+  }
+  return done ? kOk : kWrong;
+}
+
+}  // namespace cli

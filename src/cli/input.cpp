@@ -1,0 +1,51 @@
+#include "cli/input.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+
+namespace cli {
+
+Input::Input(const std::string& name) : name_(name), in_(&file_) {
+  if (name.empty() || name == "-") {
+    name_ = "standard input";
+    in_ = &std::cin;
+    start_ = std::cin.tellg();  // nowhere for a pipe or a terminal
+    std::cin.clear();
+    can_rewind_ = start_ != std::streampos(-1);
+    return;
+  }
+  std::error_code ignored;
+  if (std::filesystem::is_directory(name, ignored)) {
+    problem_ = "is a folder";
+    return;
+  }
+  errno = 0;
+  file_.open(name, std::ios::binary);
+  if (!file_) problem_ = errno == 0 ? "cannot be opened" : std::strerror(errno);
+  can_rewind_ = std::filesystem::is_regular_file(name, ignored);
+}
+
+Input::Line Input::next(std::string& line, std::size_t longest) {
+  using Traits = std::streambuf::traits_type;
+  line.clear();
+  std::streambuf& buffer = *in_->rdbuf();
+  try {
+    for (int c = buffer.sbumpc();; c = buffer.sbumpc()) {
+      if (c == Traits::eof()) return line.empty() ? Line::kEnd : Line::kLine;
+      if (c == '\n') return Line::kLine;
+      line.push_back(Traits::to_char_type(c));
+      if (line.size() > longest) return Line::kTooLong;
+    }
+  } catch (const std::exception&) {
+    return Line::kUnreadable;  // the library's file buffer reports a failed read this way
+  }
+}
+
+void Input::rewind() {
+  in_->clear();
+  in_->seekg(start_);
+}
+
+}  // namespace cli

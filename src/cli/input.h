@@ -1,0 +1,40 @@
+#pragma once
+// The text that a command reads, line by line, from a file or from standard input.
+
+#include <cstdint>
+#include <fstream>
+#include <istream>
+#include <string>
+
+namespace cli {
+
+class Input {
+ public:
+  /// An empty name or "-" is standard input.
+  explicit Input(const std::string& name);
+
+  /// Empty when the input could be opened; else why not ("is a folder").
+  [[nodiscard]] const std::string& problem() const { return problem_; }
+  /// What messages call it.
+  [[nodiscard]] const std::string& name() const { return name_; }
+
+  enum class Line : std::uint8_t { kLine, kTooLong, kEnd, kUnreadable };
+  /// The next line without its line end. Of a line above `longest` bytes only the beginning is
+  /// kept, and the rest is left unread.
+  [[nodiscard]] Line next(std::string& line, std::size_t longest);
+
+  /// True for a file that can be read a second time, so that all of it can be checked before
+  /// anything is written.
+  [[nodiscard]] bool can_rewind() const { return can_rewind_; }
+  void rewind();
+
+ private:
+  std::string name_;
+  std::string problem_;
+  std::ifstream file_;
+  std::istream* in_;
+  std::streampos start_ = 0;
+  bool can_rewind_ = false;
+};
+
+}  // namespace cli

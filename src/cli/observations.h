@@ -1,0 +1,24 @@
+#pragma once
+// Going through the observations of an input.
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "cli/input.h"
+#include "observation/observation_file.h"
+
+namespace cli {
+
+/// Told on standard error.
+void complain(const Input& input, std::size_t line, const std::string& reason);
+
+/// What to do with an observation; a text is the reason why it is refused.
+using Use = std::function<std::optional<std::string>(const observation::ObservationReader&)>;
+
+/// Hands every observation to `check` and then to `use`. A file is checked to its end before the
+/// first observation is used, so that a wrong one leaves nothing done; standard input is checked
+/// observation by observation. False after the first refusal or fault, which has been told.
+[[nodiscard]] bool for_each_observation(Input& input, const Use& check, const Use& use);
+
+}  // namespace cli

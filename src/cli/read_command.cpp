@@ -1,0 +1,151 @@
+#include <iostream>
+
+#include "cli/commands.h"
+#include "cli/observations.h"
+#include "observation/report_reader.h"
+#include "observation/report_text.h"
+#include "text/strings.h"
+
+namespace cli {
+namespace {
+
+constexpr const char* kUsage = "kavrel-cli read [FILE]";
+/// No report is longer, however many telex lines it takes.
+constexpr std::size_t kLongestReport = 16U << 10U;
+
+using observation::Unplaced;
+
+std::string_view reason_of(Unplaced why) {
+  switch (why) {
+    case Unplaced::kOutsideReport:
+      return "outside the report";
+    case Unplaced::kCallSign:
+      return "not a call sign";
+    case Unplaced::kNotAGroup:
+      return "not a group of five figures";
+    case Unplaced::kOutOfRange:
+      return "not the group expected here";
+    case Unplaced::kNoField:
+      return "a group without a field";
+    case Unplaced::kRepeated:
+      return "a group that was there before";
+    case Unplaced::kOtherSection:
+      return "section 3 or later";
+    case Unplaced::kIcePlainText:
+      return "ice in plain language";
+  }
+  return "";
+}
+
+// Comment lines, so that the output can be encoded again.
+void name_unplaced(std::ostream& out, std::string_view text, Unplaced why) {
+  while (!text.empty()) {
+    const auto end = text.find_first_of("\r\n");
+    const std::string_view line = text::trim(text.substr(0, end));
+    if (!line.empty()) out << "# not placed: " << line << " (" << reason_of(why) << ")\n";
+    if (end == std::string_view::npos) break;
+    text.remove_prefix(end + 1);
+  }
+}
+
+/// Cuts the lines of an input into reports and prints each.
+class Printer {
+ public:
+  explicit Printer(std::ostream& out) : out_(out) {}
+
+  /// False for a report that does not end.
+  [[nodiscard]] bool take(std::string_view line) {
+    if (line.starts_with('#')) return true;
+    if (pending_.empty() && !observation::find_report(line)) {
+      outside(line);
+      return true;
+    }
+    pending_.append(line).append("\n");
+    for (auto found = observation::find_report(pending_); found && found->ended;
+         found = observation::find_report(pending_)) {
+      print(std::string_view(pending_).substr(0, found->length));
+      pending_.erase(0, found->length);
+    }
+    if (!observation::find_report(pending_)) {
+      outside(pending_);
+      pending_.clear();
+    }
+    return pending_.size() <= kLongestReport;
+  }
+
+  void finish() {
+    if (!pending_.empty()) print(pending_);
+  }
+
+  [[nodiscard]] int reports() const { return reports_; }
+
+ private:
+  void outside(std::string_view text) {
+    if (text::trim(text) != "NNNN") name_unplaced(out_, text, Unplaced::kOutsideReport);
+  }
+
+  void print(std::string_view text) {
+    const Struct_Weather fresh({}, {});
+    const auto report = observation::read_report(text, fresh);
+    if (!report) return;
+    if (++reports_ > 1) out_ << "\n";
+    // The group is written only for a ship that computes its dew point from it.
+    if (report->has_wet_bulb) out_ << "ship.dew_point_method=1\n";
+    std::string lines;
+    observation::write_observation(lines, report->record, fresh);
+    out_ << lines;
+    for (const auto& each : report->unplaced) name_unplaced(out_, each.text, each.why);
+  }
+
+  std::ostream& out_;
+  std::string pending_;
+  int reports_ = 0;
+};
+
+}  // namespace
+
+int read_command(const std::vector<std::string>& arguments) {
+  std::string file;
+  for (const std::string& word : arguments) {
+    if (word.starts_with("--") || !file.empty()) return usage("unknown argument " + word, kUsage);
+    file = word;
+  }
+  Input input(file);
+  if (!input.problem().empty()) {
+    complain(input, 0, input.problem());
+    return kWrong;
+  }
+  Printer printer(std::cout);
+  std::string line;
+  std::size_t number = 0;
+  for (bool more = true; more;) {
+    ++number;
+    switch (input.next(line, kLongestReport)) {
+      case Input::Line::kLine:
+        if (printer.take(line)) break;
+        [[fallthrough]];
+      case Input::Line::kTooLong:
+        complain(input, number,
+                 "no report is longer than " + std::to_string(kLongestReport) + " bytes");
+        return kWrong;
+      case Input::Line::kUnreadable:
+        complain(input, number, "cannot be read");
+        return kWrong;
+      case Input::Line::kEnd:
+        more = false;
+        break;
+    }
+  }
+  printer.finish();
+  if (printer.reports() == 0) {
+    complain(input, 0, "holds no report (no word BBXX)");
+    return kWrong;
+  }
+  if (!std::cout.flush()) {
+    complain(input, 0, "the result cannot be written");
+    return kWrong;
+  }
+  return kOk;
+}
+
+}  // namespace cli
