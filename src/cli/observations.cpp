@@ -30,23 +30,6 @@ std::string reason_of(const ObservationError& error) {
   return "wrong";
 }
 
-// Bytes that a terminal would take for a command are shown by their number.
-std::string shown(const std::string& text) {
-  constexpr char kHex[] = "0123456789ABCDEF";
-  std::string result;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0x20 && byte < 0x7f) {
-      result.push_back(c);
-    } else {
-      result.append("\\x");
-      result.push_back(kHex[byte >> 4U]);
-      result.push_back(kHex[byte & 15U]);
-    }
-  }
-  return result;
-}
-
 bool go_through(Input& input, const Use& use) {
   ObservationReader reader;
   std::string line;
@@ -73,6 +56,22 @@ bool go_through(Input& input, const Use& use) {
 }
 
 }  // namespace
+
+std::string shown(std::string_view text) {
+  constexpr char kHex[] = "0123456789ABCDEF";
+  std::string result;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte >= 0x20 && byte != 0x7f) {
+      result.push_back(c);
+    } else {
+      result.append("\\x");
+      result.push_back(kHex[byte >> 4U]);
+      result.push_back(kHex[byte & 15U]);
+    }
+  }
+  return result;
+}
 
 void complain(const Input& input, std::size_t line, const std::string& reason) {
   std::cerr << "kavrel-cli: " << input.name();

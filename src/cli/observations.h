@@ -4,6 +4,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "cli/input.h"
 #include "observation/observation_file.h"
@@ -12,6 +13,9 @@ namespace cli {
 
 /// Told on standard error.
 void complain(const Input& input, std::size_t line, const std::string& reason);
+
+/// The text with its control characters by number ("\x1B"), so that a terminal obeys none of them.
+[[nodiscard]] std::string shown(std::string_view text);
 
 /// What to do with an observation; a text is the reason why it is refused.
 using Use = std::function<std::optional<std::string>(const observation::ObservationReader&)>;

@@ -42,7 +42,7 @@ void name_unplaced(std::ostream& out, std::string_view text, Unplaced why) {
   while (!text.empty()) {
     const auto end = text.find_first_of("\r\n");
     const std::string_view line = text::trim(text.substr(0, end));
-    if (!line.empty()) out << "# not placed: " << line << " (" << reason_of(why) << ")\n";
+    if (!line.empty()) out << "# not placed: " << shown(line) << " (" << reason_of(why) << ")\n";
     if (end == std::string_view::npos) break;
     text.remove_prefix(end + 1);
   }

@@ -1,0 +1,318 @@
+// The commands as a user runs them: the real program, real files.
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+  int status = -1;  ///< exit status; a signal is told as its negative number
+  std::string out, error;
+};
+
+std::string slurp(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
+}
+
+class Cli : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = (fs::temp_directory_path() / "kavrel-cli-test.XXXXXX").string();
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    folder_ = pattern;
+    fs::create_directory(folder_ / "reports");
+    fs::create_directory(folder_ / "logbook");
+  }
+  void TearDown() override { fs::remove_all(folder_); }
+
+  std::string file(const std::string& name, const std::string& content) const {
+    std::ofstream(folder_ / name, std::ios::binary) << content;
+    return (folder_ / name).string();
+  }
+
+  /// Runs the program with words that need no quoting; `input` goes to its standard input, through
+  /// a pipe.
+  Outcome run(const std::string& arguments, const std::string& input = "") const {
+    const std::string in = file("stdin", input);
+    const std::string command = "cd '" + folder_.string() + "' && cat '" + in + "' | env -i " +
+                                std::string(KAVREL_CLI) + " " + arguments +
+                                (arguments.find('>') == std::string::npos ? " >stdout" : "") +
+                                " 2>stderr";
+    const int raw = std::system(command.c_str());
+    Outcome outcome;
+    outcome.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -WTERMSIG(raw);
+    outcome.out = slurp(folder_ / "stdout");
+    outcome.error = slurp(folder_ / "stderr");
+    return outcome;
+  }
+
+  std::vector<std::string> saved() const {
+    std::vector<std::string> names;
+    for (const char* sub : {"reports", "logbook"})
+      for (const auto& entry : fs::directory_iterator(folder_ / sub))
+        names.push_back(entry.path().filename().string());
+    return names;
+  }
+
+  fs::path folder_;
+};
+
+const char* const kObservation =
+    "ship.call_sign=JXKV\nship.wind_speed_method=1\nYear=2014\nMonth=11\nYY=15\nGG=12\nQc=1\n"
+    "LaDeg=35\nLaMin=42\nLoDeg=165\nLoMin=18\n";
+const char* const kReport = "BBXX JXKV 15124 99357 11653 41/// ///// 8//// 222// .....";
+
+TEST_F(Cli, EncodePrintsOneJsonObjectALine) {
+  const Outcome outcome = run("encode", std::string(kObservation) + "\nYY=16\n");
+  EXPECT_EQ(outcome.status, 0) << outcome.error;
+  EXPECT_EQ(outcome.error, "");
+  std::istringstream lines(outcome.out);
+  std::string first;
+  std::string second;
+  std::string third;
+  ASSERT_TRUE(std::getline(lines, first));
+  ASSERT_TRUE(std::getline(lines, second));
+  EXPECT_FALSE(std::getline(lines, third));
+  EXPECT_TRUE(first.starts_with("{\"report\":\"" + std::string(kReport) +
+                                "\",\"missing\":\"GroupIrIxvv   No value input\\r\\n"))
+      << first;
+  EXPECT_NE(first.find("\",\"logbook\":\"32014111512135716530/"), std::string::npos) << first;
+  EXPECT_TRUE(second.starts_with("{\"report\":\"BBXX JXKV 16//4 99/// ")) << second;
+}
+
+TEST_F(Cli, EncodeGivesTheMissingListInJapaneseWhenAsked) {
+  const Outcome outcome = run("encode --language ja", kObservation);
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.out.find("GroupNddff   未入力です\\r\\n"), std::string::npos) << outcome.out;
+  EXPECT_EQ(outcome.out.find("No value"), std::string::npos);
+}
+
+TEST_F(Cli, EncodeAsksForTheWetBulbGroupWhenTheDewPointIsComputed) {
+  const std::string wet = "Sw=0\nTbTbTb=130\n";
+  EXPECT_EQ(run("encode", kObservation + wet).out.find(" 80130 "), std::string::npos);
+  EXPECT_NE(run("encode", kObservation + wet + "ship.dew_point_method=1\n").out.find(" 80130 "),
+            std::string::npos);
+}
+
+TEST_F(Cli, EncodeReadsAFileAsItReadsStandardInput) {
+  const std::string name = file("a.obs", kObservation);
+  EXPECT_EQ(run("encode " + name).out, run("encode", kObservation).out);
+  EXPECT_EQ(run("encode " + name).out, run("encode - ", kObservation).out);
+}
+
+TEST_F(Cli, NoObservationIsNoError) {
+  for (const char* text : {"", "\n\n", "# nothing\n", "ship.call_sign=JXKV\n"}) {
+    const Outcome outcome = run("encode", text);
+    EXPECT_EQ(outcome.status, 0) << text;
+    EXPECT_EQ(outcome.out + outcome.error, "") << text;
+  }
+}
+
+struct WrongRow {
+  const char* what;
+  std::string text;
+  const char* told;  ///< behind the file's name
+};
+
+TEST_F(Cli, WrongInputIsToldWithFileLineAndReasonAndNothingIsWritten) {
+  const WrongRow rows[] = {
+      {"unknown name", std::string(kObservation) + "Pressure=1\n",
+       ":12: unknown name \"Pressure\""},
+      {"no equals", std::string(kObservation) + "VV 97\n", ":12: \"VV 97\" is no line NAME=VALUE"},
+      {"bad number", std::string(kObservation) + "ship.card_type=one\n",
+       ":12: the value of \"ship.card_type\" is not a number"},
+      {"not storable", std::string(kObservation) + "ship.temperature_unit=0.7\n",
+       ":12: the value of \"ship.temperature_unit\" cannot be stored"},
+      {"control characters", std::string(kObservation) + "VV=\x1b[2J\n",
+       ":12: the value of \"VV\" cannot be stored"},
+      {"control characters in a name", std::string(kObservation) + "\x1b[2J=1\n",
+       ":12: unknown name \"\\x1B[2J\""},
+      {"a line of megabytes", std::string(kObservation) + "VV=" + std::string(3 << 20, '9') + "\n",
+       ":12: the line is longer than 1024 bytes"},
+      {"a second observation", std::string(kObservation) + "\nYY=16\nbad\n",
+       ":14: \"bad\" is no line NAME=VALUE"},
+  };
+  for (const WrongRow& row : rows) {
+    const std::string name = file("wrong.obs", row.text);
+    const Outcome encoded = run("encode " + name);
+    EXPECT_EQ(encoded.status, 2) << row.what;
+    EXPECT_EQ(encoded.out, "") << row.what;
+    EXPECT_EQ(encoded.error, "kavrel-cli: " + name + row.told + "\n");
+    const Outcome saved_outcome = run("save --reports reports --logbook logbook " + name);
+    EXPECT_EQ(saved_outcome.status, 2) << row.what;
+    EXPECT_EQ(saved_outcome.out, "") << row.what;
+    EXPECT_EQ(saved_outcome.error, encoded.error);
+    EXPECT_TRUE(saved().empty()) << row.what;
+  }
+}
+
+TEST_F(Cli, ARecordOfMegabytesIsRefused) {
+  std::string text;
+  while (text.size() < (2U << 20U)) text += "LogText1=" + std::string(800, 'x') + "\n";
+  const Outcome outcome = run("encode " + file("long.obs", text));
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_NE(outcome.error.find("the observation is longer than 65536 bytes"), std::string::npos);
+}
+
+TEST_F(Cli, ThroughAPipeOnlyWholeLinesComeBeforeAFault) {
+  const Outcome outcome = run("encode", std::string(kObservation) + "\nYY=16\nbad\n");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(std::count(outcome.out.begin(), outcome.out.end(), '\n'), 1);
+  EXPECT_TRUE(outcome.out.ends_with("\"}\n"));
+  EXPECT_NE(outcome.error.find("standard input:14: "), std::string::npos) << outcome.error;
+}
+
+TEST_F(Cli, FilesThatCannotBeReadAreTold) {
+  for (const char* command : {"encode ", "read ", "save --reports reports --logbook logbook "}) {
+    Outcome outcome = run(command + std::string("reports"));
+    EXPECT_EQ(outcome.status, 2) << command;
+    EXPECT_EQ(outcome.error, "kavrel-cli: reports: is a folder\n");
+    outcome = run(command + std::string("none.obs"));
+    EXPECT_EQ(outcome.status, 2) << command;
+    EXPECT_EQ(outcome.error, "kavrel-cli: none.obs: No such file or directory\n");
+    if (geteuid() != 0) {
+      fs::permissions(file("secret", kObservation), fs::perms::none);
+      outcome = run(command + std::string("secret"));
+      EXPECT_EQ(outcome.status, 2) << command;
+      EXPECT_EQ(outcome.error, "kavrel-cli: secret: Permission denied\n");
+      fs::permissions(folder_ / "secret", fs::perms::owner_all);
+    }
+  }
+}
+
+TEST_F(Cli, WrongArgumentsAreToldWithTheUsage) {
+  for (const char* arguments :
+       {"", "unknown", "encode --language", "encode --language fr", "encode --quick", "encode a b",
+        "read --all", "read a b", "save", "save --reports reports", "save --logbook", "save --x",
+        "save --reports reports --logbook logbook a b"}) {
+    const Outcome outcome = run(arguments);
+    EXPECT_EQ(outcome.status, 2) << arguments;
+    EXPECT_EQ(outcome.out, "") << arguments;
+    EXPECT_NE(outcome.error.find("usage: kavrel-cli"), std::string::npos) << arguments;
+  }
+  EXPECT_EQ(run("--help").status, 0);
+}
+
+TEST_F(Cli, AClosedOutputIsAnError) {
+  const std::string name = file("a.obs", kObservation);
+  EXPECT_EQ(run("encode " + name + " >/dev/full").status, 2);
+  EXPECT_EQ(run("read " + file("a.tlx", kReport) + " >/dev/full").status, 2);
+}
+
+TEST_F(Cli, ReadPrintsTheFieldsAndNamesTheRest) {
+  const Outcome outcome =
+      run("read",
+          "FROM SHIP\nBBXX LF5$ 15121 99357 11653 41/97\n62718 40132 872xx 222// 70033=\nNNNN\n");
+  EXPECT_EQ(outcome.status, 0) << outcome.error;
+  EXPECT_EQ(outcome.out,
+            "# not placed: FROM SHIP (outside the report)\n"
+            "YY=15\nGG=12\niw=1\nQc=1\nLoDeg=165\nLaDeg=35\nLaMin=42\nLoMin=18\nh=/\nVV=97\n"
+            "iR=4\niX=1\nN=6\ndd=27\nff=18\nPPPP=0132\nDs=/\nVs=/\nCallSign=LF5$\n"
+            "# not placed: 872xx (not a group of five figures)\n"
+            "# not placed: 70033 (a group without a field)\n");
+}
+
+TEST_F(Cli, ReadShowsControlCharactersByTheirNumber) {
+  const Outcome outcome = run("read", "BBXX JXKV 15124 99357 11653 \x1b[2J 東");
+  EXPECT_EQ(outcome.status, 0) << outcome.error;
+  EXPECT_NE(outcome.out.find("# not placed: \\x1B[2J ("), std::string::npos) << outcome.out;
+  EXPECT_NE(outcome.out.find("# not placed: 東 ("), std::string::npos) << outcome.out;
+}
+
+TEST_F(Cli, WhatWasReadEncodesToTheSameReports) {
+  const Outcome first = run("encode " + std::string(KAVREL_SOURCE) + "/examples/north_pacific.obs");
+  ASSERT_EQ(first.status, 0) << first.error;
+  const std::string report = first.out.substr(11, first.out.find("\",\"missing") - 11);
+  const Outcome read = run("read", report + "\n" + kReport);
+  ASSERT_EQ(read.status, 0) << read.error;
+  const Outcome again = run("encode", read.out);
+  ASSERT_EQ(again.status, 0) << again.error;
+  EXPECT_NE(again.out.find("{\"report\":\"" + report + "\""), std::string::npos) << again.out;
+  EXPECT_NE(again.out.find("{\"report\":\"" + std::string(kReport) + "\""), std::string::npos);
+}
+
+TEST_F(Cli, RealReportsAreReadOneByOne) {
+  const Outcome outcome = run("read " + std::string(KAVREL_TEST_DATA) + "/ship_reports.txt");
+  EXPECT_EQ(outcome.status, 0) << outcome.error;
+  std::size_t reports = 0;
+  for (auto at = outcome.out.find("CallSign="); at != std::string::npos;
+       at = outcome.out.find("CallSign=", at + 1))
+    ++reports;
+  EXPECT_EQ(reports, 29U);
+  EXPECT_NE(outcome.out.find("# not placed: 872xx ("), std::string::npos);
+  EXPECT_NE(outcome.out.find("# not placed: ICE //// ("), std::string::npos);
+}
+
+TEST_F(Cli, TextWithoutReportOrEndIsRefused) {
+  Outcome outcome = run("read", "no report here\n");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.error, "kavrel-cli: standard input: holds no report (no word BBXX)\n");
+  std::string endless = "BBXX JXKV 15124\n";
+  while (endless.size() < 40000) endless += "40132 40132 40132\n";
+  outcome = run("read", endless);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_NE(outcome.error.find("no report is longer than"), std::string::npos) << outcome.error;
+}
+
+TEST_F(Cli, SaveWritesBothFilesAndSaysWhere) {
+  const Outcome outcome = run("save --reports reports --logbook logbook/", kObservation);
+  EXPECT_EQ(outcome.status, 0) << outcome.error;
+  const fs::path report = folder_ / "reports" / "14111512.tlx";
+  const fs::path logbook = folder_ / "logbook" / "immt5.log";
+  EXPECT_EQ(outcome.out, "report " + report.string() + "\nlogbook " + logbook.string() + "\n");
+  EXPECT_EQ(slurp(report), kReport);
+  const std::string line = slurp(logbook);
+  EXPECT_EQ(line.size(), 173U);
+  EXPECT_EQ(line.back(), '\n');
+  EXPECT_TRUE(line.starts_with("32014111512135716530")) << line;
+  EXPECT_EQ(saved().size(), 2U);
+}
+
+TEST_F(Cli, ExistingReportIsReplacedOnlyWhenAskedAndTheLogbookGrows) {
+  const std::string save = "save --reports reports --logbook logbook ";
+  ASSERT_EQ(run(save, kObservation).status, 0);
+  const std::string line = slurp(folder_ / "logbook" / "immt5.log");
+  const Outcome refused = run(save, std::string(kObservation) + "VV=97\n");
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_NE(refused.error.find("14111512.tlx exists"), std::string::npos) << refused.error;
+  EXPECT_EQ(slurp(folder_ / "reports" / "14111512.tlx"), kReport);
+  EXPECT_EQ(slurp(folder_ / "logbook" / "immt5.log"), line);
+  EXPECT_EQ(run(save + "--replace", kObservation).status, 0);
+  EXPECT_EQ(slurp(folder_ / "logbook" / "immt5.log"), line + line);
+}
+
+TEST_F(Cli, SaveRefusesWithoutADateAndWithoutAFolder) {
+  Outcome outcome = run("save --reports reports --logbook logbook", "YY=15\nGG=12\n");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.error,
+            "kavrel-cli: standard input:1: Year, Month, YY and GG are no date and hour\n");
+  outcome = run("save --reports reports --logbook none", kObservation);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.error, "kavrel-cli: none is no folder\n");
+  EXPECT_TRUE(saved().empty());
+}
+
+TEST_F(Cli, AFailedSaveLeavesBothFilesAsTheyWere) {
+  fs::create_directory(folder_ / "logbook" / "immt5.log");  // nobody can append to a folder
+  const Outcome outcome = run("save --reports reports --logbook logbook", kObservation);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_NE(outcome.error.find("immt5.log cannot be written: "), std::string::npos)
+      << outcome.error;
+  EXPECT_EQ(saved(), std::vector<std::string>{"immt5.log"});
+}
+
+}  // namespace
