@@ -61,17 +61,6 @@ std::optional<int> row_meant(const ui::Control& tree, std::string_view wanted) {
   return by([&](const ui::TreeRow& r) { return same_word(r.text, wanted); });
 }
 
-std::optional<std::size_t> row_on_the_way(const ui::Control& tree, std::string_view path) {
-  for (std::size_t i = 0; i < tree.rows.size(); ++i) {
-    const ui::TreeRow& row = tree.rows[i];
-    if (row.expanded || !row.can_expand || row.path.empty() || row.path.size() >= path.size())
-      continue;
-    const bool whole_name = row.path.ends_with('\\') || path[row.path.size()] == '\\';
-    if (whole_name && same_word(path.substr(0, row.path.size()), row.path)) return i;
-  }
-  return std::nullopt;
-}
-
 const ui::MenuItem* item_meant(std::span<const ui::MenuItem> items, std::string_view path) {
   for (const ui::MenuItem& item : items) {
     const std::string own = menu_text(item);

@@ -18,10 +18,6 @@ namespace headless {
 /// Row of a tree by its path or, when there is none, its text.
 [[nodiscard]] std::optional<int> row_meant(const ui::Control& tree, std::string_view wanted);
 
-/// The row that is not yet expanded and lies on the way to this path.
-[[nodiscard]] std::optional<std::size_t> row_on_the_way(const ui::Control& tree,
-                                                        std::string_view path);
-
 /// The menu command of a path of English texts ("File/Print"), access keys, trailing points and
 /// what follows a tab left out. A command's own text may hold a slash. Nothing when there is none.
 [[nodiscard]] const ui::MenuItem* item_meant(std::span<const ui::MenuItem> items,

@@ -173,15 +173,16 @@ void ScreenCommands::choose() {
 
 void ScreenCommands::choose_in_tree(ui::Control& tree, const std::string& wanted) {
   if (!take_focus(tree)) return;
-  std::optional<int> row = row_meant(tree, wanted);
-  // A person opens the folders on the way.
-  for (auto way = row_on_the_way(tree, wanted); !row && way; way = row_on_the_way(tree, wanted)) {
-    screen_.expand(tree, *way);
-    row = row_meant(tree, wanted);
+  const std::optional<int> row = row_meant(tree, wanted);
+  if (row) {
+    watch_.expect_text(tree, tree.rows[static_cast<std::size_t>(*row)].path);
+    screen_.choose(tree, *row);
+  } else if (screen_.reveal(tree, wanted)) {
+    // A person opens the folders on the way to what is named.
+    watch_.expect_text(tree, tree.selected_text());
+  } else {
+    cannot(tree.name + " has no row " + ui::quoted(text::first(wanted, 60)));
   }
-  if (!row) cannot(tree.name + " has no row " + ui::quoted(text::first(wanted, 60)));
-  watch_.expect_text(tree, tree.rows[static_cast<std::size_t>(*row)].path);
-  screen_.choose(tree, *row);
 }
 
 void ScreenCommands::tick() {

@@ -130,7 +130,7 @@ TEST(Session, ChoosesALineByIndexOrByText) {
       {"lines \" padded \"", "lines", " padded "},
       {"answer YES", "answer", "YES"},
       {"tree C:\\a\\b", "tree", "C:\\a\\b"},
-      {"tree c:\\A", "tree", "C:\\a"},
+      {"tree c:\\", "tree", "C:\\"},
       {"tree Disk", "tree", "C:\\"},
   };
   for (const auto& row : rows) {

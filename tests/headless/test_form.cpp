@@ -76,6 +76,14 @@ void CFormDlg::set_up_handlers() {
                      {{"a", base + "a", parent.depth + 1, true, false, false},
                       {"b", base + "b", parent.depth + 1, false, false, false}});
   };
+  tree.on_reveal = [this](std::string_view path) {
+    if (path != "C:\\a\\b") return false;
+    tree.rows[0].expanded = true;
+    tree.rows.push_back({"a", "C:\\a", 1, true, true, false});
+    tree.rows.push_back({"b", "C:\\a\\b", 2, false, false, false});
+    tree.selected = 2;
+    return true;
+  };
   japanese.on_press = [this] {
     services().texts.language = text::Language::kJapanese;
     relabel();
