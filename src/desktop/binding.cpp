@@ -255,9 +255,16 @@ class ChoiceBinding : public Binding {
   }
 
  private:
+  // "95   2km<=VV<4km": the code stands in front of what it means.
+  [[nodiscard]] QString with_code(const QStringList& lines, int i) const {
+    const auto& codes = control().item_codes;
+    const auto at = static_cast<std::size_t>(i);
+    return at < codes.size() ? text_of(codes[at]) + "   " + lines[i] : lines[i];
+  }
+
   void relabel(const QStringList& wanted) {
     if (wanted.size() == lines_.size()) {
-      for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(wanted[i]);
+      for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(with_code(wanted, i));
       lines_ = wanted;
       return;
     }
@@ -272,7 +279,7 @@ class ChoiceBinding : public Binding {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(letters <= kOneLine ? 10 : 2);
     for (int i = 0; i < wanted.size(); ++i) {
-      auto* const button = new QRadioButton(wanted[i], box_);
+      auto* const button = new QRadioButton(with_code(wanted, i), box_);
       group_->addButton(button, i);
       layout->addWidget(button);
     }

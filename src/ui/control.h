@@ -64,10 +64,11 @@ class Control {
   std::vector<std::string> items;  ///< lines of a combo, drop-down, list or choice
   std::vector<text::Ref>
       item_refs;  ///< when set, `items` is made of these in the language of the moment
-  std::vector<bool> item_disabled;  ///< choice only; empty means all enabled
-  std::vector<bool> item_marked;    ///< lines of a list or drop-down set apart; empty means none
-  std::vector<TreeRow> rows;        ///< tree only
-  int selected = -1;                ///< line of a drop-down, list, choice or tree
+  std::vector<bool> item_disabled;      ///< choice only; empty means all enabled
+  std::vector<std::string> item_codes;  ///< choice only: the code shown in front of each line
+  std::vector<bool> item_marked;  ///< lines of a list or drop-down set apart; empty means none
+  std::vector<TreeRow> rows;      ///< tree only
+  int selected = -1;              ///< line of a drop-down, list, choice or tree
   bool checked = false;
   bool enabled = true;
   bool visible = true;

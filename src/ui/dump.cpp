@@ -159,6 +159,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   view.text = shown_text(screen, control);
   view.lines = control.items;
   for (const TreeRow& row : control.rows) view.lines.push_back(row_line(row));
+  view.line_codes = control.item_codes;
   const auto& disabled = control.item_disabled;
   if (std::find(disabled.begin(), disabled.end(), true) != disabled.end())
     view.line_disabled = disabled;
@@ -189,6 +190,7 @@ std::string describe_lines(const ControlView& view) {
     } else if (i > 0) {
       result += ", ";
     }
+    if (i < view.line_codes.size()) result += view.line_codes[i] + " ";
     result += quoted(lines[i]);
     if (i < view.line_disabled.size() && view.line_disabled[i]) result += " [disabled]";
   }

@@ -17,9 +17,10 @@ struct ControlView {
   Kind kind = Kind::kLabel;
   std::string caption;  ///< with its access key
   std::string unit;
-  std::string text;                 ///< shown_text()
-  std::vector<std::string> lines;   ///< of a combo, drop-down, list, choice or tree
-  std::vector<bool> line_disabled;  ///< choice only; empty when all can be picked
+  std::string text;                     ///< shown_text()
+  std::vector<std::string> lines;       ///< of a combo, drop-down, list, choice or tree
+  std::vector<std::string> line_codes;  ///< choice only: shown in front of each line; often empty
+  std::vector<bool> line_disabled;      ///< choice only; empty when all can be picked
   bool enabled = true;
   bool visible = true;
   bool locked = false;
