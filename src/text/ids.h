@@ -317,6 +317,15 @@ inline constexpr int kMissing4Pw1Pw1Hw1Hw1 = 41513;
 inline constexpr int kMissing8SwTbTbTb = 41514;
 
 // Group editors: messages
+inline constexpr int kInvalidMonth = 35003;
+inline constexpr int kInvalidYear = 35004;
+inline constexpr int kInvalidDay = 35005;
+inline constexpr int kSeaTemperatureRange = 35017;
+inline constexpr int kLatitudeDegreesRange = 35018;
+inline constexpr int kLatitudeMinutesRange = 35019;
+inline constexpr int kLongitudeDegreesRange = 35020;
+inline constexpr int kLongitudeMinutesRange = 35021;
+inline constexpr int kOnLandQuestion = 37011;
 inline constexpr int kSeaLevelPressureMissing = 33200;
 inline constexpr int kUtcHourMissing = 33204;
 inline constexpr int kInvalidValue = 33205;
@@ -347,14 +356,82 @@ inline constexpr int kWetBulbLowQuestion = 36016;
 inline constexpr int kHumidityRange = 39026;
 
 // CUTCTimeDlg1
+inline constexpr int kUtcTimeTitle = 13000;
+inline constexpr int kUtcTimeHint = 13001;
+inline constexpr int kUtcYear = 13002;
+inline constexpr int kUtcMonth = 13003;
+inline constexpr int kUtcDay = 13004;
+inline constexpr int kUtcHour = 13005;
+inline constexpr int kInvalidHour = 13006;
 
 // CPositionDlg
+inline constexpr int kPositionTitle = 13100;
+inline constexpr int kPositionLatitude = 13101;
+inline constexpr int kPositionLongitude = 13102;
+inline constexpr int kPositionDegrees = 13103;
+inline constexpr int kPositionMinutes = 13104;
+inline constexpr int kNorth = 13105;
+inline constexpr int kSouth = 13106;
+inline constexpr int kEast = 13107;
+inline constexpr int kWest = 13108;
+inline constexpr int kLastReportHint = 13109;
+inline constexpr int kNoLatitudeSide = 13110;
+inline constexpr int kNoLongitudeSide = 13111;
+inline constexpr int kBeyondThePole = 13112;
+inline constexpr int kBeyondTheDateLine = 13113;
 
 // CDvDsDlg
+inline constexpr int kMovementTitle = 13300;
+inline constexpr int kMovementCourse = 13301;
+inline constexpr int kMovementSpeed = 13302;
+inline constexpr int kDsUnchanged = 13310;
+inline constexpr int kDsNortheast = 13311;
+inline constexpr int kDsEast = 13312;
+inline constexpr int kDsSoutheast = 13313;
+inline constexpr int kDsSouth = 13314;
+inline constexpr int kDsSouthwest = 13315;
+inline constexpr int kDsWest = 13316;
+inline constexpr int kDsNorthwest = 13317;
+inline constexpr int kDsNorth = 13318;
+inline constexpr int kDsUnknown = 13319;
+inline constexpr int kDsNotObserved = 13320;
+inline constexpr int kVsUnder1 = 13330;
+inline constexpr int kVsUnder6 = 13331;
+inline constexpr int kVsUnder11 = 13332;
+inline constexpr int kVsUnder16 = 13333;
+inline constexpr int kVsUnder21 = 13334;
+inline constexpr int kVsUnder26 = 13335;
+inline constexpr int kVsUnder31 = 13336;
+inline constexpr int kVsUnder36 = 13337;
+inline constexpr int kVsUnder40 = 13338;
+inline constexpr int kVs40OrMore = 13339;
+inline constexpr int kVsUnknown = 13340;
 
 // CSea_SurfaceTemperatureDlg
+inline constexpr int kSeaTemperatureTitle = 13200;
+inline constexpr int kSeaTemperatureField = 13201;
+inline constexpr int kSeaTemperatureUnit = 13202;
+inline constexpr int kSeaTemperatureMethod = 13203;
+inline constexpr int kSeaIntake = 13204;
+inline constexpr int kSeaBucket = 13205;
+inline constexpr int kSeaHullSensor = 13206;
+inline constexpr int kSeaOther = 13207;
 
 // CEyeShotDlg
+inline constexpr int kVisibilityTitle = 13400;
+inline constexpr int kVisibilityHeading = 13401;
+inline constexpr int kVisibilityGroup = 13402;
+inline constexpr int kVisibilityUnknown = 13410;
+inline constexpr int kVisibility50km = 13411;
+inline constexpr int kVisibility20km = 13412;
+inline constexpr int kVisibility10km = 13413;
+inline constexpr int kVisibility4km = 13414;
+inline constexpr int kVisibility2km = 13415;
+inline constexpr int kVisibility1km = 13416;
+inline constexpr int kVisibility500m = 13417;
+inline constexpr int kVisibility200m = 13418;
+inline constexpr int kVisibility50m = 13419;
+inline constexpr int kVisibilityBelow = 13420;
 
 // CSeaSurfacePressureDlg
 inline constexpr int kPressureTitle = 13500;

@@ -1,0 +1,134 @@
+#include "elements/CPositionDlg.h"
+
+#include <utility>
+
+#include "elements/whole_number.h"
+#include "text/ids.h"
+
+namespace id = text::id;
+
+namespace {
+
+enum Side { kNorthOrEast = 0, kSouthOrWest = 1 };
+
+struct Quadrant {
+  const char* code;
+  Side latitude;
+  Side longitude;
+};
+
+constexpr Quadrant kTable3333[] = {
+    {"1", kNorthOrEast, kNorthOrEast},
+    {"3", kSouthOrWest, kNorthOrEast},
+    {"5", kSouthOrWest, kSouthOrWest},
+    {"7", kNorthOrEast, kSouthOrWest},
+};
+
+bool is_quadrant(const std::string& code) {
+  for (const Quadrant& row : kTable3333) {
+    if (code == row.code) return true;
+  }
+  return false;
+}
+
+std::string quadrant_of(int latitude, int longitude) {
+  for (const Quadrant& row : kTable3333) {
+    if (row.latitude == latitude && row.longitude == longitude) return row.code;
+  }
+  return {};
+}
+
+}  // namespace
+
+CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string last_quadrant,
+                           LandTest is_on_land)
+    : Screen(services, "CPositionDlg", {id::kPositionTitle}),
+      last_report_hint(*this, "last_report_hint", {id::kLastReportHint}),
+      latitude_degrees(*this, "latitude_degrees", {id::kPositionLatitude}, 2),
+      latitude_minutes(*this, "latitude_minutes", {}, 2),
+      latitude_side(*this, "latitude_side", {}, {{id::kNorth}, {id::kSouth}}),
+      longitude_degrees(*this, "longitude_degrees", {id::kPositionLongitude}, 3),
+      longitude_minutes(*this, "longitude_minutes", {}, 2),
+      longitude_side(*this, "longitude_side", {}, {{id::kEast}, {id::kWest}}),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
+      values_(std::move(values)),
+      last_quadrant_(std::move(last_quadrant)),
+      is_on_land_(std::move(is_on_land)),
+      la_deg_(services, latitude_degrees, 0, 90, 2, id::kLatitudeDegreesRange),
+      la_min_(services, latitude_minutes, 0, 59, 2, id::kLatitudeMinutesRange),
+      lo_deg_(services, longitude_degrees, 0, 180, 3, id::kLongitudeDegreesRange),
+      lo_min_(services, longitude_minutes, 0, 59, 2, id::kLongitudeMinutesRange) {
+  for (ui::Control* const degrees : {&latitude_degrees, &longitude_degrees})
+    degrees->unit = {id::kPositionDegrees};
+  for (ui::Control* const minutes : {&latitude_minutes, &longitude_minutes}) {
+    minutes->unit = {id::kPositionMinutes};
+    minutes->items = elements::two_figure_lines(0, 59);
+  }
+  latitude_side.on_change = [this] {
+    latitude_confirmed_ = true;
+    if (longitude_confirmed_) last_report_hint.visible = false;
+  };
+  longitude_side.on_change = [this] {
+    longitude_confirmed_ = true;
+    if (latitude_confirmed_) last_report_hint.visible = false;
+  };
+}
+
+void CPositionDlg::on_open() {
+  la_deg_.open(values_.LaDeg);
+  la_min_.open(values_.LaMin);
+  lo_deg_.open(values_.LoDeg);
+  lo_min_.open(values_.LoMin);
+  const bool has_own = is_quadrant(values_.Qc);
+  last_report_hint.visible = !has_own && is_quadrant(last_quadrant_);
+  offer(has_own ? values_.Qc : last_quadrant_);
+}
+
+void CPositionDlg::offer(const std::string& quadrant) {
+  for (const Quadrant& row : kTable3333) {
+    if (quadrant != row.code) continue;
+    latitude_side.selected = row.latitude;
+    longitude_side.selected = row.longitude;
+  }
+}
+
+bool CPositionDlg::complete() {
+  for (const CFigureField* const part : {&la_deg_, &la_min_, &lo_deg_, &lo_min_}) {
+    if (!part->number()) return refuse(part->message(), part->field());
+  }
+  if (*la_deg_.number() == 90 && *la_min_.number() > 0)
+    return refuse(id::kBeyondThePole, latitude_minutes);
+  if (*lo_deg_.number() == 180 && *lo_min_.number() > 0)
+    return refuse(id::kBeyondTheDateLine, longitude_minutes);
+  if (latitude_side.selected < 0) return refuse(id::kNoLatitudeSide, latitude_side);
+  if (longitude_side.selected < 0) return refuse(id::kNoLongitudeSide, longitude_side);
+  return true;
+}
+
+bool CPositionDlg::is_on_land() const {
+  if (!is_on_land_) return false;
+  const double latitude = *la_deg_.number() + *la_min_.number() / 60.0;
+  const double longitude = *lo_deg_.number() + *lo_min_.number() / 60.0;
+  return is_on_land_(latitude_side.selected == kSouthOrWest ? -latitude : latitude,
+                     longitude_side.selected == kSouthOrWest ? -longitude : longitude);
+}
+
+void CPositionDlg::on_ok() {
+  if (!complete()) return;
+  if (is_on_land() &&
+      services().messages.question(id::kOnLandQuestion, text::QuestionMode::kYesNo) != text::kYes) {
+    focus(latitude_degrees);
+    return;
+  }
+  values_ = {la_deg_.figures(), la_min_.figures(), lo_deg_.figures(), lo_min_.figures(),
+             quadrant_of(latitude_side.selected, longitude_side.selected)};
+  close(text::kOk);
+}
+
+bool CPositionDlg::refuse(int message, ui::Control& field) {
+  services().messages.error(message);
+  focus(field);
+  return false;
+}

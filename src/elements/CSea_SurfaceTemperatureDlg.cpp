@@ -1,0 +1,61 @@
+#include "elements/CSea_SurfaceTemperatureDlg.h"
+
+#include <utility>
+
+#include "elements/sea_temperature_figures.h"
+#include "text/ids.h"
+#include "text/strings.h"
+
+namespace id = text::id;
+
+CSea_SurfaceTemperatureDlg::CSea_SurfaceTemperatureDlg(ui::Services& services, Values values,
+                                                       SeaTemperatureMethod of_ship)
+    : Screen(services, "CSea_SurfaceTemperatureDlg", {id::kSeaTemperatureTitle}),
+      temperature(*this, "temperature", {id::kSeaTemperatureField}, 5),
+      method(*this, "method", {id::kSeaTemperatureMethod},
+             {{id::kSeaIntake}, {id::kSeaBucket}, {id::kSeaHullSensor}, {id::kSeaOther}}),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
+      values_(std::move(values)),
+      of_ship_(of_ship) {
+  temperature.unit = {id::kSeaTemperatureUnit};
+  temperature.on_leave = [this] { return check(); };
+}
+
+void CSea_SurfaceTemperatureDlg::on_open() {
+  temperature.content = elements::sea_temperature_text(values_.Ss, values_.TwTwTw);
+  opened_with_ = temperature.content;
+  method.selected =
+      static_cast<int>(elements::sea_temperature_method(values_.Ss).value_or(of_ship_));
+}
+
+bool CSea_SurfaceTemperatureDlg::check() {
+  if (text::trim(temperature.content).empty() || temperature.content == opened_with_) return true;
+  const auto value = elements::sea_temperature(temperature.content);
+  if (!value) {
+    services().messages.error(id::kSeaTemperatureRange);
+    return false;
+  }
+  const auto figures = elements::sea_temperature_figures(*value, of_ship_);
+  temperature.content = elements::sea_temperature_text(figures.Ss, figures.TwTwTw);
+  return true;
+}
+
+void CSea_SurfaceTemperatureDlg::on_ok() {
+  if (text::trim(temperature.content).empty()) {
+    values_ = {};
+    close(text::kOk);
+    return;
+  }
+  const auto value = elements::sea_temperature(temperature.content);
+  if (!value) {
+    services().messages.error(id::kSeaTemperatureRange);
+    focus(temperature);
+    return;
+  }
+  const auto figures =
+      elements::sea_temperature_figures(*value, static_cast<SeaTemperatureMethod>(method.selected));
+  values_ = {figures.Ss, figures.TwTwTw};
+  close(text::kOk);
+}

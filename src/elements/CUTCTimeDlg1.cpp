@@ -1,0 +1,67 @@
+#include "elements/CUTCTimeDlg1.h"
+
+#include <utility>
+
+#include "elements/calendar_date.h"
+#include "elements/whole_number.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace id = text::id;
+
+namespace {
+
+// A year is typed in full: two figures would name a report of another century.
+constexpr int kFirstYear = 1000;
+constexpr int kLastYear = 9999;
+
+std::string or_clock(const std::string& value, int clock) {
+  return text::trim(value).empty() ? text::format_int(clock) : value;
+}
+
+}  // namespace
+
+CUTCTimeDlg1::CUTCTimeDlg1(ui::Services& services, Values values)
+    : Screen(services, "CUTCTimeDlg1", {id::kUtcTimeTitle}),
+      hint(*this, "hint", {id::kUtcTimeHint}),
+      year(*this, "year", {id::kUtcYear}, 4),
+      month(*this, "month", {id::kUtcMonth}, 2),
+      day(*this, "day", {id::kUtcDay}, 2),
+      hour(*this, "hour", {id::kUtcHour}, 2),
+      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
+      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
+      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
+      values_(std::move(values)),
+      year_(services, year, kFirstYear, kLastYear, 1, id::kInvalidYear),
+      month_(services, month, 1, 12, 2, id::kInvalidMonth),
+      day_(services, day, 1, 31, 2, id::kInvalidDay),
+      hour_(services, hour, 0, 23, 2, id::kInvalidHour) {
+  month.items = elements::two_figure_lines(1, 12);
+  day.items = elements::two_figure_lines(1, 31);
+  hour.items = elements::two_figure_lines(0, 23);
+}
+
+void CUTCTimeDlg1::on_open() {
+  const platform::DateTime now = services().clock.utc();
+  year_.open(or_clock(values_.Year, now.year));
+  month_.open(or_clock(values_.Month, now.month));
+  day_.open(or_clock(values_.YY, now.day));
+  hour_.open(or_clock(values_.GG, now.hour));
+}
+
+void CUTCTimeDlg1::on_ok() {
+  if (!year_.number()) return refuse(id::kInvalidDay, year);
+  if (!month_.number()) return refuse(id::kInvalidDay, month);
+  if (!day_.number() ||
+      !elements::is_calendar_date(*year_.number(), *month_.number(), *day_.number()))
+    return refuse(id::kInvalidDay, day);
+  if (!hour_.number() && !text::trim(hour.content).empty()) return refuse(id::kInvalidHour, hour);
+  values_ = {year_.figures(), month_.figures(), day_.figures(), hour_.figures()};
+  close(text::kOk);
+}
+
+void CUTCTimeDlg1::refuse(int message, ui::Control& field) {
+  services().messages.error(message);
+  focus(field);
+}

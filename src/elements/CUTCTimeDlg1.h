@@ -1,0 +1,47 @@
+#pragma once
+// Date and hour of the observation, UTC.
+
+#include <string>
+
+#include "elements/CFigureField.h"
+#include "ui/screen.h"
+
+class CUTCTimeDlg1 : public ui::Screen {
+ public:
+  /// The record's fields Year, Month, YY and GG.
+  struct Values {
+    std::string Year, Month, YY, GG;
+    bool operator==(const Values&) const = default;
+  };
+
+  CUTCTimeDlg1(ui::Services& services, Values values);
+
+  /// After kOk, what the observer entered: four figures and two of each other (the hour may be
+  /// empty); until then, what was handed in. Any hour of the day is taken: which hours are synoptic
+  /// is the report's business.
+  [[nodiscard]] const Values& values() const { return values_; }
+
+  ui::Label hint;
+  ui::Edit year;
+  ui::Combo month;
+  ui::Combo day;
+  ui::Combo hour;
+  ui::Button ok;
+  ui::Button cancel;
+  ui::Button help;
+
+ protected:
+  /// Empty fields are filled from the clock, read as UTC.
+  void on_open() override;
+  /// Refuses a date that is not complete or does not exist; the screen stays open.
+  void on_ok() override;
+
+ private:
+  void refuse(int message, ui::Control& field);
+
+  Values values_;
+  CFigureField year_;
+  CFigureField month_;
+  CFigureField day_;
+  CFigureField hour_;
+};

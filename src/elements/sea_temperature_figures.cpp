@@ -1,0 +1,52 @@
+#include "elements/sea_temperature_figures.h"
+
+#include <algorithm>
+
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace elements {
+namespace {
+
+bool is_plain_number(std::string_view text) {
+  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+  const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
+  return std::count(text.begin(), text.end(), '.') <= 1 &&
+         std::any_of(text.begin(), text.end(), is_digit) &&
+         std::all_of(text.begin(), text.end(), [&](char c) { return c == '.' || is_digit(c); });
+}
+
+}  // namespace
+
+std::optional<Celsius> sea_temperature(std::string_view text) {
+  text = text::trim(text);
+  if (!is_plain_number(text)) return std::nullopt;
+  const double value = text::leading_number(text);
+  if (value < -2.0 || value > 37.0) return std::nullopt;
+  return Celsius{value};
+}
+
+SeaTemperatureFigures sea_temperature_figures(Celsius t, SeaTemperatureMethod method) {
+  const std::string text = text::format_fixed(t.value, 1, 4, '0');
+  std::string figures = text::replace_all(text, ".", "");
+  const bool has_sign = figures.front() == '-';
+  if (has_sign) figures.erase(0, 1);
+  while (figures.size() < 3) figures.insert(0, 1, '0');
+  const bool below_zero = has_sign && figures != "000";
+  return {text::format_int(2 * static_cast<int>(method) + (below_zero ? 1 : 0)), figures};
+}
+
+std::string sea_temperature_text(std::string_view Ss, std::string_view TwTwTw) {
+  if (!text::is_all_digits(TwTwTw)) return {};
+  const double degrees = text::leading_int(TwTwTw) / 10.0;
+  const bool below_zero =
+      sea_temperature_method(Ss) && (Ss.front() - '0') % 2 == 1 && degrees > 0.0;
+  return (below_zero ? "-" : "") + text::format_fixed(degrees, 1);
+}
+
+std::optional<SeaTemperatureMethod> sea_temperature_method(std::string_view Ss) {
+  if (Ss.size() != 1 || Ss.front() < '0' || Ss.front() > '7') return std::nullopt;
+  return static_cast<SeaTemperatureMethod>((Ss.front() - '0') / 2);
+}
+
+}  // namespace elements
