@@ -9,7 +9,7 @@ constexpr std::size_t kGroupWidth = 5;
 constexpr std::size_t kFullStops = 5;
 
 bool is_blank(char c) {
-  return static_cast<unsigned char>(c) <= ' ';
+  return c == ' ' || (c >= '\t' && c <= '\r');  // tab and the line and page ends
 }
 
 std::string_view trimmed(std::string_view text) {
