@@ -1,0 +1,189 @@
+#include "elements/observation_form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "elements/barometer_correction.h"
+#include "elements/field_codes.h"
+#include "observation/report_encoder.h"
+#include "text/strings.h"
+
+namespace elements {
+
+using observation::Group;
+
+ObservationForm::ObservationForm(const ShipFixedData& ship, const KeyObservationItems& items,
+                                 const text::Texts& texts, text::Messages& messages,
+                                 const platform::Clock& clock)
+    : ship_(ship),
+      items_(items),
+      language_(texts),
+      messages_(messages),
+      clock_(clock),
+      record_(ship, items) {
+  items_changed();
+  modified_ = false;
+}
+
+bool ObservationForm::switched_off(Field field) const {
+  const auto item = item_of(field);
+  return item && !items_.observed(*item);
+}
+
+bool ObservationForm::any_error() const {
+  return std::find(error_.begin(), error_.end(), true) != error_.end();
+}
+
+bool ObservationForm::take_review_due() {
+  return std::exchange(review_due_, false);
+}
+
+std::string ObservationForm::group_text(Group group) const {
+  return observation::group_text(record_, group);
+}
+
+std::string ObservationForm::report() const {
+  std::string message;
+  std::string missing;
+  observation::encode_report(record_, message, missing, observation::wants_wet_bulb(ship_),
+                             language_.language);
+  return message;
+}
+
+std::string ObservationForm::missing() const {
+  std::string message;
+  std::string missing;
+  observation::encode_report(record_, message, missing, observation::wants_wet_bulb(ship_),
+                             language_.language);
+  return missing;
+}
+
+void ObservationForm::type(Field field, std::string_view text) {
+  if (switched_off(field)) return;
+  slot(field) = text;
+  typed_[at(field)] = true;
+}
+
+void ObservationForm::put(Field field, std::string_view text) {
+  const Struct_Weather before = record_;
+  error_[at(field)] = false;
+  if (text::trim(text).empty()) {
+    clear(field);
+  } else {
+    slot(field) = text;
+    store(field, slot(field));
+  }
+  typed_[at(field)] = false;
+  follow(field);
+  touch(before);
+}
+
+void ObservationForm::put_wet_bulb_state(WetBulbState state) {
+  const Struct_Weather before = record_;
+  wet_bulb_ = state;
+  if (!slot(Field::kWetBulb).empty()) store(Field::kWetBulb, slot(Field::kWetBulb));
+  compute_dew_point();
+  touch(before);
+}
+
+void ObservationForm::toggle_freeze() {
+  const auto wet = air_temperature_of(slot(Field::kWetBulb));
+  if (!wet) return;
+  put_wet_bulb_state(toggled_wet_bulb(wet_bulb_, *wet));
+}
+
+void ObservationForm::choose_hemispheres(int north_south, int east_west) {
+  const Struct_Weather before = record_;
+  north_south_ = north_south;
+  east_west_ = east_west;
+  record_.Qc = quadrant_of(north_south, east_west);
+  if (record_.Qc != before.Qc) review_due_ = true;
+  touch(before);
+}
+
+void ObservationForm::change(const std::function<void(Struct_Weather&)>& change) {
+  const Struct_Weather before = record_;
+  change(record_);
+  show_changes(before);
+  touch(before);
+}
+
+void ObservationForm::ship_changed() {
+  const Struct_Weather before = record_;
+  const Struct_Weather fresh(ship_, items_);
+  record_.iw = fresh.iw;
+  record_.CallSign = fresh.CallSign;
+  record_.ShipFixed = fresh.ShipFixed;
+  reduce_again();
+  compute_dew_point();
+  compute_true_wind();
+  touch(before);
+}
+
+void ObservationForm::items_changed() {
+  const Struct_Weather before = record_;
+  record_.iX = Struct_Weather(ship_, items_).iX;
+  for (std::size_t i = 0; i < kFields; ++i) {
+    const auto field = static_cast<Field>(i);
+    if (switched_off(field) == put_aside_[i].has_value()) continue;
+    if (put_aside_[i]) {
+      const std::string entry = *std::exchange(put_aside_[i], std::nullopt);
+      clear(field);
+      if (!entry.empty()) put(field, entry);
+      continue;
+    }
+    put_aside_[i] = text(field);
+    clear(field);
+    typed_[i] = error_[i] = false;
+    // Present and past weather are filled, so that their group says "not observed"; other elements
+    // stay empty.
+    if (field == Field::kww) store(field, slot(field) = "//");
+    if (field == Field::kW1 || field == Field::kW2) store(field, slot(field) = "/");
+  }
+  touch(before);
+}
+
+void ObservationForm::touch(const Struct_Weather& before) {
+  if (!(record_ == before)) modified_ = true;
+}
+
+void ObservationForm::show_changes(const Struct_Weather& before) {
+  for (std::size_t i = 0; i < kFields; ++i) {
+    const auto field = static_cast<Field>(i);
+    std::string now = shown(field, record_);
+    if (now == shown(field, before)) continue;
+    texts_[i] = std::move(now);
+    typed_[i] = error_[i] = false;
+  }
+  if (record_.Qc != before.Qc) {
+    north_south_ = north_south_of(record_.Qc);
+    east_west_ = east_west_of(record_.Qc);
+  }
+  const auto place = [](const Struct_Weather& r) {
+    return std::array<std::string, 9>{r.Year,  r.Month, r.YY,    r.GG,   r.Qc,
+                                      r.LaDeg, r.LaMin, r.LoDeg, r.LoMin};
+  };
+  if (place(record_) != place(before)) review_due_ = true;
+  if (wet_bulb_ == WetBulbState::kNotSet && record_.Sw == "2") wet_bulb_ = WetBulbState::kIced;
+}
+
+std::string ObservationForm::shown(Field field, const Struct_Weather& record) const {
+  switch (field) {
+    case Field::kDryBulb:
+      return ship_.dew_point_method == DewPointMethod::kComputed
+                 ? temperature_shown(record.SnT, record.TTT)
+                 : std::string();
+    case Field::kAirTemperature:
+      return ship_.dew_point_method == DewPointMethod::kComputed
+                 ? std::string()
+                 : temperature_shown(record.SnT, record.TTT);
+    case Field::kDewPoint:
+      return ship_.dew_point_method == DewPointMethod::kComputed
+                 ? std::string()
+                 : temperature_shown(record.SnTd, record.TdTdTd);
+    default:
+      return shown_from_record(field, record);
+  }
+}
+
+}  // namespace elements

@@ -1,0 +1,173 @@
+#pragma once
+// The main form without its window: the one observation record, what each entry field shows, the
+// editors that run when a field is left, and everything that is derived from an entry. The window
+// copies texts to its controls and back.
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "elements/cross_rules.h"
+#include "elements/field_editors.h"
+#include "elements/fields.h"
+#include "elements/psychrometer.h"
+#include "observation/Struct_Weather.h"
+#include "observation/report_groups.h"
+#include "platform/ports.h"
+#include "ship/KeyObservationItems.h"
+#include "ship/ShipFixedData.h"
+#include "text/messages.h"
+#include "text/texts.h"
+
+namespace elements {
+
+class ObservationForm {
+ public:
+  /// What is referred to must outlive the form; ship and items are read anew at every step, so call
+  /// ship_changed() or items_changed() after changing them.
+  ObservationForm(const ShipFixedData& ship, const KeyObservationItems& items,
+                  const text::Texts& texts, text::Messages& messages, const platform::Clock& clock);
+
+  // ---- What is there
+
+  [[nodiscard]] const Struct_Weather& record() const { return record_; }
+  [[nodiscard]] const std::string& text(Field field) const { return texts_[at(field)]; }
+  /// The wet bulb's state; the form's "Freeze" button toggles it.
+  [[nodiscard]] WetBulbState wet_bulb_state() const { return wet_bulb_; }
+  /// Switched off by an observation item: the field is locked, and a value in the record is a
+  /// filled-in solidus.
+  [[nodiscard]] bool switched_off(Field field) const;
+  /// A refused entry still stands in the field.
+  [[nodiscard]] bool in_error(Field field) const { return error_[at(field)]; }
+  [[nodiscard]] bool any_error() const;
+  /// Changed since the last saved().
+  [[nodiscard]] bool modified() const { return modified_; }
+  void saved() { modified_ = false; }
+  /// A new date, hour or position was accepted since the last call: the position is to be reviewed.
+  [[nodiscard]] bool take_review_due();
+
+  /// Exactly what the encoder makes of the record, with "*" for what is not entered.
+  [[nodiscard]] std::string group_text(observation::Group group) const;
+  /// The report as it would be sent, and the list of what is missing.
+  [[nodiscard]] std::string report() const;
+  [[nodiscard]] std::string missing() const;
+  /// The rules that the record breaks.
+  [[nodiscard]] std::vector<const CrossRule*> broken_rules() const {
+    return elements::broken_rules(record_);
+  }
+
+  // ---- What the person does
+
+  /// Typed; nothing is checked or stored before leave().
+  void type(Field field, std::string_view text);
+  /// The focus leaves the field: runs its editor on what was typed (a figure that a dialog put
+  /// there passes). True when the field may be left: nothing was typed, it was emptied, or the
+  /// value was accepted and stored with all that follows from it. False when it was refused: the
+  /// message was shown (unless suppressed), the typed text stays in the field, and the record is as
+  /// it was.
+  [[nodiscard]] bool leave(Field field);
+  /// A whole group was typed ("41/96"): each of its symbols goes through its field's editor, all or
+  /// none are stored. A wrong length, indicator or character is refused with "Input error ". True
+  /// when accepted.
+  [[nodiscard]] bool leave_group(observation::Group group, std::string_view typed);
+  /// Hemispheres chosen beside the position: index 0 north or east, 1 south or west, -1 not chosen.
+  /// Qc is set when both are known, else emptied.
+  void choose_hemispheres(int north_south, int east_west);
+  [[nodiscard]] int north_south() const { return north_south_; }
+  [[nodiscard]] int east_west() const { return east_west_; }
+  /// The "Freeze" button.
+  void toggle_freeze();
+
+  // ---- What dialogs and the program do
+
+  /// Puts a value into a field, stores it with all that follows, without a check: a dialog has
+  /// checked it.
+  void put(Field field, std::string_view text);
+  void put_wet_bulb_state(WetBulbState state);
+  /// Changes the record directly, as a code dialog does; fields whose figures changed show them.
+  void change(const std::function<void(Struct_Weather&)>& change);
+  /// After the ship's fixed data were changed.
+  void ship_changed();
+  /// After the loading state was changed: the pressure is reduced anew.
+  void loading_state_changed() { reduce_again(); }
+  /// After observation items were changed: a switched-off element is filled with solidi where the
+  /// report needs them and emptied otherwise; what was entered comes back when it is switched on
+  /// again.
+  void items_changed();
+  /// While set no message or question is shown: a refusal still refuses, a question counts as Yes,
+  /// and only the error flags tell.
+  bool messages_suppressed = false;
+
+ private:
+  [[nodiscard]] static constexpr std::size_t at(Field field) {
+    return static_cast<std::size_t>(field);
+  }
+  [[nodiscard]] std::string& slot(Field field) { return texts_[at(field)]; }
+  [[nodiscard]] std::optional<Bounds> bounds_of(Field field) const;
+  /// Everything a person's entry can change, so that a refusal half-way can put it back.
+  struct State {
+    Struct_Weather record;
+    std::array<std::string, kFields> texts;
+    std::array<bool, kFields> typed{};
+    std::array<bool, kFields> error{};
+    WetBulbState wet_bulb = WetBulbState::kNotSet;
+    int north_south = -1;
+    int east_west = -1;
+  };
+  [[nodiscard]] State state() const {
+    return {record_, texts_, typed_, error_, wet_bulb_, north_south_, east_west_};
+  }
+  void restore(const State& state);
+  [[nodiscard]] bool take_symbol(std::string Struct_Weather::*member, std::string_view figures,
+                                 std::vector<Field>& taken);
+  [[nodiscard]] bool take_tenths(std::string Struct_Weather::*member, std::string_view figure,
+                                 std::vector<Field>& taken);
+  [[nodiscard]] bool take_field(Field field, std::string_view figures);
+  [[nodiscard]] Field air_field() const;
+  [[nodiscard]] std::optional<std::string> accept(Field field, const std::string& typed);
+  [[nodiscard]] bool follows_rules(Field field, const std::string& value);
+  [[nodiscard]] bool exact_time_accepted(Field field, const std::string& value);
+  [[nodiscard]] bool date_accepted(Field field, const std::string& value);
+  [[nodiscard]] bool pressure_accepted(Field field, std::string& value);
+  [[nodiscard]] bool temperatures_accepted(Field field, const std::string& value);
+  [[nodiscard]] bool position_accepted(Field field, const std::string& value);
+  bool refuse(int message, int check_text = 0) const;
+  bool refuse_range(Field field) const;
+  [[nodiscard]] bool ask(int question) const;
+  void store(Field field, const std::string& value);
+  void store_temperature(Field field, const std::string& value);
+  void store_true_speed(const std::string& value);
+  void clear(Field field);
+  void follow(Field field);
+  void reduce_reading(bool keep_tendency);
+  void reduce_again();
+  void compute_dew_point();
+  void compute_humidity();
+  void compute_true_wind();
+  void show_changes(const Struct_Weather& before);
+  [[nodiscard]] std::string shown(Field field, const Struct_Weather& record) const;
+  void touch(const Struct_Weather& before);
+  void set_humidity(std::string display, std::string logbook);
+
+  const ShipFixedData& ship_;
+  const KeyObservationItems& items_;
+  const text::Texts& language_;
+  text::Messages& messages_;
+  const platform::Clock& clock_;
+  Struct_Weather record_;
+  std::array<std::string, kFields> texts_;
+  std::array<bool, kFields> typed_{};
+  std::array<bool, kFields> error_{};
+  std::array<std::optional<std::string>, kFields>
+      put_aside_;  ///< entries of elements that were switched off
+  WetBulbState wet_bulb_ = WetBulbState::kNotSet;
+  int north_south_ = -1;
+  int east_west_ = -1;
+  bool modified_ = false;
+  bool review_due_ = false;
+};
+
+}  // namespace elements

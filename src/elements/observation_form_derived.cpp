@@ -1,0 +1,138 @@
+// What follows from an entry: pressure at sea level, dew point, humidity, true wind, the review of
+// the position.
+
+#include "elements/barometer_correction.h"
+#include "elements/observation_form.h"
+#include "elements/psychrometer.h"
+#include "elements/relative_humidity.h"
+#include "elements/sea_level_pressure.h"
+#include "elements/temperature_figures.h"
+#include "elements/true_wind.h"
+#include "text/strings.h"
+
+namespace elements {
+
+void ObservationForm::follow(Field field) {
+  switch (field) {
+    case Field::kYear:
+    case Field::kMonth:
+    case Field::kYY:
+    case Field::kGG:
+    case Field::kLaDeg:
+    case Field::kLaMin:
+    case Field::kLoDeg:
+    case Field::kLoMin:
+      review_due_ = true;
+      break;
+    case Field::kReading:
+      reduce_reading(false);
+      compute_dew_point();
+      break;
+    case Field::kDryBulb:
+      reduce_again();
+      compute_dew_point();
+      break;
+    case Field::kWetBulb:
+      compute_dew_point();
+      break;
+    case Field::kAirTemperature:
+      reduce_again();
+      compute_humidity();
+      break;
+    case Field::kDewPoint:
+      compute_humidity();
+      break;
+    case Field::kApparentDirection:
+    case Field::kApparentSpeed:
+    case Field::kHeading:
+    case Field::kCourse:
+    case Field::kShipSpeed:
+      compute_true_wind();
+      break;
+    default:
+      break;
+  }
+}
+
+void ObservationForm::reduce_reading(bool keep_tendency) {
+  const bool psychrometer = ship_.dew_point_method == DewPointMethod::kComputed;
+  const auto air =
+      air_temperature_of(text(psychrometer ? Field::kDryBulb : Field::kAirTemperature));
+  const auto reduced = elements::reduce_reading(text(Field::kReading), ship_.card, air);
+  if (!reduced || reduced->range == PressureRange::kRefused) return;
+  const std::string tendency = record_.a;
+  store_pppp(record_, reduced->pppp);
+  if (keep_tendency) record_.a = tendency;
+  slot(Field::kPPPP) = reduced->display;
+  slot(Field::ka) = record_.a;
+}
+
+// Air temperature, card or loading state changed after the reading was entered: the same reading is
+// reduced with what is known now. The barometer itself did not change, so the tendency that was
+// read from it stays.
+void ObservationForm::reduce_again() {
+  const Struct_Weather before = record_;
+  if (!text(Field::kReading).empty()) reduce_reading(true);
+  touch(before);
+}
+
+void ObservationForm::compute_dew_point() {
+  if (ship_.dew_point_method != DewPointMethod::kComputed) return;
+  const auto td = dew_point_of_texts(text(Field::kDryBulb), text(Field::kWetBulb),
+                                     text(Field::kReading), ship_.card, wet_bulb_);
+  if (text(Field::kDryBulb).empty() || text(Field::kWetBulb).empty()) {
+    // Without both bulbs there is no dew point; one of an earlier entry would be another air's.
+    record_.SnTd.clear();
+    record_.TdTdTd.clear();
+    if (ship_.humidity_method == HumidityMethod::kComputed) set_humidity({}, {});
+    return;
+  }
+  if (!td) return;
+  const TemperatureFigures figures = temperature_figures(*td);
+  record_.SnTd = figures.sign;
+  record_.TdTdTd = figures.figures;
+  if (ship_.humidity_method != HumidityMethod::kComputed) return;
+  if (const auto humidity = humidity_of_texts(text(Field::kDryBulb), figures.text)) {
+    set_humidity(humidity->display, humidity->logbook);
+  }
+}
+
+void ObservationForm::compute_humidity() {
+  if (ship_.dew_point_method == DewPointMethod::kComputed ||
+      ship_.humidity_method != HumidityMethod::kComputed)
+    return;
+  const auto humidity = humidity_of_texts(text(Field::kAirTemperature), text(Field::kDewPoint));
+  if (humidity) {
+    set_humidity(humidity->display, humidity->logbook);
+  } else {
+    set_humidity({}, {});
+  }
+}
+
+void ObservationForm::set_humidity(std::string display, std::string logbook) {
+  slot(Field::kHumidity) = std::move(display);
+  record_.LogExtra = std::move(logbook);
+  typed_[at(Field::kHumidity)] = error_[at(Field::kHumidity)] = false;
+}
+
+void ObservationForm::compute_true_wind() {
+  if (ship_.wind_input_method != WindInputMethod::kApparentWind) return;
+  const auto wind =
+      true_wind_of_texts({text(Field::kApparentDirection), text(Field::kApparentSpeed),
+                          text(Field::kHeading), text(Field::kCourse), text(Field::kShipSpeed)});
+  if (!wind) {
+    clear(Field::kdd);
+    clear(Field::kff);
+    return;
+  }
+  const auto two_figures = [](const std::string& figures) {
+    return figures.size() == 1 ? "0" + figures : figures;
+  };
+  slot(Field::kdd) = two_figures(wind->direction);
+  slot(Field::kff) = two_figures(wind->speed);
+  store(Field::kdd, slot(Field::kdd));
+  store(Field::kff, slot(Field::kff));
+  for (const Field field : {Field::kdd, Field::kff}) typed_[at(field)] = error_[at(field)] = false;
+}
+
+}  // namespace elements

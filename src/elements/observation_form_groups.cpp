@@ -1,0 +1,211 @@
+// Typing a whole group of the report.
+
+#include <algorithm>
+#include <array>
+
+#include "elements/field_codes.h"
+#include "elements/observation_form.h"
+#include "elements/sea_level_pressure.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace elements {
+namespace {
+
+namespace id = text::id;
+using observation::Figures;
+using observation::Group;
+using observation::Symbol;
+using W = Struct_Weather;
+
+constexpr std::string_view kIceWord = "ICE ";
+
+// Signs and indicators, which are no field of the form: the figures that may stand there.
+struct SignRow {
+  std::string W::*member;
+  std::string_view allowed;
+  int message;
+};
+constexpr SignRow kSigns[] = {
+    {&W::SnT, "01", id::kSignRange},   {&W::SnTd, "01", id::kSignRange},
+    {&W::Sw, "012", id::kSignRange},   {&W::Ss, "01234567", id::kInputError},
+    {&W::Qc, "1357", id::kInputError},
+};
+
+bool all_of(std::string_view figures, char c) {
+  return figures.find_first_not_of(c) == std::string_view::npos;
+}
+
+// The group's figures with its indicator, however it was typed; empty when length or characters
+// cannot be right.
+std::string figures_of_group(Group group, std::string_view typed) {
+  std::string text = text::without_spaces(text::trim(typed));
+  const observation::GroupRow& row = observation::row_of(group);
+  if (group == Group::kICE) {
+    if (text.starts_with("ICE")) text.erase(0, 3);
+    text.insert(0, kIceWord);
+  }
+  const bool fits =
+      text.size() == row.width() && text.starts_with(row.indicator) &&
+      text.find_first_not_of("0123456789/*", row.indicator.size()) == std::string::npos;
+  return fits ? text : std::string();
+}
+
+}  // namespace
+
+void ObservationForm::restore(const State& state) {
+  record_ = state.record;
+  texts_ = state.texts;
+  typed_ = state.typed;
+  error_ = state.error;
+  wet_bulb_ = state.wet_bulb;
+  north_south_ = state.north_south;
+  east_west_ = state.east_west;
+}
+
+Field ObservationForm::air_field() const {
+  return ship_.dew_point_method == DewPointMethod::kComputed ? Field::kDryBulb
+                                                             : Field::kAirTemperature;
+}
+
+bool ObservationForm::leave_group(Group group, std::string_view typed) {
+  const observation::GroupRow& row = observation::row_of(group);
+  std::string figures = figures_of_group(group, typed);
+  if (text::trim(typed).empty()) {
+    figures = std::string(row.indicator) + std::string(row.width() - row.indicator.size(), '*');
+    // What the ship and the program put there is not emptied with the rest.
+    std::size_t place = row.indicator.size();
+    for (const Symbol& symbol : row.used()) {
+      const bool fixed = symbol.field == &W::iR || symbol.field == &W::iX || symbol.field == &W::iw;
+      if (fixed) figures.replace(place, symbol.width, record_.*symbol.field);
+      place += symbol.width;
+    }
+  }
+  if (figures.empty()) return refuse(id::kInputError);
+  if (figures == group_text(group)) return true;
+
+  const State before = state();
+  std::vector<Field> taken;
+  std::size_t place = row.indicator.size();
+  for (const Symbol& symbol : row.used()) {
+    const std::string_view part = std::string_view(figures).substr(place, symbol.width);
+    place += symbol.width;
+    const bool kept = symbol.figures == Figures::kTenths ? take_tenths(symbol.field, part, taken)
+                                                         : take_symbol(symbol.field, part, taken);
+    if (!kept) {
+      restore(before);
+      return false;
+    }
+  }
+  for (const Field field : taken) {
+    if (const CrossRule* const rule = broken_by(field, record_)) {
+      restore(before);
+      return refuse(rule->message, rule->check_text);
+    }
+  }
+  // Signs change what other fields show (the temperature behind its sign, the speed of 99 and
+  // more).
+  Struct_Weather after = std::move(record_);
+  record_ = before.record;
+  change([&](Struct_Weather& record) { record = std::move(after); });
+  for (const Field field : taken) follow(field);
+  touch(before.record);
+  return true;
+}
+
+// A tenth of a degree becomes the first minute that gives it.
+bool ObservationForm::take_tenths(std::string W::*member, std::string_view figure,
+                                  std::vector<Field>& taken) {
+  if (figure == "*" || figure == "/") {
+    (record_.*member).clear();
+  } else if (text::leading_int(figure) != text::leading_int(record_.*member) / 6 ||
+             (record_.*member).empty()) {
+    record_.*member = text::format_int((figure.front() - '0') * 6, 2, '0');
+  }
+  taken.push_back(member == &W::LaMin ? Field::kLaMin : Field::kLoMin);
+  return true;
+}
+
+bool ObservationForm::take_symbol(std::string W::*member, std::string_view figures,
+                                  std::vector<Field>& taken) {
+  std::string& field_text = record_.*member;
+  if (figures == std::string_view(field_text)) return true;
+  // A masked second swell direction is no entry.
+  if (all_of(figures, '*')) {
+    if (!(member == &W::dw2dw2 && field_text == "00")) field_text.clear();
+    return true;
+  }
+  if (figures.find('*') != std::string_view::npos) return refuse(id::kInputError);
+  if (member == &W::iR || member == &W::iX || member == &W::iw) return refuse(id::kInputError);
+  for (const SignRow& sign : kSigns) {
+    if (sign.member != member) continue;
+    if (!all_of(figures, '/') && sign.allowed.find(figures) == std::string_view::npos)
+      return refuse(sign.message);
+    field_text = figures;
+    return true;
+  }
+  if (member == &W::fff) {
+    constexpr int kLowest = 99;
+    if (!text::is_all_digits(figures) || text::leading_int(figures) < kLowest)
+      return refuse_range(Field::kff);
+    record_.ff = "99";
+    field_text = figures;
+    taken.push_back(Field::kff);
+    return true;
+  }
+  Field field = Field::kYear;
+  if (member == &W::TTT) {
+    field = air_field();
+  } else if (member == &W::TdTdTd) {
+    field = Field::kDewPoint;
+  } else if (member == &W::TbTbTb) {
+    field = Field::kWetBulb;
+  } else if (member == &W::TwTwTw) {
+    field = Field::kTwTwTw;
+  } else if (member == &W::PPPP) {
+    field = Field::kPPPP;
+  } else if (member == &W::ff) {
+    field = Field::kff;
+    record_.fff.clear();
+  } else {
+    for (std::size_t i = 0; i < kFields; ++i) {
+      if (member_of(static_cast<Field>(i)) == member) field = static_cast<Field>(i);
+    }
+  }
+  if (switched_off(field)) return refuse(id::kInputError);
+  if (!all_of(figures, '/') && !take_field(field, figures)) return false;
+  if (member == &W::PPPP) {
+    store_pppp(record_, std::string(figures));
+  } else {
+    field_text = figures;
+  }
+  taken.push_back(field);
+  return true;
+}
+
+// The field's own test on the figures as the field would show them.
+bool ObservationForm::take_field(Field field, std::string_view figures) {
+  if (field == Field::kPPPP) {
+    std::string value(figures);
+    return pressure_accepted(field, value);
+  }
+  Struct_Weather trial = record_;
+  std::string shown_text(figures);
+  if (field == Field::kDryBulb || field == Field::kAirTemperature) {
+    shown_text = temperature_shown(trial.SnT, figures);
+  } else if (field == Field::kDewPoint) {
+    shown_text = temperature_shown(trial.SnTd, figures);
+  } else if (field == Field::kWetBulb || field == Field::kTwTwTw) {
+    (field == Field::kWetBulb ? trial.TbTbTb : trial.TwTwTw) = figures;
+    shown_text = shown_from_record(field, trial);
+  } else if (std::string W::*const member = member_of(field)) {
+    trial.*member = figures;
+    shown_text = shown_from_record(field, trial);
+  }
+  const Checked checked = check_field(editor_of(field), shown_text, bounds_of(field));
+  if (checked.verdict == Verdict::kRefused) return refuse_range(field);
+  return checked.verdict == Verdict::kAccepted || ask(editor_of(field).warning);
+}
+
+}  // namespace elements

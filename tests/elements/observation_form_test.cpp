@@ -1,0 +1,330 @@
+#include "elements/observation_form.h"
+
+#include <gtest/gtest.h>
+
+#include "fakes/fake_ports.h"
+#include "text/ids.h"
+
+namespace {
+
+namespace id = text::id;
+using elements::Field;
+using observation::Group;
+
+// A form on a ship with a psychrometer, an anemometer and card type "2" without correction.
+struct Form {
+  fakes::World world;
+  ShipFixedData ship;
+  KeyObservationItems items;
+  std::unique_ptr<elements::ObservationForm> form;
+
+  Form() {
+    ship.call_sign = "JABC";
+    ship.card.type = CardType::kTotalCorrection;
+    ship.dew_point_method = DewPointMethod::kComputed;
+    ship.humidity_method = HumidityMethod::kComputed;
+    ship.humidity_unit = 1.0;
+    rebuild();
+  }
+  void rebuild() {
+    form = std::make_unique<elements::ObservationForm>(ship, items, world.texts, world.messages,
+                                                       world.clock);
+  }
+  bool enter(Field field, std::string_view text) {
+    form->type(field, text);
+    return form->leave(field);
+  }
+  const Struct_Weather& record() const { return form->record(); }
+};
+
+TEST(ObservationForm, StoresAnAcceptedFieldZeroFilledAndRebuildsItsGroup) {
+  Form f;
+  EXPECT_TRUE(f.enter(Field::kww, " 5 "));
+  EXPECT_EQ(f.record().ww, "05");
+  EXPECT_EQ(f.form->text(Field::kww), "05");
+  EXPECT_EQ(f.form->group_text(Group::k7wwW1W2), "705**");
+  EXPECT_TRUE(f.form->modified());
+}
+
+TEST(ObservationForm, EmptyTextClearsTheFieldAndItsError) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kww, "05"));
+  f.world.windows.expect(id::kPresentWeatherRange);
+  EXPECT_FALSE(f.enter(Field::kww, "5x"));
+  EXPECT_TRUE(f.form->in_error(Field::kww));
+  EXPECT_EQ(f.record().ww, "05");
+  EXPECT_TRUE(f.enter(Field::kww, "  "));
+  EXPECT_EQ(f.record().ww, "");
+  EXPECT_FALSE(f.form->any_error());
+}
+
+TEST(ObservationForm, ABlankInsideRefuses) {
+  Form f;
+  f.world.windows.expect(id::kPresentWeatherRange);
+  EXPECT_FALSE(f.enter(Field::kww, "0 5"));
+  EXPECT_EQ(f.form->text(Field::kww), "0 5");
+}
+
+TEST(ObservationForm, SuppressedMessagesStillRefuseAndCountQuestionsAsYes) {
+  Form f;
+  f.form->messages_suppressed = true;
+  EXPECT_FALSE(f.enter(Field::kww, "xx"));
+  EXPECT_TRUE(f.form->in_error(Field::kww));
+  EXPECT_TRUE(f.enter(Field::kff, "85"));
+  EXPECT_EQ(f.record().ff, "85");
+}
+
+TEST(ObservationForm, AFigureOfADialogIsNotRefusedWhenTheFocusPassesThrough) {
+  Form f;
+  f.form->change([](Struct_Weather& r) { r.zi = "0"; });
+  EXPECT_EQ(f.form->text(Field::kzi), "0");
+  EXPECT_TRUE(f.form->leave(Field::kzi));
+  f.world.windows.expect(id::kIceTrendRange);
+  EXPECT_FALSE(f.enter(Field::kzi, "0"));
+  EXPECT_EQ(f.record().zi, "0");
+}
+
+TEST(ObservationForm, TheDaysBoundsAreThoseOfItsMonth) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kYear, "2015"));
+  ASSERT_TRUE(f.enter(Field::kMonth, "2"));
+  f.world.windows.expect_text("Error: Input data is out of range.\nIt must be \"01<=DAY<=28\"");
+  EXPECT_FALSE(f.enter(Field::kYY, "29"));
+  EXPECT_TRUE(f.enter(Field::kYY, "28"));
+  ASSERT_TRUE(f.enter(Field::kMonth, "3"));
+  ASSERT_TRUE(f.enter(Field::kYY, "31"));
+  f.world.windows.expect(id::kDateInvalid);
+  EXPECT_FALSE(f.enter(Field::kMonth, "4"));
+  EXPECT_EQ(f.record().Month, "03");
+}
+
+TEST(ObservationForm, TheYearsBoundsAreNamed) {
+  Form f;  // the clock says 2014
+  f.world.windows.expect_text("Error: Input data is out of range.\nIt must be \"1999<YEAR<=2015\"");
+  EXPECT_FALSE(f.enter(Field::kYear, "1999"));
+  EXPECT_TRUE(f.enter(Field::kYear, "2000"));
+  EXPECT_TRUE(f.enter(Field::kYear, "2015"));
+  f.world.windows.expect(id::kYearRange);
+  EXPECT_FALSE(f.enter(Field::kYear, "2016"));
+}
+
+TEST(ObservationForm, WaveHeightsAreMetresInTheFieldAndHalfMetresInTheRecord) {
+  Form f;
+  for (const auto& [metres, figures] :
+       {std::pair{"0.2", "00"}, {"1.5", "03"}, {"14.5", "29"}, {"//", "//"}}) {
+    ASSERT_TRUE(f.enter(Field::kHw1Hw1, metres)) << metres;
+    EXPECT_EQ(f.record().Hw1Hw1, figures) << metres;
+  }
+  f.form->change([](Struct_Weather& r) { r.HwHw = "03"; });
+  EXPECT_EQ(f.form->text(Field::kHwHw), "1.5");
+}
+
+TEST(ObservationForm, ReadingBecomesPressureAndAChangedOneClearsTheCharacteristic) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kReading, "1013.25"));
+  EXPECT_EQ(f.record().PPPP, "0132");
+  EXPECT_EQ(f.form->text(Field::kReading), "1013.2");
+  EXPECT_EQ(f.form->text(Field::kPPPP), "1013.2");
+  ASSERT_TRUE(f.enter(Field::ka, "2"));
+  ASSERT_TRUE(f.enter(Field::kReading, "1013.2"));
+  EXPECT_EQ(f.record().a, "2");
+  ASSERT_TRUE(f.enter(Field::kReading, "1014.0"));
+  EXPECT_EQ(f.record().a, "");
+  EXPECT_EQ(f.form->text(Field::ka), "");
+  ASSERT_TRUE(f.enter(Field::ka, "2"));
+  ASSERT_TRUE(f.enter(Field::kReading, ""));
+  EXPECT_EQ(f.record().PPPP, "");
+  EXPECT_EQ(f.record().a, "2");
+}
+
+TEST(ObservationForm, APressureMayBeTypedAsCodeOrInHectopascals) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kPPPP, "9987"));
+  EXPECT_EQ(f.record().PPPP, "9987");
+  EXPECT_EQ(f.form->text(Field::kPPPP), "0998.7");
+  ASSERT_TRUE(f.enter(Field::kPPPP, "1015.6"));
+  EXPECT_EQ(f.record().PPPP, "0156");
+  for (const char* refused : {"0701", "8699", "869.9", "1070.0", "abc"}) {
+    f.world.windows.expect(id::kSeaLevelPressureRange);
+    EXPECT_FALSE(f.enter(Field::kPPPP, refused)) << refused;
+  }
+  f.world.windows.expect(id::kPressureQuestion, "no");
+  EXPECT_FALSE(f.enter(Field::kPPPP, "0501"));
+  EXPECT_EQ(f.record().PPPP, "0156");
+  f.world.windows.expect(id::kPressureQuestion, "yes");
+  EXPECT_TRUE(f.enter(Field::kPPPP, "0501"));
+  EXPECT_EQ(f.record().PPPP, "0501");
+}
+
+TEST(ObservationForm, DryAndWetBulbGiveDewPointAndHumidity) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kReading, "1013.2"));
+  ASSERT_TRUE(f.enter(Field::kDryBulb, "10"));
+  ASSERT_TRUE(f.enter(Field::kWetBulb, "5.0"));
+  EXPECT_EQ(f.record().SnT + f.record().TTT, "0100");
+  EXPECT_EQ(f.record().Sw + f.record().TbTbTb, "0050");
+  EXPECT_EQ(f.record().SnTd + f.record().TdTdTd, "1018");
+  EXPECT_FALSE(f.record().LogExtra.empty());
+}
+
+TEST(ObservationForm, WetBulbAboveDryBulbIsRefusedFromEitherField) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kDryBulb, "10.0"));
+  f.world.windows.expect(id::kWetBulbAboveAir);
+  EXPECT_FALSE(f.enter(Field::kWetBulb, "10.1"));
+  ASSERT_TRUE(f.enter(Field::kWetBulb, "9.0"));
+  f.world.windows.expect(id::kWetBulbAboveAir);
+  EXPECT_FALSE(f.enter(Field::kDryBulb, "8.9"));
+  EXPECT_EQ(f.record().TTT, "100");
+}
+
+TEST(ObservationForm, SpeedOf99AndMoreGoesToItsOwnGroup) {
+  Form f;
+  f.world.windows.expect(id::kWindSpeedQuestion, "yes");
+  ASSERT_TRUE(f.enter(Field::kff, "105"));
+  EXPECT_EQ(f.record().ff, "99");
+  EXPECT_EQ(f.record().fff, "105");
+  ASSERT_TRUE(f.enter(Field::kff, "12"));
+  EXPECT_EQ(f.record().ff, "12");
+  EXPECT_EQ(f.record().fff, "");
+}
+
+TEST(ObservationForm, WindRulesAreRaisedByTheSpeed) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kdd, "18"));
+  f.world.windows.expect(id::kDirectionWithoutSpeed);
+  EXPECT_FALSE(f.enter(Field::kff, "0"));
+  f.world.windows.expect(id::kDirectionBelowOneKnot);
+  EXPECT_FALSE(f.enter(Field::kff, "0.3"));
+  EXPECT_TRUE(f.enter(Field::kff, "//"));
+  ASSERT_TRUE(f.enter(Field::kdd, "0"));
+  EXPECT_EQ(f.record().dd, "00");
+  f.world.windows.expect(id::kCalmDirectionWithSpeed);
+  EXPECT_FALSE(f.enter(Field::kff, "0.5"));
+  EXPECT_TRUE(f.enter(Field::kff, "0.3"));
+  EXPECT_EQ(f.record().ff, "00");
+}
+
+TEST(ObservationForm, ApparentWindGivesTrueWindAndMissingInputEmptiesIt) {
+  Form f;
+  f.ship.wind_input_method = WindInputMethod::kApparentWind;
+  f.rebuild();
+  ASSERT_TRUE(f.enter(Field::kHeading, "360"));
+  ASSERT_TRUE(f.enter(Field::kShipSpeed, "10"));
+  ASSERT_TRUE(f.enter(Field::kApparentDirection, "90"));
+  ASSERT_TRUE(f.enter(Field::kApparentSpeed, "10"));
+  EXPECT_EQ(f.record().dd + f.record().ff, "1414");
+  ASSERT_TRUE(f.enter(Field::kShipSpeed, ""));
+  EXPECT_EQ(f.record().dd + f.record().ff, "");
+}
+
+TEST(ObservationForm, CloudRulesAreRefusedFromEitherField) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kN, "5"));
+  f.world.windows.expect(id::kLowestAboveTotal);
+  EXPECT_FALSE(f.enter(Field::kNh, "6"));
+  ASSERT_TRUE(f.enter(Field::kNh, "5"));
+  f.world.windows.expect(id::kLowestAboveTotal);
+  EXPECT_FALSE(f.enter(Field::kN, "4"));
+  EXPECT_TRUE(f.enter(Field::kN, "/"));
+}
+
+TEST(ObservationForm, SwitchedOffWeatherIsFilledAndLockedAndComesBack) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kww, "61"));
+  f.items.set_observed(ObservationItem::ww, false);
+  f.form->items_changed();
+  EXPECT_EQ(f.record().ww, "//");
+  EXPECT_EQ(f.record().iX, "1");
+  EXPECT_TRUE(f.enter(Field::kww, "02"));
+  EXPECT_EQ(f.record().ww, "//");
+  f.items.set_observed(ObservationItem::W1W2, false);
+  f.form->items_changed();
+  EXPECT_EQ(f.record().iX, "3");
+  EXPECT_EQ(f.form->group_text(Group::k7wwW1W2), "7////");
+  f.items = {};
+  f.form->items_changed();
+  EXPECT_EQ(f.record().ww, "61");
+  EXPECT_EQ(f.record().W1, "");
+  EXPECT_EQ(f.record().iX, "1");
+}
+
+TEST(ObservationForm, HemispheresGiveTheQuadrantAndNoneIsAssumed) {
+  Form f;
+  f.form->choose_hemispheres(0, -1);
+  EXPECT_EQ(f.record().Qc, "");
+  const char* const quadrants[2][2] = {{"1", "7"}, {"3", "5"}};
+  for (int ns = 0; ns < 2; ++ns) {
+    for (int ew = 0; ew < 2; ++ew) {
+      f.form->choose_hemispheres(ns, ew);
+      EXPECT_EQ(f.record().Qc, quadrants[ns][ew]);
+    }
+  }
+}
+
+TEST(ObservationForm, SeaTemperatureTakesSignAndMethod) {
+  Form f;
+  f.ship.sea_temperature_method = SeaTemperatureMethod::kBucket;
+  ASSERT_TRUE(f.enter(Field::kTwTwTw, "12.3"));
+  EXPECT_EQ(f.record().Ss + f.record().TwTwTw, "2123");
+  ASSERT_TRUE(f.enter(Field::kTwTwTw, "-1.5"));
+  EXPECT_EQ(f.record().Ss + f.record().TwTwTw, "3015");
+}
+
+struct GroupRow {
+  Group group;
+  const char* typed;
+  const char* shown;
+};
+
+TEST(ObservationForm, AGroupTypedWholeFillsItsFields) {
+  const GroupRow rows[] = {
+      {Group::kYYGGiw, "15123", "15123"},        {Group::k99LaLaLa, "99359", "99359"},
+      {Group::kQcLoLoLoLo, "71405", "71405"},    {Group::kiRiXhVV, "41497", "41497"},
+      {Group::kNddff, "81617", "81617"},         {Group::k1SnTTT, "11018", "11018"},
+      {Group::k2SnTdTdTd, "21020", "21020"},     {Group::k4PPPP, "40132", "40132"},
+      {Group::k5appp, "52011", "52011"},         {Group::k7wwW1W2, "76162", "76162"},
+      {Group::k8NhCLCMCH, "8352/", "8352/"},     {Group::k222DsVs, "22234", "22234"},
+      {Group::k0SsTwTwTw, "01015", "01015"},     {Group::k2PwPwHwHw, "20703", "20703"},
+      {Group::k3dw1dw1dw2dw2, "327//", "327//"}, {Group::k4Pw1Pw1Hw1Hw1, "40804", "40804"},
+      {Group::k6IsEsEsRs, "61052", "61052"},     {Group::k8SwTbTbTb, "81015", "81015"},
+      {Group::kICE, "ICE 12345", "ICE 12345"},   {Group::kICE, "54321", "ICE 54321"},
+      {Group::k1PwaPwaHwaHwa, "10705", "10705"}, {Group::k4PPPP, "4////", "4////"},
+  };
+  for (const GroupRow& row : rows) {
+    Form f;
+    EXPECT_TRUE(f.form->leave_group(row.group, row.typed)) << row.typed;
+    EXPECT_EQ(f.form->group_text(row.group), row.shown);
+    EXPECT_TRUE(f.form->leave_group(row.group, "")) << row.typed;
+    EXPECT_EQ(
+        f.form->group_text(row.group).find_first_of("56789", row.group == Group::kICE ? 4 : 3),
+        std::string::npos)
+        << f.form->group_text(row.group);
+  }
+}
+
+TEST(ObservationForm, AGroupOfTheWrongShapeIsRefusedWhole) {
+  for (const char* typed :
+       {"4015", "401561", "50156", "4O156", "4 0156x", "４０１５６", "\xff\xfe"}) {
+    Form f;
+    ASSERT_TRUE(f.enter(Field::kPPPP, "9987"));
+    const Struct_Weather before = f.record();
+    f.world.windows.expect(id::kInputError);
+    EXPECT_FALSE(f.form->leave_group(Group::k4PPPP, typed)) << typed;
+    EXPECT_TRUE(f.record() == before);
+  }
+}
+
+TEST(ObservationForm, AGroupWithOneWrongSymbolStoresNone) {
+  Form f;
+  const Struct_Weather before = f.record();
+  f.world.windows.expect(id::kVisibilityRange);
+  EXPECT_FALSE(f.form->leave_group(Group::kiRiXhVV, "41489"));
+  EXPECT_TRUE(f.record() == before);
+  EXPECT_EQ(f.form->text(Field::kh), "");
+  f.world.windows.expect(id::kSignRange);
+  EXPECT_FALSE(f.form->leave_group(Group::k1SnTTT, "12015"));
+  EXPECT_TRUE(f.record() == before);
+}
+
+}  // namespace
