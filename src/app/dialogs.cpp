@@ -1,5 +1,7 @@
 #include "app/dialogs.h"
 
+#include "mainwindow/CVelmaranDlg.h"
+#include "media/CLogDiskSavePathDlg.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CKeyObserveDlg.h"
 #include "text/messages.h"
@@ -11,11 +13,12 @@ namespace {
 std::optional<std::string> ask_working_folder(ui::Services& services, WorkingFolder which,
                                               const std::string& proposed,
                                               const Dialogs::Write& write) {
-  (void)services;
-  (void)which;
-  (void)proposed;
-  (void)write;
-  return std::nullopt;
+  const auto mode = which == WorkingFolder::kReports ? CLogDiskSavePathDlg::Mode::kReport
+                                                     : CLogDiskSavePathDlg::Mode::kLogbook;
+  CLogDiskSavePathDlg screen(services, mode, {.current = {}, .proposed = proposed, .source = {}},
+                             write);
+  if (services.windows.run_modal(screen) != text::kOk) return std::nullopt;
+  return screen.folder();
 }
 
 Answer<ShipFixedData> ask_fixed_data(ui::Services& services, const FixedDataQuestion& question) {
@@ -32,8 +35,8 @@ Answer<KeyObservationItems> ask_key_items(ui::Services& services, const std::str
 }
 
 void show_main_window(ui::Services& services, const mainwindow::MainWindowContext& context) {
-  (void)services;
-  (void)context;
+  CVelmaranDlg screen(services, context);
+  services.windows.run_modal(screen);
 }
 
 }  // namespace
