@@ -1,18 +1,21 @@
 #pragma once
 // The main window: one form with the whole observation, the report built from it, and the way to
-// every other dialog.
+// every other dialog. What the fields hold and what follows from an entry is ObservationForm's;
+// the window shows it, and leads the focus, the menus and the dialogs.
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "elements/observation_form.h"
 #include "mainwindow/context.h"
+#include "mainwindow/element_openers.h"
 #include "mainwindow/form_rows.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/tab_flags.h"
-#include "observation/Struct_Weather.h"
 #include "ui/observation_view.h"
 #include "ui/screen.h"
 
@@ -24,20 +27,21 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
 
   [[nodiscard]] std::string title() const override;
   [[nodiscard]] std::vector<std::pair<std::string, std::string>> record_fields() const override;
-  [[nodiscard]] std::string report() const override;
+  [[nodiscard]] std::string report() const override { return form_.report(); }
 
-  [[nodiscard]] const Struct_Weather& record() const { return record_; }
+  [[nodiscard]] const elements::ObservationForm& form() const { return form_; }
   /// A menu command or the exit procedure is running; focus-loss checks and further commands wait.
   [[nodiscard]] bool command_in_progress() const { return command_in_progress_; }
   [[nodiscard]] bool exiting() const { return exiting_; }
-  /// The report on the form has entries that no save has written.
-  [[nodiscard]] bool unsaved() const { return unsaved_; }
+  /// The form has entries that no save has written, also one that is still being typed.
+  [[nodiscard]] bool unsaved() const { return form_.modified() || typing_; }
   /// Which way Tab left the field.
   [[nodiscard]] const mainwindow::TabFlags& tab_flags() const { return tab_flags_; }
 
-  /// Opens the dialog of an element by its number, 99 and numbers without a dialog give the message
-  /// for fields without one. True when the dialog was confirmed: the record then holds its result
-  /// and the focus is on the field behind the element. Anything else changes nothing.
+  /// Opens the dialog of an element by its number; 99 and numbers without a dialog give the message
+  /// for fields without one, an element that is switched off gives nothing. True when the dialog
+  /// was confirmed: the form then has its result and the focus is on the field behind the element.
+  /// Else nothing has changed.
   bool open_element(int element);
   /// Runs a menu command; dropped while another one runs.
   void run(const mainwindow::MenuRow& command);
@@ -48,55 +52,73 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void on_ok() override {}
   void on_cancel() override;
   void on_f1(ui::Control* focused) override;
-  bool on_enter_or_escape(ui::Key) override { return true; }
+  /// Enter and Escape are taken from every field, so that they neither close the window nor press
+  /// anything.
+  bool on_enter_or_escape(ui::Key /*key*/) override { return true; }
   void on_tab(ui::Key key) override;
 
  private:
   struct Field {
     const mainwindow::FieldRow* row = nullptr;
     ui::Control* control = nullptr;
+    std::optional<elements::Field> value;  ///< of an edit
   };
   struct ReportGroup {
     const mainwindow::ReportGroupRow* row = nullptr;
     ui::Control* control = nullptr;
   };
 
+  // Building the form.
   template <class C, class... Arguments>
   C& add(Arguments&&... arguments);
   void add_labels();
   void add_field(const mainwindow::FieldRow& row);
+  void add_edit(const mainwindow::FieldRow& row, text::Ref label);
+  void add_hemispheres(const mainwindow::FieldRow& row, int first, int second);
   void add_report();
 
-  [[nodiscard]] const Field* field_of(const ui::Control* control) const;
-  [[nodiscard]] ui::Control* field(std::string_view name) const;
-
+  // Showing it.
   void show_menu();
   void refresh();
-  void show_field(const Field& field);
+  void show_edit(const Field& field);
+  void show_choices();
   void show_report();
+  [[nodiscard]] int why_locked(const mainwindow::FieldRow& row) const;
+  [[nodiscard]] std::string group_shown(const ReportGroup& group) const;
+
+  // Entries.
+  bool leave(const Field& field);
+  bool leave_group(const ReportGroup& group);
+  bool settle_focused();
+  void hemispheres_chosen();
+  void loading_state_chosen();
+
+  // Dialogs.
   void label_clicked(const mainwindow::LabelRow& row);
   void focus_behind(const ui::Control* last);
   [[nodiscard]] const ui::Control* last_field_of(int element) const;
-  bool leave(const Field& field);
+  [[nodiscard]] const Field* field_of(const ui::Control* control) const;
+  [[nodiscard]] ui::Control* control_of(std::string_view name) const;
+
+  // Commands.
   void correct_reports();
   void edit_fixed_data();
   void edit_observation_items();
-  void ship_changed();
-  void loading_state_chosen();
   void switch_language(text::Language language);
   void exit();
   bool save();
 
   mainwindow::MainWindowContext context_;
-  Struct_Weather record_;
+  elements::ObservationForm form_;
   std::vector<std::unique_ptr<ui::Control>> owned_;
   std::vector<Field> fields_;
   std::vector<ReportGroup> groups_;
   ui::Control* call_sign_ = nullptr;
   ui::Control* ice_word_ = nullptr;
+  std::string last_quadrant_;
   mainwindow::TabFlags tab_flags_;
+  bool typing_ = false;  ///< the field that has the focus holds a text that was not taken yet
   bool command_in_progress_ = false;
   bool exiting_ = false;
-  bool unsaved_ = false;
   bool saved_once_ = false;
 };

@@ -32,6 +32,9 @@ struct MainWindowContext {
   std::function<void(text::Language)>
       language_changed;                   ///< after the language of the texts was switched
   std::function<void()> folders_changed;  ///< after a menu command changed `folders`
+  /// True when a position lies on land or in a coastal region; degrees, north and east positive.
+  /// Not set: no land is known.
+  std::function<bool(double latitude, double longitude)> is_on_land = {};
 };
 
 }  // namespace mainwindow

@@ -2,7 +2,21 @@
 
 #include <algorithm>
 
+#include "codetables/CEyeShotDlg.h"
+#include "elements/CCountDewDlg.h"
+#include "elements/CDvDsDlg.h"
+#include "elements/CLookWindDlg.h"
+#include "elements/CPositionDlg.h"
+#include "elements/CPresureTendencyDlg.h"
+#include "elements/CSeaSurfacePressureDlg.h"
+#include "elements/CSea_SurfaceTemperatureDlg.h"
+#include "elements/CTemperatureAndDewDlg.h"
+#include "elements/CThumidityDlg.h"
+#include "elements/CTrueDirWindDlg.h"
+#include "elements/CUTCTimeDlg1.h"
 #include "mainwindow/form_rows.h"
+#include "ship/CKataInputDlg.h"
+#include "text/strings.h"
 
 namespace mainwindow {
 namespace {
@@ -37,19 +51,193 @@ Use wind_by(const MainWindowContext& context) {
   return context.ship.wind_input_method == method ? Use::kInUse : Use::kOtherMethod;
 }
 
+using elements::Field;
+
+bool confirmed(Opening& opening, ui::Screen& dialog) {
+  return opening.services.windows.run_modal(dialog) == text::kOk;
+}
+
+bool open_time(Opening& opening) {
+  const Struct_Weather& record = opening.form.record();
+  CUTCTimeDlg1 dialog(opening.services, {record.Year, record.Month, record.YY, record.GG});
+  if (!confirmed(opening, dialog)) return false;
+  opening.form.change([&](Struct_Weather& r) {
+    const CUTCTimeDlg1::Values& v = dialog.values();
+    r.Year = v.Year;
+    r.Month = v.Month;
+    r.YY = v.YY;
+    r.GG = v.GG;
+  });
+  return true;
+}
+
+bool open_position(Opening& opening) {
+  const Struct_Weather& record = opening.form.record();
+  CPositionDlg dialog(opening.services,
+                      {record.LaDeg, record.LaMin, record.LoDeg, record.LoMin, record.Qc},
+                      opening.last_quadrant, opening.context.is_on_land);
+  if (!confirmed(opening, dialog)) return false;
+  opening.form.change([&](Struct_Weather& r) {
+    const CPositionDlg::Values& v = dialog.values();
+    r.LaDeg = v.LaDeg;
+    r.LaMin = v.LaMin;
+    r.LoDeg = v.LoDeg;
+    r.LoMin = v.LoMin;
+    r.Qc = v.Qc;
+  });
+  return true;
+}
+
+bool open_course_and_speed(Opening& opening) {
+  CDvDsDlg dialog(opening.services, {opening.form.record().Ds, opening.form.record().Vs});
+  if (!confirmed(opening, dialog)) return false;
+  opening.form.put(Field::kDs, dialog.values().Ds);
+  opening.form.put(Field::kVs, dialog.values().Vs);
+  return true;
+}
+
+// The reading is taken as if it had been typed: an unusual pressure at sea level asks, and No keeps
+// the pressure that was there.
+void take_reading(elements::ObservationForm& form, const std::string& reading) {
+  if (reading.empty()) {
+    form.put(Field::kReading, {});
+    return;
+  }
+  form.type(Field::kReading, reading);
+  static_cast<void>(form.leave(Field::kReading));
+}
+
+bool open_pressure(Opening& opening) {
+  using Dialog = CSeaSurfacePressureDlg;
+  elements::ObservationForm& form = opening.form;
+  MainWindowContext& context = opening.context;
+  const bool psychrometer = context.ship.dew_point_method == DewPointMethod::kComputed;
+  Dialog::Values values;
+  values.reading = form.text(Field::kReading);
+  values.air_temperature = form.text(psychrometer ? Field::kDryBulb : Field::kAirTemperature);
+  values.hour = form.text(Field::kGGExact);
+  values.minute = form.text(Field::kgg);
+  values.time_choice = form.record().has_exact_time() ? Dialog::TimeChoice::kMoreThan10Minutes
+                                                      : Dialog::TimeChoice::kUnder10Minutes;
+  values.card = context.ship.card;
+  Dialog::CardActions actions;
+  actions.renew = [&](BarometerCard& card) { return renew_card(opening.services, card); };
+  actions.store = [&](const BarometerCard& card) {
+    if (card == context.ship.card) return;
+    context.ship.card = card;
+    if (context.save_fixed_data) context.save_fixed_data();
+  };
+  Dialog dialog(opening.services, std::move(values), std::move(actions));
+  const BarometerCard before = context.ship.card;
+  const bool ok = confirmed(opening, dialog);
+  if (!(before == context.ship.card)) form.ship_changed();
+  if (!ok) return false;
+  const Dialog::Values& result = dialog.values();
+  const bool exact = result.time_choice == Dialog::TimeChoice::kMoreThan10Minutes;
+  form.put(Field::kGGExact, exact ? result.hour : std::string());
+  form.put(Field::kgg, exact ? result.minute : std::string());
+  take_reading(form, result.reading);
+  return true;
+}
+
+bool open_tendency(Opening& opening) {
+  const Struct_Weather& record = opening.form.record();
+  CPresureTendencyDlg dialog(opening.services, record.a, record.ppp);
+  if (!confirmed(opening, dialog)) return false;
+  opening.form.change([&](Struct_Weather& r) {
+    r.a = dialog.a();
+    r.ppp = dialog.ppp();
+  });
+  return true;
+}
+
+bool open_psychrometer(Opening& opening) {
+  elements::ObservationForm& form = opening.form;
+  CCountDewDlg dialog(opening.services, {form.text(Field::kDryBulb), form.text(Field::kWetBulb),
+                                         form.wet_bulb_state(), form.text(Field::kReading),
+                                         opening.context.ship.card});
+  if (!confirmed(opening, dialog)) return false;
+  form.put(Field::kDryBulb, dialog.values().dry);
+  form.put(Field::kWetBulb, dialog.values().wet);
+  form.put_wet_bulb_state(dialog.values().state);
+  return true;
+}
+
+bool open_dew_point(Opening& opening) {
+  elements::ObservationForm& form = opening.form;
+  CTemperatureAndDewDlg dialog(opening.services,
+                               {form.text(Field::kAirTemperature), form.text(Field::kDewPoint)});
+  if (!confirmed(opening, dialog)) return false;
+  form.put(Field::kAirTemperature, dialog.values().air);
+  form.put(Field::kDewPoint, dialog.values().dew);
+  return true;
+}
+
+bool open_humidity(Opening& opening) {
+  CThumidityDlg dialog(opening.services, opening.form.text(Field::kHumidity),
+                       opening.context.ship.humidity_unit);
+  if (!confirmed(opening, dialog)) return false;
+  opening.form.put(Field::kHumidity, dialog.humidity());
+  return true;
+}
+
+bool open_sea_temperature(Opening& opening) {
+  const Struct_Weather& record = opening.form.record();
+  CSea_SurfaceTemperatureDlg dialog(opening.services, {record.Ss, record.TwTwTw},
+                                    opening.context.ship.sea_temperature_method);
+  if (!confirmed(opening, dialog)) return false;
+  opening.form.change([&](Struct_Weather& r) {
+    r.Ss = dialog.values().Ss;
+    r.TwTwTw = dialog.values().TwTwTw;
+  });
+  return true;
+}
+
+bool open_apparent_wind(Opening& opening) {
+  elements::ObservationForm& form = opening.form;
+  CLookWindDlg dialog(
+      opening.services,
+      {form.text(Field::kApparentDirection), form.text(Field::kApparentSpeed),
+       form.text(Field::kHeading), form.text(Field::kCourse), form.text(Field::kShipSpeed)});
+  if (!confirmed(opening, dialog)) return false;
+  const elements::ApparentWindTexts& v = dialog.values();
+  form.put(Field::kApparentDirection, text::trim(v.direction));
+  form.put(Field::kApparentSpeed, text::trim(v.speed));
+  form.put(Field::kHeading, text::trim(v.heading));
+  form.put(Field::kCourse, text::trim(v.course));
+  form.put(Field::kShipSpeed, text::trim(v.ship_speed));
+  return true;
+}
+
+bool open_true_wind(Opening& opening) {
+  elements::ObservationForm& form = opening.form;
+  CTrueDirWindDlg dialog(opening.services, form.text(Field::kdd), form.text(Field::kff));
+  if (!confirmed(opening, dialog)) return false;
+  form.put(Field::kdd, dialog.direction());
+  form.put(Field::kff, dialog.speed());
+  return true;
+}
+
+bool open_visibility(Opening& opening) {
+  CEyeShotDlg dialog(opening.services, opening.form.record().VV);
+  if (!confirmed(opening, dialog)) return false;
+  opening.form.put(Field::kVV, dialog.code());
+  return true;
+}
+
 constexpr ElementRow kRows[] = {
-    {kObservationTime, always},
-    {kPosition, always},
-    {kCourseAndSpeed, always},
-    {kPressure, always},
-    {kPressureTendency, always},
-    {kPsychrometer, dew_point_by<DewPointMethod::kComputed>},
-    {kTemperatureAndDewPoint, dew_point_by<DewPointMethod::kDirect>},
-    {kSeaTemperature, always},
-    {kApparentWind, wind_by<WindInputMethod::kApparentWind>},
+    {kObservationTime, always, open_time},
+    {kPosition, always, open_position},
+    {kCourseAndSpeed, always, open_course_and_speed},
+    {kPressure, always, open_pressure},
+    {kPressureTendency, always, open_tendency},
+    {kPsychrometer, dew_point_by<DewPointMethod::kComputed>, open_psychrometer},
+    {kTemperatureAndDewPoint, dew_point_by<DewPointMethod::kDirect>, open_dew_point},
+    {kSeaTemperature, always, open_sea_temperature},
+    {kApparentWind, wind_by<WindInputMethod::kApparentWind>, open_apparent_wind},
     {kWindWave, item_is_observed<ObservationItem::PwHw>},
     {kSwell, a_swell_is_observed},
-    {kVisibility, item_is_observed<ObservationItem::VV>},
+    {kVisibility, item_is_observed<ObservationItem::VV>, open_visibility},
     {kPresentWeather, item_is_observed<ObservationItem::ww>},
     {kPastWeather, item_is_observed<ObservationItem::W1W2>},
     {kCloudAmount, item_is_observed<ObservationItem::N>},
@@ -63,8 +251,8 @@ constexpr ElementRow kRows[] = {
     {kIceStage, item_is_observed<ObservationItem::ciSibiDizi>},
     {kIceBearing, item_is_observed<ObservationItem::ciSibiDizi>},
     {kIceTrend, item_is_observed<ObservationItem::ciSibiDizi>},
-    {kTrueWind, wind_by<WindInputMethod::kTrueWind>},
-    {kRelativeHumidity, humidity_is_read},
+    {kTrueWind, wind_by<WindInputMethod::kTrueWind>, open_true_wind},
+    {kRelativeHumidity, humidity_is_read, open_humidity},
 };
 
 }  // namespace

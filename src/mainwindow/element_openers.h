@@ -2,9 +2,10 @@
 // The dialogs of the elements by their numbers. A new dialog is one row here.
 
 #include <span>
+#include <string>
 
+#include "elements/observation_form.h"
 #include "mainwindow/context.h"
-#include "observation/Struct_Weather.h"
 #include "ui/services.h"
 
 namespace mainwindow {
@@ -13,11 +14,13 @@ namespace mainwindow {
 struct Opening {
   ui::Services& services;
   MainWindowContext& context;
-  Struct_Weather& record;
+  elements::ObservationForm& form;
+  std::string last_quadrant;  ///< Qc of the ship's last saved report, empty when there is none
 };
 
-/// Constructs the element's dialog from the record, runs it, and on OK writes its result back.
-/// False, with nothing changed, when it was not confirmed.
+/// Constructs the element's dialog from the form's values, runs it, and on OK puts its result back.
+/// False, with nothing changed, when it was not confirmed. (The barometer card is the one thing
+/// that the pressure screen may store while it is still open.)
 using Opener = bool (*)(Opening&);
 
 /// Why an element is not entered on this ship; kInUse when it is.

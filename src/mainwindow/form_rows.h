@@ -3,10 +3,12 @@
 // groups at the bottom.
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
 #include "observation/report_groups.h"
+#include "ship/KeyObservationItems.h"
 #include "text/texts.h"
 
 namespace mainwindow {
@@ -49,13 +51,14 @@ inline constexpr int kLabelsToEnglish = 74;
   return {id, id == 0 ? 0 : kLabelsToEnglish};
 }
 
-/// A label that opens an element's dialog. A group's label does nothing when the element is
-/// switched off; a caption moves the focus on to the field behind its own.
+/// A label that opens an element's dialog. It does nothing when the element is switched off; a
+/// caption also moves the focus on to the field behind its own.
 struct LabelRow {
   std::string_view name;
   int label = 0;
   int element = kNoElement;
-  std::string_view caption_of = {};  ///< the field that the caption stands at; empty for a group
+  std::optional<ObservationItem> item = {};  ///< that switches the element off
+  std::string_view caption_of = {};  ///< the field that a caption stands at; none for a group
 };
 [[nodiscard]] std::span<const LabelRow> label_rows();
 
@@ -75,6 +78,8 @@ struct FieldRow {
   int max_length = 0;
   int element = kNoElement;
   FieldKind kind = FieldKind::kEdit;
+  bool computed = false;  ///< with the other method the program computes it: locked, but shown
+  bool needs_wave_recorder = false;
 };
 [[nodiscard]] std::span<const FieldRow> field_rows();
 
@@ -85,6 +90,9 @@ struct ReportGroupRow {
   std::string_view caption;
 };
 [[nodiscard]] std::span<const ReportGroupRow> report_group_rows();
+
+/// Characters of the longest group.
+inline constexpr int kGroupWidth = 9;
 
 /// Caption of the call sign, which stands in front of the groups.
 inline constexpr std::string_view kCallSignCaption = "CALLSIGN";

@@ -57,6 +57,8 @@ TEST(MainWindowKeys, TabGoesThroughTheFieldsInTheOrderOfAnObservation) {
   for (const mainwindow::FieldRow& row : mainwindow::field_rows()) {
     if (opened->control(row.name).can_focus()) expected.emplace_back(row.name);
   }
+  for (const mainwindow::ReportGroupRow& row : mainwindow::report_group_rows())
+    expected.emplace_back(row.name);
   EXPECT_EQ(expected, walked);
   std::vector<std::string> back;
   for (std::size_t i = 0; i < walked.size(); ++i) {

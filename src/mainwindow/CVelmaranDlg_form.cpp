@@ -1,0 +1,245 @@
+// The form itself: its controls, what they show, and what is typed into them.
+
+#include <algorithm>
+
+#include "mainwindow/CVelmaranDlg.h"
+#include "text/ids.h"
+
+namespace {
+
+namespace id = text::id;
+using mainwindow::FieldKind;
+using mainwindow::label_ref;
+using mainwindow::Use;
+
+constexpr int kSelectedOnFocus = 10;
+constexpr std::string_view kIceWord = "ICE ";
+constexpr std::string_view kMissing = "missing";
+constexpr std::string_view kWrong = "wrong";
+
+}  // namespace
+
+CVelmaranDlg::CVelmaranDlg(ui::Services& services, mainwindow::MainWindowContext context)
+    : Screen(services, "CVelmaranDlg", {id::kMainTitle, 0}),
+      context_(std::move(context)),
+      form_(context_.ship, context_.items, services.texts, services.messages, services.clock) {
+  select_on_focus(kSelectedOnFocus);
+  add_labels();
+  fields_.reserve(mainwindow::field_rows().size());
+  for (const mainwindow::FieldRow& row : mainwindow::field_rows()) add_field(row);
+  add_report();
+}
+
+CVelmaranDlg::~CVelmaranDlg() = default;
+
+template <class C, class... Arguments>
+C& CVelmaranDlg::add(Arguments&&... arguments) {
+  auto control = std::make_unique<C>(*this, std::forward<Arguments>(arguments)...);
+  C& result = *control;
+  owned_.push_back(std::move(control));
+  return result;
+}
+
+void CVelmaranDlg::add_labels() {
+  for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
+    ui::Label& label = add<ui::Label>(row.name, label_ref(row.label));
+    if (row.element != mainwindow::kNoElement)
+      label.on_press = [this, &row] { label_clicked(row); };
+  }
+  add<ui::Label>("label_report", label_ref(id::kLabelWeatherMessage));
+}
+
+void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
+  const text::Ref label = label_ref(row.label);
+  switch (row.kind) {
+    case FieldKind::kEdit:
+      add_edit(row, label);
+      break;
+    case FieldKind::kNorthSouth:
+      add_hemispheres(row, id::kLabelNorth, id::kLabelSouth);
+      break;
+    case FieldKind::kEastWest:
+      add_hemispheres(row, id::kLabelEast, id::kLabelWest);
+      break;
+    case FieldKind::kLoadingState: {
+      ui::Choice& choice = add<ui::Choice>(
+          row.name, label,
+          std::vector{label_ref(id::kLabelFullLoad), label_ref(id::kLabelInBallast)});
+      choice.on_change = [this] { loading_state_chosen(); };
+      fields_.push_back({&row, &choice, {}});
+      break;
+    }
+    case FieldKind::kFreeze: {
+      ui::Tick& freeze = add<ui::Tick>(row.name, label);
+      freeze.on_change = [this] {
+        form_.toggle_freeze();
+        refresh();
+      };
+      fields_.push_back({&row, &freeze, {}});
+      break;
+    }
+  }
+  fields_.back().control->on_enter = [this] { tab_flags_.arm(); };
+}
+
+void CVelmaranDlg::add_edit(const mainwindow::FieldRow& row, text::Ref label) {
+  ui::Edit& edit = add<ui::Edit>(row.name, label, row.max_length);
+  edit.unit = row.unit;
+  fields_.push_back({&row, &edit, elements::field_named(row.name)});
+  edit.on_change = [this, at = fields_.size() - 1] {
+    typing_ = true;
+    form_.type(*fields_[at].value, fields_[at].control->content);
+  };
+  edit.on_leave = [this, at = fields_.size() - 1] {
+    return command_in_progress_ || leave(fields_[at]);
+  };
+}
+
+void CVelmaranDlg::add_hemispheres(const mainwindow::FieldRow& row, int first, int second) {
+  ui::Choice& choice = add<ui::Choice>(row.name, label_ref(row.label),
+                                       std::vector{label_ref(first), label_ref(second)});
+  choice.on_change = [this] { hemispheres_chosen(); };
+  fields_.push_back({&row, &choice, {}});
+}
+
+void CVelmaranDlg::add_report() {
+  call_sign_ = &add<ui::ReadOnly>("call_sign");
+  call_sign_->literal_caption = mainwindow::kCallSignCaption;
+  groups_.reserve(mainwindow::report_group_rows().size());
+  for (const mainwindow::ReportGroupRow& row : mainwindow::report_group_rows()) {
+    if (row.group == observation::Group::kICE) {
+      ice_word_ = &add<ui::ReadOnly>("group_ICE");
+      ice_word_->literal_caption = mainwindow::kIceCaption;
+      ice_word_->set(kIceWord.substr(0, kIceWord.size() - 1));
+    }
+    ui::Edit& edit = add<ui::Edit>(row.name, text::Ref{}, mainwindow::kGroupWidth);
+    edit.literal_caption = row.caption;
+    edit.on_enter = [this] { tab_flags_.arm(); };
+    edit.on_change = [this] { typing_ = true; };
+    groups_.push_back({&row, &edit});
+    edit.on_leave = [this, at = groups_.size() - 1] {
+      return command_in_progress_ || leave_group(groups_[at]);
+    };
+  }
+}
+
+void CVelmaranDlg::refresh() {
+  for (const Field& field : fields_) {
+    if (field.value) show_edit(field);
+  }
+  show_choices();
+  show_report();
+}
+
+// Text id of the reason, 0 for a field that is open.
+int CVelmaranDlg::why_locked(const mainwindow::FieldRow& row) const {
+  if (const auto field = elements::field_named(row.name); field && form_.switched_off(*field))
+    return id::kWhyNotObserved;
+  if (row.needs_wave_recorder) return context_.ship.wave_recorder ? 0 : id::kWhyNoWaveRecorder;
+  const mainwindow::ElementRow* const element = mainwindow::find_element(row.element);
+  return element != nullptr && element->use(context_) == Use::kOtherMethod ? id::kWhyOtherMethod
+                                                                           : 0;
+}
+
+// A field whose value the program computes or fills in is locked and shows it; one that has no
+// meaning on this ship is disabled and shows as empty.
+void CVelmaranDlg::show_edit(const Field& field) {
+  ui::Control& control = *field.control;
+  const int why = why_locked(*field.row);
+  const bool shows_value = why == id::kWhyNotObserved || field.row->computed;
+  control.enabled = why == 0 || shows_value;
+  control.read_only = why != 0 && shows_value;
+  control.why_locked = services().texts.get(why);
+  control.set(control.enabled ? std::string_view(form_.text(*field.value)) : std::string_view());
+  control.mark = form_.in_error(*field.value) ? kWrong : std::string_view();
+}
+
+void CVelmaranDlg::show_choices() {
+  control_of("north_south")->selected = form_.north_south();
+  control_of("east_west")->selected = form_.east_west();
+  ui::Control& loading = *control_of("loading_state");
+  loading.enabled = context_.ship.card.type == CardType::kHeightAndTemperature;
+  loading.selected = static_cast<int>(context_.ship.card.loading_state);
+  loading.why_locked = services().texts.get(loading.enabled ? 0 : id::kWhyNoLoadingState);
+  ui::Control& freeze = *control_of("freeze");
+  freeze.enabled = context_.ship.dew_point_method == DewPointMethod::kComputed;
+  freeze.checked = freeze.enabled && form_.wet_bulb_state() == elements::WetBulbState::kIced;
+  freeze.why_locked = services().texts.get(freeze.enabled ? 0 : id::kWhyOtherMethod);
+}
+
+// What stands in a group's field: the group as the report would have it. The word ICE has a field
+// of its own, and a group that is written only when it is set says so by solidi.
+std::string CVelmaranDlg::group_shown(const ReportGroup& group) const {
+  std::string text = form_.group_text(group.row->group);
+  if (text.starts_with(kIceWord)) text.erase(0, kIceWord.size());
+  if (group.row->group == observation::Group::k9GGgg && text == "9") text = "9////";
+  if (group.row->group == observation::Group::k00fff && text == "00") text = "00///";
+  return text;
+}
+
+void CVelmaranDlg::show_report() {
+  call_sign_->set(form_.record().call_sign_for_report());
+  const std::string missing = form_.missing();
+  for (const ReportGroup& group : groups_) {
+    if (typing_ && group.control == focused()) continue;  // a group half typed is not taken away
+    group.control->set(group_shown(group));
+    const int label = observation::row_of(group.row->group).missing_label;
+    const bool lacks = label != 0 && missing.find(services().texts.get(label)) != std::string::npos;
+    group.control->mark = lacks ? kMissing : std::string_view();
+  }
+}
+
+bool CVelmaranDlg::leave(const Field& field) {
+  if (field.control->content != form_.text(*field.value))
+    form_.type(*field.value, field.control->content);
+  const bool accepted = form_.leave(*field.value);
+  typing_ = typing_ && !accepted;
+  refresh();
+  return accepted;
+}
+
+bool CVelmaranDlg::leave_group(const ReportGroup& group) {
+  if (group.control->content == group_shown(group)) {
+    typing_ = false;
+    return true;
+  }
+  std::string typed = group.control->content;
+  if (group.row->group == observation::Group::kICE) typed.insert(0, kIceWord);
+  if (!form_.leave_group(group.row->group, typed)) {
+    group.control->mark = kWrong;
+    return false;
+  }
+  typing_ = false;
+  refresh();
+  return true;
+}
+
+void CVelmaranDlg::hemispheres_chosen() {
+  form_.choose_hemispheres(control_of("north_south")->selected, control_of("east_west")->selected);
+  refresh();
+}
+
+void CVelmaranDlg::loading_state_chosen() {
+  const auto chosen = static_cast<LoadingState>(control_of("loading_state")->selected);
+  BarometerCard& card = context_.ship.card;
+  if (chosen == card.loading_state) return;
+  if (services().messages.question(id::kAskLoadingState, text::QuestionMode::kYesNo) ==
+      text::kYes) {
+    card.loading_state = chosen;
+    if (context_.save_fixed_data) context_.save_fixed_data();
+    form_.loading_state_changed();
+  }
+  refresh();
+}
+
+const CVelmaranDlg::Field* CVelmaranDlg::field_of(const ui::Control* control) const {
+  const auto at = std::find_if(fields_.begin(), fields_.end(),
+                               [&](const Field& f) { return f.control == control; });
+  return at == fields_.end() ? nullptr : &*at;
+}
+
+ui::Control* CVelmaranDlg::control_of(std::string_view name) const {
+  const auto at = std::find_if(fields_.begin(), fields_.end(),
+                               [&](const Field& f) { return f.row->name == name; });
+  return at == fields_.end() ? nullptr : at->control;
+}

@@ -1,0 +1,474 @@
+// Every road to every element dialog: F1 by the field's number, the group's label, the captions.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "mainwindow/element_openers.h"
+#include "window.h"
+
+namespace {
+
+namespace id = text::id;
+using main_window::Opened;
+
+// Types into the fields of a dialog (a line of a choice by its number behind "#") and presses OK.
+struct Entry {
+  const char* control;
+  const char* text;
+};
+
+void fill(ui::Screen& screen, const std::vector<Entry>& entries, const char* button) {
+  for (const Entry& entry : entries) {
+    ui::Control* const control = screen.find(entry.control);
+    ASSERT_NE(nullptr, control) << screen.class_name() << " has no " << entry.control;
+    const std::string_view text = entry.text;
+    if (text.starts_with('#')) {
+      screen.move_focus(*control);
+      screen.choose(*control, text[1] - '0');
+    } else {
+      ASSERT_TRUE(fakes::enter(screen, *control, text)) << entry.control;
+    }
+  }
+  screen.press(*screen.find(button));
+}
+
+struct Dialog {
+  int element;
+  const char* class_name;
+  const char* field;  ///< one of its fields
+  const char* label;  ///< one of its labels
+  std::vector<Entry> entries;
+  std::vector<std::pair<std::string, std::string>> record;  ///< what OK leaves there
+  const char* focus;                                        ///< the field behind the element
+};
+
+const std::vector<Dialog>& dialogs() {
+  static const std::vector<Dialog> kDialogs = {
+      {0,
+       "CUTCTimeDlg1",
+       "GG",
+       "label_time",
+       {{"year", "2014"}, {"month", "11"}, {"day", "15"}, {"hour", "12"}},
+       {{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}},
+       "GGExact"},
+      {1,
+       "CPositionDlg",
+       "LaDeg",
+       "label_longitude",
+       {{"latitude_degrees", "35"},
+        {"latitude_minutes", "20"},
+        {"latitude_side", "#1"},
+        {"longitude_degrees", "140"},
+        {"longitude_minutes", "05"},
+        {"longitude_side", "#0"}},
+       {{"LaDeg", "35"}, {"LaMin", "20"}, {"LoDeg", "140"}, {"LoMin", "05"}, {"Qc", "3"}},
+       "Ds"},
+      {2,
+       "CDvDsDlg",
+       "Ds",
+       "label_ship_speed",
+       {{"course", "#2"}, {"speed", "#3"}},
+       {{"Ds", "2"}, {"Vs", "3"}},
+       "loading_state"},
+      {3,
+       "CSeaSurfacePressureDlg",
+       "reading",
+       "label_pressure",
+       {{"reading_whole", "1013"},
+        {"reading_tenths", "2"},
+        {"time_choice", "#1"},
+        {"hour", "11"},
+        {"minute", "45"}},
+       {{"PPPP", "0156"}, {"gg", "45"}, {"GGExact", "11"}},
+       "a"},
+      {4,
+       "CPresureTendencyDlg",
+       "ppp",
+       "label_tendency",
+       {{"kind", "#0"}, {"characteristic", "#2"}, {"amount", "1.2"}},
+       {{"a", "2"}, {"ppp", "012"}},
+       "air_temperature"},
+      {6,
+       "CTemperatureAndDewDlg",
+       "dew_point",
+       "label_dew_point",
+       {{"air_whole", "20"}, {"air_tenths", "0"}, {"dew_whole", "10"}, {"dew_tenths", "0"}},
+       {{"SnT", "0"}, {"TTT", "200"}, {"SnTd", "0"}, {"TdTdTd", "100"}},
+       "relative_humidity"},
+      {26,
+       "CThumidityDlg",
+       "relative_humidity",
+       "label_humidity",
+       {{"value", "53.0"}},
+       {{"LogExtra", "0530"}},
+       "dd"},
+      {25,
+       "CTrueDirWindDlg",
+       "dd",
+       "label_true_wind",
+       {{"direction", "18"}, {"speed", "12"}},
+       {{"dd", "18"}, {"ff", "12"}},
+       "TwTwTw"},
+      {7,
+       "CSea_SurfaceTemperatureDlg",
+       "TwTwTw",
+       "label_sea_temperature",
+       {{"temperature", "18.5"}},
+       {{"Ss", "0"}, {"TwTwTw", "185"}},
+       "PwPw"},
+      {11, "CEyeShotDlg", "VV", "label_visibility", {{"choice", "#7"}}, {{"VV", "93"}}, "ww"},
+  };
+  return kDialogs;
+}
+
+ShipFixedData ship_for(const Dialog& dialog) {
+  ShipFixedData ship = main_window::sample_ship();
+  if (dialog.element == 5) ship.dew_point_method = DewPointMethod::kComputed;
+  if (dialog.element == 8) {
+    ship.wind_input_method = WindInputMethod::kApparentWind;
+    ship.wind_speed_method = WindSpeedMethod::kAnemometer;
+  }
+  return ship;
+}
+
+std::vector<Dialog> all_dialogs() {
+  std::vector<Dialog> all = dialogs();
+  all.push_back(
+      {5,
+       "CCountDewDlg",
+       "wet_bulb",
+       "label_dry_and_wet",
+       {{"dry_whole", "10"}, {"dry_tenths", "0"}, {"wet_whole", "5"}, {"wet_tenths", "0"}},
+       {{"SnT", "0"}, {"TTT", "100"}, {"Sw", "0"}, {"TbTbTb", "050"}, {"SnTd", "1"}},
+       "freeze"});
+  all.push_back({8,
+                 "CLookWindDlg",
+                 "heading",
+                 "label_apparent_wind",
+                 {{"heading", "360"},
+                  {"course", "360"},
+                  {"ship_speed", "10"},
+                  {"direction", "90"},
+                  {"speed", "10"}},
+                 {{"dd", "14"}, {"ff", "14"}},
+                 "TwTwTw"});
+  return all;
+}
+
+using Road = std::function<void(Opened&, const Dialog&)>;
+const std::vector<std::pair<const char*, Road>>& roads() {
+  static const std::vector<std::pair<const char*, Road>> kRoads = {
+      {"F1",
+       [](Opened& opened, const Dialog& dialog) {
+         ASSERT_TRUE(opened.window.move_focus(opened.control(dialog.field)));
+         opened.window.key(ui::Key::kF1);
+       }},
+      {"label", [](Opened& opened, const Dialog& dialog) { opened.press(dialog.label); }},
+      {"number",
+       [](Opened& opened, const Dialog& dialog) { opened.window.open_element(dialog.element); }},
+  };
+  return kRoads;
+}
+
+TEST(ElementDialogs, OpenOnEveryRoadAndHandTheirCodesToTheRecord) {
+  for (const Dialog& dialog : all_dialogs()) {
+    for (const auto& [name, road] : roads()) {
+      SCOPED_TRACE(std::string(dialog.class_name) + " by " + name);
+      const auto opened = std::make_unique<Opened>(ship_for(dialog));
+      opened->world.windows.expect_screen(
+          dialog.class_name, [&](ui::Screen& screen) { fill(screen, dialog.entries, "ok"); });
+      road(*opened, dialog);
+      for (const auto& [field, value] : dialog.record) {
+        EXPECT_EQ(value, opened->window.form().record().*find_weather_field(field)->member)
+            << field;
+      }
+      ASSERT_NE(nullptr, opened->window.focused());
+      EXPECT_EQ(dialog.focus, opened->window.focused()->name);
+      EXPECT_TRUE(opened->window.unsaved());
+    }
+  }
+}
+
+TEST(ElementDialogs, ChangeNothingWhenTheyAreCancelled) {
+  for (const Dialog& dialog : all_dialogs()) {
+    for (const auto& [name, road] : roads()) {
+      SCOPED_TRACE(std::string(dialog.class_name) + " by " + name);
+      const auto opened = std::make_unique<Opened>(ship_for(dialog));
+      ASSERT_TRUE(opened->window.move_focus(opened->control(dialog.field)));
+      const std::string before = opened->state();
+      opened->world.windows.expect_screen(
+          dialog.class_name, [&](ui::Screen& screen) { fill(screen, dialog.entries, "cancel"); });
+      road(*opened, dialog);
+      EXPECT_EQ(before, opened->state());
+      EXPECT_EQ(dialog.field, opened->window.focused()->name);
+      EXPECT_FALSE(opened->window.unsaved());
+    }
+  }
+}
+
+TEST(ElementDialogs, OpenAgainOnWhatTheyGave) {
+  for (const Dialog& dialog : all_dialogs()) {
+    SCOPED_TRACE(dialog.class_name);
+    const auto opened = std::make_unique<Opened>(ship_for(dialog));
+    opened->world.windows.expect_screen(
+        dialog.class_name, [&](ui::Screen& screen) { fill(screen, dialog.entries, "ok"); });
+    opened->window.open_element(dialog.element);
+    const auto record = opened->window.record_fields();
+    opened->world.windows.expect_screen(
+        dialog.class_name, [](ui::Screen& screen) { screen.press(*screen.find("ok")); });
+    opened->window.open_element(dialog.element);
+    EXPECT_EQ(record, opened->window.record_fields());
+  }
+}
+
+TEST(ElementDialogs, ThatAreNotThereYetSaySo) {
+  for (const mainwindow::ElementRow& row : mainwindow::element_rows()) {
+    if (row.open != nullptr) continue;
+    const auto opened = std::make_unique<Opened>();
+    const std::string before = opened->state();
+    opened->world.windows.expect(id::kNoSubWindow);
+    EXPECT_FALSE(opened->window.open_element(row.element)) << row.element;
+    EXPECT_EQ(before, opened->state()) << row.element;
+  }
+}
+
+TEST(ElementNumbers, AreAllInTheTableOnceAndOthersSayThatThereIsNoDialog) {
+  for (int element = 0; element <= 25; ++element) {
+    int rows = 0;
+    for (const mainwindow::ElementRow& row : mainwindow::element_rows())
+      rows += row.element == element ? 1 : 0;
+    EXPECT_EQ(1, rows) << element;
+  }
+  const auto opened = std::make_unique<Opened>();
+  for (const int element : {99, -1, 27, 1000}) {
+    opened->world.windows.expect(id::kNoSubWindow);
+    EXPECT_FALSE(opened->window.open_element(element));
+  }
+}
+
+TEST(ElementNumbers, OfTheFieldsAndLabelsAreInTheTable) {
+  for (const mainwindow::FieldRow& row : mainwindow::field_rows()) {
+    EXPECT_TRUE(row.element == mainwindow::kNoElement ||
+                mainwindow::find_element(row.element) != nullptr)
+        << row.name;
+  }
+  for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
+    EXPECT_TRUE(row.element == mainwindow::kNoElement ||
+                mainwindow::find_element(row.element) != nullptr)
+        << row.name;
+  }
+}
+
+// ---- Captions
+
+struct Caption {
+  const char* name;
+  int element;
+  const char* focus;
+};
+constexpr Caption kCaptions[] = {
+    {"caption_CH", 16, "CM"}, {"caption_CM", 17, "CL"},           {"caption_CL", 18, "h"},
+    {"caption_ci", 21, "Si"}, {"caption_Si", 22, "bi"},           {"caption_bi", 22, "Di"},
+    {"caption_Di", 23, "zi"}, {"caption_zi", 24, "group_YYGGiw"},
+};
+
+TEST(Captions, OpenTheirCodesDialogAndMoveTheFocusOn) {
+  for (const Caption& row : kCaptions) {
+    const auto opened = std::make_unique<Opened>();
+    const mainwindow::ElementRow* const element = mainwindow::find_element(row.element);
+    ASSERT_NE(nullptr, element);
+    // None of these dialogs is there yet.
+    ASSERT_EQ(nullptr, element->open) << row.name;
+    opened->world.windows.expect(id::kNoSubWindow);
+    opened->press(row.name);
+    EXPECT_EQ(row.focus, opened->window.focused()->name) << row.name;
+    for (const mainwindow::LabelRow& label : mainwindow::label_rows()) {
+      if (label.name == row.name) {
+        EXPECT_EQ(row.element, label.element) << row.name;
+      }
+    }
+  }
+}
+
+// ---- What is switched off
+
+TEST(SwitchedOffElements, HaveDeadLabels) {
+  for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
+    if (!row.item) continue;
+    KeyObservationItems items;
+    items.set_observed(*row.item, false);
+    const auto opened = std::make_unique<Opened>(main_window::sample_ship(), items);
+    const std::string before = opened->state();
+    const ui::Control* const focused = opened->window.focused();
+    opened->press(row.name);  // no screen and no message is expected
+    EXPECT_EQ(before, opened->state()) << row.name;
+    EXPECT_EQ(focused, opened->window.focused()) << row.name;
+  }
+}
+
+TEST(SwitchedOffElements, AreLockedAndSayWhy) {
+  for (std::size_t i = 0; i < kObservationItems; ++i) {
+    KeyObservationItems items;
+    items.not_observed[i] = true;
+    const auto opened = std::make_unique<Opened>(main_window::sample_ship(), items);
+    int locked = 0;
+    for (const mainwindow::FieldRow& row : mainwindow::field_rows()) {
+      const auto field = elements::field_named(row.name);
+      if (!field || elements::item_of(*field) != static_cast<ObservationItem>(i)) continue;
+      ++locked;
+      ui::Control& control = opened->control(row.name);
+      EXPECT_TRUE(control.read_only) << row.name;
+      EXPECT_EQ("Switched off by the selection of observation items", control.why_locked);
+      const std::string before = opened->state();
+      opened->window.move_focus(control);
+      opened->window.type(control, "1");
+      opened->window.key(ui::Key::kTab);
+      EXPECT_EQ(before, opened->state()) << row.name;
+    }
+    EXPECT_LT(0, locked) << i;
+  }
+}
+
+TEST(SwitchedOffElements, FillPresentAndPastWeather) {
+  KeyObservationItems items;
+  items.set_observed(ObservationItem::ww, false);
+  items.set_observed(ObservationItem::W1W2, false);
+  const auto opened = std::make_unique<Opened>(main_window::sample_ship(), items);
+  EXPECT_EQ("//", opened->shown("ww"));
+  EXPECT_EQ("/", opened->shown("W1"));
+  EXPECT_EQ("/", opened->shown("W2"));
+  EXPECT_EQ("7////", opened->shown("group_7wwW1W2"));
+  EXPECT_EQ("43***", opened->shown("group_iRiXhVV"));
+  EXPECT_FALSE(opened->window.unsaved());
+}
+
+// ---- The ship's methods
+
+TEST(Methods, ChooseTheTemperatureDialogs) {
+  struct Row {
+    DewPointMethod dew_point;
+    HumidityMethod humidity;
+    std::vector<int> open;
+  };
+  for (const Row& row : {Row{DewPointMethod::kDirect, HumidityMethod::kDirect, {6, 26}},
+                         Row{DewPointMethod::kDirect, HumidityMethod::kComputed, {6}},
+                         Row{DewPointMethod::kComputed, HumidityMethod::kDirect, {5, 26}},
+                         Row{DewPointMethod::kComputed, HumidityMethod::kComputed, {5}}}) {
+    ShipFixedData ship = main_window::sample_ship();
+    ship.dew_point_method = row.dew_point;
+    ship.humidity_method = row.humidity;
+    const auto opened = std::make_unique<Opened>(ship);
+    std::vector<int> open;
+    for (const Dialog& dialog : all_dialogs()) {
+      if (dialog.element != 5 && dialog.element != 6 && dialog.element != 26) continue;
+      bool shown = false;
+      ui::Control& label = opened->control(dialog.label);
+      const bool in_use = mainwindow::find_element(dialog.element)
+                              ->use({opened->ship, opened->items, opened->folders, {}, {}, {}}) ==
+                          mainwindow::Use::kInUse;
+      if (in_use) {
+        opened->world.windows.expect_screen(dialog.class_name, [&](ui::Screen& screen) {
+          shown = true;
+          screen.press(*screen.find("cancel"));
+        });
+      }
+      opened->window.press(label);
+      if (shown) open.push_back(dialog.element);
+    }
+    std::sort(open.begin(), open.end());
+    EXPECT_EQ(row.open, open);
+  }
+}
+
+TEST(Methods, ChooseTrueOrApparentWind) {
+  for (const bool apparent : {false, true}) {
+    ShipFixedData ship = main_window::sample_ship();
+    if (apparent) {
+      ship.wind_input_method = WindInputMethod::kApparentWind;
+      ship.wind_speed_method = WindSpeedMethod::kAnemometer;
+    }
+    const auto opened = std::make_unique<Opened>(ship);
+    EXPECT_EQ(apparent, opened->control("dd").read_only);
+    EXPECT_EQ(apparent, opened->control("apparent_speed").enabled);
+    opened->world.windows.expect_screen(
+        apparent ? "CLookWindDlg" : "CTrueDirWindDlg",
+        [](ui::Screen& screen) { screen.press(*screen.find("cancel")); });
+    opened->press("label_true_wind");
+    opened->press("label_apparent_wind");
+  }
+}
+
+TEST(Methods, DisableWhatTheShipDoesNotUseAndShowItEmpty) {
+  const auto opened = std::make_unique<Opened>();
+  for (const char* const name :
+       {"dry_bulb", "wet_bulb", "freeze", "apparent_direction", "apparent_speed", "heading",
+        "course", "ship_speed", "PwaPwa", "HwaHwa"}) {
+    EXPECT_FALSE(opened->control(name).enabled) << name;
+    EXPECT_EQ("", opened->shown(name)) << name;
+    EXPECT_FALSE(opened->control(name).why_locked.empty()) << name;
+  }
+}
+
+// ---- Details of single dialogs
+
+TEST(PositionDialog, OpensOnTheHemispheresOfTheLastReport) {
+  const auto opened = std::make_unique<Opened>();
+  opened->files.add_file("C:\\out\\14111512.tlx", "BBXX ABCD 15124 99353 31400 41498 .....");
+  ShipFixedData ship = main_window::sample_ship();
+  KeyObservationItems items;
+  CVelmaranDlg window(opened->world.services, {ship, items, opened->folders, {}, {}, {}});
+  window.open();
+  EXPECT_EQ(-1, window.find("north_south")->selected);  // on the form nobody has chosen
+  opened->world.windows.expect_screen("CPositionDlg", [](ui::Screen& screen) {
+    EXPECT_EQ(1, screen.find("latitude_side")->selected);
+    EXPECT_EQ(0, screen.find("longitude_side")->selected);
+    EXPECT_TRUE(screen.find("last_report_hint")->visible);
+    screen.press(*screen.find("cancel"));
+  });
+  window.press(*window.find("label_latitude"));
+}
+
+TEST(PressureDialog, StoresARenewedCardAndReducesWithIt) {
+  const auto opened = std::make_unique<Opened>();
+  opened->type("reading", "1000.0");
+  ASSERT_EQ("0024", opened->window.form().record().PPPP);
+  opened->world.windows.expect_screen("CSeaSurfacePressureDlg", [&](ui::Screen& screen) {
+    opened->world.windows.expect_screen("CKataInputDlg", [](ui::Screen& card) {
+      fakes::enter(card, *card.find("instrumental_correction"), "+1.0");
+      card.press(*card.find("ok"));
+    });
+    screen.press(*screen.find("renew"));
+    screen.press(*screen.find("ok"));
+  });
+  opened->press("label_pressure");
+  EXPECT_EQ("+1.0", opened->ship.card.instrumental_correction);
+  EXPECT_EQ((std::vector<std::string>{"fixed data"}), opened->told);
+}
+
+TEST(F1, TakesWhatWasJustTypedIntoTheDialog) {
+  const auto opened = std::make_unique<Opened>();
+  ASSERT_TRUE(fakes::enter(opened->window, opened->control("VV"), "95"));
+  opened->world.windows.expect_screen("CEyeShotDlg", [](ui::Screen& screen) {
+    EXPECT_EQ(5, screen.find("choice")->selected);
+    screen.press(*screen.find("cancel"));
+  });
+  opened->window.key(ui::Key::kF1);
+  EXPECT_EQ("95", opened->window.form().record().VV);
+}
+
+TEST(F1, LeavesATextThatIsNoValueInItsFieldWithoutAMessage) {
+  const auto opened = std::make_unique<Opened>();
+  ASSERT_TRUE(fakes::enter(opened->window, opened->control("VV"), "7"));
+  opened->world.windows.expect_screen(
+      "CEyeShotDlg", [](ui::Screen& screen) { screen.press(*screen.find("cancel")); });
+  opened->window.key(ui::Key::kF1);
+  EXPECT_EQ("7", opened->shown("VV"));
+  EXPECT_EQ("", opened->window.form().record().VV);
+  EXPECT_TRUE(opened->world.windows.boxes.empty());
+}
+
+}  // namespace
