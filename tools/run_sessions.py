@@ -118,7 +118,7 @@ def play(cli, folder, name):
     path = os.path.join(folder, name + ".session")
     options = read_options(path)
     with tempfile.TemporaryDirectory(prefix="kavrel-session-") as room:
-        root, program = os.path.join(room, "root"), os.path.join(room, "program")
+        root, program = os.path.join(room, "root"), os.path.join(room, "root", "program")
         os.makedirs(root)
         os.makedirs(program)
         lay_out(folder, options["root-files"], root)
@@ -220,7 +220,7 @@ def main():
             names = arguments.names or session_names(arguments.folder)
             reasons = [] if names else ["no sessions"]
             for name in names:
-                reasons += check(arguments.cli, arguments.folder, name)
+                reasons += check(os.path.abspath(arguments.cli), arguments.folder, name)
             print(f"{len(names)} sessions, {len(reasons)} failures")
     except (Wrong, OSError) as error:
         reasons = [str(error)]

@@ -1,5 +1,7 @@
 #include "headless/screen_watch.h"
 
+#include <algorithm>
+
 namespace headless {
 namespace {
 
@@ -14,9 +16,11 @@ bool caption_is_value(ui::Kind kind) {
 void add_flag_changes(const ui::ControlView& was, const ui::ControlView& is,
                       std::vector<std::string>& out) {
   if (was.visible != is.visible) out.push_back(is.name + (is.visible ? ": shown" : ": hidden"));
-  if (was.enabled != is.enabled) out.push_back(is.name + (is.enabled ? ": enabled" : ": disabled"));
-  if (was.locked != is.locked) out.push_back(is.name + (is.locked ? ": locked" : ": unlocked"));
-  if (was.why != is.why && !is.why.empty()) out.push_back(is.name + ": why " + ui::quoted(is.why));
+  const std::string why = is.why.empty() ? "" : " " + ui::quoted(is.why);
+  if (was.enabled != is.enabled)
+    out.push_back(is.name + (is.enabled ? ": enabled" : ": disabled" + why));
+  if (was.locked != is.locked)
+    out.push_back(is.name + (is.locked ? ": locked" + why : ": unlocked"));
 }
 
 void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new_language,
@@ -43,7 +47,7 @@ void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new
 }  // namespace
 
 void ScreenWatch::look() {
-  seen_ = {screen_.title(), screen_.language(), screen_.menu_serial(), screen_.focused(),
+  seen_ = {screen_.title(), screen_.language(), ui::menu_lines(screen_), screen_.focused(),
            ui::views_of(screen_)};
 }
 
@@ -67,8 +71,10 @@ std::vector<std::string> ScreenWatch::changes(bool with_focus) {
   if (new_language) {
     out.emplace_back(seen_.language == text::Language::kJapanese ? "language: Japanese"
                                                                  : "language: English");
-  } else if (was.menu_serial != seen_.menu_serial) {
-    out.emplace_back("menu changed");
+  } else {
+    for (const std::string& line : seen_.menu) {
+      if (std::find(was.menu.begin(), was.menu.end(), line) == was.menu.end()) out.push_back(line);
+    }
   }
   for (std::size_t i = 0; i < seen_.views.size() && i < was.views.size(); ++i)
     add_changes(was.views[i], seen_.views[i], new_language, out);

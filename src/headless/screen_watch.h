@@ -27,7 +27,7 @@ class ScreenWatch {
   struct Seen {
     std::string title;
     text::Language language = text::Language::kEnglish;
-    unsigned menu_serial = 0;
+    std::vector<std::string> menu;
     const ui::Control* focused = nullptr;
     std::vector<ui::ControlView> views;
   };

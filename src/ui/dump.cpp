@@ -114,14 +114,14 @@ std::string tree_rows(const ControlView& view) {
   return result;
 }
 
-void dump_menu(std::string& out, std::span<const MenuItem> items, const std::string& path,
-               text::Language language) {
+void add_menu_lines(std::vector<std::string>& lines, std::span<const MenuItem> items,
+                    const std::string& path, text::Language language) {
   for (const MenuItem& item : items) {
     const std::string at = path + std::string(text::resolve(item.text, language));
     if (item.children.empty()) {
-      out += "  menu " + quoted(at) + (item.enabled ? "\n" : " [disabled]\n");
+      lines.push_back("menu " + quoted(at) + (item.enabled ? "" : " [disabled]"));
     } else {
-      dump_menu(out, item.children, at + "/", language);
+      add_menu_lines(lines, item.children, at + "/", language);
     }
   }
 }
@@ -209,9 +209,15 @@ std::string describe(const ControlView& view) {
   return line;
 }
 
+std::vector<std::string> menu_lines(const Screen& screen) {
+  std::vector<std::string> lines;
+  add_menu_lines(lines, screen.menu(), {}, screen.language());
+  return lines;
+}
+
 std::string dump(const Screen& screen) {
   std::string result = "screen " + screen.class_name() + " " + quoted(screen.title()) + "\n";
-  dump_menu(result, screen.menu(), {}, screen.language());
+  for (const std::string& line : menu_lines(screen)) result += "  " + line + "\n";
   for (const ControlView& view : views_of(screen)) result += "  " + describe(view) + "\n";
   return result;
 }

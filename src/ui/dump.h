@@ -44,6 +44,9 @@ struct ControlView {
 /// `"0", "1", … "99" (100 lines)` for a long list of numbers; every line of any other list.
 [[nodiscard]] std::string describe_lines(const ControlView& view);
 
+/// One line for each command of the menu bar: `menu "File/Exit"`, with " [disabled]" when greyed.
+[[nodiscard]] std::vector<std::string> menu_lines(const Screen& screen);
+
 /// Title, menu and all controls, a line end behind each line.
 [[nodiscard]] std::string dump(const Screen& screen);
 
