@@ -2,13 +2,18 @@
 
 #include "archive/CCreateDir.h"
 #include "archive/CShowStatusDlg.h"
+#include "codetables/CEyeShotDlg.h"
 #include "elements/CCountDewDlg.h"
+#include "elements/CDvDsDlg.h"
 #include "elements/CLookWindDlg.h"
+#include "elements/CPositionDlg.h"
 #include "elements/CPresureTendencyDlg.h"
 #include "elements/CSeaSurfacePressureDlg.h"
+#include "elements/CSea_SurfaceTemperatureDlg.h"
 #include "elements/CTemperatureAndDewDlg.h"
 #include "elements/CThumidityDlg.h"
 #include "elements/CTrueDirWindDlg.h"
+#include "elements/CUTCTimeDlg1.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "media/CLogDiskSavePathDlg.h"
 #include "ship/CFixDataDlg.h"
@@ -65,6 +70,10 @@ std::vector<ScreenCase> make_table() {
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
       // codetables
+      {"CEyeShotDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CEyeShotDlg>(services, "97");
+       }},
       // elements
       {"CCountDewDlg",
        [](ui::Services& services) -> Made {
@@ -73,10 +82,20 @@ std::vector<ScreenCase> make_table() {
          values.wet = "15.1";
          return std::make_unique<CCountDewDlg>(services, values);
        }},
+      {"CDvDsDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CDvDsDlg>(services, CDvDsDlg::Values{"2", "3"});
+       }},
       {"CLookWindDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CLookWindDlg>(
              services, elements::ApparentWindTexts{"045", " 18.5", "090", "092", "12.5"});
+       }},
+      {"CPositionDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPositionDlg>(services,
+                                               CPositionDlg::Values{"35", "12", "139", "48", "1"},
+                                               "1", [](double, double) { return false; });
        }},
       {"CPresureTendencyDlg",
        [](ui::Services& services) -> Made {
@@ -91,6 +110,12 @@ std::vector<ScreenCase> make_table() {
          return std::make_unique<CSeaSurfacePressureDlg>(services, values,
                                                          CSeaSurfacePressureDlg::CardActions{});
        }},
+      {"CSea_SurfaceTemperatureDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSea_SurfaceTemperatureDlg>(
+             services, CSea_SurfaceTemperatureDlg::Values{"0", "184"},
+             SeaTemperatureMethod::kIntake);
+       }},
       {"CTemperatureAndDewDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CTemperatureAndDewDlg>(
@@ -103,6 +128,11 @@ std::vector<ScreenCase> make_table() {
       {"CTrueDirWindDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CTrueDirWindDlg>(services, "18", "12");
+       }},
+      {"CUTCTimeDlg1",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CUTCTimeDlg1>(services,
+                                               CUTCTimeDlg1::Values{"2014", "11", "15", "12"});
        }},
       // mainwindow
       {"CVelmaranDlg",
