@@ -1,3 +1,52 @@
-int main() {
-  return 0;
+// The desktop program: kavrel [--root DIR] [--program DIR] [--locale en|ja] [--clock
+// 2014-11-15T11:50]
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <cstdio>
+
+#include "app/CVelmaranApp.h"
+#include "desktop/desktop_printer.h"
+#include "desktop/desktop_windows.h"
+#include "platform/posix/system.h"
+
+namespace {
+
+platform::posix::SystemOptions read_options(const QApplication& application) {
+  QCommandLineParser parser;
+  const QCommandLineOption root("root", "Folder that is the program's drive C:.", "folder");
+  const QCommandLineOption program("program", "Folder that holds the program's own files.",
+                                   "folder");
+  const QCommandLineOption locale("locale", "Language of the session: en or ja.", "locale");
+  const QCommandLineOption clock("clock", "A clock that stands still, UTC.", "2014-11-15T11:50");
+  parser.addOptions({root, program, locale, clock});
+  parser.addHelpOption();
+  parser.process(application);
+  return {parser.value(root).toStdString(), parser.value(program).toStdString(),
+          parser.value(locale).toStdString(), parser.value(clock).toStdString()};
+}
+
+desktop::PathMap path_map(const platform::posix::System& system) {
+  return {
+      [&system](const std::string& path) { return system.map().to_os(path).value.value_or(""); },
+      [&system](const std::string& path) { return system.map().to_program(path).value_or(""); }};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("kavrel");
+  desktop::prepare_application();
+
+  platform::posix::System system(read_options(application));
+  for (const std::string& problem : system.problems())
+    std::fprintf(stderr, "kavrel: %s\n", problem.c_str());
+  if (!system.problems().empty()) return 2;
+
+  desktop::DesktopWindows windows(path_map(system));
+  desktop::DesktopPrinter printer;
+  app::CVelmaranApp program({system.clock(), system.locale(), system.drives(), system.files(),
+                             printer, windows, system.help()});
+  return program.run();
 }

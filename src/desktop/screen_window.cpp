@@ -89,6 +89,8 @@ void ScreenWindow::build() {
   for (ui::Control* const control : screen_.controls()) {
     bindings_.push_back(make_binding(screen_, *control, content_, [this] { refresh(); }));
   }
+  // Texts go in before the layouts are made, which remember the sizes they find.
+  for (const auto& binding : bindings_) binding->show();
   ui::LayoutResult layout = ui::parse_layout(ui::layout_source(screen_.class_name()));
   if (layout.root.children.empty() || !layout.error.empty()) layout.root = stacked(screen_);
   auto* const column = new QVBoxLayout(content_);
@@ -114,6 +116,7 @@ void ScreenWindow::build() {
 ClickableLabel* ScreenWindow::caption_of(Binding& binding) {
   auto* const label = new ClickableLabel(content_);
   binding.caption_label = label;
+  label->setText(QString::fromStdString(screen_.caption(binding.control())));
   if (binding.focus_widget() != nullptr) label->setBuddy(binding.focus_widget());
   return label;
 }
@@ -143,6 +146,7 @@ QWidget* ScreenWindow::placed(const ui::LayoutNode& node, bool caption_apart) {
   line->addWidget(found->widget());
   found->unit_label = new QLabel(content_);
   found->unit_label->setTextFormat(Qt::PlainText);
+  found->unit_label->setText(QString::fromStdString(screen_.unit(found->control())));
   line->addWidget(found->unit_label);
   if (above || caption_apart) line->addStretch();
   outer->addLayout(line);

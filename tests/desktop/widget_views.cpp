@@ -18,7 +18,8 @@ std::string caption_on(const desktop::Binding& binding) {
     return button->text().toStdString();
   if (const auto* const label = qobject_cast<const QLabel*>(widget))
     return label->text().toStdString();
-  return binding.caption_label == nullptr ? std::string()
+  // A layout may leave a caption out where a group's title says it; screen readers still say it.
+  return binding.caption_label == nullptr ? widget->accessibleName().toStdString()
                                           : binding.caption_label->text().toStdString();
 }
 
@@ -87,6 +88,10 @@ std::vector<ui::ControlView> control_views(const ui::Screen& screen) {
     ui::ControlView& view = views[i];
     const ui::Control& control = *screen.controls()[i];
     view.max_length = 0;
+    if (view.kind != ui::Kind::kButton && view.kind != ui::Kind::kTick &&
+        view.kind != ui::Kind::kLabel) {
+      view.caption = ui::without_access_key(view.caption);
+    }
     if (control.kind == ui::Kind::kReadOnly) view.locked = false;
     if (control.kind == ui::Kind::kTree) {
       view.lines.clear();
