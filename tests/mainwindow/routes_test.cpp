@@ -144,7 +144,7 @@ std::vector<Dialog> all_dialogs() {
        "label_dry_and_wet",
        {{"dry_whole", "10"}, {"dry_tenths", "0"}, {"wet_whole", "5"}, {"wet_tenths", "0"}},
        {{"SnT", "0"}, {"TTT", "100"}, {"Sw", "0"}, {"TbTbTb", "050"}, {"SnTd", "1"}},
-       "freeze"});
+       "relative_humidity"});
   all.push_back({8,
                  "CLookWindDlg",
                  "heading",
