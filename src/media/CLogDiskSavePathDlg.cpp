@@ -12,18 +12,18 @@ namespace id = text::id;
 namespace {
 
 struct ModeRow {
+  std::string_view key;
   int title;
   int prompt;
   int current;
-  std::string_view key;
   bool is_copy;
 };
 
 constexpr ModeRow kModes[] = {
-    {id::kReportFolderTitle, id::kReportFolderPrompt, id::kReportFolderCurrent, "TLX", false},
-    {id::kLogbookFolderTitle, id::kLogbookFolderPrompt, id::kLogbookFolderCurrent, "LOG", false},
-    {id::kReportCopyTitle, id::kReportCopyPrompt, id::kReportCopyCurrent, "TLXC", true},
-    {id::kLogbookCopyTitle, id::kLogbookCopyPrompt, id::kLogbookCopyCurrent, "LOGC", true},
+    {"TLX", id::kReportFolderTitle, id::kReportFolderPrompt, id::kReportFolderCurrent, false},
+    {"LOG", id::kLogbookFolderTitle, id::kLogbookFolderPrompt, id::kLogbookFolderCurrent, false},
+    {"TLXC", id::kReportCopyTitle, id::kReportCopyPrompt, id::kReportCopyCurrent, true},
+    {"LOGC", id::kLogbookCopyTitle, id::kLogbookCopyPrompt, id::kLogbookCopyCurrent, true},
 };
 
 const ModeRow& row_of(CLogDiskSavePathDlg::Mode mode) {
