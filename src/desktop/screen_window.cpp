@@ -383,7 +383,26 @@ void ScreenWindow::reject() {
   refresh();
 }
 
+namespace {
+
+// Sizes are passed up layout by layout, and only in windows that are visible; before that, a group
+// or a choice within still has the size of when it was empty. The innermost come first.
+void settle_layouts(QWidget& content) {
+  QList<QWidget*> widgets = content.findChildren<QWidget*>();
+  widgets.prepend(&content);
+  for (auto at = widgets.crbegin(); at != widgets.crend(); ++at) {
+    if (QLayout* const layout = (*at)->layout()) {
+      (*at)->ensurePolished();
+      layout->invalidate();
+      layout->activate();
+    }
+  }
+}
+
+}  // namespace
+
 void ScreenWindow::fit_to_screen() {
+  settle_layouts(*content_);
   const QRect room = screen()->availableGeometry();
   const int bar = menu_bar_ == nullptr ? 0 : menu_bar_->sizeHint().height();
   const QSize wanted = content_->sizeHint() + QSize(2, bar + 2);

@@ -1,0 +1,69 @@
+// A dialog opens at a size that shows all of it.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <functional>
+#include <memory>
+
+#include "archive/CCreateDir.h"
+#include "codetables/CEyeShotDlg.h"
+#include "desktop/screen_window.h"
+#include "elements/CDvDsDlg.h"
+#include "elements/CPositionDlg.h"
+#include "elements/CSea_SurfaceTemperatureDlg.h"
+#include "elements/CUTCTimeDlg1.h"
+#include "fakes/fake_files.h"
+#include "fakes/fake_ports.h"
+#include "media/CLogDiskSavePathDlg.h"
+
+namespace {
+
+using Make = std::function<std::unique_ptr<ui::Screen>(ui::Services&)>;
+
+const Make kDialogs[] = {
+    [](ui::Services& s) { return std::make_unique<CUTCTimeDlg1>(s, CUTCTimeDlg1::Values{}); },
+    [](ui::Services& s) {
+      return std::make_unique<CPositionDlg>(s, CPositionDlg::Values{}, "1",
+                                            CPositionDlg::LandTest{});
+    },
+    [](ui::Services& s) {
+      return std::make_unique<CDvDsDlg>(s, CDvDsDlg::Values{"1", "2"});
+    },
+    [](ui::Services& s) {
+      return std::make_unique<CSea_SurfaceTemperatureDlg>(s, CSea_SurfaceTemperatureDlg::Values{},
+                                                          SeaTemperatureMethod::kBucket);
+    },
+    [](ui::Services& s) { return std::make_unique<CEyeShotDlg>(s, "95"); },
+    [](ui::Services& s) {
+      return std::make_unique<CLogDiskSavePathDlg>(
+          s, CLogDiskSavePathDlg::Mode::kReport,
+          CLogDiskSavePathDlg::Folders{"C:\\reports\\", "C:\\kavrel\\data", ""},
+          CLogDiskSavePathDlg::Write{});
+    },
+    [](ui::Services& s) { return std::make_unique<CCreateDir>(s, "C:\\"); },
+};
+
+TEST(DialogSizes, NothingIsCutOffInEitherLanguage) {
+  for (const text::Language language : {text::Language::kEnglish, text::Language::kJapanese}) {
+    for (const Make& make : kDialogs) {
+      fakes::FakeFiles files;
+      files.add_folder("C:\\kavrel\\data");
+      fakes::World world(files);
+      world.texts.language = language;
+      const std::unique_ptr<ui::Screen> screen = make(world.services);
+      screen->open();
+      desktop::ScreenWindow window(*screen, nullptr);
+      window.show();
+      QApplication::processEvents();
+      const auto* const area = window.findChild<QScrollArea*>();
+      ASSERT_NE(area, nullptr);
+      EXPECT_FALSE(area->verticalScrollBar()->isVisible()) << screen->class_name();
+      EXPECT_FALSE(area->horizontalScrollBar()->isVisible()) << screen->class_name();
+    }
+  }
+}
+
+}  // namespace
