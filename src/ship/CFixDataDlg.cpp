@@ -58,6 +58,25 @@ CFixDataDlg::CFixDataDlg(ui::Services& services, std::string path, bool auto_acc
       ship(*this, "ship", {id::kFixShip}),
       call_sign(*this, "call_sign", {id::kFixCallSign}),
       imo_number(*this, "imo_number", {id::kFixImoNumber}),
+      temperature(*this, "temperature", {id::kFixTemperature}),
+      temperature_unit(*this, "temperature_unit", {id::kFixTemperatureUnit},
+                       {{id::kFixUnitTenth}, {id::kFixUnitHalf}, {id::kFixUnitWhole}}),
+      dew_point_method(*this, "dew_point_method", {id::kFixDewPoint},
+                       {{id::kFixDewPointDirect}, {id::kFixDewPointComputed}}),
+      sea_temperature_method(
+          *this, "sea_temperature_method", {id::kFixSeaTemperature},
+          {{id::kFixIntake}, {id::kFixBucket}, {id::kFixHullSensor}, {id::kFixOther}}),
+      humidity_method(*this, "humidity_method", {id::kFixHumidityMethod},
+                      {{id::kFixHumidityDirect}, {id::kFixHumidityComputed}}),
+      humidity_unit(*this, "humidity_unit", {id::kFixHumidityUnit},
+                    {{id::kFixHumidityTenth}, {id::kFixHumidityWhole}}),
+      equipment(*this, "equipment", {id::kFixEquipment}),
+      wave_recorder(*this, "wave_recorder", {id::kFixWaveRecorder}, {{id::kFixYes}, {id::kFixNo}}),
+      aws_fitted(*this, "aws_fitted", {id::kFixAws}, {{id::kFixNo}, {id::kFixYes}}),
+      aws_manufacturer(*this, "aws_manufacturer", {id::kFixManufacturer}),
+      vosclim(*this, "vosclim", {id::kFixVosClim},
+              {{id::kFixVosClimRegistered}, {id::kFixVosClimUnregistered}}),
+      vosclim_inputting(*this, "vosclim_inputting", {id::kFixVosClimInputting}),
       card(*this, "card", {id::kFixCard}),
       card_text(*this, "card_text", {id::kFixCardText}),
       card_button(*this, "card_button", {id::kFixCardButton}),
@@ -79,26 +98,6 @@ CFixDataDlg::CFixDataDlg(ui::Services& services, std::string path, bool auto_acc
                         {{id::kFixTrueWind}, {id::kFixApparentWind}}),
       wind_speed_method(*this, "wind_speed_method", {id::kFixWindSpeed},
                         {{id::kFixBeaufort}, {id::kFixAnemometer}}),
-      temperature(*this, "temperature", {id::kFixTemperature}),
-      temperature_unit(*this, "temperature_unit", {id::kFixTemperatureUnit},
-                       {{id::kFixUnitTenth}, {id::kFixUnitHalf}, {id::kFixUnitWhole}}),
-      dew_point_method(*this, "dew_point_method", {id::kFixDewPoint},
-                       {{id::kFixDewPointDirect}, {id::kFixDewPointComputed}}),
-      sea_temperature_method(
-          *this, "sea_temperature_method", {id::kFixSeaTemperature},
-          {{id::kFixIntake}, {id::kFixBucket}, {id::kFixHullSensor}, {id::kFixOther}}),
-      humidity(*this, "humidity", {id::kFixHumidity}),
-      humidity_method(*this, "humidity_method", {id::kFixHumidityMethod},
-                      {{id::kFixHumidityDirect}, {id::kFixHumidityComputed}}),
-      humidity_unit(*this, "humidity_unit", {id::kFixHumidityUnit},
-                    {{id::kFixHumidityTenth}, {id::kFixHumidityWhole}}),
-      equipment(*this, "equipment", {id::kFixEquipment}),
-      wave_recorder(*this, "wave_recorder", {id::kFixWaveRecorder}, {{id::kFixYes}, {id::kFixNo}}),
-      aws_fitted(*this, "aws_fitted", {id::kFixAws}, {{id::kFixNo}, {id::kFixYes}}),
-      aws_manufacturer(*this, "aws_manufacturer", {id::kFixManufacturer}),
-      vosclim(*this, "vosclim", {id::kFixVosClim},
-              {{id::kFixVosClimRegistered}, {id::kFixVosClimUnregistered}}),
-      vosclim_inputting(*this, "vosclim_inputting", {id::kFixVosClimInputting}),
       folders(*this, "folders", {id::kFixFolders}),
       report_folder(*this, "report_folder", {id::kFixReportFolder}),
       logbook_folder(*this, "logbook_folder", {id::kFixLogbookFolder}),
@@ -125,10 +124,17 @@ void CFixDataDlg::set_up_ship() {
 
 void CFixDataDlg::set_up_card() {
   for (ui::ReadOnly* const shown : {&total_correction, &instrumental_correction,
-                                    &total_correction_full_load, &total_correction_ballast})
+                                    &total_correction_full_load, &total_correction_ballast}) {
     shown->unit = {id::kCardUnitPressure};
+    shown->max_length = 5;
+  }
   height_full_load.unit = height_ballast.unit = {id::kCardUnitHeight};
   card_text.on_press = card_button.on_press = [this] { edit_card(); };
+  // Widths of the values, for the front ends.
+  barometer_check_date.max_length = 10;
+  barometer_check_port.max_length = 24;
+  card_type.max_length = 1;
+  height_full_load.max_length = height_ballast.max_length = 3;
   loading_state.enabled = false;
   loading_state.why_locked = services().texts.get(id::kFixLockedLoading);
 }

@@ -25,6 +25,18 @@ class CFixDataDlg : public ui::Screen {
   ui::Label ship;
   ui::Edit call_sign;
   ui::Edit imo_number;
+  ui::Label temperature;
+  ui::Choice temperature_unit;
+  ui::Choice dew_point_method;
+  ui::Choice sea_temperature_method;
+  ui::Choice humidity_method;
+  ui::Choice humidity_unit;
+  ui::Label equipment;
+  ui::Choice wave_recorder;
+  ui::Choice aws_fitted;
+  ui::Edit aws_manufacturer;
+  ui::Choice vosclim;
+  ui::Button vosclim_inputting;
   ui::Label card;
   ui::Label card_text;     ///< the clickable text that leads to the card's screens
   ui::Button card_button;  ///< the same for the keyboard
@@ -43,19 +55,6 @@ class CFixDataDlg : public ui::Screen {
   ui::Label wind;
   ui::Choice wind_input_method;
   ui::Choice wind_speed_method;
-  ui::Label temperature;
-  ui::Choice temperature_unit;
-  ui::Choice dew_point_method;
-  ui::Choice sea_temperature_method;
-  ui::Label humidity;
-  ui::Choice humidity_method;
-  ui::Choice humidity_unit;
-  ui::Label equipment;
-  ui::Choice wave_recorder;
-  ui::Choice aws_fitted;
-  ui::Edit aws_manufacturer;
-  ui::Choice vosclim;
-  ui::Button vosclim_inputting;
   ui::Label folders;
   ui::ReadOnly report_folder;
   ui::ReadOnly logbook_folder;

@@ -79,7 +79,6 @@ inline constexpr int kFixOther = 12024;
 inline constexpr int kFixDewPoint = 12025;
 inline constexpr int kFixDewPointDirect = 12026;
 inline constexpr int kFixDewPointComputed = 12027;
-inline constexpr int kFixHumidity = 12028;
 inline constexpr int kFixHumidityMethod = 12029;
 inline constexpr int kFixHumidityDirect = 12030;
 inline constexpr int kFixHumidityComputed = 12031;
