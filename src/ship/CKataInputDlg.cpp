@@ -73,6 +73,7 @@ CKataInputDlg::CKataInputDlg(ui::Services& services, BarometerCard card)
                                &total_correction_full_load, &total_correction_ballast})
     edit->unit = {id::kCardUnitPressure};
   height_full_load.unit = height_ballast.unit = {id::kCardUnitHeight};
+  card_type.max_length = 1;
   set_up_checks();
 }
 
