@@ -1,7 +1,6 @@
 #include "app/CIniEx.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -80,10 +79,11 @@ bool CIniEx::equal(std::string_view a, std::string_view b) const {
 }
 
 const IniEntry* CIniEx::find(std::string_view section, std::string_view key) const {
-  for (const IniSection& each : std::views::reverse(sections_)) {
-    if (!equal(each.name, section)) continue;
-    for (const IniEntry& entry : std::views::reverse(each.entries))
-      if (equal(entry.key, key)) return &entry;
+  for (auto each = sections_.rbegin(); each != sections_.rend(); ++each) {
+    if (!equal(each->name, section)) continue;
+    const auto entry = std::find_if(each->entries.rbegin(), each->entries.rend(),
+                                    [&](const IniEntry& one) { return equal(one.key, key); });
+    if (entry != each->entries.rend()) return &*entry;
   }
   return nullptr;
 }
@@ -95,8 +95,9 @@ std::string CIniEx::value(std::string_view section, std::string_view key,
 }
 
 IniSection& CIniEx::section_named(std::string_view name) {
-  for (IniSection& each : std::views::reverse(sections_))
-    if (equal(each.name, name)) return each;
+  const auto last = std::find_if(sections_.rbegin(), sections_.rend(),
+                                 [&](const IniSection& each) { return equal(each.name, name); });
+  if (last != sections_.rend()) return *last;
   // The section without a name is the first one and has no header.
   if (name.empty()) return *sections_.emplace(sections_.begin());
   return sections_.emplace_back(IniSection{true, std::string(name), {}});

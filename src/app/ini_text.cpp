@@ -24,7 +24,7 @@ std::vector<IniSection> parse_ini(std::string_view text) {
     const auto end = std::min(text.find('\n'), text.size());
     auto line = text.substr(0, end);
     text.remove_prefix(std::min(text.size(), end + 1));
-    if (line.ends_with('\r')) line.remove_suffix(1);
+    while (line.ends_with('\r')) line.remove_suffix(1);
     if (is_header(line)) {
       sections.push_back({true, std::string(line.substr(1, line.size() - 2)), {}});
       continue;

@@ -285,30 +285,29 @@ void PosixFiles::discard(const StagedFile& staged) {
 
 // ---- Appending
 
-FileError PosixFiles::append_locked(const Locked& log, AppendMark& mark, std::string_view content) {
-  const auto end = static_cast<off_t>(mark.old_size);
+FileError PosixFiles::append_locked(const Locked& log, std::string_view content) const {
+  const auto end = log.about().st_size;
   const auto length = static_cast<off_t>(content.size());
   // With the room set aside the write cannot stop half-way on a full disk. Not every file system
   // can do it; then the cutting back below has to serve.
   if (length > 0 && unbroken([&] { return calls_.reserve(log.file(), end, length); }) == -1 &&
       (errno == ENOSPC || errno == EDQUOT))
     return FileError::kNoSpace;
-  FileError error = FileError::kNone;
-  const auto count =
-      unbroken([&] { return calls_.write(log.file(), content.data(), content.size()); });
-  if (count == -1)
-    error = file_error(errno);
-  else if (static_cast<std::size_t>(count) != content.size())
-    error = FileError::kNoSpace;
-  else if (unbroken([&] { return calls_.fsync(log.file()); }) == -1)
-    error = file_error(errno);
-  else if (log.created())
-    error = flush_folder(log.os_path());
+  const FileError error = write_once(log, content);
   if (error != FileError::kNone) {
     (void)unbroken([&] { return calls_.ftruncate(log.file(), end); });
     (void)unbroken([&] { return calls_.fsync(log.file()); });
   }
   return error;
+}
+
+FileError PosixFiles::write_once(const Locked& log, std::string_view content) const {
+  const auto count =
+      unbroken([&] { return calls_.write(log.file(), content.data(), content.size()); });
+  if (count == -1) return file_error(errno);
+  if (static_cast<std::size_t>(count) != content.size()) return FileError::kNoSpace;
+  if (unbroken([&] { return calls_.fsync(log.file()); }) == -1) return file_error(errno);
+  return log.created() ? flush_folder(log.os_path()) : FileError::kNone;
 }
 
 Result<AppendMark> PosixFiles::append(const std::string& path, std::string_view content) {
@@ -323,7 +322,7 @@ Result<AppendMark> PosixFiles::append(const std::string& path, std::string_view 
   // Another copy may have written between our creating the file and locking it.
   mark.existed = !log.created() || mark.old_size > 0;
   mark.new_size = mark.old_size + content.size();
-  const FileError error = append_locked(log, mark, content);
+  const FileError error = append_locked(log, content);
   if (error == FileError::kNone) return mark;
   if (!mark.existed) (void)unbroken([&] { return calls_.unlink(os_path.value->c_str()); });
   return error;

@@ -68,8 +68,9 @@ class PosixFiles : public Files {
   [[nodiscard]] FileError write_all(int file, std::string_view content) const;
   [[nodiscard]] FileError fill(int file, std::string_view content,
                                const std::optional<struct stat>& old) const;
-  [[nodiscard]] FileError append_locked(const Locked& log, AppendMark& mark,
-                                        std::string_view content);
+  /// All of the content behind the end of the locked file, or nothing of it.
+  [[nodiscard]] FileError append_locked(const Locked& log, std::string_view content) const;
+  [[nodiscard]] FileError write_once(const Locked& log, std::string_view content) const;
   [[nodiscard]] FileError flush_folder(const std::string& os_path) const;
 
   const DriveMap& drives_;
