@@ -53,7 +53,8 @@ Method method_of(const ui::Choice& choice) {
 }  // namespace
 
 CFixDataDlg::CFixDataDlg(ui::Services& services, std::string path, bool auto_accept,
-                         std::string reports, std::string logbook, ShipFixedData fallback)
+                         const std::string& reports, const std::string& logbook,
+                         ShipFixedData fallback)
     : Screen(services, "CFixDataDlg", {id::kFixTitle}),
       ship(*this, "ship", {id::kFixShip}),
       call_sign(*this, "call_sign", {id::kFixCallSign}),

@@ -14,8 +14,9 @@ class CFixDataDlg : public ui::Screen {
   /// closes at once with OK, unchecked, when the file was read or there is none. A file of a wrong
   /// size or one that cannot be read (which the officer is told) leaves it open with `fallback`:
   /// the defaults at start-up, what the program already knows later. The screen never writes.
-  CFixDataDlg(ui::Services& services, std::string path, bool auto_accept, std::string reports = {},
-              std::string logbook = {}, ShipFixedData fallback = {});
+  CFixDataDlg(ui::Services& services, std::string path, bool auto_accept,
+              const std::string& reports = {}, const std::string& logbook = {},
+              ShipFixedData fallback = {});
 
   /// The data as accepted by OK; before that, and after Cancel, as the file or the fallback has
   /// them.

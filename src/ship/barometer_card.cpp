@@ -17,11 +17,11 @@ constexpr CardField kNone = CardField::kType;  // in the table below: compared w
 // A value that is typed: what is accepted and the messages when it is not.
 struct Row {
   CardField field;
-  std::string BarometerCard::*value;
   Form form;
-  CardType only_for;  // kNotChosen: for every card
+  std::string BarometerCard::*value;
   double lowest;
   double highest;
+  CardType only_for;    // kNotChosen: for every card
   CardField not_above;  // the value in ballast that bounds this one at full load, or kNone
   CardField not_below;  // the other way round
   int missing;
@@ -34,26 +34,27 @@ constexpr CardType kOne = CardType::kHeightAndTemperature;
 constexpr CardType kTwo = CardType::kTotalCorrection;
 
 constexpr Row kRows[] = {
-    {CardField::kCheckPort, &BarometerCard::check_port, Form::kText, CardType::kNotChosen, 0, 0,
+    {CardField::kCheckPort, Form::kText, &BarometerCard::check_port, 0, 0, CardType::kNotChosen,
      kNone, kNone, id::kCheckPortMissing, 0, 0},
-    {CardField::kTotalCorrection, &BarometerCard::total_correction, Form::kCorrection, kTwo, -50,
-     80, kNone, kNone, id::kTotalCorrectionMissing, id::kTotalCorrectionNotNumeric,
+    {CardField::kTotalCorrection, Form::kCorrection, &BarometerCard::total_correction, -50, 80,
+     kTwo, kNone, kNone, id::kTotalCorrectionMissing, id::kTotalCorrectionNotNumeric,
      id::kTotalCorrectionRange},
-    {CardField::kInstrumentalCorrection, &BarometerCard::instrumental_correction, Form::kCorrection,
-     kOne, -50, 50, kNone, kNone, id::kInstrumentalMissing, id::kInstrumentalNotNumeric,
+    {CardField::kInstrumentalCorrection, Form::kCorrection, &BarometerCard::instrumental_correction,
+     -50, 50, kOne, kNone, kNone, id::kInstrumentalMissing, id::kInstrumentalNotNumeric,
      id::kInstrumentalRange},
-    {CardField::kHeightFullLoad, &BarometerCard::height_full_load, Form::kHeight, kOne, 0, 200,
+    {CardField::kHeightFullLoad, Form::kHeight, &BarometerCard::height_full_load, 0, 200, kOne,
      CardField::kHeightBallast, kNone, id::kHeightFullLoadMissing, id::kHeightNotInteger,
      id::kHeightRange},
-    {CardField::kTotalCorrectionFullLoad, &BarometerCard::total_correction_full_load,
-     Form::kCorrection, kOne, -50, 80, CardField::kTotalCorrectionBallast, kNone,
-     id::kTotalFullLoadMissing, id::kTotalCorrectionNotNumeric, id::kTotalFullLoadRange},
-    {CardField::kHeightBallast, &BarometerCard::height_ballast, Form::kHeight, kOne, 0, 200, kNone,
+    {CardField::kTotalCorrectionFullLoad, Form::kCorrection,
+     &BarometerCard::total_correction_full_load, -50, 80, kOne, CardField::kTotalCorrectionBallast,
+     kNone, id::kTotalFullLoadMissing, id::kTotalCorrectionNotNumeric, id::kTotalFullLoadRange},
+    {CardField::kHeightBallast, Form::kHeight, &BarometerCard::height_ballast, 0, 200, kOne, kNone,
      CardField::kHeightFullLoad, id::kHeightBallastMissing, id::kHeightNotInteger,
      id::kHeightRange},
-    {CardField::kTotalCorrectionBallast, &BarometerCard::total_correction_ballast,
-     Form::kCorrection, kOne, -50, 80, kNone, CardField::kTotalCorrectionFullLoad,
-     id::kTotalBallastMissing, id::kTotalCorrectionNotNumeric, id::kTotalBallastRange},
+    {CardField::kTotalCorrectionBallast, Form::kCorrection,
+     &BarometerCard::total_correction_ballast, -50, 80, kOne, kNone,
+     CardField::kTotalCorrectionFullLoad, id::kTotalBallastMissing, id::kTotalCorrectionNotNumeric,
+     id::kTotalBallastRange},
 };
 
 const Row* row_of(CardField field) {

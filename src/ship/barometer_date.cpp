@@ -25,7 +25,7 @@ bool has_shape(std::string_view date) {
 }  // namespace
 
 std::string normalised_check_date(std::string_view text) {
-  const std::string plain = text::without_spaces(text);
+  std::string plain = text::without_spaces(text);
   const auto first = plain.find('/');
   const auto second = plain.find('/', first == std::string::npos ? first : first + 1);
   if (second == std::string::npos || plain.find('/', second + 1) != std::string::npos) return plain;
