@@ -3,6 +3,8 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFontDatabase>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
@@ -11,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QTreeWidget>
 #include <algorithm>
 #include <array>
@@ -58,7 +61,7 @@ class LineBinding : public Binding {
       edit_->setSelection(0, length);
     }
   }
-  [[nodiscard]] Shown shown() const override { return {edit_->text(), {}, -1, false}; }
+  [[nodiscard]] Shown shown() const override { return {edit_->text(), {}, {}, -1, false}; }
 
  protected:
   void show_state() override {
@@ -87,7 +90,7 @@ class ReadOnlyBinding : public Binding {
   }
   [[nodiscard]] QWidget* widget() const override { return edit_; }
   [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
-  [[nodiscard]] Shown shown() const override { return {edit_->text(), {}, -1, false}; }
+  [[nodiscard]] Shown shown() const override { return {edit_->text(), {}, {}, -1, false}; }
 
  protected:
   void show_state() override {
@@ -113,7 +116,7 @@ class MemoBinding : public Binding {
     edit_->setMinimumSize(width_for(*edit_, 60), edit_->fontMetrics().lineSpacing() * 8);
   }
   [[nodiscard]] QWidget* widget() const override { return edit_; }
-  [[nodiscard]] Shown shown() const override { return {edit_->toPlainText(), {}, -1, false}; }
+  [[nodiscard]] Shown shown() const override { return {edit_->toPlainText(), {}, {}, -1, false}; }
 
  protected:
   void show_state() override {
@@ -159,8 +162,11 @@ class ComboBinding : public Binding {
     }
   }
   [[nodiscard]] Shown shown() const override {
-    return {box_->isEditable() ? box_->currentText() : box_->itemText(box_->currentIndex()), lines_,
-            box_->currentIndex(), false};
+    return {box_->isEditable() ? box_->currentText() : box_->itemText(box_->currentIndex()),
+            lines_,
+            {},
+            box_->currentIndex(),
+            false};
   }
 
  protected:
@@ -194,7 +200,9 @@ class ListBinding : public Binding {
             [this](QListWidgetItem*) { tell([&] { screen().press(control()); }); });
   }
   [[nodiscard]] QWidget* widget() const override { return list_; }
-  [[nodiscard]] Shown shown() const override { return {{}, lines_, list_->currentRow(), false}; }
+  [[nodiscard]] Shown shown() const override {
+    return {{}, lines_, {}, list_->currentRow(), false};
+  }
 
  protected:
   void show_state() override {
@@ -204,6 +212,13 @@ class ListBinding : public Binding {
       lines_ = wanted;
       list_->clear();
       list_->addItems(lines_);
+      for (int i = 0; i < lines_.size(); ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        if (at >= control().item_marked.size() || !control().item_marked[at]) continue;
+        QFont slanted = list_->font();
+        slanted.setItalic(true);
+        list_->item(i)->setFont(slanted);
+      }
       const int rows = std::clamp(static_cast<int>(lines_.size()), 3, 12);
       list_->setMinimumHeight(list_->fontMetrics().lineSpacing() * (rows + 1));
       list_->setMinimumWidth(
@@ -235,7 +250,9 @@ class ChoiceBinding : public Binding {
     const auto buttons = group_->buttons();
     return buttons.isEmpty() ? nullptr : buttons.front();
   }
-  [[nodiscard]] Shown shown() const override { return {{}, lines_, group_->checkedId(), false}; }
+  [[nodiscard]] Shown shown() const override {
+    return {{}, lines_, codes_, group_->checkedId(), false};
+  }
 
  protected:
   void show_state() override {
@@ -264,31 +281,60 @@ class ChoiceBinding : public Binding {
 
   void relabel(const QStringList& wanted) {
     if (wanted.size() == lines_.size()) {
-      for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(with_code(wanted, i));
+      for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(wanted[i]);
       lines_ = wanted;
       return;
     }
-    for (QAbstractButton* const button : group_->buttons()) delete button;
+    qDeleteAll(box_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
     delete box_->layout();
-    // Short choices stand side by side, long ones below each other.
-    int letters = 0;
-    for (const QString& line : wanted) letters += static_cast<int>(line.size());
-    constexpr int kOneLine = 48;
-    auto* const layout = new QBoxLayout(
-        letters <= kOneLine ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, box_);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(letters <= kOneLine ? 10 : 2);
-    for (int i = 0; i < wanted.size(); ++i) {
-      auto* const button = new QRadioButton(with_code(wanted, i), box_);
-      group_->addButton(button, i);
-      layout->addWidget(button);
-    }
     lines_ = wanted;
+    codes_ = lines_of(control().item_codes);
+    if (codes_.isEmpty()) {
+      place_plain();
+    } else {
+      place_behind_codes();
+    }
+  }
+
+  QRadioButton* add_button(int index) {
+    auto* const button = new QRadioButton(lines_[index], box_);
+    group_->addButton(button, index);
+    return button;
+  }
+
+  // Short choices stand side by side, long ones below each other.
+  void place_plain() {
+    int letters = 0;
+    for (const QString& line : lines_) letters += static_cast<int>(line.size());
+    constexpr int kOneLine = 48;
+    const bool side_by_side = letters <= kOneLine;
+    auto* const layout =
+        new QBoxLayout(side_by_side ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, box_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(side_by_side ? 10 : 2);
+    for (int i = 0; i < lines_.size(); ++i) layout->addWidget(add_button(i));
+  }
+
+  // The codes line up in a column of their own.
+  void place_behind_codes() {
+    auto* const layout = new QGridLayout(box_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setHorizontalSpacing(10);
+    layout->setVerticalSpacing(2);
+    layout->setColumnStretch(1, 1);
+    for (int i = 0; i < lines_.size(); ++i) {
+      auto* const code = new QLabel(codes_.value(i), box_);
+      code->setTextFormat(Qt::PlainText);
+      code->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+      layout->addWidget(code, i, 0, Qt::AlignRight | Qt::AlignVCenter);
+      layout->addWidget(add_button(i), i, 1);
+    }
   }
 
   QWidget* box_;
   QButtonGroup* group_;
   QStringList lines_;
+  QStringList codes_;
 };
 
 class TickBinding : public Binding {
@@ -300,7 +346,7 @@ class TickBinding : public Binding {
   }
   [[nodiscard]] QWidget* widget() const override { return box_; }
   [[nodiscard]] bool shows_own_caption() const override { return true; }
-  [[nodiscard]] Shown shown() const override { return {{}, {}, -1, box_->isChecked()}; }
+  [[nodiscard]] Shown shown() const override { return {{}, {}, {}, -1, box_->isChecked()}; }
 
  protected:
   void show_state() override {
@@ -343,7 +389,7 @@ class LabelBinding : public Binding {
   [[nodiscard]] QWidget* widget() const override { return label_; }
   [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
   [[nodiscard]] bool shows_own_caption() const override { return true; }
-  [[nodiscard]] Shown shown() const override { return {label_->text(), {}, -1, false}; }
+  [[nodiscard]] Shown shown() const override { return {label_->text(), {}, {}, -1, false}; }
 
  protected:
   void show_state() override {
@@ -494,6 +540,18 @@ void Binding::show() {
   if (unit_label != nullptr) {
     const QString unit = QString::fromStdString(screen_.unit(control_));
     if (unit_label->text() != unit) unit_label->setText(unit);
+  }
+  if (const QString mark = text_of(control_.mark);
+      shown_widget->property("mark").toString() != mark) {
+    shown_widget->setProperty("mark", mark);
+    // A style sheet looks at properties only when it is asked to.
+    shown_widget->style()->unpolish(shown_widget);
+    shown_widget->style()->polish(shown_widget);
+  }
+  if (!control_.font.empty() && shown_widget->font().family() != text_of(control_.font)) {
+    QFont font = shown_widget->font();
+    font.setFamily(text_of(control_.font));
+    shown_widget->setFont(font);
   }
   // Screen readers say the caption; whoever wonders why a field is locked is told.
   QString spoken = caption();

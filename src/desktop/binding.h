@@ -55,6 +55,7 @@ class Binding : public QObject {
   struct Shown {
     QString content;
     QStringList items;
+    QStringList codes;  ///< in front of a choice's lines
     int selected = -1;
     bool checked = false;
   };

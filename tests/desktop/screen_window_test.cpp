@@ -230,4 +230,14 @@ TEST(ScreenWindow, WidgetsShowWhatTheControlsHold) {
     EXPECT_EQ(ui::describe(shown[i]), ui::describe(held[i]));
 }
 
+TEST(ScreenWindow, AWrongFieldIsMarkedAndTheMarkGoesAgain) {
+  Shown s;
+  s.screen.second.mark = "wrong";
+  s.window->refresh();
+  EXPECT_EQ(s.widget<QLineEdit>("second")->property("mark"), "wrong");
+  s.screen.second.mark.clear();
+  s.window->refresh();
+  EXPECT_EQ(s.widget<QLineEdit>("second")->property("mark"), "");
+}
+
 }  // namespace

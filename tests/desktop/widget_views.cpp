@@ -65,6 +65,8 @@ std::vector<ui::ControlView> widget_views(const desktop::ScreenWindow& window) {
     if (binding->unit_label != nullptr) view.unit = binding->unit_label->text().toStdString();
     view.text = text_on(*binding, view);
     for (const QString& line : binding->shown().items) view.lines.push_back(line.toStdString());
+    for (const QString& code : binding->shown().codes)
+      view.line_codes.push_back(code.toStdString());
     if (control.kind == ui::Kind::kChoice) {
       const auto buttons = binding->widget()->findChildren<QRadioButton*>();
       std::vector<bool> off;
