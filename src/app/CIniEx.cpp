@@ -79,11 +79,12 @@ bool CIniEx::equal(std::string_view a, std::string_view b) const {
 }
 
 const IniEntry* CIniEx::find(std::string_view section, std::string_view key) const {
-  for (auto each = sections_.rbegin(); each != sections_.rend(); ++each) {
-    if (!equal(each->name, section)) continue;
-    const auto entry = std::find_if(each->entries.rbegin(), each->entries.rend(),
+  for (std::size_t i = sections_.size(); i-- > 0;) {
+    if (!equal(sections_[i].name, section)) continue;
+    const auto& entries = sections_[i].entries;
+    const auto entry = std::find_if(entries.rbegin(), entries.rend(),
                                     [&](const IniEntry& one) { return equal(one.key, key); });
-    if (entry != each->entries.rend()) return &*entry;
+    if (entry != entries.rend()) return &*entry;
   }
   return nullptr;
 }
