@@ -94,14 +94,12 @@ bool CVelmaranDlg::open_element(int element) {
   return confirmed;
 }
 
-// The dialog starts from what stands in the field, if that is a value; a text that is none stays in
-// the field without a word, for F1 may be the officer's way to find out what is asked for.
+// The dialog starts from what stands in the field, so that is checked first. A text that is refused
+// stays in the field; once the officer knows that, F1 only opens the dialog.
 void CVelmaranDlg::on_f1(ui::Control* focused) {
   const Field* const field = field_of(focused);
-  if (field != nullptr && field->value) {
-    const Raised quiet(form_.messages_suppressed);
+  if (field != nullptr && field->value && !form_.in_error(*field->value))
     static_cast<void>(leave(*field));
-  }
   open_element(field == nullptr ? mainwindow::kNoElement : field->row->element);
 }
 

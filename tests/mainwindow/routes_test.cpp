@@ -460,15 +460,28 @@ TEST(F1, TakesWhatWasJustTypedIntoTheDialog) {
   EXPECT_EQ("95", opened->window.form().record().VV);
 }
 
-TEST(F1, LeavesATextThatIsNoValueInItsFieldWithoutAMessage) {
+TEST(F1, ChecksATextThatIsNoValueOnceAndOpensTheDialogAllTheSame) {
   const auto opened = std::make_unique<Opened>();
   ASSERT_TRUE(fakes::enter(opened->window, opened->control("VV"), "7"));
-  opened->world.windows.expect_screen(
-      "CEyeShotDlg", [](ui::Screen& screen) { screen.press(*screen.find("cancel")); });
+  const auto cancel = [](ui::Screen& screen) { screen.press(*screen.find("cancel")); };
+  opened->world.windows.expect(id::kVisibilityRange);
+  opened->world.windows.expect_screen("CEyeShotDlg", cancel);
+  opened->window.key(ui::Key::kF1);
+  opened->world.windows.expect_screen("CEyeShotDlg", cancel);
   opened->window.key(ui::Key::kF1);
   EXPECT_EQ("7", opened->shown("VV"));
   EXPECT_EQ("", opened->window.form().record().VV);
-  EXPECT_TRUE(opened->world.windows.boxes.empty());
+}
+
+TEST(F1, DoesNotTakeAValueThatTheOfficerSaidNoTo) {
+  const auto opened = std::make_unique<Opened>();
+  opened->world.windows.expect(id::kPressureQuestion, "no");
+  opened->type("PPPP", "925.0");
+  opened->world.windows.expect_screen(
+      "CSeaSurfacePressureDlg", [](ui::Screen& screen) { screen.press(*screen.find("cancel")); });
+  opened->window.key(ui::Key::kF1);
+  EXPECT_EQ("", opened->window.form().record().PPPP);
+  EXPECT_EQ("925.0", opened->shown("PPPP"));
 }
 
 }  // namespace
