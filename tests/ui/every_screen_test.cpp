@@ -94,7 +94,8 @@ TEST_P(EveryScreen, IsTabbedInReadingOrder) {
   }
   ASSERT_EQ(wanted.size(), read.size());
   for (std::size_t i = 0; i < wanted.size(); ++i) {
-    ASSERT_EQ(wanted[i], read[i]) << "control " << i << " in tab order; on the left the declaration, "
+    ASSERT_EQ(wanted[i], read[i]) << "control " << i
+                                  << " in tab order; on the left the declaration, "
                                   << "on the right the layout";
   }
 }
