@@ -101,7 +101,9 @@ std::string flags_of(const ControlView& view) {
   if (view.locked) add_flag(flags, "locked");
   if (!view.why.empty()) add_flag(flags, "why " + quoted(view.why));
   if (view.focused) add_flag(flags, "focus");
-  if (view.max_length > 0) add_flag(flags, "max " + std::to_string(view.max_length));
+  // Elsewhere it is only how wide the field is drawn.
+  const bool typed = view.kind == Kind::kEdit || view.kind == Kind::kCombo;
+  if (typed && view.max_length > 0) add_flag(flags, "max " + std::to_string(view.max_length));
   return flags;
 }
 
