@@ -29,9 +29,9 @@ void check(const ObservationReader& reader) {
 
   std::string message;
   std::string missing;
-  fuzz::expect(observation::encode_report(record, message, missing, true,
-                                          text::Language::kJapanese) == 0,
-               "the report encoder succeeds");
+  fuzz::expect(
+      observation::encode_report(record, message, missing, true, text::Language::kJapanese) == 0,
+      "the report encoder succeeds");
   fuzz::expect(message.ends_with(" .....") && message.find('*') == std::string::npos,
                "a report ends in full stops and holds no mask", message);
   const std::string line = observation::encode_logbook(record, reader.ship(), reader.items());
