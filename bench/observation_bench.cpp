@@ -20,15 +20,17 @@ std::atomic<std::size_t> allocations{0};
 
 }  // namespace
 
-void* operator new(std::size_t size) {
+// Not inlined: the compiler would take the pair of them apart and warn of the halves.
+#define KAVREL_OUT_OF_LINE __attribute__((noinline))
+KAVREL_OUT_OF_LINE void* operator new(std::size_t size) {
   allocations.fetch_add(1, std::memory_order_relaxed);
   if (void* block = std::malloc(size)) return block;
   throw std::bad_alloc();
 }
-void operator delete(void* block) noexcept {
+KAVREL_OUT_OF_LINE void operator delete(void* block) noexcept {
   std::free(block);
 }
-void operator delete(void* block, std::size_t) noexcept {
+KAVREL_OUT_OF_LINE void operator delete(void* block, std::size_t) noexcept {
   std::free(block);
 }
 
