@@ -7,8 +7,10 @@
 namespace observation {
 namespace {
 
-// A report with every group in it; longer ones merely grow the text.
+/// A report with every group in it; longer ones merely grow the text.
 constexpr std::size_t kFullReport = 192;
+/// A missing list with every group in it.
+constexpr std::size_t kFullList = 768;
 constexpr std::size_t kCallSignWidth = 7;
 
 /// Writes groups to the end of the message and takes back those that turn out to hold nothing.
@@ -75,8 +77,12 @@ class Composer {
 
   void note(const GroupRow& row) {
     if (missing_ == nullptr || row.missing_label == 0 || !is_incomplete(record_, row.group)) return;
+    if (no_value_.empty()) {
+      missing_->reserve(kFullList);
+      no_value_ = text::bilingual(text::id::kNoValueInput, language_);
+    }
     missing_->append(text::entry(row.missing_label));
-    missing_->append(text::bilingual(text::id::kNoValueInput, language_));
+    missing_->append(no_value_);
     missing_->append("\r\n");
   }
 
@@ -117,6 +123,7 @@ class Composer {
   std::string& out_;
   std::string* missing_ = nullptr;
   text::Language language_ = text::Language::kEnglish;
+  std::string_view no_value_;  ///< looked up when the first group is noted
   std::vector<Group>* list_ = nullptr;
 };
 
