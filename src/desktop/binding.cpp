@@ -175,6 +175,7 @@ class ComboBinding : public Binding {
       lines_ = wanted;
       box_->clear();
       box_->addItems(lines_);
+      show_marks();
     }
     if (box_->currentIndex() != control().selected) box_->setCurrentIndex(control().selected);
     if (QLineEdit* const edit = box_->lineEdit()) {
@@ -185,6 +186,16 @@ class ComboBinding : public Binding {
   }
 
  private:
+  // As in a tree, what stands apart is written in italics.
+  void show_marks() {
+    QFont italic = box_->font();
+    italic.setItalic(true);
+    const auto& marked = control().item_marked;
+    for (std::size_t i = 0; i < marked.size(); ++i) {
+      if (marked[i]) box_->setItemData(static_cast<int>(i), italic, Qt::FontRole);
+    }
+  }
+
   QComboBox* box_;
   QStringList lines_;
 };

@@ -32,8 +32,8 @@ class CLogDiskSavePathDlg : public ui::Screen {
   ui::ReadOnly current;
   ui::DropDown drives;
   ui::Tree tree;
-  ui::ReadOnly chosen;
   ui::Button create_folder;
+  ui::ReadOnly chosen;
   ui::Button ok;
   ui::Button cancel;
 

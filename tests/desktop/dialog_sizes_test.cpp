@@ -1,4 +1,4 @@
-// A dialog opens at a size that shows all of it.
+// A dialog opens at a size that shows all of it, and its widgets show what its controls hold.
 
 #include <gtest/gtest.h>
 
@@ -11,6 +11,7 @@
 #include "archive/CCreateDir.h"
 #include "codetables/CEyeShotDlg.h"
 #include "desktop/screen_window.h"
+#include "desktop/widget_views.h"
 #include "elements/CDvDsDlg.h"
 #include "elements/CPositionDlg.h"
 #include "elements/CSea_SurfaceTemperatureDlg.h"
@@ -18,6 +19,7 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
 #include "media/CLogDiskSavePathDlg.h"
+#include "ui/dump.h"
 
 namespace {
 
@@ -60,6 +62,8 @@ TEST(DialogSizes, NothingIsCutOffInEitherLanguage) {
       QApplication::processEvents();
       const auto* const area = window.findChild<QScrollArea*>();
       ASSERT_NE(area, nullptr);
+      EXPECT_TRUE(tests::widget_views(window) == tests::control_views(*screen))
+          << screen->class_name();
       EXPECT_FALSE(area->verticalScrollBar()->isVisible()) << screen->class_name();
       EXPECT_FALSE(area->horizontalScrollBar()->isVisible()) << screen->class_name();
     }
