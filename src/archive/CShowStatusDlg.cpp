@@ -1,10 +1,8 @@
 #include "archive/CShowStatusDlg.h"
 
-#include "text/ids.h"
-
-CShowStatusDlg::CShowStatusDlg(ui::Services& services)
+CShowStatusDlg::CShowStatusDlg(ui::Services& services, int text_id)
     : Screen(services, "CShowStatusDlg", {text::id::kProgramTitleForNotice}),
-      status(*this, "status", {text::id::kInCalculating}) {
+      status(*this, "status", {text_id}) {
   status.font = "MS Gothic";
   this->services().windows.show_notice(*this);
 }

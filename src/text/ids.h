@@ -589,5 +589,19 @@ inline constexpr int kTrueDirectionUnknown = 14103;
 inline constexpr int kTrueSpeedUnknown = 14104;
 
 // Saving: CSaveErrorInfoDlg, CHour3ErrorDlg
+inline constexpr int kSaveErrorTitle = 14200;
+inline constexpr int kSaveErrorNoSave = 14201;
+inline constexpr int kSaveErrorSaveAs = 14202;
+inline constexpr int kSaveErrorCorrect = 14203;
+inline constexpr int kPositionWarningTitle = 14210;
+inline constexpr int kSaved = 33008;
+inline constexpr int kNoDateEntered = 33009;
+inline constexpr int kNowSaving = 33014;
+inline constexpr int kSaveFailed = 33207;
+inline constexpr int kAskReplaceReport = 33344;
+inline constexpr int kInsertDisk = 37007;
+inline constexpr int kInsertDiskAgain = 37013;
+inline constexpr int kSaveCancelled = 37032;
+inline constexpr int kDiskFull = 37034;
 
 }  // namespace text::id

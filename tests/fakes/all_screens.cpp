@@ -5,9 +5,11 @@
 #include "codetables/CEyeShotDlg.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CDvDsDlg.h"
+#include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
 #include "elements/CPresureTendencyDlg.h"
+#include "elements/CSaveErrorInfoDlg.h"
 #include "elements/CSeaSurfacePressureDlg.h"
 #include "elements/CSea_SurfaceTemperatureDlg.h"
 #include "elements/CTemperatureAndDewDlg.h"
@@ -86,6 +88,10 @@ std::vector<ScreenCase> make_table() {
        [](ui::Services& services) -> Made {
          return std::make_unique<CDvDsDlg>(services, CDvDsDlg::Values{"2", "3"});
        }},
+      {"CHour3ErrorDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CHour3ErrorDlg>(services, "Waning: Ship's position\r\n");
+       }},
       {"CLookWindDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CLookWindDlg>(
@@ -100,6 +106,12 @@ std::vector<ScreenCase> make_table() {
       {"CPresureTendencyDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CPresureTendencyDlg>(services, "3", "012");
+       }},
+      {"CSaveErrorInfoDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSaveErrorInfoDlg>(services,
+                                                    "Group4PPPP   No value input\r\n"
+                                                    "Group5appp   No value input\r\n");
        }},
       {"CSeaSurfacePressureDlg",
        [](ui::Services& services) -> Made {

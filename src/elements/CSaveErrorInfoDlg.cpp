@@ -1,0 +1,22 @@
+#include "elements/CSaveErrorInfoDlg.h"
+
+#include "text/ids.h"
+
+namespace id = text::id;
+
+CSaveErrorInfoDlg::CSaveErrorInfoDlg(ui::Services& services, const std::string& errors_found)
+    : Screen(services, "CSaveErrorInfoDlg", {id::kSaveErrorTitle}),
+      errors(*this, "errors"),
+      no_save(*this, "no_save", {id::kSaveErrorNoSave}),
+      save_as(*this, "save_as", {id::kSaveErrorSaveAs}),
+      correct(*this, "correct", {id::kSaveErrorCorrect}) {
+  errors.set(errors_found);
+  no_save.on_press = [this] { close(kNoSave); };
+  save_as.on_press = [this] { close(kSaveAs); };
+  correct.on_press = [this] { close(kCorrect); };
+}
+
+// Enter then leads back to the form, too.
+void CSaveErrorInfoDlg::on_open() {
+  focus(correct);
+}

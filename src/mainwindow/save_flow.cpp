@@ -1,0 +1,146 @@
+#include "mainwindow/save_flow.h"
+
+#include <algorithm>
+
+#include "archive/CShowStatusDlg.h"
+#include "elements/CSaveErrorInfoDlg.h"
+#include "elements/cross_rules.h"
+#include "observation/logbook_encoder.h"
+#include "observation/report_encoder.h"
+#include "observation/report_file.h"
+#include "text/ids.h"
+
+namespace mainwindow {
+namespace {
+
+namespace id = text::id;
+using observation::SaveOutcome;
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+struct Encoded {
+  std::string message;
+  std::string missing;
+};
+
+Encoded encode(const Saving& saving, text::Language language) {
+  Encoded encoded;
+  observation::encode_report(saving.record, encoded.message, encoded.missing,
+                             observation::wants_wet_bulb(saving.ship), language);
+  return encoded;
+}
+
+void append_line(std::string& lines, std::string_view text) {
+  std::copy_if(text.begin(), text.end(), std::back_inserter(lines),
+               [](char c) { return c != '\r' && c != '\n'; });
+  lines.append(kLineEnd);
+}
+
+bool has_date(const Saving& saving) {
+  return observation::report_file_name(saving.record) != observation::kReportExtension &&
+         observation::has_valid_date(saving.record);
+}
+
+bool is_removable(const platform::Drives& drives, char letter) {
+  const auto list = drives.drives();
+  return std::any_of(list.begin(), list.end(), [&](const platform::Drive& drive) {
+    return drive.letter == letter && drive.type == platform::DriveType::kRemovable;
+  });
+}
+
+char drive_of(const std::string& folder) {
+  const char letter = folder.size() > 1 && folder[1] == ':' ? folder.front() : '\0';
+  return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
+// Asks until a disk with room lies in a removable drive; false when the officer gives up. The disk
+// is looked for anew after every answer, for it may have been exchanged.
+bool disk_is_ready(ui::Services& services, const std::string& folder, std::size_t bytes) {
+  const char letter = drive_of(folder);
+  if (!is_removable(services.drives, letter)) return true;
+  int insert = id::kInsertDisk;
+  while (true) {
+    int asked = 0;
+    if (!services.drives.medium_present(letter)) {
+      asked = std::exchange(insert, id::kInsertDiskAgain);
+    } else if (const auto room = services.files.free_space(folder); room && *room < bytes) {
+      asked = id::kDiskFull;
+    } else {
+      return true;
+    }
+    if (services.messages.question(asked, text::QuestionMode::kOkCancel) != text::kOk) return false;
+  }
+}
+
+SaveEnd end_with(ui::Services& services, int message, SaveEnd end) {
+  services.messages.error(message);
+  return end;
+}
+
+bool may_replace(ui::Services& services) {
+  return services.messages.question(id::kAskReplaceReport, text::QuestionMode::kYesNo,
+                                    services.texts.get(id::kExitQuestionTitle)) == text::kYes;
+}
+
+observation::SaveRequest request_of(const Saving& saving, const std::string& message) {
+  observation::SaveRequest request;
+  request.report_path = observation::report_path(saving.folders.reports, saving.record);
+  request.logbook_path = observation::logbook_path(saving.folders.logbook);
+  request.message = message;
+  request.logbook_line = observation::encode_logbook(saving.record, saving.ship, saving.items);
+  return request;
+}
+
+// Nothing once the officer has said No or Cancel, and been told of it; else how the writing went.
+std::optional<SaveOutcome> write(ui::Services& services, const Saving& saving,
+                                 const std::string& message) {
+  observation::SaveRequest request = request_of(saving, message);
+  const std::size_t bytes = request.message.size() + request.logbook_line.size() + kLineEnd.size();
+  while (true) {
+    // Asked before the disks: a report on a disk that is not in yet is asked about when it is.
+    if (!request.replace && services.files.is_file(request.report_path)) {
+      if (!may_replace(services)) return std::nullopt;
+      request.replace = true;
+    }
+    for (const std::string& folder : {saving.folders.reports, saving.folders.logbook}) {
+      if (disk_is_ready(services, folder, bytes)) continue;
+      services.messages.error(id::kSaveCancelled);
+      return std::nullopt;
+    }
+    const auto result = observation::save(services.files, request);
+    if (result.outcome != SaveOutcome::kAlreadyExists) return result.outcome;
+  }
+}
+
+}  // namespace
+
+std::string save_errors(const Saving& saving, const text::Texts& texts) {
+  std::string errors = encode(saving, texts.language).missing;
+  for (const elements::CrossRule* rule : elements::broken_rules(saving.record))
+    append_line(errors, texts.get(rule->message));
+  for (const std::string& entry : saving.refused_entries) append_line(errors, entry);
+  return errors;
+}
+
+SaveEnd save_observation(ui::Services& services, const Saving& saving) {
+  if (!has_date(saving)) return end_with(services, id::kNoDateEntered, SaveEnd::kNotSaved);
+  if (const std::string errors = save_errors(saving, services.texts); !errors.empty()) {
+    CSaveErrorInfoDlg dialog(services, errors);
+    const int answer = services.windows.run_modal(dialog);
+    if (answer == CSaveErrorInfoDlg::kNoSave) return SaveEnd::kNotSaved;
+    if (answer != CSaveErrorInfoDlg::kSaveAs) return SaveEnd::kCorrect;
+  }
+  // Without a folder the files would go wherever the program happens to run.
+  if (saving.folders.reports.empty() || saving.folders.logbook.empty())
+    return end_with(services, id::kSaveFailed, SaveEnd::kNotSaved);
+  std::optional<SaveOutcome> outcome;
+  {
+    const CShowStatusDlg notice(services, id::kNowSaving);
+    outcome = write(services, saving, encode(saving, services.texts.language).message);
+  }
+  if (!outcome) return SaveEnd::kNotSaved;
+  return *outcome == SaveOutcome::kSaved ? end_with(services, id::kSaved, SaveEnd::kSaved)
+                                         : end_with(services, id::kSaveFailed, SaveEnd::kNotSaved);
+}
+
+}  // namespace mainwindow

@@ -1,0 +1,42 @@
+#pragma once
+// Saving an observation: the report in a file of its own and one line more in the logbook.
+//
+// In this order: the date, the lack of groups and the rules that are broken (CSaveErrorInfoDlg),
+// the notice "Now saving", the question about an existing report, a removable drive's disk and
+// room, both files, the result. Whatever is answered and whatever fails, both files are as they
+// were or both are written, and nothing of the observation is changed.
+
+#include <string>
+#include <vector>
+
+#include "mainwindow/context.h"
+#include "observation/Struct_Weather.h"
+#include "ui/services.h"
+
+namespace mainwindow {
+
+/// How a save ended. Only kSaved wrote anything (but see observation::SaveOutcome::kLineLeft).
+enum class SaveEnd {
+  kSaved,
+  kNotSaved,  ///< refused, given up or failed; the officer has been told
+  kCorrect,   ///< the officer chose to go back and correct
+};
+
+/// What a save looks at. The texts of entries that were refused and still stand in their fields are
+/// listed with what is missing and wrong, for the record does not hold them.
+struct Saving {
+  const Struct_Weather& record;
+  const ShipFixedData& ship;
+  const KeyObservationItems& items;
+  const Folders& folders;
+  std::vector<std::string> refused_entries;
+};
+
+/// What is missing and wrong, one line each ended by CR LF, in the language of the moment; empty
+/// when the observation is complete and sound.
+[[nodiscard]] std::string save_errors(const Saving& saving, const text::Texts& texts);
+
+/// Runs the whole save with its messages and questions.
+SaveEnd save_observation(ui::Services& services, const Saving& saving);
+
+}  // namespace mainwindow
