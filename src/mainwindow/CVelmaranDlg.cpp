@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "elements/CHour3ErrorDlg.h"
+#include "elements/position_review.h"
 #include "mainwindow/last_position.h"
+#include "mainwindow/save_flow.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CKeyObserveDlg.h"
 #include "text/ids.h"
@@ -46,10 +49,7 @@ std::vector<std::pair<std::string, std::string>> CVelmaranDlg::record_fields() c
 }
 
 void CVelmaranDlg::on_open() {
-  if (const auto position =
-          mainwindow::last_saved_position(services().files, context_.folders.reports)) {
-    last_quadrant_ = text::format_int(position->quadrant);
-  }
+  find_last_position();
   show_menu();
   refresh();
 }
@@ -90,7 +90,10 @@ bool CVelmaranDlg::open_element(int element) {
   mainwindow::Opening opening{services(), context_, form_, last_quadrant_};
   const bool confirmed = row->open(opening);
   refresh();
-  if (confirmed) focus_behind(last_field_of(element));
+  if (confirmed) {
+    focus_behind(last_field_of(element));
+    review_position();
+  }
   return confirmed;
 }
 
@@ -224,6 +227,30 @@ void CVelmaranDlg::exit() {
 
 bool CVelmaranDlg::save() {
   if (!settle_focused()) return false;
-  services().messages.error(id::kNotInThisVersion);
-  return false;
+  std::vector<std::string> refused;
+  for (const Field& field : fields_) {
+    if (field.value && form_.in_error(*field.value))
+      refused.push_back(std::string(field.row->name) + "  " + form_.text(*field.value));
+  }
+  const mainwindow::SaveEnd end = mainwindow::save_observation(
+      services(),
+      {form_.record(), context_.ship, context_.items, context_.folders, std::move(refused)});
+  if (end != mainwindow::SaveEnd::kSaved) return false;
+  form_.saved();
+  saved_once_ = true;
+  find_last_position();
+  return true;
+}
+
+void CVelmaranDlg::find_last_position() {
+  const auto position = mainwindow::last_saved_position(services().files, context_.folders.reports);
+  last_quadrant_ = position ? text::format_int(position->quadrant) : std::string();
+}
+
+// Is the ship where it can be? Warnings only, after a new date, hour or position.
+void CVelmaranDlg::review_position() {
+  if (!form_.take_review_due()) return;
+  CHour3ErrorDlg::show(services(), elements::review_position(
+                                       form_.record(), services().files, context_.folders.reports,
+                                       context_.is_on_land, services().texts));
 }

@@ -106,7 +106,10 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void edit_observation_items();
   void switch_language(text::Language language);
   void exit();
+  /// True when the report was written; the entries stay.
   bool save();
+  void find_last_position();
+  void review_position();
 
   mainwindow::MainWindowContext context_;
   elements::ObservationForm form_;

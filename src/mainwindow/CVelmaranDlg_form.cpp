@@ -16,6 +16,7 @@ constexpr int kSelectedOnFocus = 10;
 constexpr std::string_view kIceWord = "ICE ";
 constexpr std::string_view kMissing = "missing";
 constexpr std::string_view kWrong = "wrong";
+constexpr std::string_view kFiguresFont = "monospace";  // the report's figures stand in columns
 
 }  // namespace
 
@@ -103,17 +104,23 @@ void CVelmaranDlg::add_hemispheres(const mainwindow::FieldRow& row, int first, i
 }
 
 void CVelmaranDlg::add_report() {
+  constexpr int kCallSignWidth = 7;
   call_sign_ = &add<ui::ReadOnly>("call_sign");
+  call_sign_->max_length = kCallSignWidth;
   call_sign_->literal_caption = mainwindow::kCallSignCaption;
+  call_sign_->font = kFiguresFont;
   groups_.reserve(mainwindow::report_group_rows().size());
   for (const mainwindow::ReportGroupRow& row : mainwindow::report_group_rows()) {
     if (row.group == observation::Group::kICE) {
       ice_word_ = &add<ui::ReadOnly>("group_ICE");
+      ice_word_->max_length = static_cast<int>(kIceWord.size()) - 1;
       ice_word_->literal_caption = mainwindow::kIceCaption;
+      ice_word_->font = kFiguresFont;
       ice_word_->set(kIceWord.substr(0, kIceWord.size() - 1));
     }
     ui::Edit& edit = add<ui::Edit>(row.name, text::Ref{}, mainwindow::kGroupWidth);
     edit.literal_caption = row.caption;
+    edit.font = kFiguresFont;
     edit.on_enter = [this] { tab_flags_.arm(); };
     edit.on_change = [this] { typing_ = true; };
     groups_.push_back({&row, &edit});
@@ -195,6 +202,7 @@ bool CVelmaranDlg::leave(const Field& field) {
   const bool accepted = form_.leave(*field.value);
   typing_ = typing_ && !accepted;
   refresh();
+  if (accepted) review_position();
   return accepted;
 }
 
@@ -211,12 +219,14 @@ bool CVelmaranDlg::leave_group(const ReportGroup& group) {
   }
   typing_ = false;
   refresh();
+  review_position();
   return true;
 }
 
 void CVelmaranDlg::hemispheres_chosen() {
   form_.choose_hemispheres(control_of("north_south")->selected, control_of("east_west")->selected);
   refresh();
+  review_position();
 }
 
 void CVelmaranDlg::loading_state_chosen() {
