@@ -26,7 +26,7 @@ constexpr const char* kStyle = R"(
   QPushButton:focus { border: 2px solid palette(highlight); border-radius: 3px; padding: 3px 14px; }
   QRadioButton:focus, QCheckBox:focus { background: palette(highlight); color: palette(highlighted-text); }
   QLineEdit[shown="true"] { background: palette(window); }
-  QLineEdit[mark="missing"], QComboBox[mark="missing"] { border: 1px dashed palette(mid); }
+  QLineEdit[mark="missing"], QComboBox[mark="missing"] { background: #fff4cc; color: black; }
   QLineEdit[mark="wrong"], QComboBox[mark="wrong"] { border: 2px solid #c00000; }
   QLabel[title="true"] { font-weight: bold; }
   QLabel[clickable="true"] { color: palette(link); }

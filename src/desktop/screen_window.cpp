@@ -29,6 +29,12 @@ std::optional<ui::Key> key_of(const QKeyEvent& event) {
   }
 }
 
+// Keys that a window with a menu keeps from its fields, where they would open the field's own menu.
+bool does_nothing(const QKeyEvent& event) {
+  return event.modifiers() == Qt::ShiftModifier &&
+         (event.key() == Qt::Key_F10 || event.key() == Qt::Key_F12);
+}
+
 // A layout for a screen that has none: its controls in order, the buttons in one line at the end.
 ui::LayoutNode stacked(const ui::Screen& screen) {
   ui::LayoutNode root;
@@ -357,7 +363,9 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
   const auto* const widget = qobject_cast<QWidget*>(watched);
   if (widget == nullptr || widget->window() != this) return QDialog::eventFilter(watched, event);
-  const auto key = key_of(*static_cast<QKeyEvent*>(event));
+  const auto& pressed = *static_cast<QKeyEvent*>(event);
+  if (!screen_.menu().empty() && does_nothing(pressed)) return true;
+  const auto key = key_of(pressed);
   if (!key) return QDialog::eventFilter(watched, event);
   settle_focus();
   screen_.key(*key);

@@ -43,7 +43,7 @@ C& CVelmaranDlg::add(Arguments&&... arguments) {
 
 void CVelmaranDlg::add_labels() {
   for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
-    ui::Label& label = add<ui::Label>(row.name, label_ref(row.label));
+    auto& label = add<ui::Label>(row.name, label_ref(row.label));
     if (row.element != mainwindow::kNoElement)
       label.on_press = [this, &row] { label_clicked(row); };
   }
@@ -63,7 +63,7 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
       add_hemispheres(row, id::kLabelEast, id::kLabelWest);
       break;
     case FieldKind::kLoadingState: {
-      ui::Choice& choice = add<ui::Choice>(
+      auto& choice = add<ui::Choice>(
           row.name, label,
           std::vector{label_ref(id::kLabelFullLoad), label_ref(id::kLabelInBallast)});
       choice.on_change = [this] { loading_state_chosen(); };
@@ -71,7 +71,7 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
       break;
     }
     case FieldKind::kFreeze: {
-      ui::Tick& freeze = add<ui::Tick>(row.name, label);
+      auto& freeze = add<ui::Tick>(row.name, label);
       freeze.on_change = [this] {
         form_.toggle_freeze();
         refresh();
@@ -84,7 +84,7 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
 }
 
 void CVelmaranDlg::add_edit(const mainwindow::FieldRow& row, text::Ref label) {
-  ui::Edit& edit = add<ui::Edit>(row.name, label, row.max_length);
+  auto& edit = add<ui::Edit>(row.name, label, row.max_length);
   edit.unit = row.unit;
   fields_.push_back({&row, &edit, elements::field_named(row.name)});
   edit.on_change = [this, at = fields_.size() - 1] {
@@ -97,8 +97,8 @@ void CVelmaranDlg::add_edit(const mainwindow::FieldRow& row, text::Ref label) {
 }
 
 void CVelmaranDlg::add_hemispheres(const mainwindow::FieldRow& row, int first, int second) {
-  ui::Choice& choice = add<ui::Choice>(row.name, label_ref(row.label),
-                                       std::vector{label_ref(first), label_ref(second)});
+  auto& choice = add<ui::Choice>(row.name, label_ref(row.label),
+                                 std::vector{label_ref(first), label_ref(second)});
   choice.on_change = [this] { hemispheres_chosen(); };
   fields_.push_back({&row, &choice, {}});
 }
@@ -118,7 +118,7 @@ void CVelmaranDlg::add_report() {
       ice_word_->font = kFiguresFont;
       ice_word_->set(kIceWord.substr(0, kIceWord.size() - 1));
     }
-    ui::Edit& edit = add<ui::Edit>(row.name, text::Ref{}, mainwindow::kGroupWidth);
+    auto& edit = add<ui::Edit>(row.name, text::Ref{}, mainwindow::kGroupWidth);
     edit.literal_caption = row.caption;
     edit.font = kFiguresFont;
     edit.on_enter = [this] { tab_flags_.arm(); };
