@@ -77,7 +77,7 @@ class Saver {
     request.logbook_line =
         observation::encode_logbook(observed.record(), observed.ship(), observed.items());
     const auto result = observation::save(files_, request);
-    if (const auto refused = refusal(result, request)) return refused;
+    if (auto refused = refusal(result, request)) return refused;
     std::cout << "report " << shown(request.report_path) << "\n"
               << "logbook " << shown(request.logbook_path) << "\n";
     return std::nullopt;

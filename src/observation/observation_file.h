@@ -86,8 +86,8 @@ class ObservationReader {
 /// report.
 [[nodiscard]] bool is_storable(const WeatherField& field, std::string_view value);
 
-/// Appends the record as lines NAME=VALUE: every field that is set, and as empty those that `fresh`,
-/// a new record, holds something in.
+/// Appends the record as lines NAME=VALUE: every field that is set, and as empty those that
+/// `fresh`, a new record, holds something in.
 void write_observation(std::string& out, const Struct_Weather& record, const Struct_Weather& fresh);
 
 }  // namespace observation

@@ -215,7 +215,7 @@ class Reader {
 std::optional<ReadReport> read_report(std::string_view text, const Struct_Weather& start) {
   const auto found = find_report(text);
   if (!found) return std::nullopt;
-  std::optional<ReadReport> result(ReadReport{start, {}, false});
+  std::optional<ReadReport> result(std::in_place, start);
   if (!found->before.empty())
     result->unplaced.push_back({std::string(found->before), Unplaced::kOutsideReport});
   Reader(found->body, *result).read();

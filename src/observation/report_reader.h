@@ -30,6 +30,9 @@ struct UnplacedText {
 };
 
 struct ReadReport {
+  // NOLINTNEXTLINE(modernize-pass-by-value): one copy of a large record, not a copy and a move
+  explicit ReadReport(const Struct_Weather& start) : record(start) {}
+
   Struct_Weather record;
   std::vector<UnplacedText> unplaced;  ///< in the order of the text
   bool has_wet_bulb = false;           ///< the report holds the wet-bulb group

@@ -39,7 +39,7 @@ Struct_Weather blank() {
 observation::ReadReport read(std::string_view text) {
   const auto report = read_report(text, blank());
   EXPECT_TRUE(report) << text;
-  return report ? *report : observation::ReadReport{blank(), {}, false};
+  return report ? *report : observation::ReadReport(blank());
 }
 
 std::string encode(const Struct_Weather& record, bool wet_bulb = true) {
