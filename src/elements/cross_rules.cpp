@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "elements/field_codes.h"
 #include "elements/true_wind_rules.h"
 #include "text/ids.h"
 #include "text/numbers.h"
@@ -64,9 +65,9 @@ std::optional<int> tenths(const std::string& sign, const std::string& figures) {
   return sign == "1" ? -value : value;
 }
 
-// An iced wet bulb (2) is below zero.
 std::optional<int> wet_bulb_tenths(const W& r) {
-  return tenths(r.Sw == "2" ? "1" : r.Sw, r.TbTbTb);
+  if (!text::is_all_digits(r.Sw)) return std::nullopt;
+  return tenths(wet_bulb_is_negative(r) ? "1" : "0", r.TbTbTb);
 }
 
 bool above_air(std::optional<int> other, const W& r) {

@@ -86,10 +86,15 @@ std::string figures_of(Field field, std::string_view shown) {
   return std::string(shown);
 }
 
+// An iced bulb (2) has no sign of its own: it is below zero, or at 0.0.
+bool wet_bulb_is_negative(const Struct_Weather& record) {
+  return record.Sw == "1" || (record.Sw == "2" && record.TbTbTb != "000");
+}
+
 std::string shown_from_record(Field field, const Struct_Weather& record) {
   if (field == Field::kPPPP) return pressure_shown(record.PPPP);
   if (field == Field::kWetBulb)
-    return temperature_shown(record.Sw == "2" ? "1" : record.Sw, record.TbTbTb);
+    return temperature_shown(wet_bulb_is_negative(record) ? "1" : "0", record.TbTbTb);
   if (field == Field::kTwTwTw) {
     const bool negative = record.Ss.size() == 1 && (record.Ss.front() - '0') % 2 == 1;
     return temperature_shown(negative ? "1" : "0", record.TwTwTw);

@@ -16,6 +16,9 @@ namespace elements {
 /// cloud base, tenths for the tendency; all others as they are shown.
 [[nodiscard]] std::string figures_of(Field field, std::string_view shown);
 
+/// True for a wet bulb below 0 degrees, iced or not.
+[[nodiscard]] bool wet_bulb_is_negative(const Struct_Weather& record);
+
 /// What the field shows for the record; empty for fields that the record does not hold (the
 /// barometer reading, the apparent wind).
 [[nodiscard]] std::string shown_from_record(Field field, const Struct_Weather& record);

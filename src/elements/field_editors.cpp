@@ -42,8 +42,7 @@ constexpr std::array<EditorRow, elements::kFields> kRows{{
     {Field::kDewPoint, kNumber, -25, 40, "", 0, 1, id::kDewPointRange, 0},
     {Field::kHumidity, kNumber, 0, 100, "", 0, 1, id::kHumidityRange, id::kCheckOneDecimal},
     {Field::kdd, kFigures, 0, 36, "99 //", 2, 0, id::kTrueDirectionRange, id::kCheckDirection},
-    // Solidi stand for a speed that is not known, as the true-wind screen gives it.
-    {Field::kff, kNumber, 0, 999, "//", 0, 1, id::kTrueSpeedRange, id::kCheckNotNumber, 80,
+    {Field::kff, kNumber, 0, 999, "", 0, 1, id::kTrueSpeedRange, id::kCheckNotNumber, 80,
      id::kWindSpeedQuestion},
     {Field::kApparentDirection, kFigures, 0, 360, "", 0, 0, id::kApparentDirectionRange,
      id::kCheckApparentDirection},

@@ -20,7 +20,8 @@ ObservationForm::ObservationForm(const ShipFixedData& ship, const KeyObservation
       language_(texts),
       messages_(messages),
       clock_(clock),
-      record_(ship, items) {
+      record_(ship, items),
+      dew_point_method_(ship.dew_point_method) {
   items_changed();
   modified_ = false;
 }
@@ -30,8 +31,15 @@ bool ObservationForm::switched_off(Field field) const {
   return item && !items_.observed(*item);
 }
 
+const std::string& ObservationForm::entered(Field field) const {
+  return typed_[at(field)] ? before_typing_[at(field)] : texts_[at(field)];
+}
+
 bool ObservationForm::any_error() const {
-  return std::find(error_.begin(), error_.end(), true) != error_.end();
+  for (std::size_t i = 0; i < kFields; ++i) {
+    if (in_error(static_cast<Field>(i))) return true;
+  }
+  return false;
 }
 
 bool ObservationForm::take_review_due() {
@@ -60,6 +68,7 @@ std::string ObservationForm::missing() const {
 
 void ObservationForm::type(Field field, std::string_view text) {
   if (switched_off(field)) return;
+  if (!typed_[at(field)]) before_typing_[at(field)] = slot(field);
   slot(field) = text;
   typed_[at(field)] = true;
 }
@@ -75,19 +84,20 @@ void ObservationForm::put(Field field, std::string_view text) {
   }
   typed_[at(field)] = false;
   follow(field);
+  show_changes(before, field);
   touch(before);
 }
 
 void ObservationForm::put_wet_bulb_state(WetBulbState state) {
   const Struct_Weather before = record_;
   wet_bulb_ = state;
-  if (!slot(Field::kWetBulb).empty()) store(Field::kWetBulb, slot(Field::kWetBulb));
+  if (const std::string wet = entered(Field::kWetBulb); !wet.empty()) store(Field::kWetBulb, wet);
   compute_dew_point();
   touch(before);
 }
 
 void ObservationForm::toggle_freeze() {
-  const auto wet = air_temperature_of(slot(Field::kWetBulb));
+  const auto wet = air_temperature_of(entered(Field::kWetBulb));
   if (!wet) return;
   put_wet_bulb_state(toggled_wet_bulb(wet_bulb_, *wet));
 }
@@ -114,9 +124,19 @@ void ObservationForm::ship_changed() {
   record_.iw = fresh.iw;
   record_.CallSign = fresh.CallSign;
   record_.ShipFixed = fresh.ShipFixed;
+  if (dew_point_method_ != ship_.dew_point_method) {
+    // The same air temperature stands in another field now.
+    dew_point_method_ = ship_.dew_point_method;
+    for (const Field field :
+         {Field::kDryBulb, Field::kWetBulb, Field::kAirTemperature, Field::kDewPoint}) {
+      slot(field) = shown(field, record_);
+      typed_[at(field)] = error_[at(field)] = false;
+    }
+  }
   reduce_again();
   compute_dew_point();
-  compute_true_wind();
+  if (true_wind_of_texts(apparent_wind())) compute_true_wind();
+  show_changes(before);
   touch(before);
 }
 
@@ -132,7 +152,7 @@ void ObservationForm::items_changed() {
       if (!entry.empty()) put(field, entry);
       continue;
     }
-    put_aside_[i] = text(field);
+    put_aside_[i] = entered(field);
     clear(field);
     typed_[i] = error_[i] = false;
     // Present and past weather are filled, so that their group says "not observed"; other elements
@@ -147,11 +167,11 @@ void ObservationForm::touch(const Struct_Weather& before) {
   if (!(record_ == before)) modified_ = true;
 }
 
-void ObservationForm::show_changes(const Struct_Weather& before) {
+void ObservationForm::show_changes(const Struct_Weather& before, std::optional<Field> except) {
   for (std::size_t i = 0; i < kFields; ++i) {
     const auto field = static_cast<Field>(i);
     std::string now = shown(field, record_);
-    if (now == shown(field, before)) continue;
+    if (field == except || now == shown(field, before)) continue;
     texts_[i] = std::move(now);
     typed_[i] = error_[i] = false;
   }

@@ -14,6 +14,7 @@
 #include "elements/field_editors.h"
 #include "elements/fields.h"
 #include "elements/psychrometer.h"
+#include "elements/true_wind.h"
 #include "observation/Struct_Weather.h"
 #include "observation/report_groups.h"
 #include "platform/ports.h"
@@ -41,8 +42,15 @@ class ObservationForm {
   /// filled-in solidus.
   [[nodiscard]] bool switched_off(Field field) const;
   /// A refused entry still stands in the field.
-  [[nodiscard]] bool in_error(Field field) const { return error_[at(field)]; }
+  /// Also true for a value that another field's entry has made impossible: a day that the new month
+  /// does not have, minutes beyond the pole or the date line. Such a field does not let go.
+  [[nodiscard]] bool in_error(Field field) const { return error_[at(field)] || impossible(field); }
   [[nodiscard]] bool any_error() const;
+  /// Set by every refusal. The next entry that is accepted clears it, but not while messages are
+  /// suppressed: so one look tells whether any of several entries was refused.
+  [[nodiscard]] bool error_flag() const { return error_flag_; }
+  /// The messages of the refused entries that still stand in their fields, for the list of a save.
+  [[nodiscard]] std::vector<std::string> refused_entries() const;
   /// Changed since the last saved().
   [[nodiscard]] bool modified() const { return modified_; }
   void saved() { modified_ = false; }
@@ -125,16 +133,22 @@ class ObservationForm {
                                  std::vector<Field>& taken);
   [[nodiscard]] bool take_tenths(std::string Struct_Weather::*member, std::string_view figure,
                                  std::vector<Field>& taken);
+  [[nodiscard]] bool take_large_speed(std::string_view figures, std::vector<Field>& taken);
+  [[nodiscard]] Field field_of_member(std::string Struct_Weather::*member) const;
   [[nodiscard]] bool take_field(Field field, std::string_view figures);
+  [[nodiscard]] bool signed_value_accepted(Field field, const Struct_Weather& before);
+  [[nodiscard]] bool group_accepted(const Struct_Weather& before, const std::vector<Field>& taken);
   [[nodiscard]] Field air_field() const;
   [[nodiscard]] std::optional<std::string> accept(Field field, const std::string& typed);
   [[nodiscard]] bool follows_rules(Field field, const std::string& value);
-  [[nodiscard]] bool exact_time_accepted(Field field, const std::string& value);
-  [[nodiscard]] bool date_accepted(Field field, const std::string& value);
+  void take(Field field, const std::string& value);
+  [[nodiscard]] bool impossible(Field field) const;
+  [[nodiscard]] bool refuse_entry(Field field);
+  [[nodiscard]] bool confirmed(Field field, const std::string& value);
+  [[nodiscard]] bool is_far_from_hour(const std::string& hour, const std::string& minute) const;
   [[nodiscard]] bool pressure_accepted(Field field, std::string& value);
-  [[nodiscard]] bool temperatures_accepted(Field field, const std::string& value);
-  [[nodiscard]] bool position_accepted(Field field, const std::string& value);
-  bool refuse(int message, int check_text = 0) const;
+  [[nodiscard]] std::array<std::string, 2> named_bounds(Field field) const;
+  bool refuse(int message) const;
   bool refuse_range(Field field) const;
   [[nodiscard]] bool ask(int question) const;
   void store(Field field, const std::string& value);
@@ -147,7 +161,11 @@ class ObservationForm {
   void compute_dew_point();
   void compute_humidity();
   void compute_true_wind();
-  void show_changes(const Struct_Weather& before);
+  void forget_dew_point();
+  [[nodiscard]] ApparentWindTexts apparent_wind() const;
+  /// The last text that was accepted; what is being typed does not count yet.
+  [[nodiscard]] const std::string& entered(Field field) const;
+  void show_changes(const Struct_Weather& before, std::optional<Field> except = std::nullopt);
   [[nodiscard]] std::string shown(Field field, const Struct_Weather& record) const;
   void touch(const Struct_Weather& before);
   void set_humidity(std::string display, std::string logbook);
@@ -161,11 +179,15 @@ class ObservationForm {
   std::array<std::string, kFields> texts_;
   std::array<bool, kFields> typed_{};
   std::array<bool, kFields> error_{};
+  std::array<std::string, kFields> before_typing_;  ///< what stood there before a typed text
   std::array<std::optional<std::string>, kFields>
       put_aside_;  ///< entries of elements that were switched off
   WetBulbState wet_bulb_ = WetBulbState::kNotSet;
   int north_south_ = -1;
   int east_west_ = -1;
+  std::string pppp_of_reading_;      ///< what the barometer reading gave
+  DewPointMethod dew_point_method_;  ///< the one that the fields' texts are made for
+  bool error_flag_ = false;
   bool modified_ = false;
   bool review_due_ = false;
 };

@@ -55,53 +55,55 @@ void ObservationForm::follow(Field field) {
 }
 
 void ObservationForm::reduce_reading(bool keep_tendency) {
-  const bool psychrometer = ship_.dew_point_method == DewPointMethod::kComputed;
-  const auto air =
-      air_temperature_of(text(psychrometer ? Field::kDryBulb : Field::kAirTemperature));
-  const auto reduced = elements::reduce_reading(text(Field::kReading), ship_.card, air);
+  const auto reduced = elements::reduce_reading(entered(Field::kReading), ship_.card,
+                                                air_temperature_of(entered(air_field())));
   if (!reduced || reduced->range == PressureRange::kRefused) return;
   const std::string tendency = record_.a;
   store_pppp(record_, reduced->pppp);
   if (keep_tendency) record_.a = tendency;
-  slot(Field::kPPPP) = reduced->display;
-  slot(Field::ka) = record_.a;
+  pppp_of_reading_ = record_.PPPP;
 }
 
 // Air temperature, card or loading state changed after the reading was entered: the same reading is
 // reduced with what is known now. The barometer itself did not change, so the tendency that was
 // read from it stays.
 void ObservationForm::reduce_again() {
+  // A pressure that was typed over the reduced one stays.
+  if (entered(Field::kReading).empty() || record_.PPPP != pppp_of_reading_) return;
   const Struct_Weather before = record_;
-  if (!text(Field::kReading).empty()) reduce_reading(true);
+  reduce_reading(true);
+  show_changes(before);
   touch(before);
 }
 
 void ObservationForm::compute_dew_point() {
   if (ship_.dew_point_method != DewPointMethod::kComputed) return;
-  const auto td = dew_point_of_texts(text(Field::kDryBulb), text(Field::kWetBulb),
-                                     text(Field::kReading), ship_.card, wet_bulb_);
-  if (text(Field::kDryBulb).empty() || text(Field::kWetBulb).empty()) {
-    // Without both bulbs there is no dew point; one of an earlier entry would be another air's.
-    record_.SnTd.clear();
-    record_.TdTdTd.clear();
-    if (ship_.humidity_method == HumidityMethod::kComputed) set_humidity({}, {});
-    return;
-  }
+  const auto td = dew_point_of_texts(entered(Field::kDryBulb), entered(Field::kWetBulb),
+                                     entered(Field::kReading), ship_.card, wet_bulb_);
   if (!td) return;
   const TemperatureFigures figures = temperature_figures(*td);
   record_.SnTd = figures.sign;
   record_.TdTdTd = figures.figures;
   if (ship_.humidity_method != HumidityMethod::kComputed) return;
-  if (const auto humidity = humidity_of_texts(text(Field::kDryBulb), figures.text)) {
+  if (const auto humidity = humidity_of_texts(entered(Field::kDryBulb), figures.text)) {
     set_humidity(humidity->display, humidity->logbook);
   }
+}
+
+// Without both bulbs there is no dew point; that of an earlier entry would be another air's.
+void ObservationForm::forget_dew_point() {
+  if (ship_.dew_point_method != DewPointMethod::kComputed) return;
+  record_.SnTd.clear();
+  record_.TdTdTd.clear();
+  if (ship_.humidity_method == HumidityMethod::kComputed) set_humidity({}, {});
 }
 
 void ObservationForm::compute_humidity() {
   if (ship_.dew_point_method == DewPointMethod::kComputed ||
       ship_.humidity_method != HumidityMethod::kComputed)
     return;
-  const auto humidity = humidity_of_texts(text(Field::kAirTemperature), text(Field::kDewPoint));
+  const auto humidity =
+      humidity_of_texts(entered(Field::kAirTemperature), entered(Field::kDewPoint));
   if (humidity) {
     set_humidity(humidity->display, humidity->logbook);
   } else {
@@ -115,11 +117,14 @@ void ObservationForm::set_humidity(std::string display, std::string logbook) {
   typed_[at(Field::kHumidity)] = error_[at(Field::kHumidity)] = false;
 }
 
+ApparentWindTexts ObservationForm::apparent_wind() const {
+  return {entered(Field::kApparentDirection), entered(Field::kApparentSpeed),
+          entered(Field::kHeading), entered(Field::kCourse), entered(Field::kShipSpeed)};
+}
+
 void ObservationForm::compute_true_wind() {
   if (ship_.wind_input_method != WindInputMethod::kApparentWind) return;
-  const auto wind =
-      true_wind_of_texts({text(Field::kApparentDirection), text(Field::kApparentSpeed),
-                          text(Field::kHeading), text(Field::kCourse), text(Field::kShipSpeed)});
+  const auto wind = true_wind_of_texts(apparent_wind());
   if (!wind) {
     clear(Field::kdd);
     clear(Field::kff);

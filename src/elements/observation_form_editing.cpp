@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "elements/barometer_correction.h"
+#include "elements/calendar_date.h"
 #include "elements/code_metres.h"
 #include "elements/field_codes.h"
 #include "elements/observation_form.h"
@@ -23,52 +24,54 @@ namespace {
 
 namespace id = text::id;
 
+constexpr int kPole = 90;
+constexpr int kDateLine = 180;
+
 int days_of_month(const Struct_Weather& record) {
-  static constexpr std::array kDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
   const int month = text::leading_int(record.Month);
   if (month < 1 || month > 12) return 31;
-  const int year = text::leading_int(record.Year);
   // Before the year is known a 29th of February may be right.
-  const bool leap = record.Year.empty() || (year % 4 == 0 && (year % 100 != 0 || year % 400 == 0));
-  return month == 2 && leap ? 29 : kDays[static_cast<std::size_t>(month - 1)];
+  constexpr int kSomeLeapYear = 2000;
+  return days_in_month(record.Year.empty() ? kSomeLeapYear : text::leading_int(record.Year), month);
 }
 
-// Four figures without a point are the code of the report ("9987"), unless they read as a pressure
-// in hPa, which no code of a possible pressure does.
+// Four figures without a point are the code of the report ("9987"), never a pressure in hPa: "1013"
+// is refused, "1013.0" and "998" are pressures.
 bool is_pppp_code(const std::string& value) {
-  constexpr int kLowest = 870;
-  constexpr int kHighest = 1070;
-  if (!text::is_all_digits(value) || value.size() != 4) return false;
-  const int figures = text::leading_int(value);
-  return figures < kLowest || figures > kHighest;
+  return text::is_all_digits(value) && value.size() == 4;
 }
 
-bool is_temperature(Field field) {
-  return field == Field::kDryBulb || field == Field::kWetBulb || field == Field::kAirTemperature ||
-         field == Field::kDewPoint;
+// The notice shows the message's text; where a field has none, its check text.
+int range_message(Field field) {
+  const EditorRow& row = editor_of(field);
+  return row.message != 0 ? row.message : row.check_text;
+}
+
+bool beyond(const std::string& degrees, const std::string& minutes, int limit) {
+  return text::leading_int(degrees) == limit && text::leading_int(minutes) > 0;
 }
 
 }  // namespace
 
-bool ObservationForm::refuse(int message, int check_text) const {
-  // The notice shows the message's text; where a field has none, its check text.
-  if (!messages_suppressed) messages_.error(message != 0 ? message : check_text);
+bool ObservationForm::refuse(int message) const {
+  if (!messages_suppressed) messages_.error(message);
   return false;
 }
 
-bool ObservationForm::refuse_range(Field field) const {
-  const EditorRow& row = editor_of(field);
-  if (messages_suppressed) return false;
+// Bounds that depend on the day, as the message names them.
+std::array<std::string, 2> ObservationForm::named_bounds(Field field) const {
   const auto bounds = bounds_of(field);
-  if (field == Field::kYY && bounds) {
-    messages_.error_filled(row.message, {text::format_int(static_cast<int>(bounds->high))});
-  } else if (field == Field::kYear && bounds) {
-    // The text says "low < year <= high".
-    messages_.error_filled(row.message, {text::format_int(static_cast<int>(bounds->low) - 1),
-                                         text::format_int(static_cast<int>(bounds->high))});
-  } else {
-    return refuse(row.message, row.check_text);
-  }
+  if (!bounds) return {};
+  const std::string high = text::format_int(static_cast<int>(bounds->high));
+  if (field == Field::kYY) return {high, {}};
+  // The text says "low < year <= high".
+  return {text::format_int(static_cast<int>(bounds->low) - 1), high};
+}
+
+bool ObservationForm::refuse_range(Field field) const {
+  if (messages_suppressed) return false;
+  const auto bounds = named_bounds(field);
+  messages_.error_filled(range_message(field), {bounds[0], bounds[1]});
   return false;
 }
 
@@ -84,52 +87,63 @@ std::optional<Bounds> ObservationForm::bounds_of(Field field) const {
 }
 
 bool ObservationForm::leave(Field field) {
-  if (switched_off(field) || !typed_[at(field)]) return true;
-  const Struct_Weather before = record_;
+  if (switched_off(field)) return true;
+  if (!typed_[at(field)]) return !impossible(field) || refuse_entry(field);
   const std::string typed(text::trim(slot(field)));
-  if (typed.empty()) {
-    clear(field);
-  } else {
-    auto value = accept(field, typed);
-    if (!value) {
-      error_[at(field)] = true;
+  std::string value;
+  if (!typed.empty()) {
+    const auto accepted = accept(field, typed);
+    if (!accepted) {
+      error_[at(field)] = error_flag_ = true;
       return false;
     }
-    slot(field) = *value;
-    store(field, *value);
+    value = *accepted;
   }
-  typed_[at(field)] = false;
-  error_[at(field)] = false;
-  follow(field);
-  touch(before);
+  take(field, value);
+  if (!messages_suppressed) error_flag_ = false;
   return true;
 }
 
+// Stores an accepted or emptied entry with all that follows from it.
+void ObservationForm::take(Field field, const std::string& value) {
+  const Struct_Weather before = record_;
+  if (value.empty()) {
+    clear(field);
+  } else {
+    store(field, value);
+  }
+  slot(field) = value;
+  typed_[at(field)] = error_[at(field)] = false;
+  follow(field);
+  show_changes(before, field);
+  // Not everything that is entered goes into the record (the apparent wind).
+  modified_ = modified_ || value != before_typing_[at(field)];
+  touch(before);
+}
+
 std::optional<std::string> ObservationForm::accept(Field field, const std::string& typed) {
-  Checked checked = check_field(editor_of(field), typed, bounds_of(field));
+  const EditorRow& row = editor_of(field);
+  // Their own tests: digits cut behind the point, code figures, the reduced pressure.
   if (field == Field::kReading || field == Field::kPPPP) {
-    // Their own tests: digits cut behind the point, code figures, the reduced pressure.
     std::string value = typed;
     if (!pressure_accepted(field, value)) return std::nullopt;
     return value;
   }
+  Checked checked = check_field(row, typed, bounds_of(field));
   if (field == Field::kHumidity) {
     const bool whole = ship_.humidity_unit == 1.0;
-    if (check_humidity(typed, whole) != HumidityCheck::kAccepted) {
-      refuse_range(field);
-      return std::nullopt;
-    }
-    return shown_humidity(typed, whole);
+    checked = {check_humidity(typed, whole) == HumidityCheck::kAccepted ? Verdict::kAccepted
+                                                                        : Verdict::kRefused,
+               shown_humidity(typed, whole)};
   }
   if (checked.verdict == Verdict::kRefused) {
     refuse_range(field);
     return std::nullopt;
   }
-  if (checked.verdict == Verdict::kAsks && !ask(editor_of(field).warning)) return std::nullopt;
-  if (field == Field::kff && checked.text != "//") {
+  if (field == Field::kff) {
     // Below one knot the decimals decide which rule is broken, so the rule is asked before they go.
-    if (check_true_wind(record_.dd, checked.text) == TrueWindRule::kDirectionBelowOneKnot &&
-        !record_.dd.empty()) {
+    if (!record_.dd.empty() &&
+        check_true_wind(record_.dd, checked.text) == TrueWindRule::kDirectionBelowOneKnot) {
       refuse(id::kDirectionBelowOneKnot);
       return std::nullopt;
     }
@@ -138,81 +152,85 @@ std::optional<std::string> ObservationForm::accept(Field field, const std::strin
   }
   if (field == Field::kppp) checked.text = tendency_amount_text(checked.text);
   if (!follows_rules(field, checked.text)) return std::nullopt;
+  // Asked last: nobody confirms a value that is then refused.
+  if (checked.verdict == Verdict::kAsks && !ask(row.warning)) return std::nullopt;
+  if (!confirmed(field, checked.text)) return std::nullopt;
   return checked.text;
 }
 
-// The rules that this field's editor raises, tested on the record as it would be.
+// The rules that this field's editor raises, tested on the form as it would be.
 bool ObservationForm::follows_rules(Field field, const std::string& value) {
-  if (!date_accepted(field, value) || !exact_time_accepted(field, value) ||
-      !position_accepted(field, value) || !temperatures_accepted(field, value)) {
-    return false;
-  }
-  const Struct_Weather before = record_;
+  const State before = state();
   store(field, value);
   const CrossRule* const rule = broken_by(field, record_);
-  const std::string amount = tendency_shown(record_.ppp);
-  record_ = before;
-  if (rule != nullptr) return refuse(rule->message, rule->check_text);
-  if (field == Field::kppp && check_tendency("/", amount) == TendencyCheck::kAsks)
-    return ask(id::kTendencyAmountQuestion);
+  const bool nowhere = impossible(field) && (field == Field::kLaMin || field == Field::kLoMin);
+  restore(before);
+  if (rule != nullptr) return refuse(rule->message);
+  return !nowhere || refuse_range(field);
+}
+
+// What a change of the month or year, or of the degrees, has made impossible: the day that the
+// month does not have, and minutes beyond the pole and the date line. The entry that was changed is
+// right; it is this one that is to be corrected.
+bool ObservationForm::impossible(Field field) const {
+  switch (field) {
+    case Field::kYY:
+      return text::is_all_digits(record_.YY) &&
+             text::leading_int(record_.YY) > days_of_month(record_);
+    case Field::kLaMin:
+      return beyond(record_.LaDeg, record_.LaMin, kPole);
+    case Field::kLoMin:
+      return beyond(record_.LoDeg, record_.LoMin, kDateLine);
+    default:
+      return false;
+  }
+}
+
+bool ObservationForm::refuse_entry(Field field) {
+  error_flag_ = true;
+  if (field == Field::kYY) return refuse(id::kDateInvalid);
+  return refuse_range(field);
+}
+
+std::vector<std::string> ObservationForm::refused_entries() const {
+  std::vector<std::string> messages;
+  for (std::size_t i = 0; i < kFields; ++i) {
+    const auto field = static_cast<Field>(i);
+    // A date that does not exist stops a save in its own way.
+    if (!error_[i] && (field == Field::kYY || !impossible(field))) continue;
+    const auto bounds = named_bounds(field);
+    messages.push_back(text::fill(language_.get(range_message(field)), {bounds[0], bounds[1]}));
+  }
+  return messages;
+}
+
+bool ObservationForm::confirmed(Field field, const std::string& value) {
+  if (field == Field::kppp)
+    return check_tendency("/", value) != TendencyCheck::kAsks || ask(id::kTendencyAmountQuestion);
+  if (field == Field::kGGExact)
+    return !is_far_from_hour(value, record_.gg) || ask(id::kExactTimeQuestion);
+  if (field == Field::kgg)
+    return !is_far_from_hour(record_.GGExact, value) || ask(id::kExactTimeQuestion);
   return true;
 }
 
-// A month or year must not make the day that is already there impossible.
-bool ObservationForm::date_accepted(Field field, const std::string& value) {
-  if (field != Field::kMonth && field != Field::kYear) return true;
-  Struct_Weather trial = record_;
-  trial.*member_of(field) = value;
-  if (!text::is_all_digits(trial.YY) || text::leading_int(trial.YY) <= days_of_month(trial))
-    return true;
-  return refuse(id::kDateInvalid);
-}
-
-// The exact time stands beside the nominal hour; half an hour and more away it is probably another
+// The exact time stands beside the nominal hour; more than half an hour away it is probably another
 // hour's.
-bool ObservationForm::exact_time_accepted(Field field, const std::string& value) {
-  if (field != Field::kgg || record_.GG.empty() || record_.GGExact.empty()) return true;
+bool ObservationForm::is_far_from_hour(const std::string& hour, const std::string& minute) const {
+  if (record_.GG.empty() || !text::is_all_digits(hour) || !text::is_all_digits(minute))
+    return false;
   constexpr int kDay = 24 * 60;
   constexpr int kFar = 30;
-  const int exact = text::leading_int(record_.GGExact) * 60 + text::leading_int(value);
+  const int exact = text::leading_int(hour) * 60 + text::leading_int(minute);
   const int apart = (exact - text::leading_int(record_.GG) * 60 + kDay) % kDay;
-  return std::min(apart, kDay - apart) <= kFar || ask(id::kExactTimeQuestion);
-}
-
-// There is nothing beyond the pole and the date line.
-bool ObservationForm::position_accepted(Field field, const std::string& value) {
-  const auto beyond = [&](Field degrees, Field minutes, int limit) {
-    if (field != degrees && field != minutes) return false;
-    const std::string& deg = field == degrees ? value : record_.*member_of(degrees);
-    const std::string& min = field == minutes ? value : record_.*member_of(minutes);
-    return text::leading_int(deg) == limit && text::leading_int(min) > 0;
-  };
-  if (beyond(Field::kLaDeg, Field::kLaMin, 90) || beyond(Field::kLoDeg, Field::kLoMin, 180))
-    return refuse_range(field);
-  return true;
-}
-
-bool ObservationForm::temperatures_accepted(Field field, const std::string& value) {
-  if (!is_temperature(field)) return true;
-  const auto above = [&](Field lower, Field upper) {
-    const std::string& low = field == lower ? value : text(lower);
-    const std::string& high = field == upper ? value : text(upper);
-    return !low.empty() && !high.empty() && text::leading_number(low) > text::leading_number(high);
-  };
-  if (field == Field::kDryBulb || field == Field::kWetBulb) {
-    return !above(Field::kWetBulb, Field::kDryBulb) || refuse(id::kWetBulbAboveAir);
-  }
-  return !above(Field::kDewPoint, Field::kAirTemperature) || refuse(id::kDewPointAboveAir);
+  return std::min(apart, kDay - apart) > kFar;
 }
 
 bool ObservationForm::pressure_accepted(Field field, std::string& value) {
   PressureRange range = PressureRange::kRefused;
   if (field == Field::kReading) {
-    const auto reduced = elements::reduce_reading(
-        value, ship_.card,
-        air_temperature_of(text(ship_.dew_point_method == DewPointMethod::kComputed
-                                    ? Field::kDryBulb
-                                    : Field::kAirTemperature)));
+    const auto reduced =
+        elements::reduce_reading(value, ship_.card, air_temperature_of(entered(air_field())));
     if (!reduced) return refuse(id::kBarometerReadingRange);
     range = reduced->range;
     value = reduced->reading;
@@ -239,11 +257,14 @@ void ObservationForm::clear(Field field) {
       if (field == Field::kReading) slot(Field::kPPPP).clear();
       break;
     case Field::kDryBulb:
+      forget_dew_point();
+      [[fallthrough]];
     case Field::kAirTemperature:
       record_.SnT.clear();
       record_.TTT.clear();
       break;
     case Field::kWetBulb:
+      forget_dew_point();
       record_.Sw.clear();
       record_.TbTbTb.clear();
       wet_bulb_ = WetBulbState::kNotSet;

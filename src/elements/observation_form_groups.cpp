@@ -33,6 +33,28 @@ constexpr SignRow kSigns[] = {
     {&W::Qc, "1357", id::kInputError},
 };
 
+std::string signed_value(Field field, const W& record) {
+  if (field == Field::kDewPoint) return temperature_shown(record.SnTd, record.TdTdTd);
+  if (field == Field::kWetBulb || field == Field::kTwTwTw) return shown_from_record(field, record);
+  return temperature_shown(record.SnT, record.TTT);
+}
+
+// The field whose editor tests these figures; nothing for signs and indicators.
+struct MemberField {
+  std::string W::*member;
+  Field field;
+};
+constexpr MemberField kSignedFields[] = {
+    {&W::TdTdTd, Field::kDewPoint},
+    {&W::TbTbTb, Field::kWetBulb},
+    {&W::TwTwTw, Field::kTwTwTw},
+};
+
+// Symbols of a group that is written only when it is set: solidi say that it is not.
+bool is_kept_group(std::string W::*member) {
+  return member == &W::gg || member == &W::GGExact;
+}
+
 bool all_of(std::string_view figures, char c) {
   return figures.find_first_not_of(c) == std::string_view::npos;
 }
@@ -98,11 +120,9 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
       return false;
     }
   }
-  for (const Field field : taken) {
-    if (const CrossRule* const rule = broken_by(field, record_)) {
-      restore(before);
-      return refuse(rule->message, rule->check_text);
-    }
+  if (!group_accepted(before.record, taken)) {
+    restore(before);
+    return false;
   }
   // Signs change what other fields show (the temperature behind its sign, the speed of 99 and
   // more).
@@ -112,6 +132,33 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
   for (const Field field : taken) follow(field);
   touch(before.record);
   return true;
+}
+
+// What the symbols must keep together: values with their signs, the rules of the editors that were
+// run, and last the questions.
+bool ObservationForm::group_accepted(const Struct_Weather& before,
+                                     const std::vector<Field>& taken) {
+  for (const Field field : {air_field(), Field::kDewPoint, Field::kWetBulb, Field::kTwTwTw}) {
+    if (!signed_value_accepted(field, before)) return false;
+  }
+  for (const Field field : taken) {
+    if (const CrossRule* const rule = broken_by(field, record_)) return refuse(rule->message);
+    if ((field == Field::kLaMin || field == Field::kLoMin) && impossible(field))
+      return refuse_range(field);
+  }
+  for (const Field field : taken) {
+    const std::string Struct_Weather::*const member = member_of(field);
+    if (member == nullptr || (record_.*member).empty()) continue;
+    if (!confirmed(field, shown_from_record(field, record_))) return false;
+  }
+  return true;
+}
+
+// A temperature's figures and its sign are typed as two symbols, and tested as one value.
+bool ObservationForm::signed_value_accepted(Field field, const Struct_Weather& before) {
+  const std::string now = signed_value(field, record_);
+  if (now == signed_value(field, before) || !strict_number(now)) return true;
+  return check_field(editor_of(field), now).verdict != Verdict::kRefused || refuse_range(field);
 }
 
 // A tenth of a degree becomes the first minute that gives it.
@@ -145,42 +192,48 @@ bool ObservationForm::take_symbol(std::string W::*member, std::string_view figur
     field_text = figures;
     return true;
   }
-  if (member == &W::fff) {
-    constexpr int kLowest = 99;
-    if (!text::is_all_digits(figures) || text::leading_int(figures) < kLowest)
-      return refuse_range(Field::kff);
-    record_.ff = "99";
-    field_text = figures;
-    taken.push_back(Field::kff);
-    return true;
-  }
-  Field field = Field::kYear;
-  if (member == &W::TTT) {
-    field = air_field();
-  } else if (member == &W::TdTdTd) {
-    field = Field::kDewPoint;
-  } else if (member == &W::TbTbTb) {
-    field = Field::kWetBulb;
-  } else if (member == &W::TwTwTw) {
-    field = Field::kTwTwTw;
-  } else if (member == &W::PPPP) {
-    field = Field::kPPPP;
-  } else if (member == &W::ff) {
-    field = Field::kff;
-    record_.fff.clear();
-  } else {
-    for (std::size_t i = 0; i < kFields; ++i) {
-      if (member_of(static_cast<Field>(i)) == member) field = static_cast<Field>(i);
-    }
-  }
+  const bool unknown = all_of(figures, '/');
+  if (member == &W::fff) return take_large_speed(figures, taken);
+  if (member == &W::ff) record_.fff.clear();
+  const Field field = field_of_member(member);
   if (switched_off(field)) return refuse(id::kInputError);
-  if (!all_of(figures, '/') && !take_field(field, figures)) return false;
+  if (!unknown && !take_field(field, figures)) return false;
+  taken.push_back(field);
   if (member == &W::PPPP) {
     store_pppp(record_, std::string(figures));
+  } else if (unknown && is_kept_group(member)) {
+    field_text.clear();
   } else {
     field_text = figures;
   }
-  taken.push_back(field);
+  return true;
+}
+
+Field ObservationForm::field_of_member(std::string W::*member) const {
+  if (member == &W::TTT) return air_field();
+  if (member == &W::PPPP) return Field::kPPPP;
+  if (member == &W::ff) return Field::kff;
+  for (const MemberField& row : kSignedFields) {
+    if (row.member == member) return row.field;
+  }
+  for (std::size_t i = 0; i < kFields; ++i) {
+    if (member_of(static_cast<Field>(i)) == member) return static_cast<Field>(i);
+  }
+  return Field::kYear;  // no group has a symbol without a field
+}
+
+// 00fff holds a speed of 99 and more, and is not written without one.
+bool ObservationForm::take_large_speed(std::string_view figures, std::vector<Field>& taken) {
+  constexpr int kLowest = 99;
+  taken.push_back(Field::kff);
+  if (all_of(figures, '/')) {
+    record_.fff.clear();
+    return true;
+  }
+  if (!text::is_all_digits(figures) || text::leading_int(figures) < kLowest)
+    return refuse_range(Field::kff);
+  record_.ff = "99";
+  record_.fff = figures;
   return true;
 }
 
@@ -190,16 +243,13 @@ bool ObservationForm::take_field(Field field, std::string_view figures) {
     std::string value(figures);
     return pressure_accepted(field, value);
   }
-  Struct_Weather trial = record_;
+  // A value with a sign is tested when both are there.
+  const bool has_sign = field == air_field() || field == Field::kDewPoint ||
+                        field == Field::kWetBulb || field == Field::kTwTwTw;
+  if (has_sign) return text::is_all_digits(figures) || refuse(id::kInputError);
   std::string shown_text(figures);
-  if (field == Field::kDryBulb || field == Field::kAirTemperature) {
-    shown_text = temperature_shown(trial.SnT, figures);
-  } else if (field == Field::kDewPoint) {
-    shown_text = temperature_shown(trial.SnTd, figures);
-  } else if (field == Field::kWetBulb || field == Field::kTwTwTw) {
-    (field == Field::kWetBulb ? trial.TbTbTb : trial.TwTwTw) = figures;
-    shown_text = shown_from_record(field, trial);
-  } else if (std::string W::*const member = member_of(field)) {
+  if (std::string W::*const member = member_of(field)) {
+    Struct_Weather trial = record_;
     trial.*member = figures;
     shown_text = shown_from_record(field, trial);
   }
