@@ -1,0 +1,444 @@
+#include "mainwindow/save_flow.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "elements/CSaveErrorInfoDlg.h"
+#include "fakes/fake_files.h"
+#include "fakes/fake_ports.h"
+#include "observation/logbook_encoder.h"
+#include "observation/report_encoder.h"
+#include "text/ids.h"
+
+namespace {
+
+namespace id = text::id;
+using fakes::FakeFiles;
+using mainwindow::save_errors;
+using mainwindow::save_observation;
+using mainwindow::SaveEnd;
+using platform::FileError;
+
+constexpr const char* kReport = "C:\\tlx\\14111512.tlx";
+constexpr const char* kLogbook = "C:\\log\\immt5.log";
+
+// An observation with every group that is asked for.
+struct Save {
+  FakeFiles files;
+  fakes::World world{files};
+  ShipFixedData ship;
+  KeyObservationItems items;
+  mainwindow::Folders folders;
+  Struct_Weather record{ship, items};
+  std::vector<std::string> refused_entries;
+
+  Save() {
+    folders.reports = "C:\\tlx\\";
+    folders.logbook = "C:\\log\\";
+    files.add_folder("C:\\tlx\\");
+    files.add_folder("C:\\log\\");
+    ship.call_sign = record.CallSign = "JABC";
+    const std::pair<std::string Struct_Weather::*, const char*> figures[] = {
+        {&Struct_Weather::Year, "2014"},  {&Struct_Weather::Month, "11"},
+        {&Struct_Weather::YY, "15"},      {&Struct_Weather::GG, "12"},
+        {&Struct_Weather::Qc, "1"},       {&Struct_Weather::LaDeg, "35"},
+        {&Struct_Weather::LaMin, "30"},   {&Struct_Weather::LoDeg, "140"},
+        {&Struct_Weather::LoMin, "30"},   {&Struct_Weather::h, "4"},
+        {&Struct_Weather::VV, "97"},      {&Struct_Weather::N, "6"},
+        {&Struct_Weather::dd, "18"},      {&Struct_Weather::ff, "12"},
+        {&Struct_Weather::SnT, "0"},      {&Struct_Weather::TTT, "152"},
+        {&Struct_Weather::SnTd, "0"},     {&Struct_Weather::TdTdTd, "101"},
+        {&Struct_Weather::PPPP, "0132"},  {&Struct_Weather::a, "2"},
+        {&Struct_Weather::ppp, "011"},    {&Struct_Weather::Nh, "4"},
+        {&Struct_Weather::CL, "5"},       {&Struct_Weather::CM, "2"},
+        {&Struct_Weather::CH, "0"},       {&Struct_Weather::Ds, "2"},
+        {&Struct_Weather::Vs, "3"},       {&Struct_Weather::Ss, "0"},
+        {&Struct_Weather::TwTwTw, "185"}, {&Struct_Weather::dw1dw1, "00"},
+        {&Struct_Weather::dw2dw2, "00"},
+    };
+    for (const auto& [member, value] : figures) record.*member = value;
+  }
+
+  void removable_logbook() {
+    folders.logbook = "A:\\";
+    world.drives.list.insert(world.drives.list.begin(), {'A', platform::DriveType::kRemovable, 2});
+    files.add_folder("A:\\");
+  }
+  SaveEnd save() {
+    return save_observation(world.services, {record, ship, items, folders, refused_entries});
+  }
+  [[nodiscard]] std::string errors() const {
+    return save_errors({record, ship, items, folders, refused_entries}, world.texts);
+  }
+  [[nodiscard]] std::string message() const {
+    std::string message;
+    std::string missing;
+    observation::encode_report(record, message, missing, observation::wants_wet_bulb(ship),
+                               world.texts.language);
+    return message;
+  }
+  [[nodiscard]] std::string line() const {
+    return observation::encode_logbook(record, ship, items) + "\n";
+  }
+  [[nodiscard]] std::string logbook() const { return files.content(kLogbook).value_or("none"); }
+
+  /// The save ends so, both files and the observation are as they were.
+  void expect_nothing_written(SaveEnd end) {
+    const auto files_before = files.snapshot();
+    const Struct_Weather record_before = record;
+    EXPECT_EQ(save(), end);
+    EXPECT_EQ(files.snapshot(), files_before);
+    EXPECT_TRUE(record == record_before);
+    world.windows.verify();
+    EXPECT_TRUE(world.windows.notices.size() % 2 == 0);  // every notice was taken away
+  }
+};
+
+void in_both_languages(const std::function<void(Save&)>& check) {
+  for (const text::Language language : {text::Language::kEnglish, text::Language::kJapanese}) {
+    Save save;
+    save.world.texts.language = language;
+    check(save);
+    for (const platform::MessageBox& box : save.world.windows.boxes) {
+      EXPECT_FALSE(box.text.empty());
+      EXPECT_EQ(box.text, text::bilingual(box.text_id, language)) << box.text_id;
+    }
+  }
+}
+
+std::function<void(ui::Screen&)> press(const char* name) {
+  return [name](ui::Screen& screen) { screen.press(*screen.find(name)); };
+}
+
+TEST(SaveFlow, WritesTheReportAndOneLineOfTheLogbookAndSaysSo) {
+  in_both_languages([](Save& s) {
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.errors(), "");
+    EXPECT_EQ(s.save(), SaveEnd::kSaved);
+    EXPECT_EQ(s.files.content(kReport), s.message());
+    EXPECT_EQ(s.files.content(kLogbook), s.line());
+    const std::vector<std::string> notices = {"show CShowStatusDlg", "hide CShowStatusDlg"};
+    EXPECT_EQ(s.world.windows.notices, notices);
+  });
+}
+
+TEST(SaveFlow, GivenTextsAreToTheLetter) {
+  struct Row {
+    int message;
+    const char *english, *japanese;  // nullptr: not given
+  };
+  const Row rows[] = {
+      {id::kNoDateEntered, "Can't save because of no date inputting",
+       "観測日付が入力されていません"},
+      {id::kNowSaving, "Now saving. Please wait.", nullptr},
+      {id::kAskReplaceReport, "Weather report file exist. Replace it? ", nullptr},
+      {id::kInsertDisk, "Please insert or replace the floppy disk.", nullptr},
+      {id::kInsertDiskAgain, "Please insert or replace the floppy disk.", nullptr},
+      {id::kDiskFull, "Disk is full. Exchange floppy disk ", nullptr},
+      {id::kSaveCancelled,
+       "Save of the weather report and the marine meteorological logbook is canceled.", nullptr},
+      {id::kSaved, "Save success", "気象電報の保存が終了しました"},
+      {id::kSaveFailed, "SetFDMount", "保存に失敗しました"},
+      {id::kSaveErrorTitle, "Error message", nullptr},
+      {id::kSaveErrorNoSave, "No Save", nullptr},
+      {id::kSaveErrorSaveAs, "Save as", "このまま保存する"},
+      {id::kSaveErrorCorrect, "Correct input data", nullptr},
+  };
+  for (const Row& row : rows) {
+    EXPECT_EQ(text::bilingual(row.message, text::Language::kEnglish), row.english);
+    const auto japanese = text::bilingual(row.message, text::Language::kJapanese);
+    EXPECT_NE(japanese, row.english);
+    if (row.japanese != nullptr) {
+      EXPECT_EQ(japanese, row.japanese);
+    }
+  }
+}
+
+TEST(SaveFlow, TheNoticeSaysThatItIsSavingAndStaysWhileItAsks) {
+  Save s;
+  s.files.add_file(kReport, "old");
+  s.world.windows.expect(id::kAskReplaceReport, "no");
+  EXPECT_EQ(s.save(), SaveEnd::kNotSaved);
+  const platform::MessageBox& box = s.world.windows.boxes.back();
+  EXPECT_EQ(box.title, "Brenmoor");
+  EXPECT_EQ(box.buttons.size(), 2U);
+  EXPECT_EQ(s.world.windows.notices.front(), "show CShowStatusDlg");
+  EXPECT_EQ(s.world.windows.notices.back(), "hide CShowStatusDlg");
+}
+
+TEST(SaveFlow, StopsWithoutADate) {
+  struct Row {
+    const char *year, *month, *day, *hour;
+  };
+  for (const Row& row :
+       {Row{"", "", "", ""}, Row{"2014", "", "15", "12"}, Row{"2014", "11", "", "12"},
+        Row{"2014", "11", "15", ""}, Row{"", "11", "15", "12"}, Row{"2014", "02", "30", "12"},
+        Row{"2014", "13", "15", "12"}, Row{"2014", "11", "31", "12"}, Row{"2014", "11", "15", "24"},
+        Row{"2014", "00", "15", "12"}, Row{"2014", "11", "00", "12"}, Row{"2014", "11", "//", "12"},
+        Row{"2015", "02", "29", "12"}}) {
+    in_both_languages([&](Save& s) {
+      s.record.Year = row.year;
+      s.record.Month = row.month;
+      s.record.YY = row.day;
+      s.record.GG = row.hour;
+      s.world.windows.expect(id::kNoDateEntered);
+      s.expect_nothing_written(SaveEnd::kNotSaved);
+      EXPECT_TRUE(s.world.windows.notices.empty());
+    });
+  }
+}
+
+TEST(SaveFlow, TakesAnyHourOfTheDay) {
+  for (const char* hour : {"00", "01", "13", "23"}) {
+    Save s;
+    s.record.GG = hour;
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), SaveEnd::kSaved);
+    EXPECT_TRUE(s.files.is_file(std::string("C:\\tlx\\141115") + hour + ".tlx"));
+  }
+}
+
+TEST(SaveFlow, MissingGroupsBrokenRulesAndRefusedEntriesAreListedTogether) {
+  in_both_languages([](Save& s) {
+    s.record.PPPP = "";
+    s.record.N = "3";
+    s.refused_entries = {"Error: first\nsecond"};
+    const auto language = s.world.texts.language;
+    std::string rule(text::bilingual(id::kLowestAboveTotal, language));
+    const std::string expected = "Group4PPPP   " +
+                                 std::string(text::bilingual(id::kNoValueInput, language)) +
+                                 "\r\n" + rule + "\r\nError: firstsecond\r\n";
+    EXPECT_EQ(s.errors(), expected);
+    std::string shown;
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+      shown = screen.find("errors")->content;
+      EXPECT_EQ(screen.title(), text::bilingual(id::kSaveErrorTitle, language));
+      screen.press(*screen.find("no_save"));
+    });
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    EXPECT_EQ(shown, expected);
+  });
+}
+
+TEST(SaveFlow, TheWetBulbIsAskedForWhenTheDewPointIsComputed) {
+  Save s;
+  s.ship.dew_point_method = DewPointMethod::kComputed;
+  EXPECT_EQ(s.errors(), "Group8SnTbTbTb   No value input\r\n");
+  s.ship.dew_point_method = DewPointMethod::kDirect;
+  EXPECT_EQ(s.errors(), "");
+}
+
+TEST(SaveFlow, ErrorsLeaveThreeWaysOut) {
+  in_both_languages([](Save& s) {
+    s.record.PPPP = "";
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", press("no_save"));
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", press("correct"));
+    s.expect_nothing_written(SaveEnd::kCorrect);
+    s.world.windows.expect_screen("CSaveErrorInfoDlg",
+                                  [](ui::Screen& screen) { screen.close_box(); });
+    s.expect_nothing_written(SaveEnd::kCorrect);
+    s.world.windows.expect_screen("CSaveErrorInfoDlg",
+                                  [](ui::Screen& screen) { screen.key(ui::Key::kEscape); });
+    s.expect_nothing_written(SaveEnd::kCorrect);
+    s.world.windows.expect_screen("CSaveErrorInfoDlg",
+                                  [](ui::Screen& screen) { screen.key(ui::Key::kEnter); });
+    s.expect_nothing_written(SaveEnd::kCorrect);
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", press("save_as"));
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), SaveEnd::kSaved);
+    EXPECT_EQ(s.files.content(kReport), s.message());
+    EXPECT_EQ(s.logbook(), s.line());
+  });
+}
+
+TEST(SaveFlow, AnExistingReportIsReplacedOnYesOnlyAndTheLogbookGetsASecondLine) {
+  in_both_languages([](Save& s) {
+    s.world.windows.expect(id::kSaved);
+    ASSERT_EQ(s.save(), SaveEnd::kSaved);
+    const std::string first = s.line();
+    s.record.N = "7";
+    s.world.windows.expect(id::kAskReplaceReport, "no");
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    s.world.windows.expect(id::kAskReplaceReport, "close");
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    s.world.windows.expect(id::kAskReplaceReport, "yes");
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), SaveEnd::kSaved);
+    EXPECT_EQ(s.files.content(kReport), s.message());
+    EXPECT_EQ(s.logbook(), first + s.line());
+  });
+}
+
+TEST(SaveFlow, ALogbookFolderMayEndWithoutABackslash) {
+  Save s;
+  s.folders.logbook = "C:\\log";
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(s.save(), SaveEnd::kSaved);
+  EXPECT_EQ(s.logbook(), s.line());
+}
+
+TEST(SaveFlow, WithoutAFolderNothingIsWrittenAnywhere) {
+  for (std::string mainwindow::Folders::*folder :
+       {&mainwindow::Folders::reports, &mainwindow::Folders::logbook}) {
+    Save s;
+    (s.folders.*folder).clear();
+    s.world.windows.expect(id::kSaveFailed);
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+  }
+}
+
+TEST(SaveFlow, EveryFailedWriteLeavesBothFilesAndSaysSo) {
+  for (const FileError error : {FileError::kAccessDenied, FileError::kNoSpace,
+                                FileError::kMediumMissing, FileError::kOther}) {
+    for (int n = 1; n <= 3; ++n) {
+      in_both_languages([&](Save& s) {
+        s.files.add_file(kReport, "old report");
+        s.files.add_file(kLogbook, "old line\n");
+        s.files.fail_at(n, error);
+        s.world.windows.expect(id::kAskReplaceReport, "yes");
+        s.world.windows.expect(id::kSaveFailed);
+        s.expect_nothing_written(SaveEnd::kNotSaved);
+        // And the same save goes well afterwards.
+        s.files.heal();
+        s.world.windows.expect(id::kAskReplaceReport, "yes");
+        s.world.windows.expect(id::kSaved);
+        EXPECT_EQ(s.save(), SaveEnd::kSaved);
+        EXPECT_EQ(s.logbook(), "old line\n" + s.line());
+      });
+    }
+  }
+}
+
+TEST(SaveFlow, FoldersThatAreGoneOrReadOnlyAndAFullDiskLeaveBothFiles) {
+  const std::function<void(Save&)> troubles[] = {
+      [](Save& s) { s.folders.reports = "C:\\gone\\"; },
+      [](Save& s) { s.folders.logbook = "C:\\gone\\"; },
+      [](Save& s) { s.files.fail_path(kLogbook, FileError::kAccessDenied); },
+      [](Save& s) { s.files.fail_path(kReport, FileError::kAccessDenied); },
+      [](Save& s) { s.files.set_free_space('C', 100); },
+      [](Save& s) { s.files.set_medium_missing('C'); },
+  };
+  for (const auto& trouble : troubles) {
+    Save s;
+    trouble(s);
+    s.world.windows.expect(id::kSaveFailed);
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    EXPECT_EQ(s.world.windows.boxes.back().text, "SetFDMount");
+  }
+}
+
+TEST(SaveFlow, AMissingDiskIsAskedForUntilItIsThereOrTheOfficerGivesUp) {
+  in_both_languages([](Save& s) {
+    s.removable_logbook();
+    s.world.drives.medium['A'] = false;
+    s.world.windows.expect(id::kInsertDisk, "cancel");
+    s.world.windows.expect(id::kSaveCancelled);
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    s.world.windows.expect(id::kInsertDisk, "ok");
+    s.world.windows.expect(id::kInsertDiskAgain, "cancel");
+    s.world.windows.expect(id::kSaveCancelled);
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    EXPECT_EQ(s.world.windows.boxes.front().buttons.size(), 2U);
+  });
+}
+
+// A drive into which a disk is put when it is asked for.
+struct InsertedDisk : fakes::FakeDrives {
+  mutable int empty_looks = 0;
+  [[nodiscard]] bool medium_present(char /*letter*/) const override { return empty_looks-- <= 0; }
+};
+
+TEST(SaveFlow, ADiskPutInIsWrittenTo) {
+  Save s;
+  s.removable_logbook();
+  InsertedDisk drives;
+  drives.list = s.world.drives.list;
+  drives.empty_looks = 2;
+  ui::Services services{s.world.clock, s.world.locale,   drives,
+                        s.files,       s.world.printer,  s.world.windows,
+                        s.world.texts, s.world.messages, s.world.help};
+  s.world.windows.expect(id::kInsertDisk, "ok");
+  s.world.windows.expect(id::kInsertDiskAgain, "ok");
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(save_observation(services, {s.record, s.ship, s.items, s.folders, {}}),
+            SaveEnd::kSaved);
+  EXPECT_EQ(s.files.content("A:\\immt5.log"), s.line());
+}
+
+// A disk that is full until it is exchanged.
+struct ExchangedDisk : FakeFiles {
+  mutable int full_looks = 0;
+  [[nodiscard]] std::optional<std::uint64_t> free_space(const std::string& path) const override {
+    if (path.front() != 'A') return FakeFiles::free_space(path);
+    return full_looks-- > 0 ? 20 : 1000000;
+  }
+};
+
+TEST(SaveFlow, AFullDiskIsExchangedOrGivenUp) {
+  for (const bool exchanged : {true, false}) {
+    Save s;
+    s.removable_logbook();
+    ExchangedDisk files;
+    files.full_looks = exchanged ? 2 : 1000;
+    files.add_folder("C:\\tlx\\");
+    files.add_folder("A:\\");
+    ui::Services services{s.world.clock, s.world.locale,   s.world.drives,
+                          files,         s.world.printer,  s.world.windows,
+                          s.world.texts, s.world.messages, s.world.help};
+    s.world.windows.expect(id::kDiskFull, "ok");
+    if (exchanged) {
+      s.world.windows.expect(id::kDiskFull, "ok");
+      s.world.windows.expect(id::kSaved);
+    } else {
+      s.world.windows.expect(id::kDiskFull, "cancel");
+      s.world.windows.expect(id::kSaveCancelled);
+    }
+    EXPECT_EQ(save_observation(services, {s.record, s.ship, s.items, s.folders, {}}),
+              exchanged ? SaveEnd::kSaved : SaveEnd::kNotSaved);
+    EXPECT_EQ(files.content("A:\\immt5.log").has_value(), exchanged);
+    EXPECT_EQ(files.content(kReport).has_value(), exchanged);
+    s.world.windows.verify();
+  }
+}
+
+TEST(SaveFlow, RoomIsEnoughForBothFilesToTheByte) {
+  Save s;
+  s.removable_logbook();
+  const std::uint64_t needed = s.message().size() + s.line().size() + 1;
+  s.files.set_free_space('A', needed - 1);
+  s.world.windows.expect(id::kDiskFull, "cancel");
+  s.world.windows.expect(id::kSaveCancelled);
+  s.expect_nothing_written(SaveEnd::kNotSaved);
+  s.files.set_free_space('A', needed);
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(s.save(), SaveEnd::kSaved);
+}
+
+TEST(SaveFlow, AReportOnADiskThatIsPutInLateIsAskedAbout) {
+  Save s;
+  s.removable_logbook();
+  s.folders.reports = "A:\\";
+  s.files.add_file("A:\\14111512.tlx", "old");
+  s.files.set_medium_missing('A');
+  InsertedDisk drives;
+  drives.list = s.world.drives.list;
+  drives.empty_looks = 1;
+  ui::Services services{s.world.clock, s.world.locale,   drives,
+                        s.files,       s.world.printer,  s.world.windows,
+                        s.world.texts, s.world.messages, s.world.help};
+  s.world.windows.expect(id::kInsertDisk, "cancel");
+  s.world.windows.expect(id::kSaveCancelled);
+  EXPECT_EQ(save_observation(services, {s.record, s.ship, s.items, s.folders, {}}),
+            SaveEnd::kNotSaved);
+  s.files.set_medium_missing('A', false);
+  EXPECT_EQ(s.files.content("A:\\14111512.tlx"), "old");
+  s.world.windows.expect(id::kAskReplaceReport, "yes");
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(save_observation(services, {s.record, s.ship, s.items, s.folders, {}}),
+            SaveEnd::kSaved);
+  EXPECT_EQ(s.files.content("A:\\14111512.tlx"), s.message());
+}
+
+}  // namespace
