@@ -168,7 +168,7 @@ bool ObservationForm::take_tenths(std::string W::*member, std::string_view figur
     (record_.*member).clear();
   } else if (text::leading_int(figure) != text::leading_int(record_.*member) / 6 ||
              (record_.*member).empty()) {
-    record_.*member = text::format_int((figure.front() - '0') * 6, 2, '0');
+    record_.*member = text::format_int(6LL * (figure.front() - '0'), 2, '0');
   }
   taken.push_back(member == &W::LaMin ? Field::kLaMin : Field::kLoMin);
   return true;
