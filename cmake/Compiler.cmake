@@ -1,9 +1,19 @@
 # What every target of the project is compiled with.
 
+option(KAVREL_CCACHE "Use ccache where it is installed" ON)
 find_program(CCACHE ccache)
-if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+if(KAVREL_CCACHE AND CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
+
+# Without ccache every source is compiled anew, so what most of them include is compiled once for all. With ccache the
+# precompiled header would only make the cache miss; that build also shows an include that is missing.
+function(kavrel_precompile target)
+  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    target_precompile_headers(${target} PRIVATE ${ARGN} <algorithm> <functional> <map> <memory> <optional> <string>
+                              <string_view> <vector>)
+  endif()
+endfunction()
 
 add_library(kavrel_flags INTERFACE)
 target_include_directories(kavrel_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
