@@ -227,14 +227,9 @@ void CVelmaranDlg::exit() {
 
 bool CVelmaranDlg::save() {
   if (!settle_focused()) return false;
-  std::vector<std::string> refused;
-  for (const Field& field : fields_) {
-    if (field.value && form_.in_error(*field.value))
-      refused.push_back(std::string(field.row->name) + "  " + form_.text(*field.value));
-  }
   const mainwindow::SaveEnd end = mainwindow::save_observation(
       services(),
-      {form_.record(), context_.ship, context_.items, context_.folders, std::move(refused)});
+      {form_.record(), context_.ship, context_.items, context_.folders, form_.refused_entries()});
   if (end != mainwindow::SaveEnd::kSaved) return false;
   form_.saved();
   saved_once_ = true;

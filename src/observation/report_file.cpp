@@ -37,6 +37,17 @@ std::string_view last_two(std::string_view figures) {
   return figures.size() > 2 ? figures.substr(figures.size() - 2) : figures;
 }
 
+bool ends_in_backslash(std::string_view folder) {
+  return !folder.empty() && folder.back() == '\\';
+}
+
+// A folder that somebody wrote into the settings by hand may lack its backslash; the report would
+// then lie beside the folder, where nobody looks for it.
+std::string in_folder(const std::string& folder, std::string_view name) {
+  const bool as_it_stands = folder.empty() || ends_in_backslash(folder);
+  return folder + (as_it_stands ? "" : "\\") + std::string(name);
+}
+
 }  // namespace
 
 std::string report_file_name(const Struct_Weather& record) {
@@ -66,9 +77,9 @@ std::string earlier_report_file_name(int year, int month, int day, int hour) {
 }
 
 std::string earlier_report_path(const std::string& folder, const Struct_Weather& record) {
-  return folder +
-         earlier_report_file_name(text::leading_int(record.Year), text::leading_int(record.Month),
-                                  text::leading_int(record.YY), text::leading_int(record.GG));
+  return in_folder(folder, earlier_report_file_name(
+                               text::leading_int(record.Year), text::leading_int(record.Month),
+                               text::leading_int(record.YY), text::leading_int(record.GG)));
 }
 
 std::optional<ReportDate> report_date(std::string_view name) {
@@ -91,12 +102,11 @@ bool has_valid_date(const Struct_Weather& record) {
 }
 
 std::string report_path(const std::string& folder, const Struct_Weather& record) {
-  return folder + report_file_name(record);
+  return in_folder(folder, report_file_name(record));
 }
 
 std::string logbook_path(const std::string& folder) {
-  const bool ends_in_backslash = !folder.empty() && folder.back() == '\\';
-  return folder + (ends_in_backslash ? "" : "\\") + std::string(kLogbookName);
+  return folder + (ends_in_backslash(folder) ? "" : "\\") + std::string(kLogbookName);
 }
 
 std::string report_file_content(std::string_view message) {

@@ -29,7 +29,7 @@ inline constexpr std::string_view kLogbookName = "immt5.log";
 /// Name of the report three hours before the given hour (UTC). Every year divisible by 4 has a 29
 /// February, centuries too.
 [[nodiscard]] std::string earlier_report_file_name(int year, int month, int day, int hour);
-/// The same for the record's date and hour, behind the folder, which is left as it is.
+/// The same for the record's date and hour, in the folder, as report_path() puts it there.
 [[nodiscard]] std::string earlier_report_path(const std::string& folder,
                                               const Struct_Weather& record);
 
@@ -43,7 +43,7 @@ struct ReportDate {
 /// True when year, month, day and hour are set, form a date of the calendar and the hour is 0-23.
 [[nodiscard]] bool has_valid_date(const Struct_Weather& record);
 
-/// Folder and name as they stand; a set folder ends in a backslash.
+/// Folder and name, with a backslash put between when there is none; without a folder the name.
 [[nodiscard]] std::string report_path(const std::string& folder, const Struct_Weather& record);
 /// The logbook of the folder, with a backslash put between when there is none.
 [[nodiscard]] std::string logbook_path(const std::string& folder);

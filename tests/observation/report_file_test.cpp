@@ -25,6 +25,12 @@ TEST(ReportFileName, IsYearMonthDayAndHourAsStored) {
             "C:\\out files\\14111512.tlx");
 }
 
+TEST(ReportFileName, LiesInItsFolderAlsoWhenTheFolderLacksItsBackslash) {
+  EXPECT_EQ(observation::report_path("A:\\TLX", records::full()), "A:\\TLX\\14111512.tlx");
+  EXPECT_EQ(observation::earlier_report_path("A:\\TLX", records::full()), "A:\\TLX\\14111509.tlx");
+  EXPECT_EQ(observation::report_path("", records::full()), "14111512.tlx");
+}
+
 TEST(EarlierReport, RollsBackDayMonthAndYear) {
   struct Row {
     int year, month, day, hour;
