@@ -123,10 +123,12 @@ void CKataInputDlg::read_fields() {
                                                        : LoadingState::kNotChosen;
 }
 
-// A field left empty is asked for by OK, so that the fields can be filled in any order.
+// A field left empty, or a date left as its placeholder, is asked for by OK, so that the fields can
+// be filled in any order.
 bool CKataInputDlg::leave(const TypedField& left) {
   read_fields();
   if (left.edit->content.empty()) return true;
+  if (left.field == CardField::kCheckDate && is_check_date_missing(left.edit->content)) return true;
   const auto partner = compared_field(left.field);
   const auto fault = card_field_fault(draft_, left.field, services().clock.local(),
                                       partner && is_filled(*partner));

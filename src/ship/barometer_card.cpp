@@ -108,8 +108,7 @@ int value_fault(const BarometerCard& card, const Row& row, bool compare_states) 
 std::optional<CardFault> card_field_fault(const BarometerCard& card, CardField field,
                                           const platform::DateTime& today, bool compare_states) {
   if (field == CardField::kCheckDate) {
-    if (text::without_spaces(card.check_date).empty())
-      return CardFault{field, id::kCheckDateMissing, {}};
+    if (is_check_date_missing(card.check_date)) return CardFault{field, id::kCheckDateMissing, {}};
     if (is_check_date(card.check_date, today)) return std::nullopt;
     return CardFault{field, id::kCheckDateRange, slashed_date(today)};
   }

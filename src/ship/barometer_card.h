@@ -31,7 +31,8 @@ struct CardFault {
   std::string argument;
 };
 
-/// Checks one field; empty counts as missing. A field that the card's type does not use has no
+/// Checks one field; empty counts as missing, and so does the
+/// placeholder of a date. A field that the card's type does not use has no
 /// fault.
 ///
 /// Heights and total corrections in ballast must not be less than those at full load;

@@ -24,6 +24,11 @@ bool has_shape(std::string_view date) {
 
 }  // namespace
 
+bool is_check_date_missing(std::string_view text) {
+  const std::string plain = text::without_spaces(text);
+  return plain.empty() || plain == kCheckDatePlaceholder;
+}
+
 std::string normalised_check_date(std::string_view text) {
   std::string plain = text::without_spaces(text);
   const auto first = plain.find('/');

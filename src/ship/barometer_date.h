@@ -6,6 +6,12 @@
 
 #include "platform/ports.h"
 
+/// Stands for a date that was never entered.
+inline constexpr std::string_view kCheckDatePlaceholder = "yyyy/mm/dd";
+
+/// True when there is no date: nothing but spaces, or the placeholder.
+[[nodiscard]] bool is_check_date_missing(std::string_view text);
+
 /// Without spaces; a month or day of one figure gets a zero in front. A text that is not three
 /// parts between two "/" only loses its spaces.
 [[nodiscard]] std::string normalised_check_date(std::string_view text);

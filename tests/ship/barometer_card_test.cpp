@@ -88,6 +88,17 @@ TEST(BarometerDate, IsADayThatExists) {
   for (const auto& row : rows) EXPECT_EQ(is_check_date(row.text, kToday), row.accepted) << row.text;
 }
 
+TEST(BarometerDate, IsMissingWhenBlankOrStillThePlaceholder) {
+  const struct {
+    const char* text;
+    bool missing;
+  } rows[] = {
+      {"", true},           {"  ", true},          {"yyyy/mm/dd", true}, {" yyyy/mm/dd ", true},
+      {"yyyy/mm/d", false}, {"2014/mm/dd", false}, {"//", false},        {"2014/10/01", false},
+  };
+  for (const auto& row : rows) EXPECT_EQ(is_check_date_missing(row.text), row.missing) << row.text;
+}
+
 struct ValueRow {
   CardField field;
   const char* value;
@@ -235,6 +246,8 @@ TEST(BarometerCard, IsCheckedInTheOrderGiven) {
   BarometerCard card;
   EXPECT_EQ(message_of(first_card_fault(card, kToday, order)), id::kCardTypeMissing);
   card.type = CardType::kTotalCorrection;
+  EXPECT_EQ(message_of(first_card_fault(card, kToday, order)), id::kCheckDateMissing);
+  card.check_date = "1999/12/31";
   EXPECT_EQ(message_of(first_card_fault(card, kToday, order)), id::kCheckDateRange);
   card.check_date = "2014/01/01";
   EXPECT_EQ(message_of(first_card_fault(card, kToday, order)), id::kCheckPortMissing);

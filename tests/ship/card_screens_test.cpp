@@ -278,6 +278,23 @@ TEST(CardScreen, LetsAnEmptyFieldGoUntilOk) {
   EXPECT_TRUE(screen.move_focus(screen.ok));
 }
 
+TEST(CardScreen, LetsTheDatesPlaceholderGoUntilOkAsksForTheDate) {
+  for (const char* const shown : {"yyyy/mm/dd", " yyyy/mm/dd", "ｙｙｙｙ／ｍｍ／ｄｄ"}) {
+    fakes::World world;
+    BarometerCard card = card_one();
+    card.check_date = shown;
+    CKataInputDlg screen(world.services, card);
+    screen.open();
+    ASSERT_TRUE(screen.move_focus(screen.barometer_check_date)) << shown;
+    EXPECT_TRUE(screen.move_focus(screen.barometer_check_port)) << shown;
+    world.windows.expect(id::kCheckDateMissing);
+    screen.press(screen.ok);
+    EXPECT_EQ(screen.focused(), &screen.barometer_check_date) << shown;
+    EXPECT_FALSE(screen.result()) << shown;
+    EXPECT_EQ(screen.card(), card) << shown;
+  }
+}
+
 // A new card has zeros everywhere: its first height would be above the other's zero.
 TEST(CardScreen, TakesANewCardInReadingOrder) {
   fakes::World world;

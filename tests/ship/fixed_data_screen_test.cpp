@@ -490,6 +490,8 @@ TEST(FixedDataScreen, ChecksInOrderAtOk) {
       {"call sign placeholder", [](Data& d) { d.call_sign = "*******"; }, id::kCallSignMissing, ""},
       {"call sign of a file", [](Data& d) { d.call_sign = "JC-X"; }, id::kCallSignForm, ""},
       // A card type that was never chosen is only there without a file: see below.
+      {"date never entered", [](Data& d) { d.card.check_date = "yyyy/mm/dd"; },
+       id::kCheckDateMissing, ""},
       {"date of a file", [](Data& d) { d.card.check_date = "2014/11/16"; }, id::kCheckDateRange,
        "2014/11/15"},
       {"port", [](Data& d) { d.card.check_port = ""; }, id::kCheckPortMissing, ""},
