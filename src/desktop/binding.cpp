@@ -283,13 +283,6 @@ class ChoiceBinding : public Binding {
   }
 
  private:
-  // "95   2km<=VV<4km": the code stands in front of what it means.
-  [[nodiscard]] QString with_code(const QStringList& lines, int i) const {
-    const auto& codes = control().item_codes;
-    const auto at = static_cast<std::size_t>(i);
-    return at < codes.size() ? text_of(codes[at]) + "   " + lines[i] : lines[i];
-  }
-
   void relabel(const QStringList& wanted) {
     if (wanted.size() == lines_.size()) {
       for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(wanted[i]);

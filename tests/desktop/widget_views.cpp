@@ -70,12 +70,8 @@ std::vector<ui::ControlView> widget_views(const desktop::ScreenWindow& window) {
     if (control.kind == ui::Kind::kChoice) {
       const auto buttons = binding->widget()->findChildren<QRadioButton*>();
       std::vector<bool> off;
-      for (const QRadioButton* const button : buttons) {
+      for (const QRadioButton* const button : buttons)
         off.push_back(!button->isEnabledTo(binding->widget()));
-        if (!control.item_codes.empty())
-          view.line_codes.push_back(
-              button->text().section(QLatin1String("   "), 0, 0).toStdString());
-      }
       if (std::find(off.begin(), off.end(), true) != off.end()) view.line_disabled = off;
     }
     view.enabled = binding->widget()->isEnabledTo(binding->widget()->parentWidget());
