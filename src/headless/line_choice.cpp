@@ -27,8 +27,9 @@ std::optional<int> index_meant(const ui::Control& control, std::string_view writ
   return index;
 }
 
+// An item's text may begin with a blank, which the words of a command cannot tell from the gap.
 std::string menu_text(const ui::MenuItem& item) {
-  const auto english = text::resolve(item.text, text::Language::kEnglish);
+  const auto english = text::trim(text::resolve(item.text, text::Language::kEnglish));
   std::string plain = ui::without_access_key(english.substr(0, english.find('\t')));
   while (plain.ends_with('.') || plain.ends_with(' ')) plain.pop_back();
   return plain;
@@ -65,7 +66,7 @@ const ui::MenuItem* item_meant(std::span<const ui::MenuItem> items, std::string_
   for (const ui::MenuItem& item : items) {
     const std::string own = menu_text(item);
     if (own.empty()) continue;
-    if (same_word(path, own)) return &item;
+    if (same_word(text::trim(path), own)) return &item;
     if (path.size() > own.size() && path[own.size()] == '/' &&
         same_word(path.substr(0, own.size()), own)) {
       if (const auto* const found = item_meant(item.children, path.substr(own.size() + 1)))

@@ -112,6 +112,8 @@ TEST(Session, PrintsThroughTheSystemsPrintDialog) {
 TEST(Session, RunsAMenuCommandByItsEnglishTexts) {
   EXPECT_EQ(after_start("menu OK/YES\n"), "> menu OK/YES\n    note: \"\" -> \"from the menu\"\n");
   EXPECT_NE(after_start("press japanese\nmenu ok/yes\n").find("from the menu"), std::string::npos);
+  for (const char* const path : {"menu OK/VOSClim\n", "menu OK/ VOSClim\n"})
+    EXPECT_NE(after_start(path).find("behind a blank"), std::string::npos) << path;
 }
 
 TEST(Session, ChoosesALineByIndexOrByText) {

@@ -102,6 +102,9 @@ void CFormDlg::set_up_menu() {
          note.content = printed == platform::PrintResult::kSuccess ? "printed" : "not printed";
        },
        true});
+  // Its text begins with a blank.
+  top.children.push_back(
+      {{text::id::kMenuVosClim, 0}, {}, [this] { note.content = "behind a blank"; }, true});
   set_menu({top});
 }
 
