@@ -64,11 +64,16 @@ void temperature_unit(std::string& line, const Source& source) {
   if (nearly(tenths, 10)) line.push_back('5');
 }
 
-// The last figures of a report group, so that report and logbook cannot differ.
+// The last figures of a report group, so that report and logbook cannot differ. A group of fewer
+// figures (one figure of degrees) is padded as every other column is.
 void end_of_group(std::string& line, const Struct_Weather& record, Group group, std::size_t count) {
   const std::size_t start = line.size();
   append_group(line, record, group);
-  line.erase(start, line.size() - start - count);
+  const std::size_t size = line.size() - start;
+  if (size > count)
+    line.erase(start, size - count);
+  else
+    line.append(count - size, '/');
 }
 
 void latitude(std::string& line, const Source& source) {

@@ -263,6 +263,23 @@ TEST(LogbookLine, PositionIsThatOfTheReport) {
   EXPECT_EQ(columns(line, 16, 19), "0090");
 }
 
+TEST(LogbookLine, PositionKeepsItsColumnsWithTooFewOrTooManyFigures) {
+  struct Row {
+    const char *latitude_degrees, *longitude_degrees;
+    const char* expected;
+  };
+  for (const Row& row : {Row{"35", "165", "3571653"}, Row{"5", "65", "9571653"},
+                         Row{"5", "5", "957153/"}, Row{"135", "1165", "3571653"}}) {
+    Struct_Weather record = full();
+    record.LaDeg = row.latitude_degrees;
+    record.LoDeg = row.longitude_degrees;
+    const std::string line = encode(record);
+    EXPECT_EQ(columns(line, 13, 19), row.expected) << row.longitude_degrees;
+    EXPECT_EQ(columns(line, 20, 24), "04976") << row.longitude_degrees;
+    EXPECT_EQ(line.size(), 172U) << row.longitude_degrees;
+  }
+}
+
 TEST(LogbookLine, DewPointSignTellsHowItWasObserved) {
   struct Row {
     DewPointMethod method;
