@@ -4,8 +4,15 @@
 #include <cstring>
 #include <filesystem>
 #include <iostream>
+#include <string_view>
 
 namespace cli {
+namespace {
+
+/// Editors of other systems put it in front of UTF-8 texts.
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+}  // namespace
 
 Input::Input(const std::string& name) : name_(name), in_(&file_) {
   if (name.empty() || name == "-") {
@@ -28,6 +35,13 @@ Input::Input(const std::string& name) : name_(name), in_(&file_) {
 }
 
 Input::Line Input::next(std::string& line, std::size_t longest) {
+  const Line what = next_bytes(line, longest);
+  if (first_ && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
+  first_ = false;
+  return what;
+}
+
+Input::Line Input::next_bytes(std::string& line, std::size_t longest) {
   using Traits = std::streambuf::traits_type;
   line.clear();
   std::streambuf& buffer = *in_->rdbuf();
@@ -46,6 +60,7 @@ Input::Line Input::next(std::string& line, std::size_t longest) {
 void Input::rewind() {
   in_->clear();
   in_->seekg(start_);
+  first_ = true;
 }
 
 }  // namespace cli

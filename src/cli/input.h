@@ -19,8 +19,8 @@ class Input {
   [[nodiscard]] const std::string& name() const { return name_; }
 
   enum class Line : std::uint8_t { kLine, kTooLong, kEnd, kUnreadable };
-  /// The next line without its line end. Of a line above `longest` bytes only the beginning is
-  /// kept, and the rest is left unread.
+  /// The next line without its line end; the first one without a byte order mark. Of a line above
+  /// `longest` bytes only the beginning is kept, and the rest is left unread.
   [[nodiscard]] Line next(std::string& line, std::size_t longest);
 
   /// True for a file that can be read a second time, so that all of it can be checked before
@@ -29,12 +29,15 @@ class Input {
   void rewind();
 
  private:
+  [[nodiscard]] Line next_bytes(std::string& line, std::size_t longest);
+
   std::string name_;
   std::string problem_;
   std::ifstream file_;
   std::istream* in_;
   std::streampos start_ = 0;
   bool can_rewind_ = false;
+  bool first_ = true;
 };
 
 }  // namespace cli

@@ -89,8 +89,11 @@ class Printer {
     const auto report = observation::read_report(text, fresh);
     if (!report) return;
     if (++reports_ > 1) out_ << "\n";
-    // The group is written only for a ship that computes its dew point from it.
-    if (report->has_wet_bulb) out_ << "ship.dew_point_method=1\n";
+    // The group is written only for a ship that computes its dew point from it; such a line stays
+    // in force, so that the next report without the group takes it back.
+    if (report->has_wet_bulb != dew_point_computed_)
+      out_ << "ship.dew_point_method=" << (report->has_wet_bulb ? 1 : 0) << "\n";
+    dew_point_computed_ = report->has_wet_bulb;
     std::string lines;
     observation::write_observation(lines, report->record, fresh);
     out_ << lines;
@@ -100,6 +103,7 @@ class Printer {
   std::ostream& out_;
   std::string pending_;
   int reports_ = 0;
+  bool dew_point_computed_ = false;  ///< as the lines printed so far have it
 };
 
 }  // namespace

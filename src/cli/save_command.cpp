@@ -1,5 +1,6 @@
 #include <filesystem>
 #include <iostream>
+#include <map>
 
 #include "cli/commands.h"
 #include "cli/observations.h"
@@ -56,12 +57,16 @@ class Saver {
     return std::nullopt;
   }
 
-  [[nodiscard]] std::optional<std::string> check(
-      const observation::ObservationReader& observed) const {
+  [[nodiscard]] std::optional<std::string> check(const observation::ObservationReader& observed) {
     if (!observation::has_valid_date(observed.record()))
       return "Year, Month, YY and GG are no date and hour";
+    if (replace_) return std::nullopt;
     const std::string path = observation::report_path(*reports_, observed.record());
-    if (!replace_ && files_.is_file(path)) return exists(path);
+    const auto [before, is_first] = line_of_report_.try_emplace(path, observed.first_line());
+    if (!is_first && before->second != observed.first_line())
+      return "the observation of line " + std::to_string(before->second) +
+             " has the same report; --replace would replace it";
+    if (files_.is_file(path)) return exists(path);
     return std::nullopt;
   }
 
@@ -126,6 +131,8 @@ class Saver {
   std::optional<std::string> reports_;
   std::optional<std::string> logbook_;
   bool replace_;
+  /// The reports of the input and the line in which the observation of each begins.
+  std::map<std::string, std::size_t> line_of_report_;
 };
 
 }  // namespace

@@ -226,6 +226,47 @@ TEST_F(Cli, ReadPrintsTheFieldsAndNamesTheRest) {
             "# not placed: 70033 (a group without a field)\n");
 }
 
+TEST_F(Cli, EachReportReadHasTheDewPointMethodOfItsOwnGroups) {
+  const std::string wet = "BBXX A 15124 99357 11653 41497 62718 84531 22213 80130 .....";
+  const std::string dry = "BBXX B 15124 99357 11653 41497 62718 84531 22213 .....";
+  const Outcome read = run("read", dry + "\n" + wet + "\n" + wet + "\n" + dry + "\n" + dry);
+  ASSERT_EQ(read.status, 0) << read.error;
+  std::string methods;
+  std::istringstream lines(read.out);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with("ship.dew_point_method=")) methods += line.back();
+    if (line.starts_with("CallSign=")) methods += line.back();
+  }
+  EXPECT_EQ(methods, "B1AA0BB") << read.out;
+  const Outcome again = run("encode", read.out);
+  std::size_t asked_for = 0;
+  for (auto at = again.out.find(" 80130 "); at != std::string::npos;
+       at = again.out.find(" 80130 ", at + 1))
+    ++asked_for;
+  EXPECT_EQ(asked_for, 2U) << again.out;
+  EXPECT_EQ(again.out.find("Group8SnTbTbTb"), std::string::npos) << again.out;
+}
+
+TEST_F(Cli, AByteOrderMarkInFrontOfATextIsPassedOver) {
+  const std::string mark = "\xEF\xBB\xBF";
+  const Outcome marked = run("encode " + file("marked.obs", mark + kObservation));
+  EXPECT_EQ(marked.status, 0) << marked.error;
+  EXPECT_EQ(marked.out, run("encode", kObservation).out);
+  EXPECT_EQ(run("encode", mark + kObservation).out, marked.out) << "through a pipe";
+  EXPECT_EQ(run("read", mark + kReport).out, run("read", kReport).out);
+  EXPECT_EQ(run("encode", kObservation + mark + "VV=97\n").status, 2) << "elsewhere it is an error";
+}
+
+TEST_F(Cli, LineEndsOfOtherSystemsAndAMissingLastOneChangeNothing) {
+  const std::string two = std::string(kObservation) + "\nYY=16\n";
+  const Outcome expected = run("encode", two);
+  ASSERT_EQ(expected.status, 0) << expected.error;
+  std::string returns;
+  for (const char c : two) returns += c == '\n' ? "\r\n" : std::string(1, c);
+  EXPECT_EQ(run("encode", returns).out, expected.out);
+  EXPECT_EQ(run("encode", two.substr(0, two.size() - 1)).out, expected.out);
+}
+
 TEST_F(Cli, ReadShowsControlCharactersByTheirNumber) {
   const Outcome outcome = run("read", "BBXX JXKV 15124 99357 11653 \x1b[2J 東");
   EXPECT_EQ(outcome.status, 0) << outcome.error;
@@ -293,6 +334,29 @@ TEST_F(Cli, ExistingReportIsReplacedOnlyWhenAskedAndTheLogbookGrows) {
   EXPECT_EQ(slurp(folder_ / "logbook" / "immt5.log"), line);
   EXPECT_EQ(run(save + "--replace", kObservation).status, 0);
   EXPECT_EQ(slurp(folder_ / "logbook" / "immt5.log"), line + line);
+}
+
+TEST_F(Cli, TwoObservationsOfOneHourInAFileNeedLeaveToReplace) {
+  const std::string name = file("twice.obs", std::string(kObservation) + "\n" + kObservation);
+  const std::string save = "save --reports reports --logbook logbook ";
+  const Outcome refused = run(save + name);
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_EQ(refused.error,
+            "kavrel-cli: " + name +
+                ":13: the observation of line 1 has the same report; --replace would "
+                "replace it\n");
+  EXPECT_EQ(refused.out, "");
+  EXPECT_TRUE(saved().empty());
+  EXPECT_EQ(run(save + "--replace " + name).status, 0);
+  EXPECT_EQ(slurp(folder_ / "logbook" / "immt5.log").size(), 2 * 173U);
+}
+
+TEST_F(Cli, ReportsAndLogbookMayShareAFolderWithABlankInItsName) {
+  fs::create_directory(folder_ / "sea reports");
+  const Outcome outcome = run("save --reports 'sea reports' --logbook 'sea reports'", kObservation);
+  EXPECT_EQ(outcome.status, 0) << outcome.error;
+  EXPECT_EQ(slurp(folder_ / "sea reports" / "14111512.tlx"), kReport);
+  EXPECT_EQ(slurp(folder_ / "sea reports" / "immt5.log").size(), 173U);
 }
 
 TEST_F(Cli, SaveRefusesWithoutADateAndWithoutAFolder) {
