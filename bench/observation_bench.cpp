@@ -7,10 +7,10 @@
 #include <cstdlib>
 #include <new>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "observation/logbook_encoder.h"
+#include "observation/records.h"
 #include "observation/report_encoder.h"
 #include "observation/report_reader.h"
 
@@ -36,49 +36,24 @@ KAVREL_OUT_OF_LINE void operator delete(void* block, std::size_t) noexcept {
 
 namespace {
 
-using Setting = std::pair<const char*, const char*>;
-
+/// The ship of the records, computing its dew point, so that every group is written.
 ShipFixedData ship() {
-  ShipFixedData ship;
-  ship.call_sign = "JXKV";
-  ship.imo_number = "9074729";
+  ShipFixedData ship = records::ship();
   ship.dew_point_method = DewPointMethod::kComputed;
   return ship;
 }
 
-Struct_Weather with(std::initializer_list<Setting> settings) {
-  Struct_Weather record(ship(), {});
-  for (const auto& [name, value] : settings) record.*find_weather_field(name)->member = value;
-  return record;
-}
-
-Struct_Weather full() {
-  return with({{"Year", "2014"}, {"Month", "11"},   {"YY", "15"},      {"GG", "12"},
-               {"Qc", "1"},      {"LaDeg", "35"},   {"LaMin", "42"},   {"LoDeg", "165"},
-               {"LoMin", "18"},  {"h", "4"},        {"VV", "97"},      {"N", "6"},
-               {"dd", "27"},     {"ff", "99"},      {"fff", "105"},    {"SnT", "0"},
-               {"TTT", "152"},   {"SnTd", "0"},     {"TdTdTd", "108"}, {"PPPP", "0132"},
-               {"a", "2"},       {"ppp", "014"},    {"ww", "15"},      {"W1", "8"},
-               {"W2", "2"},      {"Nh", "4"},       {"CL", "5"},       {"CM", "3"},
-               {"CH", "1"},      {"gg", "50"},      {"GGExact", "11"}, {"Ds", "2"},
-               {"Vs", "3"},      {"Ss", "0"},       {"TwTwTw", "178"}, {"PwaPwa", "07"},
-               {"HwaHwa", "06"}, {"PwPw", "06"},    {"HwHw", "04"},    {"dw1dw1", "25"},
-               {"dw2dw2", "31"}, {"Pw1Pw1", "09"},  {"Hw1Hw1", "05"},  {"Pw2Pw2", "11"},
-               {"Hw2Hw2", "03"}, {"Is", "1"},       {"EsEs", "02"},    {"Rs", "3"},
-               {"Sw", "0"},      {"TbTbTb", "130"}, {"ci", "1"},       {"Si", "2"},
-               {"bi", "3"},      {"Di", "4"},       {"zi", "5"},       {"LogExtra", "0530"}});
-}
-
+/// Date, hour and position alone.
 Struct_Weather sparse() {
-  return with({{"Year", "2014"},
-               {"Month", "11"},
-               {"YY", "15"},
-               {"GG", "12"},
-               {"Qc", "1"},
-               {"LaDeg", "35"},
-               {"LaMin", "42"},
-               {"LoDeg", "165"},
-               {"LoMin", "18"}});
+  return records::with({{"Year", "2014"},
+                        {"Month", "11"},
+                        {"YY", "15"},
+                        {"GG", "12"},
+                        {"Qc", "1"},
+                        {"LaDeg", "35"},
+                        {"LaMin", "42"},
+                        {"LoDeg", "165"},
+                        {"LoMin", "18"}});
 }
 
 struct Products {
@@ -174,10 +149,10 @@ void floor_of(benchmark::State& state, const Struct_Weather& record) {
 }
 
 void FullProductsFloor(benchmark::State& state) {
-  floor_of(state, full());
+  floor_of(state, records::full());
 }
 void FullProducts(benchmark::State& state) {
-  products_of(state, full());
+  products_of(state, records::full());
 }
 void SparseProductsFloor(benchmark::State& state) {
   floor_of(state, sparse());
@@ -189,7 +164,7 @@ void SparseProducts(benchmark::State& state) {
 /// A new record and its fields copied from one that holds them.
 void ReadingFloor(benchmark::State& state) {
   const Struct_Weather fresh({}, {});
-  const Struct_Weather ready = full();
+  const Struct_Weather ready = records::full();
   const Allocations count(state);
   for (auto _ : state) {
     Struct_Weather record = fresh;
@@ -201,7 +176,7 @@ void ReadingFloor(benchmark::State& state) {
 
 void Reading(benchmark::State& state) {
   Products products;
-  encode(full(), products);
+  encode(records::full(), products);
   const Struct_Weather fresh({}, {});
   const Allocations count(state);
   for (auto _ : state) {

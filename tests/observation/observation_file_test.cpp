@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <set>
+
 #include "observation/ship_values.h"
 #include "records.h"
 
@@ -159,6 +162,24 @@ struct ShipRow {
   const char *name, *value;
   bool (*holds)(const ShipFixedData& ship);
 };
+
+TEST(ObservationFile, ThePageOnItNamesEveryFieldAndGivesValuesThatAreTaken) {
+  std::ifstream in(std::string(KAVREL_SOURCE) + "/docs/observation-files.md");
+  std::string page;
+  std::set<std::string> ship_and_items;
+  ObservationReader reader;
+  for (std::string line; std::getline(in, line);) {
+    page += line + "\n";
+    if (!line.starts_with("    ")) continue;
+    EXPECT_EQ(reader.take(line), Step::kMore) << line;
+    if (line.find('#') == std::string::npos)
+      ship_and_items.insert(line.substr(4, line.find('=') - 4));
+  }
+  constexpr std::size_t kShipNames = 25;
+  EXPECT_EQ(ship_and_items.size(), kShipNames + kObservationItems);
+  for (const WeatherField& field : weather_fields())
+    EXPECT_NE(page.find("`" + std::string(field.name) + "`"), std::string::npos) << field.name;
+}
 
 TEST(ShipValues, EveryNameSetsItsItem) {
   using Ship = ShipFixedData;
