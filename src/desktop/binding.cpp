@@ -38,7 +38,13 @@ int width_for(const QWidget& widget, int characters) {
          widget.fontMetrics().height();
 }
 
-constexpr int kWideField = 16;    // characters; longer fields grow with the window
+// No wider than so many characters; what room is left goes behind the field, not around it.
+void keep_to(QWidget& widget, int characters) {
+  widget.setMaximumWidth(width_for(widget, characters));
+  widget.setSizePolicy(QSizePolicy::Preferred, widget.sizePolicy().verticalPolicy());
+}
+
+constexpr int kWideField = 24;    // characters; longer fields grow with the window
 constexpr int kDefaultField = 8;  // where no largest length is given
 
 class LineBinding : public Binding {
@@ -47,8 +53,7 @@ class LineBinding : public Binding {
       : Binding(s, c, std::move(refresh)), edit_(new QLineEdit(parent)) {
     const int characters = c.max_length > 0 ? c.max_length : kDefaultField;
     edit_->setMinimumWidth(width_for(*edit_, std::min(characters, kWideField)));
-    if (c.max_length > 0 && characters <= kWideField)
-      edit_->setMaximumWidth(width_for(*edit_, characters + 1));
+    if (c.max_length > 0 && characters <= kWideField) keep_to(*edit_, characters + 1);
     connect(edit_, &QLineEdit::textEdited, this, [this](const QString& typed) {
       tell([&] { screen().type(control(), typed.toStdString()); });
     });
@@ -70,7 +75,16 @@ class LineBinding : public Binding {
       edit_->setMaxLength(control().max_length);
     }
     const QString wanted = text_of(control().content);
-    if (edit_->text() != wanted) edit_->setText(wanted);
+    if (edit_->text() != wanted) {
+      edit_->setText(wanted);
+      // A long text that nobody is typing shows its beginning.
+      if (!edit_->hasFocus()) edit_->setCursorPosition(0);
+      if (control().max_length == 0) {
+        const int characters = static_cast<int>(wanted.size());
+        edit_->setMinimumWidth(
+            width_for(*edit_, std::clamp(characters + 1, kDefaultField, kWideField)));
+      }
+    }
     if (edit_->isReadOnly() != control().read_only) edit_->setReadOnly(control().read_only);
   }
 
@@ -85,8 +99,7 @@ class ReadOnlyBinding : public Binding {
       : Binding(s, c, std::move(refresh)), edit_(new QLineEdit(parent)) {
     edit_->setReadOnly(true);
     edit_->setFocusPolicy(Qt::NoFocus);
-    edit_->setProperty("shown", true);
-    if (c.max_length > 0) edit_->setMaximumWidth(width_for(*edit_, c.max_length + 1));
+    if (c.max_length > 0) keep_to(*edit_, c.max_length + 1);
   }
   [[nodiscard]] QWidget* widget() const override { return edit_; }
   [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
@@ -200,11 +213,30 @@ class ComboBinding : public Binding {
   QStringList lines_;
 };
 
+// A list as high as its lines, within reason; an empty one still looks like a list.
+class ShortList : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+  [[nodiscard]] QSize sizeHint() const override {
+    constexpr int kFewest = 4;
+    constexpr int kMost = 14;
+    const int line = count() > 0 ? sizeHintForRow(0) : fontMetrics().lineSpacing();
+    return {sizeHintForColumn(0) + fontMetrics().height() * 2,
+            line * std::clamp(count(), kFewest, kMost) + line / 2};
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    constexpr int kWidest = 900;
+    return {std::min(sizeHint().width(), kWidest), sizeHint().height()};
+  }
+};
+
 class ListBinding : public Binding {
  public:
   ListBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), list_(new QListWidget(parent)) {
+      : Binding(s, c, std::move(refresh)), list_(new ShortList(parent)) {
     list_->setUniformItemSizes(true);
+    // Item by item, the list would count its last line as hidden and show a scroll bar for it.
+    list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(list_, &QListWidget::itemSelectionChanged, this,
             [this] { tell([&] { screen().choose(control(), list_->currentRow()); }); });
     connect(list_, &QListWidget::itemDoubleClicked, this,
@@ -230,10 +262,7 @@ class ListBinding : public Binding {
         slanted.setItalic(true);
         list_->item(i)->setFont(slanted);
       }
-      const int rows = std::clamp(static_cast<int>(lines_.size()), 3, 12);
-      list_->setMinimumHeight(list_->fontMetrics().lineSpacing() * (rows + 1));
-      list_->setMinimumWidth(
-          std::min(list_->sizeHintForColumn(0) + list_->fontMetrics().height() * 2, 900));
+      list_->updateGeometry();
     }
     if (list_->currentRow() != control().selected) {
       list_->setCurrentRow(control().selected);
@@ -242,7 +271,7 @@ class ListBinding : public Binding {
   }
 
  private:
-  QListWidget* list_;
+  ShortList* list_;
   QStringList lines_;
 };
 
@@ -317,6 +346,7 @@ class ChoiceBinding : public Binding {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(side_by_side ? 10 : 2);
     for (int i = 0; i < lines_.size(); ++i) layout->addWidget(add_button(i));
+    if (side_by_side) layout->addStretch();
   }
 
   // The codes line up in a column of their own.
@@ -459,30 +489,37 @@ class TreeBinding : public Binding {
   }
 
  private:
+  // The branches grow before they are hung into the tree, which looks at each item that comes.
   void fill() {
     tree_->clear();
     items_.clear();
+    QFont slanted = tree_->font();
+    slanted.setItalic(true);
+    QList<QTreeWidgetItem*> roots;
     std::vector<QTreeWidgetItem*> parents;
     for (std::size_t i = 0; i < rows_.size(); ++i) {
       const ui::TreeRow& row = rows_[i];
       const auto depth = static_cast<std::size_t>(std::max(row.depth, 0));
       parents.resize(std::min(parents.size(), depth));
-      auto* const item =
-          parents.empty() ? new QTreeWidgetItem(tree_) : new QTreeWidgetItem(parents.back());
+      auto* const item = new QTreeWidgetItem;
       item->setText(0, text_of(row.text));
       item->setData(0, Qt::UserRole, static_cast<int>(i));
       item->setChildIndicatorPolicy(row.can_expand ? QTreeWidgetItem::ShowIndicator
                                                    : QTreeWidgetItem::DontShowIndicator);
-      if (row.marked) {
-        QFont slanted = tree_->font();
-        slanted.setItalic(true);
-        item->setFont(0, slanted);
+      if (row.marked) item->setFont(0, slanted);
+      if (parents.empty()) {
+        roots << item;
+      } else {
+        parents.back()->addChild(item);
       }
       parents.push_back(item);
       items_.push_back(item);
     }
+    tree_->addTopLevelItems(roots);
     // Only an item that has its children can be opened.
-    for (std::size_t i = 0; i < rows_.size(); ++i) items_[i]->setExpanded(rows_[i].expanded);
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+      if (rows_[i].expanded) items_[i]->setExpanded(true);
+    }
   }
 
   QTreeWidget* tree_;

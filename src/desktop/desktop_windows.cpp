@@ -10,6 +10,7 @@
 #include <clocale>
 
 #include "desktop/screen_window.h"
+#include "desktop/style.h"
 
 namespace desktop {
 namespace {
@@ -18,26 +19,12 @@ QString text_of(const std::string& utf8) {
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-// The focus must be seen from two metres away, in light and dark themes alike.
-constexpr const char* kStyle = R"(
-  QLineEdit:focus, QComboBox:focus, QListWidget:focus, QTreeWidget:focus, QPlainTextEdit:focus {
-    border: 2px solid palette(highlight);
-  }
-  QPushButton:focus { border: 2px solid palette(highlight); border-radius: 3px; padding: 3px 14px; }
-  QRadioButton:focus, QCheckBox:focus { background: palette(highlight); color: palette(highlighted-text); }
-  QLineEdit[shown="true"] { background: palette(window); }
-  QLineEdit[mark="missing"], QComboBox[mark="missing"] { background: #fff4cc; color: black; }
-  QLineEdit[mark="wrong"], QComboBox[mark="wrong"] { border: 2px solid #c00000; }
-  QLabel[title="true"] { font-weight: bold; }
-  QLabel[clickable="true"] { color: palette(link); }
-)";
-
 }  // namespace
 
 void prepare_application() {
   // QApplication sets the process locale; a decimal comma in a report is a wrong report.
   std::setlocale(LC_NUMERIC, "C");
-  qApp->setStyleSheet(QString::fromLatin1(kStyle));
+  qApp->setStyleSheet(style_sheet(QApplication::palette()));
 }
 
 DesktopWindows::DesktopWindows(PathMap paths) : paths_(std::move(paths)) {}

@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
@@ -87,11 +88,11 @@ void ScreenWindow::build() {
   auto* const outer = new QVBoxLayout(this);
   outer->setContentsMargins(0, 0, 0, 0);
   outer->setSpacing(0);
-  auto* const scroll = new QScrollArea(this);
-  scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);
-  content_ = new QWidget(scroll);
+  scroll_ = new QScrollArea(this);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  content_ = new QWidget(scroll_);
   for (ui::Control* const control : screen_.controls()) {
     bindings_.push_back(make_binding(screen_, *control, content_, [this] { refresh(); }));
   }
@@ -109,12 +110,12 @@ void ScreenWindow::build() {
     if (binding->widget()->property("placed").toBool()) continue;
     column->addWidget(binding->widget());
   }
-  scroll->setWidget(content_);
+  scroll_->setWidget(content_);
   if (!screen_.menu().empty()) {
     menu_bar_ = new QMenuBar(this);
     outer->setMenuBar(menu_bar_);
   }
-  outer->addWidget(scroll);
+  outer->addWidget(scroll_);
   set_tab_order();
   built_ = true;
 }
@@ -344,8 +345,14 @@ void ScreenWindow::apply_focus() {
   if (target == nullptr || target->focus_widget() == nullptr) return;
   target->focus_widget()->setFocus(Qt::OtherFocusReason);
   target->select(screen_.selection_length());
-  if (auto* const scroll = findChild<QScrollArea*>())
-    scroll->ensureWidgetVisible(target->widget(), 20, 20);
+  bring_into_view(*target);
+}
+
+// With its title or caption, which is above or to the left.
+void ScreenWindow::bring_into_view(const Binding& target) {
+  constexpr int kRight = 40;
+  const QSize around(kRight, target.widget()->height() * 3);
+  scroll_->ensureWidgetVisible(target.widget(), around.width(), around.height());
 }
 
 void ScreenWindow::settle_focus() {
@@ -360,6 +367,11 @@ void ScreenWindow::settle_focus() {
 }
 
 bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
+  // A list got more lines, a text a second line: asked once all of this event has been laid out.
+  if (watched == content_ && event->type() == QEvent::LayoutRequest) {
+    QMetaObject::invokeMethod(
+        this, [this] { grow_to_content(); }, Qt::QueuedConnection);
+  }
   if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
   const auto* const widget = qobject_cast<QWidget*>(watched);
   if (widget == nullptr || widget->window() != this) return QDialog::eventFilter(watched, event);
@@ -409,12 +421,29 @@ void settle_layouts(QWidget& content) {
 
 }  // namespace
 
+// All of the content, as far as the screen has room. Where one direction is cut, the scroll bar
+// that this takes must not cut the other.
+QSize ScreenWindow::fitting_size() const {
+  constexpr int kTitleBar = 32;
+  const QSize room = screen()->availableGeometry().size() - QSize(0, kTitleBar);
+  const int menu = menu_bar_ == nullptr ? 0 : menu_bar_->sizeHint().height();
+  QSize wanted = content_->sizeHint() + QSize(2, menu + 2);
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const bool wide = wanted.width() > room.width();
+  const bool high = wanted.height() > room.height();
+  if (wide && !high) wanted.rheight() += bar;
+  if (high && !wide) wanted.rwidth() += bar;
+  return wanted.boundedTo(room);
+}
+
 void ScreenWindow::fit_to_screen() {
   settle_layouts(*content_);
-  const QRect room = screen()->availableGeometry();
-  const int bar = menu_bar_ == nullptr ? 0 : menu_bar_->sizeHint().height();
-  const QSize wanted = content_->sizeHint() + QSize(2, bar + 2);
-  resize(wanted.boundedTo(QSize(room.width(), room.height() - 32)));
+  resize(fitting_size());
+}
+
+void ScreenWindow::grow_to_content() {
+  const QSize wanted = size().expandedTo(fitting_size());
+  if (wanted != size()) resize(wanted);
 }
 
 }  // namespace desktop

@@ -11,6 +11,7 @@
 
 class QBoxLayout;
 class QMenuBar;
+class QScrollArea;
 
 namespace desktop {
 
@@ -45,10 +46,15 @@ class ScreenWindow : public QDialog {
   void show_menu();
   void apply_focus();
   void settle_focus();
+  [[nodiscard]] QSize fitting_size() const;
   void fit_to_screen();
+  /// A window never shrinks under the person's hands.
+  void grow_to_content();
+  void bring_into_view(const Binding& target);
 
   ui::Screen& screen_;
   std::vector<std::unique_ptr<Binding>> bindings_;
+  QScrollArea* scroll_ = nullptr;
   QWidget* content_ = nullptr;
   QMenuBar* menu_bar_ = nullptr;
   unsigned focus_serial_ = 0;
