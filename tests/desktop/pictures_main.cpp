@@ -1,5 +1,6 @@
 // Takes a picture of every screen: pictures FOLDER LANGUAGE PERCENT writes
-// CLASS-LANGUAGE[-PERCENT].png.
+// CLASS-LANGUAGE[-PERCENT].png, and observation-LANGUAGE[-PERCENT].png: the main window with a
+// complete observation.
 
 #include <QApplication>
 #include <QFont>
@@ -11,6 +12,31 @@
 #include "desktop/screen_window.h"
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
+#include "fakes/sample_observation.h"
+
+namespace {
+
+struct World : fakes::World {
+  explicit World(const std::string& language_name) {
+    if (language_name != "ja") return;
+    japanese();
+    locale.id = 0x0411;
+  }
+};
+
+bool take(ui::Screen& screen, const std::string& name) {
+  desktop::ScreenWindow window(screen, nullptr);
+  window.show();
+  // No window manager gives the focus on a picture's screen.
+  QApplication::setActiveWindow(&window);
+  QApplication::processEvents();
+  std::printf("%s %dx%d\n", name.c_str(), window.width(), window.height());
+  if (window.grab().save(QString::fromStdString(name))) return true;
+  std::fprintf(stderr, "cannot write %s\n", name.c_str());
+  return false;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
@@ -25,25 +51,17 @@ int main(int argc, char** argv) {
   QFont font = QApplication::font();
   font.setPointSizeF(font.pointSizeF() * percent / 100);
   QApplication::setFont(font);
+  const std::string ending =
+      "-" + language + (percent == 100 ? "" : "-" + std::to_string(percent)) + ".png";
   for (const fakes::ScreenCase& row : fakes::all_screens()) {
-    fakes::World world;
-    if (language == "ja") {
-      world.japanese();
-      world.locale.id = 0x0411;
-    }
+    World world(language);
     const auto screen = row.make(world.services);
     screen->open();
-    desktop::ScreenWindow window(*screen, nullptr);
-    window.show();
-    QApplication::processEvents();
-    std::string name = folder + "/" + std::string(row.class_name) + "-" + language;
-    if (percent != 100) name += "-" + std::to_string(percent);
-    name += ".png";
-    if (!window.grab().save(QString::fromStdString(name))) {
-      std::fprintf(stderr, "cannot write %s\n", name.c_str());
-      return 1;
-    }
-    std::printf("%s %dx%d\n", name.c_str(), window.width(), window.height());
+    if (!take(*screen, folder + "/" + std::string(row.class_name) + ending)) return 1;
   }
-  return 0;
+  World world(language);
+  fakes::SampleMainWindow entered(world.services);
+  entered.open();
+  const bool complete = fakes::enter_sample(entered);
+  return complete && take(entered, folder + "/observation" + ending) ? 0 : 1;
 }
