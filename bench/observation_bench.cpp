@@ -3,36 +3,14 @@
 
 #include <benchmark/benchmark.h>
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
 #include <string>
 #include <vector>
 
+#include "observation/counted_allocations.h"
 #include "observation/logbook_encoder.h"
 #include "observation/records.h"
 #include "observation/report_encoder.h"
 #include "observation/report_reader.h"
-
-namespace {
-
-std::atomic<std::size_t> allocations{0};
-
-}  // namespace
-
-// Not inlined: the compiler would take the pair of them apart and warn of the halves.
-#define KAVREL_OUT_OF_LINE __attribute__((noinline))
-KAVREL_OUT_OF_LINE void* operator new(std::size_t size) {
-  allocations.fetch_add(1, std::memory_order_relaxed);
-  if (void* block = std::malloc(size)) return block;
-  throw std::bad_alloc();
-}
-KAVREL_OUT_OF_LINE void operator delete(void* block) noexcept {
-  std::free(block);
-}
-KAVREL_OUT_OF_LINE void operator delete(void* block, std::size_t) noexcept {
-  std::free(block);
-}
 
 namespace {
 

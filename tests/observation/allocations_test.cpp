@@ -1,36 +1,12 @@
-// An encoder asks for memory once for each text that it gives back, and for nothing else. Not under
-// the address sanitizer, which brings its own operator new.
+// An encoder asks for memory once for each text that it gives back, and for nothing else.
 #ifndef __SANITIZE_ADDRESS__
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
+#include "counted_allocations.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
 #include "records.h"
-
-namespace {
-
-std::atomic<std::size_t> allocations{0};
-
-}  // namespace
-
-// Not inlined: the compiler would take the pair of them apart and warn of the halves.
-#define KAVREL_OUT_OF_LINE __attribute__((noinline))
-KAVREL_OUT_OF_LINE void* operator new(std::size_t size) {
-  allocations.fetch_add(1, std::memory_order_relaxed);
-  if (void* block = std::malloc(size)) return block;
-  throw std::bad_alloc();
-}
-KAVREL_OUT_OF_LINE void operator delete(void* block) noexcept {
-  std::free(block);
-}
-KAVREL_OUT_OF_LINE void operator delete(void* block, std::size_t) noexcept {
-  std::free(block);
-}
 
 namespace {
 

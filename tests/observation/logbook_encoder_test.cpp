@@ -22,59 +22,49 @@ std::string columns(const std::string& line, std::size_t first, std::size_t last
   return line.substr(first - 1, last - first + 1);
 }
 
-TEST(LogbookWriters, LeftPadsOnTheRightAndBlanksWhatIsTooLong) {
-  struct Row {
-    const char* text;
-    std::size_t width;
-    const char *plain, *flagged;
-  };
-  for (const Row& row :
-       {Row{"", 3, "   ", "///"}, Row{"5", 2, "5 ", "5/"}, Row{"152", 3, "152", "152"},
-        Row{"1 2", 4, "1 2 ", "1/2/"}, Row{"1234", 3, "   ", "   "}}) {
+/// What a writer makes of a text, without and with its flag, behind a line begun.
+struct WriterRow {
+  const char* text;
+  std::size_t width;
+  const char *plain, *flagged;
+};
+
+void expect_written(void (*write)(std::string&, std::string_view, std::size_t, bool),
+                    std::initializer_list<WriterRow> rows) {
+  for (const WriterRow& row : rows) {
     std::string plain = "|";
     std::string flagged = "|";
-    observation::write_left(plain, row.text, row.width, false);
-    observation::write_left(flagged, row.text, row.width, true);
+    write(plain, row.text, row.width, false);
+    write(flagged, row.text, row.width, true);
     EXPECT_EQ(plain, "|" + std::string(row.plain)) << row.text;
     EXPECT_EQ(flagged, "|" + std::string(row.flagged)) << row.text;
   }
 }
 
+TEST(LogbookWriters, LeftPadsOnTheRightAndBlanksWhatIsTooLong) {
+  expect_written(observation::write_left, {{"", 3, "   ", "///"},
+                                           {"5", 2, "5 ", "5/"},
+                                           {"152", 3, "152", "152"},
+                                           {"1 2", 4, "1 2 ", "1/2/"},
+                                           {"1234", 3, "   ", "   "}});
+}
+
 TEST(LogbookWriters, ZeroPadsOnTheLeftAndBlanksEmptyAndTooLong) {
-  struct Row {
-    const char* text;
-    std::size_t width;
-    const char *plain, *flagged;
-  };
-  for (const Row& row :
-       {Row{"", 3, "   ", "   "}, Row{"7", 2, "07", "07"}, Row{"1234", 3, "   ", "   "},
-        Row{"1 2", 4, "01 2", "01/2"}, Row{"085", 3, "085", "085"}}) {
-    std::string plain;
-    std::string flagged;
-    observation::write_zero(plain, row.text, row.width, false);
-    observation::write_zero(flagged, row.text, row.width, true);
-    EXPECT_EQ(plain, row.plain) << row.text;
-    EXPECT_EQ(flagged, row.flagged) << row.text;
-  }
+  expect_written(observation::write_zero, {{"", 3, "   ", "   "},
+                                           {"7", 2, "07", "07"},
+                                           {"1234", 3, "   ", "   "},
+                                           {"1 2", 4, "01 2", "01/2"},
+                                           {"085", 3, "085", "085"}});
 }
 
 TEST(LogbookWriters, IntegerTakesTheTextUpToItsFirstPoint) {
-  struct Row {
-    const char* text;
-    std::size_t width;
-    const char *plain, *flagged;
-  };
-  for (const Row& row :
-       {Row{"12.5", 3, "012", "012"}, Row{"12", 3, "012", "012"}, Row{"1.2.3", 3, "001", "001"},
-        Row{"", 3, "   ", "   "}, Row{".5", 3, "   ", "   "}, Row{"1234.5", 3, "   ", "   "},
-        Row{"1 2.5", 4, "01 2", "0102"}}) {
-    std::string plain;
-    std::string flagged;
-    observation::write_integer(plain, row.text, row.width, false);
-    observation::write_integer(flagged, row.text, row.width, true);
-    EXPECT_EQ(plain, row.plain) << row.text;
-    EXPECT_EQ(flagged, row.flagged) << row.text;
-  }
+  expect_written(observation::write_integer, {{"12.5", 3, "012", "012"},
+                                              {"12", 3, "012", "012"},
+                                              {"1.2.3", 3, "001", "001"},
+                                              {"", 3, "   ", "   "},
+                                              {".5", 3, "   ", "   "},
+                                              {"1234.5", 3, "   ", "   "},
+                                              {"1 2.5", 4, "01 2", "0102"}});
 }
 
 // One line per column of the format: what a fresh record, the full record and a record whose field
