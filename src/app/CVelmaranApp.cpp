@@ -87,7 +87,9 @@ void CVelmaranApp::ask_key_items() {
 
 void CVelmaranApp::show_main_window() {
   const auto save_ship = [this] {
-    (void)save_fixed_data(services_.files, settings_.folders.fixed_data, ship_, services_.clock);
+    const std::string& path = settings_.folders.fixed_data;
+    if (save_fixed_data(services_.files, path, ship_, services_.clock) != FileError::kNone)
+      messages_.error_filled(text::id::kShipFileNotSaved, {path});
   };
   dialogs_.main_window(
       services_, {ship_, items_, settings_.folders, save_ship, {}, [this] { keep_folders(); }});

@@ -330,6 +330,18 @@ TEST_F(StartUp, MainWindowSavesShipDataAndFoldersThroughTheApplication) {
   EXPECT_EQ(live(), ini("ENG", "C:\\tlx\\", "C:\\log\\") + "TLXC=A:\\copies\\\nFD=\n");
 }
 
+TEST_F(StartUp, OfficerIsToldWhenTheMainWindowCannotSaveTheShipData) {
+  settle();
+  files.add_file(kFixed, "x");
+  in_main_window = [&](ui::Services&, const mainwindow::MainWindowContext& context) {
+    files.fail_path(kFixed, FileError::kAccessDenied);
+    world.windows.expect_text("The file C:\\kavrel\\file\\FIXDATA.DAT can not be saved.");
+    context.save_fixed_data();
+  };
+  EXPECT_EQ(run(), 0);
+  EXPECT_EQ(files.content(kFixed), "x");
+}
+
 // ---- Shut-down
 
 TEST_F(StartUp, OfficerIsToldWhenTheSettingsCannotBeWrittenAtExit) {
