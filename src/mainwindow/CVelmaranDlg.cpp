@@ -52,6 +52,7 @@ void CVelmaranDlg::on_open() {
   find_last_position();
   show_menu();
   refresh();
+  tab_flags_.arm();  // the first field gets the focus without being entered
 }
 
 void CVelmaranDlg::show_menu() {
@@ -71,7 +72,10 @@ void CVelmaranDlg::label_clicked(const mainwindow::LabelRow& row) {
 }
 
 void CVelmaranDlg::focus_behind(const ui::Control* last) {
-  if (ui::Control* const next = neighbour(last, true)) focus(*next);
+  ui::Control* const next = neighbour(last, true);
+  if (next == nullptr) return;
+  focus(*next);
+  tab_flags_.arm();
 }
 
 const ui::Control* CVelmaranDlg::last_field_of(int element) const {

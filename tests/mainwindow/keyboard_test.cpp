@@ -109,6 +109,28 @@ TEST(TabFlags, TellWhichWayTabLeftTheField) {
   EXPECT_EQ(0, idle.second);
 }
 
+TEST(TabFlags, WaitForTheNextTabWhereverTheFocusCameFrom) {
+  const auto opened = std::make_unique<Opened>();
+  const auto waiting = [&] {
+    return opened->window.tab_flags().first == 1 && opened->window.tab_flags().second == 1;
+  };
+  EXPECT_TRUE(waiting());  // the first field of a window that has just opened
+  opened->window.key(Key::kTab);
+  EXPECT_TRUE(waiting());  // the field that Tab went to
+  opened->control("Month").on_leave = [&] {
+    EXPECT_EQ(3, opened->window.tab_flags().first);
+    return false;
+  };
+  opened->window.key(Key::kTab);
+  EXPECT_FALSE(waiting());  // Tab was refused
+  opened->control("Month").on_leave = nullptr;
+  opened->world.windows.expect_screen("CDvDsDlg",
+                                      [](ui::Screen& screen) { screen.press(*screen.find("ok")); });
+  opened->press("label_ship_speed");
+  EXPECT_EQ("loading_state", opened->window.focused()->name);
+  EXPECT_TRUE(waiting());  // the field behind a dialog's element
+}
+
 TEST(TabFlags, AreSetBeforeTheFieldLeftIsChecked) {
   const auto opened = std::make_unique<Opened>();
   ASSERT_TRUE(opened->window.move_focus(opened->control("VV")));

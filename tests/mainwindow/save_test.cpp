@@ -101,6 +101,25 @@ TEST(ExitAndSave, StaysOpenWhenTheSaveIsGivenUp) {
   }
 }
 
+TEST(ExitAndSave, IsUnderWayUntilItsLastQuestionIsAnswered) {
+  const auto opened = std::make_unique<Opened>();
+  enter_date(*opened);
+  opened->world.windows.expect(id::kAskSaveOnExit, "yes");
+  opened->world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+    EXPECT_TRUE(opened->window.exiting());
+    EXPECT_TRUE(opened->window.command_in_progress());
+    // What the windowing system may still send does nothing now.
+    opened->window.close_box();
+    opened->window.run({0, 0, mainwindow::Command::kVersion, {}});
+    EXPECT_EQ(1U, opened->world.windows.boxes.size());
+    screen.press(*screen.find("correct"));
+  });
+  opened->menu("File/Exit");
+  EXPECT_FALSE(opened->window.exiting());
+  EXPECT_FALSE(opened->window.command_in_progress());
+  EXPECT_FALSE(opened->window.result().has_value());
+}
+
 TEST(ExitAndSave, StaysOpenWhenTheSaveFails) {
   const auto opened = std::make_unique<Opened>();
   enter_date(*opened);
