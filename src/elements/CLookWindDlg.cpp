@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "elements/field_editors.h"
 #include "elements/wind_fields.h"
 #include "text/ids.h"
 #include "text/numbers.h"
@@ -77,16 +78,17 @@ bool CLookWindDlg::check(const DegreesField& row) {
 bool CLookWindDlg::check(const SpeedField& row) {
   ui::Edit& field = this->*row.field;
   if (text::trim(field.content).empty()) return true;
-  if (!elements::is_speed(field.content)) {
+  const auto number = elements::strict_number(text::trim(field.content));
+  if (!number) {
     services().messages.error(id::kNotANumber);
     return false;
   }
-  const double knots = text::leading_number(field.content);
-  if (knots > row.largest) {
+  const double knots = *number;
+  if (knots < 0.0 || knots > row.largest) {
     services().messages.error(id::kInputError);
     return false;
   }
-  field.set(text::format_fixed(knots, 1, row.width));
+  field.set(text::format_fixed(knots + 0.0, 1, row.width));  // "-0" is 0
   recompute();
   return true;
 }

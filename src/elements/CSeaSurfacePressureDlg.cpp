@@ -152,7 +152,8 @@ bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, int message)
 }
 
 bool CSeaSurfacePressureDlg::check_time(ui::Control& field, int largest) {
-  if (field.content.empty()) return true;
+  // OK asks for a time that is missing, blanks included.
+  if (text::trim(field.content).empty()) return true;
   if (!text::is_all_digits(field.content) || text::leading_int(field.content) > largest) {
     services().messages.error(id::kInvalidValue);
     return false;

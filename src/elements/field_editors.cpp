@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "text/ids.h"
 #include "text/numbers.h"
@@ -123,7 +124,9 @@ Checked check_number(const EditorRow& row, std::string_view text, Bounds bounds)
   const auto value = strict_number(text);
   if (!value || *value < bounds.low || *value > bounds.high) return {};
   const bool asks = row.warning != 0 && *value > row.warn_from;
-  return {asks ? Verdict::kAsks : Verdict::kAccepted, text::format_fixed(*value, row.decimals)};
+  // "-0" has a sign only where there are values below zero.
+  const double kept = bounds.low < 0 ? *value : std::fabs(*value);
+  return {asks ? Verdict::kAsks : Verdict::kAccepted, text::format_fixed(kept, row.decimals)};
 }
 
 }  // namespace

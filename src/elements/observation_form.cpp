@@ -73,18 +73,34 @@ void ObservationForm::type(Field field, std::string_view text) {
   typed_[at(field)] = true;
 }
 
-void ObservationForm::put(Field field, std::string_view text) {
-  const Struct_Weather before = record_;
-  error_[at(field)] = false;
+void ObservationForm::store_put(Field field, std::string_view text) {
+  const std::string earlier = entered(field);
   if (text::trim(text).empty()) {
     clear(field);
   } else {
     slot(field) = text;
     store(field, slot(field));
+    // A speed loses its decimals, as it does when it is typed.
+    if (field == Field::kff) slot(field) = shown(field, record_);
   }
-  typed_[at(field)] = false;
+  typed_[at(field)] = error_[at(field)] = false;
+  modified_ = modified_ || slot(field) != earlier;
+}
+
+void ObservationForm::put(Field field, std::string_view text) {
+  const Struct_Weather before = record_;
+  store_put(field, text);
   follow(field);
   show_changes(before, field);
+  touch(before);
+}
+
+void ObservationForm::put_bulbs(std::string_view dry, std::string_view wet, WetBulbState state) {
+  const Struct_Weather before = record_;
+  wet_bulb_ = state;
+  store_put(Field::kDryBulb, dry);
+  store_put(Field::kWetBulb, wet);
+  follow(Field::kDryBulb);
   touch(before);
 }
 
@@ -184,7 +200,12 @@ void ObservationForm::show_changes(const Struct_Weather& before, std::optional<F
                                       r.LaDeg, r.LaMin, r.LoDeg, r.LoMin};
   };
   if (place(record_) != place(before)) review_due_ = true;
-  if (wet_bulb_ == WetBulbState::kNotSet && record_.Sw == "2") wet_bulb_ = WetBulbState::kIced;
+  if (record_.Sw == before.Sw) return;
+  if (record_.Sw == "2") {
+    wet_bulb_ = WetBulbState::kIced;
+  } else if (wet_bulb_ == WetBulbState::kIced) {
+    wet_bulb_ = WetBulbState::kNotSet;
+  }
 }
 
 std::string ObservationForm::shown(Field field, const Struct_Weather& record) const {

@@ -95,12 +95,17 @@ class ObservationForm {
   /// checked it.
   void put(Field field, std::string_view text);
   void put_wet_bulb_state(WetBulbState state);
+  /// Both bulbs and the state of the wet one together. What follows is computed from all of them
+  /// only, so that a dew point that cannot be computed leaves the earlier one.
+  void put_bulbs(std::string_view dry, std::string_view wet, WetBulbState state);
   /// Changes the record directly, as a code dialog does; fields whose figures changed show them.
   void change(const std::function<void(Struct_Weather&)>& change);
   /// After the ship's fixed data were changed.
   void ship_changed();
-  /// After the loading state was changed: the pressure is reduced anew.
-  void loading_state_changed() { reduce_again(); }
+  /// After the barometer card or its loading state was changed: the pressure is reduced anew, and
+  /// the dew point follows it. A reading that gives an impossible pressure now is marked wrong, and
+  /// the pressure stays.
+  void card_changed();
   /// After observation items were changed: a switched-off element is filled with solidi where the
   /// report needs them and emptied otherwise; what was entered comes back when it is switched on
   /// again.
@@ -152,11 +157,12 @@ class ObservationForm {
   bool refuse_range(Field field) const;
   [[nodiscard]] bool ask(int question) const;
   void store(Field field, const std::string& value);
+  void store_put(Field field, std::string_view text);
   void store_temperature(Field field, const std::string& value);
   void store_true_speed(const std::string& value);
   void clear(Field field);
   void follow(Field field);
-  void reduce_reading(bool keep_tendency);
+  bool reduce_reading(bool keep_tendency);
   void reduce_again();
   void compute_dew_point();
   void compute_humidity();

@@ -54,14 +54,17 @@ void ObservationForm::follow(Field field) {
   }
 }
 
-void ObservationForm::reduce_reading(bool keep_tendency) {
+// False when the reading gives an impossible pressure: that one is not stored.
+bool ObservationForm::reduce_reading(bool keep_tendency) {
   const auto reduced = elements::reduce_reading(entered(Field::kReading), ship_.card,
                                                 air_temperature_of(entered(air_field())));
-  if (!reduced || reduced->range == PressureRange::kRefused) return;
+  if (!reduced) return true;
+  if (reduced->range == PressureRange::kRefused) return false;
   const std::string tendency = record_.a;
   store_pppp(record_, reduced->pppp);
   if (keep_tendency) record_.a = tendency;
   pppp_of_reading_ = record_.PPPP;
+  return true;
 }
 
 // Air temperature, card or loading state changed after the reading was entered: the same reading is
@@ -71,8 +74,17 @@ void ObservationForm::reduce_again() {
   // A pressure that was typed over the reduced one stays.
   if (entered(Field::kReading).empty() || record_.PPPP != pppp_of_reading_) return;
   const Struct_Weather before = record_;
-  reduce_reading(true);
+  const bool possible = reduce_reading(true);
+  if (!typed_[at(Field::kReading)]) error_[at(Field::kReading)] = !possible;
+  error_flag_ = error_flag_ || !possible;
   show_changes(before);
+  touch(before);
+}
+
+void ObservationForm::card_changed() {
+  const Struct_Weather before = record_;
+  reduce_again();
+  compute_dew_point();
   touch(before);
 }
 

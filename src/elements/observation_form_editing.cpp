@@ -324,7 +324,8 @@ void ObservationForm::store_temperature(Field field, const std::string& value) {
       record_.TdTdTd = t.figures;
       break;
     case Field::kWetBulb:
-      if (!can_be_iced(Celsius{text::leading_number(value)})) wet_bulb_ = WetBulbState::kNotSet;
+      if (wet_bulb_ == WetBulbState::kIced && !can_be_iced(Celsius{text::leading_number(value)}))
+        wet_bulb_ = WetBulbState::kNotSet;
       record_.Sw = wet_bulb_sign(t, wet_bulb_);
       record_.TbTbTb = t.figures;
       break;
@@ -345,15 +346,9 @@ void ObservationForm::store_temperature(Field field, const std::string& value) {
 }
 
 void ObservationForm::store_true_speed(const std::string& value) {
-  if (!text::is_all_digits(value)) {
-    record_.ff = value;
-    record_.fff.clear();
-    return;
-  }
-  constexpr int kTwoFigures = 99;
-  const int speed = text::leading_int(value);
-  record_.ff = text::format_int(std::min(speed, kTwoFigures), 2, '0');
-  record_.fff = speed >= kTwoFigures ? text::format_int(speed, 3, '0') : std::string();
+  const WindFigures figures = wind_figures({}, value);
+  record_.ff = figures.ff;
+  record_.fff = figures.fff;
 }
 
 }  // namespace elements

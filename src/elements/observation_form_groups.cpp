@@ -129,6 +129,12 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
   Struct_Weather after = std::move(record_);
   record_ = before.record;
   change([&](Struct_Weather& record) { record = std::move(after); });
+  // A sign alone changes a temperature as well, and ice on the bulb the dew point.
+  for (const Field field : {air_field(), Field::kDewPoint, Field::kWetBulb}) {
+    if (signed_value(field, record_) != signed_value(field, before.record) ||
+        (field == Field::kWetBulb && record_.Sw != before.record.Sw))
+      taken.push_back(field);
+  }
   for (const Field field : taken) follow(field);
   touch(before.record);
   return true;

@@ -95,7 +95,15 @@ bool CVelmaranDlg::open_element(int element) {
   const bool confirmed = row->open(opening);
   refresh();
   if (confirmed) {
-    focus_behind(last_field_of(element));
+    // A value that the form then refused is to be put right first.
+    const auto refused = std::find_if(fields_.begin(), fields_.end(), [&](const Field& f) {
+      return f.row->element == element && f.value && form_.in_error(*f.value);
+    });
+    if (refused != fields_.end()) {
+      focus(*refused->control);
+    } else {
+      focus_behind(last_field_of(element));
+    }
     review_position();
   }
   return confirmed;

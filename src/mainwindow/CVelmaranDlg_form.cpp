@@ -237,7 +237,7 @@ void CVelmaranDlg::loading_state_chosen() {
       text::kYes) {
     card.loading_state = chosen;
     if (context_.save_fixed_data) context_.save_fixed_data();
-    form_.loading_state_changed();
+    form_.card_changed();
   }
   refresh();
 }

@@ -16,6 +16,7 @@
 #include "elements/CUTCTimeDlg1.h"
 #include "mainwindow/form_rows.h"
 #include "ship/CKataInputDlg.h"
+#include "text/numbers.h"
 #include "text/strings.h"
 
 namespace mainwindow {
@@ -103,7 +104,7 @@ void take_reading(elements::ObservationForm& form, const std::string& reading) {
     form.put(Field::kReading, {});
     return;
   }
-  form.type(Field::kReading, reading);
+  form.type(Field::kReading, text::format_fixed(text::leading_number(reading), 1, 4));
   static_cast<void>(form.leave(Field::kReading));
 }
 
@@ -130,7 +131,7 @@ bool open_pressure(Opening& opening) {
   Dialog dialog(opening.services, std::move(values), std::move(actions));
   const BarometerCard before = context.ship.card;
   const bool ok = confirmed(opening, dialog);
-  if (!(before == context.ship.card)) form.ship_changed();
+  if (!(before == context.ship.card)) form.card_changed();
   if (!ok) return false;
   const Dialog::Values& result = dialog.values();
   const bool exact = result.time_choice == Dialog::TimeChoice::kMoreThan10Minutes;
@@ -157,9 +158,7 @@ bool open_psychrometer(Opening& opening) {
                                          form.wet_bulb_state(), form.text(Field::kReading),
                                          opening.context.ship.card});
   if (!confirmed(opening, dialog)) return false;
-  form.put(Field::kDryBulb, dialog.values().dry);
-  form.put(Field::kWetBulb, dialog.values().wet);
-  form.put_wet_bulb_state(dialog.values().state);
+  form.put_bulbs(dialog.values().dry, dialog.values().wet, dialog.values().state);
   return true;
 }
 

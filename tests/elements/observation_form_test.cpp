@@ -440,7 +440,7 @@ TEST(ObservationForm, TheLoadingStateChangesThePressure) {
   f.ship.card.total_correction_ballast = "+3.0";
   ASSERT_TRUE(f.enter(Field::kReading, "1013.2"));
   f.ship.card.loading_state = LoadingState::kInBallast;
-  f.form->loading_state_changed();
+  f.form->card_changed();
   EXPECT_EQ(f.form->text(Field::kPPPP), "1016.2");
   EXPECT_EQ(f.form->group_text(Group::k4PPPP), "40162");
 }

@@ -177,6 +177,15 @@ TEST(PressureScreen, ABlankHourOrMinuteIsMissing) {
   }
 }
 
+TEST(PressureScreen, ATypedBlankHourIsAskedForByOk) {
+  Pressure p(with("1013.2"));
+  p.screen.choose(p.screen.time_choice, 1);
+  p.type(p.screen.hour, " ");
+  p.type(p.screen.minute, "45");
+  checks::refused(
+      p.world, p.screen, [&] { p.press_ok(); }, id::kUtcHourMissing, p.screen.hour);
+}
+
 TEST(PressureScreen, RefusesAPressureOutsideTheRangeOfWhatItShows) {
   struct Row {
     const char* reading;
