@@ -1,5 +1,7 @@
 #include "elements/CLookWindDlg.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "elements/field_editors.h"
@@ -62,32 +64,50 @@ elements::ApparentWindTexts CLookWindDlg::entered() const {
   return {direction.content, speed.content, heading.content, course.content, ship_speed.content};
 }
 
+// What OK would refuse gives no true wind while it is typed either.
+bool CLookWindDlg::acceptable() const {
+  const auto degrees_kept = [this](const DegreesField& row) {
+    const std::string& typed = (this->*row.field).content;
+    return text::trim(typed).empty() || elements::is_degrees(typed, row.lowest);
+  };
+  const auto speed_kept = [this](const SpeedField& row) {
+    const std::string& typed = (this->*row.field).content;
+    return text::trim(typed).empty() || refusal(row, typed) == 0;
+  };
+  return std::all_of(std::begin(kDegreesFields), std::end(kDegreesFields), degrees_kept) &&
+         std::all_of(std::begin(kSpeedFields), std::end(kSpeedFields), speed_kept);
+}
+
 void CLookWindDlg::recompute() {
-  const auto found = elements::true_wind_of_texts(entered());
+  const auto found = acceptable() ? elements::true_wind_of_texts(entered()) : std::nullopt;
   true_direction.content = found ? found->direction : "";
   true_speed.content = found ? found->speed : "";
 }
 
 bool CLookWindDlg::check(const DegreesField& row) {
   const std::string& typed = (this->*row.field).content;
-  if (text::trim(typed).empty() || elements::is_degrees(typed, row.lowest)) return true;
+  if (text::trim(typed).empty() || elements::is_degrees(typed, row.lowest)) {
+    recompute();  // full-width figures are figures only now
+    return true;
+  }
   services().messages.error(row.message);
   return false;
+}
+
+int CLookWindDlg::refusal(const SpeedField& row, std::string_view typed) {
+  const auto knots = elements::strict_number(text::trim(typed));
+  if (!knots) return id::kNotANumber;
+  return *knots < 0.0 || *knots > row.largest ? id::kInputError : 0;
 }
 
 bool CLookWindDlg::check(const SpeedField& row) {
   ui::Edit& field = this->*row.field;
   if (text::trim(field.content).empty()) return true;
-  const auto number = elements::strict_number(text::trim(field.content));
-  if (!number) {
-    services().messages.error(id::kNotANumber);
+  if (const int message = refusal(row, field.content); message != 0) {
+    services().messages.error(message);
     return false;
   }
-  const double knots = *number;
-  if (knots < 0.0 || knots > row.largest) {
-    services().messages.error(id::kInputError);
-    return false;
-  }
+  const double knots = text::leading_number(field.content);
   field.set(text::format_fixed(knots + 0.0, 1, row.width));  // "-0" is 0
   recompute();
   return true;

@@ -127,7 +127,8 @@ void CSeaSurfacePressureDlg::recalculate() {
     if (whole >= kLowestWhole && whole <= kHighestWhole)
       reading_whole.selected = whole - kLowestWhole;
   }
-  if (reading_whole.content.empty() || reading_tenths.content.empty()) return;
+  if (!text::is_all_digits(reading_whole.content) || !text::is_all_digits(reading_tenths.content))
+    return;
   reading.content = reading_whole.content + "." + reading_tenths.content;
   const elements::Hectopascal read{text::leading_number(reading.content)};
   const elements::Hectopascal correction = elements::total_correction(

@@ -75,6 +75,7 @@ bool CTemperatureEntry::check_whole() {
       return false;
     confirmed_ = degrees;
   }
+  if (on_change) on_change();  // full-width figures are figures only now
   return true;
 }
 

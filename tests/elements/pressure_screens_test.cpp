@@ -96,6 +96,13 @@ TEST(PressureScreen, RecomputesWhileTypingAndChoosing) {
   EXPECT_EQ(p.screen.sea_level_pressure.content, "992.6");
 }
 
+TEST(PressureScreen, KeepsWhatItShowsWhileAPartIsNoNumber) {
+  Pressure p(with("1013.2"));
+  p.type(p.screen.reading_tenths, "x");
+  EXPECT_EQ(p.screen.reading.content, "1013.2");
+  EXPECT_EQ(p.screen.sea_level_pressure.content, "1015.6");
+}
+
 TEST(PressureScreen, FullWidthDigitsAreNarrowed) {
   Pressure p(with(""));
   p.type(p.screen.reading_whole, "１０１３");

@@ -76,6 +76,14 @@ TEST(PsychrometerScreen, RecomputesWhileTyping) {
   EXPECT_EQ(p.screen.dew_point.content, "");
 }
 
+TEST(PsychrometerScreen, FullWidthFiguresCountWhenTheirFieldIsLeft) {
+  Psychrometer p("10.0", "");
+  ASSERT_TRUE(fakes::enter(p.screen, p.screen.wet.whole, "５"));
+  EXPECT_EQ(p.screen.dew_point.content, "");
+  p.screen.move_focus(p.screen.wet_bulb_state);
+  EXPECT_EQ(p.screen.dew_point.content, "-01.8");
+}
+
 TEST(PsychrometerScreen, TheIcedFormulaGivesAnotherDewPoint) {
   Psychrometer p("-2.0", "-3.0", WetBulbState::kNotIced);
   const std::string water = p.screen.dew_point.content;

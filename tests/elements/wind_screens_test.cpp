@@ -41,6 +41,30 @@ TEST(ApparentWindScreen, ShowsTheTrueWindWhileTyping) {
   EXPECT_EQ(a.screen.true_speed.content, "");
 }
 
+TEST(ApparentWindScreen, ShowsNoTrueWindOfWhatOkWouldRefuse) {
+  struct Row {
+    ui::Edit CLookWindDlg::*field;
+    const char* typed;
+  };
+  for (const Row& row : {Row{&CLookWindDlg::heading, "0"}, Row{&CLookWindDlg::course, "361"},
+                         Row{&CLookWindDlg::direction, "x"}, Row{&CLookWindDlg::ship_speed, "100"},
+                         Row{&CLookWindDlg::speed, "1.2.3"}}) {
+    Apparent a(kBeamWind);
+    EXPECT_EQ(a.screen.true_direction.content, "14");
+    a.type(a.screen.*row.field, row.typed);
+    EXPECT_EQ(a.screen.true_direction.content, "") << row.typed;
+    EXPECT_EQ(a.screen.true_speed.content, "") << row.typed;
+  }
+}
+
+TEST(ApparentWindScreen, FullWidthFiguresCountWhenTheirFieldIsLeft) {
+  Apparent a(kBeamWind);
+  a.type(a.screen.direction, "９０");
+  EXPECT_EQ(a.screen.true_direction.content, "");
+  a.screen.move_focus(a.screen.speed);
+  EXPECT_EQ(a.screen.true_direction.content, "14");
+}
+
 TEST(ApparentWindScreen, SpeedsAreKeptInTheirFormats) {
   Apparent a({});
   a.type(a.screen.ship_speed, "9");
