@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "app/CVelmaranApp.h"
+#include "desktop/desktop_help.h"
 #include "desktop/desktop_printer.h"
 #include "desktop/desktop_windows.h"
 #include "platform/posix/system.h"
@@ -46,7 +47,9 @@ int main(int argc, char** argv) {
 
   desktop::DesktopWindows windows(path_map(system));
   desktop::DesktopPrinter printer;
-  app::CVelmaranApp program({system.clock(), system.locale(), system.drives(), system.files(),
-                             printer, windows, system.help()});
+  desktop::DesktopHelp help(
+      [&system](const std::string& path) { return system.help().page(path); });
+  app::CVelmaranApp program(
+      {system.clock(), system.locale(), system.drives(), system.files(), printer, windows, help});
   return program.run();
 }

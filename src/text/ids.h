@@ -17,6 +17,7 @@ inline constexpr int kOkLabel = 40904;
 inline constexpr int kCancelLabel = 40905;
 inline constexpr int kHelpLabel = 40906;
 inline constexpr int kNoDigitalString = 40907;
+inline constexpr int kHelpPageMissing = 40908;
 
 // Start-up, settings, files
 inline constexpr int kSettingsNotSaved = 41000;

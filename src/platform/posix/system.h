@@ -32,7 +32,7 @@ class System {
   [[nodiscard]] Locale& locale() { return *locale_; }
   [[nodiscard]] Drives& drives() { return *drives_; }
   [[nodiscard]] Files& files() { return *files_; }
-  [[nodiscard]] HelpViewer& help() { return *help_; }
+  [[nodiscard]] PosixHelp& help() { return *help_; }
   [[nodiscard]] Printer& no_printer() { return no_printer_; }
   [[nodiscard]] const DriveMap& map() const { return *map_; }
 
