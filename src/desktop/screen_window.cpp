@@ -11,6 +11,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
+#include <ranges>
+#include <utility>
 
 namespace desktop {
 namespace {
@@ -410,9 +412,9 @@ namespace {
 void settle_layouts(QWidget& content) {
   QList<QWidget*> widgets = content.findChildren<QWidget*>();
   widgets.prepend(&content);
-  for (auto at = widgets.crbegin(); at != widgets.crend(); ++at) {
-    if (QLayout* const layout = (*at)->layout()) {
-      (*at)->ensurePolished();
+  for (QWidget* const widget : std::views::reverse(std::as_const(widgets))) {
+    if (QLayout* const layout = widget->layout()) {
+      widget->ensurePolished();
       layout->invalidate();
       layout->activate();
     }
