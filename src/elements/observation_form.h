@@ -140,6 +140,7 @@ class ObservationForm {
                                  std::vector<Field>& taken);
   [[nodiscard]] bool take_large_speed(std::string_view figures, std::vector<Field>& taken);
   [[nodiscard]] Field field_of_member(std::string Struct_Weather::*member) const;
+  [[nodiscard]] std::optional<Field> field_of_sign(std::string Struct_Weather::*member) const;
   [[nodiscard]] bool take_field(Field field, std::string_view figures);
   [[nodiscard]] bool signed_value_accepted(Field field, const Struct_Weather& before);
   [[nodiscard]] bool group_accepted(const Struct_Weather& before, const std::vector<Field>& taken);

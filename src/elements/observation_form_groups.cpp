@@ -196,6 +196,8 @@ bool ObservationForm::take_symbol(std::string W::*member, std::string_view figur
     if (!all_of(figures, '/') && sign.allowed.find(figures) == std::string_view::npos)
       return refuse(sign.message);
     field_text = figures;
+    // The value has changed with its sign, so its rules and what follows from it are due.
+    if (const auto field = field_of_sign(member)) taken.push_back(*field);
     return true;
   }
   const bool unknown = all_of(figures, '/');
@@ -213,6 +215,14 @@ bool ObservationForm::take_symbol(std::string W::*member, std::string_view figur
     field_text = figures;
   }
   return true;
+}
+
+std::optional<Field> ObservationForm::field_of_sign(std::string W::*member) const {
+  if (member == &W::SnT) return air_field();
+  if (member == &W::SnTd) return Field::kDewPoint;
+  if (member == &W::Sw) return Field::kWetBulb;
+  if (member == &W::Ss) return Field::kTwTwTw;
+  return std::nullopt;  // the quadrant
 }
 
 Field ObservationForm::field_of_member(std::string W::*member) const {

@@ -582,6 +582,34 @@ TEST(ObservationForm, ASignAloneIsTestedWithItsFigures) {
   EXPECT_EQ(f.form->text(Field::kDryBulb), "-20.0");
 }
 
+TEST(ObservationForm, ASignAloneMustKeepTheRulesOfItsValue) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kDryBulb, "-1.2"));
+  ASSERT_TRUE(f.enter(Field::kWetBulb, "-5.0"));
+  const std::string before = f.state(Field::kWetBulb);
+  f.world.windows.expect(id::kWetBulbAboveAir);
+  EXPECT_FALSE(f.form->leave_group(Group::k8SwTbTbTb, "80050"));
+  EXPECT_EQ(f.state(Field::kWetBulb), before);
+  ASSERT_TRUE(f.enter(Field::kWetBulb, ""));
+  ASSERT_TRUE(f.enter(Field::kDryBulb, "1.2"));
+  ASSERT_TRUE(f.enter(Field::kWetBulb, "0.5"));
+  f.world.windows.expect(id::kWetBulbAboveAir);
+  EXPECT_FALSE(f.form->leave_group(Group::k1SnTTT, "11012"));
+  EXPECT_EQ(f.form->text(Field::kDryBulb), "1.2");
+}
+
+TEST(ObservationForm, ASignAloneBringsWhatFollowsFromItsValue) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kDryBulb, "10.0"));
+  ASSERT_TRUE(f.enter(Field::kWetBulb, "-1.0"));
+  ASSERT_TRUE(f.form->leave_group(Group::k8SwTbTbTb, "80010"));
+  Form typed;
+  ASSERT_TRUE(typed.enter(Field::kDryBulb, "10.0"));
+  ASSERT_TRUE(typed.enter(Field::kWetBulb, "1.0"));
+  ASSERT_NE(typed.record().TdTdTd, "");
+  EXPECT_EQ(f.record().SnTd + f.record().TdTdTd, typed.record().SnTd + typed.record().TdTdTd);
+}
+
 TEST(ObservationForm, SolidiInAGroupThatIsWrittenOnlyWhenSetEmptyIt) {
   Form f;
   ASSERT_TRUE(f.form->leave_group(Group::k9GGgg, "91150"));
