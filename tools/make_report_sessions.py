@@ -15,6 +15,7 @@ import sys
 
 RULES = {
     "ship": "The call sign is the ship's own.",
+    "hour": "A report belongs to a main or intermediate synoptic hour; the time screen refuses any other.",
     "knots": "Wind speeds are in knots (iw 3 or 4): metres a second are turned into knots before they are typed.",
     "iX": "The station is manned: iX is 1, or 3 when neither present nor past weather is observed.",
     "always": "8NhCLCMCH and 222DsVs are written in every report.",
@@ -103,6 +104,11 @@ class Typed:
     def type_place(self):
         time, lat, lon = self.groups["time"], self.groups["latitude"], self.groups["longitude"]
         self.lines += ["key F1", "set year 2014", "set month 11", f"set day {time[:2]}", f"set hour {time[2:4]}", "press ok"]
+        hour = int(time[2:4])
+        if hour % 3:
+            self.note("hour")
+            self.lines += ["expect-message synoptic hour", "answer ok", f"set hour {hour // 3 * 3:02}", "press ok"]
+            time = f"{time[:2]}{hour // 3 * 3:02}{time[4:]}"
         iw = "4" if self.anemometer else "3"
         if time[4] != iw:
             self.note("knots")

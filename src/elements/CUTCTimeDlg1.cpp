@@ -15,6 +15,7 @@ namespace {
 // A year is typed in full: two figures would name a report of another century.
 constexpr int kFirstYear = 1000;
 constexpr int kLastYear = 9999;
+constexpr int kHoursBetweenReports = 3;
 
 std::string or_clock(const std::string& value, int clock) {
   return text::trim(value).empty() ? text::format_int(clock) : value;
@@ -57,6 +58,9 @@ void CUTCTimeDlg1::on_ok() {
       !elements::is_calendar_date(*year_.number(), *month_.number(), *day_.number()))
     return refuse(id::kInvalidDay, day);
   if (!hour_.number() && !text::trim(hour.content).empty()) return refuse(id::kInvalidHour, hour);
+  // The clock's hour is only an offer: a report belongs to a main or intermediate synoptic hour.
+  if (hour_.number() && *hour_.number() % kHoursBetweenReports != 0)
+    return refuse(id::kNotSynopticHour, hour);
   values_ = {year_.figures(), month_.figures(), day_.figures(), hour_.figures()};
   close(text::kOk);
 }

@@ -426,6 +426,7 @@ inline constexpr int kUtcMonth = 13003;
 inline constexpr int kUtcDay = 13004;
 inline constexpr int kUtcHour = 13005;
 inline constexpr int kInvalidHour = 13006;
+inline constexpr int kNotSynopticHour = 13007;
 
 // CPositionDlg
 inline constexpr int kPositionTitle = 13100;

@@ -90,9 +90,11 @@ TEST_F(TimeScreen, FillsEmptyFieldsFromTheClockReadAsUtc) {
     EXPECT_EQ(dialog.hour.content, row.shown.GG);
     EXPECT_EQ(dialog.hour.selected_text(), row.shown.GG);
     EXPECT_EQ(dialog.values(), row.in) << "nothing is handed back before OK";
+    // The clock's hour is an offer; the officer chooses the synoptic one.
+    fakes::choose_text(dialog, dialog.hour, "18");
     dialog.press(dialog.ok);
     EXPECT_EQ(dialog.result(), text::kOk);
-    EXPECT_EQ(dialog.values(), row.shown);
+    EXPECT_EQ(dialog.values(), (Values{row.shown.Year, row.shown.Month, row.shown.YY, "18"}));
   }
 }
 
@@ -122,8 +124,8 @@ TEST_F(TimeScreen, TypedAndPickedPartsComeBackInTwoFigures) {
   EXPECT_EQ(dialog.values(), (Values{"2016", "02", "29", "21"}));
 }
 
-TEST_F(TimeScreen, AnyHourOfTheDayIsTakenAndAnEmptyOneToo) {
-  for (const std::string hour : {"00", "11", "23", ""}) {
+TEST_F(TimeScreen, MainAndIntermediateHoursAreTakenAndAnEmptyOneToo) {
+  for (const std::string hour : {"00", "03", "06", "09", "12", "15", "18", "21", ""}) {
     CUTCTimeDlg1 dialog(world.services, {});
     dialog.open();
     fakes::enter(dialog, dialog.hour, hour);
@@ -152,6 +154,10 @@ TEST_F(TimeScreen, OkRefusesADateThatIsNotCompleteOrDoesNotExist) {
       {{"2014", "a", "01", "12"}, id::kInvalidDay, "month"},
       {{"2014", "04", "1.", "12"}, id::kInvalidDay, "day"},
       {{"2014", "04", "01", "24"}, id::kInvalidHour, "hour"},
+      {{"2014", "04", "01", "01"}, id::kNotSynopticHour, "hour"},
+      {{"2014", "04", "01", "11"}, id::kNotSynopticHour, "hour"},
+      {{"2014", "04", "01", "20"}, id::kNotSynopticHour, "hour"},
+      {{"2014", "04", "01", "23"}, id::kNotSynopticHour, "hour"},
       {{"2014", "04", "01", "//"}, id::kInvalidHour, "hour"},
   };
   for (const text::Language language : {text::Language::kEnglish, text::Language::kJapanese}) {

@@ -172,15 +172,17 @@ TEST(Fields, ThatAreRefusedKeepTheFocusAndTheirText) {
 
 TEST(Fields, SetByADialogAreNotRefusedWhenTheFocusPassesThrough) {
   const auto opened = std::make_unique<Opened>();
-  opened->world.windows.expect_screen("CUTCTimeDlg1", [](ui::Screen& screen) {
-    fakes::enter(screen, *screen.find("hour"), "11");  // no synoptic hour
+  // The editor refuses solidi for a typed speed; the screen gives them for an unknown one.
+  opened->world.windows.expect_screen("CTrueDirWindDlg", [](ui::Screen& screen) {
+    screen.tick(*screen.find("direction_unknown"), true);
+    screen.tick(*screen.find("speed_unknown"), true);
     screen.press(*screen.find("ok"));
   });
-  opened->press("label_time");
-  ASSERT_TRUE(opened->window.move_focus(opened->control("GG")));
+  opened->press("label_true_wind");
+  ASSERT_TRUE(opened->window.move_focus(opened->control("ff")));
   opened->window.key(ui::Key::kTab);
-  EXPECT_EQ("11", opened->window.form().record().GG);
-  EXPECT_EQ("GGExact", opened->window.focused()->name);
+  EXPECT_EQ("//", opened->window.form().record().ff);
+  EXPECT_NE("ff", opened->window.focused()->name);
 }
 
 // ---- Whatever is done
