@@ -36,9 +36,9 @@ LoadingValues loading_values(const BarometerCard& card) {
 }  // namespace
 
 std::optional<Celsius> air_temperature_of(std::string_view text) {
-  const std::string kept = text::without_spaces(text);
-  if (kept.empty()) return std::nullopt;
-  return Celsius{text::leading_number(kept)};
+  const auto degrees = text::number_at_start(text::without_spaces(text));
+  if (!degrees) return std::nullopt;
+  return Celsius{*degrees};
 }
 
 Hectopascal total_correction(Hectopascal reading, const BarometerCard& card,

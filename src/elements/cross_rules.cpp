@@ -82,8 +82,15 @@ bool wet_bulb_above_air(const W& r) {
   return above_air(wet_bulb_tenths(r), r);
 }
 
+// Wind waves, swells and the wave recorder alike.
+template <std::string W::*period, std::string W::*height>
 bool no_waves_with_height(const W& r) {
-  return r.PwPw == "00" && text::is_all_digits(r.HwHw) && text::leading_int(r.HwHw) != 0;
+  return r.*period == "00" && text::is_all_digits(r.*height) && text::leading_int(r.*height) != 0;
+}
+
+// The group of the actual time would go out with two figures for four.
+bool half_an_exact_time(const W& r) {
+  return r.gg.empty() != r.GGExact.empty();
 }
 
 constexpr CrossRule kRules[] = {
@@ -119,10 +126,23 @@ constexpr CrossRule kRules[] = {
      [] {
        return std::vector<Field>{Field::kDryBulb, Field::kWetBulb};
      }},
-    {id::kPeriodNeedsHeight, 0, no_waves_with_height,
+    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::PwPw, &W::HwHw>,
      [] {
        return std::vector<Field>{Field::kPwPw, Field::kHwHw};
      }},
+    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::Pw1Pw1, &W::Hw1Hw1>,
+     [] {
+       return std::vector<Field>{Field::kPw1Pw1, Field::kHw1Hw1};
+     }},
+    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::Pw2Pw2, &W::Hw2Hw2>,
+     [] {
+       return std::vector<Field>{Field::kPw2Pw2, Field::kHw2Hw2};
+     }},
+    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::PwaPwa, &W::HwaHwa>,
+     [] {
+       return std::vector<Field>{Field::kPwaPwa, Field::kHwaHwa};
+     }},
+    {id::kHalfAnExactTime, 0, half_an_exact_time, [] { return std::vector<Field>{}; }},
 };
 
 }  // namespace

@@ -14,7 +14,7 @@ struct CrossRule {
   int message;     ///< text id of the refusal
   int check_text;  ///< text id, 0 for none
   bool (*broken)(const Struct_Weather& record);
-  /// The fields whose editors raise it.
+  /// The fields whose editors raise it; none for a rule that only a save asks for.
   std::vector<Field> (*raised_by)();
 };
 

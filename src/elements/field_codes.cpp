@@ -6,6 +6,7 @@
 
 #include "elements/code_metres.h"
 #include "elements/pressure_tendency.h"
+#include "elements/sea_temperature_figures.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -96,8 +97,7 @@ std::string shown_from_record(Field field, const Struct_Weather& record) {
   if (field == Field::kWetBulb)
     return temperature_shown(wet_bulb_is_negative(record) ? "1" : "0", record.TbTbTb);
   if (field == Field::kTwTwTw) {
-    const bool negative = record.Ss.size() == 1 && (record.Ss.front() - '0') % 2 == 1;
-    return temperature_shown(negative ? "1" : "0", record.TwTwTw);
+    return temperature_shown(is_below_zero(record.Ss) ? "1" : "0", record.TwTwTw);
   }
   if (field == Field::kff) return record.fff.empty() ? record.ff : record.fff;
   if (field == Field::kHumidity) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <utility>
 
 #include "text/ids.h"
 #include "text/numbers.h"
@@ -16,15 +16,15 @@ constexpr auto kFigures = Accepts::kFigures;
 constexpr auto kNumber = Accepts::kNumber;
 
 // Columns: field, test, low, high, also, zero-filled width, decimals, message, check text, warn
-// from, warning. The upper bounds of day and year are those of a long month and a far year; the
-// form hands in the true ones.
+// from, warning, shows check. The upper bounds of day and year are those of a long month and a far
+// year; the form hands in the true ones.
 constexpr std::array<EditorRow, elements::kFields> kRows{{
     {Field::kYear, kFigures, 2000, 9999, "", 4, 0, id::kYearRange, 0},
     {Field::kMonth, kFigures, 1, 12, "", 2, 0, id::kMonthRange, 0},
     {Field::kYY, kFigures, 1, 31, "", 2, 0, id::kDayRange, 0},
     // Only the synoptic and intermediate hours stand in the table of hours.
     {Field::kGG, kFigures, 1, 0, "00 03 06 09 12 15 18 21 0 3 6 9", 2, 0, id::kHourRange,
-     id::kCheckHour},
+     id::kCheckHour, 0, 0, true},
     {Field::kGGExact, kFigures, 0, 23, "", 2, 0, id::kHourRange, 0},
     {Field::kgg, kFigures, 0, 59, "", 2, 0, id::kMinuteRange, 0},
     {Field::kLaDeg, kFigures, 0, 90, "", 2, 0, id::kLatitudeDegreesRange, 0},
@@ -124,9 +124,10 @@ Checked check_number(const EditorRow& row, std::string_view text, Bounds bounds)
   const auto value = strict_number(text);
   if (!value || *value < bounds.low || *value > bounds.high) return {};
   const bool asks = row.warning != 0 && *value > row.warn_from;
-  // "-0" has a sign only where there are values below zero.
-  const double kept = bounds.low < 0 ? *value : std::fabs(*value);
-  return {asks ? Verdict::kAsks : Verdict::kAccepted, text::format_fixed(kept, row.decimals)};
+  std::string shown = text::format_fixed(*value, row.decimals);
+  // Minus zero is zero, also where it only comes of the rounding.
+  if (text::leading_number(shown) == 0.0) shown = text::format_fixed(0.0, row.decimals);
+  return {asks ? Verdict::kAsks : Verdict::kAccepted, std::move(shown)};
 }
 
 }  // namespace

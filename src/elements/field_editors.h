@@ -29,6 +29,9 @@ struct EditorRow {
   int check_text;         ///< text id, 0 for none
   double warn_from = 0;   ///< a value from here up (above, for a number) asks …
   int warning = 0;        ///< … this question; 0 never asks
+  /// The refusal shows the check text below the message: the message's range is wider than what is
+  /// accepted.
+  bool shows_check = false;
 };
 
 /// All rows in the order of Field.

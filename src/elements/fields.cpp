@@ -106,4 +106,8 @@ std::optional<ObservationItem> item_of(Field field) {
   return std::nullopt;
 }
 
+bool needs_wave_recorder(Field field) {
+  return field == Field::kPwaPwa || field == Field::kHwaHwa;
+}
+
 }  // namespace elements

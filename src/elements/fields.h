@@ -80,4 +80,7 @@ inline constexpr std::size_t kFields = 57;
 /// The observation item whose "Not observed" switches the field off; none for most.
 [[nodiscard]] std::optional<ObservationItem> item_of(Field field);
 
+/// What only a wave recorder measures.
+[[nodiscard]] bool needs_wave_recorder(Field field);
+
 }  // namespace elements

@@ -5,6 +5,7 @@
 
 #include "elements/barometer_correction.h"
 #include "elements/field_codes.h"
+#include "elements/sea_temperature_figures.h"
 #include "observation/report_encoder.h"
 #include "text/strings.h"
 
@@ -21,7 +22,8 @@ ObservationForm::ObservationForm(const ShipFixedData& ship, const KeyObservation
       messages_(messages),
       clock_(clock),
       record_(ship, items),
-      dew_point_method_(ship.dew_point_method) {
+      dew_point_method_(ship.dew_point_method),
+      sea_temperature_method_(ship.sea_temperature_method) {
   items_changed();
   modified_ = false;
 }
@@ -44,6 +46,10 @@ bool ObservationForm::any_error() const {
 
 bool ObservationForm::take_review_due() {
   return std::exchange(review_due_, false);
+}
+
+bool ObservationForm::take_doubled_pressure_due() {
+  return std::exchange(doubled_pressure_due_, false);
 }
 
 std::string ObservationForm::group_text(Group group) const {
@@ -127,15 +133,21 @@ void ObservationForm::choose_hemispheres(int north_south, int east_west) {
   touch(before);
 }
 
-void ObservationForm::change(const std::function<void(Struct_Weather&)>& change) {
+void ObservationForm::change(const std::function<void(Struct_Weather&)>& change,
+                             std::initializer_list<Field> of_dialog) {
   const Struct_Weather before = record_;
   change(record_);
   show_changes(before);
+  for (const Field field : of_dialog) {
+    slot(field) = shown(field, record_);
+    typed_[at(field)] = error_[at(field)] = false;
+  }
   touch(before);
 }
 
 void ObservationForm::ship_changed() {
   const Struct_Weather before = record_;
+  const bool was_modified = modified_;
   const Struct_Weather fresh(ship_, items_);
   record_.iw = fresh.iw;
   record_.CallSign = fresh.CallSign;
@@ -149,34 +161,49 @@ void ObservationForm::ship_changed() {
       typed_[at(field)] = error_[at(field)] = false;
     }
   }
+  // The method stands in the sign's figure. One that was chosen for this observation alone stays.
+  const auto method = elements::sea_temperature_method(record_.Ss);
+  if (method == sea_temperature_method_)
+    record_.Ss = sea_temperature_sign(ship_.sea_temperature_method, is_below_zero(record_.Ss));
+  sea_temperature_method_ = ship_.sea_temperature_method;
+  put_unused_aside();
+  const Struct_Weather as_entered = record_;
   reduce_again();
   compute_dew_point();
   if (true_wind_of_texts(apparent_wind())) compute_true_wind();
   show_changes(before);
-  touch(before);
+  modified_ = was_modified || !(record_ == as_entered);
 }
 
 void ObservationForm::items_changed() {
-  const Struct_Weather before = record_;
+  const bool was_modified = modified_;
   record_.iX = Struct_Weather(ship_, items_).iX;
+  put_unused_aside();
+  modified_ = was_modified;
+}
+
+// An element that is not observed, or that no instrument measures any more, gives its entry up and
+// gets it back.
+void ObservationForm::put_unused_aside() {
   for (std::size_t i = 0; i < kFields; ++i) {
     const auto field = static_cast<Field>(i);
-    if (switched_off(field) == put_aside_[i].has_value()) continue;
+    const bool off = switched_off(field);
+    const bool unused = off || (needs_wave_recorder(field) && !ship_.wave_recorder);
+    if (unused == put_aside_[i].has_value()) continue;
+    // Present and past weather are filled, so that their group says "not observed"; other elements
+    // stay empty.
+    const bool filled = field == Field::kww || field == Field::kW1 || field == Field::kW2;
     if (put_aside_[i]) {
       const std::string entry = *std::exchange(put_aside_[i], std::nullopt);
-      clear(field);
+      if (filled) clear(field);
       if (!entry.empty()) put(field, entry);
       continue;
     }
     put_aside_[i] = entered(field);
     clear(field);
     typed_[i] = error_[i] = false;
-    // Present and past weather are filled, so that their group says "not observed"; other elements
-    // stay empty.
-    if (field == Field::kww) store(field, slot(field) = "//");
-    if (field == Field::kW1 || field == Field::kW2) store(field, slot(field) = "/");
+    if (filled && off) store(field, slot(field) = field == Field::kww ? "//" : "/");
   }
-  touch(before);
 }
 
 void ObservationForm::touch(const Struct_Weather& before) {

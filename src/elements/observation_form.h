@@ -49,13 +49,21 @@ class ObservationForm {
   /// Set by every refusal. The next entry that is accepted clears it, but not while messages are
   /// suppressed: so one look tells whether any of several entries was refused.
   [[nodiscard]] bool error_flag() const { return error_flag_; }
-  /// The messages of the refused entries that still stand in their fields, for the list of a save.
-  [[nodiscard]] std::vector<std::string> refused_entries() const;
-  /// Changed since the last saved().
+  /// The last text of a field that was accepted; a refused one that still stands there does not
+  /// count.
+  [[nodiscard]] const std::string& entered(Field field) const;
+  /// What the list of a save says beside groups and rules: the messages of the refused entries that
+  /// still stand in their fields, and what is doubtful about a computed dew point.
+  [[nodiscard]] std::vector<std::string> remarks() const;
+  /// The observation was changed since the last saved(). Ship data and items are no observation:
+  /// they count only where a value that was entered gives another one now.
   [[nodiscard]] bool modified() const { return modified_; }
   void saved() { modified_ = false; }
   /// A new date, hour or position was accepted since the last call: the position is to be reviewed.
   [[nodiscard]] bool take_review_due();
+  /// Since the last call a dew point was computed with the doubled pressure of a ship that has no
+  /// barometer card: the officer is to be told.
+  [[nodiscard]] bool take_doubled_pressure_due();
 
   /// Exactly what the encoder makes of the record, with "*" for what is not entered.
   [[nodiscard]] std::string group_text(observation::Group group) const;
@@ -78,8 +86,8 @@ class ObservationForm {
   /// it was.
   [[nodiscard]] bool leave(Field field);
   /// A whole group was typed ("41/96"): each of its symbols goes through its field's editor, all or
-  /// none are stored. A wrong length, indicator or character is refused with "Input error ". True
-  /// when accepted.
+  /// none are stored. A wrong length, indicator or character is refused with "Input error ", and so
+  /// is a value without its sign or degrees ("2/050", "99//5"). True when accepted.
   [[nodiscard]] bool leave_group(observation::Group group, std::string_view typed);
   /// Hemispheres chosen beside the position: index 0 north or east, 1 south or west, -1 not chosen.
   /// Qc is set when both are known, else emptied.
@@ -98,8 +106,11 @@ class ObservationForm {
   /// Both bulbs and the state of the wet one together. What follows is computed from all of them
   /// only, so that a dew point that cannot be computed leaves the earlier one.
   void put_bulbs(std::string_view dry, std::string_view wet, WetBulbState state);
-  /// Changes the record directly, as a code dialog does; fields whose figures changed show them.
-  void change(const std::function<void(Struct_Weather&)>& change);
+  /// Changes the record directly, as a code dialog does; fields whose figures changed show them,
+  /// and so do those `of_dialog` in any case: a text that was refused there gives way to what the
+  /// dialog said.
+  void change(const std::function<void(Struct_Weather&)>& change,
+              std::initializer_list<Field> of_dialog = {});
   /// After the ship's fixed data were changed.
   void ship_changed();
   /// After the barometer card or its loading state was changed: the pressure is reduced anew, and
@@ -134,16 +145,24 @@ class ObservationForm {
     return {record_, texts_, typed_, error_, wet_bulb_, north_south_, east_west_};
   }
   void restore(const State& state);
+  /// What typing a group has brought so far: the fields that were edited, and the questions that
+  /// are asked once nothing refuses.
+  struct TypedGroup {
+    std::vector<Field> taken;
+    std::vector<int> questions;
+  };
   [[nodiscard]] bool take_symbol(std::string Struct_Weather::*member, std::string_view figures,
-                                 std::vector<Field>& taken);
-  [[nodiscard]] bool take_tenths(std::string Struct_Weather::*member, std::string_view figure,
-                                 std::vector<Field>& taken);
-  [[nodiscard]] bool take_large_speed(std::string_view figures, std::vector<Field>& taken);
-  [[nodiscard]] Field field_of_member(std::string Struct_Weather::*member) const;
+                                 TypedGroup& typed);
+  void take_tenths(std::string Struct_Weather::*member, std::string_view figure, TypedGroup& typed);
+  [[nodiscard]] bool take_large_speed(std::string_view figures, TypedGroup& typed);
+  [[nodiscard]] std::optional<Field> field_of_member(std::string Struct_Weather::*member) const;
   [[nodiscard]] std::optional<Field> field_of_sign(std::string Struct_Weather::*member) const;
-  [[nodiscard]] bool take_field(Field field, std::string_view figures);
+  [[nodiscard]] bool take_field(Field field, std::string_view figures, TypedGroup& typed);
   [[nodiscard]] bool signed_value_accepted(Field field, const Struct_Weather& before);
-  [[nodiscard]] bool group_accepted(const Struct_Weather& before, const std::vector<Field>& taken);
+  [[nodiscard]] bool rules_kept(const observation::GroupRow& row, const Struct_Weather& before,
+                                const std::vector<Field>& taken) const;
+  [[nodiscard]] bool group_accepted(const observation::GroupRow& row, const Struct_Weather& before,
+                                    const TypedGroup& typed);
   [[nodiscard]] Field air_field() const;
   [[nodiscard]] std::optional<std::string> accept(Field field, const std::string& typed);
   [[nodiscard]] bool follows_rules(Field field, const std::string& value);
@@ -169,12 +188,13 @@ class ObservationForm {
   void compute_humidity();
   void compute_true_wind();
   void forget_dew_point();
+  [[nodiscard]] bool dew_point_is_of_bulbs() const;
+  [[nodiscard]] std::optional<Celsius> dew_point_of_bulbs() const;
   [[nodiscard]] ApparentWindTexts apparent_wind() const;
-  /// The last text that was accepted; what is being typed does not count yet.
-  [[nodiscard]] const std::string& entered(Field field) const;
   void show_changes(const Struct_Weather& before, std::optional<Field> except = std::nullopt);
   [[nodiscard]] std::string shown(Field field, const Struct_Weather& record) const;
   void touch(const Struct_Weather& before);
+  void put_unused_aside();
   void set_humidity(std::string display, std::string logbook);
 
   const ShipFixedData& ship_;
@@ -188,15 +208,18 @@ class ObservationForm {
   std::array<bool, kFields> error_{};
   std::array<std::string, kFields> before_typing_;  ///< what stood there before a typed text
   std::array<std::optional<std::string>, kFields>
-      put_aside_;  ///< entries of elements that were switched off
+      put_aside_;  ///< entries of elements that were switched off, of a recorder that is not there
   WetBulbState wet_bulb_ = WetBulbState::kNotSet;
   int north_south_ = -1;
   int east_west_ = -1;
-  std::string pppp_of_reading_;      ///< what the barometer reading gave
-  DewPointMethod dew_point_method_;  ///< the one that the fields' texts are made for
+  std::string pppp_of_reading_;                  ///< what the barometer reading gave
+  std::string dew_point_of_bulbs_;               ///< SnTd and TdTdTd as the bulbs gave them
+  DewPointMethod dew_point_method_;              ///< the one that the fields' texts are made for
+  SeaTemperatureMethod sea_temperature_method_;  ///< the one that Ss was made for
   bool error_flag_ = false;
   bool modified_ = false;
   bool review_due_ = false;
+  bool doubled_pressure_due_ = false;
 };
 
 }  // namespace elements

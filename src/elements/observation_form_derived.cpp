@@ -2,6 +2,7 @@
 // the position.
 
 #include "elements/barometer_correction.h"
+#include "elements/field_codes.h"
 #include "elements/observation_form.h"
 #include "elements/psychrometer.h"
 #include "elements/relative_humidity.h"
@@ -88,35 +89,56 @@ void ObservationForm::card_changed() {
   touch(before);
 }
 
-void ObservationForm::compute_dew_point() {
-  if (ship_.dew_point_method != DewPointMethod::kComputed) return;
-  const auto td = dew_point_of_texts(entered(Field::kDryBulb), entered(Field::kWetBulb),
-                                     entered(Field::kReading), ship_.card, wet_bulb_);
-  if (!td) return;
-  const TemperatureFigures figures = temperature_figures(*td);
-  record_.SnTd = figures.sign;
-  record_.TdTdTd = figures.figures;
-  if (ship_.humidity_method != HumidityMethod::kComputed) return;
-  if (const auto humidity = humidity_of_texts(entered(Field::kDryBulb), figures.text)) {
-    set_humidity(humidity->display, humidity->logbook);
-  }
+std::optional<Celsius> ObservationForm::dew_point_of_bulbs() const {
+  return dew_point_of_texts(entered(Field::kDryBulb), entered(Field::kWetBulb),
+                            entered(Field::kReading), ship_.card, wet_bulb_);
 }
 
-// Without both bulbs there is no dew point; that of an earlier entry would be another air's.
+bool ObservationForm::dew_point_is_of_bulbs() const {
+  return !dew_point_of_bulbs_.empty() && record_.SnTd + record_.TdTdTd == dew_point_of_bulbs_;
+}
+
+void ObservationForm::compute_dew_point() {
+  if (ship_.dew_point_method != DewPointMethod::kComputed) return;
+  const auto td = dew_point_of_bulbs();
+  if (!td) {
+    // Bulbs that are there but too dry for the formula leave the earlier dew point, which the list
+    // of a save then names. Its humidity was that of other bulbs.
+    if (air_temperature_of(entered(Field::kDryBulb)) &&
+        air_temperature_of(entered(Field::kWetBulb))) {
+      if (ship_.humidity_method == HumidityMethod::kComputed) set_humidity({}, {});
+    } else {
+      forget_dew_point();
+    }
+    return;
+  }
+  const TemperatureFigures figures = temperature_figures(*td);
+  const std::string earlier = record_.SnTd + record_.TdTdTd;
+  record_.SnTd = figures.sign;
+  record_.TdTdTd = figures.figures;
+  dew_point_of_bulbs_ = figures.sign + figures.figures;
+  if (ship_.card.type == CardType::kNotChosen && earlier != dew_point_of_bulbs_)
+    doubled_pressure_due_ = !messages_suppressed;
+  compute_humidity();
+}
+
+// A dew point does not outlive the bulbs that gave it; one that was typed as a group stays.
 void ObservationForm::forget_dew_point() {
   if (ship_.dew_point_method != DewPointMethod::kComputed) return;
-  record_.SnTd.clear();
-  record_.TdTdTd.clear();
-  if (ship_.humidity_method == HumidityMethod::kComputed) set_humidity({}, {});
+  if (dew_point_is_of_bulbs()) {
+    record_.SnTd.clear();
+    record_.TdTdTd.clear();
+  }
+  dew_point_of_bulbs_.clear();
+  compute_humidity();
 }
 
 void ObservationForm::compute_humidity() {
-  if (ship_.dew_point_method == DewPointMethod::kComputed ||
-      ship_.humidity_method != HumidityMethod::kComputed)
-    return;
-  const auto humidity =
-      humidity_of_texts(entered(Field::kAirTemperature), entered(Field::kDewPoint));
-  if (humidity) {
+  if (ship_.humidity_method != HumidityMethod::kComputed) return;
+  const std::string dew_point = ship_.dew_point_method == DewPointMethod::kComputed
+                                    ? temperature_shown(record_.SnTd, record_.TdTdTd)
+                                    : entered(Field::kDewPoint);
+  if (const auto humidity = humidity_of_texts(entered(air_field()), dew_point)) {
     set_humidity(humidity->display, humidity->logbook);
   } else {
     set_humidity({}, {});

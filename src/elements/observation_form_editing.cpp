@@ -12,6 +12,7 @@
 #include "elements/pressure_tendency.h"
 #include "elements/relative_humidity.h"
 #include "elements/sea_level_pressure.h"
+#include "elements/sea_temperature_figures.h"
 #include "elements/temperature_figures.h"
 #include "elements/true_wind.h"
 #include "elements/true_wind_rules.h"
@@ -71,7 +72,9 @@ std::array<std::string, 2> ObservationForm::named_bounds(Field field) const {
 bool ObservationForm::refuse_range(Field field) const {
   if (messages_suppressed) return false;
   const auto bounds = named_bounds(field);
-  messages_.error_filled(range_message(field), {bounds[0], bounds[1]});
+  const EditorRow& row = editor_of(field);
+  messages_.error_filled(range_message(field), {bounds[0], bounds[1]},
+                         row.shows_check ? row.check_text : 0);
   return false;
 }
 
@@ -192,7 +195,7 @@ bool ObservationForm::refuse_entry(Field field) {
   return refuse_range(field);
 }
 
-std::vector<std::string> ObservationForm::refused_entries() const {
+std::vector<std::string> ObservationForm::remarks() const {
   std::vector<std::string> messages;
   for (std::size_t i = 0; i < kFields; ++i) {
     const auto field = static_cast<Field>(i);
@@ -200,6 +203,13 @@ std::vector<std::string> ObservationForm::refused_entries() const {
     if (!error_[i] && (field == Field::kYY || !impossible(field))) continue;
     const auto bounds = named_bounds(field);
     messages.push_back(text::fill(language_.get(range_message(field)), {bounds[0], bounds[1]}));
+  }
+  if (ship_.dew_point_method == DewPointMethod::kComputed && dew_point_is_of_bulbs()) {
+    if (!dew_point_of_bulbs()) {
+      messages.emplace_back(language_.get(id::kDewPointOfEarlierBulbs));
+    } else if (ship_.card.type == CardType::kNotChosen) {
+      messages.emplace_back(language_.get(id::kDoubledPressure));
+    }
   }
   return messages;
 }
@@ -217,7 +227,8 @@ bool ObservationForm::confirmed(Field field, const std::string& value) {
 // The exact time stands beside the nominal hour; more than half an hour away it is probably another
 // hour's.
 bool ObservationForm::is_far_from_hour(const std::string& hour, const std::string& minute) const {
-  if (record_.GG.empty() || !text::is_all_digits(hour) || !text::is_all_digits(minute))
+  if (!text::is_all_digits(record_.GG) || !text::is_all_digits(hour) ||
+      !text::is_all_digits(minute))
     return false;
   constexpr int kDay = 24 * 60;
   constexpr int kFar = 30;
@@ -317,6 +328,7 @@ void ObservationForm::store(Field field, const std::string& value) {
 }
 
 void ObservationForm::store_temperature(Field field, const std::string& value) {
+  if (!text::number_at_start(value)) return;  // "///": its group has stored it
   const TemperatureFigures t = temperature_figures(Celsius{text::leading_number(value)});
   switch (field) {
     case Field::kDewPoint:
@@ -330,11 +342,9 @@ void ObservationForm::store_temperature(Field field, const std::string& value) {
       record_.TbTbTb = t.figures;
       break;
     case Field::kTwTwTw: {
-      // The sign stands with the method (code table 3850): even figures zero or above, odd below.
-      const int kept = record_.Ss.size() == 1 && text::is_all_digits(record_.Ss)
-                           ? text::leading_int(record_.Ss) / 2
-                           : static_cast<int>(ship_.sea_temperature_method);
-      record_.Ss = text::format_int(kept * 2 + (t.sign == "1" ? 1 : 0));
+      const auto method = sea_temperature_method(record_.Ss);
+      record_.Ss =
+          sea_temperature_sign(method.value_or(ship_.sea_temperature_method), t.sign == "1");
       record_.TwTwTw = t.figures;
       break;
     }

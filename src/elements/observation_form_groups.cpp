@@ -50,6 +50,12 @@ constexpr MemberField kSignedFields[] = {
     {&W::TwTwTw, Field::kTwTwTw},
 };
 
+const SignRow* sign_row(std::string W::*member) {
+  const auto* const at = std::find_if(std::begin(kSigns), std::end(kSigns),
+                                      [&](const SignRow& row) { return row.member == member; });
+  return at == std::end(kSigns) ? nullptr : at;
+}
+
 // Symbols of a group that is written only when it is set: solidi say that it is not.
 bool is_kept_group(std::string W::*member) {
   return member == &W::gg || member == &W::GGExact;
@@ -57,6 +63,28 @@ bool is_kept_group(std::string W::*member) {
 
 bool all_of(std::string_view figures, char c) {
   return figures.find_first_not_of(c) == std::string_view::npos;
+}
+
+// A value is known with its sign, its hemisphere and its degrees, or not at all: "2/050" would be
+// sent as a temperature of which nobody knows whether it is above zero. Only the hemisphere may
+// still be to come ("*"), for it is chosen beside the figures.
+bool values_are_whole(const observation::GroupRow& row, std::string_view figures) {
+  const auto has_digit = [](std::string_view text) {
+    return text.find_first_of("0123456789") != std::string_view::npos;
+  };
+  std::size_t place = row.indicator.size();
+  for (const Symbol& symbol : row.used()) {
+    const std::string_view part = figures.substr(place, symbol.width);
+    const std::string_view behind = figures.substr(place += symbol.width);
+    const bool leads =
+        sign_row(symbol.field) != nullptr || symbol.field == &W::LaDeg || symbol.field == &W::LoDeg;
+    if (!leads) continue;
+    if (all_of(part, '/') && !all_of(behind, '/')) return false;
+    if (all_of(part, '*') && sign_row(symbol.field) != nullptr && symbol.field != &W::Qc &&
+        has_digit(behind))
+      return false;
+  }
+  return true;
 }
 
 // The group's figures with its indicator, however it was typed; empty when length or characters
@@ -106,21 +134,22 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
   }
   if (figures.empty()) return refuse(id::kInputError);
   if (figures == group_text(group)) return true;
+  if (!values_are_whole(row, figures)) return refuse(id::kInputError);
 
   const State before = state();
-  std::vector<Field> taken;
+  TypedGroup entry;
   std::size_t place = row.indicator.size();
   for (const Symbol& symbol : row.used()) {
     const std::string_view part = std::string_view(figures).substr(place, symbol.width);
     place += symbol.width;
-    const bool kept = symbol.figures == Figures::kTenths ? take_tenths(symbol.field, part, taken)
-                                                         : take_symbol(symbol.field, part, taken);
-    if (!kept) {
+    if (symbol.figures == Figures::kTenths) {
+      take_tenths(symbol.field, part, entry);
+    } else if (!take_symbol(symbol.field, part, entry)) {
       restore(before);
       return false;
     }
   }
-  if (!group_accepted(before.record, taken)) {
+  if (!group_accepted(row, before.record, entry)) {
     restore(before);
     return false;
   }
@@ -133,26 +162,45 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
   for (const Field field : {air_field(), Field::kDewPoint, Field::kWetBulb}) {
     if (signed_value(field, record_) != signed_value(field, before.record) ||
         (field == Field::kWetBulb && record_.Sw != before.record.Sw))
-      taken.push_back(field);
+      entry.taken.push_back(field);
   }
-  for (const Field field : taken) follow(field);
+  for (const Field field : entry.taken) follow(field);
   touch(before.record);
+  return true;
+}
+
+// Rules that the group's fields raise: those of the figures that were typed anew, and those that
+// were kept before. Who types the direction 00 beside a speed of 12 has typed both.
+bool ObservationForm::rules_kept(const observation::GroupRow& row, const Struct_Weather& before,
+                                 const std::vector<Field>& taken) const {
+  for (const Field field : taken) {
+    if (const CrossRule* const rule = broken_by(field, record_)) return refuse(rule->message);
+  }
+  for (const Symbol& symbol : row.used()) {
+    const auto field = field_of_member(symbol.field);
+    if (!field) continue;
+    const CrossRule* const rule = broken_by(*field, record_);
+    if (rule != nullptr && !rule->broken(before)) return refuse(rule->message);
+  }
   return true;
 }
 
 // What the symbols must keep together: values with their signs, the rules of the editors that were
 // run, and last the questions.
-bool ObservationForm::group_accepted(const Struct_Weather& before,
-                                     const std::vector<Field>& taken) {
+bool ObservationForm::group_accepted(const observation::GroupRow& row, const Struct_Weather& before,
+                                     const TypedGroup& typed) {
   for (const Field field : {air_field(), Field::kDewPoint, Field::kWetBulb, Field::kTwTwTw}) {
     if (!signed_value_accepted(field, before)) return false;
   }
-  for (const Field field : taken) {
-    if (const CrossRule* const rule = broken_by(field, record_)) return refuse(rule->message);
+  if (!rules_kept(row, before, typed.taken)) return false;
+  for (const Field field : typed.taken) {
     if ((field == Field::kLaMin || field == Field::kLoMin) && impossible(field))
       return refuse_range(field);
   }
-  for (const Field field : taken) {
+  for (const int question : typed.questions) {
+    if (!ask(question)) return false;
+  }
+  for (const Field field : typed.taken) {
     const std::string Struct_Weather::*const member = member_of(field);
     if (member == nullptr || (record_.*member).empty()) continue;
     if (!confirmed(field, shown_from_record(field, record_))) return false;
@@ -168,45 +216,49 @@ bool ObservationForm::signed_value_accepted(Field field, const Struct_Weather& b
 }
 
 // A tenth of a degree becomes the first minute that gives it.
-bool ObservationForm::take_tenths(std::string W::*member, std::string_view figure,
-                                  std::vector<Field>& taken) {
+void ObservationForm::take_tenths(std::string W::*member, std::string_view figure,
+                                  TypedGroup& typed) {
   if (figure == "*" || figure == "/") {
     (record_.*member).clear();
   } else if (text::leading_int(figure) != text::leading_int(record_.*member) / 6 ||
              (record_.*member).empty()) {
     record_.*member = text::format_int(6LL * (figure.front() - '0'), 2, '0');
   }
-  taken.push_back(member == &W::LaMin ? Field::kLaMin : Field::kLoMin);
-  return true;
+  typed.taken.push_back(member == &W::LaMin ? Field::kLaMin : Field::kLoMin);
 }
 
 bool ObservationForm::take_symbol(std::string W::*member, std::string_view figures,
-                                  std::vector<Field>& taken) {
+                                  TypedGroup& typed) {
   std::string& field_text = record_.*member;
   if (figures == std::string_view(field_text)) return true;
   // A masked second swell direction is no entry.
   if (all_of(figures, '*')) {
-    if (!(member == &W::dw2dw2 && field_text == "00")) field_text.clear();
+    if (member == &W::dw2dw2 && field_text == "00") return true;
+    const auto field = field_of_member(member);
+    if (field && switched_off(*field)) return true;  // solidi that the program put there
+    field_text.clear();
+    if (member == &W::ff) record_.fff.clear();
+    // What was computed from it is due.
+    if (field) typed.taken.push_back(*field);
     return true;
   }
   if (figures.find('*') != std::string_view::npos) return refuse(id::kInputError);
   if (member == &W::iR || member == &W::iX || member == &W::iw) return refuse(id::kInputError);
-  for (const SignRow& sign : kSigns) {
-    if (sign.member != member) continue;
-    if (!all_of(figures, '/') && sign.allowed.find(figures) == std::string_view::npos)
-      return refuse(sign.message);
+  if (const SignRow* const sign = sign_row(member)) {
+    if (!all_of(figures, '/') && sign->allowed.find(figures) == std::string_view::npos)
+      return refuse(sign->message);
     field_text = figures;
     // The value has changed with its sign, so its rules and what follows from it are due.
-    if (const auto field = field_of_sign(member)) taken.push_back(*field);
+    if (const auto field = field_of_sign(member)) typed.taken.push_back(*field);
     return true;
   }
   const bool unknown = all_of(figures, '/');
-  if (member == &W::fff) return take_large_speed(figures, taken);
+  if (member == &W::fff) return take_large_speed(figures, typed);
   if (member == &W::ff) record_.fff.clear();
-  const Field field = field_of_member(member);
-  if (switched_off(field)) return refuse(id::kInputError);
-  if (!unknown && !take_field(field, figures)) return false;
-  taken.push_back(field);
+  const auto field = field_of_member(member);
+  if (!field || switched_off(*field)) return refuse(id::kInputError);
+  if (!unknown && !take_field(*field, figures, typed)) return false;
+  typed.taken.push_back(*field);
   if (member == &W::PPPP) {
     store_pppp(record_, std::string(figures));
   } else if (unknown && is_kept_group(member)) {
@@ -225,36 +277,37 @@ std::optional<Field> ObservationForm::field_of_sign(std::string W::*member) cons
   return std::nullopt;  // the quadrant
 }
 
-Field ObservationForm::field_of_member(std::string W::*member) const {
+std::optional<Field> ObservationForm::field_of_member(std::string W::*member) const {
   if (member == &W::TTT) return air_field();
   if (member == &W::PPPP) return Field::kPPPP;
-  if (member == &W::ff) return Field::kff;
+  if (member == &W::ff || member == &W::fff) return Field::kff;
   for (const MemberField& row : kSignedFields) {
     if (row.member == member) return row.field;
   }
   for (std::size_t i = 0; i < kFields; ++i) {
     if (member_of(static_cast<Field>(i)) == member) return static_cast<Field>(i);
   }
-  return Field::kYear;  // no group has a symbol without a field
+  return std::nullopt;  // signs, and what the ship and the program put in
 }
 
 // 00fff holds a speed of 99 and more, and is not written without one.
-bool ObservationForm::take_large_speed(std::string_view figures, std::vector<Field>& taken) {
+bool ObservationForm::take_large_speed(std::string_view figures, TypedGroup& typed) {
   constexpr int kLowest = 99;
-  taken.push_back(Field::kff);
+  typed.taken.push_back(Field::kff);
   if (all_of(figures, '/')) {
     record_.fff.clear();
     return true;
   }
   if (!text::is_all_digits(figures) || text::leading_int(figures) < kLowest)
-    return refuse_range(Field::kff);
+    return refuse(id::kLargeSpeedRange);
+  typed.questions.push_back(editor_of(Field::kff).warning);
   record_.ff = "99";
   record_.fff = figures;
   return true;
 }
 
 // The field's own test on the figures as the field would show them.
-bool ObservationForm::take_field(Field field, std::string_view figures) {
+bool ObservationForm::take_field(Field field, std::string_view figures, TypedGroup& typed) {
   if (field == Field::kPPPP) {
     std::string value(figures);
     return pressure_accepted(field, value);
@@ -271,7 +324,8 @@ bool ObservationForm::take_field(Field field, std::string_view figures) {
   }
   const Checked checked = check_field(editor_of(field), shown_text, bounds_of(field));
   if (checked.verdict == Verdict::kRefused) return refuse_range(field);
-  return checked.verdict == Verdict::kAccepted || ask(editor_of(field).warning);
+  if (checked.verdict == Verdict::kAsks) typed.questions.push_back(editor_of(field).warning);
+  return true;
 }
 
 }  // namespace elements

@@ -37,7 +37,7 @@ int movement_message(MovementWarning warning) {
 }  // namespace
 
 std::optional<SignedPosition> signed_position(const Struct_Weather& record) {
-  if (!record.has_latitude() || !record.has_longitude()) return std::nullopt;
+  if (!record.position()) return std::nullopt;
   constexpr double kMinutes = 60.0;
   const auto degrees = [](const std::string& whole, const std::string& minutes) {
     return text::leading_int(whole) + text::leading_int(minutes) / kMinutes;

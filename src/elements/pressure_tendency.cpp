@@ -21,7 +21,8 @@ TendencyKind tendency_kind(std::string_view a, std::string_view amount) {
   if (a == kUnknownCode) return TendencyKind::kUnknown;
   const int code = text::leading_int(a);
   const TendencyKind by_code = code > 3 ? TendencyKind::kDescended : TendencyKind::kRisen;
-  if (amount.empty()) return code == 0 || code == 4 || code == 5 ? TendencyKind::kSame : by_code;
+  if (!text::number_at_start(amount))
+    return code == 0 || code == 4 || code == 5 ? TendencyKind::kSame : by_code;
   const int whole = text::leading_int(amount);
   if (whole == 0) return TendencyKind::kSame;
   return whole > 0 ? by_code : TendencyKind::kDescended;

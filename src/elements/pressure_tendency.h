@@ -11,7 +11,8 @@ namespace elements {
 enum class TendencyKind { kRisen = 0, kSame = 1, kDescended = 2, kUnknown = 3 };
 
 /// Line of the first list for the current figures; `amount` is in hPa. Its whole hPa count, so an
-/// amount below 1.0 counts as "the same".
+/// amount below 1.0 counts as "the same"; where it is missing (empty, "///") the characteristic
+/// alone decides.
 [[nodiscard]] TendencyKind tendency_kind(std::string_view a, std::string_view amount);
 
 /// The characteristics that the second list offers for a line of the first, in order: "0123",

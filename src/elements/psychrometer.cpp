@@ -10,8 +10,8 @@ namespace elements {
 namespace {
 
 constexpr double kZeroCelsiusInKelvin = 273.15;
-constexpr double kTriplePoint = 273.16;  // K
-constexpr std::string_view kStandardReading = "1013.2";
+constexpr double kTriplePoint = 273.16;      // K
+constexpr double kStandardReading = 1013.2;  // hPa, where there is no reading
 
 double power_of_ten(double exponent) {
   return std::pow(10.0, exponent);
@@ -99,14 +99,13 @@ Celsius dew_point(Celsius dry, Celsius wet, Hectopascal sea_level, WetBulbState 
 std::optional<Celsius> dew_point_of_texts(std::string_view dry, std::string_view wet,
                                           std::string_view reading, const BarometerCard& card,
                                           WetBulbState state) {
-  dry = text::trim(dry);
-  wet = text::trim(wet);
-  reading = text::trim(reading);
-  if (dry.empty() || wet.empty()) return std::nullopt;
-  if (reading.empty()) reading = kStandardReading;
-  const Celsius dry_bulb{text::leading_number(dry)};
-  const Celsius wet_bulb{text::leading_number(wet)};
-  const Hectopascal sea_level = sea_level_pressure({text::leading_number(reading)}, card, dry_bulb);
+  const auto dry_degrees = text::number_at_start(dry);
+  const auto wet_degrees = text::number_at_start(wet);
+  if (!dry_degrees || !wet_degrees) return std::nullopt;
+  const Celsius dry_bulb{*dry_degrees};
+  const Celsius wet_bulb{*wet_degrees};
+  const Hectopascal read{text::number_at_start(reading).value_or(kStandardReading)};
+  const Hectopascal sea_level = sea_level_pressure(read, card, dry_bulb);
   const Celsius result = dew_point(dry_bulb, wet_bulb, sea_level, state);
   if (wet_bulb.value > dry_bulb.value || result.value == kNotComputable) return std::nullopt;
   return result;

@@ -48,9 +48,10 @@ struct DewPointSearch {
 [[nodiscard]] Celsius dew_point(Celsius dry, Celsius wet, Hectopascal sea_level,
                                 WetBulbState state);
 
-/// The dew point from the fields' texts: an empty barometer reading counts as 1013.2 hPa, the
-/// reading gets its total correction with the dry bulb as air temperature. Nothing when dry or wet
-/// bulb is empty, the wet bulb is above the dry bulb, or it cannot be computed.
+/// The dew point from the fields' texts: a barometer reading that is missing counts as 1013.2 hPa,
+/// the reading gets its total correction with the dry bulb as air temperature. Nothing when dry or
+/// wet bulb is no number (empty, "///"), the wet bulb is above the dry bulb, or it cannot be
+/// computed.
 [[nodiscard]] std::optional<Celsius> dew_point_of_texts(std::string_view dry, std::string_view wet,
                                                         std::string_view reading,
                                                         const BarometerCard& card,

@@ -55,11 +55,10 @@ std::string shown_humidity(std::string_view text, bool whole_percent) {
 }
 
 std::optional<HumidityTexts> humidity_of_texts(std::string_view air, std::string_view dew_point) {
-  air = text::trim(air);
-  dew_point = text::trim(dew_point);
-  if (air.empty() || dew_point.empty()) return std::nullopt;
-  const Percent humidity =
-      relative_humidity({text::leading_number(air)}, {text::leading_number(dew_point)});
+  const auto t = text::number_at_start(air);
+  const auto td = text::number_at_start(dew_point);
+  if (!t || !td) return std::nullopt;
+  const Percent humidity = relative_humidity({*t}, {*td});
   if (humidity.value == kNotComputable) return std::nullopt;
   return humidity_texts(humidity);
 }

@@ -23,8 +23,9 @@ struct HumidityTexts {
 };
 [[nodiscard]] HumidityTexts humidity_texts(Percent humidity);
 
-/// Both texts from the texts of air temperature and dew point; nothing when one is empty or the
-/// humidity cannot be computed, and the form's humidity is then empty.
+/// Both texts from the texts of air temperature and dew point; nothing when one is no number
+/// (empty,
+/// "///") or the humidity cannot be computed, and the form's humidity is then empty.
 [[nodiscard]] std::optional<HumidityTexts> humidity_of_texts(std::string_view air,
                                                              std::string_view dew_point);
 

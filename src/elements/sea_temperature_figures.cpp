@@ -33,15 +33,22 @@ SeaTemperatureFigures sea_temperature_figures(Celsius t, SeaTemperatureMethod me
   if (has_sign) figures.erase(0, 1);
   while (figures.size() < 3) figures.insert(0, 1, '0');
   const bool below_zero = has_sign && figures != "000";
-  return {text::format_int(2 * static_cast<int>(method) + (below_zero ? 1 : 0)), figures};
+  return {sea_temperature_sign(method, below_zero), figures};
 }
 
 std::string sea_temperature_text(std::string_view Ss, std::string_view TwTwTw) {
   if (!text::is_all_digits(TwTwTw)) return {};
   const double degrees = text::leading_int(TwTwTw) / 10.0;
-  const bool below_zero =
-      sea_temperature_method(Ss) && (Ss.front() - '0') % 2 == 1 && degrees > 0.0;
+  const bool below_zero = is_below_zero(Ss) && degrees > 0.0;
   return (below_zero ? "-" : "") + text::format_fixed(degrees, 1);
+}
+
+std::string sea_temperature_sign(SeaTemperatureMethod method, bool below_zero) {
+  return text::format_int(2 * static_cast<int>(method) + (below_zero ? 1 : 0));
+}
+
+bool is_below_zero(std::string_view Ss) {
+  return sea_temperature_method(Ss) && (Ss.front() - '0') % 2 == 1;
 }
 
 std::optional<SeaTemperatureMethod> sea_temperature_method(std::string_view Ss) {

@@ -28,6 +28,11 @@ struct SeaTemperatureFigures {
 /// table counts as zero or above.
 [[nodiscard]] std::string sea_temperature_text(std::string_view Ss, std::string_view TwTwTw);
 
+/// Ss of a method: even figures at zero and above, odd ones below.
+[[nodiscard]] std::string sea_temperature_sign(SeaTemperatureMethod method, bool below_zero);
+/// False for figures that are not of the table, and for a missing one.
+[[nodiscard]] bool is_below_zero(std::string_view Ss);
+
 /// The method in Ss, nothing when it is not of the table.
 [[nodiscard]] std::optional<SeaTemperatureMethod> sea_temperature_method(std::string_view Ss);
 

@@ -55,14 +55,15 @@ TrueWind true_wind(const ApparentWind& apparent) {
 }
 
 std::optional<TrueWindTexts> true_wind_of_texts(const ApparentWindTexts& texts) {
+  const auto missing = [](const std::string& typed) { return !text::number_at_start(typed); };
   const std::string direction = text::without_spaces(texts.direction);
   const std::string speed = text::without_spaces(texts.speed);
   std::string heading = text::without_spaces(texts.heading);
   std::string course = text::without_spaces(texts.course);
   const std::string ship_speed = text::without_spaces(texts.ship_speed);
-  if (heading.empty()) heading = course;
-  if (course.empty()) course = heading;
-  if (direction.empty() || speed.empty() || heading.empty() || ship_speed.empty())
+  if (missing(heading)) heading = course;
+  if (missing(course)) course = heading;
+  if (missing(direction) || missing(speed) || missing(heading) || missing(ship_speed))
     return std::nullopt;
   const TrueWind wind = true_wind({.course = {text::leading_int(course)},
                                    .heading = {text::leading_int(heading)},

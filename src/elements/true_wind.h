@@ -42,7 +42,8 @@ struct TrueWindTexts {
 };
 
 /// The form's five texts, blanks removed. One of heading and course may be empty and is then taken
-/// equal to the other. Nothing when an input is missing: the form's true wind is then emptied.
+/// equal to the other. Nothing when an input is no number: the form's true wind is then
+/// emptied.
 struct ApparentWindTexts {
   std::string direction, speed, heading, course, ship_speed;
   bool operator==(const ApparentWindTexts&) const = default;

@@ -5,8 +5,7 @@
 namespace elements {
 
 double true_wind_speed(std::string_view speed) {
-  if (speed.empty() || speed == "//" || speed == "   ") return kUnknownSpeed;
-  return text::leading_number(speed);
+  return text::number_at_start(speed).value_or(kUnknownSpeed);
 }
 
 std::string true_wind_direction(std::string_view direction) {

@@ -10,7 +10,7 @@ namespace elements {
 /// Speed that stands for one that is unknown.
 inline constexpr double kUnknownSpeed = -9999.9;
 
-/// The speed's number; kUnknownSpeed when the text is empty, "//" or three blanks.
+/// The speed's number; kUnknownSpeed when there is none (empty, blanks, "//").
 [[nodiscard]] double true_wind_speed(std::string_view speed);
 
 /// A direction of "0" is "00"; every other text stays.

@@ -99,12 +99,13 @@ bool CVelmaranDlg::open_element(int element) {
     const auto refused = std::find_if(fields_.begin(), fields_.end(), [&](const Field& f) {
       return f.row->element == element && f.value && form_.in_error(*f.value);
     });
-    if (refused != fields_.end()) {
+    typing_ = refused != fields_.end();
+    if (typing_) {
       focus(*refused->control);
     } else {
       focus_behind(last_field_of(element));
     }
-    review_position();
+    tell_doubts();
   }
   return confirmed;
 }
@@ -113,6 +114,10 @@ bool CVelmaranDlg::open_element(int element) {
 // stays in the field; once the officer knows that, F1 only opens the dialog.
 void CVelmaranDlg::on_f1(ui::Control* focused) {
   const Field* const field = field_of(focused);
+  if (const int why = field == nullptr ? 0 : why_locked(*field->row); why != 0) {
+    services().messages.error(why);
+    return;
+  }
   if (field != nullptr && field->value && !form_.in_error(*field->value))
     static_cast<void>(leave(*field));
   open_element(field == nullptr ? mainwindow::kNoElement : field->row->element);
@@ -241,9 +246,11 @@ bool CVelmaranDlg::save() {
   if (!settle_focused()) return false;
   const mainwindow::SaveEnd end = mainwindow::save_observation(
       services(),
-      {form_.record(), context_.ship, context_.items, context_.folders, form_.refused_entries()});
+      {form_.record(), context_.ship, context_.items, context_.folders, form_.remarks()});
   if (end != mainwindow::SaveEnd::kSaved) return false;
+  // The officer has seen in the list what was refused, and saved without it.
   form_.saved();
+  typing_ = false;
   saved_once_ = true;
   find_last_position();
   return true;
@@ -254,8 +261,10 @@ void CVelmaranDlg::find_last_position() {
   last_quadrant_ = position ? text::format_int(position->quadrant) : std::string();
 }
 
-// Is the ship where it can be? Warnings only, after a new date, hour or position.
-void CVelmaranDlg::review_position() {
+// Warnings only: is the ship where it can be, after a new date, hour or position; and is the dew
+// point one of this pressure.
+void CVelmaranDlg::tell_doubts() {
+  if (form_.take_doubled_pressure_due()) services().messages.error(id::kDoubledPressure);
   if (!form_.take_review_due()) return;
   CHour3ErrorDlg::show(services(), elements::review_position(
                                        form_.record(), services().files, context_.folders.reports,

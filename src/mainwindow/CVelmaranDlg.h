@@ -109,7 +109,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   /// True when the report was written; the entries stay.
   bool save();
   void find_last_position();
-  void review_position();
+  void tell_doubts();
 
   mainwindow::MainWindowContext context_;
   elements::ObservationForm form_;

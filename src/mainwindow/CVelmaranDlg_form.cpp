@@ -140,12 +140,14 @@ void CVelmaranDlg::refresh() {
 
 // Text id of the reason, 0 for a field that is open.
 int CVelmaranDlg::why_locked(const mainwindow::FieldRow& row) const {
-  if (const auto field = elements::field_named(row.name); field && form_.switched_off(*field))
-    return id::kWhyNotObserved;
-  if (row.needs_wave_recorder) return context_.ship.wave_recorder ? 0 : id::kWhyNoWaveRecorder;
+  if (const auto field = elements::field_named(row.name)) {
+    if (form_.switched_off(*field)) return id::kWhyNotObserved;
+    if (elements::needs_wave_recorder(*field))
+      return context_.ship.wave_recorder ? 0 : id::kWhyNoWaveRecorder;
+  }
   const mainwindow::ElementRow* const element = mainwindow::find_element(row.element);
-  return element != nullptr && element->use(context_) == Use::kOtherMethod ? id::kWhyOtherMethod
-                                                                           : 0;
+  if (element == nullptr || element->use(context_) != Use::kOtherMethod) return 0;
+  return row.computed ? id::kWhyComputed : id::kWhyOtherMethod;
 }
 
 // A field whose value the program computes or fills in is locked and shows it; one that has no
@@ -191,7 +193,10 @@ void CVelmaranDlg::show_report() {
     if (typing_ && group.control == focused()) continue;  // a group half typed is not taken away
     group.control->set(group_shown(group));
     const int label = observation::row_of(group.row->group).missing_label;
-    const bool lacks = label != 0 && missing.find(services().texts.get(label)) != std::string::npos;
+    const bool half_time = group.row->group == observation::Group::k9GGgg &&
+                           form_.record().gg.empty() != form_.record().GGExact.empty();
+    const bool lacks =
+        half_time || (label != 0 && missing.find(services().texts.get(label)) != std::string::npos);
     group.control->mark = lacks ? kMissing : std::string_view();
   }
 }
@@ -202,7 +207,7 @@ bool CVelmaranDlg::leave(const Field& field) {
   const bool accepted = form_.leave(*field.value);
   typing_ = typing_ && !accepted;
   refresh();
-  if (accepted) review_position();
+  if (accepted) tell_doubts();
   return accepted;
 }
 
@@ -219,14 +224,14 @@ bool CVelmaranDlg::leave_group(const ReportGroup& group) {
   }
   typing_ = false;
   refresh();
-  review_position();
+  tell_doubts();
   return true;
 }
 
 void CVelmaranDlg::hemispheres_chosen() {
   form_.choose_hemispheres(control_of("north_south")->selected, control_of("east_west")->selected);
   refresh();
-  review_position();
+  tell_doubts();
 }
 
 void CVelmaranDlg::loading_state_chosen() {

@@ -14,6 +14,7 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
+#include "elements/sea_level_pressure.h"
 #include "mainwindow/form_rows.h"
 #include "ship/CKataInputDlg.h"
 #include "text/numbers.h"
@@ -62,13 +63,15 @@ bool open_time(Opening& opening) {
   const Struct_Weather& record = opening.form.record();
   CUTCTimeDlg1 dialog(opening.services, {record.Year, record.Month, record.YY, record.GG});
   if (!confirmed(opening, dialog)) return false;
-  opening.form.change([&](Struct_Weather& r) {
-    const CUTCTimeDlg1::Values& v = dialog.values();
-    r.Year = v.Year;
-    r.Month = v.Month;
-    r.YY = v.YY;
-    r.GG = v.GG;
-  });
+  opening.form.change(
+      [&](Struct_Weather& r) {
+        const CUTCTimeDlg1::Values& v = dialog.values();
+        r.Year = v.Year;
+        r.Month = v.Month;
+        r.YY = v.YY;
+        r.GG = v.GG;
+      },
+      {Field::kYear, Field::kMonth, Field::kYY, Field::kGG});
   return true;
 }
 
@@ -78,14 +81,16 @@ bool open_position(Opening& opening) {
                       {record.LaDeg, record.LaMin, record.LoDeg, record.LoMin, record.Qc},
                       opening.last_quadrant, opening.context.is_on_land);
   if (!confirmed(opening, dialog)) return false;
-  opening.form.change([&](Struct_Weather& r) {
-    const CPositionDlg::Values& v = dialog.values();
-    r.LaDeg = v.LaDeg;
-    r.LaMin = v.LaMin;
-    r.LoDeg = v.LoDeg;
-    r.LoMin = v.LoMin;
-    r.Qc = v.Qc;
-  });
+  opening.form.change(
+      [&](Struct_Weather& r) {
+        const CPositionDlg::Values& v = dialog.values();
+        r.LaDeg = v.LaDeg;
+        r.LaMin = v.LaMin;
+        r.LoDeg = v.LoDeg;
+        r.LoMin = v.LoMin;
+        r.Qc = v.Qc;
+      },
+      {Field::kLaDeg, Field::kLaMin, Field::kLoDeg, Field::kLoMin});
   return true;
 }
 
@@ -98,10 +103,12 @@ bool open_course_and_speed(Opening& opening) {
 }
 
 // The reading is taken as if it had been typed: an unusual pressure at sea level asks, and No keeps
-// the pressure that was there.
+// the pressure that was there. Where no reading was or is given, a pressure that was typed by hand
+// is the only one there is, and stays.
 void take_reading(elements::ObservationForm& form, const std::string& reading) {
   if (reading.empty()) {
-    form.put(Field::kReading, {});
+    if (!form.entered(Field::kReading).empty()) form.put(Field::kReading, {});
+    form.change([](Struct_Weather&) {}, {Field::kReading});
     return;
   }
   form.type(Field::kReading, text::format_fixed(text::leading_number(reading), 1, 4));
@@ -114,10 +121,13 @@ bool open_pressure(Opening& opening) {
   MainWindowContext& context = opening.context;
   const bool psychrometer = context.ship.dew_point_method == DewPointMethod::kComputed;
   Dialog::Values values;
-  values.reading = form.text(Field::kReading);
-  values.air_temperature = form.text(psychrometer ? Field::kDryBulb : Field::kAirTemperature);
-  values.hour = form.text(Field::kGGExact);
-  values.minute = form.text(Field::kgg);
+  // What stands in the field, also refused, where the screen can show it.
+  const std::string& standing = form.text(Field::kReading);
+  const bool shows = elements::is_reading(elements::cut_to_one_decimal(standing));
+  values.reading = shows ? standing : form.entered(Field::kReading);
+  values.air_temperature = form.entered(psychrometer ? Field::kDryBulb : Field::kAirTemperature);
+  values.hour = form.record().GGExact;
+  values.minute = form.record().gg;
   values.time_choice = form.record().has_exact_time() ? Dialog::TimeChoice::kMoreThan10Minutes
                                                       : Dialog::TimeChoice::kUnder10Minutes;
   values.card = context.ship.card;
@@ -145,10 +155,12 @@ bool open_tendency(Opening& opening) {
   const Struct_Weather& record = opening.form.record();
   CPresureTendencyDlg dialog(opening.services, record.a, record.ppp);
   if (!confirmed(opening, dialog)) return false;
-  opening.form.change([&](Struct_Weather& r) {
-    r.a = dialog.a();
-    r.ppp = dialog.ppp();
-  });
+  opening.form.change(
+      [&](Struct_Weather& r) {
+        r.a = dialog.a();
+        r.ppp = dialog.ppp();
+      },
+      {Field::ka, Field::kppp});
   return true;
 }
 
@@ -185,10 +197,12 @@ bool open_sea_temperature(Opening& opening) {
   CSea_SurfaceTemperatureDlg dialog(opening.services, {record.Ss, record.TwTwTw},
                                     opening.context.ship.sea_temperature_method);
   if (!confirmed(opening, dialog)) return false;
-  opening.form.change([&](Struct_Weather& r) {
-    r.Ss = dialog.values().Ss;
-    r.TwTwTw = dialog.values().TwTwTw;
-  });
+  opening.form.change(
+      [&](Struct_Weather& r) {
+        r.Ss = dialog.values().Ss;
+        r.TwTwTw = dialog.values().TwTwTw;
+      },
+      {Field::kTwTwTw});
   return true;
 }
 

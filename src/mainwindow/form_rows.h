@@ -79,7 +79,6 @@ struct FieldRow {
   int element = kNoElement;
   FieldKind kind = FieldKind::kEdit;
   bool computed = false;  ///< with the other method the program computes it: locked, but shown
-  bool needs_wave_recorder = false;
 };
 [[nodiscard]] std::span<const FieldRow> field_rows();
 

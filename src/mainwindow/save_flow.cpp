@@ -9,6 +9,7 @@
 #include "observation/report_encoder.h"
 #include "observation/report_file.h"
 #include "text/ids.h"
+#include "text/strings.h"
 
 namespace mainwindow {
 namespace {
@@ -30,10 +31,12 @@ Encoded encode(const Saving& saving, text::Language language) {
   return encoded;
 }
 
+// One message is one line: its own line breaks become blanks, so that neither its words nor two
+// messages run together.
 void append_line(std::string& lines, std::string_view text) {
-  std::copy_if(text.begin(), text.end(), std::back_inserter(lines),
-               [](char c) { return c != '\r' && c != '\n'; });
-  lines.append(kLineEnd);
+  std::string line = text::replace_all(text, "\r\n", "\n");
+  line = text::replace_all(line, " \n", "\n");
+  lines.append(text::replace_all(line, "\n", " ")).append(kLineEnd);
 }
 
 bool has_date(const Saving& saving) {
@@ -118,7 +121,7 @@ std::string save_errors(const Saving& saving, const text::Texts& texts) {
   std::string errors = encode(saving, texts.language).missing;
   for (const elements::CrossRule* rule : elements::broken_rules(saving.record))
     append_line(errors, texts.get(rule->message));
-  for (const std::string& entry : saving.refused_entries) append_line(errors, entry);
+  for (const std::string& remark : saving.remarks) append_line(errors, remark);
   return errors;
 }
 

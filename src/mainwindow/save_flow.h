@@ -22,14 +22,15 @@ enum class SaveEnd {
   kCorrect,   ///< the officer chose to go back and correct
 };
 
-/// What a save looks at. The texts of entries that were refused and still stand in their fields are
-/// listed with what is missing and wrong, for the record does not hold them.
+/// What a save looks at. The remarks are listed with what is missing and wrong: entries that were
+/// refused and still stand in their fields, doubts about computed values; the record does not hold
+/// them.
 struct Saving {
   const Struct_Weather& record;
   const ShipFixedData& ship;
   const KeyObservationItems& items;
   const Folders& folders;
-  std::vector<std::string> refused_entries;
+  std::vector<std::string> remarks;
 };
 
 /// What is missing and wrong, one line each ended by CR LF, in the language of the moment; empty

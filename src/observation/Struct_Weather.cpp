@@ -4,6 +4,7 @@
 #include <array>
 
 #include "text/numbers.h"
+#include "text/strings.h"
 
 namespace {
 
@@ -129,7 +130,10 @@ bool Struct_Weather::has_vosclim(const ShipFixedData& ship) const {
 }
 
 std::optional<TenthsPosition> Struct_Weather::position() const {
-  if (!has_latitude() || !has_longitude()) return std::nullopt;
+  // A part that was entered as not observed ("//") is no place to compute with.
+  for (const std::string* part : {&Qc, &LaDeg, &LaMin, &LoDeg, &LoMin}) {
+    if (!text::is_all_digits(*part)) return std::nullopt;
+  }
   return TenthsPosition{text::leading_int(Qc), tenths(LaDeg, LaMin), tenths(LoDeg, LoMin)};
 }
 

@@ -79,7 +79,8 @@ class Struct_Weather {
   /// fields are set.
   [[nodiscard]] bool has_vosclim(const ShipFixedData& ship) const;
 
-  /// Quadrant and position in tenths (minutes / 6, truncated), or nothing when a part is missing.
+  /// Quadrant and position in tenths (minutes / 6, truncated), or nothing when a part is missing
+  /// (empty, or "//").
   [[nodiscard]] std::optional<TenthsPosition> position() const;
 
   [[nodiscard]] std::string call_sign_for_report() const;   ///< cut to its first 7 characters

@@ -62,10 +62,11 @@ void Messages::error(int id, std::string_view literal) {
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
-void Messages::error_filled(int id, std::initializer_list<std::string_view> arguments) {
+void Messages::error_filled(int id, std::initializer_list<std::string_view> arguments, int below) {
   if (quiet) return;
-  windows_.show_message(
-      {std::string(kTitle), fill(texts_.get(id), arguments), {{"OK", "ok", kOk}}, kOk, id});
+  std::string shown = fill(texts_.get(id), arguments);
+  if (below != 0) shown.append("\n").append(texts_.get(below));
+  windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
 int Messages::question(std::string_view text, std::string_view title, QuestionMode mode,

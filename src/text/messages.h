@@ -68,8 +68,9 @@ class Messages {
   /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
   /// "Check Error".
   void error(int id, std::string_view literal = {});
-  /// Error notice of a text whose "%s" and "%d" are filled in.
-  void error_filled(int id, std::initializer_list<std::string_view> arguments);
+  /// Error notice of a text whose "%s" and "%d" are filled in; with `below`, that text stands on a
+  /// line of its own below it.
+  void error_filled(int id, std::initializer_list<std::string_view> arguments, int below = 0);
 
   /// A question; the result is one of the four codes above (mode kOkCancel gives kOk or kCancel).
   /// Any other mode shows nothing and returns 0. An empty title means the program's. `text_id` only

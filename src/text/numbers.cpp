@@ -47,20 +47,25 @@ std::string format_digits(long long value, int digits) {
 }
 
 double leading_number(std::string_view text) {
+  return number_at_start(text).value_or(0.0);
+}
+
+std::optional<double> number_at_start(std::string_view text) {
   text = skip_blanks(text);
   if (!text.empty() && text.front() == '+') {
     text.remove_prefix(1);
-    if (!text.empty() && text.front() == '-') return 0.0;
+    if (!text.empty() && text.front() == '-') return std::nullopt;
   }
   // from_chars would take "inf" and "nan"; only a digit, perhaps behind a point, starts a number
   // here.
   std::string_view digits = text;
   if (!digits.empty() && digits.front() == '-') digits.remove_prefix(1);
   if (!digits.empty() && digits.front() == '.') digits.remove_prefix(1);
-  if (digits.empty() || !is_digit(digits.front())) return 0.0;
+  if (digits.empty() || !is_digit(digits.front())) return std::nullopt;
   double value = 0.0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  return result.ec == std::errc{} ? value : 0.0;
+  if (result.ec != std::errc{}) return std::nullopt;
+  return value;
 }
 
 int leading_int(std::string_view text) {

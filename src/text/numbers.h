@@ -2,6 +2,7 @@
 // Numbers to text and back without the process locale: a decimal comma in a report is a wrong
 // report. Each function does what the printf or atof form named beside it does in the "C" locale.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,10 @@ namespace text {
 /// exponent. 0.0 when there is none. Never infinite and never NaN: "inf", "nan" and hexadecimal
 /// forms are not numbers here, and a value outside double's range is 0.0.
 [[nodiscard]] double leading_number(std::string_view text);
+
+/// The same, but nothing where no number stands at the start: "", "/", "///" and "*" are values
+/// that are missing, never 0.0. Everything that is computed from a field's text asks here.
+[[nodiscard]] std::optional<double> number_at_start(std::string_view text);
 
 /// The whole number at the start of the text after blanks, the rest ignored (atoi); 0 when there is
 /// none. Clamped to the range of int.

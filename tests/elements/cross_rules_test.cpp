@@ -79,10 +79,22 @@ const Row kRecords[] = {
     {{{&W::PwPw, "00"}, {&W::HwHw, "00"}}, 0},
     {{{&W::PwPw, "00"}, {&W::HwHw, "//"}}, 0},
     {{{&W::PwPw, "01"}, {&W::HwHw, "01"}}, 0},
+    {{{&W::PwPw, "//"}, {&W::HwHw, "01"}}, 0},
+    {{{&W::Pw1Pw1, "00"}, {&W::Hw1Hw1, "01"}}, id::kPeriodNeedsHeight},
+    {{{&W::Pw1Pw1, "00"}, {&W::Hw1Hw1, "00"}}, 0},
+    {{{&W::Pw1Pw1, "00"}, {&W::Hw1Hw1, "//"}}, 0},
+    {{{&W::Pw2Pw2, "00"}, {&W::Hw2Hw2, "01"}}, id::kPeriodNeedsHeight},
+    {{{&W::Pw2Pw2, "00"}, {&W::Hw2Hw2, "00"}}, 0},
+    {{{&W::PwaPwa, "00"}, {&W::HwaHwa, "01"}}, id::kPeriodNeedsHeight},
+    {{{&W::PwaPwa, "00"}, {&W::HwaHwa, "00"}}, 0},
+    {{{&W::Pw1Pw1, "00"}, {&W::Hw2Hw2, "01"}}, 0},
+    {{{&W::GGExact, "11"}}, id::kHalfAnExactTime},
+    {{{&W::gg, "50"}}, id::kHalfAnExactTime},
+    {{{&W::GGExact, "11"}, {&W::gg, "50"}}, 0},
 };
 
 TEST(CrossRules, EachRuleIsBrokenByItsRecordsAndByNoOthers) {
-  std::set<int> seen;
+  std::set<const elements::CrossRule*> seen;
   for (const Row& row : kRecords) {
     Form f;
     Struct_Weather record = f.record();
@@ -98,7 +110,7 @@ TEST(CrossRules, EachRuleIsBrokenByItsRecordsAndByNoOthers) {
     }
     ASSERT_EQ(broken.size(), 1U) << figures;
     EXPECT_EQ(broken.front()->message, row.broken) << figures;
-    seen.insert(row.broken);
+    seen.insert(broken.front());
   }
   EXPECT_EQ(seen.size(), elements::cross_rules().size()) << "a rule has no record that breaks it";
 }

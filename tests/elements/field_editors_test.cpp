@@ -267,10 +267,35 @@ TEST(FieldEditors, HoursAreTheEightOfTheReports) {
         expect_accepted(Field::kGG, typed, padded(hour, 2), {});
       } else {
         Form f;
-        expect_refused(f, Field::kGG, typed, outside("00<=TIME<=23"));
+        // The message's range is wider than what is taken, so the hours are named below it.
+        expect_refused(f, Field::kGG, typed,
+                       outside("00<=TIME<=23") + "\nGG IN [00,03,06,09,12,15,18,21]");
       }
     }
   }
+}
+
+// Minus zero is zero, also where it only comes of the rounding.
+TEST(FieldEditors, EverySignedNumberTakesMinusZeroAsZero) {
+  int seen = 0;
+  for (const elements::EditorRow& row : elements::editor_rows()) {
+    if (row.accepts != elements::Accepts::kNumber || row.low >= 0) continue;
+    ++seen;
+    for (const char* const typed : {"-0", "-0.0", "-.0", "-0.04", "+0", "0"}) {
+      Form f;
+      const bool psychrometer = row.field == Field::kDryBulb || row.field == Field::kWetBulb;
+      f.ship.dew_point_method = psychrometer ? DewPointMethod::kComputed : DewPointMethod::kDirect;
+      f.rebuild();
+      Form zero;
+      zero.ship = f.ship;
+      zero.rebuild();
+      ASSERT_TRUE(f.enter(row.field, typed));
+      ASSERT_TRUE(zero.enter(row.field, "0.0"));
+      EXPECT_EQ(f.form->text(row.field), "0.0") << typed;
+      EXPECT_EQ(f.state(row.field), zero.state(row.field)) << typed;
+    }
+  }
+  EXPECT_EQ(seen, 5);
 }
 
 TEST(FieldEditors, HumidityIsAPercentageInTheShipsUnit) {

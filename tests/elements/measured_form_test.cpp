@@ -73,7 +73,7 @@ TEST(CardChange, MarksAReadingThatGivesAnImpossiblePressure) {
   f.form->card_changed();
   EXPECT_TRUE(f.form->in_error(Field::kReading));
   EXPECT_EQ(f.record().PPPP, "0499");
-  EXPECT_EQ(f.form->refused_entries().size(), 1U);
+  EXPECT_EQ(f.form->remarks().size(), 1U);
   f.ship.card.loading_state = LoadingState::kFullLoad;
   f.form->card_changed();
   EXPECT_FALSE(f.form->in_error(Field::kReading));

@@ -349,9 +349,9 @@ TEST(ObservationForm, NothingLiesBeyondThePoleAndTheDateLine) {
     ASSERT_TRUE(f.enter(row.degrees, row.limit));
     f.world.windows.expect(row.message);
     EXPECT_FALSE(f.form->leave(row.minutes));
-    EXPECT_EQ(f.form->refused_entries().size(), 1U);
+    EXPECT_EQ(f.form->remarks().size(), 1U);
     EXPECT_TRUE(f.enter(row.minutes, "00"));
-    EXPECT_TRUE(f.form->refused_entries().empty());
+    EXPECT_TRUE(f.form->remarks().empty());
   }
 }
 
@@ -402,7 +402,7 @@ TEST(ObservationForm, EveryRefusedEntryIsNamedForTheSave) {
   const std::vector<std::string> expected = {
       "Error: Input data is out of range.\nIt must be \"1999<YEAR<=2015\"",
       "14.5 >= HW >=0.0 Or //"};
-  EXPECT_EQ(f.form->refused_entries(), expected);
+  EXPECT_EQ(f.form->remarks(), expected);
 }
 
 TEST(ObservationForm, APressureTypedOverClearsTheCharacteristicOnTheFormToo) {
@@ -557,7 +557,7 @@ TEST(ObservationForm, ATypedGroupKeepsTheRulesOfItsFields) {
                              {Group::kQcLoLoLoLo, "21405", id::kInputError},
                              {Group::kNddff, "80012", id::kCalmDirectionWithSpeed},
                              {Group::kNddff, "83712", id::kTrueDirectionRange},
-                             {Group::k00fff, "00098", id::kTrueSpeedRange},
+                             {Group::k00fff, "00098", id::kLargeSpeedRange},
                              {Group::k3dw1dw1dw2dw2, "32799", id::kSwell2DirectionRange},
                              {Group::k2PwPwHwHw, "20005", id::kPeriodNeedsHeight},
                              {Group::k2PwPwHwHw, "20530", id::kCheckWaveHeight},
@@ -616,6 +616,7 @@ TEST(ObservationForm, SolidiInAGroupThatIsWrittenOnlyWhenSetEmptyIt) {
   EXPECT_EQ(f.record().GGExact + f.record().gg, "1150");
   ASSERT_TRUE(f.form->leave_group(Group::k9GGgg, "9////"));
   EXPECT_EQ(f.record().GGExact + f.record().gg, "");
+  f.world.windows.expect(id::kWindSpeedQuestion, "yes");
   ASSERT_TRUE(f.form->leave_group(Group::k00fff, "00105"));
   EXPECT_EQ(f.record().ff + f.record().fff, "99105");
   ASSERT_TRUE(f.form->leave_group(Group::k00fff, "00///"));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "elements/true_wind_rules.h"
+#include "text/numbers.h"
 
 namespace {
 
@@ -108,7 +109,9 @@ TEST(TrueWindOfTexts, SurvivesWildTexts) {
   for (const char* angle : wild) {
     for (const char* speed : wild) {
       const auto found = true_wind_of_texts({angle, speed, angle, angle, speed});
-      ASSERT_TRUE(found);
+      const bool numbers = text::number_at_start(angle) && text::number_at_start(speed);
+      ASSERT_EQ(found.has_value(), numbers) << angle << " " << speed;
+      if (!found) continue;
       EXPECT_LE(found->direction.size(), 2U);
       EXPECT_LE(found->speed.size(), 3U);
     }

@@ -31,7 +31,7 @@ struct Save {
   KeyObservationItems items;
   mainwindow::Folders folders;
   Struct_Weather record{ship, items};
-  std::vector<std::string> refused_entries;
+  std::vector<std::string> remarks;
 
   Save() {
     folders.reports = "C:\\tlx\\";
@@ -66,10 +66,10 @@ struct Save {
     files.add_folder("A:\\");
   }
   SaveEnd save() {
-    return save_observation(world.services, {record, ship, items, folders, refused_entries});
+    return save_observation(world.services, {record, ship, items, folders, remarks});
   }
   [[nodiscard]] std::string errors() const {
-    return save_errors({record, ship, items, folders, refused_entries}, world.texts);
+    return save_errors({record, ship, items, folders, remarks}, world.texts);
   }
   [[nodiscard]] std::string message() const {
     std::string message;
@@ -203,12 +203,12 @@ TEST(SaveFlow, MissingGroupsBrokenRulesAndRefusedEntriesAreListedTogether) {
   in_both_languages([](Save& s) {
     s.record.PPPP = "";
     s.record.N = "3";
-    s.refused_entries = {"Error: first\nsecond"};
+    s.remarks = {"Error: first\nsecond"};
     const auto language = s.world.texts.language;
     std::string rule(text::bilingual(id::kLowestAboveTotal, language));
     const std::string expected = "Group4PPPP   " +
                                  std::string(text::bilingual(id::kNoValueInput, language)) +
-                                 "\r\n" + rule + "\r\nError: firstsecond\r\n";
+                                 "\r\n" + rule + "\r\nError: first second\r\n";
     EXPECT_EQ(s.errors(), expected);
     std::string shown;
     s.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
