@@ -41,7 +41,7 @@ std::string sea_temperature_text(std::string_view Ss, std::string_view TwTwTw) {
   const double degrees = text::leading_int(TwTwTw) / 10.0;
   const bool below_zero =
       sea_temperature_method(Ss) && (Ss.front() - '0') % 2 == 1 && degrees > 0.0;
-  return (below_zero ? "-" : "") + text::format_fixed(degrees, 1);
+  return text::format_fixed(below_zero ? -degrees : degrees, 1);
 }
 
 std::optional<SeaTemperatureMethod> sea_temperature_method(std::string_view Ss) {
