@@ -1,23 +1,20 @@
 # What every target of the project is compiled with.
 
-option(KAVREL_CCACHE "Use ccache where it is installed" ON)
-find_program(CCACHE ccache)
-if(KAVREL_CCACHE AND CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
-endif()
+option(KAVREL_WARNINGS_ARE_ERRORS "A warning stops the build; for those who change the program" OFF)
 
-# Without ccache every source is compiled anew, so what most of them include is compiled once for all. With ccache the
-# precompiled header would only make the cache miss; that build also shows an include that is missing.
+# What most sources include is compiled once for all of them, in every build alike: what one machine compiles, all do.
 function(kavrel_precompile target)
-  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    target_precompile_headers(${target} PRIVATE ${ARGN} <algorithm> <functional> <map> <memory> <optional> <string>
-                              <string_view> <vector>)
-  endif()
+  target_precompile_headers(${target} PRIVATE ${ARGN} <algorithm> <functional> <map> <memory> <optional> <string>
+                            <string_view> <vector>)
 endfunction()
 
 add_library(kavrel_flags INTERFACE)
 target_include_directories(kavrel_flags INTERFACE ${PROJECT_SOURCE_DIR}/src)
-target_compile_options(kavrel_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_compile_options(kavrel_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(KAVREL_WARNINGS_ARE_ERRORS)
+  # A compiler newer or older than ours may warn of what is right; whoever only wants the program still gets it.
+  target_compile_options(kavrel_flags INTERFACE -Werror)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # GCC 12 sees overlapping copies in "text" + string when it optimizes; there are none (its bug 105329).
   target_compile_options(kavrel_flags INTERFACE $<$<CONFIG:Release>:-Wno-restrict>)

@@ -1,17 +1,15 @@
 #!/usr/bin/env bash
 # Every header compiles alone, so that nobody has to know what to include before it: check_headers.sh COMPILER SRC WORK.
-# WORK keeps one source a header; with ccache only what changed is compiled. The headers of desktop/ need Qt's flags, and
-# are compiled with it alone: each by the source of its name, which includes it first.
+# WORK keeps one source a header. The headers of desktop/ need Qt's flags, and are compiled with it alone: each by the
+# source of its name, which includes it first.
 set -euo pipefail
 export compiler=$1 src=$2 work=$3
-launcher=$(command -v ccache || true)
-export launcher
 mkdir -p "$work"
 
 check_one() {
   local unit="$work/${1//\//-}.cpp"
   echo "#include \"$1\"" >"$unit"
-  $launcher "$compiler" -std=c++20 -I"$src" -O0 -Wall -Wextra -c "$unit" -o "${unit%.cpp}.o" && return
+  "$compiler" -std=c++20 -I"$src" -O0 -Wall -Wextra -c "$unit" -o "${unit%.cpp}.o" && return
   echo "$1 does not compile alone"
   return 1
 }

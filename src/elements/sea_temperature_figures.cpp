@@ -40,7 +40,7 @@ std::string sea_temperature_text(std::string_view Ss, std::string_view TwTwTw) {
   if (!text::is_all_digits(TwTwTw)) return {};
   const double degrees = text::leading_int(TwTwTw) / 10.0;
   const bool below_zero = is_below_zero(Ss) && degrees > 0.0;
-  return (below_zero ? "-" : "") + text::format_fixed(degrees, 1);
+  return text::format_fixed(below_zero ? -degrees : degrees, 1);
 }
 
 std::string sea_temperature_sign(SeaTemperatureMethod method, bool below_zero) {

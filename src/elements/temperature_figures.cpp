@@ -16,7 +16,7 @@ std::string zero_filled_tenths(double value) {
 TemperatureFigures temperature_figures(Celsius t) {
   TemperatureFigures result;
   result.text = zero_filled_tenths(t.value);
-  result.sign = result.text.starts_with('-') ? "1" : "0";
+  result.sign.assign(1, result.text.starts_with('-') ? '1' : '0');
   result.figures = result.text;
   std::erase_if(result.figures, [](char c) { return c == '.' || c == '-'; });
   result.figures.resize(result.figures.size() < 3 ? result.figures.size() : 3);

@@ -88,7 +88,8 @@ bool CVelmaranDlg::open_element(int element) {
   const mainwindow::ElementRow* const row = mainwindow::find_element(element);
   if (row != nullptr && row->use(context_) != mainwindow::Use::kInUse) return false;
   if (row == nullptr || row->open == nullptr) {
-    services().messages.error(id::kNoSubWindow);
+    // What has no number never has a dialog; a row without an opener gets one in a later version.
+    services().messages.error(row == nullptr ? id::kNoSubWindow : id::kNotInThisVersion);
     return false;
   }
   mainwindow::Opening opening{services(), context_, form_, last_quadrant_};

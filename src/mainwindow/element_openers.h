@@ -29,7 +29,7 @@ enum class Use { kInUse, kNotObserved, kOtherMethod };
 struct ElementRow {
   int element = 0;
   Use (*use)(const MainWindowContext&) = nullptr;
-  Opener open = nullptr;  ///< nullptr: no dialog
+  Opener open = nullptr;  ///< nullptr: no dialog in this version
 };
 [[nodiscard]] std::span<const ElementRow> element_rows();
 /// The row of that number, or nullptr (99, numbers outside the table).

@@ -173,10 +173,11 @@ std::string encode_departure(const ShipFixedData& data) {
 }
 
 void decode_departure(std::string_view field, ShipFixedData& data) {
-  data.vosclim_load_line_departure.clear();
+  std::string& departure = data.vosclim_load_line_departure;
+  departure.clear();
   if (text::without_spaces(field).empty()) return;
-  data.vosclim_load_line_departure = (field.front() == '0' ? "+" : "-");
-  data.vosclim_load_line_departure += field.substr(1);
+  departure = field;
+  departure.front() = field.front() == '0' ? '+' : '-';
 }
 
 std::string encode_humidity_method(const ShipFixedData& data) {

@@ -202,9 +202,9 @@ std::string describe_lines(const ControlView& view) {
 
 std::string describe(const ControlView& view) {
   std::string line = view.name + " " + std::string(name_of(view.kind));
-  if (!view.caption.empty()) line += " " + quoted(view.caption);
-  if (shows_value(view.kind)) line += " = " + quoted(view.text);
-  if (!view.unit.empty()) line += " unit " + quoted(view.unit);
+  if (!view.caption.empty()) line.append(" ").append(quoted(view.caption));
+  if (shows_value(view.kind)) line.append(" = ").append(quoted(view.text));
+  if (!view.unit.empty()) line.append(" unit ").append(quoted(view.unit));
   if (view.kind != Kind::kTree && !view.lines.empty()) line += " of " + describe_lines(view);
   if (const std::string flags = flags_of(view); !flags.empty()) line += " [" + flags + "]";
   if (view.kind == Kind::kTree) line += tree_rows(view);

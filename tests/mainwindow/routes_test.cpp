@@ -225,14 +225,32 @@ TEST(ElementDialogs, OpenAgainOnWhatTheyGave) {
   }
 }
 
-TEST(ElementDialogs, ThatAreNotThereYetSaySo) {
+// By F1 in each of its fields, by each of its labels and captions, by its number.
+TEST(ElementDialogs, ThatAreNotThereYetSayThatThisVersionDoesNotHaveThem) {
   for (const mainwindow::ElementRow& row : mainwindow::element_rows()) {
     if (row.open != nullptr) continue;
-    const auto opened = std::make_unique<Opened>();
-    const std::string before = opened->state();
-    opened->world.windows.expect(id::kNoSubWindow);
-    EXPECT_FALSE(opened->window.open_element(row.element)) << row.element;
-    EXPECT_EQ(before, opened->state()) << row.element;
+    const auto says_so = [&](std::string_view road, const std::function<void(Opened&)>& take) {
+      SCOPED_TRACE(std::to_string(row.element) + " by " + std::string(road));
+      const auto opened = std::make_unique<Opened>();
+      const std::string before = opened->state();
+      opened->world.windows.expect(id::kNotInThisVersion);
+      take(*opened);
+      EXPECT_EQ(1U, opened->world.windows.boxes.size());
+      EXPECT_EQ(before, opened->state());
+    };
+    says_so("number",
+            [&](Opened& opened) { EXPECT_FALSE(opened.window.open_element(row.element)); });
+    for (const mainwindow::FieldRow& field : mainwindow::field_rows()) {
+      if (field.element != row.element) continue;
+      says_so(field.name, [&](Opened& opened) {
+        ASSERT_TRUE(opened.window.move_focus(opened.control(field.name)));
+        opened.window.key(ui::Key::kF1);
+      });
+    }
+    for (const mainwindow::LabelRow& label : mainwindow::label_rows()) {
+      if (label.element == row.element)
+        says_so(label.name, [&](Opened& opened) { opened.press(label.name); });
+    }
   }
 }
 
@@ -283,7 +301,7 @@ TEST(Captions, OpenTheirCodesDialogAndMoveTheFocusOn) {
     ASSERT_NE(nullptr, element);
     // None of these dialogs is there yet.
     ASSERT_EQ(nullptr, element->open) << row.name;
-    opened->world.windows.expect(id::kNoSubWindow);
+    opened->world.windows.expect(id::kNotInThisVersion);
     opened->press(row.name);
     EXPECT_EQ(row.focus, opened->window.focused()->name) << row.name;
     for (const mainwindow::LabelRow& label : mainwindow::label_rows()) {
