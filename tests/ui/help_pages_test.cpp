@@ -112,9 +112,9 @@ TEST(HelpPages, HaveHeadingsOfTheirOwn) {
     std::vector<std::string> headings;
     for (const text::DialogTopic& row : text::dialog_topics()) {
       const std::string_view page = language == 'E' ? row.topic.english : row.topic.japanese;
-      headings.push_back(heading_of(std::string("C:\\program\\help\\Kavrel_") + language +
-                                        ".CHM::/" + std::string(page),
-                                    language));
+      headings.push_back(heading_of(
+          std::string("C:\\program\\help\\Kavrel_") + language + ".CHM::/" + std::string(page),
+          language));
     }
     std::sort(headings.begin(), headings.end());
     EXPECT_EQ(headings.end(), std::adjacent_find(headings.begin(), headings.end()));
