@@ -6,8 +6,9 @@
 namespace elements {
 
 std::string zero_filled_tenths(double value) {
-  // The rounded value decides on the form: 9.96 is "10.0".
-  const double rounded = text::leading_number(text::format_fixed(value, 1, 2));
+  // The rounded value decides on the form: 9.96 is "10.0". What rounds to -0.0 is zero, and so has
+  // no sign: in a report a 1 in front of 000 would say that it froze.
+  const double rounded = text::leading_number(text::format_fixed(value, 1, 2)) + 0.0;
   if (rounded >= 0.0) return text::format_fixed(rounded, 1, 4, '0');
   if (rounded > -10.0) return text::format_fixed(rounded, 1, 5, '0');
   return text::without_spaces(text::format_fixed(rounded, 1, 5));
@@ -32,7 +33,9 @@ std::string joined_temperature(std::string_view whole, std::string_view tenths) 
   whole = text::trim(whole);
   tenths = text::trim(tenths);
   if (whole.empty()) return {};
-  return std::string(whole).append(".").append(tenths.empty() ? "0" : tenths);
+  std::string joined = std::string(whole).append(".").append(tenths.empty() ? "0" : tenths);
+  if (joined.starts_with('-') && text::leading_number(joined) == 0.0) joined.erase(0, 1);
+  return joined;
 }
 
 TemperatureRange temperature_range(std::string_view text) {
