@@ -173,10 +173,13 @@ TEST(CardScreen, LimitsThePortAndTheHeights) {
   fakes::World world;
   CKataInputDlg screen(world.services, card_one());
   screen.open();
-  screen.type(screen.barometer_check_port, "ABCDEFGHIJKLMN");
-  EXPECT_EQ(screen.barometer_check_port.content, "ABCDEFGHIJKL");
-  screen.type(screen.height_ballast, "1234");
-  EXPECT_EQ(screen.height_ballast.content, "123");
+  fakes::enter(screen, screen.barometer_check_port, "ABCDEFGHIJKLM");
+  world.windows.expect(text::id::kTextTooLong);
+  EXPECT_FALSE(screen.move_focus(screen.height_ballast));
+  fakes::enter(screen, screen.barometer_check_port, "ABCDEFGHIJKL");
+  fakes::enter(screen, screen.height_ballast, "1234");
+  world.windows.expect(text::id::kTextTooLong);
+  EXPECT_FALSE(screen.move_focus(screen.ok));
 }
 
 // ---- Card input: leaving a field
