@@ -44,6 +44,12 @@ void keep_to(QWidget& widget, int characters) {
   widget.setSizePolicy(QSizePolicy::Preferred, widget.sizePolicy().verticalPolicy());
 }
 
+// What the widget itself cuts at; 0 for nothing. A field that goes on in another must see its
+// point.
+int largest_length(const ui::Control& control) {
+  return control.continues_in == nullptr ? control.max_length : 0;
+}
+
 constexpr int kWideField = 24;    // characters; longer fields grow with the window
 constexpr int kDefaultField = 8;  // where no largest length is given
 
@@ -71,9 +77,8 @@ class LineBinding : public Binding {
  protected:
   void show_state() override {
     // Setting the largest length anew would wipe undo and move the caret.
-    if (control().max_length > 0 && edit_->maxLength() != control().max_length) {
-      edit_->setMaxLength(control().max_length);
-    }
+    const int largest = largest_length(control());
+    if (largest > 0 && edit_->maxLength() != largest) edit_->setMaxLength(largest);
     const QString wanted = text_of(control().content);
     if (edit_->text() != wanted) {
       edit_->setText(wanted);
@@ -151,7 +156,8 @@ class ComboBinding : public Binding {
       // Qt would complete "087" to "0870" while it is typed, and add what was typed to the list.
       box_->setCompleter(nullptr);
       box_->setInsertPolicy(QComboBox::NoInsert);
-      if (c.max_length > 0) box_->lineEdit()->setMaxLength(c.max_length);
+      if (const int largest = largest_length(c); largest > 0)
+        box_->lineEdit()->setMaxLength(largest);
       connect(box_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
         tell([&] { screen().type(control(), typed.toStdString()); });
       });

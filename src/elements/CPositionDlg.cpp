@@ -24,11 +24,11 @@ constexpr Quadrant kTable3333[] = {
     {"7", kNorthOrEast, kSouthOrWest},
 };
 
-bool is_quadrant(const std::string& code) {
+CPositionDlg::Sides sides_of(const std::string& code) {
   for (const Quadrant& row : kTable3333) {
-    if (code == row.code) return true;
+    if (code == row.code) return {row.latitude, row.longitude};
   }
-  return false;
+  return {-1, -1};
 }
 
 std::string quadrant_of(int latitude, int longitude) {
@@ -41,7 +41,7 @@ std::string quadrant_of(int latitude, int longitude) {
 }  // namespace
 
 CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string last_quadrant,
-                           LandTest is_on_land)
+                           LandTest is_on_land, Sides chosen)
     : Screen(services, "CPositionDlg", {id::kPositionTitle}),
       last_report_hint(*this, "last_report_hint", {id::kLastReportHint}),
       latitude_degrees(*this, "latitude_degrees", {id::kPositionLatitude}, 2),
@@ -56,6 +56,7 @@ CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string la
       values_(std::move(values)),
       last_quadrant_(std::move(last_quadrant)),
       is_on_land_(std::move(is_on_land)),
+      chosen_(chosen),
       la_deg_(services, latitude_degrees, 0, 90, 2, id::kLatitudeDegreesRange),
       la_min_(services, latitude_minutes, 0, 59, 2, id::kLatitudeMinutesRange),
       lo_deg_(services, longitude_degrees, 0, 180, 3, id::kLongitudeDegreesRange),
@@ -67,12 +68,12 @@ CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string la
     minutes->items = elements::two_figure_lines(0, 59);
   }
   latitude_side.on_change = [this] {
-    latitude_confirmed_ = true;
-    if (longitude_confirmed_) last_report_hint.visible = false;
+    latitude_offered_ = false;
+    show_hint();
   };
   longitude_side.on_change = [this] {
-    longitude_confirmed_ = true;
-    if (latitude_confirmed_) last_report_hint.visible = false;
+    longitude_offered_ = false;
+    show_hint();
   };
 }
 
@@ -81,16 +82,25 @@ void CPositionDlg::on_open() {
   la_min_.open(values_.LaMin);
   lo_deg_.open(values_.LoDeg);
   lo_min_.open(values_.LoMin);
-  const bool has_own = is_quadrant(values_.Qc);
-  last_report_hint.visible = !has_own && is_quadrant(last_quadrant_);
-  offer(has_own ? values_.Qc : last_quadrant_);
+  const Sides own = sides_of(values_.Qc);
+  const Sides last = sides_of(last_quadrant_);
+  const auto show = [](ui::Choice& side, int of_form, int of_record, int of_last) {
+    const int known = of_form >= 0 ? of_form : of_record;
+    side.selected = known >= 0 ? known : of_last;
+    return known < 0 && of_last >= 0;
+  };
+  latitude_offered_ = show(latitude_side, chosen_.latitude, own.latitude, last.latitude);
+  longitude_offered_ = show(longitude_side, chosen_.longitude, own.longitude, last.longitude);
+  show_hint();
 }
 
-void CPositionDlg::offer(const std::string& quadrant) {
-  for (const Quadrant& row : kTable3333) {
-    if (quadrant != row.code) continue;
-    latitude_side.selected = row.latitude;
-    longitude_side.selected = row.longitude;
+void CPositionDlg::show_hint() {
+  last_report_hint.visible = latitude_offered_ || longitude_offered_;
+  if (latitude_offered_ && longitude_offered_) {
+    last_report_hint.caption = {id::kLastReportHint};
+  } else if (last_report_hint.visible) {
+    last_report_hint.caption = {latitude_offered_ ? id::kLastLatitudeSideHint
+                                                  : id::kLastLongitudeSideHint};
   }
 }
 

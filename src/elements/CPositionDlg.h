@@ -14,14 +14,21 @@ class CPositionDlg : public ui::Screen {
     std::string LaDeg, LaMin, LoDeg, LoMin, Qc;
     bool operator==(const Values&) const = default;
   };
+  /// What was chosen on the form beside the position: 0 north or east, 1 south or west, -1 not
+  /// chosen. Qc needs both sides, so one alone is known from here only.
+  struct Sides {
+    int latitude;
+    int longitude;
+  };
   /// True when a position lies on land or in a coastal region; degrees, north and east positive.
   using LandTest = std::function<bool(double latitude, double longitude)>;
 
-  /// `last_quadrant` is Qc of the ship's last saved report, empty when there is none: while the
-  /// record has no quadrant, its hemispheres are offered, and a hint says where they come from. No
-  /// hemisphere is ever assumed. Without a land test no question is asked.
+  /// `last_quadrant` is Qc of the ship's last saved report, empty when there is none: its
+  /// hemisphere is offered for a side that neither the record's Qc nor `chosen` knows, and a hint
+  /// says where it comes from. No hemisphere is ever assumed. Without a land test no question is
+  /// asked.
   CPositionDlg(ui::Services& services, Values values, std::string last_quadrant,
-               LandTest is_on_land);
+               LandTest is_on_land, Sides chosen = {-1, -1});
 
   /// After kOk, what the observer entered, in two figures (degrees of longitude in three) and a
   /// quadrant of code table 3333; until then, what was handed in.
@@ -45,7 +52,7 @@ class CPositionDlg : public ui::Screen {
   void on_ok() override;
 
  private:
-  void offer(const std::string& quadrant);
+  void show_hint();
   /// True when all is there and in range; else the refusal was shown.
   bool complete();
   bool refuse(int message, ui::Control& field);
@@ -54,10 +61,11 @@ class CPositionDlg : public ui::Screen {
   Values values_;
   std::string last_quadrant_;
   LandTest is_on_land_;
+  Sides chosen_;
   CFigureField la_deg_;
   CFigureField la_min_;
   CFigureField lo_deg_;
   CFigureField lo_min_;
-  bool latitude_confirmed_ = false;
-  bool longitude_confirmed_ = false;
+  bool latitude_offered_ = false;  ///< shows the last report's side, and nobody has chosen yet
+  bool longitude_offered_ = false;
 };

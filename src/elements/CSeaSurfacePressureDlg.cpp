@@ -63,8 +63,12 @@ void CSeaSurfacePressureDlg::fill_lists() {
 }
 
 void CSeaSurfacePressureDlg::connect() {
+  reading_whole.continues_in = &reading_tenths;
   reading_whole.on_change = [this] { recalculate(); };
-  reading_tenths.on_change = [this] { recalculate(); };
+  reading_tenths.on_change = [this] {
+    tenths_typed_ = true;
+    recalculate();
+  };
   reading_whole.on_leave = [this] {
     return check_digits(reading_whole, id::kBarometerReadingRange);
   };
@@ -179,8 +183,11 @@ bool CSeaSurfacePressureDlg::validate() {
 void CSeaSurfacePressureDlg::on_ok() {
   if (actions_.store) actions_.store(card_);
   values_.card = card_;
-  const bool no_pressure =
-      reading_whole.content.empty() && hour.content.empty() && minute.content.empty();
+  // Tenths that were typed were meant for a reading: they are not given up without a word. Those of
+  // the earlier reading go with its whole part.
+  const bool tenths_alone = tenths_typed_ && !reading_tenths.content.empty();
+  const bool no_pressure = reading_whole.content.empty() && !tenths_alone && hour.content.empty() &&
+                           minute.content.empty();
   const bool far = time_choice.selected == static_cast<int>(TimeChoice::kMoreThan10Minutes);
   if (!no_pressure) {
     if (far && (hour.content.empty() || minute.content.empty())) return;

@@ -79,4 +79,5 @@ class CSeaSurfacePressureDlg : public ui::Screen {
   BarometerCard card_;
   std::string kept_hour_;
   std::string kept_minute_;
+  bool tenths_typed_ = false;
 };

@@ -23,12 +23,16 @@ CTemperatureEntry::CTemperatureEntry(ui::Screen& owner, ui::Services& services, 
       services_(services),
       texts_(texts) {
   for (char digit = '0'; digit <= '9'; ++digit) tenths.items.emplace_back(1, digit);
+  whole.continues_in = &tenths;
   tenths.unit = {id::kUnitCelsius};
   const auto changed = [this] {
     if (on_change) on_change();
   };
   whole.on_change = changed;
-  tenths.on_change = changed;
+  tenths.on_change = [this, changed] {
+    tenths_typed_ = true;
+    changed();
+  };
   whole.on_leave = [this] { return check_whole(); };
   tenths.on_leave = [this] { return check_tenths(); };
 }
@@ -57,7 +61,14 @@ bool CTemperatureEntry::well_formed() const {
 
 ui::Control* CTemperatureEntry::check() {
   if (!check_whole()) return &whole;
-  return check_tenths() ? nullptr : &tenths;
+  if (!check_tenths()) return &tenths;
+  // The whole degrees may come after the tenths, so they are asked for by OK only. The tenths of an
+  // earlier temperature go with its whole degrees.
+  if (tenths_typed_ && text::trim(whole.content).empty() && !text::trim(tenths.content).empty()) {
+    services_.messages.error(id::kTenthsAlone);
+    return &whole;
+  }
+  return nullptr;
 }
 
 bool CTemperatureEntry::check_whole() {

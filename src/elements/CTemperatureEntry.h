@@ -38,7 +38,8 @@ class CTemperatureEntry {
   /// True when both fields hold what a temperature is written with (or nothing).
   [[nodiscard]] bool well_formed() const;
 
-  /// The checks of both fields, for OK. Returns the field that was refused, after its message, or
+  /// The checks of both fields, for OK, which also refuses tenths that were typed without whole
+  /// degrees. Returns the field that was refused, after its message, or
   /// nullptr. A value that the officer has confirmed is not asked about again.
   [[nodiscard]] ui::Control* check();
 
@@ -49,4 +50,5 @@ class CTemperatureEntry {
   ui::Services& services_;
   Texts texts_;
   std::string confirmed_;
+  bool tenths_typed_ = false;
 };

@@ -35,8 +35,8 @@ int message_of(TrueWindRule rule) {
 CTrueDirWindDlg::CTrueDirWindDlg(ui::Services& services, std::string direction, std::string speed)
     : Screen(services, "CTrueDirWindDlg", {id::kTrueWindTitle}),
       direction_field(*this, "direction", {id::kTrueDirection}, 2),
-      direction_unknown(*this, "direction_unknown", {id::kTrueDirectionUnknown}),
       speed_field(*this, "speed", {id::kTrueSpeed}, 5),
+      direction_unknown(*this, "direction_unknown", {id::kTrueDirectionUnknown}),
       speed_unknown(*this, "speed_unknown", {id::kTrueSpeedUnknown}),
       ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
       cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),

@@ -15,9 +15,10 @@ class CTrueDirWindDlg : public ui::Screen {
   [[nodiscard]] const std::string& direction() const { return direction_; }
   [[nodiscard]] const std::string& speed() const { return speed_; }
 
+  // Both figures first: while a box has the focus, what is typed goes nowhere.
   ui::Edit direction_field;
-  ui::Tick direction_unknown;
   ui::Edit speed_field;
+  ui::Tick direction_unknown;
   ui::Tick speed_unknown;
   ui::Button ok;
   ui::Button cancel;

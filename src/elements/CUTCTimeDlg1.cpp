@@ -12,9 +12,6 @@ namespace id = text::id;
 
 namespace {
 
-// A year is typed in full: two figures would name a report of another century.
-constexpr int kFirstYear = 1000;
-constexpr int kLastYear = 9999;
 constexpr int kHoursBetweenReports = 3;
 
 std::string or_clock(const std::string& value, int clock) {
@@ -34,7 +31,8 @@ CUTCTimeDlg1::CUTCTimeDlg1(ui::Services& services, Values values)
       cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
       help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)),
-      year_(services, year, kFirstYear, kLastYear, 1, id::kInvalidYear),
+      years_(elements::observation_years(services.clock.utc().year)),
+      year_(services, year, years_.first, years_.last, 1, id::kInvalidYear),
       month_(services, month, 1, 12, 2, id::kInvalidMonth),
       day_(services, day, 1, 31, 2, id::kInvalidDay),
       hour_(services, hour, 0, 23, 2, id::kInvalidHour) {
@@ -49,18 +47,25 @@ void CUTCTimeDlg1::on_open() {
   month_.open(or_clock(values_.Month, now.month));
   day_.open(or_clock(values_.YY, now.day));
   hour_.open(or_clock(values_.GG, now.hour));
+  if (hour_fault() != 0) focus(hour);
+}
+
+// The clock's hour is only an offer: a report belongs to a main or intermediate synoptic hour.
+int CUTCTimeDlg1::hour_fault() const {
+  if (text::trim(hour.content).empty()) return 0;
+  if (!hour_.number()) return id::kInvalidHour;
+  return *hour_.number() % kHoursBetweenReports == 0 ? 0 : id::kNotSynopticHour;
 }
 
 void CUTCTimeDlg1::on_ok() {
-  if (!year_.number()) return refuse(id::kInvalidDay, year);
+  if (!year_.number())
+    return refuse(
+        text::is_all_digits(text::trim(year.content)) ? id::kInvalidYear : id::kInvalidDay, year);
   if (!month_.number()) return refuse(id::kInvalidDay, month);
   if (!day_.number() ||
       !elements::is_calendar_date(*year_.number(), *month_.number(), *day_.number()))
     return refuse(id::kInvalidDay, day);
-  if (!hour_.number() && !text::trim(hour.content).empty()) return refuse(id::kInvalidHour, hour);
-  // The clock's hour is only an offer: a report belongs to a main or intermediate synoptic hour.
-  if (hour_.number() && *hour_.number() % kHoursBetweenReports != 0)
-    return refuse(id::kNotSynopticHour, hour);
+  if (const int fault = hour_fault(); fault != 0) return refuse(fault, hour);
   values_ = {year_.figures(), month_.figures(), day_.figures(), hour_.figures()};
   close(text::kOk);
 }

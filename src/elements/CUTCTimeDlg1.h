@@ -4,6 +4,7 @@
 #include <string>
 
 #include "elements/CFigureField.h"
+#include "elements/calendar_date.h"
 #include "ui/screen.h"
 
 class CUTCTimeDlg1 : public ui::Screen {
@@ -16,9 +17,8 @@ class CUTCTimeDlg1 : public ui::Screen {
 
   CUTCTimeDlg1(ui::Services& services, Values values);
 
-  /// After kOk, what the observer entered: four figures and two of each other (the hour may be
-  /// empty); until then, what was handed in. Any hour of the day is taken: which hours are synoptic
-  /// is the report's business.
+  /// After kOk, what the observer entered: four figures and two of each other, the hour a main or
+  /// intermediate synoptic one or empty; until then, what was handed in.
   [[nodiscard]] const Values& values() const { return values_; }
 
   ui::Label hint;
@@ -31,15 +31,19 @@ class CUTCTimeDlg1 : public ui::Screen {
   ui::Button help;
 
  protected:
-  /// Empty fields are filled from the clock, read as UTC.
+  /// Empty fields are filled from the clock, read as UTC. An hour that OK would refuse has the
+  /// focus.
   void on_open() override;
   /// Refuses a date that is not complete or does not exist; the screen stays open.
   void on_ok() override;
 
  private:
+  /// Text id of the message that refuses the hour shown, 0 when OK takes it.
+  [[nodiscard]] int hour_fault() const;
   void refuse(int message, ui::Control& field);
 
   Values values_;
+  elements::Years years_;
   CFigureField year_;
   CFigureField month_;
   CFigureField day_;

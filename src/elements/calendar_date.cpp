@@ -13,4 +13,8 @@ bool is_calendar_date(int year, int month, int day) {
   return year >= 1 && year <= 9999 && day >= 1 && day <= days_in_month(year, month);
 }
 
+Years observation_years(int this_year) {
+  return {2000, this_year + 1};
+}
+
 }  // namespace elements

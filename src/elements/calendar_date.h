@@ -1,5 +1,5 @@
 #pragma once
-// Which days exist.
+// Which days exist, and which years observations are made in.
 
 namespace elements {
 
@@ -8,5 +8,13 @@ namespace elements {
 
 /// True for a day of the Gregorian calendar, year 1 to 9999.
 [[nodiscard]] bool is_calendar_date(int year, int month, int day);
+
+/// Years that an observation may bear, both included: those of the report's form, up to the next
+/// one, since a ship's clock may run ahead at new year. `this_year` is the clock's, UTC.
+struct Years {
+  int first = 0;
+  int last = 0;
+};
+[[nodiscard]] Years observation_years(int this_year);
 
 }  // namespace elements

@@ -112,7 +112,7 @@ void ObservationForm::compute_dew_point() {
     }
     return;
   }
-  const TemperatureFigures figures = temperature_figures(*td);
+  const TemperatureFigures figures = computed_dew_point_figures(*td);
   const std::string earlier = record_.SnTd + record_.TdTdTd;
   record_.SnTd = figures.sign;
   record_.TdTdTd = figures.figures;

@@ -85,7 +85,10 @@ bool ObservationForm::ask(int question) const {
 
 std::optional<Bounds> ObservationForm::bounds_of(Field field) const {
   if (field == Field::kYY) return Bounds{1, static_cast<double>(days_of_month(record_))};
-  if (field == Field::kYear) return Bounds{2000, static_cast<double>(clock_.utc().year + 1)};
+  if (field == Field::kYear) {
+    const Years years = observation_years(clock_.utc().year);
+    return Bounds{static_cast<double>(years.first), static_cast<double>(years.last)};
+  }
   return std::nullopt;
 }
 

@@ -6,6 +6,7 @@
 #include "elements/field_codes.h"
 #include "elements/observation_form.h"
 #include "elements/sea_level_pressure.h"
+#include "elements/sea_temperature_figures.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -59,6 +60,16 @@ const SignRow* sign_row(std::string W::*member) {
 // Symbols of a group that is written only when it is set: solidi say that it is not.
 bool is_kept_group(std::string W::*member) {
   return member == &W::gg || member == &W::GGExact;
+}
+
+// Minus zero is zero, also where its sign is typed. A bulb with ice on it keeps the sign that says
+// so.
+void take_minus_from_zero(W& record) {
+  if (record.TTT == "000" && record.SnT == "1") record.SnT = "0";
+  if (record.TdTdTd == "000" && record.SnTd == "1") record.SnTd = "0";
+  if (record.TbTbTb == "000" && record.Sw == "1") record.Sw = "0";
+  const auto method = sea_temperature_method(record.Ss);
+  if (record.TwTwTw == "000" && method) record.Ss = sea_temperature_sign(*method, false);
 }
 
 bool all_of(std::string_view figures, char c) {
@@ -149,6 +160,7 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
       return false;
     }
   }
+  take_minus_from_zero(record_);
   if (!group_accepted(row, before.record, entry)) {
     restore(before);
     return false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "elements/temperature_figures.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -27,13 +28,8 @@ std::optional<Celsius> sea_temperature(std::string_view text) {
 }
 
 SeaTemperatureFigures sea_temperature_figures(Celsius t, SeaTemperatureMethod method) {
-  const std::string text = text::format_fixed(t.value, 1, 4, '0');
-  std::string figures = text::replace_all(text, ".", "");
-  const bool has_sign = figures.front() == '-';
-  if (has_sign) figures.erase(0, 1);
-  while (figures.size() < 3) figures.insert(0, 1, '0');
-  const bool below_zero = has_sign && figures != "000";
-  return {sea_temperature_sign(method, below_zero), figures};
+  const TemperatureFigures shared = temperature_figures(t);
+  return {sea_temperature_sign(method, shared.sign == "1"), shared.figures};
 }
 
 std::string sea_temperature_text(std::string_view Ss, std::string_view TwTwTw) {

@@ -21,7 +21,7 @@ struct SeaTemperatureFigures {
   bool operator==(const SeaTemperatureFigures&) const = default;
 };
 
-/// Rounded to tenths as printed; what rounds to zero counts as zero or above.
+/// Rounded to tenths and signed as every temperature of the report is (temperature_figures()).
 [[nodiscard]] SeaTemperatureFigures sea_temperature_figures(Celsius t, SeaTemperatureMethod method);
 
 /// The way back: "-1.8" of "1" and "018"; empty when TwTwTw is no figures. An Ss that is not of the

@@ -10,6 +10,7 @@
 namespace elements {
 
 /// One decimal with two figures before the point and no blanks: "05.0", "12.3", "-01.8", "-12.3".
+/// What rounds to zero has no sign: "00.0".
 [[nodiscard]] std::string zero_filled_tenths(double value);
 
 struct TemperatureFigures {
@@ -19,16 +20,20 @@ struct TemperatureFigures {
   bool operator==(const TemperatureFigures&) const = default;
 };
 
-/// Texts for the fields SnT/TTT, SnTd/TdTdTd and TbTbTb. A value that rounds to -0.0 keeps its
-/// sign, as its printed form does.
+/// Texts for the fields SnT/TTT, SnTd/TdTdTd, TbTbTb and TwTwTw. What rounds to zero is zero, from
+/// whichever side: sign "0".
 [[nodiscard]] TemperatureFigures temperature_figures(Celsius t);
+
+/// The same for a dew point that was computed: one that is printed "-0.0" keeps its sign "1", as
+/// this computation has always given it.
+[[nodiscard]] TemperatureFigures computed_dew_point_figures(Celsius td);
 
 /// Sign and type of the wet bulb, Sw (code table 3855, measured values): "0" and "1" by sign for a
 /// bulb that is not iced, "2" for an iced one.
 [[nodiscard]] std::string wet_bulb_sign(const TemperatureFigures& wet, WetBulbState state);
 
 /// A temperature of two fields, whole degrees with sign and tenths. Empty whole degrees are no
-/// temperature; empty tenths count as "0".
+/// temperature; empty tenths count as "0". Zero has no minus: "-0" and "0" give "0.0".
 [[nodiscard]] std::string joined_temperature(std::string_view whole, std::string_view tenths);
 
 /// Too high or too low for the sea, so that the question is asked: whole degrees above 40 or below

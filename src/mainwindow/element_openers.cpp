@@ -79,7 +79,8 @@ bool open_position(Opening& opening) {
   const Struct_Weather& record = opening.form.record();
   CPositionDlg dialog(opening.services,
                       {record.LaDeg, record.LaMin, record.LoDeg, record.LoMin, record.Qc},
-                      opening.last_quadrant, opening.context.is_on_land);
+                      opening.last_quadrant, opening.context.is_on_land,
+                      {opening.form.north_south(), opening.form.east_west()});
   if (!confirmed(opening, dialog)) return false;
   opening.form.change(
       [&](Struct_Weather& r) {

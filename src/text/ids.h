@@ -444,6 +444,8 @@ inline constexpr int kSouth = 13106;
 inline constexpr int kEast = 13107;
 inline constexpr int kWest = 13108;
 inline constexpr int kLastReportHint = 13109;
+inline constexpr int kLastLatitudeSideHint = 42302;
+inline constexpr int kLastLongitudeSideHint = 42303;
 inline constexpr int kNoLatitudeSide = 13110;
 inline constexpr int kNoLongitudeSide = 13111;
 inline constexpr int kBeyondThePole = 13112;
@@ -547,6 +549,10 @@ inline constexpr int kCharacteristic6 = 13626;
 inline constexpr int kCharacteristic7 = 13627;
 inline constexpr int kCharacteristic8 = 13628;
 inline constexpr int kCharacteristicUnknown = 13629;
+
+// Fields that are typed into
+inline constexpr int kTextTooLong = 42300;
+inline constexpr int kTenthsAlone = 42301;
 
 // CCountDewDlg
 inline constexpr int kPsychrometerTitle = 13700;

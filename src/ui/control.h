@@ -75,13 +75,15 @@ class Control {
   bool read_only = false;  ///< an edit that is shown but locked; it can have the focus
   int max_length = 0;      ///< in characters; 0 is no limit
   Role role = Role::kNone;
-  std::string font;        ///< font family asked for; empty is the usual one
-  bool narrow = true;      ///< full-width characters are narrowed before checks
-  std::string mark;        ///< state that a front end may show ("missing", "wrong"); empty for none
+  std::string font;    ///< font family asked for; empty is the usual one
+  bool narrow = true;  ///< full-width characters are narrowed before checks
+  std::string mark;    ///< state that a front end may show ("missing", "wrong"); empty for none
+  Control* continues_in = nullptr;  ///< the field of the decimals: a point goes on to it
+  bool unchecked = false;  ///< typed into, or left, without its check since; kept by the screen
   std::string why_locked;  ///< why it is locked or disabled, for the person; empty when it is not
 
   /// Runs when the focus leaves after the content was narrowed; false refuses: the focus comes back
-  /// and the text is selected. Skipped while Cancel or Help is being pressed.
+  /// and the text is selected. Skipped while Cancel or Help is being pressed; OK makes up for it.
   std::function<bool()> on_leave;
   /// After the person typed, chose or ticked.
   std::function<void()> on_change;

@@ -2,9 +2,34 @@
 
 #include <algorithm>
 
+#include "text/ids.h"
+#include "text/numbers.h"
 #include "text/strings.h"
 
 namespace ui {
+namespace {
+
+// What stands between whole figures and decimals, as keyboards and input methods give it.
+constexpr std::string_view kPoints[] = {".", ",", "．", "，", "。", "、", "｡", "､"};
+
+struct Found {
+  std::size_t at = std::string_view::npos;
+  std::size_t size = 0;  ///< bytes of the point itself
+};
+
+Found first_point(std::string_view text) {
+  Found first;
+  for (const std::string_view point : kPoints) {
+    if (const auto at = text.find(point); at < first.at) first = {at, point.size()};
+  }
+  return first;
+}
+
+bool is_too_long(std::string_view text, const Control& field) {
+  return field.max_length > 0 && text::length(text) > static_cast<std::size_t>(field.max_length);
+}
+
+}  // namespace
 
 // One event at a time: a message shown by a handler makes a windowing system send focus events of
 // its own.
@@ -68,10 +93,38 @@ void Screen::type(Control& control, std::string_view text) {
   const Handling handling(*this);
   if (!handling || !control.can_focus() || control.read_only) return;
   if (control.kind != Kind::kEdit && control.kind != Kind::kCombo) return;
-  if (control.max_length > 0)
+  if (type_across_point(control, text)) return;
+  // As a field of that length takes it. With a point in it the text belongs to two fields, and what
+  // does not fit into them stays whole for the person to see.
+  const bool split = control.continues_in != nullptr && first_point(text).size > 0;
+  if (control.max_length > 0 && !split)
     text = text::first(text, static_cast<std::size_t>(control.max_length));
+  put_typed(control, text);
+}
+
+void Screen::put_typed(Control& control, std::string_view text) {
+  control.unchecked = true;
   control.set(text);
   if (control.on_change) control.on_change();
+}
+
+// "1009.3" in the field of the whole figures: 1009 there, 3 in that of the tenths. False, with
+// nothing done, when there is no point, nowhere to go on, or no room for it all.
+bool Screen::type_across_point(Control& control, std::string_view text) {
+  Control* const next = control.continues_in;
+  if (next == nullptr || !next->can_focus() || next->read_only) return false;
+  const auto [at, size] = first_point(text);
+  if (at == std::string_view::npos) return false;
+  const std::string_view whole = text::trim(text.substr(0, at));
+  const std::string_view decimals = text::trim(text.substr(at + size));
+  if (is_too_long(whole, control) || is_too_long(decimals, *next) ||
+      first_point(decimals).at != std::string_view::npos)
+    return false;
+  put_typed(control, whole);
+  if (!decimals.empty()) put_typed(*next, decimals);
+  if (focused_ != &control) focus(control);
+  move_focus_inside(*next);
+  return true;
 }
 
 void Screen::choose(Control& control, int index) {
@@ -84,6 +137,7 @@ void Screen::choose(Control& control, int index) {
       control.item_disabled[static_cast<std::size_t>(index)]) {
     return;
   }
+  control.unchecked = true;
   control.selected = valid ? index : -1;
   if (valid && (control.kind == Kind::kCombo || control.kind == Kind::kDropDown)) {
     control.content = control.items[static_cast<std::size_t>(index)];
@@ -106,11 +160,16 @@ void Screen::press(Control& control) {
   } else if (!leave_focused(control)) {
     return;
   }
-  if (control.on_press) {
-    control.on_press();
+  press_inside(control);
+}
+
+void Screen::press_inside(Control& button) {
+  if (button.role == Role::kOk && !check_skipped_fields()) return;
+  if (button.on_press) {
+    button.on_press();
     return;
   }
-  switch (control.role) {
+  switch (button.role) {
     case Role::kOk:
       on_ok();
       break;
@@ -147,16 +206,44 @@ bool Screen::move_focus_inside(Control& to) {
 
 bool Screen::leave_focused(const Control& to) {
   Control* const from = focused_;
-  if (from == nullptr || from == &to || to.role == Role::kCancel || to.role == Role::kHelp)
+  if (from == nullptr || from == &to) return true;
+  if (to.role == Role::kCancel || to.role == Role::kHelp) {
+    from->unchecked = true;
     return true;
-  if ((from->kind == Kind::kEdit || from->kind == Kind::kCombo) && from->narrow &&
-      !from->read_only) {
-    if (std::string narrowed = text::narrow(from->content); narrowed != from->content)
-      from->set(narrowed);
   }
-  if (!from->enabled || !from->on_leave || from->on_leave()) return true;
+  if (check(*from)) return true;
   if (focused_ == from) focus(*from);
   return false;
+}
+
+// What a field goes through when it is left.
+bool Screen::check(Control& field) {
+  const bool typed = (field.kind == Kind::kEdit || field.kind == Kind::kCombo) && !field.read_only;
+  if (typed && field.enabled && field.unchecked && is_too_long(field.content, field)) {
+    services_.messages.error_filled(text::id::kTextTooLong, {text::format_int(field.max_length)});
+    return false;
+  }
+  if (typed && field.narrow) {
+    if (std::string narrowed = text::narrow(field.content); narrowed != field.content)
+      field.set(narrowed);
+  }
+  if (!field.enabled) return true;
+  if (field.on_leave && !field.on_leave()) return false;
+  field.unchecked = false;
+  return true;
+}
+
+// OK makes up for the checks of fields that were left by Help, or changed while another control had
+// the focus. False when one was refused: it has the focus then.
+bool Screen::check_skipped_fields() {
+  for (Control* const field : controls_) {
+    if (!field->unchecked || !field->can_focus()) continue;
+    Control* const before = focused_;
+    const bool passed = check(*field);
+    if (!passed && focused_ == before) focus(*field);
+    if (!passed || result_ || focused_ != before) return false;
+  }
+  return true;
 }
 
 void Screen::key(Key key) {
@@ -191,15 +278,7 @@ void Screen::key(Key key) {
     target = *ok;
     if (!move_focus_inside(*target)) return;
   }
-  if (target->on_press) {
-    target->on_press();
-  } else if (target->role == Role::kOk) {
-    on_ok();
-  } else if (target->role == Role::kCancel) {
-    on_cancel();
-  } else if (target->role == Role::kHelp) {
-    on_help();
-  }
+  press_inside(*target);
 }
 
 void Screen::command(const MenuItem& item) {
@@ -273,6 +352,7 @@ void Screen::close(int result) {
 
 void Screen::focus(Control& control) {
   if (!control.can_focus()) return;
+  if (focused_ != nullptr && focused_ != &control) focused_->unchecked = true;
   focused_ = &control;
   selection_length_ = -1;
   ++focus_serial_;

@@ -49,8 +49,10 @@ class Screen {
   /// Fills texts, runs on_open() and puts the focus on the first control. Called once by the front
   /// end; a screen may close itself in on_open() and is then never shown.
   void open();
-  /// Typed text in place of the content, cut at max_length. Nothing happens to a locked or disabled
-  /// control.
+  /// Typed text in place of the content, cut at max_length. Where the control continues in another,
+  /// a point or comma goes on there: what follows it replaces the other's content, and the focus
+  /// moves; a text that does not fit into both stays whole for the person to see and is refused
+  /// when the field is left. Nothing happens to a locked or disabled control.
   void type(Control& control, std::string_view text);
   /// Picked a line; an index outside the lines picks none.
   void choose(Control& control, int index);
@@ -74,7 +76,8 @@ class Screen {
   [[nodiscard]] Services& services() const { return services_; }
 
   virtual void on_open() {}
-  /// The OK button (and Enter). The default closes with kOk.
+  /// The OK button (and Enter), once every field that was changed or left without its check has
+  /// passed it. The default closes with kOk.
   virtual void on_ok() { close(text::kOk); }
   /// The Cancel button, Escape and the close box. The default closes with kCancel.
   virtual void on_cancel() { close(text::kCancel); }
@@ -104,6 +107,11 @@ class Screen {
   class Handling;
 
   bool leave_focused(const Control& to);
+  bool check(Control& field);
+  bool check_skipped_fields();
+  bool type_across_point(Control& control, std::string_view text);
+  void put_typed(Control& control, std::string_view text);
+  void press_inside(Control& button);
   bool move_focus_inside(Control& to);
 
   Services& services_;

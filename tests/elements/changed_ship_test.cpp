@@ -1,5 +1,5 @@
-// What a change of the ship's fixed data or of the observation items does to an observation that has
-// begun, and what makes an observation unsaved.
+// What a change of the ship's fixed data or of the observation items does to an observation that
+// has begun, and what makes an observation unsaved.
 
 #include <gtest/gtest.h>
 

@@ -264,13 +264,27 @@ TEST(TemperatureFigures, SignAndTenths) {
     elements::TemperatureFigures figures;
   };
   const Row rows[] = {
-      {-1.77, {"-01.8", "1", "018"}}, {0.0, {"00.0", "0", "000"}},
-      {5.25, {"05.2", "0", "052"}},   {9.96, {"10.0", "0", "100"}},
-      {12.3, {"12.3", "0", "123"}},   {-9.94, {"-09.9", "1", "099"}},
-      {-9.96, {"-10.0", "1", "100"}}, {-12.3, {"-12.3", "1", "123"}},
-      {-0.04, {"-0.0", "1", "000"}},  // the printed zero keeps its sign
+      {-1.77, {"-01.8", "1", "018"}},
+      {0.0, {"00.0", "0", "000"}},
+      {5.25, {"05.2", "0", "052"}},
+      {9.96, {"10.0", "0", "100"}},
+      {12.3, {"12.3", "0", "123"}},
+      {-9.94, {"-09.9", "1", "099"}},
+      {-9.96, {"-10.0", "1", "100"}},
+      {-12.3, {"-12.3", "1", "123"}},
+      // What rounds to zero is zero, from below too: a 1 before 000 would speak of frost.
+      {-0.04, {"00.0", "0", "000"}},
+      {-0.0, {"00.0", "0", "000"}},
+      {-0.06, {"-00.1", "1", "001"}},
+      {0.04, {"00.0", "0", "000"}},
   };
   for (const Row& row : rows) EXPECT_EQ(elements::temperature_figures({row.t}), row.figures);
+  // A computed dew point that is printed with a minus keeps it; all others are the same.
+  for (const Row& row : rows) {
+    const bool minus_zero = row.t <= 0.0 && std::signbit(row.t) && row.t > -0.05;
+    const elements::TemperatureFigures kept{"-0.0", "1", "000"};
+    EXPECT_EQ(elements::computed_dew_point_figures({row.t}), minus_zero ? kept : row.figures);
+  }
 }
 
 TEST(TemperatureFigures, AreThreeFiguresHoweverWildTheValue) {

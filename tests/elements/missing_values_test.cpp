@@ -1,5 +1,5 @@
-// What is missing is never computed with as 0.0: each form of a missing value, in each input of each
-// formula that takes texts, and in each group that feeds one.
+// What is missing is never computed with as 0.0: each form of a missing value, in each input of
+// each formula that takes texts, and in each group that feeds one.
 
 #include <gtest/gtest.h>
 
@@ -95,9 +95,7 @@ const Formula kFormulas[] = {
      [](const auto& in) { return elements::sea_temperature(in[0]).has_value(); }},
     {"true wind speed",
      {"12"},
-     [](const auto& in) {
-       return elements::true_wind_speed(in[0]) != elements::kUnknownSpeed;
-     }},
+     [](const auto& in) { return elements::true_wind_speed(in[0]) != elements::kUnknownSpeed; }},
 };
 
 TEST(MissingValues, GiveNoResultInAnyInputOfAnyFormula) {
@@ -129,8 +127,8 @@ TEST(MissingValues, OfTheAirLeaveTheCardsCorrection) {
   loaded.height_full_load = "20";
   loaded.total_correction_full_load = "+2.5";
   for (const char* const missing : kMissing) {
-    const auto correction = elements::total_correction({1013.2}, loaded,
-                                                       elements::air_temperature_of(missing));
+    const auto correction =
+        elements::total_correction({1013.2}, loaded, elements::air_temperature_of(missing));
     EXPECT_DOUBLE_EQ(correction.value, 2.5) << missing;
   }
 }
@@ -145,11 +143,8 @@ TEST(MissingValues, OfTheTendencyLeaveTheChoiceToTheCharacteristic) {
 }
 
 TEST(MissingValues, OfAPositionMakeItNoPosition) {
-  const std::pair<std::string W::*, const char*> parts[] = {{&W::Qc, "1"},
-                                                            {&W::LaDeg, "35"},
-                                                            {&W::LaMin, "30"},
-                                                            {&W::LoDeg, "140"},
-                                                            {&W::LoMin, "12"}};
+  const std::pair<std::string W::*, const char*> parts[] = {
+      {&W::Qc, "1"}, {&W::LaDeg, "35"}, {&W::LaMin, "30"}, {&W::LoDeg, "140"}, {&W::LoMin, "12"}};
   W record{ShipFixedData{}, KeyObservationItems{}};
   for (const auto& [member, figures] : parts) record.*member = figures;
   ASSERT_TRUE(record.position());
@@ -249,8 +244,8 @@ TEST(DewPoint, OfEarlierBulbsIsNamedInTheListOfASave) {
     ASSERT_TRUE(f.enter(Field::kWetBulb, "1.0"));
     EXPECT_EQ(dew_point(f), "0116");
     EXPECT_EQ(f.record().LogExtra, "");
-    EXPECT_EQ(f.form->remarks(), std::vector<std::string>{std::string(text::bilingual(
-                                     id::kDewPointOfEarlierBulbs, language))});
+    EXPECT_EQ(f.form->remarks(), std::vector<std::string>{std::string(
+                                     text::bilingual(id::kDewPointOfEarlierBulbs, language))});
     ASSERT_TRUE(f.enter(Field::kWetBulb, "15.0"));
     EXPECT_TRUE(f.form->remarks().empty());
     EXPECT_EQ(f.record().LogExtra, "0580");

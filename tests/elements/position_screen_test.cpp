@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "elements/CPositionDlg.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
@@ -107,6 +110,48 @@ TEST_F(PositionScreen, OffersTheHemispheresOfTheLastReportAndSaysSo) {
     EXPECT_TRUE(dialog.last_report_hint.visible) << "the longitude is still the last report's";
     dialog.choose(dialog.longitude_side, 0);
     EXPECT_FALSE(dialog.last_report_hint.visible);
+  }
+}
+
+// Every combination of what was chosen on the form, the record's quadrant and the last report's.
+TEST_F(PositionScreen, OffersTheLastReportsSideOnlyWhereNobodyChose) {
+  for (const std::string last : {"", "1", "3", "5", "7"}) {
+    for (const int latitude : {-1, 0, 1}) {
+      for (const int longitude : {-1, 0, 1}) {
+        const auto last_row =
+            std::find_if(std::begin(kQuadrants), std::end(kQuadrants),
+                         [&](const QuadrantRow& r) { return last == r.quadrant; });
+        const bool none = last_row == std::end(kQuadrants);
+        const int last_latitude = none ? -1 : last_row->latitude;
+        const int last_longitude = none ? -1 : last_row->longitude;
+        CPositionDlg dialog(world.services, {"34", "56", "138", "05", ""}, last, {},
+                            {latitude, longitude});
+        dialog.open();
+        SCOPED_TRACE(last + " " + std::to_string(latitude) + " " + std::to_string(longitude));
+        EXPECT_EQ(dialog.latitude_side.selected, latitude < 0 ? last_latitude : latitude);
+        EXPECT_EQ(dialog.longitude_side.selected, longitude < 0 ? last_longitude : longitude);
+        EXPECT_EQ(dialog.last_report_hint.visible, !none && (latitude < 0 || longitude < 0));
+        if (none) continue;
+        const int hint = longitude >= 0  ? id::kLastLatitudeSideHint
+                         : latitude >= 0 ? id::kLastLongitudeSideHint
+                                         : id::kLastReportHint;
+        if (latitude < 0 || longitude < 0) {
+          EXPECT_EQ(dialog.caption(dialog.last_report_hint),
+                    text::bilingual(hint, text::Language::kEnglish));
+        }
+        // Choosing what was offered takes the hint away; the officer's own side never had one.
+        if (latitude < 0) dialog.choose(dialog.latitude_side, last_latitude);
+        if (longitude < 0) dialog.choose(dialog.longitude_side, last_longitude);
+        EXPECT_FALSE(dialog.last_report_hint.visible);
+        dialog.press(dialog.ok);
+        const int shown[] = {dialog.latitude_side.selected, dialog.longitude_side.selected};
+        for (const QuadrantRow& row : kQuadrants) {
+          if (row.latitude == shown[0] && row.longitude == shown[1]) {
+            EXPECT_EQ(dialog.values().Qc, row.quadrant);
+          }
+        }
+      }
+    }
   }
 }
 

@@ -114,14 +114,14 @@ TEST_F(TimeScreen, CancelHandsBackWhatWasHandedIn) {
 TEST_F(TimeScreen, TypedAndPickedPartsComeBackInTwoFigures) {
   CUTCTimeDlg1 dialog(world.services, {});
   dialog.open();
-  fakes::enter(dialog, dialog.year, "２０１６");
+  fakes::enter(dialog, dialog.year, "２０１２");
   fakes::enter(dialog, dialog.month, "2");
   fakes::enter(dialog, dialog.day, "29");
   fakes::choose_text(dialog, dialog.hour, "21");
   EXPECT_EQ(dialog.month.content, "02");
   dialog.key(ui::Key::kEnter);
   EXPECT_EQ(dialog.result(), text::kOk);
-  EXPECT_EQ(dialog.values(), (Values{"2016", "02", "29", "21"}));
+  EXPECT_EQ(dialog.values(), (Values{"2012", "02", "29", "21"}));
 }
 
 TEST_F(TimeScreen, MainAndIntermediateHoursAreTakenAndAnEmptyOneToo) {
@@ -149,7 +149,10 @@ TEST_F(TimeScreen, OkRefusesADateThatIsNotCompleteOrDoesNotExist) {
       {{"2014", "04", "31", "12"}, id::kInvalidDay, "day"},
       {{"2014", "04", "0", "12"}, id::kInvalidDay, "day"},
       {{"20x4", "04", "01", "12"}, id::kInvalidDay, "year"},
-      {{"14", "04", "01", "12"}, id::kInvalidDay, "year"},
+      {{"14", "04", "01", "12"}, id::kInvalidYear, "year"},
+      {{"1500", "04", "01", "12"}, id::kInvalidYear, "year"},
+      {{"1999", "04", "01", "12"}, id::kInvalidYear, "year"},
+      {{"2016", "04", "01", "12"}, id::kInvalidYear, "year"},
       {{"2014", "13", "01", "12"}, id::kInvalidDay, "month"},
       {{"2014", "a", "01", "12"}, id::kInvalidDay, "month"},
       {{"2014", "04", "1.", "12"}, id::kInvalidDay, "day"},
@@ -202,7 +205,9 @@ struct LeaveRow {
 TEST_F(TimeScreen, LeavingATypedPartThatCannotBeRefusesItWithItsOwnMessage) {
   const LeaveRow rows[] = {
       {"year", "abcd", id::kInvalidYear}, {"year", "14", id::kInvalidYear},
-      {"year", "-201", id::kInvalidYear}, {"month", "13", id::kInvalidMonth},
+      {"year", "-201", id::kInvalidYear}, {"year", "1500", id::kInvalidYear},
+      {"year", "1999", id::kInvalidYear}, {"year", "2016", id::kInvalidYear},
+      {"year", "9999", id::kInvalidYear}, {"month", "13", id::kInvalidMonth},
       {"month", "0", id::kInvalidMonth},  {"month", "x", id::kInvalidMonth},
       {"day", "32", id::kInvalidDay},     {"day", "00", id::kInvalidDay},
       {"hour", "24", id::kInvalidHour},   {"hour", "1.", id::kInvalidHour},
@@ -228,6 +233,36 @@ TEST_F(TimeScreen, LeavingATypedPartThatCannotBeRefusesItWithItsOwnMessage) {
   }
   EXPECT_EQ(text::bilingual(35003, text::Language::kEnglish), "Invalid month");
   EXPECT_EQ(text::bilingual(35004, text::Language::kEnglish), "Invalid year");
+}
+
+TEST_F(TimeScreen, TakesTheYearsOfObservationsUpToTheNextOfTheClock) {
+  for (const int now : {2014, 2026}) {
+    world.clock.utc_time = {now, 12, 31, 23, 50, 0};
+    const elements::Years years = elements::observation_years(now);
+    EXPECT_EQ(years.first, 2000);
+    EXPECT_EQ(years.last, now + 1);
+    for (const int year : {years.first, now, years.last}) {
+      CUTCTimeDlg1 dialog(world.services, {"2014", "04", "01", "12"});
+      dialog.open();
+      fakes::enter(dialog, dialog.year, std::to_string(year));
+      dialog.press(dialog.ok);
+      EXPECT_EQ(dialog.result(), text::kOk) << year;
+      EXPECT_EQ(dialog.values().Year, std::to_string(year));
+    }
+  }
+}
+
+TEST_F(TimeScreen, OpensOnTheHourWhenTheOneShownWouldBeRefused) {
+  for (int hour = 0; hour < 24; ++hour) {
+    world.clock.utc_time = {2014, 11, 15, hour, 50, 0};
+    CUTCTimeDlg1 dialog(world.services, {});
+    dialog.open();
+    EXPECT_EQ(dialog.focused()->name, hour % 3 == 0 ? "year" : "hour") << hour;
+    // An hour of the form's own is what is offered then.
+    CUTCTimeDlg1 filled(world.services, {"2014", "11", "15", "12"});
+    filled.open();
+    EXPECT_EQ(filled.focused(), &filled.year) << hour;
+  }
 }
 
 TEST_F(TimeScreen, FocusPassesThroughAPartThatNobodyTyped) {

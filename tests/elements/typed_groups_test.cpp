@@ -152,15 +152,13 @@ TEST(TypedGroup, WavesOfPeriodZeroHaveNoHeight) {
     Field period;
     Field height;
   };
-  for (const Waves& row :
-       {Waves{Group::k1PwaPwaHwaHwa, "10005", Field::kPwaPwa, Field::kHwaHwa},
-        {Group::k2PwPwHwHw, "20005", Field::kPwPw, Field::kHwHw},
-        {Group::k4Pw1Pw1Hw1Hw1, "40005", Field::kPw1Pw1, Field::kHw1Hw1},
-        {Group::k5Pw2Pw2Hw2Hw2, "50005", Field::kPw2Pw2, Field::kHw2Hw2}}) {
+  for (const Waves& row : {Waves{Group::k1PwaPwaHwaHwa, "10005", Field::kPwaPwa, Field::kHwaHwa},
+                           {Group::k2PwPwHwHw, "20005", Field::kPwPw, Field::kHwHw},
+                           {Group::k4Pw1Pw1Hw1Hw1, "40005", Field::kPw1Pw1, Field::kHw1Hw1},
+                           {Group::k5Pw2Pw2Hw2Hw2, "50005", Field::kPw2Pw2, Field::kHw2Hw2}}) {
     SCOPED_TRACE(row.typed);
     for (const auto& [first, figures, second, refused] :
-         {std::tuple{row.period, "00", row.height, "2.5"},
-          {row.height, "2.5", row.period, "00"}}) {
+         {std::tuple{row.period, "00", row.height, "2.5"}, {row.height, "2.5", row.period, "00"}}) {
       Form f;
       f.ship.wave_recorder = true;
       f.rebuild();

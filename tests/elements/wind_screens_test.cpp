@@ -179,6 +179,19 @@ struct True {
   [[nodiscard]] std::string result() const { return screen.direction() + "|" + screen.speed(); }
 };
 
+TEST(TrueWindScreen, GoesFromTheDirectionToTheSpeedWithTab) {
+  fakes::World world;
+  CTrueDirWindDlg screen(world.services, "", "");
+  screen.open();
+  EXPECT_EQ(screen.focused(), &screen.direction_field);
+  screen.type(screen.direction_field, "18");
+  screen.key(ui::Key::kTab);
+  ASSERT_EQ(screen.focused(), &screen.speed_field);
+  screen.type(*screen.focused(), "12");
+  screen.key(ui::Key::kEnter);
+  EXPECT_EQ(screen.direction() + "|" + screen.speed(), "18|12");
+}
+
 TEST(TrueWindScreen, ChecksDirectionAgainstSpeedOnOk) {
   struct Row {
     const char* direction;

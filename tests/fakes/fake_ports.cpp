@@ -27,6 +27,10 @@ void FakeWindows::expect_screen(std::string class_name, std::function<void(ui::S
   expected_.push_back({0, {}, {}, std::move(class_name), std::move(act)});
 }
 
+void FakeWindows::answer_all(std::string answer) {
+  answer_to_all_ = std::move(answer);
+}
+
 void FakeWindows::verify() {
   for (const Expected& left : expected_) {
     ADD_FAILURE() << "expected and never came: " << left.text_id << " " << left.text << left.screen;
@@ -36,6 +40,12 @@ void FakeWindows::verify() {
 
 int FakeWindows::show_message(const platform::MessageBox& box) {
   boxes.push_back(box);
+  if (answer_to_all_) {
+    const auto all =
+        std::find_if(box.buttons.begin(), box.buttons.end(),
+                     [&](const platform::BoxButton& b) { return b.name == *answer_to_all_; });
+    return all == box.buttons.end() ? box.close_result : all->result;
+  }
   if (expected_.empty()) {
     ADD_FAILURE() << "unexpected message " << box.text_id << ": " << box.text;
     return box.close_result;
@@ -63,6 +73,11 @@ int FakeWindows::show_message(const platform::MessageBox& box) {
 int FakeWindows::run_modal(ui::Screen& screen) {
   screen.open();
   if (screen.result()) return *screen.result();
+  if (answer_to_all_) {
+    notices.push_back("modal " + screen.class_name());
+    screen.close_box();
+    return screen.result().value_or(text::kCancel);
+  }
   if (expected_.empty() || expected_.front().screen != screen.class_name()) {
     ADD_FAILURE() << "unexpected screen " << screen.class_name();
     return text::kCancel;

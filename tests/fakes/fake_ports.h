@@ -83,12 +83,15 @@ class FakeWindows : public platform::Windows {
   void expect_text(std::string text, std::string answer = "ok");
   /// Next, a screen of this class opens; `act` is the officer and must close it.
   void expect_screen(std::string class_name, std::function<void(ui::Screen&)> act);
+  /// From now on nothing is a surprise: a message is answered with this button, or by its close box
+  /// where it has no such button, and a screen that opens is closed by its close box.
+  void answer_all(std::string answer);
   /// Nothing expected may be left; also checked by the destructor.
   void verify();
 
   /// Every box that was shown, in order.
   std::vector<platform::MessageBox> boxes;
-  /// "show CLASS", "hide CLASS", "pause 1000" in order.
+  /// "show CLASS", "hide CLASS", "pause 1000", and "modal CLASS" under answer_all(), in order.
   std::vector<std::string> notices;
   std::optional<std::string> browse_answer;
 
@@ -109,6 +112,7 @@ class FakeWindows : public platform::Windows {
     std::function<void(ui::Screen&)> act;
   };
   std::deque<Expected> expected_;
+  std::optional<std::string> answer_to_all_;
 };
 
 /// A Files where nothing exists and nothing can be written; for screens that touch no file.

@@ -1,5 +1,5 @@
-// A field refused first and corrected by its dialog; what F1 says where no dialog opens; what a save
-// leaves and lists.
+// A field refused first and corrected by its dialog; what F1 says where no dialog opens; what a
+// save leaves and lists.
 
 #include <gtest/gtest.h>
 
@@ -98,9 +98,17 @@ ShipFixedData ship_for(const std::string& field) {
 
 // What the dialogs want to be whole before they can be confirmed.
 void enter_whole(Opened& opened) {
-  for (const auto& [name, text] : {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"},
-                                   {"GG", "12"}, {"GGExact", "12"}, {"gg", "10"}, {"LaDeg", "35"},
-                                   {"LaMin", "30"}, {"LoDeg", "140"}, {"LoMin", "12"}, {"a", "2"}})
+  for (const auto& [name, text] : {std::pair{"Year", "2014"},
+                                   {"Month", "11"},
+                                   {"YY", "15"},
+                                   {"GG", "12"},
+                                   {"GGExact", "12"},
+                                   {"gg", "10"},
+                                   {"LaDeg", "35"},
+                                   {"LaMin", "30"},
+                                   {"LoDeg", "140"},
+                                   {"LoMin", "12"},
+                                   {"a", "2"}})
     opened.type(name, text);
   opened.choose("north_south", 0);
   opened.choose("east_west", 0);

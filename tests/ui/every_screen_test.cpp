@@ -100,6 +100,21 @@ TEST_P(EveryScreen, IsTabbedInReadingOrder) {
   }
 }
 
+// Figures that are typed while a tick box has the focus go nowhere, so Tab must not stop at one on
+// the way from field to field. The main window's one, "Freeze", stands behind the bulb that it
+// belongs to.
+TEST_P(EveryScreen, HasNoTickBoxBetweenFieldsThatAreTypedInto) {
+  in(text::Language::kEnglish);
+  std::string tick_before;
+  for (const ui::Control* const control : screen_->controls()) {
+    const bool typed = control->kind == ui::Kind::kEdit || control->kind == ui::Kind::kCombo;
+    if (typed) {
+      EXPECT_EQ(tick_before, "") << control->name;
+    }
+    if (control->kind == ui::Kind::kTick && control->name != "freeze") tick_before = control->name;
+  }
+}
+
 TEST_P(EveryScreen, GivesNoAccessKeyTwice) {
   for (const auto language : {text::Language::kEnglish, text::Language::kJapanese}) {
     in(language);

@@ -221,6 +221,183 @@ TEST_F(AScreen, CutsTypedTextAtItsLargestNumberOfCharacters) {
   EXPECT_EQ(screen.first.content, "１２３４５");
 }
 
+TEST_F(AScreen, RefusesWhatIsTooLongForTwoFieldsOnLeaving) {
+  screen.first.continues_in = &screen.second;
+  screen.second.max_length = 1;
+  screen.type(screen.first, "1009.34");
+  take_log();
+  for (const bool by_help : {false, true}) {
+    if (by_help) screen.press(screen.help);
+    const std::string before = fakes::dump(screen);
+    world.windows.expect(text::id::kTextTooLong);
+    screen.press(screen.ok);
+    EXPECT_EQ(world.windows.boxes.back().text,
+              "Input error: at most 5 characters can be entered here.");
+    EXPECT_EQ(fakes::dump(screen), before) << "all of it is there to be seen";
+    EXPECT_EQ(take_log(), "") << "the field's own check is not asked";
+    EXPECT_EQ(screen.focused(), &screen.first);
+    EXPECT_FALSE(screen.result());
+  }
+  screen.type(screen.first, "1009.3");
+  EXPECT_EQ(screen.first.content, "1009");
+  screen.press(screen.ok);
+  EXPECT_EQ(screen.result(), text::kOk);
+}
+
+TEST_F(AScreen, RefusesNoLongTextThatNobodyTyped) {
+  screen.first.set("123456");
+  screen.press(screen.ok);
+  EXPECT_EQ(screen.result(), text::kOk);
+}
+
+// ---- OK makes up for what was skipped
+
+TEST_F(AScreen, ChecksOnOkWhatHelpLeftUnchecked) {
+  screen.type(screen.first, "ｂad");
+  screen.press(screen.help);
+  take_log();
+  for (int i = 0; i < 2; ++i) {
+    screen.press(screen.ok);
+    EXPECT_EQ(take_log(), "check(bad)") << "narrowed first";
+    EXPECT_FALSE(screen.result());
+    EXPECT_EQ(screen.focused(), &screen.first);
+    EXPECT_EQ(screen.selection_length(), -1);
+    screen.press(screen.help);
+  }
+  screen.key(Key::kEnter);  // Help has the focus: its topic again, nothing is checked
+  EXPECT_EQ(take_log(), "");
+  screen.move_focus(screen.second);
+  screen.key(Key::kEnter);
+  EXPECT_EQ(take_log(), "enter second check(bad)");
+  EXPECT_FALSE(screen.result());
+}
+
+TEST_F(AScreen, ForgetsWhatWasSkippedOnceTheFieldWasLeftAsUsual) {
+  screen.type(screen.first, "good");
+  screen.press(screen.help);
+  screen.move_focus(screen.first);
+  screen.move_focus(screen.second);
+  take_log();
+  screen.press(screen.ok);
+  EXPECT_EQ(take_log(), "");
+  EXPECT_EQ(screen.result(), text::kOk);
+}
+
+TEST_F(AScreen, MakesUpForNoCheckOfWhatWasSwitchedOffHiddenOrLockedMeanwhile) {
+  for (int way = 0; way < 2; ++way) {
+    CSampleDlg other(world.services);
+    other.open();
+    other.type(other.first, "bad");
+    other.press(other.help);
+    (way == 0 ? other.first.enabled : other.first.visible) = false;
+    other.log.clear();
+    other.press(other.ok);
+    EXPECT_EQ(other.log, "") << way;
+    EXPECT_EQ(other.result(), text::kOk) << way;
+  }
+}
+
+TEST_F(AScreen, ChecksAFieldThatIsSwitchedOnAgainByATick) {
+  screen.tick_box.on_change = [this] { screen.first.enabled = !screen.tick_box.checked; };
+  screen.type(screen.first, "bad");
+  screen.tick(screen.tick_box, true);
+  screen.move_focus(screen.second);
+  screen.tick(screen.tick_box, false);
+  take_log();
+  screen.press(screen.ok);
+  EXPECT_EQ(take_log(), "check(bad)");
+  EXPECT_FALSE(screen.result());
+}
+
+TEST_F(AScreen, ChecksOnOkWhatAHandlerTookTheFocusFrom) {
+  screen.type(screen.first, "bad");
+  screen.focus(screen.second);
+  take_log();
+  screen.press(screen.ok);
+  EXPECT_EQ(take_log(), "check(bad)");
+  EXPECT_FALSE(screen.result());
+  EXPECT_EQ(screen.focused(), &screen.first);
+}
+
+TEST_F(AScreen, ChecksSkippedFieldsInReadingOrderUpToTheFirstRefusal) {
+  screen.second.on_leave = [this] {
+    screen.log += "check2(" + screen.second.content + ")";
+    return screen.second.content != "bad";
+  };
+  for (ui::Edit* const field : {&screen.second, &screen.first}) {
+    fakes::enter(screen, *field, "bad");
+    screen.press(screen.help);
+  }
+  take_log();
+  screen.press(screen.ok);
+  EXPECT_EQ(take_log(), "check(bad)");
+  screen.type(screen.first, "good");
+  take_log();
+  screen.press(screen.ok);
+  EXPECT_EQ(take_log(), "check(good)check2(bad)");
+  EXPECT_EQ(screen.focused(), &screen.second);
+}
+
+// ---- A field that continues in another
+
+TEST_F(AScreen, GoesOnToTheDecimalsAtAPoint) {
+  struct Row {
+    const char* typed;
+    const char* whole;
+    const char* tenths;
+  };
+  const Row rows[] = {
+      {"1009.3", "1009", "3"},  {"1009,3", "1009", "3"},  {"１００９．３", "1009", "３"},
+      {"1009。3", "1009", "3"}, {"1009、3", "1009", "3"}, {"1009，3", "1009", "3"},
+      {"1009｡3", "1009", "3"},  {"1009､3", "1009", "3"},  {" 1009.3 ", "1009", "3"},
+      {".3", "", "3"},          {"1009.", "1009", "7"},   {"1009.x", "1009", "x"}};
+  for (const Row& row : rows) {
+    CSampleDlg split(world.services);
+    split.first.continues_in = &split.second;
+    split.second.max_length = 1;
+    split.open();
+    split.second.set("7");
+    const unsigned serial = split.focus_serial();
+    split.type(split.first, row.typed);
+    EXPECT_EQ(split.first.content, row.whole) << row.typed;
+    EXPECT_EQ(split.second.content, row.tenths) << row.typed;
+    EXPECT_EQ(split.focused(), &split.second) << row.typed;
+    EXPECT_GT(split.focus_serial(), serial);
+    EXPECT_EQ(split.selection_length(), -1) << "the next key replaces what stands there";
+  }
+}
+
+TEST_F(AScreen, KeepsWholeWhatDoesNotFitBeforeAndBehindThePoint) {
+  for (const char* const typed :
+       {"1009.34", "123456.3", "1.2.3", "1..", "1009.3x", "１００９．３４"}) {
+    CSampleDlg split(world.services);
+    split.first.continues_in = &split.second;
+    split.second.max_length = 1;
+    split.open();
+    split.second.set("7");
+    split.type(split.first, typed);
+    EXPECT_EQ(split.first.content, typed);
+    EXPECT_EQ(split.second.content, "7") << typed;
+    EXPECT_EQ(split.focused(), &split.first) << typed;
+  }
+}
+
+TEST_F(AScreen, StaysOnTheWholeFiguresWhenTheyAreRefusedAtThePoint) {
+  screen.first.continues_in = &screen.second;
+  screen.type(screen.first, "bad.3");
+  EXPECT_EQ(screen.first.content, "bad");
+  EXPECT_EQ(screen.second.content, "3") << "nothing typed is dropped";
+  EXPECT_EQ(screen.focused(), &screen.first);
+}
+
+TEST_F(AScreen, TakesAPointForALetterWhereTheDecimalsCannotBeTyped) {
+  screen.first.continues_in = &screen.second;
+  screen.second.enabled = false;
+  screen.type(screen.first, "1.3");
+  EXPECT_EQ(screen.first.content, "1.3");
+  EXPECT_EQ(screen.focused(), &screen.first);
+}
+
 TEST_F(AScreen, LetsNothingHappenToWhatIsLockedDisabledHiddenOrOfAnotherKind) {
   screen.second.visible = false;
   screen.drop_down.enabled = false;
