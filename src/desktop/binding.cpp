@@ -196,6 +196,7 @@ class ComboBinding : public Binding {
       const QString wanted = text_of(control().content);
       if (edit->text() != wanted) edit->setText(wanted);
       edit->setReadOnly(control().read_only);
+      show_property("locked", control().read_only);
     }
   }
 

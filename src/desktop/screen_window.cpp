@@ -126,6 +126,7 @@ ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent
   fit_to_screen();
   qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    focus_frame_->surround(binding_of(now) == nullptr ? nullptr : now);
     // The focus has already moved; the screen is asked once the event that moved it is through.
     if (now != nullptr && now->window() == this) {
       QMetaObject::invokeMethod(
@@ -171,6 +172,7 @@ void ScreenWindow::build() {
   }
   outer->addWidget(scroll_);
   set_tab_order();
+  focus_frame_ = new FocusFrame(content_);
   built_ = true;
 }
 
@@ -475,6 +477,9 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
     QToolTip::showText(rests.globalPos(), tells ? title->toolTip() : QString(), menu_bar_);
     return true;
   }
+  if (const QEvent::Type type = event->type(); type == QEvent::Move || type == QEvent::Resize ||
+                                               type == QEvent::Show || type == QEvent::Hide)
+    focus_frame_->place();
   if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
   const auto* const widget = qobject_cast<QWidget*>(watched);
   const auto& pressed = *static_cast<QKeyEvent*>(event);

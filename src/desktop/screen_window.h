@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desktop/binding.h"
+#include "desktop/style.h"
 #include "ui/layout.h"
 
 class QBoxLayout;
@@ -66,6 +67,7 @@ class ScreenWindow : public QDialog {
   QScrollArea* scroll_ = nullptr;
   QWidget* content_ = nullptr;
   QMenuBar* menu_bar_ = nullptr;
+  FocusFrame* focus_frame_ = nullptr;
   unsigned focus_serial_ = 0;
   unsigned menu_serial_ = 0;
   bool built_ = false;

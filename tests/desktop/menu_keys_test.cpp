@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/style.h"
 #include "desktop_world.h"
 #include "fakes/sample_observation.h"
 #include "mainwindow/main_menu.h"
@@ -104,9 +105,18 @@ struct Shown {
 
 TEST(TappedAlt, HighlightsTheFirstTitle) {
   Shown s;
+  const auto* const frame = s.window->findChild<desktop::FocusFrame*>();
+  EXPECT_TRUE(frame->isVisible());
   tap_alt();
   EXPECT_EQ("File", s.highlighted());
   EXPECT_EQ(s.bar, QApplication::focusWidget());
+  EXPECT_FALSE(frame->isVisible());
+  const auto paper = [&s](int title) {
+    const QRect place = s.bar->actionGeometry(s.bar->actions()[title]);
+    return s.bar->grab().toImage().pixelColor(place.topLeft() + QPoint(3, 3));
+  };
+  EXPECT_EQ(s.bar->palette().color(QPalette::Highlight), paper(0));
+  EXPECT_NE(paper(0), paper(1));
   key(Qt::Key_Right);
   EXPECT_EQ("Save weather report", s.highlighted());
   key(Qt::Key_Left);
