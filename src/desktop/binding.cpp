@@ -1,5 +1,6 @@
 #include "desktop/binding.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -201,6 +202,7 @@ class ComboBinding : public Binding {
       const QString wanted = text_of(control().content);
       if (edit->text() != wanted) edit->setText(wanted);
       edit->setReadOnly(control().read_only);
+      show_property("locked", control().read_only);
     }
   }
 
@@ -244,14 +246,12 @@ class ListBinding : public Binding {
     // Item by item, the list would count its last line as hidden and show a scroll bar for it.
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(list_, &QListWidget::itemSelectionChanged, this,
-            [this] { tell([&] { screen().choose(control(), list_->currentRow()); }); });
+            [this] { tell([&] { screen().choose(control(), chosen()); }); });
     connect(list_, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem*) { tell([&] { screen().press(control()); }); });
   }
   [[nodiscard]] QWidget* widget() const override { return list_; }
-  [[nodiscard]] Shown shown() const override {
-    return {{}, lines_, {}, list_->currentRow(), false};
-  }
+  [[nodiscard]] Shown shown() const override { return {{}, lines_, {}, chosen(), false}; }
 
  protected:
   void show_state() override {
@@ -270,13 +270,19 @@ class ListBinding : public Binding {
       }
       list_->updateGeometry();
     }
-    if (list_->currentRow() != control().selected) {
-      list_->setCurrentRow(control().selected);
+    if (chosen() != control().selected) {
+      list_->setCurrentRow(control().selected, QItemSelectionModel::ClearAndSelect);
       if (control().selected < 0) list_->clearSelection();
     }
   }
 
  private:
+  // The current line alone is none that was chosen: the focus makes the first one current.
+  [[nodiscard]] int chosen() const {
+    const QList<QListWidgetItem*> items = list_->selectedItems();
+    return items.isEmpty() ? -1 : list_->row(items.front());
+  }
+
   ShortList* list_;
   QStringList lines_;
 };
@@ -292,8 +298,12 @@ class ChoiceBinding : public Binding {
   }
   [[nodiscard]] QWidget* widget() const override { return box_; }
   [[nodiscard]] QWidget* focus_widget() const override {
-    if (QAbstractButton* const on = group_->checkedButton()) return on;
+    QAbstractButton* const on = group_->checkedButton();
+    if (on != nullptr && on->isEnabled()) return on;
     const auto buttons = group_->buttons();
+    const auto open = std::find_if(buttons.begin(), buttons.end(),
+                                   [](const QAbstractButton* b) { return b->isEnabled(); });
+    if (open != buttons.end()) return *open;
     return buttons.isEmpty() ? nullptr : buttons.front();
   }
   [[nodiscard]] Shown shown() const override {
@@ -309,7 +319,14 @@ class ChoiceBinding : public Binding {
       const auto& off = control().item_disabled;
       buttons[i]->setEnabled(!(at < off.size() && off[at]));
     }
-    if (group_->checkedId() == control().selected) return;
+    if (group_->checkedId() != control().selected) check_chosen(buttons);
+    // The focus goes with what is chosen.
+    if (owns(QApplication::focusWidget()) && group_->checkedButton() != nullptr)
+      focus_widget()->setFocus(Qt::OtherFocusReason);
+  }
+
+ private:
+  void check_chosen(const QList<QAbstractButton*>& buttons) {
     // An exclusive group cannot be emptied: it is opened for the moment.
     group_->setExclusive(false);
     for (QAbstractButton* const button : buttons)
@@ -317,7 +334,6 @@ class ChoiceBinding : public Binding {
     group_->setExclusive(true);
   }
 
- private:
   void relabel(const QStringList& wanted) {
     if (wanted.size() == lines_.size()) {
       for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(wanted[i]);
@@ -450,25 +466,20 @@ class TreeBinding : public Binding {
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
     tree_->setMinimumSize(width_for(*tree_, 44), tree_->fontMetrics().lineSpacing() * 12);
-    const auto row_of = [](const QTreeWidgetItem* item) {
-      return item->data(0, Qt::UserRole).toInt();
-    };
-    connect(tree_, &QTreeWidget::itemExpanded, this, [this, row_of](QTreeWidgetItem* item) {
+    connect(tree_, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
       tell([&] { screen().expand(control(), static_cast<std::size_t>(row_of(item))); });
     });
-    connect(tree_, &QTreeWidget::itemCollapsed, this, [this, row_of](QTreeWidgetItem* item) {
+    connect(tree_, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
       tell([&] { screen().collapse(control(), static_cast<std::size_t>(row_of(item))); });
     });
-    connect(tree_, &QTreeWidget::currentItemChanged, this,
-            [this, row_of](QTreeWidgetItem* item, QTreeWidgetItem*) {
-              if (item != nullptr) tell([&] { screen().choose(control(), row_of(item)); });
-            });
+    connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] {
+      if (chosen() >= 0) tell([&] { screen().choose(control(), chosen()); });
+    });
   }
   [[nodiscard]] QWidget* widget() const override { return tree_; }
   [[nodiscard]] Shown shown() const override {
     Shown result;
-    if (const QTreeWidgetItem* const item = tree_->currentItem())
-      result.selected = item->data(0, Qt::UserRole).toInt();
+    result.selected = chosen();
     for (const ui::TreeRow& row : rows_) result.items << text_of(row.text);
     return result;
   }
@@ -488,13 +499,21 @@ class TreeBinding : public Binding {
     const auto at = static_cast<std::size_t>(control().selected);
     QTreeWidgetItem* const wanted =
         control().selected >= 0 && at < items_.size() ? items_[at] : nullptr;
-    if (tree_->currentItem() != wanted) {
+    if (chosen() != (wanted == nullptr ? -1 : control().selected)) {
       tree_->setCurrentItem(wanted);
       if (wanted != nullptr) tree_->scrollToItem(wanted);
     }
   }
 
  private:
+  static int row_of(const QTreeWidgetItem* item) { return item->data(0, Qt::UserRole).toInt(); }
+
+  // The current row alone is none that was chosen: the focus makes the first one current.
+  [[nodiscard]] int chosen() const {
+    const QList<QTreeWidgetItem*> items = tree_->selectedItems();
+    return items.isEmpty() ? -1 : row_of(items.front());
+  }
+
   // The branches grow before they are hung into the tree, which looks at each item that comes.
   void fill() {
     tree_->clear();
@@ -571,6 +590,15 @@ bool Binding::owns(const QWidget* candidate) const {
 
 void Binding::select(int /*length*/) {}
 
+void Binding::show_property(const char* name, const QVariant& value) {
+  QWidget* const shown_widget = widget();
+  if (shown_widget->property(name) == value) return;
+  shown_widget->setProperty(name, value);
+  // A style sheet looks at properties only when it is asked to.
+  shown_widget->style()->unpolish(shown_widget);
+  shown_widget->style()->polish(shown_widget);
+}
+
 void Binding::show() {
   QWidget* const shown_widget = widget();
   const QSignalBlocker quiet(shown_widget);
@@ -588,13 +616,7 @@ void Binding::show() {
     const QString unit = QString::fromStdString(screen_.unit(control_));
     if (unit_label->text() != unit) unit_label->setText(unit);
   }
-  if (const QString mark = text_of(control_.mark);
-      shown_widget->property("mark").toString() != mark) {
-    shown_widget->setProperty("mark", mark);
-    // A style sheet looks at properties only when it is asked to.
-    shown_widget->style()->unpolish(shown_widget);
-    shown_widget->style()->polish(shown_widget);
-  }
+  show_property("mark", text_of(control_.mark));
   if (!control_.font.empty() && shown_widget->font().family() != text_of(control_.font)) {
     QFont font = shown_widget->font();
     font.setFamily(text_of(control_.font));

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QObject>
+#include <QVariant>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -69,6 +70,8 @@ class Binding : public QObject {
 
  protected:
   virtual void show_state() = 0;
+  /// A property of the widget that the style sheet asks for.
+  void show_property(const char* name, const QVariant& value);
   [[nodiscard]] ui::Screen& screen() const { return screen_; }
   [[nodiscard]] QString caption() const {
     return QString::fromStdString(screen_.caption(control_));

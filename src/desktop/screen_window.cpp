@@ -8,34 +8,86 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
 #include <ranges>
 #include <utility>
 
+#include "ui/line_keys.h"
+
 namespace desktop {
 namespace {
 
-std::optional<ui::Key> key_of(const QKeyEvent& event) {
+struct KeyRow {
+  Qt::Key key;
+  ui::Key told;
+};
+
+// Keys that mean the same in every field of a window.
+constexpr KeyRow kWindowKeys[] = {
+    {Qt::Key_F1, ui::Key::kF1},
+    {Qt::Key_Return, ui::Key::kEnter},
+    {Qt::Key_Enter, ui::Key::kEnter},
+    {Qt::Key_Escape, ui::Key::kEscape},
+};
+
+// Keys for the line of a control; a field that is typed into moves its caret with them.
+constexpr KeyRow kLineKeys[] = {
+    {Qt::Key_Up, ui::Key::kUp},     {Qt::Key_Down, ui::Key::kDown},
+    {Qt::Key_Left, ui::Key::kLeft}, {Qt::Key_Right, ui::Key::kRight},
+    {Qt::Key_Home, ui::Key::kHome}, {Qt::Key_End, ui::Key::kEnd},
+};
+
+std::optional<ui::Key> key_in(std::span<const KeyRow> rows, const QKeyEvent& event) {
   if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return std::nullopt;
-  switch (event.key()) {
-    case Qt::Key_F1:
-      return ui::Key::kF1;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return ui::Key::kEnter;
-    case Qt::Key_Escape:
-      return ui::Key::kEscape;
-    default:
-      return std::nullopt;
-  }
+  const auto at = std::ranges::find(rows, event.key(), [](const KeyRow& row) { return row.key; });
+  return at == rows.end() ? std::nullopt : std::optional(at->told);
+}
+
+// What the key writes, empty for keys that write nothing. Space is not among it: it presses.
+QString character_of(const QKeyEvent& event) {
+  if ((event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != Qt::NoModifier) return {};
+  const QString text = event.text();
+  const bool writes = !text.isEmpty() && text.front().isPrint() && !text.front().isSpace();
+  return writes ? text : QString();
 }
 
 // Keys that a window with a menu keeps from its fields, where they would open the field's own menu.
 bool does_nothing(const QKeyEvent& event) {
   return event.modifiers() == Qt::ShiftModifier &&
          (event.key() == Qt::Key_F10 || event.key() == Qt::Key_F12);
+}
+
+// Goes to the next item that begins with the letter, where no item has it for its access key. False
+// when there is none.
+template <class Menu>
+bool go_to_letter(Menu& menu, const QString& letter) {
+  if (letter.isEmpty()) return false;
+  const QList<QAction*> items = menu.actions();
+  const bool is_access_key = std::ranges::any_of(items, [&letter](const QAction* item) {
+    return item->text().contains(QLatin1Char('&') + letter, Qt::CaseInsensitive);
+  });
+  if (is_access_key) return false;
+  const qsizetype from = items.indexOf(menu.activeAction());
+  for (qsizetype i = 1; i <= items.size(); ++i) {
+    QAction* const item = items[(from + i) % items.size()];
+    if (!item->isEnabled() || !item->text().trimmed().startsWith(letter, Qt::CaseInsensitive))
+      continue;
+    menu.setActiveAction(item);
+    return true;
+  }
+  return false;
+}
+
+// A menu bar does not write the keys behind its titles, so they stand in the tip as well.
+void show_shortcut(QAction& action, std::string_view keys) {
+  const QString shortcut = QString::fromLatin1(keys.data(), static_cast<qsizetype>(keys.size()));
+  const QString tip = action.text() + QStringLiteral(" (%1)").arg(shortcut);
+  action.setShortcut(QKeySequence(shortcut, QKeySequence::PortableText));
+  action.setToolTip(tip);
+  action.setStatusTip(tip);
 }
 
 // A layout for a screen that has none: its controls in order, the buttons in one line at the end.
@@ -74,6 +126,7 @@ ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent
   fit_to_screen();
   qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    focus_frame_->surround(binding_of(now) == nullptr ? nullptr : now);
     // The focus has already moved; the screen is asked once the event that moved it is through.
     if (now != nullptr && now->window() == this) {
       QMetaObject::invokeMethod(
@@ -119,6 +172,7 @@ void ScreenWindow::build() {
   }
   outer->addWidget(scroll_);
   set_tab_order();
+  focus_frame_ = new FocusFrame(content_);
   built_ = true;
 }
 
@@ -301,31 +355,48 @@ void ScreenWindow::refresh() {
   apply_focus();
 }
 
-namespace {
-
-void add_items(ScreenWindow& window, ui::Screen& screen, QWidget& menu,
-               std::span<const ui::MenuItem> items) {
+void ScreenWindow::add_items(QWidget& menu, std::span<const ui::MenuItem> items) {
   for (const ui::MenuItem& item : items) {
-    const std::string_view label = text::resolve(item.text, screen.language());
+    const std::string_view label = text::resolve(item.text, screen_.language());
     const QString text = QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size()));
     if (!item.children.empty()) {
       auto* const below = new QMenu(text, &menu);
       menu.addAction(below->menuAction());
-      add_items(window, screen, *below, item.children);
+      add_items(*below, item.children);
       continue;
     }
     auto* const action = new QAction(text, &menu);
     action->setEnabled(item.enabled);
     menu.addAction(action);
+    if (!item.shortcut.empty()) show_shortcut(*action, item.shortcut);
     // A copy: the command may make a new menu bar.
-    QObject::connect(action, &QAction::triggered, &window, [&window, &screen, item] {
-      screen.command(item);
-      window.refresh();
-    });
+    connect(action, &QAction::triggered, this, [this, item] { run_command(item); });
   }
 }
 
-}  // namespace
+void ScreenWindow::run_command(const ui::MenuItem& item) {
+  settle_focus();
+  screen_.command(item);
+  refresh();
+  // Once the menu itself has let go of the keyboard.
+  QMetaObject::invokeMethod(
+      this, [this] { give_focus_back(); }, Qt::QueuedConnection);
+}
+
+void ScreenWindow::give_focus_back() {
+  const QWidget* const now = focusWidget();
+  if (screen_.focused() == nullptr || (now != nullptr && !is_in_menu(now))) return;
+  const Binding* const target = binding(*screen_.focused());
+  if (target != nullptr && target->focus_widget() != nullptr)
+    target->focus_widget()->setFocus(Qt::MenuBarFocusReason);
+}
+
+bool ScreenWindow::is_in_menu(const QWidget* widget) const {
+  // A menu within a menu has that one for its parent.
+  const QObject* part = widget;
+  while (part != nullptr && part != menu_bar_) part = part->parent();
+  return part != nullptr;
+}
 
 void ScreenWindow::show_menu() {
   if (menu_bar_ == nullptr) return;
@@ -337,7 +408,7 @@ void ScreenWindow::show_menu() {
   menu_bar_->clear();
   for (QMenu* const old : menu_bar_->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly))
     old->deleteLater();
-  add_items(*this, screen_, *menu_bar_, screen_.menu());
+  add_items(*menu_bar_, screen_.menu());
 }
 
 void ScreenWindow::apply_focus() {
@@ -360,12 +431,36 @@ void ScreenWindow::bring_into_view(const Binding& target) {
 void ScreenWindow::settle_focus() {
   const QWidget* const now = QApplication::focusWidget();
   if (now == nullptr || now->window() != this) return;
-  for (const auto& binding : bindings_) {
-    if (!binding->owns(now) || screen_.focused() == &binding->control()) continue;
-    if (!screen_.move_focus(binding->control())) focus_serial_ = screen_.focus_serial() - 1;
-    refresh();
-    return;
+  const Binding* const entered = binding_of(now);
+  if (entered == nullptr || screen_.focused() == &entered->control()) return;
+  if (!screen_.move_focus(entered->control())) focus_serial_ = screen_.focus_serial() - 1;
+  refresh();
+}
+
+Binding* ScreenWindow::binding_of(const QWidget* part) const {
+  const auto at =
+      std::ranges::find_if(bindings_, [&](const auto& binding) { return binding->owns(part); });
+  return at == bindings_.end() ? nullptr : at->get();
+}
+
+bool ScreenWindow::choose_line(const QWidget& widget, const QKeyEvent& pressed) {
+  const Binding* const target = binding_of(&widget);
+  if (target == nullptr) return false;
+  const ui::Kind kind = target->control().kind;
+  const auto key = key_in(kLineKeys, pressed);
+  const bool steps = key && ui::goes_through_lines(kind, *key);
+  const QString character = ui::finds_lines(kind) ? character_of(pressed) : QString();
+  if (!steps && character.isEmpty()) return false;
+  settle_focus();
+  if (screen_.focused() == &target->control()) {
+    if (steps) {
+      screen_.key(*key);
+    } else {
+      screen_.find_line(character.toStdString());
+    }
   }
+  refresh();
+  return true;
 }
 
 bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -374,12 +469,30 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
     QMetaObject::invokeMethod(
         this, [this] { grow_to_content(); }, Qt::QueuedConnection);
   }
+  // A menu bar shows no tips of its own accord.
+  if (watched == menu_bar_ && event->type() == QEvent::ToolTip) {
+    const auto& rests = *static_cast<QHelpEvent*>(event);
+    const QAction* const title = menu_bar_->actionAt(rests.pos());
+    const bool tells = title != nullptr && !title->shortcut().isEmpty();
+    QToolTip::showText(rests.globalPos(), tells ? title->toolTip() : QString(), menu_bar_);
+    return true;
+  }
+  if (const QEvent::Type type = event->type(); type == QEvent::Move || type == QEvent::Resize ||
+                                               type == QEvent::Show || type == QEvent::Hide)
+    focus_frame_->place();
   if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
   const auto* const widget = qobject_cast<QWidget*>(watched);
-  if (widget == nullptr || widget->window() != this) return QDialog::eventFilter(watched, event);
   const auto& pressed = *static_cast<QKeyEvent*>(event);
+  // A menu that has the keyboard opens, goes on and lets go by keys of its own.
+  if (is_in_menu(widget)) {
+    auto* const menu = qobject_cast<QMenu*>(watched);
+    const QString letter = character_of(pressed);
+    return menu != nullptr ? go_to_letter(*menu, letter) : go_to_letter(*menu_bar_, letter);
+  }
+  if (widget == nullptr || widget->window() != this) return QDialog::eventFilter(watched, event);
   if (!screen_.menu().empty() && does_nothing(pressed)) return true;
-  const auto key = key_of(pressed);
+  if (choose_line(*widget, pressed)) return true;
+  const auto key = key_in(kWindowKeys, pressed);
   if (!key) return QDialog::eventFilter(watched, event);
   settle_focus();
   screen_.key(*key);

@@ -4,9 +4,11 @@
 
 #include <QDialog>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "desktop/binding.h"
+#include "desktop/style.h"
 #include "ui/layout.h"
 
 class QBoxLayout;
@@ -44,8 +46,16 @@ class ScreenWindow : public QDialog {
   ClickableLabel* caption_of(Binding& binding);
   void set_tab_order();
   void show_menu();
+  void add_items(QWidget& menu, std::span<const ui::MenuItem> items);
   void apply_focus();
   void settle_focus();
+  [[nodiscard]] Binding* binding_of(const QWidget* part) const;
+  [[nodiscard]] bool is_in_menu(const QWidget* widget) const;
+  /// Keys that choose a line of the control that the widget belongs to. True when it was one.
+  bool choose_line(const QWidget& widget, const QKeyEvent& pressed);
+  void run_command(const ui::MenuItem& item);
+  /// The field that has the screen's focus has the window's too.
+  void give_focus_back();
   [[nodiscard]] QSize fitting_size() const;
   void fit_to_screen();
   /// A window never shrinks under the person's hands.
@@ -57,6 +67,7 @@ class ScreenWindow : public QDialog {
   QScrollArea* scroll_ = nullptr;
   QWidget* content_ = nullptr;
   QMenuBar* menu_bar_ = nullptr;
+  FocusFrame* focus_frame_ = nullptr;
   unsigned focus_serial_ = 0;
   unsigned menu_serial_ = 0;
   bool built_ = false;

@@ -1,6 +1,9 @@
 #include "desktop/style.h"
 
 #include <QColor>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 namespace desktop {
 namespace {
@@ -13,37 +16,65 @@ struct Colours {
   const char* wrong;         ///< paper of a refused entry
   const char* wrong_text;
   const char* wrong_frame;
+  const char* selected;  ///< paper of selected lines and texts
+  const char* selected_text;
 };
 
-constexpr Colours kLight = {"#1565c0", "#0b4a8f", "#fff4cc", "#000000",
-                            "#ffdcdc", "#000000", "#c00000"};
-constexpr Colours kDark = {"#64b5f6", "#8ec7ff", "#4d431c", "#fff4cc",
-                           "#5c1a1a", "#ffffff", "#ff6b6b"};
+constexpr Colours kLight = {"#1565c0", "#0b4a8f", "#fff4cc", "#000000", "#ffdcdc",
+                            "#000000", "#c00000", "#1565c0", "#ffffff"};
+constexpr Colours kDark = {"#64b5f6", "#8ec7ff", "#4d431c", "#fff4cc", "#5c1a1a",
+                           "#ffffff", "#ff6b6b", "#1565c0", "#ffffff"};
 
-// A frame of a style sheet is drawn inside the widget, so that nothing moves when the focus does.
+// What has the focus is framed by FocusFrame. A drop-down gets no frame here: a style sheet that
+// frames one draws it anew, and its text moves.
+// Without a menu open, some styles show a title that the keyboard is on like all others.
 constexpr const char* kSheet = R"(
-  QLineEdit:focus, QListWidget:focus, QTreeWidget:focus, QPlainTextEdit:focus {
-    border: 2px solid %focus; }
-  QPushButton:focus { border: 2px solid %focus; border-radius: 3px; padding: 2px; }
-  QRadioButton:focus, QCheckBox:focus {
-    background: palette(highlight); color: palette(highlighted-text); }
-  QComboBox:focus { background: palette(highlight); color: palette(highlighted-text); }
-  QComboBox:focus:editable { border: 2px solid %focus; background: palette(base); color: palette(text); }
-  QLineEdit:read-only, QComboBox:read-only:editable { background: palette(window); }
+  QLineEdit:read-only, QComboBox[locked="true"] { background: palette(window); }
   QLineEdit[mark="missing"], QComboBox[mark="missing"] { background: %missing_paper; color: %missing_text; }
   QLineEdit[mark="wrong"], QComboBox[mark="wrong"] { background: %wrong_paper; color: %wrong_text; }
-  QLineEdit[mark="wrong"]:!focus, QComboBox[mark="wrong"]:!focus { border: 2px solid %wrong_frame; }
+  QLineEdit[mark="wrong"] { border: 2px solid %wrong_frame; }
+  QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }
   QLabel[title="true"] { font-weight: bold; }
   QLabel[clickable="true"] { color: %link; }
 )";
 
+const Colours& colours_for(const QPalette& palette) {
+  constexpr int kHalf = 128;
+  return palette.color(QPalette::Window).lightness() < kHalf ? kDark : kLight;
+}
+
+// How bright a colour is to the eye, 0 to 1 (relative luminance of sRGB).
+double brightness(const QColor& colour) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
 }  // namespace
 
+double contrast(const QColor& a, const QColor& b) {
+  const double first = brightness(a);
+  const double second = brightness(b);
+  return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+QPalette readable(QPalette palette) {
+  const Colours& colours = colours_for(palette);
+  for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+    if (contrast(palette.color(group, QPalette::Highlight),
+                 palette.color(group, QPalette::HighlightedText)) >= kReadable)
+      continue;
+    palette.setColor(group, QPalette::Highlight, QLatin1String(colours.selected));
+    palette.setColor(group, QPalette::HighlightedText, QLatin1String(colours.selected_text));
+  }
+  return palette;
+}
+
 QString style_sheet(const QPalette& palette) {
-  constexpr int kHalf = 128;
-  const Colours& colours = palette.color(QPalette::Window).lightness() < kHalf ? kDark : kLight;
+  const Colours& colours = colours_for(palette);
   QString sheet = QString::fromLatin1(kSheet);
-  sheet.replace(QLatin1String("%focus"), QLatin1String(colours.focus));
   sheet.replace(QLatin1String("%link"), QLatin1String(colours.link));
   sheet.replace(QLatin1String("%missing_paper"), QLatin1String(colours.missing));
   sheet.replace(QLatin1String("%missing_text"), QLatin1String(colours.missing_text));
@@ -51,6 +82,34 @@ QString style_sheet(const QPalette& palette) {
   sheet.replace(QLatin1String("%wrong_text"), QLatin1String(colours.wrong_text));
   sheet.replace(QLatin1String("%wrong_frame"), QLatin1String(colours.wrong_frame));
   return sheet;
+}
+
+FocusFrame::FocusFrame(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  hide();
+}
+
+void FocusFrame::surround(QWidget* target) {
+  target_ = target;
+  place();
+}
+
+void FocusFrame::place() {
+  const bool shown = target_ != nullptr && target_->isVisibleTo(parentWidget());
+  if (shown) {
+    const QPoint corner = target_->mapTo(parentWidget(), QPoint(0, 0));
+    const QRect around = QRect(corner, target_->size()).adjusted(-kWidth, -kWidth, kWidth, kWidth);
+    if (geometry() != around) {
+      setGeometry(around);
+      setMask(QRegion(rect()) - rect().adjusted(kWidth, kWidth, -kWidth, -kWidth));
+    }
+    raise();
+  }
+  setVisible(shown);
+}
+
+void FocusFrame::paintEvent(QPaintEvent* /*event*/) {
+  QPainter(this).fillRect(rect(), QColor(QLatin1String(colours_for(palette()).focus)));
 }
 
 }  // namespace desktop

@@ -2,11 +2,42 @@
 // The look of the widgets: what has the focus, what is missing, what is wrong, what can be clicked.
 
 #include <QPalette>
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 
 namespace desktop {
 
-/// The style sheet for a light or a dark palette.
+/// The style sheet of the application for a light or dark palette.
 [[nodiscard]] QString style_sheet(const QPalette& palette);
+
+/// The palette with selected lines and texts that can be read: its own when they can, else ours.
+[[nodiscard]] QPalette readable(QPalette palette);
+
+/// Contrast of a text's colour with its paper's, from 1 (none) to 21 (black and white).
+[[nodiscard]] double contrast(const QColor& a, const QColor& b);
+
+/// The least contrast that small letters are read with in poor light.
+inline constexpr double kReadable = 4.5;
+
+/// A frame around what has the focus. It stands outside the widget, so that nothing moves when the
+/// focus does, and nothing that has only the focus looks chosen.
+class FocusFrame : public QWidget {
+  Q_OBJECT
+ public:
+  /// `parent` holds, at any depth, all that can have the focus.
+  explicit FocusFrame(QWidget* parent);
+  /// nullptr for nothing.
+  void surround(QWidget* target);
+  /// To be called when something moved or was shown or hidden.
+  void place();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  static constexpr int kWidth = 2;
+  QPointer<QWidget> target_;
+};
 
 }  // namespace desktop

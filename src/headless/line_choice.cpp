@@ -76,4 +76,12 @@ const ui::MenuItem* item_meant(std::span<const ui::MenuItem> items, std::string_
   return nullptr;
 }
 
+const ui::MenuItem* item_with_shortcut(std::span<const ui::MenuItem> items, std::string_view keys) {
+  for (const ui::MenuItem& item : items) {
+    if (!item.shortcut.empty() && same_word(item.shortcut, keys)) return &item;
+    if (const auto* const found = item_with_shortcut(item.children, keys)) return found;
+  }
+  return nullptr;
+}
+
 }  // namespace headless

@@ -23,4 +23,8 @@ namespace headless {
 [[nodiscard]] const ui::MenuItem* item_meant(std::span<const ui::MenuItem> items,
                                              std::string_view path);
 
+/// The menu command with this shortcut ("Ctrl+S", in any case). Nothing when there is none.
+[[nodiscard]] const ui::MenuItem* item_with_shortcut(std::span<const ui::MenuItem> items,
+                                                     std::string_view keys);
+
 }  // namespace headless

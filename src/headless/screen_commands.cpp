@@ -233,18 +233,32 @@ void ScreenCommands::key() {
     std::string_view name;
     ui::Key key;
   };
-  static constexpr std::array<Named, 5> kKeys = {{{"F1", ui::Key::kF1},
-                                                  {"Enter", ui::Key::kEnter},
-                                                  {"Escape", ui::Key::kEscape},
-                                                  {"Tab", ui::Key::kTab},
-                                                  {"Shift+Tab", ui::Key::kShiftTab}}};
+  static constexpr std::array<Named, 11> kKeys = {{{"F1", ui::Key::kF1},
+                                                   {"Enter", ui::Key::kEnter},
+                                                   {"Escape", ui::Key::kEscape},
+                                                   {"Tab", ui::Key::kTab},
+                                                   {"Shift+Tab", ui::Key::kShiftTab},
+                                                   {"Up", ui::Key::kUp},
+                                                   {"Down", ui::Key::kDown},
+                                                   {"Left", ui::Key::kLeft},
+                                                   {"Right", ui::Key::kRight},
+                                                   {"Home", ui::Key::kHome},
+                                                   {"End", ui::Key::kEnd}}};
   const std::string_view wanted = text::trim(line_.rest());
   for (const Named& named : kKeys) {
     if (!same_word(named.name, wanted)) continue;
     screen_.key(named.key);
     return;
   }
-  cannot("no key " + ui::quoted(text::first(wanted, 40)) + "; F1, Enter, Escape, Tab or Shift+Tab");
+  if (const ui::MenuItem* const item = item_with_shortcut(screen_.menu(), wanted)) {
+    screen_.command(*item);
+  } else if (text::length(wanted) == 1) {
+    screen_.find_line(wanted);
+  } else {
+    cannot("no key " + ui::quoted(text::first(wanted, 40)) +
+           "; F1, Enter, Escape, Tab, Shift+Tab, an arrow, Home, End, one character or the keys of "
+           "a menu command");
+  }
 }
 
 void ScreenCommands::close() {

@@ -19,7 +19,7 @@ constexpr MenuRow kBeforeLanguage[] = {
     {1, id::kMenuCopyReport, Command::kCopyReport},
     {1, id::kMenuCopyLogbook, Command::kCopyLogbook},
     {1, id::kMenuExit, Command::kExit},
-    {0, id::kMenuSave, Command::kSave},
+    {0, id::kMenuSave, Command::kSave, {}, "Ctrl+S"},
     {0, id::kMenuFixedData, Command::kFixedData},
     {0, id::kMenuObservationItem, Command::kObservationItem},
     {0, id::kMenuVosClim, Command::kVosClim},
@@ -69,6 +69,7 @@ std::vector<ui::MenuItem> items_at(std::span<const MenuRow> rows, std::size_t& a
     item.text = {row.text_id, 0};
     item.children = items_at(rows, at, depth + 1, vosclim_ship, run);
     if (row.command != Command::kNone) item.on_command = [run, row] { run(row); };
+    item.shortcut = row.shortcut;
     item.enabled = row.command != Command::kVosClim || vosclim_ship;
     items.push_back(std::move(item));
   }

@@ -42,6 +42,7 @@ struct MenuRow {
   int text_id = 0;
   Command command = Command::kNone;
   std::string_view help_file = {};  ///< base name, for kHelpFile
+  std::string_view shortcut = {};   ///< as in ui::MenuItem
 };
 
 /// The menu for a system whose locale is Japanese or not, in the language of the moment.

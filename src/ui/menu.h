@@ -2,6 +2,7 @@
 // A menu bar is a tree of items.
 
 #include <functional>
+#include <string_view>
 #include <vector>
 
 #include "text/texts.h"
@@ -13,6 +14,9 @@ struct MenuItem {
   std::vector<MenuItem> children;  ///< empty for a command
   std::function<void()> on_command;
   bool enabled = true;
+  /// Keys that run the command whatever field has the focus ("Ctrl+S"); empty for none. The text
+  /// outlives the item.
+  std::string_view shortcut = {};
 };
 
 }  // namespace ui

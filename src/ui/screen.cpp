@@ -1,10 +1,12 @@
 #include "ui/screen.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
+#include "ui/line_keys.h"
 
 namespace ui {
 namespace {
@@ -37,7 +39,9 @@ class Screen::Handling {
  public:
   explicit Handling(Screen& screen)
       : screen_(screen), first_(!screen.handling_ && !screen.result_) {
-    if (first_) screen_.handling_ = true;
+    if (!first_) return;
+    screen_.handling_ = true;
+    looked_for_.swap(screen_.looked_for_);
   }
   ~Handling() {
     if (first_) screen_.handling_ = false;
@@ -45,10 +49,13 @@ class Screen::Handling {
   Handling(const Handling&) = delete;
   Handling& operator=(const Handling&) = delete;
   explicit operator bool() const { return first_; }
+  /// What had been typed before this event to find a line.
+  [[nodiscard]] const std::string& looked_for() const { return looked_for_; }
 
  private:
   Screen& screen_;
   bool first_;
+  std::string looked_for_;
 };
 
 Screen::Screen(Services& services, std::string_view class_name, text::Ref title)
@@ -129,7 +136,11 @@ bool Screen::type_across_point(Control& control, std::string_view text) {
 
 void Screen::choose(Control& control, int index) {
   const Handling handling(*this);
-  if (!handling || !control.enabled || !control.visible || control.read_only) return;
+  if (handling) choose_inside(control, index);
+}
+
+void Screen::choose_inside(Control& control, int index) {
+  if (!control.enabled || !control.visible || control.read_only) return;
   const std::size_t lines =
       control.kind == Kind::kTree ? control.rows.size() : control.items.size();
   const bool valid = index >= 0 && static_cast<std::size_t>(index) < lines;
@@ -258,6 +269,15 @@ void Screen::key(Key key) {
       on_tab(key);
       if (Control* const next = neighbour(focused_, key == Key::kTab)) move_focus_inside(*next);
       return;
+    case Key::kUp:
+    case Key::kDown:
+    case Key::kLeft:
+    case Key::kRight:
+    case Key::kHome:
+    case Key::kEnd:
+      if (focused_ == nullptr || !goes_through_lines(focused_->kind, key)) return;
+      if (const auto line = line_after(*focused_, key)) choose_inside(*focused_, *line);
+      return;
     case Key::kEnter:
     case Key::kEscape:
       break;
@@ -279,6 +299,15 @@ void Screen::key(Key key) {
     if (!move_focus_inside(*target)) return;
   }
   press_inside(*target);
+}
+
+void Screen::find_line(std::string_view character) {
+  const Handling handling(*this);
+  if (!handling || focused_ == nullptr || !finds_lines(focused_->kind)) return;
+  std::string typed = handling.looked_for();
+  const auto line = line_typed(*focused_, typed, character);
+  if (line && *line != focused_->selected) choose_inside(*focused_, *line);
+  looked_for_ = std::move(typed);
 }
 
 void Screen::command(const MenuItem& item) {

@@ -15,7 +15,7 @@
 
 namespace ui {
 
-enum class Key { kF1, kEnter, kEscape, kTab, kShiftTab };
+enum class Key { kF1, kEnter, kEscape, kTab, kShiftTab, kUp, kDown, kLeft, kRight, kHome, kEnd };
 
 class Screen {
  public:
@@ -63,7 +63,11 @@ class Screen {
   void press(Control& control);
   /// Moves the focus. False when the field that has it refused to let go.
   bool move_focus(Control& to);
+  /// The arrows, Home and End choose a line where the focused control has lines (ui/line_keys.h).
   void key(Key key);
+  /// A character typed where the focused control has lines and no text: chooses the line it stands
+  /// for, together with the characters typed before it when nothing else happened in between.
+  void find_line(std::string_view character);
   void command(const MenuItem& item);
   void expand(Control& tree, std::size_t row);
   void collapse(Control& tree, std::size_t row);
@@ -113,6 +117,7 @@ class Screen {
   void put_typed(Control& control, std::string_view text);
   void press_inside(Control& button);
   bool move_focus_inside(Control& to);
+  void choose_inside(Control& control, int index);
 
   Services& services_;
   std::string class_name_;
@@ -124,6 +129,7 @@ class Screen {
   unsigned menu_serial_ = 0;
   int selection_length_ = -1;
   int selection_on_focus_ = -1;
+  std::string looked_for_;  ///< typed so far to find a line; every other event forgets it
   std::optional<int> result_;
   bool opened_ = false;
   bool handling_ = false;

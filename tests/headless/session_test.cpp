@@ -161,6 +161,19 @@ TEST(Session, TicksAndKeys) {
             "> key Escape\n  screen CFormDlg \"Help\" closed (cancel)\n  the program has ended\n");
 }
 
+TEST(Session, ChoosesLinesWithKeys) {
+  EXPECT_EQ(after_start("focus lines\nkey Down\nkey p\nkey up\nkey End\n"),
+            "> focus lines\n"
+            "> key Down\n    lines: \"\" -> \"one\"\n"
+            "> key p\n    lines: \"one\" -> \" padded \"\n"
+            "> key up\n    lines: \" padded \" -> \"two\"\n"
+            "> key End\n    lines: \"two\" -> \" padded \"\n");
+}
+
+TEST(Session, RunsAMenuCommandByItsKeys) {
+  EXPECT_EQ(after_start("key ctrl+y\n"), "> key ctrl+y\n    note: \"\" -> \"from the menu\"\n");
+}
+
 TEST(Session, OpensAndClosesARowOfATree) {
   EXPECT_EQ(after_start("choose tree Disk\npress tree\npress tree\n"),
             "> choose tree Disk\n"
@@ -245,7 +258,9 @@ TEST(Session, StopsWithStatusTwoLineAndReasonWhenACommandCannotBeCarriedOut) {
       {"start\nmenu OK/NO\n", "line 2: the menu command \"OK/NO\" is greyed"},
       {"start\nmenu OK/Save\n", "line 2: no menu command \"OK/Save\""},
       {"start\nmenu\n", "line 2: no menu command \"\""},
-      {"start\nkey F2\n", "line 2: no key \"F2\"; F1, Enter, Escape, Tab or Shift+Tab"},
+      {"start\nkey F2\n",
+       "line 2: no key \"F2\"; F1, Enter, Escape, Tab, Shift+Tab, an arrow, Home, End, one "
+       "character or the keys of a menu command"},
       {"start\nanswer ok\n", "line 2: there is no question to answer"},
       {"start\npress ask\nanswer maybe\n", "line 3: no button \"maybe\"; there are [YES] [NO]"},
       {"start\npress ask\nset note x\n",

@@ -92,7 +92,7 @@ void CFormDlg::set_up_handlers() {
 
 void CFormDlg::set_up_menu() {
   ui::MenuItem top{{text::id::kOkLabel, 0}, {}, {}, true};
-  top.children.push_back({kYes, {}, [this] { note.content = "from the menu"; }, true});
+  top.children.push_back({kYes, {}, [this] { note.content = "from the menu"; }, true, "Ctrl+Y"});
   top.children.push_back({kNo, {}, {}, false});
   top.children.push_back(
       {{text::id::kHelpLabel, 0},

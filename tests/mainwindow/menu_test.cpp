@@ -112,6 +112,21 @@ TEST(MainMenu, GreysVosClimForAShipThatIsNotRegistered) {
   }
 }
 
+TEST(MainMenu, SavesWithControlSAndHasNoOtherKeys) {
+  for (const Menu menu : {Menu::kEnglishOnly, Menu::kEnglish, Menu::kJapanese}) {
+    std::vector<std::string> keys;
+    const auto collect = [&keys](const auto& self, const std::vector<ui::MenuItem>& items) -> void {
+      for (const ui::MenuItem& item : items) {
+        if (!item.shortcut.empty())
+          keys.push_back(std::to_string(item.text.id) + " " + std::string(item.shortcut));
+        self(self, item.children);
+      }
+    };
+    collect(collect, mainwindow::build_menu(menu, true, [](const mainwindow::MenuRow&) {}));
+    EXPECT_EQ(std::vector{std::to_string(text::id::kMenuSave) + " Ctrl+S"}, keys);
+  }
+}
+
 TEST(MainMenu, RunsEveryCommandWithItsOwnRow) {
   std::vector<int> run;
   std::vector<int> expected;
