@@ -149,7 +149,8 @@ void CFixDataDlg::set_up_methods() {
 }
 
 void CFixDataDlg::on_open() {
-  const auto loaded = load_fixed_data(services().files, path_, services().clock);
+  const auto loaded =
+      load_fixed_data(services().files, path_, services().clock, services().code_page);
   file_read_ = loaded.outcome;
   if (file_read_ == FileRead::kRead) accepted_ = loaded.values;
   if (file_read_ == FileRead::kUnreadable)
@@ -284,7 +285,8 @@ void CFixDataDlg::edit_card() {
 }
 
 bool CFixDataDlg::check_card() {
-  const auto fault = first_card_fault(draft_.card, services().clock.local(), kOkOrder);
+  const auto fault =
+      first_card_fault(draft_.card, services().clock.local(), services().code_page, kOkOrder);
   if (!fault) return true;
   if (fault->argument.empty()) {
     services().messages.error(fault->message);

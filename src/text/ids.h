@@ -170,6 +170,8 @@ inline constexpr int kTotalFullLoadRange = 40116;
 inline constexpr int kTotalBallastRange = 40117;
 inline constexpr int kTotalCorrectionRange = 40118;
 inline constexpr int kLoadingStateMissing = 40119;
+inline constexpr int kCheckPortCharacter = 42100;
+inline constexpr int kCheckPortTooLong = 42101;
 
 // Main window: labels
 inline constexpr int kLabelObservationTime = 11000;

@@ -43,7 +43,7 @@ struct Bench {
 
   explicit Bench(Language language = Language::kEnglish) { world.texts.language = language; }
   void put(const ShipFixedData& data) {
-    files.add_file(kPath, encode_fixed_data(data, world.clock.local_time));
+    files.add_file(kPath, encode_fixed_data(data, world.clock.local_time, world.code_page));
   }
 };
 
@@ -539,6 +539,24 @@ TEST(FixedDataScreen, ChecksInOrderAtOk) {
       EXPECT_EQ(dump(screen), before) << rows[i].rule;
       EXPECT_EQ(screen.values(), values) << rows[i].rule;
     }
+  }
+}
+
+TEST(FixedDataScreen, RefusesAtOkAPortThatIsDamagedInTheFile) {
+  for (const Language language : {Language::kEnglish, Language::kJapanese}) {
+    Bench bench(language);
+    bench.put(valid_ship());
+    std::string line = *bench.files.content(kPath);
+    line.replace(21, 3, "\x89\xA1\xFF");
+    bench.files.add_file(kPath, line);
+    CFixDataDlg screen(bench.world.services, kPath, false);
+    screen.open();
+    EXPECT_EQ(screen.barometer_check_port.content, "横\uFFFDOHAMA");
+    bench.world.windows.expect(id::kCheckPortCharacter);
+    press(screen, "ok");
+    EXPECT_FALSE(screen.result());
+    EXPECT_EQ(screen.focused(), &screen.card_button);
+    EXPECT_EQ(bench.files.content(kPath), line);
   }
 }
 
