@@ -103,6 +103,7 @@ inline constexpr int kFixLockedLoading = 12048;
 inline constexpr int kFixLockedVosClim = 12049;
 inline constexpr int kFixLockedManufacturer = 12050;
 inline constexpr int kShipFileUnreadable = 40000;
+inline constexpr int kShipFileUnreadableInForce = 42102;
 inline constexpr int kShipFileNotSaved = 40001;
 inline constexpr int kCallSignMissing = 40010;
 inline constexpr int kCallSignForm = 40011;
