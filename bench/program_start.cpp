@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
   desktop::DesktopWindows windows({});
   desktop::DesktopPrinter printer;
   app::CVelmaranApp program({system.clock(), system.locale(), system.drives(), system.files(),
-                             printer, windows, system.help()});
+                             system.code_page(), printer, windows, system.help()});
   program.run();
   std::fputs("program_start: the program ended before its main window\n", stderr);
   return 1;

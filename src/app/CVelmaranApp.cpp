@@ -11,8 +11,8 @@ using platform::FileError;
 CVelmaranApp::CVelmaranApp(const Ports& ports, Dialogs dialogs)
     : messages_(texts_, ports.windows),
       help_(texts_, ports.help, CAssistantClass(ports.drives, ports.files).program_folder()),
-      services_{ports.clock,   ports.locale, ports.drives, ports.files, ports.printer,
-                ports.windows, texts_,       messages_,    help_},
+      services_{ports.clock,   ports.locale,  ports.drives, ports.files, ports.code_page,
+                ports.printer, ports.windows, texts_,       messages_,   help_},
       dialogs_(std::move(dialogs)),
       places_(settings_places(system_root(ports.drives),
                               CAssistantClass(ports.drives, ports.files).program_folder())) {}
@@ -77,7 +77,7 @@ void CVelmaranApp::ask_fixed_data() {
   ship_ = answer.values;
   // A save that fails is not reported here: the officer is asked again at the next start.
   if (!exists && answer.confirmed)
-    (void)save_fixed_data(services_.files, path, ship_, services_.clock);
+    (void)save_fixed_data(services_.files, path, ship_, services_.clock, services_.code_page);
 }
 
 void CVelmaranApp::ask_key_items() {
@@ -88,7 +88,8 @@ void CVelmaranApp::ask_key_items() {
 void CVelmaranApp::show_main_window() {
   const auto save_ship = [this] {
     const std::string& path = settings_.folders.fixed_data;
-    if (save_fixed_data(services_.files, path, ship_, services_.clock) != FileError::kNone)
+    if (save_fixed_data(services_.files, path, ship_, services_.clock, services_.code_page) !=
+        FileError::kNone)
       messages_.error_filled(text::id::kShipFileNotSaved, {path});
   };
   dialogs_.main_window(

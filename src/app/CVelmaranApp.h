@@ -1,7 +1,8 @@
 #pragma once
 // The application: start-up, the main window, shut-down.
 //
-//   app::CVelmaranApp program({clock, locale, drives, files, printer, windows, help});
+//   app::CVelmaranApp program({clock, locale, drives, files, code_page, printer, windows,
+//                             help});
 //   return program.run();
 
 #include "app/Settings.h"
@@ -20,6 +21,7 @@ struct Ports {
   platform::Locale& locale;
   platform::Drives& drives;
   platform::Files& files;
+  platform::CodePage& code_page;
   platform::Printer& printer;
   platform::Windows& windows;
   platform::HelpViewer& help;

@@ -52,7 +52,7 @@ headless::Status play(std::istream& script, platform::posix::System& system,
                       const headless::Options& options) {
   const auto program = [&system](const headless::Doors& doors) {
     app::CVelmaranApp app({system.clock(), system.locale(), system.drives(), system.files(),
-                           doors.printer, doors.windows, doors.help});
+                           system.code_page(), doors.printer, doors.windows, doors.help});
     // A start-up that ends silently shows nothing, so nothing is said of it here either.
     (void)app.run();
   };

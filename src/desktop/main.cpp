@@ -49,7 +49,7 @@ int main(int argc, char** argv) {
   desktop::DesktopPrinter printer;
   desktop::DesktopHelp help(
       [&system](const std::string& path) { return system.help().page(path); });
-  app::CVelmaranApp program(
-      {system.clock(), system.locale(), system.drives(), system.files(), printer, windows, help});
+  app::CVelmaranApp program({system.clock(), system.locale(), system.drives(), system.files(),
+                             system.code_page(), printer, windows, help});
   return program.run();
 }

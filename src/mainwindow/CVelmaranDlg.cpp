@@ -215,7 +215,7 @@ void CVelmaranDlg::edit_fixed_data() {
 }
 
 void CVelmaranDlg::edit_observation_items() {
-  CKeyObserveDlg dialog(services(), context_.folders.key_items, false);
+  CKeyObserveDlg dialog(services(), context_.folders.key_items, false, context_.items);
   if (services().windows.run_modal(dialog) != text::kOk) return;
   context_.items = dialog.values();
   form_.items_changed();

@@ -42,6 +42,25 @@ class Locale {
 };
 inline constexpr unsigned kJapaneseLanguage = 17;
 
+/// Code page 932, in which the ship's files are kept wherever the program runs. It is the same in
+/// every locale. Texts inside the program are UTF-8.
+class CodePage {
+ public:
+  virtual ~CodePage() = default;
+  /// The text of these bytes, whatever they are: each byte that belongs to no character becomes one
+  /// kNoCharacter, and reading goes on with the next byte.
+  [[nodiscard]] virtual std::string decode(std::string_view bytes) const = 0;
+  /// The one or two bytes of one character; nothing when the code page does not have it or the text
+  /// is not exactly one well-formed character. ASCII stands for itself and for nothing else: a yen
+  /// sign is refused, not turned into a backslash.
+  ///
+  /// A few characters have a twin: the wave dash is kept as the full-width tilde, the minus sign as
+  /// the full-width hyphen-minus, and so on. decode() gives the twin.
+  [[nodiscard]] virtual std::optional<std::string> encode(std::string_view character) const = 0;
+};
+/// U+FFFD, which no code page has.
+inline constexpr std::string_view kNoCharacter = "\xEF\xBF\xBD";
+
 enum class DriveType {
   kUnknown = 0,
   kNone = 1,

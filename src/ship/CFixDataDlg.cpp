@@ -54,7 +54,7 @@ Method method_of(const ui::Choice& choice) {
 
 CFixDataDlg::CFixDataDlg(ui::Services& services, std::string path, bool auto_accept,
                          const std::string& reports, const std::string& logbook,
-                         ShipFixedData fallback)
+                         std::optional<ShipFixedData> in_force)
     : Screen(services, "CFixDataDlg", {id::kFixTitle}),
       ship(*this, "ship", {id::kFixShip}),
       call_sign(*this, "call_sign", {id::kFixCallSign}),
@@ -107,7 +107,7 @@ CFixDataDlg::CFixDataDlg(ui::Services& services, std::string path, bool auto_acc
       help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       path_(std::move(path)),
       auto_accept_(auto_accept),
-      accepted_(std::move(fallback)) {
+      in_force_(std::move(in_force)) {
   report_folder.set(reports);
   logbook_folder.set(logbook);
   set_up_ship();
@@ -148,12 +148,23 @@ void CFixDataDlg::set_up_methods() {
   vosclim_inputting.on_press = [this] { services().messages.error(id::kVosClimNotAvailable); };
 }
 
-void CFixDataDlg::on_open() {
-  const auto loaded = load_fixed_data(services().files, path_, services().clock);
+void CFixDataDlg::read_file() {
+  const auto loaded =
+      load_fixed_data(services().files, path_, services().clock, services().code_page);
   file_read_ = loaded.outcome;
-  if (file_read_ == FileRead::kRead) accepted_ = loaded.values;
-  if (file_read_ == FileRead::kUnreadable)
-    services().messages.error_filled(id::kShipFileUnreadable, {path_});
+  accepted_ = loaded.values;
+  if (in_force_ &&
+      (file_read_ != FileRead::kRead ||
+       loaded.values != as_read_back(*in_force_, services().clock.utc(), services().code_page)))
+    accepted_ = *in_force_;
+  if (file_read_ == FileRead::kUnreadable) {
+    services().messages.error_filled(
+        in_force_ ? id::kShipFileUnreadableInForce : id::kShipFileUnreadable, {path_});
+  }
+}
+
+void CFixDataDlg::on_open() {
+  read_file();
   draft_ = accepted_;
   show_values();
   if (auto_accept_ && (file_read_ == FileRead::kRead || file_read_ == FileRead::kMissing))
@@ -284,7 +295,8 @@ void CFixDataDlg::edit_card() {
 }
 
 bool CFixDataDlg::check_card() {
-  const auto fault = first_card_fault(draft_.card, services().clock.local(), kOkOrder);
+  const auto fault =
+      first_card_fault(draft_.card, services().clock.local(), services().code_page, kOkOrder);
   if (!fault) return true;
   if (fault->argument.empty()) {
     services().messages.error(fault->message);

@@ -1,6 +1,7 @@
 #pragma once
 // The ship's fixed data. The barometer card is shown here and entered in its own screens.
 
+#include <optional>
 #include <string>
 
 #include "ship/ShipFixedData.h"
@@ -12,14 +13,17 @@ class CFixDataDlg : public ui::Screen {
  public:
   /// `path` is that of FIXDATA.DAT, read when the screen opens. With `auto_accept` the screen
   /// closes at once with OK, unchecked, when the file was read or there is none. A file of a wrong
-  /// size or one that cannot be read (which the officer is told) leaves it open with `fallback`:
-  /// the defaults at start-up, what the program already knows later. The screen never writes.
+  /// size or one that cannot be read (which the officer is told) leaves it open with the defaults.
+  ///
+  /// Once the program runs, `in_force` is what it works with, and that is shown unless the file
+  /// says the same: a file that is missing, damaged, not the one last saved, or that could not be
+  /// written, never takes its place. The screen never writes.
   CFixDataDlg(ui::Services& services, std::string path, bool auto_accept,
               const std::string& reports = {}, const std::string& logbook = {},
-              ShipFixedData fallback = {});
+              std::optional<ShipFixedData> in_force = std::nullopt);
 
-  /// The data as accepted by OK; before that, and after Cancel, as the file or the fallback has
-  /// them.
+  /// The data as accepted by OK; before that, and after Cancel, as they were shown
+  /// first.
   [[nodiscard]] ShipFixedData values() const { return accepted_; }
   [[nodiscard]] FileRead file_read() const { return file_read_; }
 
@@ -71,6 +75,7 @@ class CFixDataDlg : public ui::Screen {
   void set_up_ship();
   void set_up_card();
   void set_up_methods();
+  void read_file();
   void show_values();
   void show_card();
   void read_values();
@@ -89,6 +94,7 @@ class CFixDataDlg : public ui::Screen {
 
   std::string path_;
   bool auto_accept_;
+  std::optional<ShipFixedData> in_force_;
   FileRead file_read_ = FileRead::kMissing;
   ShipFixedData accepted_;
   ShipFixedData draft_;

@@ -6,6 +6,7 @@
 #include "ship/CFullEmptySelect.h"
 #include "ship/CKataSelectDlg.h"
 #include "ship/barometer_date.h"
+#include "ship/ship_text.h"
 #include "text/ids.h"
 #include "text/strings.h"
 
@@ -113,7 +114,10 @@ void CKataInputDlg::show_type() {
 // Fields to the draft, tidied. Help lets a field go unnarrowed, so this is done again for all.
 void CKataInputDlg::read_fields() {
   for (const TypedField& field : fields_) {
-    std::string value(text::trim(text::narrow(field.edit->content)));
+    std::string value = field.edit->content;
+    // What the file would change is changed here, where the officer sees it.
+    if (field.field == CardField::kCheckPort) value = as_kept(value, services().code_page);
+    value = text::trim(text::narrow(value));
     if (field.field == CardField::kCheckDate) value = normalised_check_date(value);
     if (value != field.edit->content) field.edit->set(value);
     draft_.*member(field.field) = std::move(value);
@@ -131,7 +135,7 @@ bool CKataInputDlg::leave(const TypedField& left) {
   if (left.field == CardField::kCheckDate && is_check_date_missing(left.edit->content)) return true;
   const auto partner = compared_field(left.field);
   const auto fault = card_field_fault(draft_, left.field, services().clock.local(),
-                                      partner && is_filled(*partner));
+                                      services().code_page, partner && is_filled(*partner));
   if (!fault) return true;
   refuse(*fault);
   return false;
@@ -175,7 +179,8 @@ bool CKataInputDlg::ask_loading_state() {
 
 void CKataInputDlg::on_ok() {
   read_fields();
-  if (const auto fault = first_card_fault(draft_, services().clock.local(), kOkOrder)) {
+  if (const auto fault =
+          first_card_fault(draft_, services().clock.local(), services().code_page, kOkOrder)) {
     refuse(*fault);
     return;
   }

@@ -49,7 +49,8 @@ std::deque<ui::Choice> CKeyObserveDlg::choices(ui::Screen& owner) {
   return result;
 }
 
-CKeyObserveDlg::CKeyObserveDlg(ui::Services& services, std::string path, bool auto_accept)
+CKeyObserveDlg::CKeyObserveDlg(ui::Services& services, std::string path, bool auto_accept,
+                               std::optional<KeyObservationItems> in_force)
     : Screen(services, "CKeyObserveDlg", label(id::kItemsTitle)),
       prompt(*this, "prompt", label(id::kItemsPrompt)),
       items(choices(*this)),
@@ -57,14 +58,17 @@ CKeyObserveDlg::CKeyObserveDlg(ui::Services& services, std::string path, bool au
       cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
       help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       path_(std::move(path)),
-      auto_accept_(auto_accept) {}
+      auto_accept_(auto_accept),
+      in_force_(in_force) {}
 
 void CKeyObserveDlg::on_open() {
   const auto loaded = load_key_items(services().files, path_);
   file_read_ = loaded.outcome;
-  accepted_ = loaded.values;
-  if (file_read_ == FileRead::kUnreadable)
-    services().messages.error_filled(id::kShipFileUnreadable, {path_});
+  accepted_ = in_force_.value_or(loaded.values);
+  if (file_read_ == FileRead::kUnreadable) {
+    services().messages.error_filled(
+        in_force_ ? id::kShipFileUnreadableInForce : id::kShipFileUnreadable, {path_});
+  }
   for (std::size_t i = 0; i < kObservationItems; ++i)
     items[i].selected = accepted_.not_observed[i] ? 1 : 0;
   if (auto_accept_ && (file_read_ == FileRead::kRead || file_read_ == FileRead::kMissing))

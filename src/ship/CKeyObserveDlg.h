@@ -2,6 +2,7 @@
 // Which of the visually observed elements the ship reports; kept in MOKSDATA.DAT.
 
 #include <deque>
+#include <optional>
 #include <string>
 
 #include "ship/KeyObservationItems.h"
@@ -12,10 +13,13 @@ class CKeyObserveDlg : public ui::Screen {
  public:
   /// `path` is that of MOKSDATA.DAT. With `auto_accept` the screen closes at once with OK when the
   /// file was read or there is none; one of a wrong size or unreadable is shown with the defaults.
-  CKeyObserveDlg(ui::Services& services, std::string path, bool auto_accept);
+  ///
+  /// Once the program runs, `in_force` are the switches it works with, and those are shown whatever
+  /// the file holds: it may not have been written.
+  CKeyObserveDlg(ui::Services& services, std::string path, bool auto_accept,
+                 std::optional<KeyObservationItems> in_force = std::nullopt);
 
-  /// The switches as accepted by OK; before that, and after Cancel, as the file or the defaults
-  /// have them.
+  /// The switches as accepted by OK; before that, and after Cancel, as they were shown first.
   [[nodiscard]] KeyObservationItems values() const { return accepted_; }
   [[nodiscard]] FileRead file_read() const { return file_read_; }
 
@@ -36,6 +40,7 @@ class CKeyObserveDlg : public ui::Screen {
 
   std::string path_;
   bool auto_accept_;
+  std::optional<KeyObservationItems> in_force_;
   FileRead file_read_ = FileRead::kMissing;
   KeyObservationItems accepted_;
 };

@@ -18,7 +18,7 @@ enum class HumidityMethod { kDirect = 0, kComputed = 1 };
 /// type.
 struct BarometerCard {
   std::string check_date = "yyyy/mm/dd";  ///< "yyyy/mm/dd", 2000/01/01 to today
-  std::string check_port;                 ///< at most 12 characters when entered, 24 in the file
+  std::string check_port;  ///< at most 12 characters when entered, 24 bytes in the file
   CardType type = CardType::kNotChosen;
   std::string total_correction = "+0.0";         ///< card type "2": -50 to 80 hPa
   std::string instrumental_correction = "+0.0";  ///< card type "1": -50 to 50 hPa

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "ship/barometer_date.h"
+#include "ship/ship_text.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -35,7 +36,7 @@ constexpr CardType kTwo = CardType::kTotalCorrection;
 
 constexpr Row kRows[] = {
     {CardField::kCheckPort, Form::kText, &BarometerCard::check_port, 0, 0, CardType::kNotChosen,
-     kNone, kNone, id::kCheckPortMissing, 0, 0},
+     kNone, kNone, id::kCheckPortMissing, id::kCheckPortCharacter, id::kCheckPortTooLong},
     {CardField::kTotalCorrection, Form::kCorrection, &BarometerCard::total_correction, -50, 80,
      kTwo, kNone, kNone, id::kTotalCorrectionMissing, id::kTotalCorrectionNotNumeric,
      id::kTotalCorrectionRange},
@@ -93,11 +94,21 @@ bool in_range(const BarometerCard& card, const Row& row, bool compare_states) {
                                 : value >= text::leading_number(bound);
 }
 
-// The message's id, 0 when the value is accepted.
+// A text must come back from the file as it was entered.
+std::optional<CardFault> text_fault(const std::string& value, const Row& row,
+                                    const platform::CodePage& code_page) {
+  if (value.empty()) return CardFault{row.field, row.missing, {}};
+  if (auto unknown = first_unknown(value, code_page))
+    return CardFault{row.field, row.malformed, *std::move(unknown)};
+  if (ship_bytes(value, code_page) > kCheckPortWidth)
+    return CardFault{row.field, row.out_of_range, {}};
+  return std::nullopt;
+}
+
+// The message's id, 0 when the number is accepted.
 int value_fault(const BarometerCard& card, const Row& row, bool compare_states) {
   const std::string& value = card.*row.value;
   if (value.empty()) return row.missing;
-  if (row.form == Form::kText) return 0;
   if (!is_well_formed(value, row.form)) return row.malformed;
   if (!in_range(card, row, compare_states)) return row.out_of_range;
   return decimals(value) > 1 ? id::kOneDecimalOnly : 0;
@@ -106,7 +117,9 @@ int value_fault(const BarometerCard& card, const Row& row, bool compare_states) 
 }  // namespace
 
 std::optional<CardFault> card_field_fault(const BarometerCard& card, CardField field,
-                                          const platform::DateTime& today, bool compare_states) {
+                                          const platform::DateTime& today,
+                                          const platform::CodePage& code_page,
+                                          bool compare_states) {
   if (field == CardField::kCheckDate) {
     if (is_check_date_missing(card.check_date)) return CardFault{field, id::kCheckDateMissing, {}};
     if (is_check_date(card.check_date, today)) return std::nullopt;
@@ -122,6 +135,7 @@ std::optional<CardFault> card_field_fault(const BarometerCard& card, CardField f
   }
   const Row& row = *row_of(field);
   if (row.only_for != CardType::kNotChosen && row.only_for != card.type) return std::nullopt;
+  if (row.form == Form::kText) return text_fault(card.*row.value, row, code_page);
   const int message = value_fault(card, row, compare_states);
   if (message == 0) return std::nullopt;
   return CardFault{field, message, {}};
@@ -129,9 +143,10 @@ std::optional<CardFault> card_field_fault(const BarometerCard& card, CardField f
 
 std::optional<CardFault> first_card_fault(const BarometerCard& card,
                                           const platform::DateTime& today,
+                                          const platform::CodePage& code_page,
                                           std::span<const CardField> order) {
   for (const CardField field : order) {
-    if (auto fault = card_field_fault(card, field, today)) return fault;
+    if (auto fault = card_field_fault(card, field, today, code_page)) return fault;
   }
   return std::nullopt;
 }

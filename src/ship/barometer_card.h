@@ -2,6 +2,7 @@
 // The rules of the barometer correction card: which values a card of each type has and which of
 // them are accepted. Both the card's own screen and the ship fixed data screen check with these.
 
+#include <cstddef>
 #include <optional>
 #include <span>
 #include <string>
@@ -9,6 +10,9 @@
 
 #include "platform/ports.h"
 #include "ship/ShipFixedData.h"
+
+/// Bytes of code page 932 that the port of the check has in the file.
+inline constexpr std::size_t kCheckPortWidth = 24;
 
 /// The values of a card, for messages and for the focus after a refusal.
 enum class CardField {
@@ -33,18 +37,20 @@ struct CardFault {
 
 /// Checks one field; empty counts as missing, and so does the
 /// placeholder of a date. A field that the card's type does not use has no
-/// fault.
+/// fault. The port must be one that the file can keep.
 ///
 /// Heights and total corrections in ballast must not be less than those at full load;
 /// `compare_states` off leaves that comparison out, for a field that is left while its partner has
 /// not been filled in yet.
 [[nodiscard]] std::optional<CardFault> card_field_fault(const BarometerCard& card, CardField field,
                                                         const platform::DateTime& today,
+                                                        const platform::CodePage& code_page,
                                                         bool compare_states = true);
 
 /// The first fault in the given order of fields.
 [[nodiscard]] std::optional<CardFault> first_card_fault(const BarometerCard& card,
                                                         const platform::DateTime& today,
+                                                        const platform::CodePage& code_page,
                                                         std::span<const CardField> order);
 
 /// The field that `field` is compared with, or nothing.

@@ -1,7 +1,9 @@
 #include "ship/ship_files.h"
 
-#include <algorithm>
+#include <string>
 
+#include "ship/barometer_card.h"
+#include "ship/ship_text.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -9,7 +11,7 @@ namespace {
 
 using platform::DateTime;
 
-// A field of the line: where it lies, and the two ways between its characters and the data.
+// A field of the line: where its bytes lie, and the two ways between its text and the data.
 struct Field {
   std::size_t offset;
   std::size_t width;
@@ -66,8 +68,13 @@ void decode_date(std::string_view field, ShipFixedData& data) {
   std::string& date = data.card.check_date;
   date.clear();
   if (text::without_spaces(field).empty()) return;
-  date = text::without_spaces(field.substr(0, 4)) + "/" + text::without_spaces(field.substr(4, 2)) +
-         "/" + text::without_spaces(field.substr(6, 2));
+  // Characters, not bytes: a damaged file may hold any there.
+  const std::string_view year = text::first(field, 4);
+  field.remove_prefix(year.size());
+  const std::string_view month = text::first(field, 2);
+  field.remove_prefix(month.size());
+  date = text::without_spaces(year) + "/" + text::without_spaces(month) + "/" +
+         text::without_spaces(field);
 }
 
 std::string encode_card_type(const ShipFixedData& data) {
@@ -176,8 +183,8 @@ void decode_departure(std::string_view field, ShipFixedData& data) {
   std::string& departure = data.vosclim_load_line_departure;
   departure.clear();
   if (text::without_spaces(field).empty()) return;
-  departure = field;
-  departure.front() = field.front() == '0' ? '+' : '-';
+  departure = field.substr(text::first(field, 1).size());
+  departure.insert(departure.begin(), field.front() == '0' ? '+' : '-');
 }
 
 std::string encode_humidity_method(const ShipFixedData& data) {
@@ -215,7 +222,7 @@ using Card = BarometerCard;
 constexpr Field kFields[] = {
     {6, 7, ' ', text_of<&Data::call_sign>, text_into<&Data::call_sign>},
     {13, 8, ' ', encode_date, decode_date},
-    {21, 24, ' ', card_text_of<&Card::check_port>, card_text_into<&Card::check_port>},
+    {21, kCheckPortWidth, ' ', card_text_of<&Card::check_port>, card_text_into<&Card::check_port>},
     {45, 1, ' ', encode_card_type, decode_card_type},
     {46, 5, ' ', card_text_of<&Card::total_correction>, correction_into<&Card::total_correction>},
     {51, 5, ' ', card_text_of<&Card::instrumental_correction>,
@@ -256,10 +263,9 @@ constexpr bool fields_touch() {
 static_assert(fields_touch(), "a field of FIXDATA.DAT overlaps its neighbour or leaves a gap");
 
 // As many whole characters as fit, then padding.
-std::string fitted(std::string_view value, std::size_t width, char padding) {
-  std::size_t count = std::min(value.size(), width);
-  while (text::first(value, count).size() > width) --count;
-  std::string result(text::first(value, count));
+std::string fitted(std::string_view value, std::size_t width, char padding,
+                   const platform::CodePage& code_page) {
+  std::string result = to_ship_bytes(value, width, code_page);
   result.resize(width, padding);
   return result;
 }
@@ -284,24 +290,32 @@ Loaded<T> load(const platform::Files& files, const std::string& path, std::size_
 
 }  // namespace
 
-std::string encode_fixed_data(const ShipFixedData& data, const DateTime& written) {
+std::string encode_fixed_data(const ShipFixedData& data, const DateTime& written,
+                              const platform::CodePage& code_page) {
   std::string line = two_digits(written.year) + two_digits(written.month) + two_digits(written.day);
   line.resize(kDateWrittenWidth, ' ');
   for (const Field& field : kFields) {
-    line += fitted(field.encode(data), field.width, field.padding);
+    line += fitted(field.encode(data), field.width, field.padding, code_page);
   }
   return line;
 }
 
-std::optional<ShipFixedData> decode_fixed_data(std::string_view line, const DateTime& utc) {
+std::optional<ShipFixedData> decode_fixed_data(std::string_view line, const DateTime& utc,
+                                               const platform::CodePage& code_page) {
   if (line.size() != kFixedDataSize) return std::nullopt;
   ShipFixedData data;
-  for (const Field& field : kFields) field.decode(line.substr(field.offset, field.width), data);
+  for (const Field& field : kFields)
+    field.decode(from_ship_bytes(line.substr(field.offset, field.width), code_page), data);
   if (data.card.check_date.empty()) {
     data.card.check_date = text::format_int(utc.year) + "/" + text::format_int(utc.month) + "/" +
                            text::format_int(utc.day);
   }
   return data;
+}
+
+ShipFixedData as_read_back(const ShipFixedData& data, const DateTime& utc,
+                           const platform::CodePage& code_page) {
+  return *decode_fixed_data(encode_fixed_data(data, utc, code_page), utc, code_page);
 }
 
 std::string encode_key_items(const KeyObservationItems& items) {
@@ -318,9 +332,10 @@ std::optional<KeyObservationItems> decode_key_items(std::string_view digits) {
 }
 
 Loaded<ShipFixedData> load_fixed_data(const platform::Files& files, const std::string& path,
-                                      const platform::Clock& clock) {
+                                      const platform::Clock& clock,
+                                      const platform::CodePage& code_page) {
   return load<ShipFixedData>(files, path, kFixedDataSize, [&](std::string_view line) {
-    return decode_fixed_data(line, clock.utc());
+    return decode_fixed_data(line, clock.utc(), code_page);
   });
 }
 
@@ -329,8 +344,9 @@ Loaded<KeyObservationItems> load_key_items(const platform::Files& files, const s
 }
 
 platform::FileError save_fixed_data(platform::Files& files, const std::string& path,
-                                    const ShipFixedData& data, const platform::Clock& clock) {
-  return files.replace(path, encode_fixed_data(data, clock.local()));
+                                    const ShipFixedData& data, const platform::Clock& clock,
+                                    const platform::CodePage& code_page) {
+  return files.replace(path, encode_fixed_data(data, clock.local(), code_page));
 }
 
 platform::FileError save_key_items(platform::Files& files, const std::string& path,

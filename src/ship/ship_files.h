@@ -1,7 +1,8 @@
 #pragma once
 // FIXDATA.DAT (the ship's fixed data, one line of 155 characters) and MOKSDATA.DAT (the twelve
 // observation items, 12 digits). The encoding is a table of fields; reading and writing are pure
-// functions, and load/save put them on the files port.
+// functions, and load/save put them on the files port. Widths and offsets count bytes of code page
+// 932 (ship_text.h).
 //
 // A save replaces the file as a whole: a full disk, a refusal or a kill at any moment leaves the
 // old file. Reading survives any bytes. What the format cannot hold is lost by design: blanks of
@@ -23,12 +24,18 @@ inline constexpr std::size_t kKeyItemsSize = kObservationItems;
 /// The line of FIXDATA.DAT, always 155 bytes. `written` is the local date put in front. A value too
 /// long for its field is cut at a character, so that no later field moves.
 [[nodiscard]] std::string encode_fixed_data(const ShipFixedData& data,
-                                            const platform::DateTime& written);
+                                            const platform::DateTime& written,
+                                            const platform::CodePage& code_page);
 
 /// The values of a line, or nothing when it is not exactly 155 bytes. A blank check date becomes
 /// `utc`, without leading zeros.
 [[nodiscard]] std::optional<ShipFixedData> decode_fixed_data(std::string_view line,
-                                                             const platform::DateTime& utc);
+                                                             const platform::DateTime& utc,
+                                                             const platform::CodePage& code_page);
+
+/// The values as they come back from a file: without what the form of the line loses.
+[[nodiscard]] ShipFixedData as_read_back(const ShipFixedData& data, const platform::DateTime& utc,
+                                         const platform::CodePage& code_page);
 
 /// Twelve digits, "0" observed and "1" not observed.
 [[nodiscard]] std::string encode_key_items(const KeyObservationItems& items);
@@ -52,13 +59,15 @@ struct Loaded {
 
 [[nodiscard]] Loaded<ShipFixedData> load_fixed_data(const platform::Files& files,
                                                     const std::string& path,
-                                                    const platform::Clock& clock);
+                                                    const platform::Clock& clock,
+                                                    const platform::CodePage& code_page);
 [[nodiscard]] Loaded<KeyObservationItems> load_key_items(const platform::Files& files,
                                                          const std::string& path);
 
 /// Replaces the file. On an error the old file, or none, is there as before.
 [[nodiscard]] platform::FileError save_fixed_data(platform::Files& files, const std::string& path,
                                                   const ShipFixedData& data,
-                                                  const platform::Clock& clock);
+                                                  const platform::Clock& clock,
+                                                  const platform::CodePage& code_page);
 [[nodiscard]] platform::FileError save_key_items(platform::Files& files, const std::string& path,
                                                  const KeyObservationItems& items);

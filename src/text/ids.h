@@ -103,6 +103,7 @@ inline constexpr int kFixLockedLoading = 12048;
 inline constexpr int kFixLockedVosClim = 12049;
 inline constexpr int kFixLockedManufacturer = 12050;
 inline constexpr int kShipFileUnreadable = 40000;
+inline constexpr int kShipFileUnreadableInForce = 42102;
 inline constexpr int kShipFileNotSaved = 40001;
 inline constexpr int kCallSignMissing = 40010;
 inline constexpr int kCallSignForm = 40011;
@@ -170,6 +171,8 @@ inline constexpr int kTotalFullLoadRange = 40116;
 inline constexpr int kTotalBallastRange = 40117;
 inline constexpr int kTotalCorrectionRange = 40118;
 inline constexpr int kLoadingStateMissing = 40119;
+inline constexpr int kCheckPortCharacter = 42100;
+inline constexpr int kCheckPortTooLong = 42101;
 
 // Main window: labels
 inline constexpr int kLabelObservationTime = 11000;

@@ -13,6 +13,7 @@ struct Services {
   platform::Locale& locale;
   platform::Drives& drives;
   platform::Files& files;
+  platform::CodePage& code_page;
   platform::Printer& printer;
   platform::Windows& windows;
   text::Texts& texts;

@@ -77,8 +77,8 @@ class StartUp : public ::testing::Test {
         }};
   }
   app::CVelmaranApp program() {
-    return app::CVelmaranApp({world.clock, world.locale, world.drives, files, world.printer,
-                              world.windows, world.help_viewer},
+    return app::CVelmaranApp({world.clock, world.locale, world.drives, files, world.code_page,
+                              world.printer, world.windows, world.help_viewer},
                              dialogs());
   }
   int run() { return program().run(); }
@@ -95,7 +95,8 @@ TEST_F(StartUp, FirstStartSeedsAsksAndWritesBack) {
   EXPECT_EQ(live(), "[KAVREL]\nLANG=ENG\nTLX=C:\\chosen\\\nLOG=C:\\chosen\\\nFD=\n");
   EXPECT_TRUE(files.is_folder("C:\\kavrel\\file"));
   EXPECT_TRUE(files.is_folder("C:\\kavrel\\data"));
-  EXPECT_EQ(files.content(kFixed), encode_fixed_data(ship, world.clock.local_time));
+  EXPECT_EQ(files.content(kFixed),
+            encode_fixed_data(ship, world.clock.local_time, world.code_page));
   EXPECT_EQ(files.content(kSeed), ini("JPN")) << "the seed stays as it was";
 }
 
@@ -326,7 +327,8 @@ TEST_F(StartUp, MainWindowSavesShipDataAndFoldersThroughTheApplication) {
   };
   EXPECT_EQ(run(), 0);
   ship.call_sign = "NEW";
-  EXPECT_EQ(files.content(kFixed), encode_fixed_data(ship, world.clock.local_time));
+  EXPECT_EQ(files.content(kFixed),
+            encode_fixed_data(ship, world.clock.local_time, world.code_page));
   EXPECT_EQ(live(), ini("ENG", "C:\\tlx\\", "C:\\log\\") + "TLXC=A:\\copies\\\nFD=\n");
 }
 

@@ -50,13 +50,15 @@ class EveryScreen : public testing::TestWithParam<std::tuple<std::size_t, text::
   fakes::FakeLocale locale;
   fakes::FakeDrives drives;
   fakes::NoFiles files;
+  fakes::FakeCodePage code_page;
   fakes::FakePrinter printer;
   fakes::FakeHelp help_viewer;
   Patient windows;
   text::Texts texts;
   text::Messages messages{texts, windows};
   text::HelpLauncher help{texts, help_viewer, "C:\\program"};
-  ui::Services services{clock, locale, drives, files, printer, windows, texts, messages, help};
+  ui::Services services{clock,   locale,  drives, files,    code_page,
+                        printer, windows, texts,  messages, help};
   std::unique_ptr<ui::Screen> screen;
   std::unique_ptr<desktop::ScreenWindow> window;
 };

@@ -15,8 +15,8 @@ struct DesktopWorld {
   desktop::DesktopWindows windows{{}};
   fakes::World fake;
   text::Messages messages{fake.texts, windows};
-  ui::Services services{fake.clock, fake.locale, fake.drives, fake.no_files, fake.printer,
-                        windows,    fake.texts,  messages,    fake.help};
+  ui::Services services{fake.clock,   fake.locale, fake.drives, fake.no_files, fake.code_page,
+                        fake.printer, windows,     fake.texts,  messages,      fake.help};
 };
 
 /// A key to whatever has the focus.

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "fakes/fake_code_page.h"
 #include "platform/ports.h"
 #include "ui/screen.h"
 #include "ui/services.h"
@@ -181,6 +182,7 @@ class World {
   FakeLocale locale;
   FakeDrives drives;
   NoFiles no_files;
+  FakeCodePage code_page;
   FakePrinter printer;
   FakeHelp help_viewer;
   FakeWindows windows;
@@ -195,11 +197,11 @@ class World {
   explicit World(platform::Files* with)
       : messages(texts, windows),
         help(texts, help_viewer, "C:\\program"),
-        services{clock,   locale,
-                 drives,  with == nullptr ? static_cast<platform::Files&>(no_files) : *with,
-                 printer, windows,
-                 texts,   messages,
-                 help} {}
+        services{clock,     locale,
+                 drives,    with == nullptr ? static_cast<platform::Files&>(no_files) : *with,
+                 code_page, printer,
+                 windows,   texts,
+                 messages,  help} {}
 };
 
 /// Puts the focus on the control and types, as a script's `set` does. False when the focus was

@@ -120,9 +120,9 @@ Played play(std::string_view script, const headless::Options& options) {
     fakes::World world;
     text::Messages messages(world.texts, doors.windows);
     text::HelpLauncher help(world.texts, doors.help, "C:\\program");
-    ui::Services services{world.clock,    world.locale,  world.drives,
-                          world.no_files, doors.printer, doors.windows,
-                          world.texts,    messages,      help};
+    ui::Services services{world.clock,     world.locale,  world.drives,  world.no_files,
+                          world.code_page, doors.printer, doors.windows, world.texts,
+                          messages,        help};
     CFormDlg form(services);
     doors.windows.run_modal(form);
   };

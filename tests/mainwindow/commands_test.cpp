@@ -107,9 +107,8 @@ TEST(MainWindowMenu, RunsNoCommandInsideAnother) {
   fakes::World world;
   Nosy viewer;
   text::HelpLauncher help(world.texts, viewer, "C:\\program");
-  ui::Services services{world.clock,    world.locale,   world.drives,
-                        world.no_files, world.printer,  world.windows,
-                        world.texts,    world.messages, help};
+  ui::Services services{world.clock,   world.locale,  world.drives, world.no_files, world.code_page,
+                        world.printer, world.windows, world.texts,  world.messages, help};
   ShipFixedData ship = main_window::sample_ship();
   KeyObservationItems items;
   mainwindow::Folders folders;

@@ -362,12 +362,14 @@ struct Play {
   fakes::FakeLocale locale;
   fakes::FakeDrives drives;
   fakes::FakeFiles files;
+  fakes::FakeCodePage code_page;
   fakes::FakePrinter printer;
   fakes::FakeHelp viewer;
   text::Texts texts;
   text::Messages messages{texts, officer};
   text::HelpLauncher help{texts, viewer, "C:\\program"};
-  ui::Services services{clock, locale, drives, files, printer, officer, texts, messages, help};
+  ui::Services services{clock,   locale,  drives, files,    code_page,
+                        printer, officer, texts,  messages, help};
   ShipFixedData ship;
   KeyObservationItems items;
   mainwindow::Folders folders;

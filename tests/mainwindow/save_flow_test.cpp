@@ -356,9 +356,9 @@ TEST(SaveFlow, ADiskPutInIsWrittenTo) {
   InsertedDisk drives;
   drives.list = s.world.drives.list;
   drives.empty_looks = 2;
-  ui::Services services{s.world.clock, s.world.locale,   drives,
-                        s.files,       s.world.printer,  s.world.windows,
-                        s.world.texts, s.world.messages, s.world.help};
+  ui::Services services{s.world.clock,     s.world.locale,  drives,          s.files,
+                        s.world.code_page, s.world.printer, s.world.windows, s.world.texts,
+                        s.world.messages,  s.world.help};
   s.world.windows.expect(id::kInsertDisk, "ok");
   s.world.windows.expect(id::kInsertDiskAgain, "ok");
   s.world.windows.expect(id::kSaved);
@@ -384,9 +384,9 @@ TEST(SaveFlow, AFullDiskIsExchangedOrGivenUp) {
     files.full_looks = exchanged ? 2 : 1000;
     files.add_folder("C:\\tlx\\");
     files.add_folder("A:\\");
-    ui::Services services{s.world.clock, s.world.locale,   s.world.drives,
-                          files,         s.world.printer,  s.world.windows,
-                          s.world.texts, s.world.messages, s.world.help};
+    ui::Services services{s.world.clock,     s.world.locale,  s.world.drives,  files,
+                          s.world.code_page, s.world.printer, s.world.windows, s.world.texts,
+                          s.world.messages,  s.world.help};
     s.world.windows.expect(id::kDiskFull, "ok");
     if (exchanged) {
       s.world.windows.expect(id::kDiskFull, "ok");
@@ -425,9 +425,9 @@ TEST(SaveFlow, AReportOnADiskThatIsPutInLateIsAskedAbout) {
   InsertedDisk drives;
   drives.list = s.world.drives.list;
   drives.empty_looks = 1;
-  ui::Services services{s.world.clock, s.world.locale,   drives,
-                        s.files,       s.world.printer,  s.world.windows,
-                        s.world.texts, s.world.messages, s.world.help};
+  ui::Services services{s.world.clock,     s.world.locale,  drives,          s.files,
+                        s.world.code_page, s.world.printer, s.world.windows, s.world.texts,
+                        s.world.messages,  s.world.help};
   s.world.windows.expect(id::kInsertDisk, "cancel");
   s.world.windows.expect(id::kSaveCancelled);
   EXPECT_EQ(save_observation(services, {s.record, s.ship, s.items, s.folders, {}}),

@@ -6,12 +6,14 @@
 
 #include <string>
 
+#include "fakes/fake_code_page.h"
 #include "ship/barometer_date.h"
 #include "text/ids.h"
 
 namespace {
 
 namespace id = text::id;
+const fakes::FakeCodePage kCodePage;
 constexpr platform::DateTime kToday{2014, 11, 15, 20, 50, 0};
 
 BarometerCard card_one() {
@@ -157,7 +159,7 @@ TEST(BarometerCard, OfType1AcceptsAndRefuses) {
   for (const ValueRow& row : rows) {
     BarometerCard card = card_one();
     card.*card_text(row.field) = row.value;
-    EXPECT_EQ(message_of(card_field_fault(card, row.field, kToday)), row.message)
+    EXPECT_EQ(message_of(card_field_fault(card, row.field, kToday, kCodePage)), row.message)
         << static_cast<int>(row.field) << " " << row.value;
   }
 }
@@ -178,37 +180,38 @@ TEST(BarometerCard, OfType2AcceptsAndRefuses) {
   for (const ValueRow& row : rows) {
     BarometerCard card = card_two();
     card.*card_text(row.field) = row.value;
-    EXPECT_EQ(message_of(card_field_fault(card, row.field, kToday)), row.message) << row.value;
+    EXPECT_EQ(message_of(card_field_fault(card, row.field, kToday, kCodePage)), row.message)
+        << row.value;
   }
 }
 
 TEST(BarometerCard, ComparesTheStatesOnlyWhenAsked) {
   BarometerCard card = card_one();
   card.height_full_load = "30";
-  EXPECT_EQ(message_of(card_field_fault(card, CardField::kHeightFullLoad, kToday)),
+  EXPECT_EQ(message_of(card_field_fault(card, CardField::kHeightFullLoad, kToday, kCodePage)),
             id::kHeightRange);
-  EXPECT_FALSE(card_field_fault(card, CardField::kHeightFullLoad, kToday, false));
+  EXPECT_FALSE(card_field_fault(card, CardField::kHeightFullLoad, kToday, kCodePage, false));
   card.height_full_load = "201";
-  EXPECT_TRUE(card_field_fault(card, CardField::kHeightFullLoad, kToday, false));
+  EXPECT_TRUE(card_field_fault(card, CardField::kHeightFullLoad, kToday, kCodePage, false));
 }
 
 TEST(BarometerCard, AsksForAMissingPartnerInsteadOfComparingWithIt) {
   BarometerCard card = card_one();
   card.height_ballast.clear();
-  EXPECT_FALSE(card_field_fault(card, CardField::kHeightFullLoad, kToday));
-  EXPECT_EQ(message_of(card_field_fault(card, CardField::kHeightBallast, kToday)),
+  EXPECT_FALSE(card_field_fault(card, CardField::kHeightFullLoad, kToday, kCodePage));
+  EXPECT_EQ(message_of(card_field_fault(card, CardField::kHeightBallast, kToday, kCodePage)),
             id::kHeightBallastMissing);
 }
 
 TEST(BarometerCard, NamesTodayInTheRangeOfTheDate) {
   BarometerCard card = card_one();
   card.check_date = "2014/11/16";
-  const auto fault = card_field_fault(card, CardField::kCheckDate, kToday);
+  const auto fault = card_field_fault(card, CardField::kCheckDate, kToday, kCodePage);
   ASSERT_TRUE(fault);
   EXPECT_EQ(fault->message, id::kCheckDateRange);
   EXPECT_EQ(fault->argument, "2014/11/15");
   card.check_date = " ";
-  EXPECT_EQ(message_of(card_field_fault(card, CardField::kCheckDate, kToday)),
+  EXPECT_EQ(message_of(card_field_fault(card, CardField::kCheckDate, kToday, kCodePage)),
             id::kCheckDateMissing);
 }
 
@@ -244,15 +247,15 @@ TEST(BarometerCard, ChangedToItsOwnTypeStaysAsItIs) {
 TEST(BarometerCard, IsCheckedInTheOrderGiven) {
   const CardField order[] = {CardField::kType, CardField::kCheckDate, CardField::kCheckPort};
   BarometerCard card;
-  EXPECT_EQ(message_of(first_card_fault(card, kToday, order)), id::kCardTypeMissing);
+  EXPECT_EQ(message_of(first_card_fault(card, kToday, kCodePage, order)), id::kCardTypeMissing);
   card.type = CardType::kTotalCorrection;
-  EXPECT_EQ(message_of(first_card_fault(card, kToday, order)), id::kCheckDateMissing);
+  EXPECT_EQ(message_of(first_card_fault(card, kToday, kCodePage, order)), id::kCheckDateMissing);
   card.check_date = "1999/12/31";
-  EXPECT_EQ(message_of(first_card_fault(card, kToday, order)), id::kCheckDateRange);
+  EXPECT_EQ(message_of(first_card_fault(card, kToday, kCodePage, order)), id::kCheckDateRange);
   card.check_date = "2014/01/01";
-  EXPECT_EQ(message_of(first_card_fault(card, kToday, order)), id::kCheckPortMissing);
+  EXPECT_EQ(message_of(first_card_fault(card, kToday, kCodePage, order)), id::kCheckPortMissing);
   card.check_port = "KOBE";
-  EXPECT_FALSE(first_card_fault(card, kToday, order));
+  EXPECT_FALSE(first_card_fault(card, kToday, kCodePage, order));
 }
 
 }  // namespace

@@ -218,6 +218,11 @@ TEST(CardScreen, RefusesAFieldWhenItIsLeft) {
       {"barometer_check_date", "1999/12/31", id::kCheckDateRange, "2014/11/15"},
       {"barometer_check_date", "2014/02/30", id::kCheckDateRange, "2014/11/15"},
       {"barometer_check_date", "20140809", id::kCheckDateRange, "2014/11/15"},
+      {"barometer_check_port", "Málaga", id::kCheckPortCharacter, "á"},
+      {"barometer_check_port", "横浜😀", id::kCheckPortCharacter, "😀"},
+      {"barometer_check_port", "宁波", id::kCheckPortCharacter, "宁"},
+      {"barometer_check_port", "¥", id::kCheckPortCharacter, "¥"},
+      {"barometer_check_port", "港\xE6", id::kCheckPortCharacter, "\uFFFD"},
       {"instrumental_correction", "x", id::kInstrumentalNotNumeric, ""},
       {"instrumental_correction", "50.1", id::kInstrumentalRange, ""},
       {"instrumental_correction", "+1.25", id::kOneDecimalOnly, ""},
@@ -542,6 +547,82 @@ TEST(CardScreen, KeepsWhatWasTypedWhenTheTypeStays) {
     });
     press(screen, "change_type");
     EXPECT_EQ(dump(screen), before);
+  }
+}
+
+// ---- Card input: the port
+
+TEST(CardScreen, TakesAPortOfTwelveJapaneseCharacters) {
+  for (const char* port :
+       {"横浜神戸大阪東京名古屋函", "ヨコハマコウベオオサカミ", "ﾖｺﾊﾏ", "能代ダーソ", "PORT A"}) {
+    fakes::World world;
+    CKataInputDlg screen(world.services, card_two());
+    screen.open();
+    ASSERT_TRUE(enter(screen, screen.barometer_check_port, port));
+    EXPECT_EQ(screen.barometer_check_port.content, port) << "not cut";
+    press(screen, "ok");
+    EXPECT_EQ(screen.result(), text::kOk) << port;
+    EXPECT_EQ(screen.card().check_port, port);
+  }
+}
+
+TEST(CardScreen, ShowsAPortAsTheFileWillKeepIt) {
+  fakes::World world;
+  CKataInputDlg screen(world.services, card_two());
+  screen.open();
+  ASSERT_TRUE(enter(screen, screen.barometer_check_port, "横浜〜神戸　ＡＢ"));
+  ASSERT_TRUE(screen.move_focus(screen.ok));
+  // The wave dash becomes its full-width twin, and that is narrowed like every sign.
+  EXPECT_EQ(screen.barometer_check_port.content, "横浜~神戸 AB");
+  ASSERT_TRUE(screen.move_focus(screen.barometer_check_port));
+  ASSERT_TRUE(screen.move_focus(screen.ok));
+  EXPECT_EQ(screen.barometer_check_port.content, "横浜~神戸 AB") << "once and for all";
+}
+
+// A port that nobody typed here is checked by OK: one of a damaged file, or one that is too long.
+TEST(CardScreen, RefusesAtOkAPortThatTheFileCanNotKeep) {
+  const struct {
+    std::string port;
+    int message;
+    const char* argument;
+  } rows[] = {
+      {"横浜\uFFFD", id::kCheckPortCharacter, "\uFFFD"},
+      {"é", id::kCheckPortCharacter, "é"},
+      {"横浜神戸大阪東京名古屋函館", id::kCheckPortTooLong, ""},
+      {"YOKOHAMAYOKOHAMAYOKOHAMAY", id::kCheckPortTooLong, ""},
+  };
+  for (const Language language : {Language::kEnglish, Language::kJapanese}) {
+    for (const auto& row : rows) {
+      fakes::World world;
+      world.texts.language = language;
+      BarometerCard card = card_two();
+      card.check_port = row.port;
+      CKataInputDlg screen(world.services, card);
+      screen.open();
+      ASSERT_TRUE(screen.move_focus(screen.total_correction));
+      const std::string before = dump(screen);
+      world.windows.expect(row.message);
+      press(screen, "ok");
+      EXPECT_FALSE(screen.result()) << row.port;
+      ASSERT_EQ(world.windows.boxes.size(), 1U);
+      EXPECT_EQ(world.windows.boxes[0].text,
+                text::fill(world.texts.get(row.message), {row.argument}));
+      EXPECT_EQ(dump(screen), before) << row.port;
+      EXPECT_EQ(screen.focused(), &screen.barometer_check_port);
+      EXPECT_EQ(screen.card(), card);
+    }
+  }
+}
+
+TEST(CardScreen, TakesTheLongestPortThatFits) {
+  for (const char* port : {"横浜神戸大阪東京名古屋函", "YOKOHAMAYOKOHAMAYOKOHAMA"}) {
+    fakes::World world;
+    BarometerCard card = card_two();
+    card.check_port = port;
+    CKataInputDlg screen(world.services, card);
+    screen.open();
+    press(screen, "ok");
+    EXPECT_EQ(screen.result(), text::kOk) << port;
   }
 }
 

@@ -14,14 +14,15 @@ namespace {
 
 constexpr platform::DateTime kWritten{2014, 11, 5, 20, 50, 0};
 constexpr platform::DateTime kUtc{2014, 3, 7, 11, 50, 0};
+const fakes::FakeCodePage kCodePage;
 const std::string kPath = "C:\\kavrel\\file\\FIXDATA.DAT";
 
 std::string encoded(const ShipFixedData& data) {
-  return encode_fixed_data(data, kWritten);
+  return encode_fixed_data(data, kWritten, kCodePage);
 }
 
 ShipFixedData decoded(const std::string& line) {
-  const auto data = decode_fixed_data(line, kUtc);
+  const auto data = decode_fixed_data(line, kUtc, kCodePage);
   EXPECT_TRUE(data.has_value());
   return data.value_or(ShipFixedData{});
 }
@@ -177,12 +178,13 @@ TEST(FixedDataLine, CutsWhatDoesNotFitAndMovesNothing) {
 
 TEST(FixedDataLine, CutsAPortAtAWholeCharacter) {
   ShipFixedData data;
-  data.card.check_port = "大阪港大阪港大阪X港";  // 25 bytes before the last, 8 of 3 bytes fit
+  const std::string osaka = "\x91\xE5\x8D\xE3\x8D\x60";
+  data.card.check_port = "大阪港大阪港大阪港大阪港大";  // 26 bytes
   const std::string line = encoded(data);
   EXPECT_EQ(line.size(), kFixedDataSize);
-  EXPECT_EQ(line.substr(21, 24), "大阪港大阪港大阪");
-  data.card.check_port = "X大阪港大阪港大阪";
-  EXPECT_EQ(encoded(data).substr(21, 24), "X大阪港大阪港大  ");
+  EXPECT_EQ(line.substr(21, 24), osaka + osaka + osaka + osaka);
+  data.card.check_port = "X大阪港大阪港大阪港大阪港";
+  EXPECT_EQ(encoded(data).substr(21, 24), "X" + osaka + osaka + osaka + osaka.substr(0, 4) + " ");
 }
 
 struct ReadRow {
@@ -273,8 +275,8 @@ TEST(FixedDataLine, ReadsEachFieldFromItsOffset) {
 
 TEST(FixedDataLine, IsUsedOnlyAtExactly155Bytes) {
   for (const std::size_t size : {0U, 1U, 154U, 156U, 157U, 4096U})
-    EXPECT_FALSE(decode_fixed_data(std::string(size, '0'), kUtc)) << size;
-  EXPECT_TRUE(decode_fixed_data(std::string(155, '0'), kUtc));
+    EXPECT_FALSE(decode_fixed_data(std::string(size, '0'), kUtc, kCodePage)) << size;
+  EXPECT_TRUE(decode_fixed_data(std::string(155, '0'), kUtc, kCodePage));
 }
 
 TEST(FixedDataLine, ComesBackAsItWasSaved) {
@@ -315,7 +317,8 @@ TEST(FixedDataFile, IsReplacedAsAWhole) {
     fakes::FakeClock clock;
     files.add_file(kPath, "old");
     files.fail_at(step, platform::FileError::kNoSpace);
-    EXPECT_EQ(save_fixed_data(files, kPath, full_ship(), clock), platform::FileError::kNoSpace);
+    EXPECT_EQ(save_fixed_data(files, kPath, full_ship(), clock, kCodePage),
+              platform::FileError::kNoSpace);
     EXPECT_EQ(files.content(kPath), "old") << step;
     EXPECT_EQ(files.snapshot().size(), 1U) << step;
   }
@@ -327,9 +330,10 @@ TEST(FixedDataFile, CarriesTheLocalDateOfTheSave) {
   clock.local_time = {2009, 1, 2, 0, 30, 0};
   clock.utc_time = {2009, 1, 1, 15, 30, 0};
   files.add_folder("C:\\kavrel\\file");
-  EXPECT_EQ(save_fixed_data(files, kPath, full_ship(), clock), platform::FileError::kNone);
+  EXPECT_EQ(save_fixed_data(files, kPath, full_ship(), clock, kCodePage),
+            platform::FileError::kNone);
   EXPECT_EQ(files.content(kPath).value_or("").substr(0, 6), "090102");
-  const auto loaded = load_fixed_data(files, kPath, clock);
+  const auto loaded = load_fixed_data(files, kPath, clock, kCodePage);
   EXPECT_EQ(loaded.outcome, FileRead::kRead);
   EXPECT_EQ(loaded.values, full_ship());
 }
@@ -337,17 +341,17 @@ TEST(FixedDataFile, CarriesTheLocalDateOfTheSave) {
 TEST(FixedDataFile, TellsMissingWrongSizeAndUnreadableApart) {
   fakes::FakeFiles files;
   fakes::FakeClock clock;
-  EXPECT_EQ(load_fixed_data(files, kPath, clock).outcome, FileRead::kMissing);
+  EXPECT_EQ(load_fixed_data(files, kPath, clock, kCodePage).outcome, FileRead::kMissing);
   for (const std::size_t size : {0U, 154U, 156U}) {
     files.add_file(kPath, std::string(size, '0'));
-    const auto loaded = load_fixed_data(files, kPath, clock);
+    const auto loaded = load_fixed_data(files, kPath, clock, kCodePage);
     EXPECT_EQ(loaded.outcome, FileRead::kWrongSize) << size;
     EXPECT_EQ(loaded.values, ShipFixedData{}) << size;
     EXPECT_EQ(files.content(kPath), std::string(size, '0')) << size;
   }
   files.add_file(kPath, encoded(full_ship()));
   files.fail_next(fakes::FakeFiles::Operation::kRead, platform::FileError::kAccessDenied);
-  EXPECT_EQ(load_fixed_data(files, kPath, clock).outcome, FileRead::kUnreadable);
+  EXPECT_EQ(load_fixed_data(files, kPath, clock, kCodePage).outcome, FileRead::kUnreadable);
 }
 
 TEST(KeyItemsFile, HoldsTwelveDigitsInTheOrderOfTheSwitches) {

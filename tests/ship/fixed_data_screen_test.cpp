@@ -43,7 +43,7 @@ struct Bench {
 
   explicit Bench(Language language = Language::kEnglish) { world.texts.language = language; }
   void put(const ShipFixedData& data) {
-    files.add_file(kPath, encode_fixed_data(data, world.clock.local_time));
+    files.add_file(kPath, encode_fixed_data(data, world.clock.local_time, world.code_page));
   }
 };
 
@@ -100,6 +100,87 @@ TEST(FixedDataScreen, KeepsWhatTheProgramKnowsWhenTheFileCannotBeUsed) {
   EXPECT_EQ(screen.call_sign.content, "JCCX");
   press(screen, "ok");
   EXPECT_EQ(screen.values(), valid_ship());
+}
+
+// A file that could not be written, or was changed meanwhile, says nothing about what is in force.
+TEST(FixedDataScreen, ShowsWhatIsInForceWhenTheFileHoldsSomethingElse) {
+  using Data = ShipFixedData;
+  const std::function<void(Data&)> changes[] = {
+      [](Data& d) { d.call_sign = "OLDCALL"; },
+      [](Data& d) { d.imo_number = ""; },
+      [](Data& d) { d.card.check_port = "KOBE"; },
+      [](Data& d) { d.card.check_date = "2013/01/01"; },
+      [](Data& d) { d.card.type = CardType::kTotalCorrection; },
+      [](Data& d) { d.card.loading_state = LoadingState::kFullLoad; },
+      [](Data& d) { d.card.total_correction = "+0.5"; },
+      [](Data& d) { d.card.instrumental_correction = "+0.5"; },
+      [](Data& d) { d.card.height_full_load = "9"; },
+      [](Data& d) { d.card.total_correction_full_load = "+0.9"; },
+      [](Data& d) { d.card.height_ballast = "21"; },
+      [](Data& d) { d.card.total_correction_ballast = "+2.1"; },
+      [](Data& d) { d.wind_input_method = WindInputMethod::kApparentWind; },
+      [](Data& d) { d.wind_speed_method = WindSpeedMethod::kBeaufortScale; },
+      [](Data& d) { d.sea_temperature_method = SeaTemperatureMethod::kBucket; },
+      [](Data& d) { d.dew_point_method = DewPointMethod::kComputed; },
+      [](Data& d) { d.wave_recorder = true; },
+      [](Data& d) { d.vosclim = true; },
+      [](Data& d) { d.temperature_unit = 0.5; },
+      [](Data& d) { d.vosclim_cargo_height = "08"; },
+      [](Data& d) { d.vosclim_load_line_departure = "+12"; },
+      [](Data& d) {
+        d.humidity_method = HumidityMethod::kComputed;
+        d.humidity_unit = 1.0;
+      },
+      [](Data& d) { d.humidity_unit = 1.0; },
+      [](Data& d) {
+        d.aws_fitted = false;
+        d.aws_manufacturer.clear();
+      },
+      [](Data& d) { d.aws_manufacturer = "OTHER"; },
+  };
+  for (const auto& change : changes) {
+    Bench bench;
+    ShipFixedData old = valid_ship();
+    change(old);
+    bench.put(old);
+    const auto before = bench.files.snapshot();
+    CFixDataDlg screen(bench.world.services, kPath, false, {}, {}, valid_ship());
+    screen.open();
+    CFixDataDlg wanted(bench.world.services, "C:\\none", false, {}, {}, valid_ship());
+    wanted.open();
+    EXPECT_EQ(dump(screen), dump(wanted)) << dump(screen);
+    EXPECT_EQ(screen.values(), valid_ship());
+    press(screen, "ok");
+    EXPECT_EQ(screen.values(), valid_ship());
+    EXPECT_EQ(bench.files.snapshot(), before);
+  }
+}
+
+// What the form loses, such as the blanks of a port, is no difference: the file shows.
+TEST(FixedDataScreen, ShowsTheFileWhenItIsTheOneThatWasWritten) {
+  Bench bench;
+  ShipFixedData in_force = valid_ship();
+  in_force.card.check_port = "PORT A";
+  bench.put(in_force);
+  bench.world.clock.local_time.day += 3;  // the date of the save is no value
+  CFixDataDlg screen(bench.world.services, kPath, false, {}, {}, in_force);
+  screen.open();
+  EXPECT_EQ(screen.barometer_check_port.content, "PORTA");
+  EXPECT_EQ(screen.file_read(), FileRead::kRead);
+}
+
+TEST(FixedDataScreen, SaysWhichValuesAreShownInsteadOfAFileThatCannotBeRead) {
+  for (const Language language : {Language::kEnglish, Language::kJapanese}) {
+    Bench bench(language);
+    bench.put(valid_ship());
+    bench.files.fail_path(kPath, platform::FileError::kAccessDenied);
+    bench.world.windows.expect(id::kShipFileUnreadableInForce);
+    CFixDataDlg screen(bench.world.services, kPath, false, {}, {}, valid_ship());
+    screen.open();
+    EXPECT_EQ(screen.call_sign.content, "JCCX");
+    ASSERT_EQ(bench.world.windows.boxes.size(), 1U);
+    EXPECT_NE(bench.world.windows.boxes[0].text.find(kPath), std::string::npos);
+  }
 }
 
 TEST(FixedDataScreen, TellsTheOfficerOfAFileThatCannotBeRead) {
@@ -539,6 +620,24 @@ TEST(FixedDataScreen, ChecksInOrderAtOk) {
       EXPECT_EQ(dump(screen), before) << rows[i].rule;
       EXPECT_EQ(screen.values(), values) << rows[i].rule;
     }
+  }
+}
+
+TEST(FixedDataScreen, RefusesAtOkAPortThatIsDamagedInTheFile) {
+  for (const Language language : {Language::kEnglish, Language::kJapanese}) {
+    Bench bench(language);
+    bench.put(valid_ship());
+    std::string line = *bench.files.content(kPath);
+    line.replace(21, 3, "\x89\xA1\xFF");
+    bench.files.add_file(kPath, line);
+    CFixDataDlg screen(bench.world.services, kPath, false);
+    screen.open();
+    EXPECT_EQ(screen.barometer_check_port.content, "横\uFFFDOHAMA");
+    bench.world.windows.expect(id::kCheckPortCharacter);
+    press(screen, "ok");
+    EXPECT_FALSE(screen.result());
+    EXPECT_EQ(screen.focused(), &screen.card_button);
+    EXPECT_EQ(bench.files.content(kPath), line);
   }
 }
 

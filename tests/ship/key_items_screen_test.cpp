@@ -116,6 +116,55 @@ TEST(ItemsScreen, SaysSoWhenTheFileCannotBeWrittenAndKeepsTheChoiceForThisRun) {
   }
 }
 
+// Later the program hands in what is in force: a file that could not be written, or was changed or
+// damaged meanwhile, says nothing about it.
+TEST(ItemsScreen, ShowsWhatIsInForceWhateverTheFileHolds) {
+  for (const Language language : {Language::kEnglish, Language::kJapanese}) {
+    for (const char* const file : {"000000000000", "111111111111", "", "0000", "none", "locked"}) {
+      const std::string_view content = file;
+      for (std::size_t off = 0; off < kObservationItems; ++off) {
+        Bench bench(language);
+        if (content != "none")
+          bench.files.add_file(kPath, content == "locked" ? "000000000000" : file);
+        const auto before = bench.files.snapshot();
+        if (content == "locked") {
+          bench.files.fail_path(kPath, platform::FileError::kAccessDenied);
+          bench.world.windows.expect(id::kShipFileUnreadableInForce);
+        }
+        KeyObservationItems in_force;
+        in_force.not_observed[off] = true;
+        CKeyObserveDlg screen(bench.world.services, kPath, false, in_force);
+        screen.open();
+        for (std::size_t i = 0; i < kObservationItems; ++i)
+          EXPECT_EQ(screen.items[i].selected, i == off ? 1 : 0) << content << screen.items[i].name;
+        screen.choose(screen.items[0], 1);
+        screen.press(screen.cancel);
+        EXPECT_EQ(screen.values(), in_force) << content;
+        EXPECT_EQ(bench.files.snapshot(), before);
+      }
+    }
+  }
+}
+
+TEST(ItemsScreen, ShowsTheChoiceAgainThatCouldNotBeWritten) {
+  Bench bench;
+  bench.files.add_file(kPath, "000000000000");
+  KeyObservationItems in_force;
+  for (int round = 0; round < 3; ++round) {
+    CKeyObserveDlg screen(bench.world.services, kPath, false, in_force);
+    screen.open();
+    EXPECT_EQ(screen.items[4].selected, round == 0 ? 0 : 1);
+    screen.choose(screen.items[4], 1);
+    if (round < 2) {
+      bench.files.fail_next(fakes::FakeFiles::Operation::kStage, platform::FileError::kNoSpace);
+      bench.world.windows.expect(id::kShipFileNotSaved);
+    }
+    screen.press(screen.ok);
+    in_force = screen.values();
+  }
+  EXPECT_EQ(bench.files.content(kPath), "000010000000") << "the next OK writes it";
+}
+
 TEST(ItemsScreen, HasItsTextsInBothLanguages) {
   Bench bench;
   CKeyObserveDlg screen(bench.world.services, kPath, false);

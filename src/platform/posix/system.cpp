@@ -56,6 +56,8 @@ System::System(const SystemOptions& options) {
   choose_root(options);
   choose_clock(options);
   choose_locale(options);
+  if (!code_page_.is_installed())
+    problems_.emplace_back("code page 932, in which the ship's files are kept, is not installed");
   map_ = std::make_unique<DriveMap>(root_, [this] { return find_media(); });
   drives_ = std::make_unique<PosixDrives>(*map_, choose_program(options));
   files_ = std::make_unique<PosixFiles>(*map_, calls_);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/posix/code_page.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/posix_ports.h"
 
@@ -32,6 +33,7 @@ class System {
   [[nodiscard]] Locale& locale() { return *locale_; }
   [[nodiscard]] Drives& drives() { return *drives_; }
   [[nodiscard]] Files& files() { return *files_; }
+  [[nodiscard]] CodePage& code_page() { return code_page_; }
   [[nodiscard]] PosixHelp& help() { return *help_; }
   [[nodiscard]] Printer& no_printer() { return no_printer_; }
   [[nodiscard]] const DriveMap& map() const { return *map_; }
@@ -58,6 +60,7 @@ class System {
   std::unique_ptr<PosixDrives> drives_;
   std::unique_ptr<PosixFiles> files_;
   std::unique_ptr<PosixHelp> help_;
+  PosixCodePage code_page_;
   NoPrinter no_printer_;
 };
 
