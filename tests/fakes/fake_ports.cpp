@@ -36,6 +36,7 @@ void FakeWindows::verify() {
 
 int FakeWindows::show_message(const platform::MessageBox& box) {
   boxes.push_back(box);
+  if (while_open) while_open();
   if (expected_.empty()) {
     ADD_FAILURE() << "unexpected message " << box.text_id << ": " << box.text;
     return box.close_result;
