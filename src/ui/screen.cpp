@@ -258,6 +258,12 @@ void Screen::close_box() {
   if (handling) on_cancel();
 }
 
+void Screen::idle() {
+  if (!opened_ || result_) return;
+  const Handling handling(*this);
+  on_idle(static_cast<bool>(handling));
+}
+
 void Screen::on_f1(Control* /*focused*/) {
   on_help();
 }
