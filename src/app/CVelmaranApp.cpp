@@ -49,6 +49,7 @@ void CVelmaranApp::create_folders() {
   settings_.data_folder = places_.folder + "data";
   settings_.folders.fixed_data = settings_.file_folder + "\\FIXDATA.DAT";
   settings_.folders.key_items = settings_.file_folder + "\\MOKSDATA.DAT";
+  settings_.folders.drafts = settings_.file_folder;
   // One that cannot be created shows when something is saved into it.
   for (const std::string& folder : {settings_.file_folder, settings_.data_folder})
     if (!services_.files.is_folder(folder)) (void)services_.files.create_folder(folder);

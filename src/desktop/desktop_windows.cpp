@@ -28,7 +28,11 @@ void prepare_application() {
   qApp->setStyleSheet(style_sheet(QApplication::palette()));
 }
 
-DesktopWindows::DesktopWindows(PathMap paths) : paths_(std::move(paths)) {}
+DesktopWindows::DesktopWindows(PathMap paths)
+    : paths_(std::move(paths)), idle_([this] {
+        // A copy: a message that a screen shows may be there for long.
+        for (ui::Screen* const screen : std::vector(open_)) screen->idle();
+      }) {}
 
 DesktopWindows::~DesktopWindows() = default;
 
@@ -58,7 +62,9 @@ int DesktopWindows::run_modal(ui::Screen& screen) {
   if (screen.result()) return *screen.result();
   ScreenWindow window(screen, QApplication::activeWindow());
   if (on_shown) QTimer::singleShot(0, &window, [this, &window] { on_shown(window); });
+  open_.push_back(&screen);
   window.exec();
+  open_.pop_back();
   return screen.result().value_or(text::kCancel);
 }
 

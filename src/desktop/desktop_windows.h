@@ -7,7 +7,9 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "desktop/idle_timer.h"
 #include "platform/ports.h"
 
 class QWidget;
@@ -24,6 +26,7 @@ struct PathMap {
 
 class DesktopWindows : public platform::Windows {
  public:
+  /// There must be a QApplication.
   explicit DesktopWindows(PathMap paths);
   ~DesktopWindows() override;
   DesktopWindows(const DesktopWindows&) = delete;
@@ -42,6 +45,8 @@ class DesktopWindows : public platform::Windows {
 
  private:
   PathMap paths_;
+  std::vector<ui::Screen*> open_;
+  IdleTimer idle_;
   std::map<ui::Screen*, std::unique_ptr<ScreenWindow>> notices_;
 };
 

@@ -206,6 +206,38 @@ void ObservationForm::put_unused_aside() {
   }
 }
 
+FormState ObservationForm::state() const {
+  FormState state{before_group_ ? *before_group_ : entries(),
+                  {},
+                  put_aside_,
+                  pppp_of_reading_,
+                  dew_point_of_bulbs_,
+                  dew_point_method_,
+                  sea_temperature_method_,
+                  error_flag_,
+                  modified_,
+                  review_due_,
+                  doubled_pressure_due_};
+  for (std::size_t i = 0; i < kFields; ++i) {
+    if (state.entries.typed[i]) state.before_typing[i] = before_typing_[i];
+  }
+  return state;
+}
+
+void ObservationForm::load(const FormState& state) {
+  restore(state.entries);
+  before_typing_ = state.before_typing;
+  put_aside_ = state.put_aside;
+  pppp_of_reading_ = state.pppp_of_reading;
+  dew_point_of_bulbs_ = state.dew_point_of_bulbs;
+  dew_point_method_ = state.dew_point_method;
+  sea_temperature_method_ = state.sea_temperature_method;
+  error_flag_ = state.error_flag;
+  modified_ = state.modified;
+  review_due_ = state.review_due;
+  doubled_pressure_due_ = state.doubled_pressure_due;
+}
+
 void ObservationForm::touch(const Struct_Weather& before) {
   if (!(record_ == before)) modified_ = true;
 }

@@ -13,6 +13,7 @@
 #include "elements/cross_rules.h"
 #include "elements/field_editors.h"
 #include "elements/fields.h"
+#include "elements/form_state.h"
 #include "elements/psychrometer.h"
 #include "elements/true_wind.h"
 #include "observation/Struct_Weather.h"
@@ -121,6 +122,12 @@ class ObservationForm {
   /// report needs them and emptied otherwise; what was entered comes back when it is switched on
   /// again.
   void items_changed();
+  /// All that the form holds. While a group is being tried, with messages and questions open, what
+  /// counts is what was there before: nothing of the group is accepted yet.
+  [[nodiscard]] FormState state() const;
+  /// Takes a state over whole; everything is then as in the form that gave it. What the ship or its
+  /// items have changed since is ship_changed()'s and items_changed()'s to follow.
+  void load(const FormState& state);
   /// While set no message or question is shown: a refusal still refuses, a question counts as Yes,
   /// and only the error flags tell.
   bool messages_suppressed = false;
@@ -131,26 +138,18 @@ class ObservationForm {
   }
   [[nodiscard]] std::string& slot(Field field) { return texts_[at(field)]; }
   [[nodiscard]] std::optional<Bounds> bounds_of(Field field) const;
-  /// Everything a person's entry can change, so that a refusal half-way can put it back.
-  struct State {
-    Struct_Weather record;
-    std::array<std::string, kFields> texts;
-    std::array<bool, kFields> typed{};
-    std::array<bool, kFields> error{};
-    WetBulbState wet_bulb = WetBulbState::kNotSet;
-    int north_south = -1;
-    int east_west = -1;
-  };
-  [[nodiscard]] State state() const {
+  [[nodiscard]] FormEntries entries() const {
     return {record_, texts_, typed_, error_, wet_bulb_, north_south_, east_west_};
   }
-  void restore(const State& state);
+  void restore(const FormEntries& entries);
   /// What typing a group has brought so far: the fields that were edited, and the questions that
   /// are asked once nothing refuses.
   struct TypedGroup {
     std::vector<Field> taken;
     std::vector<int> questions;
   };
+  [[nodiscard]] bool take_symbols(const observation::GroupRow& row, std::string_view figures,
+                                  TypedGroup& typed);
   [[nodiscard]] bool take_symbol(std::string Struct_Weather::*member, std::string_view figures,
                                  TypedGroup& typed);
   void take_tenths(std::string Struct_Weather::*member, std::string_view figure, TypedGroup& typed);
@@ -216,6 +215,7 @@ class ObservationForm {
   std::string dew_point_of_bulbs_;               ///< SnTd and TdTdTd as the bulbs gave them
   DewPointMethod dew_point_method_;              ///< the one that the fields' texts are made for
   SeaTemperatureMethod sea_temperature_method_;  ///< the one that Ss was made for
+  std::optional<FormEntries> before_group_;      ///< set while a group is being tried
   bool error_flag_ = false;
   bool modified_ = false;
   bool review_due_ = false;

@@ -166,7 +166,7 @@ std::optional<std::string> ObservationForm::accept(Field field, const std::strin
 
 // The rules that this field's editor raises, tested on the form as it would be.
 bool ObservationForm::follows_rules(Field field, const std::string& value) {
-  const State before = state();
+  const FormEntries before = entries();
   store(field, value);
   const CrossRule* const rule = broken_by(field, record_);
   const bool nowhere = impossible(field) && (field == Field::kLaMin || field == Field::kLoMin);

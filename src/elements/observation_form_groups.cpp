@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "elements/field_codes.h"
 #include "elements/observation_form.h"
@@ -115,14 +116,14 @@ std::string figures_of_group(Group group, std::string_view typed) {
 
 }  // namespace
 
-void ObservationForm::restore(const State& state) {
-  record_ = state.record;
-  texts_ = state.texts;
-  typed_ = state.typed;
-  error_ = state.error;
-  wet_bulb_ = state.wet_bulb;
-  north_south_ = state.north_south;
-  east_west_ = state.east_west;
+void ObservationForm::restore(const FormEntries& entries) {
+  record_ = entries.record;
+  texts_ = entries.texts;
+  typed_ = entries.typed;
+  error_ = entries.error;
+  wet_bulb_ = entries.wet_bulb;
+  north_south_ = entries.north_south;
+  east_west_ = entries.east_west;
 }
 
 Field ObservationForm::air_field() const {
@@ -147,21 +148,15 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
   if (figures == group_text(group)) return true;
   if (!values_are_whole(row, figures)) return refuse(id::kInputError);
 
-  const State before = state();
   TypedGroup entry;
-  std::size_t place = row.indicator.size();
-  for (const Symbol& symbol : row.used()) {
-    const std::string_view part = std::string_view(figures).substr(place, symbol.width);
-    place += symbol.width;
-    if (symbol.figures == Figures::kTenths) {
-      take_tenths(symbol.field, part, entry);
-    } else if (!take_symbol(symbol.field, part, entry)) {
-      restore(before);
-      return false;
-    }
+  before_group_ = entries();
+  bool accepted = take_symbols(row, figures, entry);
+  if (accepted) {
+    take_minus_from_zero(record_);
+    accepted = group_accepted(row, before_group_->record, entry);
   }
-  take_minus_from_zero(record_);
-  if (!group_accepted(row, before.record, entry)) {
+  const FormEntries before = *std::exchange(before_group_, std::nullopt);
+  if (!accepted) {
     restore(before);
     return false;
   }
@@ -178,6 +173,21 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
   }
   for (const Field field : entry.taken) follow(field);
   touch(before.record);
+  return true;
+}
+
+bool ObservationForm::take_symbols(const observation::GroupRow& row, std::string_view figures,
+                                   TypedGroup& typed) {
+  std::size_t place = row.indicator.size();
+  for (const Symbol& symbol : row.used()) {
+    const std::string_view part = figures.substr(place, symbol.width);
+    place += symbol.width;
+    if (symbol.figures == Figures::kTenths) {
+      take_tenths(symbol.field, part, typed);
+    } else if (!take_symbol(symbol.field, part, typed)) {
+      return false;
+    }
+  }
   return true;
 }
 

@@ -65,6 +65,8 @@ class ScriptWindows::Opened {
 };
 
 Line ScriptWindows::next_command() {
+  // The person is thinking about the next command: the time that windows use as well.
+  for (ui::Screen* const screen : screens_) screen->idle();
   for (;;) {
     out_.flush();
     const std::optional<Line> line = reader_.next();

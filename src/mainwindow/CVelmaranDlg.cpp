@@ -52,6 +52,7 @@ void CVelmaranDlg::on_open() {
   find_last_position();
   show_menu();
   refresh();
+  offer_drafts();
   tab_flags_.arm();  // the first field gets the focus without being entered
 }
 
@@ -235,19 +236,23 @@ void CVelmaranDlg::exit() {
   const std::string_view title = services().texts.get(id::kExitQuestionTitle);
   text::Messages& messages = services().messages;
   if (!unsaved()) {
-    if (messages.question(id::kAskExit, text::QuestionMode::kYesNo, title) == text::kYes)
-      close(text::kOk);
+    if (messages.question(id::kAskExit, text::QuestionMode::kYesNo, title) == text::kYes) end();
     return;
   }
   const int answer = messages.question(id::kAskSaveOnExit, text::QuestionMode::kYesNoCancel, title);
-  if (answer == text::kNo || (answer == text::kOk && save())) close(text::kOk);
+  if (answer == text::kNo || (answer == text::kOk && save())) end();
+}
+
+void CVelmaranDlg::end() {
+  keeper_.drop({});
+  close(text::kOk);
 }
 
 bool CVelmaranDlg::save() {
   if (!settle_focused()) return false;
   const mainwindow::SaveEnd end = mainwindow::save_observation(
-      services(),
-      {form_.record(), context_.ship, context_.items, context_.folders, form_.remarks()});
+      services(), {form_.record(), context_.ship, context_.items, context_.folders, form_.remarks(),
+                   [this] { keeper_.drop(draft()); }});
   if (end != mainwindow::SaveEnd::kSaved) return false;
   // The officer has seen in the list what was refused, and saved without it.
   form_.saved();

@@ -10,8 +10,10 @@
 #include <utility>
 #include <vector>
 
+#include "elements/draft.h"
 #include "elements/observation_form.h"
 #include "mainwindow/context.h"
+#include "mainwindow/draft_keeper.h"
 #include "mainwindow/element_openers.h"
 #include "mainwindow/form_rows.h"
 #include "mainwindow/main_menu.h"
@@ -56,6 +58,8 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   /// anything.
   bool on_enter_or_escape(ui::Key /*key*/) override { return true; }
   void on_tab(ui::Key key) override;
+  /// Keeps what was entered since it was kept last.
+  void on_idle(bool undisturbed) override;
 
  private:
   struct Field {
@@ -106,13 +110,23 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void edit_observation_items();
   void switch_language(text::Language language);
   void exit();
+  /// Closes; what is not saved is given up.
+  void end();
   /// True when the report was written; the entries stay.
   bool save();
   void find_last_position();
   void tell_doubts();
 
+  // Drafts: entries that outlive the program.
+  void offer_drafts();
+  [[nodiscard]] bool wants(const Struct_Weather& record);
+  void take_over(const elements::Draft& draft);
+  void put_unusable_aside(const std::string& path, const elements::DraftRead& read);
+  [[nodiscard]] std::string draft() const;
+
   mainwindow::MainWindowContext context_;
   elements::ObservationForm form_;
+  mainwindow::DraftKeeper keeper_;
   std::vector<std::unique_ptr<ui::Control>> owned_;
   std::vector<Field> fields_;
   std::vector<ReportGroup> groups_;
@@ -124,4 +138,5 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   bool command_in_progress_ = false;
   bool exiting_ = false;
   bool saved_once_ = false;
+  bool not_kept_told_ = false;  ///< the officer knows that the entries cannot be kept
 };

@@ -23,7 +23,8 @@ constexpr std::string_view kFiguresFont = "monospace";  // the report's figures 
 CVelmaranDlg::CVelmaranDlg(ui::Services& services, mainwindow::MainWindowContext context)
     : Screen(services, "CVelmaranDlg", {id::kMainTitle, 0}),
       context_(std::move(context)),
-      form_(context_.ship, context_.items, services.texts, services.messages, services.clock) {
+      form_(context_.ship, context_.items, services.texts, services.messages, services.clock),
+      keeper_(services.files, context_.folders.drafts) {
   select_on_focus(kSelectedOnFocus);
   add_labels();
   fields_.reserve(mainwindow::field_rows().size());

@@ -20,6 +20,8 @@ struct Folders {
   std::string removable_root;  ///< "A:\" of the removable drive, empty when there is none
   std::string fixed_data;      ///< path of FIXDATA.DAT
   std::string key_items;       ///< path of MOKSDATA.DAT
+  /// Where what is not saved yet is kept, without a backslash at its end; empty: it is not kept.
+  std::string drafts = {};
 };
 
 /// The application's values are changed in place, then told through the callbacks; a callback that

@@ -142,6 +142,7 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
     outcome = write(services, saving, encode(saving, services.texts.language).message);
   }
   if (!outcome) return SaveEnd::kNotSaved;
+  if (*outcome == SaveOutcome::kSaved && saving.written) saving.written();
   return *outcome == SaveOutcome::kSaved ? end_with(services, id::kSaved, SaveEnd::kSaved)
                                          : end_with(services, id::kSaveFailed, SaveEnd::kNotSaved);
 }

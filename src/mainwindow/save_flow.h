@@ -6,6 +6,7 @@
 // room, both files, the result. Whatever is answered and whatever fails, both files are as they
 // were or both are written, and nothing of the observation is changed.
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,9 @@ struct Saving {
   const KeyObservationItems& items;
   const Folders& folders;
   std::vector<std::string> remarks;
+  /// Called once both files are written, before the officer is told: a program that is killed while
+  /// the message is open has saved all the same.
+  std::function<void()> written = {};
 };
 
 /// What is missing and wrong, one line each ended by CR LF, in the language of the moment; empty

@@ -4,6 +4,7 @@
 // letters to the computer's folders.
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -136,6 +137,15 @@ struct AppendMark {
   std::uint64_t new_size = 0;
 };
 
+/// A place among files that is this copy of the program's alone for as long as the object lives.
+class Claim {
+ public:
+  Claim() = default;
+  virtual ~Claim() = default;
+  Claim(const Claim&) = delete;
+  Claim& operator=(const Claim&) = delete;
+};
+
 class Files {
  public:
   virtual ~Files() = default;
@@ -161,6 +171,11 @@ class Files {
   /// Cuts the file back to what it was before the append (removes it when the append created it),
   /// unless somebody appended more since.
   [[nodiscard]] virtual FileError take_back(const AppendMark& mark) = 0;
+
+  /// Claims a place by the path of a file that says so and holds nothing. Null while another copy
+  /// of the program has it (or this one), or when no claim can be made there. However the program
+  /// ends, its claims end with it.
+  [[nodiscard]] virtual std::unique_ptr<Claim> claim(const std::string& path) = 0;
 
   [[nodiscard]] virtual bool is_file(const std::string& path) const = 0;
   [[nodiscard]] virtual bool is_folder(const std::string& path) const = 0;

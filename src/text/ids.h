@@ -620,4 +620,20 @@ inline constexpr int kInsertDiskAgain = 37013;
 inline constexpr int kSaveCancelled = 37032;
 inline constexpr int kDiskFull = 37034;
 
+// Entries that outlive the program
+inline constexpr int kDraftFound = 42580;
+inline constexpr int kDraftDate = 42581;
+inline constexpr int kDraftMissing = 42582;
+inline constexpr int kDraftYear = 42583;
+inline constexpr int kDraftMonth = 42584;
+inline constexpr int kDraftDay = 42585;
+inline constexpr int kDraftHour = 42586;
+inline constexpr int kDraftComma = 42587;
+inline constexpr int kDraftDamaged = 42588;
+inline constexpr int kDraftLaterVersion = 42589;
+inline constexpr int kDraftOtherShip = 42590;
+inline constexpr int kDraftAside = 42591;
+inline constexpr int kDraftStays = 42592;
+inline constexpr int kDraftNotKept = 42593;
+
 }  // namespace text::id

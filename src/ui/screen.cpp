@@ -366,6 +366,16 @@ void Screen::close_box() {
   if (handling) on_cancel();
 }
 
+void Screen::idle() {
+  if (!opened_ || result_) return;
+  const std::string looked_for = looked_for_;  // a pause is no event: half a code may go on
+  {
+    const Handling handling(*this);
+    on_idle(static_cast<bool>(handling));
+  }
+  looked_for_ = looked_for;
+}
+
 void Screen::on_f1(Control* /*focused*/) {
   on_help();
 }

@@ -76,6 +76,11 @@ class Screen {
   bool reveal(Control& tree, std::string_view path);
   void close_box();
 
+  // What nobody did.
+  /// Nothing has happened for a while. Every open screen is told, also one that lies behind others
+  /// and is in the middle of a handler.
+  void idle();
+
  protected:
   [[nodiscard]] Services& services() const { return services_; }
 
@@ -93,6 +98,10 @@ class Screen {
   virtual void on_help();
   /// Tab, or Tab with Shift, before the field is checked and the focus moves.
   virtual void on_tab(Key) {}
+
+  /// Time for what nobody waits for, such as writing a file. It must not change what the screen
+  /// shows. `undisturbed`: no handler is running, so a message may be shown.
+  virtual void on_idle(bool /*undisturbed*/) {}
 
   void close(int result);
   /// Gives the focus without a check, its text selected.

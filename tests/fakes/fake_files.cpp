@@ -257,6 +257,21 @@ FileError FakeFiles::take_back(const platform::AppendMark& mark) {
   return end(error);
 }
 
+std::unique_ptr<platform::Claim> FakeFiles::claim(const std::string& path) {
+  struct Claimed : platform::Claim {
+    Claimed(std::set<std::string>& all, std::string claimed)
+        : all_(all), key_(std::move(claimed)) {}
+    ~Claimed() override { all_.erase(key_); }
+    Claimed(const Claimed&) = delete;
+    Claimed& operator=(const Claimed&) = delete;
+    std::set<std::string>& all_;
+    std::string key_;
+  };
+  const Node* const folder = find(parent(key(path)));
+  if (folder == nullptr || folder->read_only || !claimed_.insert(key(path)).second) return nullptr;
+  return std::make_unique<Claimed>(claimed_, key(path));
+}
+
 bool FakeFiles::is_file(const std::string& path) const {
   const Node* node = find(path);
   return node != nullptr && !node->folder && !missing(path);

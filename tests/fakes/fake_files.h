@@ -94,6 +94,8 @@ class FakeFiles : public platform::Files {
   [[nodiscard]] platform::Result<platform::AppendMark> append(const std::string& path,
                                                               std::string_view content) override;
   [[nodiscard]] platform::FileError take_back(const platform::AppendMark& mark) override;
+  /// Null in a folder that is read-only or not there. A claim leaves no file.
+  [[nodiscard]] std::unique_ptr<platform::Claim> claim(const std::string& path) override;
   [[nodiscard]] bool is_file(const std::string& path) const override;
   [[nodiscard]] bool is_folder(const std::string& path) const override;
   [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const override;
@@ -134,6 +136,7 @@ class FakeFiles : public platform::Files {
   std::vector<Node> nodes_;
   std::map<char, std::uint64_t> free_space_;
   std::set<char> missing_;
+  std::set<std::string> claimed_;
   std::map<std::string, platform::FileError> path_errors_;
   mutable std::map<Operation, std::vector<platform::FileError>> next_errors_;
   mutable std::map<int, platform::FileError> errors_at_;

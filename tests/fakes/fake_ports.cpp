@@ -40,6 +40,7 @@ void FakeWindows::verify() {
 
 int FakeWindows::show_message(const platform::MessageBox& box) {
   boxes.push_back(box);
+  if (while_open) while_open();
   if (answer_to_all_) {
     const auto all =
         std::find_if(box.buttons.begin(), box.buttons.end(),

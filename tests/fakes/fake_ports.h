@@ -95,6 +95,8 @@ class FakeWindows : public platform::Windows {
   /// "show CLASS", "hide CLASS", "pause 1000", and "modal CLASS" under answer_all(), in order.
   std::vector<std::string> notices;
   std::optional<std::string> browse_answer;
+  /// Called with each box that is open, before it is answered.
+  std::function<void()> while_open;
 
   int show_message(const platform::MessageBox& box) override;
   int run_modal(ui::Screen& screen) override;
@@ -137,6 +139,9 @@ class NoFiles : public platform::Files {
   }
   [[nodiscard]] platform::FileError take_back(const platform::AppendMark&) override {
     return platform::FileError::kAccessDenied;
+  }
+  [[nodiscard]] std::unique_ptr<platform::Claim> claim(const std::string&) override {
+    return nullptr;
   }
   [[nodiscard]] bool is_file(const std::string&) const override { return false; }
   [[nodiscard]] bool is_folder(const std::string&) const override { return false; }

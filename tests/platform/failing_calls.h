@@ -57,6 +57,7 @@ class FailingCalls : public platform::posix::SystemCalls {
     return next("ftruncate") ? SystemCalls::ftruncate(file, size) : -1;
   }
   int lock(int file) override { return next("lock") ? SystemCalls::lock(file) : -1; }
+  int try_lock(int file) override { return next("try_lock") ? SystemCalls::try_lock(file) : -1; }
   int reserve(int file, off_t from, off_t size) override {
     return next("reserve") ? SystemCalls::reserve(file, from, size) : -1;
   }

@@ -344,6 +344,47 @@ FileError PosixFiles::take_back(const AppendMark& mark) {
   return FileError::kNone;
 }
 
+// ---- Claiming
+
+/// An open file that is locked, and removed before the lock goes.
+class PosixFiles::LockClaim : public Claim {
+ public:
+  LockClaim(SystemCalls& calls, std::string os_path)
+      : calls_(calls),
+        os_path_(std::move(os_path)),
+        open_(calls, os_path_, O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW) {
+    held_ = open_.ok() && unbroken([&] { return calls_.try_lock(open_.file()); }) == 0;
+  }
+  ~LockClaim() override {
+    if (held_) (void)unbroken([&] { return calls_.unlink(os_path_.c_str()); });
+  }
+  LockClaim(const LockClaim&) = delete;
+  LockClaim& operator=(const LockClaim&) = delete;
+
+  /// False when the lock was not had, or when another copy gave up its claim between our opening
+  /// the file and locking it: what we hold is no longer what the path names then.
+  [[nodiscard]] bool valid() {
+    struct stat opened {};
+    struct stat named {};
+    held_ = held_ && calls_.fstat(open_.file(), &opened) == 0 &&
+            calls_.stat(os_path_.c_str(), &named) == 0 && same_file(opened, named);
+    return held_;
+  }
+
+ private:
+  SystemCalls& calls_;
+  std::string os_path_;
+  Open open_;
+  bool held_ = false;
+};
+
+std::unique_ptr<Claim> PosixFiles::claim(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok() || folder_writable(*os_path.value) != FileError::kNone) return nullptr;
+  auto claim = std::make_unique<LockClaim>(calls_, *os_path.value);
+  return claim->valid() ? std::move(claim) : nullptr;
+}
+
 // ---- What is there
 
 bool PosixFiles::is_file(const std::string& path) const {

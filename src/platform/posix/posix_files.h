@@ -17,6 +17,7 @@
 //
 // A file or folder that nobody may write counts as read-only for the system's administrator too.
 
+#include <memory>
 #include <string>
 
 #include "platform/ports.h"
@@ -42,6 +43,9 @@ class PosixFiles : public Files {
   [[nodiscard]] Result<AppendMark> append(const std::string& path,
                                           std::string_view content) override;
   [[nodiscard]] FileError take_back(const AppendMark& mark) override;
+  /// The lock on the file is the claim; the system takes it off when the process ends. The file
+  /// goes with a claim that is given up, and stays after a crash.
+  [[nodiscard]] std::unique_ptr<Claim> claim(const std::string& path) override;
   [[nodiscard]] bool is_file(const std::string& path) const override;
   [[nodiscard]] bool is_folder(const std::string& path) const override;
   [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const override;
@@ -61,6 +65,7 @@ class PosixFiles : public Files {
  private:
   class Open;
   class Locked;
+  class LockClaim;
 
   [[nodiscard]] Result<std::string> os(const std::string& path) const;
   [[nodiscard]] std::optional<struct stat> about(const std::string& path) const;

@@ -30,6 +30,9 @@ int SystemCalls::ftruncate(int file, off_t size) {
 int SystemCalls::lock(int file) {
   return ::flock(file, LOCK_EX);
 }
+int SystemCalls::try_lock(int file) {
+  return ::flock(file, LOCK_EX | LOCK_NB);
+}
 int SystemCalls::reserve(int file, off_t from, off_t size) {
   return ::fallocate(file, FALLOC_FL_KEEP_SIZE, from, size);
 }

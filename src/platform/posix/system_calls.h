@@ -24,6 +24,8 @@ class SystemCalls {
   virtual int ftruncate(int file, off_t size);
   /// Exclusive lock on the whole file, which every copy of the program respects.
   virtual int lock(int file);
+  /// The same, but EWOULDBLOCK when another copy has it.
+  virtual int try_lock(int file);
   /// Sets disk room aside behind the end of the file without changing its size.
   virtual int reserve(int file, off_t from, off_t size);
   virtual int fchmod(int file, mode_t mode);

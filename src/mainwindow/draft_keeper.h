@@ -1,0 +1,64 @@
+#pragma once
+// Where drafts lie: what has been entered and not saved, beside the ship's files.
+//
+//   DRAFT1.DAT   the draft of one running copy of the program (another copy has DRAFT2.DAT, ...)
+//   DRAFT1.LCK   says that this copy is running; its claim ends with the copy, however it ends
+//   DRAFT1.OLD   the last draft that the officer did not want
+//   DRAFT1.BAD   the last draft that could not be used
+//
+// A draft that nobody claims was left by a copy that was killed.
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/ports.h"
+
+namespace mainwindow {
+
+class DraftKeeper {
+ public:
+  /// The folder without a backslash at its end; when it is empty nothing is found or kept. The
+  /// files must outlive the keeper.
+  DraftKeeper(platform::Files& files, std::string folder);
+
+  struct Left {
+    std::string path;
+    std::string text;  ///< empty also when the file cannot be read
+  };
+  /// The next draft that was left behind, or nothing when there is no more. It is this copy's until
+  /// the next call; one that is still there then stays as it is.
+  [[nodiscard]] std::optional<Left> next_left();
+  /// Of the draft that next_left() gave: it is taken over, and the file is from now on this copy's
+  /// own.
+  void take_over();
+  enum class Why { kNotWanted, kNotUsable };
+  /// Of the same: the file gets another name, in place of an earlier one put aside for that reason.
+  /// Where it lies now, or nothing when that failed and it stays where it is.
+  std::optional<std::string> put_aside(Why why);
+
+  /// Keeps the text in this copy's own file unless it is the text kept last. False when that
+  /// failed: the file then holds what was kept before, or nothing.
+  [[nodiscard]] bool keep(std::string_view text);
+  /// The observation was saved or given up: the file goes. `done` is what it would be kept as now;
+  /// until something else was to be kept, that text is not kept again.
+  void drop(std::string_view done);
+  /// Where this copy keeps its draft, for messages.
+  [[nodiscard]] std::string own_path() const;
+
+ private:
+  [[nodiscard]] std::string path(int number, std::string_view ending) const;
+  [[nodiscard]] bool is_there(int number) const;
+
+  platform::Files& files_;
+  std::string folder_;
+  int looked_at_ = 0;                         ///< number of the draft that next_left() gave last
+  std::unique_ptr<platform::Claim> looking_;  ///< the claim to it
+  int own_ = 0;                               ///< number of this copy's draft, 0 for none
+  std::unique_ptr<platform::Claim> claim_;    ///< the claim to it
+  std::string kept_;                          ///< what need not be kept any more
+  bool in_file_ = false;                      ///< this copy's file may be there
+};
+
+}  // namespace mainwindow
