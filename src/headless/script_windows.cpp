@@ -66,7 +66,11 @@ class ScriptWindows::Opened {
 
 Line ScriptWindows::next_command() {
   for (;;) {
-    out_.flush();
+    // Going on unseen would save what nobody is told of.
+    if (!out_.flush()) {
+      error_ << "the transcript cannot be written\n";
+      end(Status::kCannot);
+    }
     const std::optional<Line> line = reader_.next();
     if (!line) end(Status::kDone);
     if (!line->unusable.empty()) {
