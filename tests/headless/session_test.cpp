@@ -40,6 +40,18 @@ TEST(Session, PassesOverAByteOrderMarkAtTheBeginningOnly) {
             2);
 }
 
+TEST(Session, EscapesWhatWouldUpsetATerminalInItsReasonsToo) {
+  for (const std::string& command : std::vector<std::string>{
+           "set no\x1b[2J 1", "choose lines no\x1b[2J", "key no\x1b[2J", "no\x1b[2J",
+           "expect note no\x1b[2J", "menu no\x1b[2J", "press \"no\x1b[2J\"", "tick no\x1b[2J on"}) {
+    const Played played = play("start\n" + command + "\n");
+    EXPECT_NE(played.status, 0) << command;
+    EXPECT_EQ(played.transcript.find('\x1b'), std::string::npos) << played.transcript;
+    EXPECT_EQ(played.error.find('\x1b'), std::string::npos) << played.error;
+    EXPECT_NE(played.error.find("no\\x1B[2J"), std::string::npos) << played.error;
+  }
+}
+
 // Reading fails as a folder's or a broken medium's does.
 TEST(Session, StopsWhenTheScriptCannotBeReadOn) {
   class Broken : public std::streambuf {
