@@ -38,10 +38,6 @@ std::string_view trim(std::string_view text) {
   return text;
 }
 
-bool has_control(std::string_view text) {
-  return std::any_of(text.begin(), text.end(), is_control);
-}
-
 std::string_view without_byte_order_mark(std::string_view text) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
   while (text.starts_with(kMark)) text.remove_prefix(kMark.size());

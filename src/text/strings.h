@@ -15,7 +15,11 @@ namespace text {
 }
 
 /// True when the text holds a control character.
-[[nodiscard]] bool has_control(std::string_view text);
+[[nodiscard]] constexpr bool has_control(std::string_view text) {
+  for (const char c : text)
+    if (is_control(c)) return true;
+  return false;
+}
 
 /// Without the byte order mark that editors of other systems put in front of a UTF-8 text, however
 /// often they did. It says nothing, and left there it would be part of the first word.
