@@ -6,11 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "observation/control_characters.h"
 #include "observation/counted_allocations.h"
 #include "observation/logbook_encoder.h"
 #include "observation/records.h"
 #include "observation/report_encoder.h"
 #include "observation/report_reader.h"
+#include "text/strings.h"
 
 namespace {
 
@@ -163,10 +165,34 @@ void Reading(benchmark::State& state) {
   }
 }
 
+/// What is asked before every encoding, beside a look at as many bytes in one piece.
+void SoundnessFloor(benchmark::State& state) {
+  const Struct_Weather record = records::full();
+  std::string all;
+  for (const WeatherField& field : weather_fields()) all += record.*field.member;
+  const Allocations count(state);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(all);
+    benchmark::DoNotOptimize(text::has_control(all));
+  }
+}
+
+void Soundness(benchmark::State& state) {
+  const ShipFixedData fixed = ship();
+  Struct_Weather record = records::full();
+  const Allocations count(state);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(record);
+    benchmark::DoNotOptimize(observation::control_character_field(record, fixed));
+  }
+}
+
 BENCHMARK(FullProductsFloor);
 BENCHMARK(FullProducts);
 BENCHMARK(SparseProductsFloor);
 BENCHMARK(SparseProducts);
+BENCHMARK(SoundnessFloor);
+BENCHMARK(Soundness);
 BENCHMARK(ReadingFloor);
 BENCHMARK(Reading);
 

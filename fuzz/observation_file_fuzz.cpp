@@ -1,15 +1,39 @@
 // Any bytes are read as an observation file; each observation, written and read again, is the same,
 // and both encoders survive it.
 
+#include <algorithm>
+
 #include "fuzz.h"
 #include "observation/logbook_encoder.h"
 #include "observation/observation_file.h"
 #include "observation/report_encoder.h"
+#include "observation/report_reader.h"
 
 namespace {
 
 using observation::ObservationReader;
 using Step = ObservationReader::Step;
+
+/// A call sign that an observation may hold, in an otherwise plain report: the report is read
+/// whole.
+void check_call_sign(const std::string& call_sign) {
+  if (call_sign.empty()) return;
+  Struct_Weather record({}, {});
+  record.CallSign = call_sign;
+  record.YY = "15";
+  record.GG = "12";
+  record.LaDeg = "35";
+  record.LaMin = "42";
+  std::string message;
+  std::string missing;
+  observation::encode_report(record, message, missing, true, text::Language::kEnglish);
+  std::string expected = record.call_sign_for_report();
+  std::replace(expected.begin(), expected.end(), '*', '/');
+  const auto report = observation::read_report(message, Struct_Weather({}, {}));
+  fuzz::expect(report.has_value() && report->unplaced.empty(), "a report is read whole", message);
+  fuzz::expect(report->record.CallSign == expected && report->record.LaDeg == "35",
+               "every word is what it was", message, report->record.CallSign);
+}
 
 void check(const ObservationReader& reader) {
   const Struct_Weather& record = reader.record();
@@ -26,6 +50,8 @@ void check(const ObservationReader& reader) {
     fuzz::expect(again.finish() == Step::kObservation, "written lines are an observation", lines);
     fuzz::expect(again.record() == record, "what was written reads back", lines);
   }
+
+  check_call_sign(record.CallSign);
 
   std::string message;
   std::string missing;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/strings.h"
+
 namespace app {
 
 namespace {
@@ -20,6 +22,7 @@ IniEntry entry_of(std::string_view line) {
 
 std::vector<IniSection> parse_ini(std::string_view text) {
   std::vector<IniSection> sections;
+  text = text::without_byte_order_mark(text);
   while (!text.empty()) {
     const auto end = std::min(text.find('\n'), text.size());
     auto line = text.substr(0, end);

@@ -23,7 +23,8 @@ struct IniSection {
   std::vector<IniEntry> entries;
 };
 
-/// Any bytes are taken. Lines end in "\n" or "\r\n".
+/// Any bytes are taken. Lines end in "\n" or "\r\n"; a byte order mark at the beginning is passed
+/// over, for it would hide the first header.
 [[nodiscard]] std::vector<IniSection> parse_ini(std::string_view text);
 
 /// Each entry becomes key, "=" and value; the "=" is left out when the key is empty. So a line that

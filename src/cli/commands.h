@@ -1,7 +1,7 @@
 #pragma once
 // The commands that work on observations without any dialog. Each takes the words behind its name
 // and gives the exit status: 0, or 2 for wrong arguments and wrong input, told on standard error as
-// "FILE:LINE: reason".
+// "FILE:LINE: reason". The same for output that cannot be written.
 
 #include <span>
 #include <string>
@@ -11,6 +11,9 @@ namespace cli {
 
 inline constexpr int kOk = 0;
 inline constexpr int kWrong = 2;
+/// Told, and the status kWrong, when what a command tells is received by nobody. main() sees to it
+/// at the end; a command that goes on for long asks before.
+inline constexpr const char* kOutputLost = "standard output cannot be written";
 
 /// encode [--language en|ja] [FILE]: each observation becomes a line of JSON with its report, the
 /// missing groups and the logbook line.

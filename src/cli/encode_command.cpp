@@ -48,14 +48,9 @@ int encode_command(const std::vector<std::string>& arguments) {
   };
   const auto print = [&](const observation::ObservationReader& observed) {
     std::cout << products(observed, language);
-    return std::cout ? std::nullopt : std::optional<std::string>("standard output is closed");
+    return std::cout ? std::nullopt : std::optional<std::string>(kOutputLost);
   };
-  const bool done = for_each_observation(input, any, print);
-  if (!std::cout.flush()) {
-    complain(input, 0, "the result cannot be written");
-    return kWrong;
-  }
-  return done ? kOk : kWrong;
+  return for_each_observation(input, any, print) ? kOk : kWrong;
 }
 
 }  // namespace cli

@@ -4,15 +4,19 @@
 #include <cstring>
 #include <filesystem>
 #include <iostream>
-#include <string_view>
+
+#include "text/strings.h"
 
 namespace cli {
-namespace {
 
-/// Editors of other systems put it in front of UTF-8 texts.
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-}  // namespace
+std::string open_file(const std::string& name, std::ifstream& file) {
+  std::error_code ignored;
+  if (std::filesystem::is_directory(name, ignored)) return "is a folder";
+  errno = 0;
+  file.open(name, std::ios::binary);
+  if (file) return {};
+  return errno == 0 ? "cannot be opened" : std::strerror(errno);
+}
 
 Input::Input(const std::string& name) : name_(name), in_(&file_) {
   if (name.empty() || name == "-") {
@@ -23,20 +27,14 @@ Input::Input(const std::string& name) : name_(name), in_(&file_) {
     can_rewind_ = start_ != std::streampos(-1);
     return;
   }
+  problem_ = open_file(name, file_);
   std::error_code ignored;
-  if (std::filesystem::is_directory(name, ignored)) {
-    problem_ = "is a folder";
-    return;
-  }
-  errno = 0;
-  file_.open(name, std::ios::binary);
-  if (!file_) problem_ = errno == 0 ? "cannot be opened" : std::strerror(errno);
   can_rewind_ = std::filesystem::is_regular_file(name, ignored);
 }
 
 Input::Line Input::next(std::string& line, std::size_t longest) {
   const Line what = next_bytes(line, longest);
-  if (first_ && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
+  if (first_) line.erase(0, line.size() - text::without_byte_order_mark(line).size());
   first_ = false;
   return what;
 }

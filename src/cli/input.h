@@ -8,6 +8,9 @@
 
 namespace cli {
 
+/// Opens a file for reading. Empty when it could be; else why not ("is a folder").
+[[nodiscard]] std::string open_file(const std::string& name, std::ifstream& file);
+
 class Input {
  public:
   /// An empty name or "-" is standard input.

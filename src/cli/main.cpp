@@ -1,5 +1,9 @@
 // kavrel-cli: the program without windows.
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <csignal>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -22,12 +26,31 @@ constexpr Command kCommands[] = {
     {"session", cli::session_command, "the whole program, steered by a script"},
 };
 
+// A file that is opened takes the lowest number that is free. Without standard output or error that
+// would be a report or the logbook, and what the commands tell would be written into it; so each
+// that is missing is taken by something that fails when it is used.
+void take_standard_numbers() {
+  for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+    if (::fcntl(number, F_GETFD) < 0)
+      (void)::open("/dev/null", number == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
+
 int help(std::ostream& out, int status) {
   out << "usage: kavrel-cli COMMAND [ARGUMENTS]\n";
   for (const Command& command : kCommands)
     out << "  " << command.name << std::string(9 - std::string(command.name).size(), ' ')
         << command.help << "\n";
   return status;
+}
+
+int run(const std::vector<std::string>& arguments) {
+  if (arguments.empty()) return help(std::cerr, cli::kWrong);
+  if (arguments.front() == "--help") return help(std::cout, cli::kOk);
+  for (const Command& command : kCommands)
+    if (arguments.front() == command.name)
+      return command.run({arguments.begin() + 1, arguments.end()});
+  std::cerr << "kavrel-cli: unknown command " << arguments.front() << "\n";
+  return help(std::cerr, cli::kWrong);
 }
 
 }  // namespace
@@ -42,13 +65,13 @@ int usage(const std::string& reason, const char* usage) {
 }  // namespace cli
 
 int main(int count, char** words) {
+  take_standard_numbers();
+  // A reader that has gone away is told like any other output that cannot be written.
+  (void)std::signal(SIGPIPE, SIG_IGN);
   std::ios::sync_with_stdio(false);
-  const std::vector<std::string> arguments(words + (count > 0 ? 1 : 0), words + count);
-  if (arguments.empty()) return help(std::cerr, cli::kWrong);
-  if (arguments.front() == "--help") return help(std::cout, cli::kOk);
-  for (const Command& command : kCommands)
-    if (arguments.front() == command.name)
-      return command.run({arguments.begin() + 1, arguments.end()});
-  std::cerr << "kavrel-cli: unknown command " << arguments.front() << "\n";
-  return help(std::cerr, cli::kWrong);
+  const int status = run(std::vector<std::string>(words + (count > 0 ? 1 : 0), words + count));
+  // What a command told and nobody received is no success; one that was wrong has said so itself.
+  if (std::cout.flush() || status == cli::kWrong) return status;
+  std::cerr << "kavrel-cli: " << cli::kOutputLost << "\n";
+  return cli::kWrong;
 }

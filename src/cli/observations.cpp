@@ -2,6 +2,8 @@
 
 #include <iostream>
 
+#include "observation/control_characters.h"
+
 namespace cli {
 namespace {
 
@@ -30,6 +32,14 @@ std::string reason_of(const ObservationError& error) {
   return "wrong";
 }
 
+// The reader lets no control character into a field; asked again all the same, for a torn record
+// would be found by nobody.
+std::optional<std::string> control_character(const ObservationReader& observed) {
+  const auto field = observation::control_character_field(observed.record(), observed.ship());
+  if (!field) return std::nullopt;
+  return "the value of \"" + std::string(*field) + "\" holds a control character";
+}
+
 bool go_through(Input& input, const Use& use) {
   ObservationReader reader;
   std::string line;
@@ -46,7 +56,9 @@ bool go_through(Input& input, const Use& use) {
       return false;
     }
     if (step == Step::kObservation) {
-      if (const auto refused = use(reader)) {
+      auto refused = control_character(reader);
+      if (!refused) refused = use(reader);
+      if (refused) {
         complain(input, reader.first_line(), *refused);
         return false;
       }

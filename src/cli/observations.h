@@ -20,9 +20,10 @@ void complain(const Input& input, std::size_t line, const std::string& reason);
 /// What to do with an observation; a text is the reason why it is refused.
 using Use = std::function<std::optional<std::string>(const observation::ObservationReader&)>;
 
-/// Hands every observation to `check` and then to `use`. A file is checked to its end before the
-/// first observation is used, so that a wrong one leaves nothing done; standard input is checked
-/// observation by observation. False after the first refusal or fault, which has been told.
+/// Hands every observation without control characters to `check` and then to `use`. A file is
+/// checked to its end before the first observation is used, so that a wrong one leaves nothing
+/// done; standard input is checked observation by observation. False after the first refusal or
+/// fault, which has been told.
 [[nodiscard]] bool for_each_observation(Input& input, const Use& check, const Use& use);
 
 }  // namespace cli

@@ -61,11 +61,7 @@ class Printer {
       return true;
     }
     pending_.append(line).append("\n");
-    for (auto found = observation::find_report(pending_); found && found->ended;
-         found = observation::find_report(pending_)) {
-      print(std::string_view(pending_).substr(0, found->length));
-      pending_.erase(0, found->length);
-    }
+    print_ended(false);
     if (!observation::find_report(pending_)) {
       outside(pending_);
       pending_.clear();
@@ -74,12 +70,27 @@ class Printer {
   }
 
   void finish() {
-    if (!pending_.empty()) print(pending_);
+    print_ended(true);
+    if (observation::find_report(pending_))
+      print(pending_);
+    else
+      outside(pending_);
   }
 
   [[nodiscard]] int reports() const { return reports_; }
 
  private:
+  /// Prints the reports that have ended; with `at_end` also those whose end would be none if more
+  /// text came.
+  void print_ended(bool at_end) {
+    for (auto found = observation::find_report(pending_);
+         found && found->ended && (at_end || !found->open);
+         found = observation::find_report(pending_)) {
+      print(std::string_view(pending_).substr(0, found->length));
+      pending_.erase(0, found->length);
+    }
+  }
+
   void outside(std::string_view text) {
     if (text::trim(text) != "NNNN") name_unplaced(out_, text, Unplaced::kOutsideReport);
   }
@@ -143,10 +154,6 @@ int read_command(const std::vector<std::string>& arguments) {
   printer.finish();
   if (printer.reports() == 0) {
     complain(input, 0, "holds no report (no word BBXX)");
-    return kWrong;
-  }
-  if (!std::cout.flush()) {
-    complain(input, 0, "the result cannot be written");
     return kWrong;
   }
   return kOk;

@@ -10,6 +10,7 @@
 #include "platform/posix/drive_map.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/system.h"
+#include "text/numbers.h"
 
 namespace cli {
 namespace {
@@ -39,6 +40,15 @@ std::string reason_of(platform::FileError error) {
   return "";
 }
 
+std::string reason_of(const observation::DateFault& fault) {
+  const auto shown = [&](int number) {
+    return text::format_digits(number, static_cast<int>(fault.figures));
+  };
+  return "Year, Month, YY and GG are no date and hour: " + std::string(fault.field) + " is " +
+         std::to_string(fault.figures) + " figures, " + shown(fault.low) + " to " +
+         shown(fault.high);
+}
+
 /// Saves observations into two folders of this computer.
 class Saver {
  public:
@@ -58,8 +68,8 @@ class Saver {
   }
 
   [[nodiscard]] std::optional<std::string> check(const observation::ObservationReader& observed) {
-    if (!observation::has_valid_date(observed.record()))
-      return "Year, Month, YY and GG are no date and hour";
+    ++observations_;
+    if (const auto fault = observation::date_fault(observed.record())) return reason_of(*fault);
     if (replace_) return std::nullopt;
     const std::string path = observation::report_path(*reports_, observed.record());
     const auto [before, is_first] = line_of_report_.try_emplace(path, observed.first_line());
@@ -69,6 +79,9 @@ class Saver {
     if (files_.is_file(path)) return exists(path);
     return std::nullopt;
   }
+
+  /// How many observations check() has seen.
+  [[nodiscard]] std::size_t observations() const { return observations_; }
 
   [[nodiscard]] std::optional<std::string> save(const observation::ObservationReader& observed) {
     observation::SaveRequest request;
@@ -85,6 +98,9 @@ class Saver {
     if (auto refused = refusal(result, request)) return refused;
     std::cout << "report " << shown(request.report_path) << "\n"
               << "logbook " << shown(request.logbook_path) << "\n";
+    // Told at once, so that nobody waits for word of what is saved, and what cannot be told ends
+    // the run before more is saved in silence.
+    if (!std::cout.flush()) return std::string("saved, but ") + kOutputLost;
     return std::nullopt;
   }
 
@@ -131,6 +147,7 @@ class Saver {
   std::optional<std::string> reports_;
   std::optional<std::string> logbook_;
   bool replace_;
+  std::size_t observations_ = 0;
   /// The reports of the input and the line in which the observation of each begins.
   std::map<std::string, std::size_t> line_of_report_;
 };
@@ -164,8 +181,8 @@ int save_command(const std::vector<std::string>& words) {
   const bool done = for_each_observation(
       input, [&](const auto& observed) { return saver.check(observed); },
       [&](const auto& observed) { return saver.save(observed); });
-  std::cout.flush();
-  return done ? kOk : kWrong;
+  if (done && saver.observations() == 0) complain(input, 0, "holds no observation");
+  return done && saver.observations() > 0 ? kOk : kWrong;
 }
 
 }  // namespace cli

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "app/CVelmaranApp.h"
+#include "cli/input.h"
 #include "headless/session.h"
 #include "platform/posix/system.h"
 
@@ -73,9 +74,9 @@ int session_command(const std::vector<std::string>& arguments) {
   if (!system.problems().empty()) return kWrongArguments;
   if (read->script.empty() || read->script == "-")
     return static_cast<int>(play(std::cin, system, read->session));
-  std::ifstream script(read->script, std::ios::binary);
-  if (!script) {
-    std::cerr << "session: cannot read " << read->script << '\n';
+  std::ifstream script;
+  if (const std::string problem = open_file(read->script, script); !problem.empty()) {
+    std::cerr << "session: cannot read " << read->script << ": " << problem << '\n';
     return kWrongArguments;
   }
   return static_cast<int>(play(script, system, read->session));

@@ -99,10 +99,15 @@ std::optional<Line> ScriptReader::next() {
       too_long = true;
     }
   }
-  if (!any) return std::nullopt;
+  const bool unreadable = source_.bad();
+  if (!any && !unreadable) return std::nullopt;
   line.number = ++number_;
+  if (line.number == 1)
+    line.text.erase(0, line.text.size() - text::without_byte_order_mark(line.text).size());
   if (line.text.ends_with('\r')) line.text.pop_back();
-  if (too_long) {
+  if (unreadable) {
+    line.unusable = "the script cannot be read";
+  } else if (too_long) {
     line.unusable = "a line longer than " + std::to_string(kLongestLine) + " bytes";
   } else if (!ui::is_utf8(line.text)) {
     line.unusable = "bytes that are not UTF-8";

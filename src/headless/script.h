@@ -12,7 +12,8 @@ namespace headless {
 struct Line {
   int number = 0;
   std::string text;  ///< as written, without the line end
-  /// Why the line cannot be a command whatever it says (too long, not UTF-8); empty when it may.
+  /// Why the line cannot be a command whatever it says (too long, not UTF-8, a source that cannot
+  /// be read on); empty when it may.
   std::string unusable;
 
   /// The first word; empty on a blank line, "#" on a comment.
@@ -23,7 +24,8 @@ struct Line {
 
 inline constexpr std::size_t kLongestLine = 65536;
 
-/// Reads a script line by line; any bytes are survived. A line end is "\n" or "\r\n".
+/// Reads a script line by line; any bytes are survived. A line end is "\n" or "\r\n"; a byte order
+/// mark at the beginning is passed over.
 class ScriptReader {
  public:
   explicit ScriptReader(std::istream& source) : source_(source) {}

@@ -28,8 +28,8 @@ std::string headline(const ui::Screen& screen) {
   return screen.class_name() + " " + ui::quoted(screen.title());
 }
 
-// A line of the script as a transcript repeats it: as it is, but what would upset a terminal is
-// escaped.
+// What stands in the script, repeated in a transcript or in a reason: as it is, but what would
+// upset a terminal is escaped.
 std::string printable(std::string_view line) {
   std::string result;
   while (!line.empty()) {
@@ -68,7 +68,11 @@ Line ScriptWindows::next_command() {
   // The person is thinking about the next command: the time that windows use as well.
   for (ui::Screen* const screen : screens_) screen->idle();
   for (;;) {
-    out_.flush();
+    // Going on unseen would save what nobody is told of.
+    if (!out_.flush()) {
+      error_ << "the transcript cannot be written\n";
+      end(Status::kCannot);
+    }
     const std::optional<Line> line = reader_.next();
     if (!line) end(Status::kDone);
     if (!line->unusable.empty()) {
@@ -106,7 +110,7 @@ void ScriptWindows::end(Status status) {
 }
 
 void ScriptWindows::stop(const Line& line, Status status, const std::string& reason) {
-  const std::string where = "line " + std::to_string(line.number) + ": " + reason;
+  const std::string where = "line " + std::to_string(line.number) + ": " + printable(reason);
   out_ << "! " << where << '\n';
   error_ << where << '\n';
   end(status);

@@ -35,7 +35,7 @@ struct Options {
 };
 
 /// Plays the script. The reason of a failure is the transcript's last line, and is also handed to
-/// `error` with its line number.
+/// `error` with its line number. A transcript that cannot be written ends the run (kCannot).
 [[nodiscard]] Status run_session(std::istream& script, std::ostream& transcript,
                                  std::ostream& error, const Program& program,
                                  const Options& options = {});

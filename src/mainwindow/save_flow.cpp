@@ -5,6 +5,7 @@
 #include "archive/CShowStatusDlg.h"
 #include "elements/CSaveErrorInfoDlg.h"
 #include "elements/cross_rules.h"
+#include "observation/control_characters.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
 #include "observation/report_file.h"
@@ -126,6 +127,11 @@ std::string save_errors(const Saving& saving, const text::Texts& texts) {
 }
 
 SaveEnd save_observation(ui::Services& services, const Saving& saving) {
+  // A damaged text must not tear the record, whatever let it in.
+  if (const auto field = observation::control_character_field(saving.record, saving.ship)) {
+    services.messages.error_filled(id::kControlCharacter, {*field});
+    return SaveEnd::kNotSaved;
+  }
   if (!has_date(saving)) return end_with(services, id::kNoDateEntered, SaveEnd::kNotSaved);
   if (const std::string errors = save_errors(saving, services.texts); !errors.empty()) {
     CSaveErrorInfoDlg dialog(services, errors);

@@ -1,10 +1,10 @@
 #pragma once
 // Saving an observation: the report in a file of its own and one line more in the logbook.
 //
-// In this order: the date, the lack of groups and the rules that are broken (CSaveErrorInfoDlg),
-// the notice "Now saving", the question about an existing report, a removable drive's disk and
-// room, both files, the result. Whatever is answered and whatever fails, both files are as they
-// were or both are written, and nothing of the observation is changed.
+// In this order: control characters, the date, the lack of groups and the rules that are broken
+// (CSaveErrorInfoDlg), the notice "Now saving", the question about an existing report, a removable
+// drive's disk and room, both files, the result. Whatever is answered and whatever fails, both
+// files are as they were or both are written, and nothing of the observation is changed.
 
 #include <functional>
 #include <string>

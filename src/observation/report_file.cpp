@@ -26,11 +26,9 @@ int days_of(int year, int month) {
   }
 }
 
-bool is_calendar_day(int year, int month, int day) {
-  if (month < 1 || month > 12 || day < 1) return false;
+int days_of_calendar(int year, int month) {
   const bool common_century = year % 100 == 0 && year % 400 != 0;
-  const int days = month == 2 && common_century ? 28 : days_of(year, month);
-  return day <= days;
+  return month == 2 && common_century ? 28 : days_of(year, month);
 }
 
 std::string_view last_two(std::string_view figures) {
@@ -93,12 +91,25 @@ std::optional<ReportDate> report_date(std::string_view name) {
                     std::string(name.substr(4, 2)), std::string(name.substr(6, 2))};
 }
 
+std::optional<DateFault> date_fault(const Struct_Weather& record) {
+  // Year and month are sound by the time that the days of the month are asked for.
+  const auto days = [&] {
+    return days_of_calendar(text::leading_int(record.Year), text::leading_int(record.Month));
+  };
+  const auto is_wrong = [](const std::string& part, const DateFault& rule) {
+    if (part.size() != rule.figures || !text::is_all_digits(part)) return true;
+    const int number = text::leading_int(part);
+    return number < rule.low || number > rule.high;
+  };
+  if (const DateFault year{"Year", 4, 0, 9999}; is_wrong(record.Year, year)) return year;
+  if (const DateFault month{"Month", 2, 1, 12}; is_wrong(record.Month, month)) return month;
+  if (const DateFault day{"YY", 2, 1, days()}; is_wrong(record.YY, day)) return day;
+  if (const DateFault hour{"GG", 2, 0, 23}; is_wrong(record.GG, hour)) return hour;
+  return std::nullopt;
+}
+
 bool has_valid_date(const Struct_Weather& record) {
-  for (const std::string* part : {&record.Year, &record.Month, &record.YY, &record.GG})
-    if (!text::is_all_digits(*part)) return false;
-  return is_calendar_day(text::leading_int(record.Year), text::leading_int(record.Month),
-                         text::leading_int(record.YY)) &&
-         text::leading_int(record.GG) <= 23;
+  return !date_fault(record);
 }
 
 std::string report_path(const std::string& folder, const Struct_Weather& record) {

@@ -40,7 +40,17 @@ struct ReportDate {
 /// From a name or path ending in "YYMMDDHH.tlx" (the years 2000 to 2099), else nothing.
 [[nodiscard]] std::optional<ReportDate> report_date(std::string_view name);
 
-/// True when year, month, day and hour are set, form a date of the calendar and the hour is 0-23.
+/// What is wrong with a record's date and hour: the first field at fault and what it may hold.
+struct DateFault {
+  std::string_view field;  ///< "Year", "Month", "YY" or "GG"
+  std::size_t figures;     ///< how many it has, no more and no less
+  int low, high;           ///< the numbers that it may be
+};
+/// Nothing when year, month, day and hour are set with exactly 4, 2, 2 and 2 figures, form a date
+/// of the calendar and the hour is 0-23. The figures are counted because they name the report: "6"
+/// and "06" would be two files of one hour, and "1" and "11" behind one another could name another.
+[[nodiscard]] std::optional<DateFault> date_fault(const Struct_Weather& record);
+/// True when there is no such fault.
 [[nodiscard]] bool has_valid_date(const Struct_Weather& record);
 
 /// Folder and name, with a backslash put between when there is none; without a folder the name.

@@ -14,14 +14,6 @@ namespace {
 
 constexpr std::size_t kGroupWidth = 5;
 
-bool is_group(std::string_view word) {
-  return word.size() == kGroupWidth && is_figures(word);
-}
-
-bool is_latitude_group(std::string_view word) {
-  return is_group(word) && word.starts_with("99");
-}
-
 bool is_section_mark(std::string_view word) {
   return word == "333" || word == "444" || word == "555";
 }

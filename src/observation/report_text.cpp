@@ -1,6 +1,9 @@
 #include "observation/report_text.h"
 
 #include <algorithm>
+#include <cstdint>
+
+#include "text/strings.h"
 
 namespace observation {
 namespace {
@@ -40,6 +43,23 @@ std::size_t end_mark(std::string_view word) {
   return dots >= kFullStops ? dots : 0;
 }
 
+// Nearly every word may be a call sign, also one that ends a report when it stands elsewhere. It is
+// one when what every report goes on with follows: YYGGiw and the group that begins with 99.
+enum class CallSign : std::uint8_t { kNo, kYes, kTextTooShort };
+
+CallSign begins_with_call_sign(std::string_view text) {
+  Words words(text);
+  (void)words.next();
+  const Word day = words.next();
+  if (day.empty()) return CallSign::kTextTooShort;
+  if (!is_group(day.text())) return CallSign::kNo;
+  const Word latitude = words.next();
+  if (latitude.empty()) return CallSign::kTextTooShort;
+  const std::string_view figures = latitude.text();
+  return is_latitude_group(figures.substr(0, figures.size() - end_mark(figures))) ? CallSign::kYes
+                                                                                  : CallSign::kNo;
+}
+
 }  // namespace
 
 bool is_figures(std::string_view text) {
@@ -47,26 +67,38 @@ bool is_figures(std::string_view text) {
                                       [](char c) { return (c >= '0' && c <= '9') || c == '/'; });
 }
 
+bool is_group(std::string_view word) {
+  return word.size() == kGroupWidth && is_figures(word);
+}
+
+bool is_latitude_group(std::string_view word) {
+  return is_group(word) && word.starts_with("99");
+}
+
 std::optional<FoundReport> find_report(std::string_view text) {
   FoundReport found;
-  std::string_view rest = text;
+  std::string_view rest = text::without_byte_order_mark(text);
+  const std::string_view whole = rest;
   std::string_view word = take_word(rest);
   while (!word.empty() && word != "BBXX") word = take_word(rest);
   if (word.empty()) return std::nullopt;
   const auto offset = [&](std::string_view part) {
     return static_cast<std::size_t>(part.data() - text.data());
   };
-  found.before = trimmed(text.substr(0, offset(word)));
+  found.before = trimmed(whole.substr(0, offset(word) - offset(whole)));
   const std::string_view start = rest;
   found.body = start;
   found.length = text.size();
-  while (!(word = take_word(rest)).empty()) {
-    std::size_t mark = 0;
-    if (word != "BBXX") {
-      mark = end_mark(word);
-      if (mark == 0) continue;
+  for (bool first = true; !(word = take_word(rest)).empty(); first = false) {
+    const bool next_report = word == "BBXX";
+    const std::size_t mark = next_report ? 0 : end_mark(word);
+    if (!next_report && mark == 0) continue;
+    if (first) {
+      const CallSign call_sign = begins_with_call_sign(text.substr(offset(word)));
+      if (call_sign == CallSign::kYes) continue;
+      found.open = call_sign == CallSign::kTextTooShort;
     }
-    const std::size_t end = word == "BBXX" ? offset(word) : offset(word) + word.size() - mark;
+    const std::size_t end = next_report ? offset(word) : offset(word) + word.size() - mark;
     found.body = start.substr(0, end - offset(start));
     found.after = trimmed(text.substr(end + mark));
     found.ended = true;

@@ -16,12 +16,16 @@ struct FoundReport {
   std::string_view body;    ///< behind "BBXX", up to the end mark or the next "BBXX"
   std::string_view after;   ///< behind the end mark, trimmed
   bool ended = false;       ///< an end mark or another "BBXX" was found
-  std::size_t length = 0;   ///< of the text up to and with the end mark
+  /// The end stands where the call sign does, and the text is too short to tell one from the other:
+  /// more of it may show that the report goes on.
+  bool open = false;
+  std::size_t length = 0;  ///< of the text up to and with the end mark
 };
 
 /// The report beginning at the first word "BBXX" and ending at a "=" or five or more full stops at
-/// the end of a word, at the word "NNNN", at the next "BBXX" or with the text. Nothing when the
-/// text holds no such word.
+/// the end of a word, at the word "NNNN", at the next "BBXX" or with the text. The word behind
+/// "BBXX" is the call sign, whatever it looks like, when YYGGiw and the group 99LaLaLa follow. A
+/// byte order mark at the beginning is passed over. Nothing when the text holds no word "BBXX".
 [[nodiscard]] std::optional<FoundReport> find_report(std::string_view text);
 
 /// One word. A group torn apart by a line break ("401" / "34") is one word of five figures.
@@ -57,5 +61,9 @@ class Words {
 
 /// True for a text of figures and solidi only.
 [[nodiscard]] bool is_figures(std::string_view text);
+/// True for five figures and solidi.
+[[nodiscard]] bool is_group(std::string_view word);
+/// True for the group that begins with 99.
+[[nodiscard]] bool is_latitude_group(std::string_view word);
 
 }  // namespace observation

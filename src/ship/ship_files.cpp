@@ -297,12 +297,15 @@ std::string encode_fixed_data(const ShipFixedData& data, const DateTime& written
   for (const Field& field : kFields) {
     line += fitted(field.encode(data), field.width, field.padding, code_page);
   }
+  // The file must be readable again, whatever was pasted into a field (the port takes nearly any
+  // text).
+  std::replace_if(line.begin(), line.end(), text::is_control, ' ');
   return line;
 }
 
 std::optional<ShipFixedData> decode_fixed_data(std::string_view line, const DateTime& utc,
                                                const platform::CodePage& code_page) {
-  if (line.size() != kFixedDataSize) return std::nullopt;
+  if (line.size() != kFixedDataSize || text::has_control(line)) return std::nullopt;
   ShipFixedData data;
   for (const Field& field : kFields)
     field.decode(from_ship_bytes(line.substr(field.offset, field.width), code_page), data);
@@ -325,7 +328,7 @@ std::string encode_key_items(const KeyObservationItems& items) {
 }
 
 std::optional<KeyObservationItems> decode_key_items(std::string_view digits) {
-  if (digits.size() != kKeyItemsSize) return std::nullopt;
+  if (digits.size() != kKeyItemsSize || text::has_control(digits)) return std::nullopt;
   KeyObservationItems items;
   for (std::size_t i = 0; i < kKeyItemsSize; ++i) items.not_observed[i] = digits[i] != '0';
   return items;

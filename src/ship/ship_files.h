@@ -22,13 +22,15 @@ inline constexpr std::size_t kFixedDataSize = 155;
 inline constexpr std::size_t kKeyItemsSize = kObservationItems;
 
 /// The line of FIXDATA.DAT, always 155 bytes. `written` is the local date put in front. A value too
-/// long for its field is cut at a character, so that no later field moves.
+/// long for its field is cut at a character, so that no later field moves; a control character is
+/// written as a blank.
 [[nodiscard]] std::string encode_fixed_data(const ShipFixedData& data,
                                             const platform::DateTime& written,
                                             const platform::CodePage& code_page);
 
-/// The values of a line, or nothing when it is not exactly 155 bytes. A blank check date becomes
-/// `utc`, without leading zeros.
+/// The values of a line, or nothing when it is not exactly 155 bytes or holds a control character:
+/// a damaged file, of which no value can be trusted. A blank check date becomes `utc`, without
+/// leading zeros.
 [[nodiscard]] std::optional<ShipFixedData> decode_fixed_data(std::string_view line,
                                                              const platform::DateTime& utc,
                                                              const platform::CodePage& code_page);
@@ -40,14 +42,16 @@ inline constexpr std::size_t kKeyItemsSize = kObservationItems;
 /// Twelve digits, "0" observed and "1" not observed.
 [[nodiscard]] std::string encode_key_items(const KeyObservationItems& items);
 
-/// Nothing when the text is not exactly 12 bytes. Anything but "0" is not observed.
+/// Nothing when the text is not exactly 12 bytes or holds a control character. Anything but "0" is
+/// not observed.
 [[nodiscard]] std::optional<KeyObservationItems> decode_key_items(std::string_view digits);
 
 /// How reading one of the two files ended.
 enum class FileRead {
   kRead,
   kMissing,
-  kWrongSize,   ///< not the size of its kind: ignored, the caller goes on with its defaults
+  kWrongSize,   ///< not a file of its kind, by its size or for control characters: ignored, the
+                ///< caller goes on with its defaults
   kUnreadable,  ///< it is there and cannot be read: the officer is told
 };
 

@@ -610,6 +610,7 @@ inline constexpr int kSaveErrorNoSave = 14201;
 inline constexpr int kSaveErrorSaveAs = 14202;
 inline constexpr int kSaveErrorCorrect = 14203;
 inline constexpr int kPositionWarningTitle = 14210;
+inline constexpr int kControlCharacter = 42550;
 inline constexpr int kSaved = 33008;
 inline constexpr int kNoDateEntered = 33009;
 inline constexpr int kNowSaving = 33014;

@@ -38,6 +38,12 @@ std::string_view trim(std::string_view text) {
   return text;
 }
 
+std::string_view without_byte_order_mark(std::string_view text) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  while (text.starts_with(kMark)) text.remove_prefix(kMark.size());
+  return text;
+}
+
 std::string without_spaces(std::string_view text) {
   std::string result(text);
   std::erase(result, ' ');

@@ -9,6 +9,22 @@ namespace text {
 /// Without blanks (space, tab, line ends) at both ends.
 [[nodiscard]] std::string_view trim(std::string_view text);
 
+/// True for a control character: a byte below 0x20, and 0x7F.
+[[nodiscard]] constexpr bool is_control(char c) {
+  return static_cast<unsigned char>(c) < 0x20 || c == '\x7f';
+}
+
+/// True when the text holds a control character.
+[[nodiscard]] constexpr bool has_control(std::string_view text) {
+  for (const char c : text)
+    if (is_control(c)) return true;
+  return false;
+}
+
+/// Without the byte order mark that editors of other systems put in front of a UTF-8 text, however
+/// often they did. It says nothing, and left there it would be part of the first word.
+[[nodiscard]] std::string_view without_byte_order_mark(std::string_view text);
+
 /// Without any space.
 [[nodiscard]] std::string without_spaces(std::string_view text);
 

@@ -56,6 +56,14 @@ TEST_F(Ini, ValueIsWhatFollowsTheFirstEqualSign) {
   }
 }
 
+TEST_F(Ini, AByteOrderMarkInFrontIsPassedOver) {
+  const std::string mark = "\xEF\xBB\xBF";
+  EXPECT_EQ(opened(mark + "[S]\nA=1\n")->value("S", "A", ""), "1");
+  EXPECT_EQ(opened(mark + "A=1\n")->value("", "A", ""), "1");
+  EXPECT_EQ(saved(mark + "[S]\nX=1\n"), "[S]\nX=changed\n");
+  EXPECT_EQ(opened("[S]\n" + mark + "A=1\n")->value("S", "A", "none"), "none") << "elsewhere";
+}
+
 TEST_F(Ini, DefaultComesBackForAMissingSectionOrKey) {
   const auto ini = opened("[S]\nA=1\n");
   EXPECT_EQ(ini->value("S", "B", "d"), "d");
@@ -74,7 +82,7 @@ TEST_F(Ini, LastOfTwoEqualKeysWins) {
 
 TEST_F(Ini, SectionsOfOneNameCountAsOne) {
   const auto ini = opened("[S]\nA=1\n[T]\nA=9\n[s]\nB=2\n");
-  EXPECT_EQ(ini->value("S", "A"), "1");
+  EXPECT_EQ(ini->value("S", "A", ""), "1");
   EXPECT_EQ(ini->value("S", "B"), "2");
 }
 
@@ -85,7 +93,7 @@ TEST_F(Ini, NamesCompareWithoutCaseOnlyWhenAsked) {
 }
 
 TEST_F(Ini, LinesBeforeTheFirstHeaderAreTheUnnamedSection) {
-  EXPECT_EQ(opened("A=1\n[S]\nA=2\n")->value("", "A"), "1");
+  EXPECT_EQ(opened("A=1\n[S]\nA=2\n")->value("", "A", ""), "1");
   EXPECT_EQ(saved("A=1\n[S]\nX=2\n"), "A=1\n[S]\nX=changed\n");
   auto ini = opened("[S]\nA=2\n");
   EXPECT_TRUE(ini->set_value("", "A", "0"));
@@ -127,7 +135,7 @@ TEST_F(Ini, TextThatWouldNotComeBackIsRefused) {
   EXPECT_FALSE(ini->set_value("S", "A=B", "x"));
   EXPECT_FALSE(ini->set_value("S\n", "A", "x"));
   EXPECT_FALSE(ini->modified());
-  EXPECT_EQ(ini->value("S", "A"), "1");
+  EXPECT_EQ(ini->value("S", "A", ""), "1");
 }
 
 TEST_F(Ini, AutoSaveSavesWhenTheObjectGoes) {

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+#include <stdexcept>
+#include <streambuf>
+
 #include "headless/test_form.h"
 
 namespace {
@@ -26,6 +30,65 @@ TEST(Session, RepeatsEachCommandAndCommentAndThenSaysWhatHappened) {
   EXPECT_EQ(play("# a form\n\nstart\nclose\n").transcript,
             "# a form\n\n> start\n  screen CFormDlg \"Help\" opened\n"
             "> close\n  screen CFormDlg \"Help\" closed (cancel)\n  the program has ended\n");
+}
+
+TEST(Session, PassesOverAByteOrderMarkAtTheBeginningOnly) {
+  EXPECT_EQ(play("\xEF\xBB\xBFstart\nclose\n").transcript, play("start\nclose\n").transcript);
+  EXPECT_EQ(play("start\n\xEF\xBB\xBF"
+                 "close\n")
+                .status,
+            2);
+}
+
+TEST(Session, EscapesWhatWouldUpsetATerminalInItsReasonsToo) {
+  for (const std::string& command : std::vector<std::string>{
+           "set no\x1b[2J 1", "choose lines no\x1b[2J", "key no\x1b[2J", "no\x1b[2J",
+           "expect note no\x1b[2J", "menu no\x1b[2J", "press \"no\x1b[2J\"", "tick no\x1b[2J on"}) {
+    const Played played = play("start\n" + command + "\n");
+    EXPECT_NE(played.status, 0) << command;
+    EXPECT_EQ(played.transcript.find('\x1b'), std::string::npos) << played.transcript;
+    EXPECT_EQ(played.error.find('\x1b'), std::string::npos) << played.error;
+    EXPECT_NE(played.error.find("no\\x1B[2J"), std::string::npos) << played.error;
+  }
+}
+
+// Reading fails as a folder's or a broken medium's does.
+TEST(Session, StopsWhenTheScriptCannotBeReadOn) {
+  class Broken : public std::streambuf {
+   public:
+    explicit Broken(std::string text) : text_(std::move(text)) {
+      setg(text_.data(), text_.data(), text_.data() + text_.size());
+    }
+
+   protected:
+    int underflow() override { throw std::runtime_error("broken"); }
+
+   private:
+    std::string text_;
+  };
+  for (const char* const before : {"", "# so far\n", "# half a li"}) {
+    Broken buffer(before);
+    std::istream script(&buffer);
+    std::ostringstream transcript;
+    std::ostringstream error;
+    EXPECT_EQ(headless::run_session(script, transcript, error, [](const headless::Doors&) {}),
+              headless::Status::kCannot);
+    EXPECT_NE(error.str().find(": the script cannot be read\n"), std::string::npos) << before;
+  }
+}
+
+TEST(Session, EndsWhenTheTranscriptCannotBeWritten) {
+  std::istringstream script("start\nstart\n");
+  std::ostringstream transcript;
+  std::ostringstream error;
+  int runs = 0;
+  const auto program = [&](const headless::Doors&) {
+    ++runs;
+    transcript.setstate(std::ios::badbit);
+  };
+  EXPECT_EQ(headless::run_session(script, transcript, error, program), headless::Status::kCannot);
+  EXPECT_EQ(runs, 1) << "nothing more is done when nobody sees it";
+  EXPECT_EQ(error.str(), "the transcript cannot be written\n");
 }
 
 TEST(Session, MayStartTheProgramAgain) {

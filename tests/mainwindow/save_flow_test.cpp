@@ -123,6 +123,26 @@ TEST(SaveFlow, WritesTheReportAndOneLineOfTheLogbookAndSaysSo) {
   });
 }
 
+TEST(SaveFlow, AControlCharacterIsToldWithItsFieldAndNothingIsWritten) {
+  for (const WeatherField& field : weather_fields()) {
+    for (const text::Language language : {text::Language::kEnglish, text::Language::kJapanese}) {
+      for (const char control : {'\n', '\r', '\t', '\0', '\x1b', '\x7f'}) {
+        Save s;
+        s.world.texts.language = language;
+        (s.record.*field.member) += control;
+        s.world.windows.expect(id::kControlCharacter);
+        s.expect_nothing_written(SaveEnd::kNotSaved);
+        ASSERT_EQ(s.world.windows.boxes.size(), 1U);
+        EXPECT_NE(s.world.windows.boxes.front().text.find(field.name), std::string::npos);
+      }
+    }
+  }
+  Save s;
+  s.ship.imo_number = "90747\n9";
+  s.world.windows.expect(id::kControlCharacter);
+  s.expect_nothing_written(SaveEnd::kNotSaved);
+}
+
 TEST(SaveFlow, GivenTextsAreToTheLetter) {
   struct Row {
     int message;

@@ -46,6 +46,7 @@ class Cli : public testing::Test {
   /// Runs the program with words that need no quoting; `input` goes to its standard input, through
   /// a pipe.
   Outcome run(const std::string& arguments, const std::string& input = "") const {
+    fs::remove(folder_ / "stdout");
     const std::string in = file("stdin", input);
     const std::string command = "cd '" + folder_.string() + "' && cat '" + in + "' | env -i " +
                                 std::string(KAVREL_CLI) + " " + arguments +
@@ -207,10 +208,74 @@ TEST_F(Cli, WrongArgumentsAreToldWithTheUsage) {
   EXPECT_EQ(run("--help").status, 0);
 }
 
-TEST_F(Cli, AClosedOutputIsAnError) {
+// Nobody may take for done what nobody was told of.
+TEST_F(Cli, OutputThatCannotBeWrittenIsToldByEveryCommand) {
+  const std::string observed = file("a.obs", kObservation);
+  const std::string report = file("a.tlx", kReport);
+  const std::string script = file("a.session", "# a comment\n");
+  const std::string commands[] = {"--help", "encode " + observed, "read " + report,
+                                  "save --replace --reports reports --logbook logbook " + observed,
+                                  "session --root . " + script};
+  for (const std::string& command : commands) {
+    for (const char* const where : {">/dev/full", ">&-"}) {
+      const Outcome outcome = run(command + " " + where);
+      EXPECT_EQ(outcome.status, 2) << command << where;
+      EXPECT_NE(outcome.error, "") << command << where;
+      EXPECT_EQ(std::count(outcome.error.begin(), outcome.error.end(), '\n'), 1) << outcome.error;
+    }
+  }
+}
+
+TEST_F(Cli, AReaderThatWentAwayIsToldToo) {
+  std::string many;
+  for (int i = 0; i < 2000; ++i) many += std::string(kObservation) + "\n";
+  const std::string name = file("many.obs", many);
+  const std::string command = "cd '" + folder_.string() + "' && (env -i " + KAVREL_CLI +
+                              " encode " + name + " 2>stderr; echo $? >status) | true";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  EXPECT_EQ(slurp(folder_ / "status"), "2\n");
+  EXPECT_NE(slurp(folder_ / "stderr").find("standard output cannot be written"), std::string::npos);
+}
+
+TEST_F(Cli, WithoutStandardOutputNothingIsWrittenIntoTheFiles) {
   const std::string name = file("a.obs", kObservation);
-  EXPECT_EQ(run("encode " + name + " >/dev/full").status, 2);
-  EXPECT_EQ(run("read " + file("a.tlx", kReport) + " >/dev/full").status, 2);
+  for (const char* const closed : {">&- 2>stderr", ">&- 2>&-", "<&- >&- 2>&-"}) {
+    run("save --replace --reports reports --logbook logbook " + name + " " + closed + " #");
+    EXPECT_EQ(slurp(folder_ / "reports" / "14111512.tlx"), kReport) << closed;
+  }
+  EXPECT_EQ(slurp(folder_ / "logbook" / "immt5.log").size(), 3 * 173U);
+}
+
+TEST_F(Cli, WhatIsSavedAndCannotBeToldIsNamedAndNoMoreIsSaved) {
+  const std::string name =
+      file("two.obs", std::string(kObservation) + "\n" + kObservation + "GG=18\n");
+  const Outcome outcome = run("save --reports reports --logbook logbook " + name + " >/dev/full");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.error,
+            "kavrel-cli: " + name + ":1: saved, but standard output cannot be written\n");
+  EXPECT_TRUE(fs::exists(folder_ / "reports" / "14111512.tlx"));
+  EXPECT_FALSE(fs::exists(folder_ / "reports" / "14111518.tlx"));
+  EXPECT_EQ(slurp(folder_ / "logbook" / "immt5.log").size(), 173U);
+}
+
+TEST_F(Cli, AScriptThatCannotBeReadIsToldWithTheReason) {
+  Outcome outcome = run("session --root . reports");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.error, "session: cannot read reports: is a folder\n");
+  outcome = run("session --root . none.session");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.error, "session: cannot read none.session: No such file or directory\n");
+  outcome = run("session --root . <reports");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.error, "line 1: the script cannot be read\n");
+  if (geteuid() != 0) {
+    fs::permissions(file("secret", "start\n"), fs::perms::none);
+    outcome = run("session --root . secret");
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.error, "session: cannot read secret: Permission denied\n");
+    fs::permissions(folder_ / "secret", fs::perms::owner_all);
+  }
 }
 
 TEST_F(Cli, ReadPrintsTheFieldsAndNamesTheRest) {
@@ -286,6 +351,21 @@ TEST_F(Cli, WhatWasReadEncodesToTheSameReports) {
   EXPECT_NE(again.out.find("{\"report\":\"" + std::string(kReport) + "\""), std::string::npos);
 }
 
+TEST_F(Cli, AReportIsReadWholeWhateverItsShipIsCalled) {
+  for (const std::string name : {"NNNN", "BBXX", "222", "ICE"}) {
+    const std::string report = "BBXX " + name + " 15124 99357 11653 41/// ///// 8//// 222// .....";
+    for (const std::string& text :
+         {report, "BBXX " + name + "\n15124\n" + report.substr(report.find("99357")),
+          "ZCZC\n" + report + "\nNNNN\n"}) {
+      const Outcome outcome = run("read", text + "\n" + kReport);
+      EXPECT_EQ(outcome.status, 0) << outcome.error;
+      const Outcome again = run("encode", outcome.out);
+      EXPECT_EQ(std::count(again.out.begin(), again.out.end(), '\n'), 2) << text << again.out;
+      EXPECT_TRUE(again.out.starts_with("{\"report\":\"" + report)) << text << again.out;
+    }
+  }
+}
+
 TEST_F(Cli, RealReportsAreReadOneByOne) {
   const Outcome outcome = run("read " + std::string(KAVREL_TEST_DATA) + "/ship_reports.txt");
   EXPECT_EQ(outcome.status, 0) << outcome.error;
@@ -359,11 +439,49 @@ TEST_F(Cli, ReportsAndLogbookMayShareAFolderWithABlankInItsName) {
   EXPECT_EQ(slurp(folder_ / "sea reports" / "immt5.log").size(), 173U);
 }
 
+// Figures too many or too few would give two hours one name, or one hour two.
+TEST_F(Cli, SaveTakesDatesOfFourTwoTwoAndTwoFiguresAndEncodeAnyOther) {
+  struct Row {
+    const char *line, *allowed;
+  };
+  for (const Row& row :
+       {Row{"Month=011", "Month is 2 figures, 01 to 12"},
+        Row{"Month=1", "Month is 2 figures, 01 to 12"},
+        Row{"Year=14", "Year is 4 figures, 0000 to 9999"},
+        Row{"Year=", "Year is 4 figures, 0000 to 9999"}, Row{"YY=5", "YY is 2 figures, 01 to 30"},
+        Row{"YY=31", "YY is 2 figures, 01 to 30"}, Row{"GG=6", "GG is 2 figures, 00 to 23"},
+        Row{"GG=24", "GG is 2 figures, 00 to 23"}, Row{"GG=//", "GG is 2 figures, 00 to 23"}}) {
+    const std::string name =
+        file("date.obs", std::string(kObservation) + "\n" + kObservation + row.line + "\n");
+    const Outcome outcome = run("save --replace --reports reports --logbook logbook " + name);
+    EXPECT_EQ(outcome.status, 2) << row.line;
+    EXPECT_EQ(outcome.error,
+              "kavrel-cli: " + name +
+                  ":13: Year, Month, YY and GG are no date and hour: " + row.allowed + "\n");
+    EXPECT_EQ(outcome.out, "") << row.line;
+    EXPECT_TRUE(saved().empty()) << row.line;
+    EXPECT_EQ(run("encode " + name).status, 0) << row.line;
+  }
+}
+
+TEST_F(Cli, SavingNothingIsAnError) {
+  for (const char* text : {"", "\n\n", "# nothing\n", "ship.call_sign=JXKV\n"}) {
+    const std::string save = "save --reports reports --logbook logbook ";
+    const Outcome piped = run(save, text);
+    EXPECT_EQ(piped.status, 2) << text;
+    EXPECT_EQ(piped.error, "kavrel-cli: standard input: holds no observation\n") << text;
+    const std::string name = file("none.obs", text);
+    EXPECT_EQ(run(save + name).error, "kavrel-cli: " + name + ": holds no observation\n");
+    EXPECT_TRUE(saved().empty());
+  }
+}
+
 TEST_F(Cli, SaveRefusesWithoutADateAndWithoutAFolder) {
   Outcome outcome = run("save --reports reports --logbook logbook", "YY=15\nGG=12\n");
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.error,
-            "kavrel-cli: standard input:1: Year, Month, YY and GG are no date and hour\n");
+            "kavrel-cli: standard input:1: Year, Month, YY and GG are no date and hour: "
+            "Year is 4 figures, 0000 to 9999\n");
   outcome = run("save --reports reports --logbook none", kObservation);
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.error, "kavrel-cli: none is no folder\n");

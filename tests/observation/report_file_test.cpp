@@ -82,11 +82,44 @@ TEST(ObservationDate, MustBeSetAndOfTheCalendar) {
                          Row{"2014", "01", "00", "12", false}, Row{"", "11", "15", "12", false},
                          Row{"2014", "", "15", "12", false}, Row{"2014", "11", "", "12", false},
                          Row{"2014", "11", "15", "", false}, Row{"2014", "11", "//", "12", false},
-                         Row{"2014", "11", "15", "1x", false}})
+                         Row{"2014", "11", "15", "1x", false},
+                         // The figures name the report: each field has as many as it is wide.
+                         Row{"14", "11", "15", "12", false}, Row{"02014", "11", "15", "12", false},
+                         Row{"2014", "011", "15", "12", false}, Row{"2014", "1", "15", "12", false},
+                         Row{"2014", "11", "5", "12", false}, Row{"2014", "11", "015", "12", false},
+                         Row{"2014", "11", "15", "6", false}, Row{"2014", "11", "15", "006", false},
+                         Row{"2014", "11", "15", "+6", false}})
     EXPECT_EQ(observation::has_valid_date(with(
                   {{"Year", row.year}, {"Month", row.month}, {"YY", row.day}, {"GG", row.hour}})),
               row.valid)
         << row.year << " " << row.month << " " << row.day << " " << row.hour;
+}
+
+TEST(ObservationDate, FaultNamesTheFieldAndWhatItMayHold) {
+  struct Row {
+    const char *year, *month, *day, *hour, *field;
+    std::size_t figures;
+    int low, high;
+  };
+  for (const Row& row : {
+           Row{"", "", "", "", "Year", 4, 0, 9999},
+           Row{"214", "13", "99", "99", "Year", 4, 0, 9999},
+           Row{"2014", "011", "15", "12", "Month", 2, 1, 12},
+           Row{"2014", "13", "15", "12", "Month", 2, 1, 12},
+           Row{"2014", "11", "31", "12", "YY", 2, 1, 30},
+           Row{"2014", "02", "0", "12", "YY", 2, 1, 28},
+           Row{"2016", "02", "30", "12", "YY", 2, 1, 29},
+           Row{"2014", "11", "15", "6", "GG", 2, 0, 23},
+           Row{"2014", "11", "15", "24", "GG", 2, 0, 23},
+       }) {
+    const auto fault = observation::date_fault(
+        with({{"Year", row.year}, {"Month", row.month}, {"YY", row.day}, {"GG", row.hour}}));
+    ASSERT_TRUE(fault) << row.field;
+    EXPECT_EQ(fault->field, row.field);
+    EXPECT_EQ(fault->figures, row.figures) << row.field;
+    EXPECT_EQ(fault->low, row.low) << row.field;
+    EXPECT_EQ(fault->high, row.high) << row.field;
+  }
 }
 
 TEST(LogbookPath, PutsABackslashBetweenWhereThereIsNone) {

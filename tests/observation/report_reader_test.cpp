@@ -9,6 +9,7 @@
 
 #include "observation/report_encoder.h"
 #include "observation/report_groups.h"
+#include "observation/report_text.h"
 #include "records.h"
 
 namespace observation {
@@ -169,6 +170,70 @@ TEST(ReportReader, EndMarksAreSeenAndWhatFollowsIsNamed) {
     EXPECT_EQ(report.unplaced, row.unplaced) << row.text;
     EXPECT_EQ(report.record.Ds, "/") << row.text;
   }
+}
+
+// A ship may be called what ends a report elsewhere: the groups behind tell that it goes on.
+TEST(ReportReader, ACallSignMayLookLikeAnythingThatStandsElsewhere) {
+  for (const char* const name :
+       {"NNNN", "BBXX", "222", "22223", "222//", "333", "444", "555", "ICE", "ICEBERG", "NIL", "A",
+        "12345", "99357", "15124", "/////", "8"}) {
+    Struct_Weather record = full();
+    record.CallSign = name;
+    const std::string message = encode(record);
+    for (const std::string& text :
+         {message, "\xEF\xBB\xBF" + message, "FROM SHIP\r\n" + message + "\r\nNNNN\r\n",
+          message.substr(0, message.size() - 6) + "="}) {
+      const auto report = read(text);
+      EXPECT_EQ(report.record.CallSign, name) << text;
+      EXPECT_EQ(encode(report.record), message) << text;
+      EXPECT_EQ(report.unplaced.size(), text.find("FROM") == std::string::npos ? 0U : 1U) << text;
+    }
+  }
+}
+
+// No report can hold such a call sign, so none is taken from it; but the groups are read.
+TEST(ReportReader, ACallSignThatNoReportCanHoldIsNamedAndTheGroupsAreRead) {
+  for (const char* const name : {"=", "==", ".....", "......", "JXKV=", "J....."}) {
+    Struct_Weather record = full();
+    record.CallSign = name;
+    const auto report = read(encode(record));
+    EXPECT_EQ(report.unplaced, (UnplacedList{{name, Unplaced::kCallSign}})) << name;
+    record.CallSign.clear();
+    EXPECT_EQ(encode(report.record), encode(record)) << name;
+  }
+}
+
+TEST(ReportReader, AnEndMarkBehindBbxxEndsTheReportUnlessGroupsFollow) {
+  struct Row {
+    const char* text;
+    const char* after;
+    bool ended, open;
+  };
+  for (const Row& row :
+       {Row{"BBXX NNNN", "", true, true}, Row{"BBXX NNNN 15124", "15124", true, true},
+        Row{"BBXX NNNN JXKV 15124", "JXKV 15124", true, false},
+        Row{"BBXX NNNN 15124 98357", "15124 98357", true, false},
+        Row{"BBXX NNNN 15124 99357=", "", true, false},
+        Row{"BBXX NNNN 15124 99357", "", false, false},
+        Row{"BBXX NNNN\r\n151\r\n24 99357", "", false, false},
+        Row{"BBXX BBXX JXKV 15124 99357", "BBXX JXKV 15124 99357", true, false},
+        Row{"BBXX BBXX 12345 15124 99357", "BBXX 12345 15124 99357", true, false},
+        Row{"BBXX = 40132", "40132", true, true},
+        Row{"BBXX JXKV NNNN 15124 99357", "15124 99357", true, false}}) {
+    const auto found = observation::find_report(row.text);
+    ASSERT_TRUE(found) << row.text;
+    EXPECT_EQ(found->after, row.after) << row.text;
+    EXPECT_EQ(found->ended, row.ended) << row.text;
+    EXPECT_EQ(found->open, row.open) << row.text;
+  }
+}
+
+TEST(ReportReader, AByteOrderMarkInFrontIsPassedOver) {
+  const auto report = read(
+      "\xEF\xBB\xBF"
+      "BBXX JXKV 15124 99357 11653 41/// /////");
+  EXPECT_EQ(report.record.CallSign, "JXKV");
+  EXPECT_TRUE(report.unplaced.empty());
 }
 
 TEST(ReportReader, EveryReasonNamesItsWord) {

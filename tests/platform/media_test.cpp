@@ -99,7 +99,7 @@ TEST_F(KernelMedia, NothingIsFoundWhereNothingIsTold) {
 
 TEST(GivenDrives, LinesGiveLetterTypeMediumAndFolder) {
   const auto given = read_drives(
-      "# drives of the test\n"
+      "\xEF\xBB\xBF# drives of the test, saved by an editor that marks its texts\n"
       "\n"
       "A removable floppy floppies/one\r\n"
       "  b\tremovable   floppy  absent\n"

@@ -33,6 +33,18 @@ std::string with(std::size_t offset, const std::string& characters) {
   return line;
 }
 
+std::string control_characters() {
+  std::string all;
+  for (int c = 0; c < 0x20; ++c) all += static_cast<char>(c);
+  return all + '\x7f';
+}
+
+char any_byte_but_controls(std::mt19937& random) {
+  constexpr std::mt19937::result_type kPrintable = 0x7f - 0x20;
+  const auto byte = 0x20 + random() % (0x100 - 0x20 - 1);
+  return static_cast<char>(byte < 0x20 + kPrintable ? byte : byte + 1);  // 0x7F is left out
+}
+
 // A ship with a card of type "1" and something in every field.
 ShipFixedData full_ship() {
   ShipFixedData data;
@@ -293,6 +305,37 @@ TEST(FixedDataLine, ComesBackAsItWasSaved) {
   EXPECT_EQ(decoded(encoded(two)), two);
 }
 
+// A line end in the call sign would go on into the report and tear the logbook's line.
+TEST(FixedDataLine, IsNotUsedWithAControlCharacterAnywhere) {
+  const std::string sound = encoded(full_ship());
+  ASSERT_TRUE(decode_fixed_data(sound, kUtc, kCodePage));
+  for (const char control : control_characters()) {
+    for (std::size_t at = 0; at < kFixedDataSize; ++at) {
+      std::string line = sound;
+      line[at] = control;
+      ASSERT_FALSE(decode_fixed_data(line, kUtc, kCodePage))
+          << at << ": " << static_cast<int>(control);
+    }
+  }
+}
+
+TEST(FixedDataLine, HoldsNoControlCharacterWhateverWasTyped) {
+  for (const char control : control_characters()) {
+    ShipFixedData data = full_ship();
+    data.card.check_port = std::string("YOKO") + control + "HAMA";
+    const std::string line = encoded(data);
+    EXPECT_EQ(line.substr(21, 9), "YOKO HAMA");
+    EXPECT_TRUE(decode_fixed_data(line, kUtc, kCodePage));
+    for (std::string ShipFixedData::*const member :
+         {&ShipFixedData::call_sign, &ShipFixedData::imo_number, &ShipFixedData::aws_manufacturer,
+          &ShipFixedData::vosclim_cargo_height, &ShipFixedData::vosclim_load_line_departure}) {
+      ShipFixedData wild;
+      wild.*member = control;
+      EXPECT_TRUE(decode_fixed_data(encoded(wild), kUtc, kCodePage));
+    }
+  }
+}
+
 // What was read once is written, read and written again without a further change, whatever bytes
 // were there at first.
 TEST(FixedDataLine, IsStableAfterTheFirstReadingOfAnyBytes) {
@@ -301,7 +344,7 @@ TEST(FixedDataLine, IsStableAfterTheFirstReadingOfAnyBytes) {
   for (int round = 0; round < 20000; ++round) {
     std::string line(kFixedDataSize, ' ');
     for (char& c : line) {
-      c = round % 2 == 0 ? static_cast<char>(random() % 256) : likely[random() % likely.size()];
+      c = round % 2 == 0 ? any_byte_but_controls(random) : likely[random() % likely.size()];
     }
     const std::string once = encoded(decoded(line));
     ASSERT_EQ(once.size(), kFixedDataSize);
@@ -349,6 +392,13 @@ TEST(FixedDataFile, TellsMissingWrongSizeAndUnreadableApart) {
     EXPECT_EQ(loaded.values, ShipFixedData{}) << size;
     EXPECT_EQ(files.content(kPath), std::string(size, '0')) << size;
   }
+  std::string damaged = encoded(full_ship());
+  damaged[8] = '\n';
+  files.add_file(kPath, damaged);
+  const auto refused = load_fixed_data(files, kPath, clock, kCodePage);
+  EXPECT_EQ(refused.outcome, FileRead::kWrongSize) << "a line end in the call sign";
+  EXPECT_EQ(refused.values, ShipFixedData{});
+  EXPECT_EQ(files.content(kPath), damaged);
   files.add_file(kPath, encoded(full_ship()));
   files.fail_next(fakes::FakeFiles::Operation::kRead, platform::FileError::kAccessDenied);
   EXPECT_EQ(load_fixed_data(files, kPath, clock, kCodePage).outcome, FileRead::kUnreadable);
@@ -380,11 +430,22 @@ TEST(KeyItemsFile, IsUsedOnlyAtExactly12Bytes) {
   EXPECT_EQ(load_key_items(files, "C:\\NONE.DAT").outcome, FileRead::kMissing);
 }
 
+// Eleven digits and a line end are a file of the wrong size too.
+TEST(KeyItemsFile, IsNotUsedWithAControlCharacterAnywhere) {
+  for (const char control : control_characters()) {
+    for (std::size_t at = 0; at < kKeyItemsSize; ++at) {
+      std::string digits(kKeyItemsSize, '0');
+      digits[at] = control;
+      EXPECT_FALSE(decode_key_items(digits)) << at << ": " << static_cast<int>(control);
+    }
+  }
+}
+
 TEST(KeyItemsFile, SurvivesAnyTwelveBytes) {
   std::mt19937 random(12);
   for (int round = 0; round < 5000; ++round) {
     std::string digits(kKeyItemsSize, '0');
-    for (char& c : digits) c = static_cast<char>(random() % 256);
+    for (char& c : digits) c = any_byte_but_controls(random);
     const auto items = decode_key_items(digits);
     ASSERT_TRUE(items);
     ASSERT_EQ(decode_key_items(encode_key_items(*items)), items);

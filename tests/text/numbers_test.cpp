@@ -52,4 +52,22 @@ TEST(Strings, CountAndCutCharactersNotBytes) {
   EXPECT_EQ(text::first("abc", 9), "abc");
 }
 
+TEST(Strings, ControlCharactersAreThoseBelowABlankAndTheDeleteCharacter) {
+  for (int byte = 0; byte < 256; ++byte) {
+    const char c = static_cast<char>(byte);
+    const bool control = byte < 32 || byte == 127;
+    EXPECT_EQ(text::is_control(c), control) << byte;
+    EXPECT_EQ(text::has_control(std::string("a") + c + "b"), control) << byte;
+  }
+  EXPECT_FALSE(text::has_control(""));
+}
+
+TEST(Strings, AByteOrderMarkIsTakenOffInFrontOnly) {
+  EXPECT_EQ(text::without_byte_order_mark("\xEF\xBB\xBFx"), "x");
+  EXPECT_EQ(text::without_byte_order_mark("\xEF\xBB\xBF\xEF\xBB\xBFx"), "x");
+  EXPECT_EQ(text::without_byte_order_mark("x\xEF\xBB\xBF"), "x\xEF\xBB\xBF");
+  EXPECT_EQ(text::without_byte_order_mark("\xEF\xBB"), "\xEF\xBB");
+  EXPECT_EQ(text::without_byte_order_mark(""), "");
+}
+
 }  // namespace

@@ -78,6 +78,7 @@ std::optional<Medium> read_line(std::string_view line, const std::string& root,
 
 GivenDrives read_drives(std::string_view text, const std::string& root) {
   GivenDrives result;
+  text = text::without_byte_order_mark(text);
   for (int number = 1; !text.empty(); ++number) {
     const auto end = std::min(text.find('\n'), text.size());
     const auto line = text::trim(text.substr(0, end));
