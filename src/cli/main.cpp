@@ -6,6 +6,7 @@
 
 #include "cli/commands.h"
 #include "cli/session_command.h"
+#include "platform/posix/system_calls.h"
 
 namespace {
 
@@ -43,6 +44,7 @@ int usage(const std::string& reason, const char* usage) {
 
 int main(int count, char** words) {
   std::ios::sync_with_stdio(false);
+  platform::posix::prepare_process();
   const std::vector<std::string> arguments(words + (count > 0 ? 1 : 0), words + count);
   if (arguments.empty()) return help(std::cerr, cli::kWrong);
   if (arguments.front() == "--help") return help(std::cout, cli::kOk);

@@ -35,10 +35,17 @@ class Saver {
   /// The folder that cannot be used, or nothing.
   [[nodiscard]] std::optional<std::string> problem(const Arguments& arguments) const {
     for (const auto& [path, given] :
-         {std::pair(&reports_, &arguments.reports), std::pair(&logbook_, &arguments.logbook)})
-      if (!*path || !files_.is_folder(**path)) return *given + " is no folder";
+         {std::pair(&reports_, &arguments.reports), std::pair(&logbook_, &arguments.logbook)}) {
+      const platform::Look found = *path ? files_.look(**path) : platform::Look{};
+      if (found.there == platform::There::kCannotTell)
+        return *given + " cannot be used: " + std::string(reason_of(found.error));
+      if (found.there != platform::There::kFolder) return *given + " is no folder";
+    }
     return std::nullopt;
   }
+
+  /// Finishes or takes back what an earlier save left, and tells it.
+  void recover() { tell(observation::recover(files_, *reports_, *logbook_)); }
 
   [[nodiscard]] std::optional<std::string> check(const observation::ObservationReader& observed) {
     if (!observation::has_valid_date(observed.record()))
@@ -49,7 +56,10 @@ class Saver {
     if (!is_first && before->second != observed.first_line())
       return "the observation of line " + std::to_string(before->second) +
              " has the same report; --replace would replace it";
-    if (files_.is_file(path)) return exists(path);
+    const platform::Look found = files_.look(path);
+    if (found.there == platform::There::kCannotTell)
+      return shown(path) + " cannot be looked at: " + std::string(reason_of(found.error));
+    if (found.there == platform::There::kFile) return exists(path);
     return std::nullopt;
   }
 
@@ -65,6 +75,14 @@ class Saver {
     request.logbook_line =
         observation::encode_logbook(observed.record(), observed.ship(), observed.items());
     const auto result = observation::save(files_, request);
+    tell(result.recovered);
+    if (result.without_lock && !told_without_lock_)
+      tell(shown(request.logbook_path) +
+           " cannot be locked there; no other program may save at the same time");
+    told_without_lock_ = told_without_lock_ || result.without_lock;
+    if (result.closed_line != 0)
+      tell(shown(request.logbook_path) + ": line " + std::to_string(result.closed_line) +
+           " had no end and is damaged; it has been closed");
     if (auto refused = refusal(result, request)) return refused;
     std::cout << "report " << shown(request.report_path) << "\n"
               << "logbook " << shown(request.logbook_path) << "\n";
@@ -76,6 +94,30 @@ class Saver {
     auto path = drives_.to_program(given);
     if (path && !path->ends_with('\\')) path->push_back('\\');
     return path;
+  }
+
+  static void tell(const std::string& remark) { std::cerr << "kavrel-cli: " << remark << "\n"; }
+
+  void tell(const observation::Recovery& recovery) const {
+    using observation::Recovered;
+    const std::string report = shown(*reports_ + recovery.report);
+    const std::string line =
+        shown(observation::logbook_path(*logbook_)) + ": line " + std::to_string(recovery.line);
+    switch (recovery.outcome) {
+      case Recovered::kNothing:
+        break;
+      case Recovered::kFinished:
+        return tell(report + ": its interrupted save has been finished; " + line + " is its line");
+      case Recovered::kTakenBack:
+        return tell(report +
+                    ": its interrupted save has been taken back; it has to be saved again");
+      case Recovered::kLineLeft:
+        return tell(line + " has no report: the save of " + report + " was interrupted");
+      case Recovered::kPutAside:
+        return tell(
+            "what was noted about an interrupted save is damaged and has been put aside as " +
+            shown(observation::damaged_journal_path(*logbook_)));
+    }
   }
 
   /// A program path as this computer says it.
@@ -103,7 +145,8 @@ class Saver {
         return shown(request.logbook_path) + " cannot be written: " + why;
       case SaveOutcome::kLineLeft:
         return shown(request.report_path) + " cannot be written: " + why +
-               "; the logbook line is there and could not be taken back";
+               "; its line is already in " + shown(request.logbook_path) +
+               " until the next save takes it back";
     }
     return why;
   }
@@ -114,6 +157,7 @@ class Saver {
   std::optional<std::string> reports_;
   std::optional<std::string> logbook_;
   bool replace_;
+  bool told_without_lock_ = false;
   /// The reports of the input and the line in which the observation of each begins.
   std::map<std::string, std::size_t> line_of_report_;
 };
@@ -143,6 +187,7 @@ int save_command(const std::vector<std::string>& words) {
     std::cerr << "kavrel-cli: " << *problem << "\n";
     return kWrong;
   }
+  saver.recover();
   Input input(arguments.file);
   const bool done = for_each_observation(
       input, [&](const auto& observed) { return saver.check(observed); },

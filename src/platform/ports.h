@@ -4,6 +4,7 @@
 // letters to the computer's folders.
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -130,12 +131,39 @@ struct StagedFile {
   std::string temporary;  ///< where it lies; no search for ".tlx" or "immt5.log" matches the name
 };
 
-/// What an append did, so that it can be taken back.
-struct AppendMark {
-  std::string path;
-  bool existed = false;
-  std::uint64_t old_size = 0;
-  std::uint64_t new_size = 0;
+/// The process whose stage() made a file of that name (".kavrel-PID-N.part", without a folder), or
+/// nothing for any other name.
+[[nodiscard]] std::optional<std::uint64_t> staged_by(std::string_view name);
+
+/// A logbook, held against other copies of the program for as long as the object lives.
+class LockedLog {
+ public:
+  virtual ~LockedLog() = default;
+  LockedLog() = default;
+  LockedLog(const LockedLog&) = delete;
+  LockedLog& operator=(const LockedLog&) = delete;
+
+  /// False where the file system knows no locks: then nobody is kept out.
+  [[nodiscard]] virtual bool is_locked() const = 0;
+  /// True when there was no such file before.
+  [[nodiscard]] virtual bool created() const = 0;
+  /// Bytes of the file as this object left it. Behind a failed append() or cut() it tells whether
+  /// anything of it stayed.
+  [[nodiscard]] virtual std::uint64_t size() const = 0;
+  /// `count` bytes from there on, or what there is of them.
+  [[nodiscard]] virtual Result<std::string> read(std::uint64_t from, std::uint64_t count) const = 0;
+  /// Behind the end in one write, flushed; cut back when it did not go in whole.
+  [[nodiscard]] virtual FileError append(std::string_view content) = 0;
+  /// Shortens the file to so many bytes.
+  [[nodiscard]] virtual FileError cut(std::uint64_t size) = 0;
+  /// The file goes with the lock when it is empty then; so does one that was created for the lock.
+  virtual void drop_if_empty() = 0;
+};
+
+/// What a rename does when something of the new name is there.
+enum class Over {
+  kReplace,
+  kRefuse,  ///< kExists, and nothing is changed
 };
 
 class Files {
@@ -146,23 +174,27 @@ class Files {
   [[nodiscard]] virtual Result<std::string> read(const std::string& path,
                                                  std::uint64_t largest = 64U << 20U) const = 0;
 
+  // Only regular files are read and written; anything else of the name is kNotAFile at once.
+
   // Replacing: stage() writes beside the place and flushes; commit() renames over the old file and
   // flushes the folder; discard() removes what was staged. A crash before commit() leaves the old
   // file, a crash after it the new one.
   [[nodiscard]] virtual Result<StagedFile> stage(const std::string& path,
                                                  std::string_view content) = 0;
-  [[nodiscard]] virtual FileError commit(const StagedFile& staged) = 0;
+  [[nodiscard]] virtual FileError commit(const StagedFile& staged, Over over = Over::kReplace) = 0;
   virtual void discard(const StagedFile& staged) = 0;
   /// stage() and commit(), with discard() on failure.
   [[nodiscard]] FileError replace(const std::string& path, std::string_view content);
 
-  /// Appends in one write, flushed, under a lock that other copies of the program respect; cut back
-  /// when it did not go in whole. Creates the file when there is none.
-  [[nodiscard]] virtual Result<AppendMark> append(const std::string& path,
-                                                  std::string_view content) = 0;
-  /// Cuts the file back to what it was before the append (removes it when the append created it),
-  /// unless somebody appended more since.
-  [[nodiscard]] virtual FileError take_back(const AppendMark& mark) = 0;
+  /// stage() and a rename over the old file without flushing the folder: for a note that must be
+  /// whole if it is there, and whose loss in a power failure does no harm. Costs one flush.
+  [[nodiscard]] virtual FileError note(const std::string& path, std::string_view content) = 0;
+
+  /// Takes the lock that every copy of the program respects, creating the file when there is none.
+  /// Tried for a few seconds, then kLocked.
+  [[nodiscard]] virtual Result<std::unique_ptr<LockedLog>> lock_log(const std::string& path) = 0;
+  /// True when a process of this computer has that number, or when one cannot tell.
+  [[nodiscard]] virtual bool is_running(std::uint64_t process) const = 0;
 
   /// What lies under the path; links are followed.
   [[nodiscard]] virtual Look look(const std::string& path) const = 0;
@@ -174,7 +206,8 @@ class Files {
   [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const;
   /// Local time of the last change.
   [[nodiscard]] virtual std::optional<DateTime> modified(const std::string& path) const = 0;
-  /// Entries of a folder without "." and "..", in the order the file system gives them.
+  /// Files and folders in a folder without "." and "..", and no pipes or devices, in the order the
+  /// file system gives them.
   [[nodiscard]] virtual Result<std::vector<FolderEntry>> list(const std::string& folder) const = 0;
   /// One folder; its parent must exist. An existing folder is kNone.
   [[nodiscard]] virtual FileError create_folder(const std::string& path) = 0;
