@@ -89,13 +89,13 @@ void clear_staged(platform::Files& files, const Folders& folders) {
   }
 }
 
-/// Number of the line that begins behind so many bytes, or 0 when they cannot be read.
-std::uint64_t line_number(const platform::LockedLog& log, std::uint64_t bytes) {
+/// Number of the line that begins behind so many bytes.
+platform::Result<std::uint64_t> line_number(const platform::LockedLog& log, std::uint64_t bytes) {
   constexpr std::uint64_t kBlock = 1U << 16U;
   std::uint64_t lines = 1;
   for (std::uint64_t at = 0; at < bytes; at += kBlock) {
     const auto block = log.read(at, std::min(kBlock, bytes - at));
-    if (!block.ok()) return 0;
+    if (!block.ok()) return block.error;
     lines += static_cast<std::uint64_t>(std::count(block.value->begin(), block.value->end(), '\n'));
   }
   return lines;
@@ -164,8 +164,9 @@ class Repairing {
     if (what == Repair::kDoNotTrust) return put_aside();
     Recovery told;
     told.report = journal.report;
-    told.line = line_number(log_, journal.log_size);
-    if (line_begins && told.line != 0) ++told.line;
+    const auto line = line_number(log_, journal.log_size);
+    if (!line.ok()) return failed(line.error);
+    told.line = *line.value + (line_begins ? 1 : 0);
     if (what == Repair::kFinish) {
       const FileError error =
           files_.commit({report, staged}, journal.replace ? Over::kReplace : Over::kRefuse);
@@ -297,7 +298,9 @@ class Save {
       const auto last = log_.read(log_.size() - 1, 1);
       if (!last.ok()) return last.error;
       if (*last.value != kLineEnd) {
-        result_.closed_line = line_number(log_, log_.size());
+        const auto line = line_number(log_, log_.size());
+        if (!line.ok()) return line.error;
+        result_.closed_line = *line.value;
         journal_.appended = kLineEnd;
       }
     }

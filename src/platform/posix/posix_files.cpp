@@ -458,7 +458,7 @@ Result<std::unique_ptr<LockedLog>> PosixFiles::lock_log(const std::string& path)
   }
   auto log = std::make_unique<Log>(*this, *os_path.value);
   if (log->error() != FileError::kNone) return log->error();
-  return Result<std::unique_ptr<LockedLog>>(std::move(log));
+  return {std::move(log)};
 }
 
 bool PosixFiles::is_running(std::uint64_t process) const {
