@@ -1,6 +1,7 @@
 #include "app/CVelmaranApp.h"
 
 #include "app/CAssistantClass.h"
+#include "mainwindow/save_flow.h"
 #include "ship/ship_files.h"
 #include "text/ids.h"
 
@@ -22,6 +23,7 @@ int CVelmaranApp::run() {
   find_removable();
   check_folder(WorkingFolder::kReports);
   check_folder(WorkingFolder::kLogbook);
+  mainwindow::recover_save(services_, settings_.folders);
   ask_fixed_data();
   ask_key_items();
   show_main_window();

@@ -10,6 +10,7 @@
 
 #include "cli/commands.h"
 #include "cli/session_command.h"
+#include "platform/posix/system_calls.h"
 
 namespace {
 
@@ -69,6 +70,7 @@ int main(int count, char** words) {
   // A reader that has gone away is told like any other output that cannot be written.
   (void)std::signal(SIGPIPE, SIG_IGN);
   std::ios::sync_with_stdio(false);
+  platform::posix::prepare_process();
   const int status = run(std::vector<std::string>(words + (count > 0 ? 1 : 0), words + count));
   // What a command told and nobody received is no success; one that was wrong has said so itself.
   if (std::cout.flush() || status == cli::kWrong) return status;

@@ -3,6 +3,7 @@
 #include <map>
 
 #include "cli/commands.h"
+#include "cli/file_reasons.h"
 #include "cli/observations.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
@@ -22,25 +23,7 @@ struct Arguments {
   bool replace = false;
 };
 
-std::string reason_of(platform::FileError error) {
-  switch (error) {
-    case platform::FileError::kNone:
-      return "";
-    case platform::FileError::kNotFound:
-      return "no such folder";
-    case platform::FileError::kAccessDenied:
-      return "not permitted";
-    case platform::FileError::kNoSpace:
-      return "no space left";
-    case platform::FileError::kMediumMissing:
-      return "no such drive or no medium in it";
-    case platform::FileError::kOther:
-      return "input or output error";
-  }
-  return "";
-}
-
-std::string reason_of(const observation::DateFault& fault) {
+std::string date_reason(const observation::DateFault& fault) {
   const auto shown = [&](int number) {
     return text::format_digits(number, static_cast<int>(fault.figures));
   };
@@ -62,21 +45,31 @@ class Saver {
   /// The folder that cannot be used, or nothing.
   [[nodiscard]] std::optional<std::string> problem(const Arguments& arguments) const {
     for (const auto& [path, given] :
-         {std::pair(&reports_, &arguments.reports), std::pair(&logbook_, &arguments.logbook)})
-      if (!*path || !files_.is_folder(**path)) return *given + " is no folder";
+         {std::pair(&reports_, &arguments.reports), std::pair(&logbook_, &arguments.logbook)}) {
+      const platform::Look found = *path ? files_.look(**path) : platform::Look{};
+      if (found.there == platform::There::kCannotTell)
+        return *given + " cannot be used: " + std::string(reason_of(found.error));
+      if (found.there != platform::There::kFolder) return *given + " is no folder";
+    }
     return std::nullopt;
   }
 
+  /// Finishes or takes back what an earlier save left, and tells it.
+  void recover() { tell(observation::recover(files_, *reports_, *logbook_)); }
+
   [[nodiscard]] std::optional<std::string> check(const observation::ObservationReader& observed) {
     ++observations_;
-    if (const auto fault = observation::date_fault(observed.record())) return reason_of(*fault);
+    if (const auto fault = observation::date_fault(observed.record())) return date_reason(*fault);
     if (replace_) return std::nullopt;
     const std::string path = observation::report_path(*reports_, observed.record());
     const auto [before, is_first] = line_of_report_.try_emplace(path, observed.first_line());
     if (!is_first && before->second != observed.first_line())
       return "the observation of line " + std::to_string(before->second) +
              " has the same report; --replace would replace it";
-    if (files_.is_file(path)) return exists(path);
+    const platform::Look found = files_.look(path);
+    if (found.there == platform::There::kCannotTell)
+      return shown(path) + " cannot be looked at: " + std::string(reason_of(found.error));
+    if (found.there == platform::There::kFile) return exists(path);
     return std::nullopt;
   }
 
@@ -95,6 +88,14 @@ class Saver {
     request.logbook_line =
         observation::encode_logbook(observed.record(), observed.ship(), observed.items());
     const auto result = observation::save(files_, request);
+    tell(result.recovered);
+    if (result.without_lock && !told_without_lock_)
+      tell(shown(request.logbook_path) +
+           " cannot be locked there; no other program may save at the same time");
+    told_without_lock_ = told_without_lock_ || result.without_lock;
+    if (result.closed_line != 0)
+      tell(shown(request.logbook_path) + ": line " + std::to_string(result.closed_line) +
+           " had no end and is damaged; it has been closed");
     if (auto refused = refusal(result, request)) return refused;
     std::cout << "report " << shown(request.report_path) << "\n"
               << "logbook " << shown(request.logbook_path) << "\n";
@@ -111,6 +112,30 @@ class Saver {
     return path;
   }
 
+  static void tell(const std::string& remark) { std::cerr << "kavrel-cli: " << remark << "\n"; }
+
+  void tell(const observation::Recovery& recovery) const {
+    using observation::Recovered;
+    const std::string report = shown(*reports_ + recovery.report);
+    const std::string line =
+        shown(observation::logbook_path(*logbook_)) + ": line " + std::to_string(recovery.line);
+    switch (recovery.outcome) {
+      case Recovered::kNothing:
+        break;
+      case Recovered::kFinished:
+        return tell(report + ": its interrupted save has been finished; " + line + " is its line");
+      case Recovered::kTakenBack:
+        return tell(report +
+                    ": its interrupted save has been taken back; it has to be saved again");
+      case Recovered::kLineLeft:
+        return tell(line + " has no report: the save of " + report + " was interrupted");
+      case Recovered::kPutAside:
+        return tell(
+            "what was noted about an interrupted save is damaged and has been put aside as " +
+            shown(observation::damaged_journal_path(*logbook_)));
+    }
+  }
+
   /// A program path as this computer says it.
   [[nodiscard]] std::string shown(const std::string& path) const {
     const auto os_path = drives_.to_os(path);
@@ -124,7 +149,7 @@ class Saver {
   [[nodiscard]] std::optional<std::string> refusal(const observation::SaveResult& result,
                                                    const observation::SaveRequest& request) const {
     using observation::SaveOutcome;
-    const std::string why = reason_of(result.error);
+    const std::string why(reason_of(result.error));
     switch (result.outcome) {
       case SaveOutcome::kSaved:
         return std::nullopt;
@@ -136,7 +161,8 @@ class Saver {
         return shown(request.logbook_path) + " cannot be written: " + why;
       case SaveOutcome::kLineLeft:
         return shown(request.report_path) + " cannot be written: " + why +
-               "; the logbook line is there and could not be taken back";
+               "; its line is already in " + shown(request.logbook_path) +
+               " until the next save takes it back";
     }
     return why;
   }
@@ -148,6 +174,7 @@ class Saver {
   std::optional<std::string> logbook_;
   bool replace_;
   std::size_t observations_ = 0;
+  bool told_without_lock_ = false;
   /// The reports of the input and the line in which the observation of each begins.
   std::map<std::string, std::size_t> line_of_report_;
 };
@@ -177,6 +204,7 @@ int save_command(const std::vector<std::string>& words) {
     std::cerr << "kavrel-cli: " << *problem << "\n";
     return kWrong;
   }
+  saver.recover();
   Input input(arguments.file);
   const bool done = for_each_observation(
       input, [&](const auto& observed) { return saver.check(observed); },

@@ -10,6 +10,7 @@
 #include "desktop/desktop_printer.h"
 #include "desktop/desktop_windows.h"
 #include "platform/posix/system.h"
+#include "platform/posix/system_calls.h"
 
 namespace {
 
@@ -36,6 +37,7 @@ desktop::PathMap path_map(const platform::posix::System& system) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::posix::prepare_process();
   QApplication application(argc, argv);
   QApplication::setApplicationName("kavrel");
   desktop::prepare_application();

@@ -59,7 +59,7 @@ char drive_of(const std::string& folder) {
 
 // Asks until a disk with room lies in a removable drive; false when the officer gives up. The disk
 // is looked for anew after every answer, for it may have been exchanged.
-bool disk_is_ready(ui::Services& services, const std::string& folder, std::size_t bytes) {
+bool disk_is_ready(ui::Services& services, const std::string& folder, std::uint64_t bytes) {
   const char letter = drive_of(folder);
   if (!is_removable(services.drives, letter)) return true;
   int insert = id::kInsertDisk;
@@ -95,25 +95,57 @@ observation::SaveRequest request_of(const Saving& saving, const std::string& mes
   return request;
 }
 
+// True when the officer wants the logbook to be tried again.
+bool wants_retry(ui::Services& services, const std::string& logbook) {
+  const text::Texts& texts = services.texts;
+  text::CMessageBox1 box(text::fill(texts.get(id::kLogbookLocked), {logbook}),
+                         std::string(texts.get(id::kButtonRetry)),
+                         std::string(texts.get(id::kButtonGiveUp)));
+  box.box().buttons[0].name = "retry";
+  box.box().buttons[1].name = "cancel";
+  box.box().text_id = id::kLogbookLocked;
+  return services.messages.show(box) == text::kYes;
+}
+
+std::optional<observation::SaveResult> given_up(ui::Services& services) {
+  services.messages.error(id::kSaveCancelled);
+  return std::nullopt;
+}
+
 // Nothing once the officer has said No or Cancel, and been told of it; else how the writing went.
-std::optional<SaveOutcome> write(ui::Services& services, const Saving& saving,
-                                 const std::string& message) {
-  observation::SaveRequest request = request_of(saving, message);
-  const std::size_t bytes = request.message.size() + request.logbook_line.size() + kLineEnd.size();
+std::optional<observation::SaveResult> write(ui::Services& services, const Saving& saving,
+                                             observation::SaveRequest request) {
+  const std::uint64_t bytes = observation::room_for(request);
+  bool exists = services.files.is_file(request.report_path);
   while (true) {
     // Asked before the disks: a report on a disk that is not in yet is asked about when it is.
-    if (!request.replace && services.files.is_file(request.report_path)) {
+    if (exists && !request.replace) {
       if (!may_replace(services)) return std::nullopt;
       request.replace = true;
     }
-    for (const std::string& folder : {saving.folders.reports, saving.folders.logbook}) {
-      if (disk_is_ready(services, folder, bytes)) continue;
-      services.messages.error(id::kSaveCancelled);
-      return std::nullopt;
-    }
+    for (const std::string& folder : {saving.folders.reports, saving.folders.logbook})
+      if (!disk_is_ready(services, folder, bytes)) return given_up(services);
     const auto result = observation::save(services.files, request);
-    if (result.outcome != SaveOutcome::kAlreadyExists) return result.outcome;
+    tell_recovery(services, saving.folders, result.recovered);
+    if (result.error == platform::FileError::kLocked) {
+      if (!wants_retry(services, request.logbook_path)) return given_up(services);
+    } else if (result.outcome != SaveOutcome::kAlreadyExists) {
+      return result;
+    } else {
+      exists = true;
+    }
   }
+}
+
+// What the officer must know besides whether the save went well.
+void tell_remarks(ui::Services& services, const observation::SaveResult& result,
+                  const std::string& logbook) {
+  if (result.without_lock) services.messages.error_filled_once(id::kLogbookWithoutLock, {logbook});
+  if (result.closed_line != 0)
+    services.messages.error_filled(id::kLogbookLineClosed,
+                                   {std::to_string(result.closed_line), logbook});
+  if (result.outcome == SaveOutcome::kLineLeft)
+    services.messages.error_filled(id::kSaveLineLeft, {logbook});
 }
 
 }  // namespace
@@ -142,15 +174,47 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
   // Without a folder the files would go wherever the program happens to run.
   if (saving.folders.reports.empty() || saving.folders.logbook.empty())
     return end_with(services, id::kSaveFailed, SaveEnd::kNotSaved);
-  std::optional<SaveOutcome> outcome;
+  const observation::SaveRequest request =
+      request_of(saving, encode(saving, services.texts.language).message);
+  std::optional<observation::SaveResult> result;
   {
     const CShowStatusDlg notice(services, id::kNowSaving);
-    outcome = write(services, saving, encode(saving, services.texts.language).message);
+    result = write(services, saving, request);
   }
-  if (!outcome) return SaveEnd::kNotSaved;
-  if (*outcome == SaveOutcome::kSaved && saving.written) saving.written();
-  return *outcome == SaveOutcome::kSaved ? end_with(services, id::kSaved, SaveEnd::kSaved)
-                                         : end_with(services, id::kSaveFailed, SaveEnd::kNotSaved);
+  if (!result) return SaveEnd::kNotSaved;
+  if (result->outcome == SaveOutcome::kSaved && saving.written) saving.written();
+  tell_remarks(services, *result, request.logbook_path);
+  return result->outcome == SaveOutcome::kSaved
+             ? end_with(services, id::kSaved, SaveEnd::kSaved)
+             : end_with(services, id::kSaveFailed, SaveEnd::kNotSaved);
+}
+
+void tell_recovery(ui::Services& services, const Folders& folders,
+                   const observation::Recovery& recovery) {
+  using observation::Recovered;
+  const std::string line = std::to_string(recovery.line);
+  switch (recovery.outcome) {
+    case Recovered::kNothing:
+      break;
+    case Recovered::kFinished:
+      services.messages.error_filled(id::kSaveFinished, {recovery.report, line});
+      break;
+    case Recovered::kTakenBack:
+      services.messages.error_filled(id::kSaveTakenBack, {recovery.report});
+      break;
+    case Recovered::kLineLeft:
+      services.messages.error_filled(id::kSaveLineWithoutReport, {recovery.report, line});
+      break;
+    case Recovered::kPutAside:
+      services.messages.error_filled(id::kSaveNoteDamaged,
+                                     {observation::damaged_journal_path(folders.logbook)});
+      break;
+  }
+}
+
+void recover_save(ui::Services& services, const Folders& folders) {
+  tell_recovery(services, folders,
+                observation::recover(services.files, folders.reports, folders.logbook));
 }
 
 }  // namespace mainwindow

@@ -12,6 +12,7 @@
 
 #include "mainwindow/context.h"
 #include "observation/Struct_Weather.h"
+#include "observation/report_file.h"
 #include "ui/services.h"
 
 namespace mainwindow {
@@ -43,5 +44,13 @@ struct Saving {
 
 /// Runs the whole save with its messages and questions.
 SaveEnd save_observation(ui::Services& services, const Saving& saving);
+
+/// Tells the officer what became of a save that had been interrupted, if there was one.
+void tell_recovery(ui::Services& services, const Folders& folders,
+                   const observation::Recovery& recovery);
+
+/// For a start, once the folders are known: finishes or takes back an interrupted save and tells
+/// it.
+void recover_save(ui::Services& services, const Folders& folders);
 
 }  // namespace mainwindow

@@ -1,12 +1,18 @@
 #include "observation/report_file.h"
 
 #include <algorithm>
+#include <limits>
 
+#include "observation/save_journal.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
 namespace observation {
 namespace {
+
+using platform::FileError;
+using platform::Over;
+using platform::There;
 
 constexpr std::string_view kLineEnd = "\n";
 
@@ -45,6 +51,284 @@ std::string in_folder(const std::string& folder, std::string_view name) {
   const bool as_it_stands = folder.empty() || ends_in_backslash(folder);
   return folder + (as_it_stands ? "" : "\\") + std::string(name);
 }
+
+std::string folder_of(const std::string& path) {
+  const auto at = path.find_last_of("\\/:");
+  return at == std::string::npos ? std::string() : path.substr(0, at + 1);
+}
+
+std::string name_of(const std::string& path) {
+  return path.substr(folder_of(path).size());
+}
+
+/// Of a save; each ends in its backslash.
+struct Folders {
+  std::string reports, logbook;
+  [[nodiscard]] std::string journal() const { return logbook + std::string(kJournalName); }
+};
+
+Recovery failed(FileError error) {
+  Recovery recovery;
+  recovery.error = error;
+  return recovery;
+}
+
+/// Removes what processes that are no more staged in the two folders.
+void clear_staged(platform::Files& files, const Folders& folders) {
+  for (const std::string* folder : {&folders.reports, &folders.logbook}) {
+    if (folder == &folders.logbook && folders.logbook == folders.reports) continue;
+    const auto entries = files.list(folder->empty() ? files.current_folder() : *folder);
+    if (!entries.ok()) continue;
+    for (const platform::FolderEntry& entry : *entries.value) {
+      const auto process = platform::staged_by(entry.name);
+      if (!process || entry.is_folder || files.is_running(*process)) continue;
+      files.discard({*folder + entry.name, *folder + entry.name});
+    }
+  }
+}
+
+/// Number of the line that begins behind so many bytes.
+platform::Result<std::uint64_t> line_number(const platform::LockedLog& log, std::uint64_t bytes) {
+  constexpr std::uint64_t kBlock = 1U << 16U;
+  std::uint64_t lines = 1;
+  for (std::uint64_t at = 0; at < bytes; at += kBlock) {
+    const auto block = log.read(at, std::min(kBlock, bytes - at));
+    if (!block.ok()) return block.error;
+    lines += static_cast<std::uint64_t>(std::count(block.value->begin(), block.value->end(), '\n'));
+  }
+  return lines;
+}
+
+/// True when the file is there with that content, nothing when one cannot tell.
+platform::Result<bool> has_content(const platform::Files& files, const std::string& path,
+                                   const Mark& mark) {
+  const platform::Look found = files.look(path);
+  if (found.there == There::kCannotTell) return found.error;
+  if (found.there != There::kFile || found.size != mark.length) return false;
+  const auto content = files.read(path);
+  if (!content.ok()) return content.error;
+  return mark_of(*content.value) == mark;
+}
+
+/// What an interrupted save left, with the lock held.
+struct Repaired {
+  Recovery told;
+  std::optional<Journal> journal;  ///< of the interrupted save
+};
+
+class Repairing {
+ public:
+  Repairing(platform::Files& files, platform::LockedLog& log, const Folders& folders)
+      : files_(files), log_(log), folders_(folders) {}
+
+  Repaired run() {
+    const platform::Look found = files_.look(folders_.journal());
+    if (found.there == There::kNo) return {};
+    if (found.there == There::kCannotTell) return {failed(found.error), std::nullopt};
+    constexpr std::uint64_t kLargest = 1U << 20U;
+    if (found.there == There::kFile && found.size <= kLargest) {
+      const auto text = files_.read(folders_.journal());
+      if (!text.ok()) return {failed(text.error), std::nullopt};
+      if (auto journal = read_journal(*text.value);
+          journal && files_.same(journal->folder, folders_.reports)) {
+        const Recovery told = repair(*journal);
+        return {told, std::move(journal)};
+      }
+    }
+    return {put_aside(), std::nullopt};
+  }
+
+ private:
+  Recovery repair(const Journal& journal) {
+    const std::string report = folders_.reports + journal.report;
+    const std::string staged = folders_.reports + journal.staged;
+    const bool line_begins = journal.appended.front() == '\n';
+    Found found;
+    if (log_.size() > journal.log_size) {
+      const auto behind = log_.read(journal.log_size, journal.appended.size());
+      if (!behind.ok()) return failed(behind.error);
+      found.line = line_found(journal, log_.size(), *behind.value);
+    } else {
+      found.line = line_found(journal, log_.size(), {});
+    }
+    const auto report_is_it = has_content(files_, report, journal.content);
+    if (!report_is_it.ok()) return failed(report_is_it.error);
+    const auto staged_is_it = has_content(files_, staged, journal.content);
+    if (!staged_is_it.ok()) return failed(staged_is_it.error);
+    found.report_is_it = *report_is_it.value;
+    found.staged_is_it = *staged_is_it.value;
+
+    Repair what = decide(found);
+    if (what == Repair::kDoNotTrust) return put_aside();
+    Recovery told;
+    told.report = journal.report;
+    const auto line = line_number(log_, journal.log_size);
+    if (!line.ok()) return failed(line.error);
+    told.line = *line.value + (line_begins ? 1 : 0);
+    if (what == Repair::kFinish) {
+      const FileError error =
+          files_.commit({report, staged}, journal.replace ? Over::kReplace : Over::kRefuse);
+      if (error != FileError::kNone && error != FileError::kExists) return failed(error);
+      if (error == FileError::kExists) {
+        // Somebody else's report has come into the place, which this save was not to replace.
+        found.staged_is_it = false;
+        what = decide(found);
+        files_.discard({report, staged});
+      }
+    } else if (found.staged_is_it && what != Repair::kTakeBack) {
+      files_.discard({report, staged});
+    }
+    switch (what) {
+      case Repair::kTakeBack:
+        if (const FileError error = take_back(journal); error != FileError::kNone)
+          return failed(error);
+        if (found.staged_is_it) files_.discard({report, staged});
+        told.outcome = Recovered::kTakenBack;
+        break;
+      case Repair::kLeaveLine:
+        told.outcome = Recovered::kLineLeft;
+        break;
+      default:
+        told.outcome = Recovered::kFinished;
+    }
+    // Should it stay, it is found again, and nothing is left to do for it.
+    (void)files_.remove(folders_.journal());
+    return told;
+  }
+
+  FileError take_back(const Journal& journal) {
+    if (!journal.log_existed) log_.drop_if_empty();
+    return log_.size() == journal.log_size ? FileError::kNone : log_.cut(journal.log_size);
+  }
+
+  Recovery put_aside() {
+    const std::string aside = damaged_journal_path(folders_.logbook);
+    if (const FileError error = files_.commit({aside, folders_.journal()});
+        error != FileError::kNone)
+      return failed(error);
+    Recovery told;
+    told.outcome = Recovered::kPutAside;
+    return told;
+  }
+
+  platform::Files& files_;
+  platform::LockedLog& log_;
+  const Folders& folders_;
+};
+
+Repaired repair(platform::Files& files, platform::LockedLog& log, const Folders& folders) {
+  auto repaired = Repairing(files, log, folders).run();
+  if (repaired.told.error == FileError::kNone) clear_staged(files, folders);
+  return repaired;
+}
+
+/// One save, with the lock held.
+class Save {
+ public:
+  Save(platform::Files& files, platform::LockedLog& log, const SaveRequest& request)
+      : files_(files),
+        log_(log),
+        request_(request),
+        folders_{folder_of(request.report_path), folder_of(request.logbook_path)},
+        content_(report_file_content(request.message)) {
+    journal_.folder = folders_.reports;
+    journal_.report = name_of(request.report_path);
+    journal_.replace = request.replace;
+    journal_.content = mark_of(content_);
+    result_.without_lock = !log.is_locked();
+  }
+
+  SaveResult run() {
+    if (!is_report_name(journal_.report))
+      return end(SaveOutcome::kReportFailed, FileError::kBadName);
+    if (repaired_the_same()) return result_;
+    if (result_.recovered.error != FileError::kNone)
+      return end(SaveOutcome::kLogbookFailed, result_.recovered.error);
+
+    const platform::Look found = files_.look(request_.report_path);
+    if (found.there == There::kCannotTell) return end(SaveOutcome::kReportFailed, found.error);
+    if (found.there == There::kFile && !request_.replace)
+      return end(SaveOutcome::kAlreadyExists, FileError::kNone);
+
+    if (const FileError error = plan_line(); error != FileError::kNone)
+      return end(SaveOutcome::kLogbookFailed, error);
+    const auto staged = files_.stage(request_.report_path, content_);
+    if (!staged.ok()) return end(SaveOutcome::kReportFailed, staged.error);
+    journal_.staged = name_of(staged.value->temporary);
+    if (const FileError error = files_.note(folders_.journal(), write_journal(journal_));
+        error != FileError::kNone) {
+      files_.discard(*staged.value);
+      return end(SaveOutcome::kLogbookFailed, error);
+    }
+    if (const FileError error = log_.append(journal_.appended); error != FileError::kNone)
+      return take_back(*staged.value, SaveOutcome::kLogbookFailed, error);
+    const FileError error =
+        files_.commit(*staged.value, request_.replace ? Over::kReplace : Over::kRefuse);
+    if (error == FileError::kExists)
+      return take_back(*staged.value, SaveOutcome::kAlreadyExists, FileError::kNone);
+    if (error != FileError::kNone)
+      return take_back(*staged.value, SaveOutcome::kReportFailed, error);
+    (void)files_.remove(folders_.journal());
+    return result_;
+  }
+
+ private:
+  /// True when the interrupted save was this very one and is finished now.
+  bool repaired_the_same() {
+    const Repaired repaired = repair(files_, log_, folders_);
+    result_.recovered = repaired.told;
+    if (repaired.told.outcome != Recovered::kFinished || !repaired.journal) return false;
+    const Journal& before = *repaired.journal;
+    std::string_view line = before.appended;
+    if (line.starts_with(kLineEnd)) line.remove_prefix(kLineEnd.size());
+    if (before.report != journal_.report || before.content != journal_.content ||
+        line != request_.logbook_line + std::string(kLineEnd))
+      return false;
+    result_.recovered = {};
+    return true;
+  }
+
+  /// A last line without its end is closed in the same write: the new one must not stick to it.
+  FileError plan_line() {
+    journal_.log_existed = !log_.created();
+    journal_.log_size = log_.size();
+    if (log_.size() > 0) {
+      const auto last = log_.read(log_.size() - 1, 1);
+      if (!last.ok()) return last.error;
+      if (*last.value != kLineEnd) {
+        const auto line = line_number(log_, log_.size());
+        if (!line.ok()) return line.error;
+        result_.closed_line = *line.value;
+        journal_.appended = kLineEnd;
+      }
+    }
+    journal_.appended += request_.logbook_line + std::string(kLineEnd);
+    return FileError::kNone;
+  }
+
+  SaveResult take_back(const platform::StagedFile& staged, SaveOutcome outcome, FileError error) {
+    const bool clean =
+        log_.size() == journal_.log_size || log_.cut(journal_.log_size) == FileError::kNone;
+    files_.discard(staged);
+    if (clean) (void)files_.remove(folders_.journal());
+    return end(clean ? outcome : SaveOutcome::kLineLeft, error);
+  }
+
+  SaveResult end(SaveOutcome outcome, FileError error) {
+    result_.outcome = outcome;
+    result_.error = error;
+    result_.closed_line = 0;
+    return result_;
+  }
+
+  platform::Files& files_;
+  platform::LockedLog& log_;
+  const SaveRequest& request_;
+  Folders folders_;
+  std::string content_;
+  Journal journal_;
+  SaveResult result_;
+};
 
 }  // namespace
 
@@ -126,26 +410,39 @@ std::string report_file_content(std::string_view message) {
   return content;
 }
 
-SaveResult save(platform::Files& files, const SaveRequest& request) {
-  using platform::FileError;
-  if (!request.replace && files.is_file(request.report_path))
-    return {SaveOutcome::kAlreadyExists, FileError::kNone};
+std::string damaged_journal_path(const std::string& logbook_folder) {
+  return in_folder(logbook_folder, kDamagedJournalName);
+}
 
-  const auto staged = files.stage(request.report_path, report_file_content(request.message));
-  if (!staged.ok()) return {SaveOutcome::kReportFailed, staged.error};
-
-  const auto line =
-      files.append(request.logbook_path, request.logbook_line + std::string(kLineEnd));
-  if (!line.ok()) {
-    files.discard(*staged.value);
-    return {SaveOutcome::kLogbookFailed, line.error};
+Recovery recover(platform::Files& files, const std::string& reports_folder,
+                 const std::string& logbook_folder) {
+  if (reports_folder.empty() || logbook_folder.empty()) return {};
+  const Folders folders{in_folder(reports_folder, ""), in_folder(logbook_folder, "")};
+  if (files.look(folders.journal()).there == There::kNo) {
+    clear_staged(files, folders);
+    return {};
   }
+  const auto log = files.lock_log(logbook_path(logbook_folder));
+  if (!log.ok()) return failed(log.error);
+  return repair(files, **log.value, folders).told;
+}
 
-  const FileError failed = files.commit(*staged.value);
-  if (failed == FileError::kNone) return {};
-  const bool taken_back = files.take_back(*line.value) == FileError::kNone;
-  files.discard(*staged.value);
-  return {taken_back ? SaveOutcome::kReportFailed : SaveOutcome::kLineLeft, failed};
+std::uint64_t room_for(const SaveRequest& request) {
+  constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
+  Journal journal;
+  journal.folder = folder_of(request.report_path);
+  journal.report = name_of(request.report_path);
+  journal.staged = ".kavrel-999999999-999999999.part";
+  journal.log_size = kMost;
+  journal.appended = std::string(kLineEnd) + request.logbook_line + std::string(kLineEnd);
+  journal.content = {kMost, kMost};
+  return request.message.size() + journal.appended.size() + write_journal(journal).size();
+}
+
+SaveResult save(platform::Files& files, const SaveRequest& request) {
+  const auto log = files.lock_log(request.logbook_path);
+  if (!log.ok()) return {SaveOutcome::kLogbookFailed, log.error};
+  return Save(files, **log.value, request).run();
 }
 
 }  // namespace observation

@@ -1,15 +1,33 @@
 #pragma once
 // The two files of a save: the report in a file of its own, and one line more in the logbook.
 //
-// A save either happens or leaves both files as they were:
-//   1. the report is staged beside its place (nothing that searches for reports sees it);
-//   2. the line is appended to the logbook, in one write;
-//   3. the staged report is renamed over its place;
-//   4. when that fails, the line is taken back and the staged file removed.
-// A program killed before step 2 leaves both files old, after step 3 both new. Between the two the
-// logbook holds a whole line whose report was not replaced: each file is whole, and saving the
-// observation again brings both up to date.
+// A save either happens or leaves both files as they were. What save() does, in this order, all of
+// it under the logbook's lock, and what a program that is killed behind each step leaves:
+//
+//   step                                        left behind             the next start or save
+//   1. the logbook is locked                    both old (perhaps a     -
+//                                               new empty logbook)
+//   2. what an earlier save left is repaired    see recover()           goes on with it
+//   3. the report is staged beside its place    both old, a ".part"     clears the ".part"
+//   4. the journal is written beside the        both old, ".part" and   takes back: discards the
+//      logbook (save_journal.h)                 journal                 ".part"
+//   5. the line is appended, in one write       the line or a part of   finishes: renames the
+//                                               it, ".part", journal    report; cuts a part off
+//   6. the report is renamed into its place     both new, the journal   removes the journal
+//   7. the journal is removed                   both new                -
+//
+//   When 6 fails, the line is cut off again, the staged report and then the journal are removed;
+//   killed between these: as behind 4. When the cutting fails (kLineLeft), only the staged report
+//   is removed, so that the next start or save finds a line without a report and cuts it off.
+//
+// What a person sees as a save that failed and whose disk then came back is never saved twice: when
+// the repair finishes the very save that is asked for, save() has nothing more to do.
+//
+// A start calls recover() once the folders are known; save() repairs by itself. Both tell what they
+// did, and the caller tells the officer. Between a power failure and the disk the journal stands as
+// firm as its file system keeps a rename in order with later flushes; its folder is not flushed.
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -74,15 +92,48 @@ enum class SaveOutcome {
   kAlreadyExists,  ///< the report exists and `replace` was not set; nothing was written
   kReportFailed,   ///< the report could not be written; both files are as they were
   kLogbookFailed,  ///< the line could not be appended; both files are as they were
-  kLineLeft,  ///< the report could not be written and the line not taken back: the logbook has it
+  kLineLeft,       ///< the save failed and the line, or a part of it, could not be taken back: the
+                   ///< logbook has it until the next start or save takes it back
 };
+
+/// What became of a save that had been interrupted.
+enum class Recovered {
+  kNothing,    ///< there was none
+  kFinished,   ///< both files are there now
+  kTakenBack,  ///< both files are as they were before it
+  kLineLeft,   ///< its line stands in the logbook between others, without a report
+  kPutAside,   ///< what it had noted makes no sense; it lies in kDamagedJournalName now
+};
+struct Recovery {
+  Recovered outcome = Recovered::kNothing;
+  std::string report;      ///< name of its report, without a folder; none for kPutAside
+  std::uint64_t line = 0;  ///< number of its line in the logbook, from 1
+  /// Why it could be neither finished nor taken back now: everything is as it was found.
+  platform::FileError error = platform::FileError::kNone;
+};
+
+/// Where recover() and save() put a journal that they do not trust.
+[[nodiscard]] std::string damaged_journal_path(const std::string& logbook_folder);
+
+/// Finishes or takes back what an interrupted save left in the two folders, and clears what dead
+/// processes staged there. Nothing happens where a folder is empty. Touches nothing but the
+/// logbook, the journal, staged files, and the report that the journal names in `reports_folder`.
+[[nodiscard]] Recovery recover(platform::Files& files, const std::string& reports_folder,
+                               const std::string& logbook_folder);
 
 struct SaveResult {
   SaveOutcome outcome = SaveOutcome::kSaved;
   platform::FileError error = platform::FileError::kNone;  ///< why, when it failed
+  Recovery recovered = {};        ///< what this save found and repaired first
+  std::uint64_t closed_line = 0;  ///< number of the logbook's last line, which had no end and was
+                                  ///< closed before the new one; 0 when it was whole
+  bool without_lock = false;      ///< the file system has no locks: no other program is kept out
 };
 
-/// Writes both files, or neither.
+/// Bytes that a save may need on one disk: both files' and what it notes beside the logbook.
+[[nodiscard]] std::uint64_t room_for(const SaveRequest& request);
+
+/// Writes both files, or neither. kLogbookFailed with kLocked: another program holds the logbook.
 [[nodiscard]] SaveResult save(platform::Files& files, const SaveRequest& request);
 
 }  // namespace observation

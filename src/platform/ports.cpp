@@ -10,4 +10,37 @@ FileError Files::replace(const std::string& path, std::string_view content) {
   return error;
 }
 
+std::optional<std::uint64_t> staged_by(std::string_view name) {
+  constexpr std::string_view kBegin = ".kavrel-";
+  constexpr std::string_view kEnd = ".part";
+  constexpr std::size_t kMostFigures = 9;
+  if (!name.starts_with(kBegin) || !name.ends_with(kEnd) ||
+      name.size() < kBegin.size() + kEnd.size())
+    return std::nullopt;
+  name = name.substr(kBegin.size(), name.size() - kBegin.size() - kEnd.size());
+  const auto dash = name.find('-');
+  if (dash == std::string_view::npos) return std::nullopt;
+  std::uint64_t process = 0;
+  for (const std::string_view figures : {name.substr(0, dash), name.substr(dash + 1)}) {
+    if (figures.empty() || figures.size() > kMostFigures) return std::nullopt;
+    for (const char c : figures)
+      if (c < '0' || c > '9') return std::nullopt;
+  }
+  for (const char c : name.substr(0, dash)) process = process * 10 + static_cast<unsigned>(c - '0');
+  return process;
+}
+
+bool Files::is_file(const std::string& path) const {
+  return look(path).there == There::kFile;
+}
+
+bool Files::is_folder(const std::string& path) const {
+  return look(path).there == There::kFolder;
+}
+
+std::optional<std::uint64_t> Files::size(const std::string& path) const {
+  const Look found = look(path);
+  return found.there == There::kFile ? std::optional(found.size) : std::nullopt;
+}
+
 }  // namespace platform

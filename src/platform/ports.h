@@ -103,6 +103,12 @@ enum class FileError {
   kAccessDenied,  ///< no permission, read-only medium, a folder where a file was wanted
   kNoSpace,
   kMediumMissing,  ///< the drive is not there or holds no medium
+  kNotAFile,       ///< a pipe, a device or a socket where a file was wanted
+  kBadLink,        ///< a link that leads nowhere, or in a circle
+  kTooManyOpen,    ///< the program or the computer has no room for one more open file
+  kBadName,        ///< too long, or with a character that no name may have there
+  kLocked,         ///< another program holds the file
+  kExists,         ///< something of that name is there already
   kOther,
 };
 
@@ -118,6 +124,21 @@ struct Result {
   [[nodiscard]] bool ok() const { return value.has_value(); }
 };
 
+/// What lies under a path. "Cannot tell" is an answer of its own: whoever takes it for "not there"
+/// writes over a file that he could not see.
+enum class There {
+  kNo,    ///< there is no such name, and nothing else was wrong
+  kFile,  ///< a regular file
+  kFolder,
+  kOther,       ///< a pipe, a device or a socket: it can be neither read nor replaced
+  kCannotTell,  ///< not permitted, input or output error, no medium, a link that leads nowhere, ...
+};
+struct Look {
+  There there = There::kNo;
+  FileError error = FileError::kNone;  ///< why one cannot tell; else kNone
+  std::uint64_t size = 0;              ///< bytes of a file; else 0
+};
+
 struct FolderEntry {
   std::string name;
   bool is_folder = false;
@@ -129,12 +150,39 @@ struct StagedFile {
   std::string temporary;  ///< where it lies; no search for ".tlx" or "immt5.log" matches the name
 };
 
-/// What an append did, so that it can be taken back.
-struct AppendMark {
-  std::string path;
-  bool existed = false;
-  std::uint64_t old_size = 0;
-  std::uint64_t new_size = 0;
+/// The process whose stage() made a file of that name (".kavrel-PID-N.part", without a folder), or
+/// nothing for any other name.
+[[nodiscard]] std::optional<std::uint64_t> staged_by(std::string_view name);
+
+/// A logbook, held against other copies of the program for as long as the object lives.
+class LockedLog {
+ public:
+  virtual ~LockedLog() = default;
+  LockedLog() = default;
+  LockedLog(const LockedLog&) = delete;
+  LockedLog& operator=(const LockedLog&) = delete;
+
+  /// False where the file system knows no locks: then nobody is kept out.
+  [[nodiscard]] virtual bool is_locked() const = 0;
+  /// True when there was no such file before.
+  [[nodiscard]] virtual bool created() const = 0;
+  /// Bytes of the file as this object left it. Behind a failed append() or cut() it tells whether
+  /// anything of it stayed.
+  [[nodiscard]] virtual std::uint64_t size() const = 0;
+  /// `count` bytes from there on, or what there is of them.
+  [[nodiscard]] virtual Result<std::string> read(std::uint64_t from, std::uint64_t count) const = 0;
+  /// Behind the end in one write, flushed; cut back when it did not go in whole.
+  [[nodiscard]] virtual FileError append(std::string_view content) = 0;
+  /// Shortens the file to so many bytes.
+  [[nodiscard]] virtual FileError cut(std::uint64_t size) = 0;
+  /// The file goes with the lock when it is empty then; so does one that was created for the lock.
+  virtual void drop_if_empty() = 0;
+};
+
+/// What a rename does when something of the new name is there.
+enum class Over {
+  kReplace,
+  kRefuse,  ///< kExists, and nothing is changed
 };
 
 /// A place among files that is this copy of the program's alone for as long as the object lives.
@@ -154,35 +202,45 @@ class Files {
   [[nodiscard]] virtual Result<std::string> read(const std::string& path,
                                                  std::uint64_t largest = 64U << 20U) const = 0;
 
+  // Only regular files are read and written; anything else of the name is kNotAFile at once.
+
   // Replacing: stage() writes beside the place and flushes; commit() renames over the old file and
   // flushes the folder; discard() removes what was staged. A crash before commit() leaves the old
   // file, a crash after it the new one.
   [[nodiscard]] virtual Result<StagedFile> stage(const std::string& path,
                                                  std::string_view content) = 0;
-  [[nodiscard]] virtual FileError commit(const StagedFile& staged) = 0;
+  [[nodiscard]] virtual FileError commit(const StagedFile& staged, Over over = Over::kReplace) = 0;
   virtual void discard(const StagedFile& staged) = 0;
   /// stage() and commit(), with discard() on failure.
   [[nodiscard]] FileError replace(const std::string& path, std::string_view content);
 
-  /// Appends in one write, flushed, under a lock that other copies of the program respect; cut back
-  /// when it did not go in whole. Creates the file when there is none.
-  [[nodiscard]] virtual Result<AppendMark> append(const std::string& path,
-                                                  std::string_view content) = 0;
-  /// Cuts the file back to what it was before the append (removes it when the append created it),
-  /// unless somebody appended more since.
-  [[nodiscard]] virtual FileError take_back(const AppendMark& mark) = 0;
+  /// stage() and a rename over the old file without flushing the folder: for a note that must be
+  /// whole if it is there, and whose loss in a power failure does no harm. Costs one flush.
+  [[nodiscard]] virtual FileError note(const std::string& path, std::string_view content) = 0;
 
   /// Claims a place by the path of a file that says so and holds nothing. Null while another copy
   /// of the program has it (or this one), or when no claim can be made there. However the program
   /// ends, its claims end with it.
   [[nodiscard]] virtual std::unique_ptr<Claim> claim(const std::string& path) = 0;
 
-  [[nodiscard]] virtual bool is_file(const std::string& path) const = 0;
-  [[nodiscard]] virtual bool is_folder(const std::string& path) const = 0;
-  [[nodiscard]] virtual std::optional<std::uint64_t> size(const std::string& path) const = 0;
+  /// Takes the lock that every copy of the program respects, creating the file when there is none.
+  /// Tried for a few seconds, then kLocked.
+  [[nodiscard]] virtual Result<std::unique_ptr<LockedLog>> lock_log(const std::string& path) = 0;
+  /// True when a process of this computer has that number, or when one cannot tell.
+  [[nodiscard]] virtual bool is_running(std::uint64_t process) const = 0;
+
+  /// What lies under the path; links are followed.
+  [[nodiscard]] virtual Look look(const std::string& path) const = 0;
+  // Short for look(), for who shows or offers something: where one cannot tell, there is none. Not
+  // for who writes or takes a default because a file is missing: seeding settings, reading the
+  // ship's files, backing a file up, asking whether a report may be replaced. They look().
+  [[nodiscard]] bool is_file(const std::string& path) const;
+  [[nodiscard]] bool is_folder(const std::string& path) const;
+  [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const;
   /// Local time of the last change.
   [[nodiscard]] virtual std::optional<DateTime> modified(const std::string& path) const = 0;
-  /// Entries of a folder without "." and "..", in the order the file system gives them.
+  /// Files and folders in a folder without "." and "..", and no pipes or devices, in the order the
+  /// file system gives them.
   [[nodiscard]] virtual Result<std::vector<FolderEntry>> list(const std::string& folder) const = 0;
   /// One folder; its parent must exist. An existing folder is kNone.
   [[nodiscard]] virtual FileError create_folder(const std::string& path) = 0;

@@ -620,6 +620,16 @@ inline constexpr int kInsertDisk = 37007;
 inline constexpr int kInsertDiskAgain = 37013;
 inline constexpr int kSaveCancelled = 37032;
 inline constexpr int kDiskFull = 37034;
+inline constexpr int kLogbookLocked = 42500;
+inline constexpr int kButtonRetry = 42501;
+inline constexpr int kButtonGiveUp = 42502;
+inline constexpr int kLogbookWithoutLock = 42503;
+inline constexpr int kSaveFinished = 42504;
+inline constexpr int kSaveTakenBack = 42505;
+inline constexpr int kSaveLineWithoutReport = 42506;
+inline constexpr int kSaveNoteDamaged = 42507;
+inline constexpr int kSaveLineLeft = 42508;
+inline constexpr int kLogbookLineClosed = 42509;
 
 // Entries that outlive the program
 inline constexpr int kDraftFound = 42580;

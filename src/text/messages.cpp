@@ -69,6 +69,10 @@ void Messages::error_filled(int id, std::initializer_list<std::string_view> argu
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
+void Messages::error_filled_once(int id, std::initializer_list<std::string_view> arguments) {
+  if (!quiet && told_once_.insert(id).second) error_filled(id, arguments);
+}
+
 int Messages::question(std::string_view text, std::string_view title, QuestionMode mode,
                        int text_id) {
   const bool english = texts_.language == Language::kEnglish;

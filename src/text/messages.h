@@ -2,6 +2,7 @@
 // Message services: every notice and question of the program goes through here.
 
 #include <initializer_list>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -72,6 +73,9 @@ class Messages {
   /// line of its own below it.
   void error_filled(int id, std::initializer_list<std::string_view> arguments, int below = 0);
 
+  /// error_filled(), but the first time of the run only.
+  void error_filled_once(int id, std::initializer_list<std::string_view> arguments);
+
   /// A question; the result is one of the four codes above (mode kOkCancel gives kOk or kCancel).
   /// Any other mode shows nothing and returns 0. An empty title means the program's. `text_id` only
   /// tells tests which text it is.
@@ -89,6 +93,7 @@ class Messages {
  private:
   Texts& texts_;
   platform::Windows& windows_;
+  std::set<int> told_once_;
 };
 
 }  // namespace text

@@ -5,6 +5,7 @@
 #include "app/CVelmaranApp.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
+#include "observation/report_file.h"
 #include "ship/ship_files.h"
 #include "text/ids.h"
 
@@ -98,6 +99,28 @@ TEST_F(StartUp, FirstStartSeedsAsksAndWritesBack) {
   EXPECT_EQ(files.content(kFixed),
             encode_fixed_data(ship, world.clock.local_time, world.code_page));
   EXPECT_EQ(files.content(kSeed), ini("JPN")) << "the seed stays as it was";
+}
+
+TEST_F(StartUp, AnInterruptedSaveIsFinishedAndToldBeforeAnythingElseIsAsked) {
+  settle();
+  const observation::SaveRequest request = {"C:\\tlx\\14111512.tlx", "C:\\log\\immt5.log", "BBXX",
+                                            "LINE", false};
+  FakeFiles trial = files;
+  EXPECT_EQ(observation::save(trial, request).outcome, observation::SaveOutcome::kSaved);
+  int commit = 1;
+  while (!trial.log()[static_cast<std::size_t>(commit) - 1].starts_with("commit")) ++commit;
+  files.kill_before(commit);
+  EXPECT_THROW((void)observation::save(files, request), FakeFiles::Killed);
+  files.heal();
+  files.restart();
+  world.windows.expect(text::id::kSaveFinished);
+  EXPECT_EQ(run(), 0);
+  world.windows.verify();
+  EXPECT_EQ(files.content("C:\\tlx\\14111512.tlx"), "BBXX");
+  EXPECT_EQ(files.content("C:\\log\\immt5.log"), "LINE\n");
+  EXPECT_FALSE(files.content("C:\\log\\.kavrel-save"));
+  asked.clear();
+  EXPECT_EQ(run(), 0) << "and told once";
 }
 
 TEST_F(StartUp, SecondStartAsksForNoFolderAndTellsThatTheFilesExist) {

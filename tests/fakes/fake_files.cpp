@@ -9,10 +9,9 @@ using platform::FileError;
 
 namespace {
 
-constexpr std::array kOperationNames = {"read",   "stage",     "commit",         "discard",
-                                        "append", "take_back", "list",           "create_folder",
-                                        "copy",   "remove",    "clear_read_only"};
-constexpr const char* kStagedEnding = ".~staged";
+constexpr std::array kOperationNames = {
+    "read",   "stage", "commit", "discard",       "note", "lock",   "read_log",
+    "append", "cut",   "list",   "create_folder", "copy", "remove", "clear_read_only"};
 
 char lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -60,7 +59,7 @@ FakeFiles::Node* FakeFiles::find(const std::string& path) {
 FakeFiles::Node& FakeFiles::put(const std::string& path, std::string content) {
   Node* node = find(path);
   if (node == nullptr) {
-    nodes_.push_back({path, false, false, {}, {2014, 11, 15, 12, 0, 0}});
+    nodes_.push_back({path, false, false, false, {}, {2014, 11, 15, 12, 0, 0}});
     node = &nodes_.back();
   }
   node->content = std::move(content);
@@ -79,9 +78,14 @@ void FakeFiles::add_folder(const std::string& path) {
   std::string so_far;
   for (const char c : path + "\\") {
     if ((c == '\\' || c == '/') && so_far.size() > 2 && find(so_far) == nullptr)
-      nodes_.push_back({so_far, true, false, {}, {2014, 11, 15, 12, 0, 0}});
+      nodes_.push_back({so_far, true, false, false, {}, {2014, 11, 15, 12, 0, 0}});
     so_far.push_back(c);
   }
+}
+
+void FakeFiles::add_other(const std::string& path) {
+  add_file(path, "");
+  find(path)->other = true;
 }
 
 void FakeFiles::set_modified(const std::string& path, platform::DateTime when) {
@@ -90,6 +94,13 @@ void FakeFiles::set_modified(const std::string& path, platform::DateTime when) {
 
 void FakeFiles::set_read_only(const std::string& path, bool read_only) {
   if (Node* node = find(path)) node->read_only = read_only;
+}
+
+void FakeFiles::set_held(const std::string& path, bool held) {
+  if (held)
+    held_.insert(key(path));
+  else
+    held_.erase(key(path));
 }
 
 void FakeFiles::set_free_space(char drive, std::uint64_t bytes) {
@@ -130,6 +141,10 @@ void FakeFiles::fail_path(const std::string& path, FileError error) {
   path_errors_[key(path)] = error;
 }
 
+void FakeFiles::fail_look(const std::string& path, FileError error) {
+  look_errors_[key(path)] = error;
+}
+
 void FakeFiles::kill_before(int n) {
   kills_before_.insert(count_ + n);
 }
@@ -142,14 +157,19 @@ void FakeFiles::heal() {
   next_errors_.clear();
   errors_at_.clear();
   path_errors_.clear();
+  look_errors_.clear();
   kills_before_.clear();
   kills_after_.clear();
+  killed_ = false;
 }
 
 FileError FakeFiles::begin(Operation operation, const std::string& path,
                            const std::string& second) const {
   ++count_;
-  if (kills_before_.contains(count_)) throw Killed{};
+  if (kills_before_.contains(count_)) {
+    killed_ = true;
+    throw Killed{};
+  }
   log_.push_back(std::string(kOperationNames[static_cast<std::size_t>(operation)]) + " " + path +
                  (second.empty() ? "" : " " + second));
   FileError error = FileError::kNone;
@@ -168,7 +188,10 @@ FileError FakeFiles::begin(Operation operation, const std::string& path,
 
 FileError FakeFiles::end(FileError error) const {
   if (error != FileError::kNone) log_.back() += " !";
-  if (kills_after_.contains(count_)) throw Killed{};
+  if (kills_after_.contains(count_)) {
+    killed_ = true;
+    throw Killed{};
+  }
   return error;
 }
 
@@ -193,6 +216,7 @@ platform::Result<std::string> FakeFiles::read(const std::string& path,
   const Node* node = find(path);
   if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
   if (error == FileError::kNone && node->folder) error = FileError::kAccessDenied;
+  if (error == FileError::kNone && node->other) error = FileError::kNotAFile;
   if (error == FileError::kNone && node->content.size() > largest) error = FileError::kOther;
   if (end(error) != FileError::kNone) return error;
   return node->content;
@@ -202,19 +226,26 @@ platform::Result<platform::StagedFile> FakeFiles::stage(const std::string& path,
                                                         std::string_view content) {
   FileError error = begin(Operation::kStage, path);
   if (error == FileError::kNone) error = writable(path, content.size());
-  platform::StagedFile staged{path, path + kStagedEnding};
+  if (error == FileError::kNone && find(path) != nullptr && find(path)->other)
+    error = FileError::kNotAFile;
+  const auto at = path.find_last_of("\\/:");
+  platform::StagedFile staged{path, path.substr(0, at + 1) + ".kavrel-" + std::to_string(process_) +
+                                        "-" + std::to_string(staged_count_++) + ".part"};
   if (error == FileError::kNone) put(staged.temporary, std::string(content));
   if (end(error) != FileError::kNone) return error;
   return staged;
 }
 
-FileError FakeFiles::commit(const platform::StagedFile& staged) {
+FileError FakeFiles::commit(const platform::StagedFile& staged, platform::Over over) {
   FileError error = begin(Operation::kCommit, staged.path);
   const Node* beside = find(staged.temporary);
   if (error == FileError::kNone && beside == nullptr) error = FileError::kNotFound;
+  if (error == FileError::kNone && over == platform::Over::kRefuse && find(staged.path) != nullptr)
+    error = FileError::kExists;
   if (error == FileError::kNone) {
     const std::string content = beside->content;
-    std::erase_if(nodes_, [&](const Node& node) { return node.path == staged.temporary; });
+    std::erase_if(nodes_,
+                  [&](const Node& node) { return key(node.path) == key(staged.temporary); });
     put(staged.path, content);
   }
   return end(error);
@@ -222,38 +253,16 @@ FileError FakeFiles::commit(const platform::StagedFile& staged) {
 
 void FakeFiles::discard(const platform::StagedFile& staged) {
   begin(Operation::kDiscard, staged.path);
-  std::erase_if(nodes_, [&](const Node& node) { return node.path == staged.temporary; });
+  std::erase_if(nodes_, [&](const Node& node) { return key(node.path) == key(staged.temporary); });
   end(FileError::kNone);
 }
 
-platform::Result<platform::AppendMark> FakeFiles::append(const std::string& path,
-                                                         std::string_view content) {
-  FileError error = begin(Operation::kAppend, path);
+FileError FakeFiles::note(const std::string& path, std::string_view content) {
+  FileError error = begin(Operation::kNote, path);
   if (error == FileError::kNone) error = writable(path, content.size());
-  platform::AppendMark mark{path, false, 0, 0};
-  if (error == FileError::kNone) {
-    const Node* node = find(path);
-    const std::string old = node == nullptr ? std::string() : node->content;
-    mark.existed = node != nullptr;
-    mark.old_size = old.size();
-    mark.new_size = old.size() + content.size();
-    put(path, old + std::string(content));
-  }
-  if (end(error) != FileError::kNone) return error;
-  return mark;
-}
-
-FileError FakeFiles::take_back(const platform::AppendMark& mark) {
-  FileError error = begin(Operation::kTakeBack, mark.path);
-  Node* node = find(mark.path);
-  if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
-  if (error == FileError::kNone && node->content.size() != mark.new_size) error = FileError::kOther;
-  if (error == FileError::kNone) {
-    if (mark.existed)
-      node->content.resize(mark.old_size);
-    else
-      std::erase_if(nodes_, [&](const Node& each) { return key(each.path) == key(mark.path); });
-  }
+  if (error == FileError::kNone && find(path) != nullptr && find(path)->other)
+    error = FileError::kNotAFile;
+  if (error == FileError::kNone) put(path, std::string(content));
   return end(error);
 }
 
@@ -272,22 +281,88 @@ std::unique_ptr<platform::Claim> FakeFiles::claim(const std::string& path) {
   return std::make_unique<Claimed>(claimed_, key(path));
 }
 
-bool FakeFiles::is_file(const std::string& path) const {
-  const Node* node = find(path);
-  return node != nullptr && !node->folder && !missing(path);
+/// The logbook as it lies in the fake.
+class FakeFiles::Log : public platform::LockedLog {
+ public:
+  Log(FakeFiles& files, std::string path, bool created)
+      : files_(files), path_(std::move(path)), created_(created), drop_(created) {
+    size_ = files_.find(path_)->content.size();
+    files_.held_.insert(files_.key(path_));
+  }
+  // A program that was killed tidies nothing.
+  ~Log() override {
+    files_.held_.erase(files_.key(path_));
+    if (drop_ && size_ == 0 && !files_.killed_)
+      std::erase_if(files_.nodes_, [&](const Node& node) {
+        return files_.key(node.path) == files_.key(path_) && node.content.empty();
+      });
+  }
+  Log(const Log&) = delete;
+  Log& operator=(const Log&) = delete;
+
+  [[nodiscard]] bool is_locked() const override { return !files_.lockless_; }
+  [[nodiscard]] bool created() const override { return created_; }
+  [[nodiscard]] std::uint64_t size() const override { return size_; }
+  void drop_if_empty() override { drop_ = true; }
+  [[nodiscard]] platform::Result<std::string> read(std::uint64_t from,
+                                                   std::uint64_t count) const override {
+    const FileError error = files_.end(files_.begin(Operation::kReadLog, path_));
+    if (error != FileError::kNone) return error;
+    const std::string& content = files_.find(path_)->content;
+    return from >= content.size() ? std::string() : content.substr(from, count);
+  }
+  [[nodiscard]] FileError append(std::string_view content) override {
+    FileError error = files_.begin(Operation::kAppend, path_);
+    if (error == FileError::kNone) error = files_.writable(path_, content.size());
+    if (error == FileError::kNone) {
+      files_.find(path_)->content.append(content);
+      size_ += content.size();
+    }
+    return files_.end(error);
+  }
+  [[nodiscard]] FileError cut(std::uint64_t size) override {
+    const FileError error = files_.begin(Operation::kCut, path_);
+    if (error == FileError::kNone) {
+      files_.find(path_)->content.resize(size);
+      size_ = size;
+    }
+    return files_.end(error);
+  }
+
+ private:
+  FakeFiles& files_;
+  std::string path_;
+  bool created_;
+  bool drop_;
+  std::uint64_t size_;
+};
+
+platform::Result<std::unique_ptr<platform::LockedLog>> FakeFiles::lock_log(
+    const std::string& path) {
+  FileError error = begin(Operation::kLock, path);
+  if (error == FileError::kNone) error = writable(path, 0);
+  if (error == FileError::kNone && held_.contains(key(path))) error = FileError::kLocked;
+  if (error == FileError::kNone && find(path) != nullptr && find(path)->other)
+    error = FileError::kNotAFile;
+  const bool created = find(path) == nullptr;
+  if (error == FileError::kNone && created) put(path, "");
+  if (end(error) != FileError::kNone) return error;
+  return platform::Result<std::unique_ptr<platform::LockedLog>>(
+      std::make_unique<Log>(*this, path, created));
 }
 
-bool FakeFiles::is_folder(const std::string& path) const {
-  if (missing(path)) return false;
+platform::Look FakeFiles::look(const std::string& path) const {
+  using platform::There;
   const std::string wanted = key(path);
-  if (wanted.size() == 2) return true;
+  if (const auto at = look_errors_.find(wanted); at != look_errors_.end())
+    return {There::kCannotTell, at->second};
+  if (missing(path)) return {There::kCannotTell, FileError::kMediumMissing};
+  if (wanted.size() == 2) return {There::kFolder};
   const Node* node = find(path);
-  return node != nullptr && node->folder;
-}
-
-std::optional<std::uint64_t> FakeFiles::size(const std::string& path) const {
-  if (!is_file(path)) return std::nullopt;
-  return find(path)->content.size();
+  if (node == nullptr) return {};
+  if (node->folder) return {There::kFolder};
+  if (node->other) return {There::kOther};
+  return {There::kFile, FileError::kNone, node->content.size()};
 }
 
 std::optional<platform::DateTime> FakeFiles::modified(const std::string& path) const {
@@ -303,7 +378,7 @@ platform::Result<std::vector<platform::FolderEntry>> FakeFiles::list(
   if (end(error) != FileError::kNone) return error;
   std::vector<platform::FolderEntry> result;
   for (const Node& node : nodes_) {
-    if (parent(key(node.path)) != key(folder)) continue;
+    if (node.other || parent(key(node.path)) != key(folder)) continue;
     const auto at = node.path.find_last_of("\\/");
     result.push_back({node.path.substr(at + 1), node.folder});
   }
@@ -324,7 +399,10 @@ FileError FakeFiles::copy(const std::string& from, const std::string& to) {
   const Node* node = find(from);
   if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
   if (error == FileError::kNone && node->folder) error = FileError::kAccessDenied;
+  if (error == FileError::kNone && node->other) error = FileError::kNotAFile;
   if (error == FileError::kNone) error = writable(to, node->content.size());
+  if (error == FileError::kNone && find(to) != nullptr && find(to)->other)
+    error = FileError::kNotAFile;
   if (error == FileError::kNone) {
     const std::string content = node->content;
     put(to, content);

@@ -30,8 +30,11 @@ class FakeFiles : public platform::Files {
     kStage,
     kCommit,
     kDiscard,
+    kNote,
+    kLock,
+    kReadLog,
     kAppend,
-    kTakeBack,
+    kCut,
     kList,
     kCreateFolder,
     kCopy,
@@ -50,8 +53,16 @@ class FakeFiles : public platform::Files {
   void add_folder(const std::string& path);
   void set_modified(const std::string& path, platform::DateTime when);
   void set_read_only(const std::string& path, bool read_only = true);
+  /// Another program holds the logbook until this is undone.
+  void set_held(const std::string& path, bool held = true);
+  /// The file system knows no locks.
+  void set_lockless() { lockless_ = true; }
+  /// The program is started again: what it staged before is that of a process that is no more.
+  void restart() { ++process_; }
   /// Bytes free on a drive; writing more is kNoSpace. Unlimited when never set.
   void set_free_space(char drive, std::uint64_t bytes);
+  /// A pipe, a device or a socket lies there, in its folder.
+  void add_other(const std::string& path);
   /// Everything on the drive answers kMediumMissing.
   void set_medium_missing(char drive, bool missing = true);
 
@@ -68,6 +79,8 @@ class FakeFiles : public platform::Files {
   void fail_at(int n, platform::FileError error);
   /// Every operation on that path fails.
   void fail_path(const std::string& path, platform::FileError error);
+  /// Looking at that path cannot tell what is there, whatever is.
+  void fail_look(const std::string& path, platform::FileError error);
   /// The program dies before (after) the n-th operation from now on.
   void kill_before(int n);
   void kill_after(int n);
@@ -89,16 +102,19 @@ class FakeFiles : public platform::Files {
                                                                            << 20U) const override;
   [[nodiscard]] platform::Result<platform::StagedFile> stage(const std::string& path,
                                                              std::string_view content) override;
-  [[nodiscard]] platform::FileError commit(const platform::StagedFile& staged) override;
+  [[nodiscard]] platform::FileError commit(const platform::StagedFile& staged,
+                                           platform::Over over = platform::Over::kReplace) override;
   void discard(const platform::StagedFile& staged) override;
-  [[nodiscard]] platform::Result<platform::AppendMark> append(const std::string& path,
-                                                              std::string_view content) override;
-  [[nodiscard]] platform::FileError take_back(const platform::AppendMark& mark) override;
+  [[nodiscard]] platform::FileError note(const std::string& path,
+                                         std::string_view content) override;
+  [[nodiscard]] platform::Result<std::unique_ptr<platform::LockedLog>> lock_log(
+      const std::string& path) override;
+  [[nodiscard]] bool is_running(std::uint64_t process) const override {
+    return process == process_;
+  }
+  [[nodiscard]] platform::Look look(const std::string& path) const override;
   /// Null in a folder that is read-only or not there. A claim leaves no file.
   [[nodiscard]] std::unique_ptr<platform::Claim> claim(const std::string& path) override;
-  [[nodiscard]] bool is_file(const std::string& path) const override;
-  [[nodiscard]] bool is_folder(const std::string& path) const override;
-  [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const override;
   [[nodiscard]] std::optional<platform::DateTime> modified(const std::string& path) const override;
   [[nodiscard]] platform::Result<std::vector<platform::FolderEntry>> list(
       const std::string& folder) const override;
@@ -112,9 +128,12 @@ class FakeFiles : public platform::Files {
   void set_current_folder(const std::string& folder) override { current_folder_ = folder; }
 
  private:
+  class Log;
+
   struct Node {
     std::string path;  ///< as first written
     bool folder = false;
+    bool other = false;  ///< neither a file nor a folder
     bool read_only = false;
     std::string content;
     platform::DateTime modified;
@@ -134,10 +153,16 @@ class FakeFiles : public platform::Files {
   [[nodiscard]] platform::FileError writable(const std::string& path, std::uint64_t more) const;
 
   std::vector<Node> nodes_;
+  std::set<std::string> held_;
+  std::uint64_t process_ = 1;
+  unsigned staged_count_ = 0;
+  bool lockless_ = false;
+  mutable bool killed_ = false;
   std::map<char, std::uint64_t> free_space_;
   std::set<char> missing_;
   std::set<std::string> claimed_;
   std::map<std::string, platform::FileError> path_errors_;
+  std::map<std::string, platform::FileError> look_errors_;
   mutable std::map<Operation, std::vector<platform::FileError>> next_errors_;
   mutable std::map<int, platform::FileError> errors_at_;
   std::set<int> kills_before_;

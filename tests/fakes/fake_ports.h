@@ -129,25 +129,22 @@ class NoFiles : public platform::Files {
                                                              std::string_view) override {
     return platform::FileError::kAccessDenied;
   }
-  [[nodiscard]] platform::FileError commit(const platform::StagedFile&) override {
+  [[nodiscard]] platform::FileError commit(const platform::StagedFile&, platform::Over) override {
     return platform::FileError::kAccessDenied;
   }
   void discard(const platform::StagedFile&) override {}
-  [[nodiscard]] platform::Result<platform::AppendMark> append(const std::string&,
-                                                              std::string_view) override {
+  [[nodiscard]] platform::FileError note(const std::string&, std::string_view) override {
     return platform::FileError::kAccessDenied;
   }
-  [[nodiscard]] platform::FileError take_back(const platform::AppendMark&) override {
+  [[nodiscard]] platform::Result<std::unique_ptr<platform::LockedLog>> lock_log(
+      const std::string&) override {
     return platform::FileError::kAccessDenied;
   }
   [[nodiscard]] std::unique_ptr<platform::Claim> claim(const std::string&) override {
     return nullptr;
   }
-  [[nodiscard]] bool is_file(const std::string&) const override { return false; }
-  [[nodiscard]] bool is_folder(const std::string&) const override { return false; }
-  [[nodiscard]] std::optional<std::uint64_t> size(const std::string&) const override {
-    return std::nullopt;
-  }
+  [[nodiscard]] bool is_running(std::uint64_t) const override { return true; }
+  [[nodiscard]] platform::Look look(const std::string&) const override { return {}; }
   [[nodiscard]] std::optional<platform::DateTime> modified(const std::string&) const override {
     return std::nullopt;
   }

@@ -312,11 +312,13 @@ TEST(SaveFlow, WithoutAFolderNothingIsWrittenAnywhere) {
 TEST(SaveFlow, EveryFailedWriteLeavesBothFilesAndSaysSo) {
   for (const FileError error : {FileError::kAccessDenied, FileError::kNoSpace,
                                 FileError::kMediumMissing, FileError::kOther}) {
-    for (int n = 1; n <= 3; ++n) {
+    using Operation = FakeFiles::Operation;
+    for (const Operation operation : {Operation::kLock, Operation::kStage, Operation::kNote,
+                                      Operation::kAppend, Operation::kCommit}) {
       in_both_languages([&](Save& s) {
         s.files.add_file(kReport, "old report");
         s.files.add_file(kLogbook, "old line\n");
-        s.files.fail_at(n, error);
+        s.files.fail_next(operation, error);
         s.world.windows.expect(id::kAskReplaceReport, "yes");
         s.world.windows.expect(id::kSaveFailed);
         s.expect_nothing_written(SaveEnd::kNotSaved);
@@ -328,6 +330,127 @@ TEST(SaveFlow, EveryFailedWriteLeavesBothFilesAndSaysSo) {
         EXPECT_EQ(s.logbook(), "old line\n" + s.line());
       });
     }
+  }
+}
+
+// The box shows the text of the id with these words in its places.
+void expect_words(const platform::MessageBox& box, int id, text::Language language,
+                  std::initializer_list<std::string_view> words) {
+  EXPECT_EQ(box.text_id, id);
+  EXPECT_EQ(box.text, text::fill(text::bilingual(id, language), words));
+}
+
+constexpr text::Language kLanguages[] = {text::Language::kEnglish, text::Language::kJapanese};
+
+TEST(SaveFlow, AHeldLogbookIsTriedAgainOrLeft) {
+  for (const text::Language language : kLanguages) {
+    Save s;
+    s.world.texts.language = language;
+    s.files.set_held(kLogbook);
+    s.world.windows.expect(id::kLogbookLocked, "cancel");
+    s.world.windows.expect(id::kSaveCancelled);
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    const platform::MessageBox& box = s.world.windows.boxes.front();
+    expect_words(box, id::kLogbookLocked, language, {kLogbook});
+    const bool english = language == text::Language::kEnglish;
+    EXPECT_EQ(box.buttons.at(0).label, english ? "Retry" : "再試行");
+    EXPECT_EQ(box.buttons.at(1).label, english ? "Cancel" : "キャンセル");
+    EXPECT_EQ(box.close_result, box.buttons.at(1).result);
+
+    s.world.windows.expect(id::kLogbookLocked, "retry");
+    s.world.windows.expect(id::kLogbookLocked, "cancel");
+    s.world.windows.expect(id::kSaveCancelled);
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+
+    s.files.set_held(kLogbook, false);
+    s.files.fail_next(FakeFiles::Operation::kLock, FileError::kLocked);
+    s.world.windows.expect(id::kLogbookLocked, "retry");
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), SaveEnd::kSaved);
+    EXPECT_EQ(s.logbook(), s.line());
+  }
+}
+
+TEST(SaveFlow, ADriveWithoutLocksIsToldOnceInARun) {
+  Save s;
+  s.files.set_lockless();
+  s.world.windows.expect(id::kLogbookWithoutLock);
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(s.save(), SaveEnd::kSaved);
+  expect_words(s.world.windows.boxes.front(), id::kLogbookWithoutLock, text::Language::kEnglish,
+               {kLogbook});
+  s.world.windows.expect(id::kAskReplaceReport, "yes");
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(s.save(), SaveEnd::kSaved);
+}
+
+TEST(SaveFlow, ADamagedLastLineIsToldWithItsNumber) {
+  Save s;
+  s.files.add_file(kLogbook, "whole\nhal");
+  s.world.windows.expect(id::kLogbookLineClosed);
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(s.save(), SaveEnd::kSaved);
+  EXPECT_EQ(s.logbook(), "whole\nhal\n" + s.line());
+  expect_words(s.world.windows.boxes.front(), id::kLogbookLineClosed, text::Language::kEnglish,
+               {"2", kLogbook});
+}
+
+TEST(SaveFlow, ALineThatCouldNotBeTakenBackIsTold) {
+  Save s;
+  s.files.fail_next(FakeFiles::Operation::kCommit, FileError::kOther);
+  s.files.fail_next(FakeFiles::Operation::kCut, FileError::kOther);
+  s.world.windows.expect(id::kSaveLineLeft);
+  s.world.windows.expect(id::kSaveFailed);
+  EXPECT_EQ(s.save(), SaveEnd::kNotSaved);
+  EXPECT_EQ(s.logbook(), s.line());
+  expect_words(s.world.windows.boxes.front(), id::kSaveLineLeft, text::Language::kEnglish,
+               {kLogbook});
+  // The next save takes it back first, says so, and leaves one line.
+  s.world.windows.expect(id::kSaveTakenBack);
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(s.save(), SaveEnd::kSaved);
+  EXPECT_EQ(s.logbook(), s.line());
+}
+
+TEST(SaveFlow, AReportThatAppearsMeanwhileIsAskedAbout) {
+  Save s;
+  s.files.fail_next(FakeFiles::Operation::kCommit, FileError::kExists);
+  s.world.windows.expect(id::kAskReplaceReport, "yes");
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(s.save(), SaveEnd::kSaved);
+  EXPECT_EQ(s.logbook(), s.line());
+  Save no;
+  no.files.fail_next(FakeFiles::Operation::kCommit, FileError::kExists);
+  no.world.windows.expect(id::kAskReplaceReport, "no");
+  no.expect_nothing_written(SaveEnd::kNotSaved);
+}
+
+TEST(SaveFlow, EveryEndOfAnInterruptedSaveIsToldInBothLanguages) {
+  using observation::Recovered;
+  const struct {
+    Recovered outcome;
+    int id;
+    std::vector<std::string_view> words;
+  } rows[] = {
+      {Recovered::kFinished, id::kSaveFinished, {"14111512.tlx", "7"}},
+      {Recovered::kTakenBack, id::kSaveTakenBack, {"14111512.tlx"}},
+      {Recovered::kLineLeft, id::kSaveLineWithoutReport, {"14111512.tlx", "7"}},
+      {Recovered::kPutAside, id::kSaveNoteDamaged, {"C:\\log\\.kavrel-save-damaged"}},
+  };
+  for (const text::Language language : kLanguages) {
+    for (const auto& row : rows) {
+      Save s;
+      s.world.texts.language = language;
+      s.world.windows.expect(row.id);
+      mainwindow::tell_recovery(s.world.services, s.folders, {row.outcome, "14111512.tlx", 7});
+      const std::string& told = s.world.windows.boxes.back().text;
+      for (const std::string_view word : row.words)
+        EXPECT_NE(told.find(word), std::string::npos) << told;
+      EXPECT_EQ(told.find('%'), std::string::npos) << told;
+    }
+    Save s;
+    mainwindow::tell_recovery(s.world.services, s.folders, {});
+    EXPECT_TRUE(s.world.windows.boxes.empty());
   }
 }
 
@@ -423,10 +546,15 @@ TEST(SaveFlow, AFullDiskIsExchangedOrGivenUp) {
   }
 }
 
-TEST(SaveFlow, RoomIsEnoughForBothFilesToTheByte) {
+TEST(SaveFlow, RoomIsEnoughForBothFilesAndTheNoteBesideThemToTheByte) {
   Save s;
   s.removable_logbook();
-  const std::uint64_t needed = s.message().size() + s.line().size() + 1;
+  const std::uint64_t files = s.message().size() + s.line().size() + 1;
+  const std::uint64_t needed =
+      observation::room_for({kReport, "A:\\immt5.log", s.message(),
+                             observation::encode_logbook(s.record, s.ship, s.items)});
+  EXPECT_GT(needed, files + s.line().size()) << "the note holds the line";
+  EXPECT_LT(needed, files + 1000);
   s.files.set_free_space('A', needed - 1);
   s.world.windows.expect(id::kDiskFull, "cancel");
   s.world.windows.expect(id::kSaveCancelled);

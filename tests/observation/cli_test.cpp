@@ -1,6 +1,9 @@
 // The commands as a user runs them: the real program, real files.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -495,6 +498,88 @@ TEST_F(Cli, AFailedSaveLeavesBothFilesAsTheyWere) {
   EXPECT_NE(outcome.error.find("immt5.log cannot be written: "), std::string::npos)
       << outcome.error;
   EXPECT_EQ(saved(), std::vector<std::string>{"immt5.log"});
+}
+
+// ---- What a save leaves and finds
+
+TEST_F(Cli, SaveLeavesNothingBesideItsFilesAndClearsWhatDeadProcessesLeft) {
+  const std::string name = file("a.obs", kObservation);
+  ASSERT_EQ(run("save --reports reports --logbook logbook " + name).status, 0);
+  const std::string report = slurp(folder_ / "reports/14111512.tlx");
+  const std::string line = slurp(folder_ / "logbook/immt5.log");
+  EXPECT_EQ(saved().size(), 2U) << "and nothing beside them";
+  // A staged file of a process that is no more is cleared by the next save.
+  file("reports/.kavrel-999999999-0.part", "x");
+  file("logbook/.kavrel-999999999-1.part", "x");
+  const Outcome again = run("save --reports reports --logbook logbook --replace " + name);
+  EXPECT_EQ(again.status, 0) << again.error;
+  EXPECT_EQ(again.error, "");
+  EXPECT_EQ(slurp(folder_ / "logbook/immt5.log"), line + line);
+  EXPECT_EQ(saved().size(), 2U);
+}
+
+TEST_F(Cli, SavePutsADamagedNoteAsideAndSaysSo) {
+  const std::string name = file("a.obs", kObservation);
+  file("logbook/.kavrel-save", "damaged");
+  const Outcome outcome = run("save --reports reports --logbook logbook " + name);
+  EXPECT_EQ(outcome.status, 0) << outcome.error;
+  EXPECT_EQ(outcome.error,
+            "kavrel-cli: what was noted about an interrupted save is damaged and has been put "
+            "aside as " +
+                (folder_ / "logbook/.kavrel-save-damaged").string() + "\n");
+  EXPECT_EQ(slurp(folder_ / "logbook/.kavrel-save-damaged"), "damaged");
+  EXPECT_EQ(run("save --reports reports --logbook logbook --replace " + name).error, "")
+      << "told once";
+}
+
+TEST_F(Cli, SaveTellsADamagedLastLine) {
+  const std::string name = file("a.obs", kObservation);
+  file("logbook/immt5.log", "whole\nhal");
+  const Outcome outcome = run("save --reports reports --logbook logbook " + name);
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.error, "kavrel-cli: " + (folder_ / "logbook/immt5.log").string() +
+                               ": line 2 had no end and is damaged; it has been closed\n");
+  EXPECT_TRUE(slurp(folder_ / "logbook/immt5.log").starts_with("whole\nhal\n3"));
+}
+
+TEST_F(Cli, SaveNeverWaitsForAPipeAndNamesIt) {
+  const std::string name = file("a.obs", kObservation);
+  for (const char* pipe : {"reports/14111512.tlx", "logbook/immt5.log"}) {
+    ASSERT_EQ(::mkfifo((folder_ / pipe).c_str(), 0600), 0);
+    const Outcome outcome = run("save --reports reports --logbook logbook " + name);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_NE(outcome.error.find((folder_ / pipe).string() +
+                                 " cannot be written: a pipe or a device, not a file"),
+              std::string::npos)
+        << outcome.error;
+    EXPECT_EQ(saved().size(), 1U) << "only the pipe";
+    fs::remove(folder_ / pipe);
+  }
+}
+
+TEST_F(Cli, SaveAboveTheLimitOfSizeIsAFullDisk) {
+  const std::string name = file("a.obs", kObservation);
+  const std::string command = "cd '" + folder_.string() + "' && (ulimit -f 0; exec " + KAVREL_CLI +
+                              " save --reports reports --logbook logbook a.obs) 2>&1 | cat >out";
+  ASSERT_EQ(std::system(command.c_str()), 0);
+  EXPECT_NE(slurp(folder_ / "out").find("cannot be written: no space left"), std::string::npos)
+      << slurp(folder_ / "out");
+  EXPECT_TRUE(saved().empty());
+}
+
+TEST_F(Cli, SaveGivesUpAHeldLogbook) {
+  const std::string name = file("a.obs", kObservation);
+  file("logbook/immt5.log", "held\n");
+  const int held = ::open((folder_ / "logbook/immt5.log").c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(::flock(held, LOCK_EX), 0);
+  const Outcome outcome = run("save --reports reports --logbook logbook " + name);
+  ::close(held);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_NE(outcome.error.find("immt5.log cannot be written: another program holds it"),
+            std::string::npos)
+      << outcome.error;
+  EXPECT_EQ(slurp(folder_ / "logbook/immt5.log"), "held\n");
+  EXPECT_EQ(saved().size(), 1U);
 }
 
 }  // namespace

@@ -135,6 +135,8 @@ TEST(ReportContent, HoldsASpaceForEveryAmpersand) {
 
 const std::string kReport = "C:\\out\\14111512.tlx";
 const std::string kLogbook = "C:\\log\\immt5.log";
+const std::string kJournal = "C:\\log\\.kavrel-save";
+const std::string kPutAside = "C:\\log\\.kavrel-save-damaged";
 using Snapshot = std::map<std::string, std::string>;
 
 SaveRequest request(bool replace = true) {
@@ -162,15 +164,18 @@ TEST(Save, WritesBothFiles) {
   FakeFiles files = folders();
   EXPECT_EQ(observation::save(files, request(false)).outcome, SaveOutcome::kSaved);
   EXPECT_EQ(files.snapshot(), (Snapshot{{kReport, "BBXX NEW ....."}, {kLogbook, "LINE2\n"}}));
-  EXPECT_EQ(files.log(), (std::vector<std::string>{"stage " + kReport, "append " + kLogbook,
-                                                   "commit " + kReport}));
+  EXPECT_EQ(files.log(),
+            (std::vector<std::string>{"lock " + kLogbook, "list C:\\out\\", "list C:\\log\\",
+                                      "stage " + kReport, "note " + kJournal, "append " + kLogbook,
+                                      "commit " + kReport, "remove " + kJournal}));
 }
 
 TEST(Save, ExistingReportIsReplacedOnlyWhenAllowed) {
   FakeFiles files = with_old_files();
   EXPECT_EQ(observation::save(files, request(false)).outcome, SaveOutcome::kAlreadyExists);
   EXPECT_EQ(files.snapshot(), kOld);
-  EXPECT_TRUE(files.log().empty());
+  for (const std::string& done : files.log())
+    EXPECT_TRUE(done.starts_with("lock") || done.starts_with("list")) << done;
   EXPECT_EQ(observation::save(files, request(true)).outcome, SaveOutcome::kSaved);
   EXPECT_EQ(files.snapshot(), kNew);
 }
@@ -183,39 +188,112 @@ TEST(Save, TheSameObservationTwiceLeavesTwoLines) {
   EXPECT_EQ(files.content(kLogbook), "LINE2\nLINE2\n");
 }
 
+/// Which operation of a save into old files is the n-th.
+std::string operation_of(int n) {
+  FakeFiles files = with_old_files();
+  (void)observation::save(files, request());
+  const std::string& done = files.log()[static_cast<std::size_t>(n) - 1];
+  return done.substr(0, done.find(' '));
+}
+int operations() {
+  FakeFiles files = with_old_files();
+  (void)observation::save(files, request());
+  return files.operations();
+}
+
 TEST(Save, EveryOperationThatFailsLeavesBothFilesAsTheyWere) {
-  constexpr FileError kErrors[] = {FileError::kNotFound, FileError::kAccessDenied,
-                                   FileError::kNoSpace, FileError::kMediumMissing,
-                                   FileError::kOther};
+  constexpr FileError kErrors[] = {FileError::kNotFound,    FileError::kAccessDenied,
+                                   FileError::kNoSpace,     FileError::kMediumMissing,
+                                   FileError::kTooManyOpen, FileError::kOther};
+  const std::map<std::string, SaveOutcome> failures = {
+      {"lock", SaveOutcome::kLogbookFailed},   {"read_log", SaveOutcome::kLogbookFailed},
+      {"stage", SaveOutcome::kReportFailed},   {"note", SaveOutcome::kLogbookFailed},
+      {"append", SaveOutcome::kLogbookFailed}, {"commit", SaveOutcome::kReportFailed}};
   for (const FileError error : kErrors) {
-    for (int n = 1; n <= 3; ++n) {
-      for (const bool existed : {true, false}) {
-        FakeFiles files = existed ? with_old_files() : folders();
-        const Snapshot before = files.snapshot();
-        files.fail_at(n, error);
-        const auto result = observation::save(files, request());
-        EXPECT_EQ(result.outcome, n == 2 ? SaveOutcome::kLogbookFailed : SaveOutcome::kReportFailed)
-            << n;
-        EXPECT_EQ(result.error, error) << n;
-        EXPECT_EQ(files.snapshot(), before) << n;
+    for (int n = 1; n <= operations(); ++n) {
+      FakeFiles files = with_old_files();
+      files.fail_at(n, error);
+      const std::string what = operation_of(n);
+      const auto result = observation::save(files, request());
+      if (const auto failure = failures.find(what); failure != failures.end()) {
+        EXPECT_EQ(result.outcome, failure->second) << what;
+        EXPECT_EQ(result.error, error) << what;
+        EXPECT_EQ(files.snapshot(), kOld) << what;
+      } else {
+        // Neither the clearing of old staged files nor that of the journal decides over a save.
+        EXPECT_EQ(result.outcome, SaveOutcome::kSaved) << what;
+        EXPECT_EQ(files.content(kReport), kNew.at(kReport));
+        EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook));
       }
     }
   }
 }
 
-TEST(Save, ALineThatCannotBeTakenBackIsSaid) {
+TEST(Save, AReportThatCannotBeSeenIsNotTakenForMissing) {
+  FakeFiles files = with_old_files();
+  files.fail_look(kReport, FileError::kAccessDenied);
+  const auto result = observation::save(files, request(false));
+  EXPECT_EQ(result.outcome, SaveOutcome::kReportFailed);
+  EXPECT_EQ(result.error, FileError::kAccessDenied);
+  EXPECT_EQ(files.snapshot(), kOld);
+}
+
+TEST(Save, AHeldLogbookIsSaidAndNothingIsDone) {
+  FakeFiles files = with_old_files();
+  files.set_held(kLogbook);
+  const auto result = observation::save(files, request());
+  EXPECT_EQ(result.outcome, SaveOutcome::kLogbookFailed);
+  EXPECT_EQ(result.error, FileError::kLocked);
+  EXPECT_EQ(files.snapshot(), kOld);
+}
+
+TEST(Save, ADriveWithoutLocksIsSaid) {
+  FakeFiles files = with_old_files();
+  EXPECT_FALSE(observation::save(files, request()).without_lock);
+  files.set_lockless();
+  const auto result = observation::save(files, request());
+  EXPECT_EQ(result.outcome, SaveOutcome::kSaved);
+  EXPECT_TRUE(result.without_lock);
+}
+
+TEST(Save, ALastLineWithoutItsEndIsClosedAndTold) {
+  for (const auto& [before, number] : {std::pair("LI", 1U), std::pair("LINE1\nLIN", 2U),
+                                       std::pair("LINE1\nLINE2\r", 2U), std::pair("\n\nX", 3U)}) {
+    FakeFiles files = with_old_files();
+    files.add_file(kLogbook, before);
+    const auto result = observation::save(files, request());
+    EXPECT_EQ(result.outcome, SaveOutcome::kSaved);
+    EXPECT_EQ(result.closed_line, number);
+    EXPECT_EQ(files.content(kLogbook), std::string(before) + "\nLINE2\n");
+    EXPECT_EQ(observation::save(files, request()).closed_line, 0U) << "told once";
+  }
+  FakeFiles files = with_old_files();
+  files.add_file(kLogbook, "LINE1\nLIN");
+  files.fail_next(FakeFiles::Operation::kCommit, FileError::kOther);
+  EXPECT_EQ(observation::save(files, request()).closed_line, 0U);
+  EXPECT_EQ(files.content(kLogbook), "LINE1\nLIN") << "as it was, with all that is wrong with it";
+}
+
+TEST(Save, ALineThatCannotBeTakenBackIsSaidAndTakenBackTheNextTime) {
   FakeFiles files = with_old_files();
   files.fail_next(FakeFiles::Operation::kCommit, FileError::kAccessDenied);
-  files.fail_next(FakeFiles::Operation::kTakeBack, FileError::kOther);
+  files.fail_next(FakeFiles::Operation::kCut, FileError::kOther);
   const auto result = observation::save(files, request());
   EXPECT_EQ(result.outcome, SaveOutcome::kLineLeft);
   EXPECT_EQ(result.error, FileError::kAccessDenied);
-  EXPECT_EQ(files.snapshot(),
-            (Snapshot{{kReport, "BBXX OLD ....."}, {kLogbook, "LINE1\nLINE2\n"}}));
+  EXPECT_EQ(files.content(kReport), kOld.at(kReport));
+  EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook));
+  FakeFiles later = files;
+  const auto recovery = observation::recover(later, "C:\\out\\", "C:\\log");
+  EXPECT_EQ(recovery.outcome, observation::Recovered::kTakenBack);
+  EXPECT_EQ(recovery.report, "14111512.tlx");
+  EXPECT_EQ(later.snapshot(), kOld);
+  EXPECT_EQ(observation::save(files, request()).outcome, SaveOutcome::kSaved);
+  EXPECT_EQ(files.snapshot(), kNew) << "one line";
 }
 
-TEST(Save, AKillBetweenAnyTwoStepsLeavesEachFileWholeOldOrNew) {
-  for (int n = 1; n <= 3; ++n) {
+TEST(Save, AKillBetweenAnyTwoStepsIsRepairedByTheNextStart) {
+  for (int n = 1; n <= operations(); ++n) {
     for (const bool after : {false, true}) {
       FakeFiles files = with_old_files();
       if (after)
@@ -223,20 +301,162 @@ TEST(Save, AKillBetweenAnyTwoStepsLeavesEachFileWholeOldOrNew) {
       else
         files.kill_before(n);
       EXPECT_THROW((void)observation::save(files, request()), FakeFiles::Killed);
-      const auto report = files.content(kReport);
-      const auto logbook = files.content(kLogbook);
-      EXPECT_TRUE(report == kOld.at(kReport) || report == kNew.at(kReport)) << n << after;
-      EXPECT_TRUE(logbook == kOld.at(kLogbook) || logbook == kNew.at(kLogbook)) << n << after;
-      if (report == kNew.at(kReport)) {
-        EXPECT_EQ(logbook, kNew.at(kLogbook)) << "a replaced report has its line";
-      }
-      for (const auto& [path, content] : files.snapshot())
-        EXPECT_TRUE(path == kReport || path == kLogbook || !path.ends_with(".tlx")) << path;
-      // The next start saves the same observation again.
       files.heal();
-      EXPECT_EQ(observation::save(files, request()).outcome, SaveOutcome::kSaved);
-      EXPECT_EQ(files.content(kReport), kNew.at(kReport));
+      files.restart();
+      (void)observation::recover(files, "C:\\out", "C:\\log\\");
+      const auto now = files.snapshot();
+      EXPECT_TRUE(now == kOld || now == kNew) << n << after;
+      // The very same save again doubles nothing unless it had been told as done.
+      if (now == kOld) {
+        EXPECT_EQ(observation::save(files, request()).outcome, SaveOutcome::kSaved);
+        EXPECT_EQ(files.snapshot(), kNew);
+      }
     }
+  }
+}
+
+// ---- What an interrupted save left
+
+/// Old files and what a save leaves that is killed before its last rename.
+FakeFiles interrupted(bool existed = true, bool replace = true) {
+  FakeFiles files = existed ? with_old_files() : folders();
+  FakeFiles trial = files;
+  (void)observation::save(trial, request(replace));
+  int commit = 1;
+  while (!trial.log()[static_cast<std::size_t>(commit) - 1].starts_with("commit")) ++commit;
+  files.kill_before(commit);
+  EXPECT_THROW((void)observation::save(files, request(replace)), FakeFiles::Killed);
+  files.heal();
+  files.restart();
+  files.clear_log();
+  return files;
+}
+
+observation::Recovery recover(FakeFiles& files) {
+  return observation::recover(files, "C:\\out\\", "C:\\log\\");
+}
+
+TEST(Recover, DoesNothingWhereNothingWasLeft) {
+  FakeFiles files = folders();
+  EXPECT_EQ(recover(files).outcome, observation::Recovered::kNothing);
+  EXPECT_TRUE(files.snapshot().empty()) << "no logbook comes of it";
+  EXPECT_EQ(observation::recover(files, "", "C:\\log").outcome, observation::Recovered::kNothing);
+  EXPECT_EQ(observation::recover(files, "C:\\out", "").outcome, observation::Recovered::kNothing);
+}
+
+TEST(Recover, FinishesWhatOnlyWantsItsRename) {
+  for (const bool existed : {true, false}) {
+    FakeFiles files = interrupted(existed);
+    const auto recovery = recover(files);
+    EXPECT_EQ(recovery.outcome, observation::Recovered::kFinished);
+    EXPECT_EQ(recovery.report, "14111512.tlx");
+    EXPECT_EQ(recovery.line, existed ? 2U : 1U);
+    EXPECT_EQ(files.content(kReport), kNew.at(kReport));
+    EXPECT_EQ(files.content(kLogbook), existed ? kNew.at(kLogbook) : "LINE2\n");
+    EXPECT_EQ(files.snapshot().size(), 2U);
+  }
+}
+
+TEST(Recover, NeverReplacesAReportThatTheSaveWasNotToReplace) {
+  FakeFiles files = interrupted(false, false);
+  files.add_file(kReport, "theirs");
+  EXPECT_EQ(recover(files).outcome, observation::Recovered::kTakenBack);
+  EXPECT_EQ(files.snapshot(), (Snapshot{{kReport, "theirs"}})) << "and no logbook, as before";
+}
+
+TEST(Recover, LeavesALineBetweenOthersAndTellsWhich) {
+  FakeFiles files = interrupted();
+  for (const auto& [path, content] : files.snapshot())
+    if (path.ends_with(".part")) files.discard({path, path});
+  files.add_file(kLogbook, "LINE1\nLINE2\nLINE3\n");
+  const auto recovery = recover(files);
+  EXPECT_EQ(recovery.outcome, observation::Recovered::kLineLeft);
+  EXPECT_EQ(recovery.line, 2U);
+  EXPECT_EQ(files.snapshot(),
+            (Snapshot{{kReport, kOld.at(kReport)}, {kLogbook, "LINE1\nLINE2\nLINE3\n"}}));
+}
+
+TEST(Recover, CutsOffOnlyWhatTheSaveWrote) {
+  for (const char* behind : {"L", "LINE2", "LINE3", "LINE3\nLINE4\n", "x"}) {
+    FakeFiles files = interrupted();
+    const std::string logbook = std::string("LINE1\n") + behind;
+    files.add_file(kLogbook, logbook);
+    const bool ours = std::string("LINE2\n").starts_with(behind);
+    const auto recovery = recover(files);
+    EXPECT_EQ(recovery.outcome,
+              ours ? observation::Recovered::kTakenBack : observation::Recovered::kPutAside)
+        << behind;
+    EXPECT_EQ(files.content(kLogbook), ours ? "LINE1\n" : logbook) << behind;
+    EXPECT_EQ(files.content(kReport), kOld.at(kReport));
+    EXPECT_EQ(files.content(kPutAside).has_value(), !ours);
+  }
+}
+
+TEST(Recover, PutsAsideWhatIsNoJournalOfTheseFiles) {
+  const std::string whole = *interrupted().content(kJournal);
+  std::string changed = whole;
+  changed[changed.size() / 2] ^= 1;
+  for (const std::string& journal :
+       {std::string(), whole.substr(0, whole.size() / 2), changed, "kavrel-save 2\n" + whole,
+        std::string("anything"), std::string(2U << 20U, 'x')}) {
+    FakeFiles files = interrupted();
+    files.add_file(kJournal, journal);
+    EXPECT_EQ(recover(files).outcome, observation::Recovered::kPutAside);
+    EXPECT_EQ(files.content(kPutAside), journal);
+    EXPECT_FALSE(files.content(kJournal));
+    EXPECT_EQ(files.content(kReport), kOld.at(kReport));
+    EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook)) << "nothing is cut off on its word";
+  }
+  // Of other reports' folder: its staged file cannot be looked for here.
+  FakeFiles files = interrupted();
+  files.add_folder("C:\\other");
+  EXPECT_EQ(observation::recover(files, "C:\\other", "C:\\log").outcome,
+            observation::Recovered::kPutAside);
+  EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook));
+  // The logbook is not the one any more.
+  FakeFiles shorter = interrupted();
+  shorter.add_file(kLogbook, "L\n");
+  EXPECT_EQ(recover(shorter).outcome, observation::Recovered::kPutAside);
+  EXPECT_EQ(shorter.content(kLogbook), "L\n");
+}
+
+TEST(Recover, ClearsWhatDeadProcessesStagedAndNothingElse) {
+  FakeFiles files = with_old_files();
+  files.restart();  // this program is number 2 now
+  for (const char* path : {"C:\\out\\.kavrel-1-0.part", "C:\\log\\.kavrel-77-3.part"})
+    files.add_file(path, "x");
+  for (const char* path :
+       {"C:\\out\\.kavrel-x-0.part", "C:\\out\\a.part", "C:\\log\\.kavrel-1-0.part.txt"})
+    files.add_file(path, "x");
+  files.add_file("C:\\out\\.kavrel-2-0.part", "of this very program");
+  auto expected = files.snapshot();
+  expected.erase("C:\\out\\.kavrel-1-0.part");
+  expected.erase("C:\\log\\.kavrel-77-3.part");
+  EXPECT_EQ(recover(files).outcome, observation::Recovered::kNothing);
+  EXPECT_EQ(files.snapshot(), expected);
+}
+
+TEST(Recover, WhatCannotBeReadNowStaysForTheNextTime) {
+  FakeFiles before = interrupted();
+  for (int n = 1;; ++n) {
+    FakeFiles files = interrupted();
+    files.fail_at(n, FileError::kOther);
+    const auto recovery = recover(files);
+    if (files.operations() < interrupted().operations() + n) break;
+    files.heal();
+    if (recovery.error != FileError::kNone) {
+      EXPECT_EQ(recovery.outcome, observation::Recovered::kNothing) << n;
+      EXPECT_EQ(files.snapshot(), before.snapshot()) << n;
+    }
+    (void)recover(files);
+    EXPECT_EQ(files.snapshot(), kNew) << n;
+  }
+  for (const std::string& path : {kJournal, kReport}) {
+    FakeFiles files = interrupted();
+    files.fail_look(path, FileError::kOther);
+    EXPECT_EQ(recover(files).error, FileError::kOther);
+    EXPECT_EQ(observation::save(files, request()).error, FileError::kOther);
+    EXPECT_EQ(files.snapshot(), before.snapshot());
   }
 }
 

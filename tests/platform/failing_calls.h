@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -25,7 +26,15 @@ class FailingCalls : public platform::posix::SystemCalls {
   void full_from(int n) { short_at_ = count_ + n, full_from_ = count_ + n; }
   /// The process ends before the n-th call.
   void kill_at(int n) { kill_at_ = count_ + n; }
-  void heal() { fail_at_ = short_at_ = full_from_ = kill_at_ = 0; }
+  /// From the n-th call on every call fails: the disk is gone.
+  void die_at(int n) { die_at_ = count_ + n; }
+  /// Every call of that name fails with this errno.
+  void fail_all(const std::string& name, int error_number) { failing_[name] = error_number; }
+  void heal() {
+    failing_.clear();
+    die_at_ = 0;
+    fail_at_ = short_at_ = full_from_ = kill_at_ = 0;
+  }
 
   [[nodiscard]] int count() const { return count_; }
   [[nodiscard]] const std::vector<std::string>& log() const { return log_; }
@@ -43,6 +52,9 @@ class FailingCalls : public platform::posix::SystemCalls {
   }
   ssize_t read(int file, void* into, std::size_t size) override {
     return next("read") ? SystemCalls::read(file, into, size) : -1;
+  }
+  ssize_t read_at(int file, void* into, std::size_t size, off_t from) override {
+    return next("read_at") ? SystemCalls::read_at(file, into, size, from) : -1;
   }
   ssize_t write(int file, const void* from, std::size_t size) override {
     if (!next("write")) return -1;
@@ -70,6 +82,9 @@ class FailingCalls : public platform::posix::SystemCalls {
   int stat(const char* path, struct stat* into) override {
     return next("stat") ? SystemCalls::stat(path, into) : -1;
   }
+  int lstat(const char* path, struct stat* into) override {
+    return next("lstat") ? SystemCalls::lstat(path, into) : -1;
+  }
   int access(const char* path, int mode) override {
     return next("access") ? SystemCalls::access(path, mode) : -1;
   }
@@ -78,6 +93,12 @@ class FailingCalls : public platform::posix::SystemCalls {
   }
   int rename(const char* from, const char* to) override {
     return next("rename") ? SystemCalls::rename(from, to) : -1;
+  }
+  int rename_new(const char* from, const char* to) override {
+    return next("rename_new") ? SystemCalls::rename_new(from, to) : -1;
+  }
+  int link(const char* from, const char* to) override {
+    return next("link") ? SystemCalls::link(from, to) : -1;
   }
   int unlink(const char* path) override { return next("unlink") ? SystemCalls::unlink(path) : -1; }
   int mkdir(const char* path, mode_t mode) override {
@@ -93,6 +114,17 @@ class FailingCalls : public platform::posix::SystemCalls {
   dirent* readdir(DIR* folder) override {
     return next("readdir") ? SystemCalls::readdir(folder) : nullptr;
   }
+  int ask_process(pid_t process) override {
+    return next("ask_process") ? SystemCalls::ask_process(process) : -1;
+  }
+  // Time passes only while the program pauses, and then at once.
+  std::int64_t now() override { return now_; }
+  void pause(int milliseconds) override {
+    now_ += milliseconds;
+    if (while_paused) while_paused(now_);
+  }
+  /// Called at every pause with the milliseconds passed so far.
+  std::function<void(std::int64_t)> while_paused;
 
  private:
   /// True when the call may go on.
@@ -100,6 +132,14 @@ class FailingCalls : public platform::posix::SystemCalls {
     ++count_;
     log_.emplace_back(name);
     if (count_ == kill_at_) ::_exit(kKilled);
+    if (const auto at = failing_.find(name); at != failing_.end()) {
+      errno = at->second;
+      return false;
+    }
+    if (die_at_ != 0 && count_ >= die_at_) {
+      errno = EIO;
+      return false;
+    }
     if (count_ != fail_at_) return true;
     errno = error_number_;
     return false;
@@ -111,6 +151,9 @@ class FailingCalls : public platform::posix::SystemCalls {
   int short_at_ = 0;
   int full_from_ = 0;
   int kill_at_ = 0;
+  int die_at_ = 0;
+  std::map<std::string, int> failing_;
+  std::int64_t now_ = 0;
   std::vector<std::string> log_;
 };
 

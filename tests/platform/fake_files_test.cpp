@@ -25,22 +25,21 @@ TEST(FakeFiles, ReplaceStagesBesideAndCommits) {
 TEST(FakeFiles, NothingIsWrittenIntoAMissingFolder) {
   FakeFiles files;
   EXPECT_EQ(files.replace("C:\\out\\a.tlx", "new"), FileError::kNotFound);
-  EXPECT_EQ(files.append("C:\\out\\immt5.log", "x").error, FileError::kNotFound);
+  EXPECT_EQ(files.lock_log("C:\\out\\immt5.log").error, FileError::kNotFound);
   EXPECT_TRUE(files.snapshot().empty());
 }
 
-TEST(FakeFiles, AppendIsTakenBackUnlessSomebodyAppendedMore) {
+TEST(FakeFiles, AKilledProgramTidiesNothing) {
   auto files = with_folder();
-  const auto created = files.append("C:\\out\\immt5.log", "1\n");
-  ASSERT_TRUE(created.ok());
-  EXPECT_EQ(files.take_back(*created.value), FileError::kNone);
-  EXPECT_FALSE(files.is_file("C:\\out\\immt5.log"));
-
-  files.add_file("C:\\out\\immt5.log", "1\n");
-  const auto second = files.append("C:\\out\\immt5.log", "2\n");
-  ASSERT_TRUE(files.append("C:\\out\\immt5.log", "3\n").ok());
-  EXPECT_EQ(files.take_back(*second.value), FileError::kOther);
-  EXPECT_EQ(files.content("C:\\out\\immt5.log"), "1\n2\n3\n");
+  files.kill_before(2);
+  const auto append = [&] {
+    const auto log = files.lock_log("C:\\out\\immt5.log");
+    (void)(*log.value)->append("x");
+  };
+  EXPECT_THROW(append(), FakeFiles::Killed);
+  EXPECT_EQ(files.content("C:\\out\\immt5.log"), "") << "the empty file stays";
+  files.heal();
+  EXPECT_TRUE(files.lock_log("C:\\out\\immt5.log").ok()) << "the lock does not";
 }
 
 TEST(FakeFiles, ScriptedErrorsComeOnceAndChangeNothing) {

@@ -7,19 +7,29 @@
 
 #include "fakes/fake_files.h"
 #include "fakes/temp_folder.h"
+#include "platform/failing_calls.h"
 #include "platform/posix/posix_files.h"
 
 namespace {
 
 using platform::FileError;
+using platform::There;
 
 class InMemory {
  public:
   platform::Files& files() { return files_; }
   void read_only(const std::string& path) { files_.set_read_only(path); }
+  void pipe(const std::string& path) { files_.add_other(path); }
+  void cannot_tell(const std::string& path) { files_.fail_look(path, FileError::kBadLink); }
 
  private:
-  fakes::FakeFiles files_;
+  /// A: holds no medium in either world.
+  static fakes::FakeFiles without_floppy() {
+    fakes::FakeFiles files;
+    files.set_medium_missing('A');
+    return files;
+  }
+  fakes::FakeFiles files_ = without_floppy();
 };
 
 class Real {
@@ -29,10 +39,17 @@ class Real {
     std::filesystem::permissions(*map_.to_os(path).value, std::filesystem::perms::owner_read |
                                                               std::filesystem::perms::owner_exec);
   }
+  void pipe(const std::string& path) {
+    constexpr mode_t kMode = 0600;
+    ASSERT_EQ(::mkfifo(map_.to_os(path).value->c_str(), kMode), 0);
+  }
+  void cannot_tell(const std::string& path) {
+    std::filesystem::create_symlink("leads-nowhere", *map_.to_os(path).value);
+  }
 
  private:
   fakes::TempFolder temp_;
-  platform::posix::SystemCalls calls_;
+  tests::FailingCalls calls_;  // whose clock needs no waiting
   platform::posix::DriveMap map_{temp_.path()};
   platform::posix::PosixFiles files_{map_, calls_};
 };
@@ -43,6 +60,8 @@ class FilesSuite : public ::testing::Test {
   FilesSuite() { EXPECT_EQ(files().create_folder("C:\\out"), FileError::kNone); }
   platform::Files& files() { return kind_.files(); }
   void read_only(const std::string& path) { kind_.read_only(path); }
+  void pipe(const std::string& path) { kind_.pipe(path); }
+  void cannot_tell(const std::string& path) { kind_.cannot_tell(path); }
   std::string content(const std::string& path) {
     auto read = files().read(path);
     return read.ok() ? *read.value : "(none)";
@@ -98,12 +117,12 @@ TYPED_TEST(FilesSuite, DiscardLeavesTheOldFile) {
 
 TYPED_TEST(FilesSuite, NothingGoesIntoAMissingOrReadOnlyFolder) {
   EXPECT_EQ(this->files().replace("C:\\none\\a", "x"), FileError::kNotFound);
-  EXPECT_EQ(this->files().append("C:\\none\\a", "x").error, FileError::kNotFound);
+  EXPECT_EQ(this->files().lock_log("C:\\none\\a").error, FileError::kNotFound);
   EXPECT_EQ(this->files().create_folder("C:\\none\\sub"), FileError::kNotFound);
   EXPECT_EQ(this->files().list("C:\\none").error, FileError::kNotFound);
   this->read_only("C:\\out");
   EXPECT_EQ(this->files().replace("C:\\out\\a", "x"), FileError::kAccessDenied);
-  EXPECT_EQ(this->files().append("C:\\out\\a", "x").error, FileError::kAccessDenied);
+  EXPECT_EQ(this->files().lock_log("C:\\out\\a").error, FileError::kAccessDenied);
   EXPECT_EQ(this->files().create_folder("C:\\out\\sub"), FileError::kAccessDenied);
   EXPECT_EQ(this->names(), Names{});
 }
@@ -112,7 +131,7 @@ TYPED_TEST(FilesSuite, ReadOnlyFileIsRefusedUntilCleared) {
   EXPECT_EQ(this->files().replace("C:\\out\\a", "old"), FileError::kNone);
   this->read_only("C:\\out\\a");
   EXPECT_EQ(this->files().replace("C:\\out\\a", "new"), FileError::kAccessDenied);
-  EXPECT_EQ(this->files().append("C:\\out\\a", "new").error, FileError::kAccessDenied);
+  EXPECT_EQ(this->files().lock_log("C:\\out\\a").error, FileError::kAccessDenied);
   EXPECT_EQ(this->files().remove("C:\\out\\a"), FileError::kAccessDenied);
   EXPECT_EQ(this->content("C:\\out\\a"), "old");
   EXPECT_EQ(this->names(), Names{"a"});
@@ -127,7 +146,7 @@ TYPED_TEST(FilesSuite, FolderIsNotTakenForAFile) {
   EXPECT_EQ(this->files().create_folder("C:\\out\\sub"), FileError::kNone) << "it is there";
   EXPECT_EQ(this->files().read("C:\\out\\sub").error, FileError::kAccessDenied);
   EXPECT_EQ(this->files().replace("C:\\out\\sub", "x"), FileError::kAccessDenied);
-  EXPECT_EQ(this->files().append("C:\\out\\sub", "x").error, FileError::kAccessDenied);
+  EXPECT_EQ(this->files().lock_log("C:\\out\\sub").error, FileError::kAccessDenied);
   EXPECT_EQ(this->files().copy("C:\\out\\sub", "C:\\out\\b"), FileError::kAccessDenied);
   EXPECT_TRUE(this->files().is_folder("C:\\out\\sub\\"));
   EXPECT_FALSE(this->files().is_file("C:\\out\\sub"));
@@ -137,29 +156,147 @@ TYPED_TEST(FilesSuite, FolderIsNotTakenForAFile) {
   EXPECT_FALSE(this->files().is_folder("C:\\out\\a"));
 }
 
-TYPED_TEST(FilesSuite, AppendCreatesAndAdds) {
-  const auto first = this->files().append("C:\\out\\log", "1\n");
-  ASSERT_TRUE(first.ok());
-  EXPECT_FALSE(first.value->existed);
-  EXPECT_EQ(first.value->new_size, 2U);
-  const auto second = this->files().append("C:\\out\\log", "22\n");
-  ASSERT_TRUE(second.ok());
-  EXPECT_TRUE(second.value->existed);
-  EXPECT_EQ(second.value->old_size, 2U);
-  EXPECT_EQ(second.value->new_size, 5U);
-  EXPECT_EQ(this->content("C:\\out\\log"), "1\n22\n");
+TYPED_TEST(FilesSuite, ALookTellsWhatIsThereAndWhenItCannotTell) {
+  EXPECT_EQ(this->files().replace("C:\\out\\a", "123"), FileError::kNone);
+  const struct {
+    const char* path;
+    There there;
+    FileError error;
+    std::uint64_t size;
+  } rows[] = {
+      {"C:\\out\\a", There::kFile, FileError::kNone, 3},
+      {"C:\\out\\", There::kFolder, FileError::kNone, 0},
+      {"C:\\", There::kFolder, FileError::kNone, 0},
+      {"C:\\out\\none", There::kNo, FileError::kNone, 0},
+      {"C:\\none\\a", There::kNo, FileError::kNone, 0},
+      {"C:\\out\\a\\b", There::kNo, FileError::kNone, 0},
+      {"C:\\out\\pipe", There::kOther, FileError::kNone, 0},
+      {"C:\\out\\hidden", There::kCannotTell, FileError::kBadLink, 0},
+      {"A:\\x", There::kCannotTell, FileError::kMediumMissing, 0},
+  };
+  this->pipe("C:\\out\\pipe");
+  this->cannot_tell("C:\\out\\hidden");
+  for (const auto& row : rows) {
+    const platform::Look found = this->files().look(row.path);
+    EXPECT_EQ(found.there, row.there) << row.path;
+    EXPECT_EQ(found.error, row.error) << row.path;
+    EXPECT_EQ(found.size, row.size) << row.path;
+    EXPECT_EQ(this->files().is_file(row.path), row.there == There::kFile) << row.path;
+    EXPECT_EQ(this->files().is_folder(row.path), row.there == There::kFolder) << row.path;
+    EXPECT_EQ(this->files().size(row.path).has_value(), row.there == There::kFile) << row.path;
+  }
 }
 
-TYPED_TEST(FilesSuite, AppendIsTakenBack) {
-  const auto first = this->files().append("C:\\out\\log", "1\n");
-  const auto second = this->files().append("C:\\out\\log", "2\n");
-  EXPECT_EQ(this->files().take_back(*first.value), FileError::kOther) << "somebody appended since";
-  EXPECT_EQ(this->content("C:\\out\\log"), "1\n2\n");
-  EXPECT_EQ(this->files().take_back(*second.value), FileError::kNone);
-  EXPECT_EQ(this->content("C:\\out\\log"), "1\n");
-  EXPECT_EQ(this->files().take_back(*first.value), FileError::kNone);
-  EXPECT_FALSE(this->files().is_file("C:\\out\\log")) << "the append had created it";
-  EXPECT_EQ(this->files().take_back(*first.value), FileError::kNotFound);
+TYPED_TEST(FilesSuite, ALockedLogGrowsIsReadAndIsCutBack) {
+  const std::string path = "C:\\out\\log";
+  {
+    const auto log = this->files().lock_log(path);
+    ASSERT_TRUE(log.ok());
+    EXPECT_TRUE((*log.value)->created());
+    EXPECT_TRUE((*log.value)->is_locked());
+    EXPECT_EQ((*log.value)->append("1\n"), FileError::kNone);
+    EXPECT_EQ((*log.value)->size(), 2U);
+  }
+  {
+    const auto log = this->files().lock_log(path);
+    ASSERT_TRUE(log.ok());
+    EXPECT_FALSE((*log.value)->created());
+    EXPECT_EQ((*log.value)->size(), 2U);
+    EXPECT_EQ((*log.value)->append("22\n"), FileError::kNone);
+    EXPECT_EQ(this->content(path), "1\n22\n");
+    EXPECT_EQ(*(*log.value)->read(2, 2).value, "22");
+    EXPECT_EQ(*(*log.value)->read(4, 100).value, "\n") << "what there is";
+    EXPECT_EQ(*(*log.value)->read(5, 1).value, "");
+    EXPECT_EQ((*log.value)->cut(2), FileError::kNone);
+    EXPECT_EQ((*log.value)->append("3\n"), FileError::kNone) << "behind the new end";
+  }
+  EXPECT_EQ(this->content(path), "1\n3\n");
+}
+
+TYPED_TEST(FilesSuite, AnEmptyLogThatTheLockCreatedGoesWithIt) {
+  const std::string path = "C:\\out\\log";
+  { EXPECT_TRUE(this->files().lock_log(path).ok()); }
+  EXPECT_EQ(this->names(), Names{});
+  {
+    const auto log = this->files().lock_log(path);
+    EXPECT_EQ((*log.value)->append("1\n"), FileError::kNone);
+    EXPECT_EQ((*log.value)->cut(0), FileError::kNone);
+  }
+  EXPECT_EQ(this->names(), Names{}) << "as it was before";
+  EXPECT_EQ(this->files().replace(path, ""), FileError::kNone);
+  { EXPECT_TRUE(this->files().lock_log(path).ok()); }
+  EXPECT_EQ(this->names(), Names{"log"}) << "it was there before";
+  {
+    const auto log = this->files().lock_log(path);
+    (*log.value)->drop_if_empty();
+  }
+  EXPECT_EQ(this->names(), Names{});
+}
+
+TYPED_TEST(FilesSuite, ALogIsHeldByOneAtATime) {
+  const std::string path = "C:\\out\\log";
+  {
+    const auto log = this->files().lock_log(path);
+    ASSERT_TRUE(log.ok());
+    EXPECT_EQ(this->files().lock_log(path).error, FileError::kLocked);
+    EXPECT_TRUE(this->files().lock_log(path + "2").ok());
+  }
+  EXPECT_TRUE(this->files().lock_log(path).ok());
+}
+
+TYPED_TEST(FilesSuite, OnlyRegularFilesAreReadAndWritten) {
+  const std::string pipe = "C:\\out\\pipe.tlx";
+  this->pipe(pipe);
+  EXPECT_EQ(this->files().read(pipe).error, FileError::kNotAFile);
+  EXPECT_EQ(this->files().stage(pipe, "x").error, FileError::kNotAFile);
+  EXPECT_EQ(this->files().note(pipe, "x"), FileError::kNotAFile);
+  EXPECT_EQ(this->files().lock_log(pipe).error, FileError::kNotAFile);
+  EXPECT_EQ(this->files().copy(pipe, "C:\\out\\a"), FileError::kNotAFile);
+  EXPECT_EQ(this->files().replace("C:\\out\\a", "x"), FileError::kNone);
+  EXPECT_EQ(this->files().copy("C:\\out\\a", pipe), FileError::kNotAFile);
+  EXPECT_EQ(this->names(), Names{"a"}) << "a pipe is not offered either";
+  EXPECT_EQ(this->files().look(pipe).there, There::kOther) << "it is still there";
+}
+
+TYPED_TEST(FilesSuite, ACommitMayBeForbiddenToReplace) {
+  EXPECT_EQ(this->files().replace("C:\\out\\a", "old"), FileError::kNone);
+  const auto staged = this->files().stage("C:\\out\\a", "new");
+  ASSERT_TRUE(staged.ok());
+  EXPECT_EQ(this->files().commit(*staged.value, platform::Over::kRefuse), FileError::kExists);
+  EXPECT_EQ(this->content("C:\\out\\a"), "old");
+  EXPECT_EQ(this->content(staged.value->temporary), "new");
+  EXPECT_EQ(this->files().remove("C:\\out\\a"), FileError::kNone);
+  EXPECT_EQ(this->files().commit(*staged.value, platform::Over::kRefuse), FileError::kNone);
+  EXPECT_EQ(this->content("C:\\out\\a"), "new");
+  EXPECT_EQ(this->names(), Names{"a"});
+}
+
+TYPED_TEST(FilesSuite, ANoteIsWrittenWholeOverAnOldOne) {
+  EXPECT_EQ(this->files().note("C:\\out\\.note", "1"), FileError::kNone);
+  EXPECT_EQ(this->files().note("C:\\out\\.note", "22"), FileError::kNone);
+  EXPECT_EQ(this->content("C:\\out\\.note"), "22");
+  EXPECT_EQ(this->names(), Names{".note"});
+  EXPECT_EQ(this->files().note("C:\\none\\.note", "1"), FileError::kNotFound);
+}
+
+TYPED_TEST(FilesSuite, AStagedNameTellsItsProcess) {
+  const auto staged = this->files().stage("C:\\out\\a", "x");
+  ASSERT_TRUE(staged.ok());
+  const std::string& path = staged.value->temporary;
+  const auto process = platform::staged_by(path.substr(path.rfind('\\') + 1));
+  ASSERT_TRUE(process);
+  EXPECT_TRUE(this->files().is_running(*process));
+  EXPECT_FALSE(this->files().is_running(999999999)) << "no system counts so far";
+}
+
+TEST(StagedName, IsKnownByItsWholeForm) {
+  EXPECT_EQ(platform::staged_by(".kavrel-12-0.part"), 12U);
+  for (const char* name :
+       {"", ".kavrel-12-0.par", "kavrel-12-0.part", ".kavrel--0.part", ".kavrel-12-.part",
+        ".kavrel-12.part", ".kavrel-1a-0.part", ".kavrel-12-0-0.part", ".kavrel-12-x.part",
+        ".kavrel-12-../0.part", "a.kavrel-12-0.part", ".kavrel-1234567890-0.part", ".kavrel-.part",
+        ".kavrel-12-0.part\n"})
+    EXPECT_EQ(platform::staged_by(name), std::nullopt) << name;
 }
 
 TYPED_TEST(FilesSuite, ReadRefusesWhatIsMissingOrTooLarge) {

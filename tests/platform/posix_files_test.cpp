@@ -5,7 +5,10 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
+
+#include <csignal>
 
 #include <map>
 
@@ -16,6 +19,7 @@ namespace {
 
 using fakes::TempFolder;
 using platform::FileError;
+using platform::There;
 using platform::posix::DriveMap;
 using platform::posix::PosixFiles;
 using tests::FailingCalls;
@@ -50,14 +54,29 @@ using Work = std::function<FileError(PosixFiles&)>;
 FileError replace_report(PosixFiles& files) {
   return files.replace(kReport, "new content");
 }
+FileError append(PosixFiles& files, std::string_view line) {
+  const auto log = files.lock_log(kLog);
+  return log.ok() ? (*log.value)->append(line) : log.error;
+}
 FileError append_line(PosixFiles& files) {
-  return files.append(kLog, "new line\n").error;
+  return append(files, "new line\n");
+}
+FileError note_plan(PosixFiles& files) {
+  return files.note("C:\\out\\.kavrel-save", "new content");
+}
+FileError put_new_report(PosixFiles& files) {
+  const auto staged = files.stage("C:\\out\\new.tlx", "new content");
+  if (!staged.ok()) return staged.error;
+  const FileError error = files.commit(*staged.value, platform::Over::kRefuse);
+  if (error != FileError::kNone) files.discard(*staged.value);
+  return error;
 }
 FileError copy_report(PosixFiles& files) {
   return files.copy(kReport, "C:\\out\\copy");
 }
 FileError take_line_back(PosixFiles& files) {
-  return files.take_back({kLog, true, 0, 4});
+  const auto log = files.lock_log(kLog);
+  return log.ok() ? (*log.value)->cut(0) : log.error;
 }
 
 struct Operation {
@@ -65,10 +84,8 @@ struct Operation {
   Work work;
 };
 const Operation kOperations[] = {
-    {"replace", replace_report},
-    {"append", append_line},
-    {"copy", copy_report},
-    {"take back", take_line_back},
+    {"replace", replace_report}, {"append", append_line}, {"copy", copy_report},
+    {"cut", take_line_back},     {"note", note_plan},     {"put new", put_new_report},
 };
 
 int calls_of(const Work& work, bool with_old) {
@@ -252,7 +269,7 @@ void append_many(const DriveMap& map, char letter, int lines) {
   constexpr std::size_t kRecord = 172;
   const std::string line = std::string(kRecord, letter) + "\n";
   for (int i = 0; i < lines; ++i)
-    if (!files.append(kLog, line).ok()) ::_exit(1);
+    if (append(files, line) != FileError::kNone) ::_exit(1);
 }
 
 TEST(PosixFiles, TwoProcessesTearNoLine) {
@@ -294,11 +311,15 @@ TEST(PosixFiles, NoLineIsLostWhenAnotherProcessTakesItsOwnBack) {
     platform::posix::SystemCalls calls;
     PosixFiles files(place.map, calls);
     for (int i = 0; i < kLines; ++i)
-      if (const auto mark = files.append(kLog, "x\n"); mark.ok())
-        (void)files.take_back(*mark.value);
+      if (const auto log = files.lock_log(kLog); log.ok()) {
+        const auto before = (*log.value)->size();
+        if ((*log.value)->append("x\n") == FileError::kNone) (void)(*log.value)->cut(before);
+      }
     ::_exit(0);
   }
-  for (int i = 0; i < kLines; ++i) EXPECT_TRUE(place.files.append(kLog, "kept\n").ok());
+  platform::posix::SystemCalls calls;  // with a clock that does wait
+  PosixFiles files(place.map, calls);
+  for (int i = 0; i < kLines; ++i) EXPECT_EQ(append(files, "kept\n"), FileError::kNone);
   int status = 1;
   ::waitpid(child, &status, 0);
   EXPECT_EQ(status, 0);
@@ -310,12 +331,197 @@ TEST(PosixFiles, NoLineIsLostWhenAnotherProcessTakesItsOwnBack) {
   EXPECT_EQ(kept, static_cast<std::size_t>(kLines));
 }
 
+// ---- The lock
+
+/// Another process that holds the logbook until it is told to let go by the end of its life.
+class Holder {
+ public:
+  explicit Holder(const std::string& os_path) {
+    int ready[2];
+    EXPECT_EQ(::pipe(ready), 0);
+    child_ = ::fork();
+    if (child_ == 0) {
+      platform::posix::SystemCalls calls;
+      const int file = ::open(os_path.c_str(), O_RDWR);
+      const bool held = calls.lock(file) == 0;
+      (void)!::write(ready[1], held ? "y" : "n", 1);
+      for (;;) ::pause();
+    }
+    char answer = 'n';
+    EXPECT_EQ(::read(ready[0], &answer, 1), 1);
+    EXPECT_EQ(answer, 'y');
+    ::close(ready[0]);
+    ::close(ready[1]);
+  }
+  ~Holder() { let_go(); }
+  Holder(const Holder&) = delete;
+  Holder& operator=(const Holder&) = delete;
+  void let_go() {
+    if (child_ == 0) return;
+    ::kill(child_, SIGKILL);
+    ::waitpid(child_, nullptr, 0);
+    child_ = 0;
+  }
+
+ private:
+  pid_t child_ = 0;
+};
+
+TEST(PosixFiles, AHeldLogbookIsTriedForAFewSecondsAndNotForEver) {
+  Place place(true);
+  Holder holder(place.temp / "out/immt5.log");
+  std::int64_t passed = 0;
+  place.calls.while_paused = [&](std::int64_t now) { passed = now; };
+  EXPECT_EQ(append_line(place.files), FileError::kLocked);
+  EXPECT_GE(passed, 2000);
+  EXPECT_LE(passed, 10000);
+  EXPECT_EQ(place.temp.content("out/immt5.log"), "old\n");
+}
+
+TEST(PosixFiles, ALogbookThatIsLetGoMeanwhileIsHad) {
+  Place place(true);
+  Holder holder(place.temp / "out/immt5.log");
+  place.calls.while_paused = [&](std::int64_t now) {
+    if (now > 1000) holder.let_go();
+  };
+  EXPECT_EQ(append_line(place.files), FileError::kNone);
+  EXPECT_EQ(place.temp.content("out/immt5.log"), "old\nnew line\n");
+}
+
+TEST(PosixFiles, AFileSystemWithoutLocksStillServesAndSaysSo) {
+  for (const int error_number : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL}) {
+    Place place(true);
+    place.calls.fail_all("lock", error_number);
+    const auto log = place.files.lock_log(kLog);
+    ASSERT_TRUE(log.ok()) << error_number;
+    EXPECT_FALSE((*log.value)->is_locked());
+    EXPECT_EQ((*log.value)->append("new line\n"), FileError::kNone);
+    EXPECT_EQ(place.temp.content("out/immt5.log"), "old\nnew line\n");
+  }
+}
+
+TEST(PosixFiles, ALinkThatLeadsNowhereIsNamedAsThat) {
+  Place place(true);
+  for (const char* name : {"dangling", "loop"}) {
+    std::filesystem::create_symlink(name == std::string("loop") ? "loop" : "none/none",
+                                    place.temp / "out/" + name);
+    const std::string path = std::string("C:\\out\\") + name;
+    EXPECT_EQ(place.files.lock_log(path).error, FileError::kBadLink) << name;
+    EXPECT_EQ(place.files.stage(path, "x").error, FileError::kBadLink) << name;
+  }
+}
+
+TEST(PosixFiles, ASharedNameIsRefusedWithWhateverTheFileSystemCanDo) {
+  for (const int rename_new : {0, EINVAL, ENOSYS}) {
+    for (const int link : {0, EPERM, EOPNOTSUPP}) {
+      for (const bool with_old : {true, false}) {
+        Place place(with_old);
+        if (rename_new != 0) place.calls.fail_all("rename_new", rename_new);
+        if (link != 0) place.calls.fail_all("link", link);
+        const auto before = place.contents();
+        const auto staged = place.files.stage(kReport, "new content");
+        const FileError error = place.files.commit(*staged.value, platform::Over::kRefuse);
+        EXPECT_EQ(error, with_old ? FileError::kExists : FileError::kNone) << rename_new << link;
+        place.files.discard(*staged.value);
+        if (with_old)
+          EXPECT_EQ(place.contents(), before);
+        else
+          EXPECT_EQ(place.contents(),
+                    (std::map<std::string, std::string>{{"14111512.tlx", "new content"}}));
+      }
+    }
+  }
+}
+
+TEST(PosixFiles, ANewFileServesItsOwnerWhateverTheMaskTakesAway) {
+  Place place(false);
+  const mode_t before = ::umask(0777);
+  EXPECT_EQ(replace_report(place.files), FileError::kNone);
+  EXPECT_EQ(append_line(place.files), FileError::kNone);
+  ::umask(before);
+  for (const char* name : {"out/14111512.tlx", "out/immt5.log"}) {
+    struct stat about {};
+    ASSERT_EQ(::stat((place.temp / name).c_str(), &about), 0);
+    EXPECT_EQ(about.st_mode & 0777U, 0600U) << name;
+  }
+}
+
+TEST(PosixFiles, AFileAboveTheLimitOfSizeIsAFullDiskAndNoSignal) {
+  Place place(true);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    platform::posix::prepare_process();
+    const rlimit limit{4, 4};  // what the logbook has
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    platform::posix::SystemCalls calls;
+    PosixFiles files(place.map, calls);
+    const bool told =
+        append_line(files) == FileError::kNoSpace && replace_report(files) == FileError::kNoSpace;
+    ::_exit(told ? 0 : 1);
+  }
+  int status = 1;
+  ::waitpid(child, &status, 0);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(place.temp.content("out/immt5.log"), "old\n");
+  EXPECT_EQ(place.temp.content("out/14111512.tlx"), "old");
+}
+
 // ---- Odds and ends
 
 TEST(PosixFiles, NamesCompareAsTheFileSystemDoes) {
   Place place(true);
   EXPECT_TRUE(place.files.is_file("C:\\out\\14111512.tlx"));
   EXPECT_FALSE(place.files.is_file("C:\\out\\14111512.TLX"));
+}
+
+TEST(PosixFiles, ALookTellsWhatIsMissingFromWhatCannotBeSeen) {
+  Place place(true);
+  const std::string out = place.temp / "out/";
+  std::filesystem::create_symlink("none", out + "dangling");
+  std::filesystem::create_symlink("loop", out + "loop");
+  std::filesystem::create_symlink("immt5.log", out + "link");
+  const std::string long_name(300, 'n');
+  const struct {
+    std::string path;
+    There there;
+    FileError error;
+  } rows[] = {
+      {kLog, There::kFile, FileError::kNone},
+      {"C:\\out\\link", There::kFile, FileError::kNone},
+      {"C:\\out", There::kFolder, FileError::kNone},
+      {"Z:\\dev\\null", There::kOther, FileError::kNone},
+      {"C:\\out\\none", There::kNo, FileError::kNone},
+      {"C:\\out\\immt5.log\\x", There::kNo, FileError::kNone},
+      {"C:\\out\\dangling", There::kCannotTell, FileError::kBadLink},
+      {"C:\\out\\loop", There::kCannotTell, FileError::kBadLink},
+      {"C:\\out\\" + long_name, There::kCannotTell, FileError::kBadName},
+      {"A:\\x", There::kCannotTell, FileError::kMediumMissing},
+      {std::string("C:\\a\0b", 6), There::kNo, FileError::kNone},
+  };
+  for (const auto& row : rows) {
+    const platform::Look found = place.files.look(row.path);
+    EXPECT_EQ(found.there, row.there) << row.path;
+    EXPECT_EQ(found.error, row.error) << row.path;
+    EXPECT_EQ(place.files.is_file(row.path), row.there == There::kFile) << row.path;
+    EXPECT_EQ(place.files.is_folder(row.path), row.there == There::kFolder) << row.path;
+  }
+  EXPECT_EQ(place.files.look(kLog).size, 4U);
+}
+
+TEST(PosixFiles, OnlyTheAnswerNoSuchNameMeansThatNothingIsThere) {
+  for (const char* path : {kLog, "C:\\out\\none"}) {
+    Place trial(true);
+    (void)trial.files.look(path);
+    for (int n = 1; n <= trial.calls.count(); ++n) {
+      for (const int error_number : {EACCES, EIO, ENFILE, ENOMEM, ESTALE, ELOOP}) {
+        Place place(true);
+        place.calls.fail_at(n, error_number);
+        const platform::Look found = place.files.look(path);
+        EXPECT_EQ(found.there, There::kCannotTell) << path << n << " " << error_number;
+        EXPECT_EQ(found.error, platform::posix::file_error(error_number));
+      }
+    }
+  }
 }
 
 TEST(PosixFiles, ReplacedFileKeepsItsPermissions) {
@@ -351,16 +557,17 @@ TEST(PosixFiles, NamesThatCannotBeSaidAreNotListed) {
 TEST(PosixFiles, DevicesAndPipesAreNotAppendedTo) {
   Place place(true);
   ASSERT_EQ(::mkfifo((place.temp / "out/pipe").c_str(), 0600), 0);
-  EXPECT_FALSE(place.files.append("C:\\out\\pipe", "x").ok());
-  EXPECT_EQ(place.files.append("Z:\\dev\\null", "x").error, FileError::kAccessDenied);
-  EXPECT_EQ(place.files.replace("Z:\\dev\\null", "x"), FileError::kAccessDenied);
+  EXPECT_EQ(place.files.lock_log("C:\\out\\pipe").error, FileError::kNotAFile);
+  EXPECT_EQ(place.files.lock_log("Z:\\dev\\null").error, FileError::kNotAFile);
+  EXPECT_EQ(place.files.replace("Z:\\dev\\null", "x"), FileError::kNotAFile);
+  EXPECT_EQ(place.files.read("Z:\\dev\\zero").error, FileError::kNotAFile);
 }
 
 TEST(PosixFiles, AbsentMediumIsToldApart) {
   Place place(true);
   EXPECT_EQ(place.files.read("A:\\x").error, FileError::kMediumMissing);
   EXPECT_EQ(place.files.replace("A:\\x", "y"), FileError::kMediumMissing);
-  EXPECT_EQ(place.files.append("A:\\x", "y").error, FileError::kMediumMissing);
+  EXPECT_EQ(place.files.lock_log("A:\\x").error, FileError::kMediumMissing);
   EXPECT_EQ(place.files.free_space("A:\\x"), std::nullopt);
   EXPECT_FALSE(place.files.is_folder("A:\\"));
   EXPECT_FALSE(place.files.same("A:\\", "A:\\"));
@@ -381,11 +588,16 @@ TEST(FileErrors, ErrnoValuesBecomeReasons) {
     FileError error;
   } rows[] = {
       {ENOENT, FileError::kNotFound},      {ENOTDIR, FileError::kNotFound},
-      {EACCES, FileError::kAccessDenied},  {EROFS, FileError::kAccessDenied},
-      {EISDIR, FileError::kAccessDenied},  {ENOSPC, FileError::kNoSpace},
-      {EDQUOT, FileError::kNoSpace},       {ENOMEDIUM, FileError::kMediumMissing},
-      {ENODEV, FileError::kMediumMissing}, {EIO, FileError::kOther},
-      {ENOTEMPTY, FileError::kOther},      {ENAMETOOLONG, FileError::kOther},
+      {EACCES, FileError::kAccessDenied},  {EPERM, FileError::kAccessDenied},
+      {EROFS, FileError::kAccessDenied},   {EISDIR, FileError::kAccessDenied},
+      {ENOSPC, FileError::kNoSpace},       {EDQUOT, FileError::kNoSpace},
+      {EFBIG, FileError::kNoSpace},        {ENOMEDIUM, FileError::kMediumMissing},
+      {ENODEV, FileError::kMediumMissing}, {ELOOP, FileError::kBadLink},
+      {EMFILE, FileError::kTooManyOpen},   {ENFILE, FileError::kTooManyOpen},
+      {EINVAL, FileError::kBadName},       {ENAMETOOLONG, FileError::kBadName},
+      {EILSEQ, FileError::kBadName},       {EWOULDBLOCK, FileError::kLocked},
+      {EEXIST, FileError::kExists},        {EIO, FileError::kOther},
+      {ENOTEMPTY, FileError::kOther},
   };
   for (const auto& row : rows)
     EXPECT_EQ(platform::posix::file_error(row.error_number), row.error) << row.error_number;

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <ctime>
@@ -42,27 +43,26 @@ bool same_file(const struct stat& a, const struct stat& b) {
 }  // namespace
 
 FileError file_error(int error_number) {
-  switch (error_number) {
-    case ENOENT:
-    case ENOTDIR:
-      return FileError::kNotFound;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case EISDIR:
-    case ETXTBSY:
-      return FileError::kAccessDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return FileError::kNoSpace;
-    case ENOMEDIUM:
-    case ENXIO:
-    case ENODEV:
-      return FileError::kMediumMissing;
-    default:
-      return FileError::kOther;
-  }
+  static constexpr struct {
+    int error_number;
+    FileError error;
+  } kReasons[] = {
+      {ENOENT, FileError::kNotFound},         {ENOTDIR, FileError::kNotFound},
+      {EACCES, FileError::kAccessDenied},     {EPERM, FileError::kAccessDenied},
+      {EROFS, FileError::kAccessDenied},      {EISDIR, FileError::kAccessDenied},
+      {ETXTBSY, FileError::kAccessDenied},    {ENOSPC, FileError::kNoSpace},
+      {EDQUOT, FileError::kNoSpace},          {EFBIG, FileError::kNoSpace},
+      {ENOMEDIUM, FileError::kMediumMissing}, {ENXIO, FileError::kMediumMissing},
+      {ENODEV, FileError::kMediumMissing},    {ELOOP, FileError::kBadLink},
+      {EMFILE, FileError::kTooManyOpen},      {ENFILE, FileError::kTooManyOpen},
+      {EINVAL, FileError::kBadName},          {ENAMETOOLONG, FileError::kBadName},
+      {EILSEQ, FileError::kBadName},          {EAGAIN, FileError::kLocked},
+      {EEXIST, FileError::kExists},
+  };
+  const auto* const row =
+      std::find_if(std::begin(kReasons), std::end(kReasons),
+                   [&](const auto& each) { return each.error_number == error_number; });
+  return row == std::end(kReasons) ? FileError::kOther : row->error;
 }
 
 /// A file that closes itself.
@@ -79,7 +79,10 @@ class PosixFiles::Open {
   [[nodiscard]] bool ok() const { return file_ != -1; }
   [[nodiscard]] int file() const { return file_; }
   [[nodiscard]] int error_number() const { return error_number_; }
-  [[nodiscard]] FileError error() const { return file_error(error_number_); }
+  /// What cannot even be opened for want of a partner is a socket or a device.
+  [[nodiscard]] FileError error() const {
+    return error_number_ == ENXIO ? FileError::kNotAFile : file_error(error_number_);
+  }
   /// Some file systems tell only here that the data did not arrive. A signal changes nothing: the
   /// file is closed all the same.
   FileError close() {
@@ -95,63 +98,164 @@ class PosixFiles::Open {
   int error_number_ = 0;
 };
 
-/// The file under its path, open for writing at its end and locked.
-class PosixFiles::Locked {
+/// The file under its path, open at its end and locked.
+class PosixFiles::Log : public LockedLog {
  public:
-  /// Creates the file when that is wanted and there is none. Between opening and locking another
-  /// copy of the program may have removed or replaced the file; then what was opened is no longer
-  /// what the path names, and the whole is done again.
-  Locked(SystemCalls& calls, const std::string& os_path, bool create) : os_path_(os_path) {
-    constexpr int kFlags = O_WRONLY | O_APPEND | O_NONBLOCK | O_NOCTTY;
+  /// Creates the file when there is none. Between opening and locking another copy of the program
+  /// may have removed or replaced the file; then what was opened is no longer what the path names,
+  /// and the whole is done again.
+  Log(const PosixFiles& files, std::string os_path)
+      : files_(files), calls_(files.calls_), os_path_(std::move(os_path)) {
+    constexpr int kFlags = O_RDWR | O_APPEND | O_NONBLOCK | O_NOCTTY;
+    const std::int64_t until = calls_.now() + kPatience;
     for (int i = 0; i < kTries; ++i) {
       created_ = false;
-      open_.emplace(calls, os_path, kFlags);
-      if (!open_->ok() && open_->error_number() == ENOENT && create) {
+      open_.emplace(calls_, os_path_, kFlags);
+      if (!open_->ok() && open_->error_number() == ENOENT) {
         created_ = true;
-        open_.emplace(calls, os_path, kFlags | O_CREAT | O_EXCL);
-        if (!open_->ok() && open_->error_number() == EEXIST) continue;
+        open_.emplace(calls_, os_path_, kFlags | O_CREAT | O_EXCL);
+        if (!open_->ok() && open_->error_number() == EEXIST) {
+          // There and not there: a link that leads nowhere, or somebody was quicker.
+          const auto found = files_.look_at(os_path_);
+          if (found.there == There::kCannotTell) {
+            error_ = found.error;
+            return;
+          }
+          continue;
+        }
+        if (open_->ok()) files_.let_owner_use(open_->file());
       }
       if (!open_->ok()) {
         error_ = open_->error();
         return;
       }
-      if (lock(calls)) return;
+      if (lock(until)) {
+        drop_ = created_ && error_ == FileError::kNone;
+        return;
+      }
     }
     error_ = FileError::kOther;
   }
+  ~Log() override {
+    struct stat now {};
+    // Without locks somebody may have written since.
+    if (drop_ && size_ == 0 && calls_.fstat(open_->file(), &now) == 0 && now.st_size == 0)
+      (void)unbroken([&] { return calls_.unlink(os_path_.c_str()); });
+  }
+  Log(const Log&) = delete;
+  Log& operator=(const Log&) = delete;
 
   [[nodiscard]] FileError error() const { return error_; }
-  [[nodiscard]] int file() const { return open_->file(); }
-  [[nodiscard]] const std::string& os_path() const { return os_path_; }
-  [[nodiscard]] const struct stat& about() const { return about_; }
-  [[nodiscard]] bool created() const { return created_; }
+
+  [[nodiscard]] bool is_locked() const override { return is_locked_; }
+  [[nodiscard]] bool created() const override { return created_; }
+  [[nodiscard]] std::uint64_t size() const override { return size_; }
+  void drop_if_empty() override { drop_ = true; }
+
+  [[nodiscard]] Result<std::string> read(std::uint64_t from, std::uint64_t count) const override {
+    std::string content(static_cast<std::size_t>(count), '\0');
+    std::size_t done = 0;
+    while (done < content.size()) {
+      const auto got = unbroken([&] {
+        return calls_.read_at(open_->file(), content.data() + done, content.size() - done,
+                              static_cast<off_t>(from + done));
+      });
+      if (got == -1) return file_error(errno);
+      if (got == 0) break;
+      done += static_cast<std::size_t>(got);
+    }
+    content.resize(done);
+    return content;
+  }
+
+  [[nodiscard]] FileError append(std::string_view content) override {
+    const auto end = static_cast<off_t>(size_);
+    const auto length = static_cast<off_t>(content.size());
+    // With the room set aside the write cannot stop half-way on a full disk. Not every file system
+    // can do it; then the cutting back below has to serve.
+    if (length > 0 && unbroken([&] { return calls_.reserve(open_->file(), end, length); }) == -1 &&
+        file_error(errno) == FileError::kNoSpace)
+      return FileError::kNoSpace;
+    const FileError error = write_once(content);
+    if (error == FileError::kNone) {
+      size_ += content.size();
+      return error;
+    }
+    if (cut(size_) != FileError::kNone) {
+      struct stat now {};
+      const bool known = unbroken([&] { return calls_.fstat(open_->file(), &now); }) == 0;
+      size_ = known ? static_cast<std::uint64_t>(now.st_size) : size_ + content.size();
+    }
+    return error;
+  }
+
+  [[nodiscard]] FileError cut(std::uint64_t size) override {
+    const auto end = static_cast<off_t>(size);
+    if (unbroken([&] { return calls_.ftruncate(open_->file(), end); }) == -1)
+      return file_error(errno);
+    size_ = size;
+    (void)unbroken([&] { return calls_.fsync(open_->file()); });
+    return FileError::kNone;
+  }
 
  private:
+  static constexpr int kPatience = 3000;  // milliseconds
+  static constexpr int kLongestPause = 50;
+
   /// True when the matter is settled, well or not.
-  bool lock(SystemCalls& calls) {
+  bool lock(std::int64_t until) {
+    struct stat about {};
     struct stat named {};
-    if (unbroken([&] { return calls.lock(open_->file()); }) == -1 ||
-        unbroken([&] { return calls.fstat(open_->file(), &about_); }) == -1) {
-      // An empty file that this call created stays: without the lock nobody can tell whether
-      // another copy of the program has begun to write into it.
-      error_ = file_error(errno);
-      return true;
+    if (unbroken([&] { return calls_.fstat(open_->file(), &about); }) == -1)
+      return settled(file_error(errno));
+    if (S_ISDIR(about.st_mode)) return settled(FileError::kAccessDenied);
+    if (!S_ISREG(about.st_mode)) return settled(FileError::kNotAFile);
+    // An empty file that this call created stays when it cannot be locked: nobody can tell whether
+    // another copy of the program has begun to write into it.
+    for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
+      if (unbroken([&] { return calls_.lock(open_->file()); }) == 0) break;
+      if (errno == ENOLCK || errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL) {
+        is_locked_ = false;
+        break;
+      }
+      if (errno != EWOULDBLOCK) return settled(file_error(errno));
+      if (calls_.now() >= until) return settled(FileError::kLocked);
+      calls_.pause(pause);
     }
-    if (unbroken([&] { return calls.stat(os_path_.c_str(), &named); }) == -1) {
-      if (errno == ENOENT) return false;
-      error_ = file_error(errno);
-      return true;
-    }
-    if (!same_file(about_, named)) return false;
-    if (!S_ISREG(about_.st_mode) || (about_.st_mode & kAnyWrite) == 0)
-      error_ = FileError::kAccessDenied;
+    // Looked at again: others wrote until the lock was had.
+    if (unbroken([&] { return calls_.fstat(open_->file(), &about); }) == -1)
+      return settled(file_error(errno));
+    if (unbroken([&] { return calls_.stat(os_path_.c_str(), &named); }) == -1)
+      return errno != ENOENT && settled(file_error(errno));
+    if (!same_file(about, named)) return false;
+    if ((about.st_mode & kAnyWrite) == 0) return settled(FileError::kAccessDenied);
+    size_ = static_cast<std::uint64_t>(about.st_size);
+    // Another copy may have written between our creating the file and locking it.
+    if (size_ > 0) created_ = false;
+    return true;
+  }
+  bool settled(FileError error) {
+    error_ = error;
     return true;
   }
 
+  [[nodiscard]] FileError write_once(std::string_view content) const {
+    const auto count =
+        unbroken([&] { return calls_.write(open_->file(), content.data(), content.size()); });
+    if (count == -1) return file_error(errno);
+    if (static_cast<std::size_t>(count) != content.size()) return FileError::kNoSpace;
+    if (unbroken([&] { return calls_.fsync(open_->file()); }) == -1) return file_error(errno);
+    return created_ ? files_.flush_folder(os_path_) : FileError::kNone;
+  }
+
+  const PosixFiles& files_;
+  SystemCalls& calls_;
   std::string os_path_;
   std::optional<Open> open_;
-  struct stat about_ {};
+  std::uint64_t size_ = 0;
+  bool is_locked_ = true;
   bool created_ = false;
+  bool drop_ = false;
   FileError error_ = FileError::kNone;
 };
 
@@ -196,8 +300,12 @@ FileError PosixFiles::flush_folder(const std::string& os_path) const {
 Result<std::string> PosixFiles::read(const std::string& path, std::uint64_t largest) const {
   const auto os_path = os(path);
   if (!os_path.ok()) return os_path.error;
-  const Open file(calls_, *os_path.value, O_RDONLY | O_NOCTTY);
+  const Open file(calls_, *os_path.value, O_RDONLY | O_NOCTTY | O_NONBLOCK);
   if (!file.ok()) return file.error();
+  struct stat found {};
+  if (unbroken([&] { return calls_.fstat(file.file(), &found); }) == -1) return file_error(errno);
+  if (S_ISDIR(found.st_mode)) return FileError::kAccessDenied;
+  if (!S_ISREG(found.st_mode)) return FileError::kNotAFile;
   std::string content;
   std::array<char, 1U << 16U> block;
   for (;;) {
@@ -222,12 +330,23 @@ FileError PosixFiles::write_all(int file, std::string_view content) const {
   return FileError::kNone;
 }
 
+void PosixFiles::let_owner_use(int file) const {
+  constexpr mode_t kOwner = S_IRUSR | S_IWUSR;
+  constexpr mode_t kPermissions = 07777;
+  struct stat about {};
+  if (calls_.fstat(file, &about) == 0 && (about.st_mode & kOwner) != kOwner)
+    (void)calls_.fchmod(file, (about.st_mode & kPermissions) | kOwner);
+}
+
 FileError PosixFiles::fill(int file, std::string_view content,
                            const std::optional<struct stat>& old) const {
   if (const auto error = write_all(file, content); error != FileError::kNone) return error;
   constexpr mode_t kPermissions = 0777;
   // A medium without permissions refuses this; the file itself is none the worse for it.
-  if (old) (void)calls_.fchmod(file, old->st_mode & kPermissions);
+  if (old)
+    (void)calls_.fchmod(file, old->st_mode & kPermissions);
+  else
+    let_owner_use(file);
   if (unbroken([&] { return calls_.fsync(file); }) == -1) return file_error(errno);
   return FileError::kNone;
 }
@@ -236,10 +355,16 @@ Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view c
   const auto target = os(path);
   if (!target.ok()) return target.error;
   if (const auto error = folder_writable(*target.value); error != FileError::kNone) return error;
-  const auto old = about(path);
-  if (old && (!S_ISREG(old->st_mode) || (old->st_mode & kAnyWrite) == 0 ||
-              calls_.access(target.value->c_str(), W_OK) == -1))
-    return FileError::kAccessDenied;
+  const Look there = look_at(*target.value);
+  if (there.there == There::kCannotTell) return there.error;
+  if (there.there == There::kOther) return FileError::kNotAFile;
+  if (there.there == There::kFolder) return FileError::kAccessDenied;
+  std::optional<struct stat> old;
+  if (there.there == There::kFile) {
+    old = about(path);
+    if (!old || (old->st_mode & kAnyWrite) == 0 || calls_.access(target.value->c_str(), W_OK) == -1)
+      return FileError::kAccessDenied;
+  }
 
   const auto at = path.find_last_of("\\/:");
   const std::string folder = at == std::string::npos ? std::string() : path.substr(0, at + 1);
@@ -262,7 +387,7 @@ Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view c
   return FileError::kOther;
 }
 
-FileError PosixFiles::commit(const StagedFile& staged) {
+FileError PosixFiles::commit(const StagedFile& staged, Over over) {
   const auto from = os(staged.temporary);
   const auto to = os(staged.path);
   if (!from.ok()) return from.error;
@@ -270,12 +395,52 @@ FileError PosixFiles::commit(const StagedFile& staged) {
   // Opened first: whatever can be refused is refused before anything has changed.
   const Open folder(calls_, folder_of(*to.value), O_RDONLY | O_DIRECTORY);
   if (!folder.ok()) return folder.error();
-  if (unbroken([&] { return calls_.rename(from.value->c_str(), to.value->c_str()); }) == -1)
+  if (over == Over::kRefuse) {
+    if (const auto error = rename_new(*from.value, *to.value); error != FileError::kNone)
+      return error;
+  } else if (unbroken([&] { return calls_.rename(from.value->c_str(), to.value->c_str()); }) ==
+             -1) {
     return file_error(errno);
+  }
   // The new file is in its place from here on. Should the folder not be flushed, a power failure
   // may still bring back the old one, whole as well; to call that a failed save would be untrue.
   (void)unbroken([&] { return calls_.fsync(folder.file()); });
   return FileError::kNone;
+}
+
+FileError PosixFiles::rename_new(const std::string& from, const std::string& to) const {
+  const auto unable = [] {
+    return errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP || errno == EPERM ||
+           errno == EMLINK;
+  };
+  if (unbroken([&] { return calls_.rename_new(from.c_str(), to.c_str()); }) == 0)
+    return FileError::kNone;
+  if (!unable()) return file_error(errno);
+  if (unbroken([&] { return calls_.link(from.c_str(), to.c_str()); }) == 0) {
+    // Should the second name stay, it is cleared with what dead processes leave.
+    (void)unbroken([&] { return calls_.unlink(from.c_str()); });
+    return FileError::kNone;
+  }
+  if (!unable()) return file_error(errno);
+  // A medium without links: between the look and the rename nobody else is kept out.
+  const Look found = look_at(to);
+  if (found.there == There::kCannotTell) return found.error;
+  if (found.there != There::kNo) return FileError::kExists;
+  const int renamed = unbroken([&] { return calls_.rename(from.c_str(), to.c_str()); });
+  return renamed == -1 ? file_error(errno) : FileError::kNone;
+}
+
+FileError PosixFiles::note(const std::string& path, std::string_view content) {
+  const auto staged = stage(path, content);
+  if (!staged.ok()) return staged.error;
+  const auto from = os(staged.value->temporary);
+  const auto to = os(path);
+  FileError error = from.ok() ? to.error : from.error;
+  if (error == FileError::kNone &&
+      unbroken([&] { return calls_.rename(from.value->c_str(), to.value->c_str()); }) == -1)
+    error = file_error(errno);
+  if (error != FileError::kNone) discard(*staged.value);
+  return error;
 }
 
 void PosixFiles::discard(const StagedFile& staged) {
@@ -283,65 +448,23 @@ void PosixFiles::discard(const StagedFile& staged) {
     (void)unbroken([&] { return calls_.unlink(os_path.value->c_str()); });
 }
 
-// ---- Appending
+// ---- The logbook
 
-FileError PosixFiles::append_locked(const Locked& log, std::string_view content) const {
-  const auto end = log.about().st_size;
-  const auto length = static_cast<off_t>(content.size());
-  // With the room set aside the write cannot stop half-way on a full disk. Not every file system
-  // can do it; then the cutting back below has to serve.
-  if (length > 0 && unbroken([&] { return calls_.reserve(log.file(), end, length); }) == -1 &&
-      (errno == ENOSPC || errno == EDQUOT))
-    return FileError::kNoSpace;
-  const FileError error = write_once(log, content);
-  if (error != FileError::kNone) {
-    (void)unbroken([&] { return calls_.ftruncate(log.file(), end); });
-    (void)unbroken([&] { return calls_.fsync(log.file()); });
-  }
-  return error;
-}
-
-FileError PosixFiles::write_once(const Locked& log, std::string_view content) const {
-  const auto count =
-      unbroken([&] { return calls_.write(log.file(), content.data(), content.size()); });
-  if (count == -1) return file_error(errno);
-  if (static_cast<std::size_t>(count) != content.size()) return FileError::kNoSpace;
-  if (unbroken([&] { return calls_.fsync(log.file()); }) == -1) return file_error(errno);
-  return log.created() ? flush_folder(log.os_path()) : FileError::kNone;
-}
-
-Result<AppendMark> PosixFiles::append(const std::string& path, std::string_view content) {
+Result<std::unique_ptr<LockedLog>> PosixFiles::lock_log(const std::string& path) {
   const auto os_path = os(path);
   if (!os_path.ok()) return os_path.error;
-  if (!about(path)) {
+  if (look_at(*os_path.value).there == There::kNo) {
     if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
   }
-  const Locked log(calls_, *os_path.value, true);
-  if (log.error() != FileError::kNone) return log.error();
-  AppendMark mark{path, true, static_cast<std::uint64_t>(log.about().st_size), 0};
-  // Another copy may have written between our creating the file and locking it.
-  mark.existed = !log.created() || mark.old_size > 0;
-  mark.new_size = mark.old_size + content.size();
-  const FileError error = append_locked(log, content);
-  if (error == FileError::kNone) return mark;
-  if (!mark.existed) (void)unbroken([&] { return calls_.unlink(os_path.value->c_str()); });
-  return error;
+  auto log = std::make_unique<Log>(*this, *os_path.value);
+  if (log->error() != FileError::kNone) return log->error();
+  return {std::move(log)};
 }
 
-FileError PosixFiles::take_back(const AppendMark& mark) {
-  const auto os_path = os(mark.path);
-  if (!os_path.ok()) return os_path.error;
-  const Locked log(calls_, *os_path.value, false);
-  if (log.error() != FileError::kNone) return log.error();
-  if (static_cast<std::uint64_t>(log.about().st_size) != mark.new_size) return FileError::kOther;
-  if (!mark.existed) {
-    const int gone = unbroken([&] { return calls_.unlink(os_path.value->c_str()); });
-    return gone == -1 ? file_error(errno) : FileError::kNone;
-  }
-  const auto end = static_cast<off_t>(mark.old_size);
-  if (unbroken([&] { return calls_.ftruncate(log.file(), end); }) == -1) return file_error(errno);
-  (void)unbroken([&] { return calls_.fsync(log.file()); });
-  return FileError::kNone;
+bool PosixFiles::is_running(std::uint64_t process) const {
+  // 0 would ask about every process of the group.
+  if (process == 0) return false;
+  return calls_.ask_process(static_cast<pid_t>(process)) == 0 || errno != ESRCH;
 }
 
 // ---- Claiming
@@ -387,20 +510,29 @@ std::unique_ptr<Claim> PosixFiles::claim(const std::string& path) {
 
 // ---- What is there
 
-bool PosixFiles::is_file(const std::string& path) const {
-  const auto found = about(path);
-  return found && !S_ISDIR(found->st_mode);
+Look PosixFiles::look(const std::string& path) const {
+  const auto os_path = os(path);
+  if (!os_path.ok()) {
+    if (os_path.error == FileError::kNotFound) return {};
+    return {There::kCannotTell, os_path.error};
+  }
+  return look_at(*os_path.value);
 }
 
-bool PosixFiles::is_folder(const std::string& path) const {
-  const auto found = about(path);
-  return found && S_ISDIR(found->st_mode);
-}
-
-std::optional<std::uint64_t> PosixFiles::size(const std::string& path) const {
-  const auto found = about(path);
-  if (!found || S_ISDIR(found->st_mode)) return std::nullopt;
-  return static_cast<std::uint64_t>(found->st_size);
+Look PosixFiles::look_at(const std::string& os_path) const {
+  const char* const name = os_path.c_str();
+  struct stat found {};
+  if (unbroken([&] { return calls_.stat(name, &found); }) == 0) {
+    if (S_ISDIR(found.st_mode)) return {There::kFolder};
+    if (!S_ISREG(found.st_mode)) return {There::kOther};
+    return {There::kFile, FileError::kNone, static_cast<std::uint64_t>(found.st_size)};
+  }
+  if (errno != ENOENT && errno != ENOTDIR) return {There::kCannotTell, file_error(errno)};
+  // A link may lead to a share that is not mounted now: what it names is not gone for that.
+  if (unbroken([&] { return calls_.lstat(name, &found); }) == 0)
+    return {There::kCannotTell, S_ISLNK(found.st_mode) ? FileError::kBadLink : FileError::kOther};
+  if (errno != ENOENT && errno != ENOTDIR) return {There::kCannotTell, file_error(errno)};
+  return {};
 }
 
 std::optional<DateTime> PosixFiles::modified(const std::string& path) const {
@@ -428,12 +560,13 @@ Result<std::vector<FolderEntry>> PosixFiles::list(const std::string& folder) con
     const std::string name = static_cast<const char*>(entry->d_name);
     if (name == "." || name == ".." || name.find('\\') != std::string::npos) continue;
     bool is_a_folder = entry->d_type == DT_DIR;
+    bool is_other = !is_a_folder && entry->d_type != DT_REG;
     if (entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK) {
-      struct stat target {};
-      is_a_folder = calls_.stat((*os_path.value + "/" + name).c_str(), &target) == 0 &&
-                    S_ISDIR(target.st_mode);
+      const Look target = look_at(*os_path.value + "/" + name);
+      is_a_folder = target.there == There::kFolder;
+      is_other = target.there == There::kOther;
     }
-    entries.push_back({name, is_a_folder});
+    if (!is_other) entries.push_back({name, is_a_folder});
   }
   (void)calls_.closedir(open);
   if (error_number != 0) return file_error(error_number);

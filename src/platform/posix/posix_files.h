@@ -7,13 +7,20 @@
 //   A crash before the rename leaves the old file and perhaps a ".part" beside it, which no search
 //   of the program matches; from the rename on the new file is there. A file keeps its permissions.
 //
-//   append           lock; set room aside; one write; flush. What did not go in whole is cut off
-//                    again under the same lock, and a file that the append created is removed.
+//   note             as replace, but the folder is not flushed
+//
+//   log              lock_log(): open, lock, look whether the path still names what was opened.
+//                    append(): set room aside; one write; flush. What did not go in whole is cut
+//                    off again under the same lock. cut(): shorten, flush. An empty file that was
+//                    created for the lock goes with it.
 //   A crash before the write leaves the old file (perhaps a new empty one), after it the new one.
 //   The room set aside beforehand is what makes a write that ends half-way on a full disk
-//   impossible on the file systems that can do it.
+//   impossible on the file systems that can do it. The lock is tried, never waited for without end;
+//   a file system without locks serves one program at a time, and is_locked() says so.
 //
-//   take back        lock; only when the file still ends where the append left it, cut it there.
+// What is opened is looked at before anything else is done with it: a pipe by the name of a report
+// would be waited for, a device would swallow it. A new file can be read and written by its owner,
+// whatever the user's mask takes away.
 //
 // A file or folder that nobody may write counts as read-only for the system's administrator too.
 
@@ -38,17 +45,15 @@ class PosixFiles : public Files {
                                          std::uint64_t largest = 64U << 20U) const override;
   [[nodiscard]] Result<StagedFile> stage(const std::string& path,
                                          std::string_view content) override;
-  [[nodiscard]] FileError commit(const StagedFile& staged) override;
+  [[nodiscard]] FileError commit(const StagedFile& staged, Over over = Over::kReplace) override;
   void discard(const StagedFile& staged) override;
-  [[nodiscard]] Result<AppendMark> append(const std::string& path,
-                                          std::string_view content) override;
-  [[nodiscard]] FileError take_back(const AppendMark& mark) override;
+  [[nodiscard]] FileError note(const std::string& path, std::string_view content) override;
+  [[nodiscard]] Result<std::unique_ptr<LockedLog>> lock_log(const std::string& path) override;
+  [[nodiscard]] bool is_running(std::uint64_t process) const override;
+  [[nodiscard]] Look look(const std::string& path) const override;
   /// The lock on the file is the claim; the system takes it off when the process ends. The file
   /// goes with a claim that is given up, and stays after a crash.
   [[nodiscard]] std::unique_ptr<Claim> claim(const std::string& path) override;
-  [[nodiscard]] bool is_file(const std::string& path) const override;
-  [[nodiscard]] bool is_folder(const std::string& path) const override;
-  [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const override;
   [[nodiscard]] std::optional<DateTime> modified(const std::string& path) const override;
   /// A name that holds a "\" cannot be said in a program path and is left out.
   [[nodiscard]] Result<std::vector<FolderEntry>> list(const std::string& folder) const override;
@@ -64,18 +69,20 @@ class PosixFiles : public Files {
 
  private:
   class Open;
-  class Locked;
+  class Log;
   class LockClaim;
 
   [[nodiscard]] Result<std::string> os(const std::string& path) const;
   [[nodiscard]] std::optional<struct stat> about(const std::string& path) const;
+  [[nodiscard]] Look look_at(const std::string& os_path) const;
   [[nodiscard]] FileError folder_writable(const std::string& os_path) const;
   [[nodiscard]] FileError write_all(int file, std::string_view content) const;
   [[nodiscard]] FileError fill(int file, std::string_view content,
                                const std::optional<struct stat>& old) const;
-  /// All of the content behind the end of the locked file, or nothing of it.
-  [[nodiscard]] FileError append_locked(const Locked& log, std::string_view content) const;
-  [[nodiscard]] FileError write_once(const Locked& log, std::string_view content) const;
+  /// Renames where nothing of the new name is, with whatever the file system can do.
+  [[nodiscard]] FileError rename_new(const std::string& from, const std::string& to) const;
+  /// A file that was just created, with no less than its owner needs.
+  void let_owner_use(int file) const;
   [[nodiscard]] FileError flush_folder(const std::string& os_path) const;
 
   const DriveMap& drives_;

@@ -5,9 +5,15 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
+#include <ctime>
 
 namespace platform::posix {
+
+void prepare_process() {
+  (void)::signal(SIGXFSZ, SIG_IGN);
+}
 
 int SystemCalls::open(const char* path, int flags, mode_t mode) {
   return ::open(path, flags | O_CLOEXEC, mode);
@@ -17,6 +23,9 @@ int SystemCalls::close(int file) {
 }
 ssize_t SystemCalls::read(int file, void* into, std::size_t size) {
   return ::read(file, into, size);
+}
+ssize_t SystemCalls::read_at(int file, void* into, std::size_t size, off_t from) {
+  return ::pread(file, into, size, from);
 }
 ssize_t SystemCalls::write(int file, const void* from, std::size_t size) {
   return ::write(file, from, size);
@@ -28,7 +37,7 @@ int SystemCalls::ftruncate(int file, off_t size) {
   return ::ftruncate(file, size);
 }
 int SystemCalls::lock(int file) {
-  return ::flock(file, LOCK_EX);
+  return ::flock(file, LOCK_EX | LOCK_NB);
 }
 int SystemCalls::try_lock(int file) {
   return ::flock(file, LOCK_EX | LOCK_NB);
@@ -45,6 +54,9 @@ int SystemCalls::fstat(int file, struct stat* into) {
 int SystemCalls::stat(const char* path, struct stat* into) {
   return ::stat(path, into);
 }
+int SystemCalls::lstat(const char* path, struct stat* into) {
+  return ::lstat(path, into);
+}
 int SystemCalls::access(const char* path, int mode) {
   return ::access(path, mode);
 }
@@ -53,6 +65,12 @@ int SystemCalls::chmod(const char* path, mode_t mode) {
 }
 int SystemCalls::rename(const char* from, const char* to) {
   return ::rename(from, to);
+}
+int SystemCalls::rename_new(const char* from, const char* to) {
+  return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE);
+}
+int SystemCalls::link(const char* from, const char* to) {
+  return ::link(from, to);
 }
 int SystemCalls::unlink(const char* path) {
   return ::unlink(path);
@@ -75,6 +93,18 @@ dirent* SystemCalls::readdir(DIR* folder) {
 }
 int SystemCalls::closedir(DIR* folder) {
   return ::closedir(folder);
+}
+int SystemCalls::ask_process(pid_t process) {
+  return ::kill(process, 0);
+}
+std::int64_t SystemCalls::now() {
+  timespec time{};
+  (void)::clock_gettime(CLOCK_MONOTONIC, &time);
+  return std::int64_t{time.tv_sec} * 1000 + time.tv_nsec / 1000000;
+}
+void SystemCalls::pause(int milliseconds) {
+  const timespec time{milliseconds / 1000, milliseconds % 1000 * 1000000L};
+  (void)::nanosleep(&time, nullptr);
 }
 
 }  // namespace platform::posix

@@ -8,8 +8,13 @@
 #include <sys/types.h>
 
 #include <cstddef>
+#include <cstdint>
 
 namespace platform::posix {
+
+/// For a program's start: a write above the limit of a file's size becomes an error like a full
+/// disk, instead of a signal that ends the program in the middle of a save.
+void prepare_process();
 
 /// Each function is the system call of its name and reports as it does: -1 (a null pointer) and
 /// errno.
@@ -19,10 +24,11 @@ class SystemCalls {
   virtual int open(const char* path, int flags, mode_t mode);
   virtual int close(int file);
   virtual ssize_t read(int file, void* into, std::size_t size);
+  virtual ssize_t read_at(int file, void* into, std::size_t size, off_t from);
   virtual ssize_t write(int file, const void* from, std::size_t size);
   virtual int fsync(int file);
   virtual int ftruncate(int file, off_t size);
-  /// Exclusive lock on the whole file, which every copy of the program respects.
+  /// Exclusive lock on the whole file, which every copy of the program respects; never waits.
   virtual int lock(int file);
   /// The same, but EWOULDBLOCK when another copy has it.
   virtual int try_lock(int file);
@@ -31,9 +37,13 @@ class SystemCalls {
   virtual int fchmod(int file, mode_t mode);
   virtual int fstat(int file, struct stat* into);
   virtual int stat(const char* path, struct stat* into);
+  virtual int lstat(const char* path, struct stat* into);
   virtual int access(const char* path, int mode);
   virtual int chmod(const char* path, mode_t mode);
   virtual int rename(const char* from, const char* to);
+  /// A rename that fails with EEXIST where something of the new name is.
+  virtual int rename_new(const char* from, const char* to);
+  virtual int link(const char* from, const char* to);
   virtual int unlink(const char* path);
   virtual int mkdir(const char* path, mode_t mode);
   virtual int rmdir(const char* path);
@@ -42,6 +52,11 @@ class SystemCalls {
   /// Null at the end with errno 0.
   virtual dirent* readdir(DIR* folder);
   virtual int closedir(DIR* folder);
+  /// Signal 0: only asks whether there is such a process.
+  virtual int ask_process(pid_t process);
+  /// Milliseconds of a clock that is never set.
+  virtual std::int64_t now();
+  virtual void pause(int milliseconds);
 };
 
 }  // namespace platform::posix
