@@ -42,6 +42,7 @@ Input::Line Input::next(std::string& line, std::size_t longest) {
 Input::Line Input::next_bytes(std::string& line, std::size_t longest) {
   using Traits = std::streambuf::traits_type;
   line.clear();
+  if (!rewound_) return Line::kUnreadable;
   std::streambuf& buffer = *in_->rdbuf();
   try {
     for (int c = buffer.sbumpc();; c = buffer.sbumpc()) {
@@ -57,7 +58,7 @@ Input::Line Input::next_bytes(std::string& line, std::size_t longest) {
 
 void Input::rewind() {
   in_->clear();
-  in_->seekg(start_);
+  rewound_ = !in_->seekg(start_).fail();
   first_ = true;
 }
 

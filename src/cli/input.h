@@ -29,6 +29,8 @@ class Input {
   /// True for a file that can be read a second time, so that all of it can be checked before
   /// anything is written.
   [[nodiscard]] bool can_rewind() const { return can_rewind_; }
+  /// Should that fail, every line is kUnreadable: an input that ends at once would look as if it
+  /// had been done.
   void rewind();
 
  private:
@@ -40,6 +42,7 @@ class Input {
   std::istream* in_;
   std::streampos start_ = 0;
   bool can_rewind_ = false;
+  bool rewound_ = true;
   bool first_ = true;
 };
 
