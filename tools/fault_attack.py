@@ -43,6 +43,20 @@ VV={visibility}
 """
 
 
+HEADING = """# What becomes of a save under real faults
+
+Written by `scripts/test-faults`, which runs the built `kavrel-cli save` again and again: each of its system calls fails with each
+of several errors, or is the last one before a kill, or the first one of a dying disk; files may not grow beyond a size; a
+small file system fills up; eight copies save at once. Behind each point another observation is saved, which recovers what was
+left. Then report and logbook line must be old or new, both; no line twice, none torn, nothing left lying beside them.
+
+- new: neither file is there; append: the logbook is there; replace: the report of that hour is there too
+- both old, both new: as they were, or saved; "once recovered": by the next save, which says so
+- both new, though not told as saved: the kill or the error came when both files were there
+
+"""
+
+
 class Room:
     """A folder with both files as they are before a save, and the ways to look at them."""
 
@@ -162,14 +176,20 @@ class Attack:
         for at, (call, n) in enumerate(points):
             ways = [("error", f"error={error}:when={n}") for error in ERRORS]
             ways += [("kill", f"signal=KILL:when={n}"), ("dying disk", f"error=EIO:when={n}+")]
-            if call in ("write", "pwrite64"):
-                ways.append(("half write", f"retval=1:when={n}"))
             for way, (kind, how) in enumerate(ways):
                 if (at + way) % self.every:
                     continue
                 with self.room(scenario) as room:
                     run = room.save(room.observed, "strace", "-f", "-qq", "-o", "/dev/null", "-e", f"inject={call}:{how}")
                     self.count(kind, scenario, outcome(room, new, run), f"{call} {how}")
+
+    def half_writes(self, scenario):
+        """A limit on the size of files lets each write that crosses it go in half, and the next one fail."""
+        _, new = self.calls_of(scenario)
+        for limit in range(0, 800, 10 * self.every):
+            with self.room(scenario) as room:
+                run = room.save(room.observed, "prlimit", f"--fsize={limit}")
+                self.count("half write", scenario, outcome(room, new, run), f"files of at most {limit} bytes")
 
     def full_disk(self):
         """A file system with so little room that the save runs into its end somewhere."""
@@ -239,6 +259,7 @@ def main():
     attack = Attack(os.path.abspath(arguments.cli), max(1, arguments.every))
     for scenario in ("new", "append", "replace"):
         attack.play(scenario)
+        attack.half_writes(scenario)
     if not attack.full_disk():
         print("full disk: not played, nothing may be mounted here")
     attack.writers(8)
@@ -246,7 +267,7 @@ def main():
     print(table)
     if arguments.table:
         with open(arguments.table, "w", encoding="utf-8") as file:
-            file.write(table)
+            file.write(HEADING + table)
     for line in attack.wrong:
         print(line)
     print(f"{attack.points} points, {len(attack.wrong)} wrong")
