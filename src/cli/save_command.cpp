@@ -3,6 +3,7 @@
 #include <map>
 
 #include "cli/commands.h"
+#include "cli/file_reasons.h"
 #include "cli/observations.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
@@ -20,24 +21,6 @@ struct Arguments {
   std::string reports, logbook, file;
   bool replace = false;
 };
-
-std::string reason_of(platform::FileError error) {
-  switch (error) {
-    case platform::FileError::kNone:
-      return "";
-    case platform::FileError::kNotFound:
-      return "no such folder";
-    case platform::FileError::kAccessDenied:
-      return "not permitted";
-    case platform::FileError::kNoSpace:
-      return "no space left";
-    case platform::FileError::kMediumMissing:
-      return "no such drive or no medium in it";
-    case platform::FileError::kOther:
-      return "input or output error";
-  }
-  return "";
-}
 
 /// Saves observations into two folders of this computer.
 class Saver {
@@ -108,7 +91,7 @@ class Saver {
   [[nodiscard]] std::optional<std::string> refusal(const observation::SaveResult& result,
                                                    const observation::SaveRequest& request) const {
     using observation::SaveOutcome;
-    const std::string why = reason_of(result.error);
+    const std::string why(reason_of(result.error));
     switch (result.outcome) {
       case SaveOutcome::kSaved:
         return std::nullopt;

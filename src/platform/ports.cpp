@@ -10,4 +10,17 @@ FileError Files::replace(const std::string& path, std::string_view content) {
   return error;
 }
 
+bool Files::is_file(const std::string& path) const {
+  return look(path).there == There::kFile;
+}
+
+bool Files::is_folder(const std::string& path) const {
+  return look(path).there == There::kFolder;
+}
+
+std::optional<std::uint64_t> Files::size(const std::string& path) const {
+  const Look found = look(path);
+  return found.there == There::kFile ? std::optional(found.size) : std::nullopt;
+}
+
 }  // namespace platform

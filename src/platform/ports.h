@@ -102,6 +102,12 @@ enum class FileError {
   kAccessDenied,  ///< no permission, read-only medium, a folder where a file was wanted
   kNoSpace,
   kMediumMissing,  ///< the drive is not there or holds no medium
+  kNotAFile,       ///< a pipe, a device or a socket where a file was wanted
+  kBadLink,        ///< a link that leads nowhere, or in a circle
+  kTooManyOpen,    ///< the program or the computer has no room for one more open file
+  kBadName,        ///< too long, or with a character that no name may have there
+  kLocked,         ///< another program holds the file
+  kExists,         ///< something of that name is there already
   kOther,
 };
 
@@ -115,6 +121,21 @@ struct Result {
       : value(std::move(v)) {}  // NOLINT(google-explicit-constructor): a function returns either
   Result(FileError e) : error(e) {}  // NOLINT(google-explicit-constructor)
   [[nodiscard]] bool ok() const { return value.has_value(); }
+};
+
+/// What lies under a path. "Cannot tell" is an answer of its own: whoever takes it for "not there"
+/// writes over a file that he could not see.
+enum class There {
+  kNo,    ///< there is no such name, and nothing else was wrong
+  kFile,  ///< a regular file
+  kFolder,
+  kOther,       ///< a pipe, a device or a socket: it can be neither read nor replaced
+  kCannotTell,  ///< not permitted, input or output error, no medium, a link that leads nowhere, ...
+};
+struct Look {
+  There there = There::kNo;
+  FileError error = FileError::kNone;  ///< why one cannot tell; else kNone
+  std::uint64_t size = 0;              ///< bytes of a file; else 0
 };
 
 struct FolderEntry {
@@ -162,9 +183,14 @@ class Files {
   /// unless somebody appended more since.
   [[nodiscard]] virtual FileError take_back(const AppendMark& mark) = 0;
 
-  [[nodiscard]] virtual bool is_file(const std::string& path) const = 0;
-  [[nodiscard]] virtual bool is_folder(const std::string& path) const = 0;
-  [[nodiscard]] virtual std::optional<std::uint64_t> size(const std::string& path) const = 0;
+  /// What lies under the path; links are followed.
+  [[nodiscard]] virtual Look look(const std::string& path) const = 0;
+  // Short for look(), for who shows or offers something: where one cannot tell, there is none. Not
+  // for who writes or takes a default because a file is missing: seeding settings, reading the
+  // ship's files, backing a file up, asking whether a report may be replaced. They look().
+  [[nodiscard]] bool is_file(const std::string& path) const;
+  [[nodiscard]] bool is_folder(const std::string& path) const;
+  [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const;
   /// Local time of the last change.
   [[nodiscard]] virtual std::optional<DateTime> modified(const std::string& path) const = 0;
   /// Entries of a folder without "." and "..", in the order the file system gives them.

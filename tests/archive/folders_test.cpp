@@ -186,9 +186,9 @@ class ManyFolders : public fakes::NoFiles {
     for (int i = 9999; i >= 0; --i) entries.push_back({"f" + std::to_string(100000 + i), true});
     return entries;
   }
-  [[nodiscard]] bool is_folder(const std::string& path) const override {
+  [[nodiscard]] platform::Look look(const std::string& path) const override {
     ADD_FAILURE() << "asked about " << path;
-    return true;
+    return {platform::There::kFolder};
   }
 };
 

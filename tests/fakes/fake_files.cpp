@@ -60,7 +60,7 @@ FakeFiles::Node* FakeFiles::find(const std::string& path) {
 FakeFiles::Node& FakeFiles::put(const std::string& path, std::string content) {
   Node* node = find(path);
   if (node == nullptr) {
-    nodes_.push_back({path, false, false, {}, {2014, 11, 15, 12, 0, 0}});
+    nodes_.push_back({path, false, false, false, {}, {2014, 11, 15, 12, 0, 0}});
     node = &nodes_.back();
   }
   node->content = std::move(content);
@@ -79,9 +79,14 @@ void FakeFiles::add_folder(const std::string& path) {
   std::string so_far;
   for (const char c : path + "\\") {
     if ((c == '\\' || c == '/') && so_far.size() > 2 && find(so_far) == nullptr)
-      nodes_.push_back({so_far, true, false, {}, {2014, 11, 15, 12, 0, 0}});
+      nodes_.push_back({so_far, true, false, false, {}, {2014, 11, 15, 12, 0, 0}});
     so_far.push_back(c);
   }
+}
+
+void FakeFiles::add_other(const std::string& path) {
+  add_file(path, "");
+  find(path)->other = true;
 }
 
 void FakeFiles::set_modified(const std::string& path, platform::DateTime when) {
@@ -130,6 +135,10 @@ void FakeFiles::fail_path(const std::string& path, FileError error) {
   path_errors_[key(path)] = error;
 }
 
+void FakeFiles::fail_look(const std::string& path, FileError error) {
+  look_errors_[key(path)] = error;
+}
+
 void FakeFiles::kill_before(int n) {
   kills_before_.insert(count_ + n);
 }
@@ -142,6 +151,7 @@ void FakeFiles::heal() {
   next_errors_.clear();
   errors_at_.clear();
   path_errors_.clear();
+  look_errors_.clear();
   kills_before_.clear();
   kills_after_.clear();
 }
@@ -257,22 +267,18 @@ FileError FakeFiles::take_back(const platform::AppendMark& mark) {
   return end(error);
 }
 
-bool FakeFiles::is_file(const std::string& path) const {
-  const Node* node = find(path);
-  return node != nullptr && !node->folder && !missing(path);
-}
-
-bool FakeFiles::is_folder(const std::string& path) const {
-  if (missing(path)) return false;
+platform::Look FakeFiles::look(const std::string& path) const {
+  using platform::There;
   const std::string wanted = key(path);
-  if (wanted.size() == 2) return true;
+  if (const auto at = look_errors_.find(wanted); at != look_errors_.end())
+    return {There::kCannotTell, at->second};
+  if (missing(path)) return {There::kCannotTell, FileError::kMediumMissing};
+  if (wanted.size() == 2) return {There::kFolder};
   const Node* node = find(path);
-  return node != nullptr && node->folder;
-}
-
-std::optional<std::uint64_t> FakeFiles::size(const std::string& path) const {
-  if (!is_file(path)) return std::nullopt;
-  return find(path)->content.size();
+  if (node == nullptr) return {};
+  if (node->folder) return {There::kFolder};
+  if (node->other) return {There::kOther};
+  return {There::kFile, FileError::kNone, node->content.size()};
 }
 
 std::optional<platform::DateTime> FakeFiles::modified(const std::string& path) const {

@@ -52,6 +52,8 @@ class FakeFiles : public platform::Files {
   void set_read_only(const std::string& path, bool read_only = true);
   /// Bytes free on a drive; writing more is kNoSpace. Unlimited when never set.
   void set_free_space(char drive, std::uint64_t bytes);
+  /// A pipe, a device or a socket lies there, in its folder.
+  void add_other(const std::string& path);
   /// Everything on the drive answers kMediumMissing.
   void set_medium_missing(char drive, bool missing = true);
 
@@ -68,6 +70,8 @@ class FakeFiles : public platform::Files {
   void fail_at(int n, platform::FileError error);
   /// Every operation on that path fails.
   void fail_path(const std::string& path, platform::FileError error);
+  /// Looking at that path cannot tell what is there, whatever is.
+  void fail_look(const std::string& path, platform::FileError error);
   /// The program dies before (after) the n-th operation from now on.
   void kill_before(int n);
   void kill_after(int n);
@@ -94,9 +98,7 @@ class FakeFiles : public platform::Files {
   [[nodiscard]] platform::Result<platform::AppendMark> append(const std::string& path,
                                                               std::string_view content) override;
   [[nodiscard]] platform::FileError take_back(const platform::AppendMark& mark) override;
-  [[nodiscard]] bool is_file(const std::string& path) const override;
-  [[nodiscard]] bool is_folder(const std::string& path) const override;
-  [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const override;
+  [[nodiscard]] platform::Look look(const std::string& path) const override;
   [[nodiscard]] std::optional<platform::DateTime> modified(const std::string& path) const override;
   [[nodiscard]] platform::Result<std::vector<platform::FolderEntry>> list(
       const std::string& folder) const override;
@@ -113,6 +115,7 @@ class FakeFiles : public platform::Files {
   struct Node {
     std::string path;  ///< as first written
     bool folder = false;
+    bool other = false;  ///< neither a file nor a folder
     bool read_only = false;
     std::string content;
     platform::DateTime modified;
@@ -135,6 +138,7 @@ class FakeFiles : public platform::Files {
   std::map<char, std::uint64_t> free_space_;
   std::set<char> missing_;
   std::map<std::string, platform::FileError> path_errors_;
+  std::map<std::string, platform::FileError> look_errors_;
   mutable std::map<Operation, std::vector<platform::FileError>> next_errors_;
   mutable std::map<int, platform::FileError> errors_at_;
   std::set<int> kills_before_;

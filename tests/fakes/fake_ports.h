@@ -138,11 +138,7 @@ class NoFiles : public platform::Files {
   [[nodiscard]] platform::FileError take_back(const platform::AppendMark&) override {
     return platform::FileError::kAccessDenied;
   }
-  [[nodiscard]] bool is_file(const std::string&) const override { return false; }
-  [[nodiscard]] bool is_folder(const std::string&) const override { return false; }
-  [[nodiscard]] std::optional<std::uint64_t> size(const std::string&) const override {
-    return std::nullopt;
-  }
+  [[nodiscard]] platform::Look look(const std::string&) const override { return {}; }
   [[nodiscard]] std::optional<platform::DateTime> modified(const std::string&) const override {
     return std::nullopt;
   }

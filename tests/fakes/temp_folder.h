@@ -30,7 +30,7 @@ class TempFolder {
   ~TempFolder() {
     std::error_code error;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(path_, error))
-      if (entry.is_directory() && !entry.is_symlink())
+      if (!entry.is_symlink() && entry.is_directory())
         std::filesystem::permissions(entry.path(), std::filesystem::perms::owner_all, error);
     std::filesystem::remove_all(path_, error);
   }

@@ -69,6 +69,9 @@ class FailingCalls : public platform::posix::SystemCalls {
   int stat(const char* path, struct stat* into) override {
     return next("stat") ? SystemCalls::stat(path, into) : -1;
   }
+  int lstat(const char* path, struct stat* into) override {
+    return next("lstat") ? SystemCalls::lstat(path, into) : -1;
+  }
   int access(const char* path, int mode) override {
     return next("access") ? SystemCalls::access(path, mode) : -1;
   }

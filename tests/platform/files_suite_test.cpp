@@ -12,14 +12,23 @@
 namespace {
 
 using platform::FileError;
+using platform::There;
 
 class InMemory {
  public:
   platform::Files& files() { return files_; }
   void read_only(const std::string& path) { files_.set_read_only(path); }
+  void pipe(const std::string& path) { files_.add_other(path); }
+  void cannot_tell(const std::string& path) { files_.fail_look(path, FileError::kBadLink); }
 
  private:
-  fakes::FakeFiles files_;
+  /// A: holds no medium in either world.
+  static fakes::FakeFiles without_floppy() {
+    fakes::FakeFiles files;
+    files.set_medium_missing('A');
+    return files;
+  }
+  fakes::FakeFiles files_ = without_floppy();
 };
 
 class Real {
@@ -28,6 +37,13 @@ class Real {
   void read_only(const std::string& path) {
     std::filesystem::permissions(*map_.to_os(path).value, std::filesystem::perms::owner_read |
                                                               std::filesystem::perms::owner_exec);
+  }
+  void pipe(const std::string& path) {
+    constexpr mode_t kMode = 0600;
+    ASSERT_EQ(::mkfifo(map_.to_os(path).value->c_str(), kMode), 0);
+  }
+  void cannot_tell(const std::string& path) {
+    std::filesystem::create_symlink("leads-nowhere", *map_.to_os(path).value);
   }
 
  private:
@@ -43,6 +59,8 @@ class FilesSuite : public ::testing::Test {
   FilesSuite() { EXPECT_EQ(files().create_folder("C:\\out"), FileError::kNone); }
   platform::Files& files() { return kind_.files(); }
   void read_only(const std::string& path) { kind_.read_only(path); }
+  void pipe(const std::string& path) { kind_.pipe(path); }
+  void cannot_tell(const std::string& path) { kind_.cannot_tell(path); }
   std::string content(const std::string& path) {
     auto read = files().read(path);
     return read.ok() ? *read.value : "(none)";
@@ -135,6 +153,37 @@ TYPED_TEST(FilesSuite, FolderIsNotTakenForAFile) {
   EXPECT_EQ(this->files().replace("C:\\out\\a", "x"), FileError::kNone);
   EXPECT_EQ(this->files().create_folder("C:\\out\\a"), FileError::kAccessDenied);
   EXPECT_FALSE(this->files().is_folder("C:\\out\\a"));
+}
+
+TYPED_TEST(FilesSuite, ALookTellsWhatIsThereAndWhenItCannotTell) {
+  EXPECT_EQ(this->files().replace("C:\\out\\a", "123"), FileError::kNone);
+  const struct {
+    const char* path;
+    There there;
+    FileError error;
+    std::uint64_t size;
+  } rows[] = {
+      {"C:\\out\\a", There::kFile, FileError::kNone, 3},
+      {"C:\\out\\", There::kFolder, FileError::kNone, 0},
+      {"C:\\", There::kFolder, FileError::kNone, 0},
+      {"C:\\out\\none", There::kNo, FileError::kNone, 0},
+      {"C:\\none\\a", There::kNo, FileError::kNone, 0},
+      {"C:\\out\\a\\b", There::kNo, FileError::kNone, 0},
+      {"C:\\out\\pipe", There::kOther, FileError::kNone, 0},
+      {"C:\\out\\hidden", There::kCannotTell, FileError::kBadLink, 0},
+      {"A:\\x", There::kCannotTell, FileError::kMediumMissing, 0},
+  };
+  this->pipe("C:\\out\\pipe");
+  this->cannot_tell("C:\\out\\hidden");
+  for (const auto& row : rows) {
+    const platform::Look found = this->files().look(row.path);
+    EXPECT_EQ(found.there, row.there) << row.path;
+    EXPECT_EQ(found.error, row.error) << row.path;
+    EXPECT_EQ(found.size, row.size) << row.path;
+    EXPECT_EQ(this->files().is_file(row.path), row.there == There::kFile) << row.path;
+    EXPECT_EQ(this->files().is_folder(row.path), row.there == There::kFolder) << row.path;
+    EXPECT_EQ(this->files().size(row.path).has_value(), row.there == There::kFile) << row.path;
+  }
 }
 
 TYPED_TEST(FilesSuite, AppendCreatesAndAdds) {

@@ -16,6 +16,7 @@ namespace {
 
 using fakes::TempFolder;
 using platform::FileError;
+using platform::There;
 using platform::posix::DriveMap;
 using platform::posix::PosixFiles;
 using tests::FailingCalls;
@@ -318,6 +319,56 @@ TEST(PosixFiles, NamesCompareAsTheFileSystemDoes) {
   EXPECT_FALSE(place.files.is_file("C:\\out\\14111512.TLX"));
 }
 
+TEST(PosixFiles, ALookTellsWhatIsMissingFromWhatCannotBeSeen) {
+  Place place(true);
+  const std::string out = place.temp / "out/";
+  std::filesystem::create_symlink("none", out + "dangling");
+  std::filesystem::create_symlink("loop", out + "loop");
+  std::filesystem::create_symlink("immt5.log", out + "link");
+  const std::string long_name(300, 'n');
+  const struct {
+    std::string path;
+    There there;
+    FileError error;
+  } rows[] = {
+      {kLog, There::kFile, FileError::kNone},
+      {"C:\\out\\link", There::kFile, FileError::kNone},
+      {"C:\\out", There::kFolder, FileError::kNone},
+      {"Z:\\dev\\null", There::kOther, FileError::kNone},
+      {"C:\\out\\none", There::kNo, FileError::kNone},
+      {"C:\\out\\immt5.log\\x", There::kNo, FileError::kNone},
+      {"C:\\out\\dangling", There::kCannotTell, FileError::kBadLink},
+      {"C:\\out\\loop", There::kCannotTell, FileError::kBadLink},
+      {"C:\\out\\" + long_name, There::kCannotTell, FileError::kBadName},
+      {"A:\\x", There::kCannotTell, FileError::kMediumMissing},
+      {std::string("C:\\a\0b", 6), There::kNo, FileError::kNone},
+  };
+  for (const auto& row : rows) {
+    const platform::Look found = place.files.look(row.path);
+    EXPECT_EQ(found.there, row.there) << row.path;
+    EXPECT_EQ(found.error, row.error) << row.path;
+    EXPECT_EQ(place.files.is_file(row.path), row.there == There::kFile) << row.path;
+    EXPECT_EQ(place.files.is_folder(row.path), row.there == There::kFolder) << row.path;
+  }
+  EXPECT_EQ(place.files.look(kLog).size, 4U);
+}
+
+TEST(PosixFiles, OnlyTheAnswerNoSuchNameMeansThatNothingIsThere) {
+  for (const char* path : {kLog, "C:\\out\\none"}) {
+    Place trial(true);
+    (void)trial.files.look(path);
+    for (int n = 1; n <= trial.calls.count(); ++n) {
+      for (const int error_number : {EACCES, EIO, ENFILE, ENOMEM, ESTALE, ELOOP}) {
+        Place place(true);
+        place.calls.fail_at(n, error_number);
+        const platform::Look found = place.files.look(path);
+        EXPECT_EQ(found.there, There::kCannotTell) << path << n << " " << error_number;
+        EXPECT_EQ(found.error, platform::posix::file_error(error_number));
+      }
+    }
+  }
+}
+
 TEST(PosixFiles, ReplacedFileKeepsItsPermissions) {
   Place place(true);
   constexpr mode_t kMode = 0640;
@@ -381,11 +432,16 @@ TEST(FileErrors, ErrnoValuesBecomeReasons) {
     FileError error;
   } rows[] = {
       {ENOENT, FileError::kNotFound},      {ENOTDIR, FileError::kNotFound},
-      {EACCES, FileError::kAccessDenied},  {EROFS, FileError::kAccessDenied},
-      {EISDIR, FileError::kAccessDenied},  {ENOSPC, FileError::kNoSpace},
-      {EDQUOT, FileError::kNoSpace},       {ENOMEDIUM, FileError::kMediumMissing},
-      {ENODEV, FileError::kMediumMissing}, {EIO, FileError::kOther},
-      {ENOTEMPTY, FileError::kOther},      {ENAMETOOLONG, FileError::kOther},
+      {EACCES, FileError::kAccessDenied},  {EPERM, FileError::kAccessDenied},
+      {EROFS, FileError::kAccessDenied},   {EISDIR, FileError::kAccessDenied},
+      {ENOSPC, FileError::kNoSpace},       {EDQUOT, FileError::kNoSpace},
+      {EFBIG, FileError::kNoSpace},        {ENOMEDIUM, FileError::kMediumMissing},
+      {ENODEV, FileError::kMediumMissing}, {ELOOP, FileError::kBadLink},
+      {EMFILE, FileError::kTooManyOpen},   {ENFILE, FileError::kTooManyOpen},
+      {EINVAL, FileError::kBadName},       {ENAMETOOLONG, FileError::kBadName},
+      {EILSEQ, FileError::kBadName},       {EWOULDBLOCK, FileError::kLocked},
+      {EEXIST, FileError::kExists},        {EIO, FileError::kOther},
+      {ENOTEMPTY, FileError::kOther},
   };
   for (const auto& row : rows)
     EXPECT_EQ(platform::posix::file_error(row.error_number), row.error) << row.error_number;

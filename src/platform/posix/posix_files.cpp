@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <ctime>
@@ -42,27 +43,26 @@ bool same_file(const struct stat& a, const struct stat& b) {
 }  // namespace
 
 FileError file_error(int error_number) {
-  switch (error_number) {
-    case ENOENT:
-    case ENOTDIR:
-      return FileError::kNotFound;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case EISDIR:
-    case ETXTBSY:
-      return FileError::kAccessDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return FileError::kNoSpace;
-    case ENOMEDIUM:
-    case ENXIO:
-    case ENODEV:
-      return FileError::kMediumMissing;
-    default:
-      return FileError::kOther;
-  }
+  static constexpr struct {
+    int error_number;
+    FileError error;
+  } kReasons[] = {
+      {ENOENT, FileError::kNotFound},         {ENOTDIR, FileError::kNotFound},
+      {EACCES, FileError::kAccessDenied},     {EPERM, FileError::kAccessDenied},
+      {EROFS, FileError::kAccessDenied},      {EISDIR, FileError::kAccessDenied},
+      {ETXTBSY, FileError::kAccessDenied},    {ENOSPC, FileError::kNoSpace},
+      {EDQUOT, FileError::kNoSpace},          {EFBIG, FileError::kNoSpace},
+      {ENOMEDIUM, FileError::kMediumMissing}, {ENXIO, FileError::kMediumMissing},
+      {ENODEV, FileError::kMediumMissing},    {ELOOP, FileError::kBadLink},
+      {EMFILE, FileError::kTooManyOpen},      {ENFILE, FileError::kTooManyOpen},
+      {EINVAL, FileError::kBadName},          {ENAMETOOLONG, FileError::kBadName},
+      {EILSEQ, FileError::kBadName},          {EAGAIN, FileError::kLocked},
+      {EEXIST, FileError::kExists},
+  };
+  const auto* const row =
+      std::find_if(std::begin(kReasons), std::end(kReasons),
+                   [&](const auto& each) { return each.error_number == error_number; });
+  return row == std::end(kReasons) ? FileError::kOther : row->error;
 }
 
 /// A file that closes itself.
@@ -346,20 +346,25 @@ FileError PosixFiles::take_back(const AppendMark& mark) {
 
 // ---- What is there
 
-bool PosixFiles::is_file(const std::string& path) const {
-  const auto found = about(path);
-  return found && !S_ISDIR(found->st_mode);
-}
-
-bool PosixFiles::is_folder(const std::string& path) const {
-  const auto found = about(path);
-  return found && S_ISDIR(found->st_mode);
-}
-
-std::optional<std::uint64_t> PosixFiles::size(const std::string& path) const {
-  const auto found = about(path);
-  if (!found || S_ISDIR(found->st_mode)) return std::nullopt;
-  return static_cast<std::uint64_t>(found->st_size);
+Look PosixFiles::look(const std::string& path) const {
+  const auto os_path = os(path);
+  if (!os_path.ok()) {
+    if (os_path.error == FileError::kNotFound) return {};
+    return {There::kCannotTell, os_path.error};
+  }
+  const char* const name = os_path.value->c_str();
+  struct stat found {};
+  if (unbroken([&] { return calls_.stat(name, &found); }) == 0) {
+    if (S_ISDIR(found.st_mode)) return {There::kFolder};
+    if (!S_ISREG(found.st_mode)) return {There::kOther};
+    return {There::kFile, FileError::kNone, static_cast<std::uint64_t>(found.st_size)};
+  }
+  if (errno != ENOENT && errno != ENOTDIR) return {There::kCannotTell, file_error(errno)};
+  // A link may lead to a share that is not mounted now: what it names is not gone for that.
+  if (unbroken([&] { return calls_.lstat(name, &found); }) == 0)
+    return {There::kCannotTell, S_ISLNK(found.st_mode) ? FileError::kBadLink : FileError::kOther};
+  if (errno != ENOENT && errno != ENOTDIR) return {There::kCannotTell, file_error(errno)};
+  return {};
 }
 
 std::optional<DateTime> PosixFiles::modified(const std::string& path) const {

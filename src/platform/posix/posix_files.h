@@ -42,9 +42,7 @@ class PosixFiles : public Files {
   [[nodiscard]] Result<AppendMark> append(const std::string& path,
                                           std::string_view content) override;
   [[nodiscard]] FileError take_back(const AppendMark& mark) override;
-  [[nodiscard]] bool is_file(const std::string& path) const override;
-  [[nodiscard]] bool is_folder(const std::string& path) const override;
-  [[nodiscard]] std::optional<std::uint64_t> size(const std::string& path) const override;
+  [[nodiscard]] Look look(const std::string& path) const override;
   [[nodiscard]] std::optional<DateTime> modified(const std::string& path) const override;
   /// A name that holds a "\" cannot be said in a program path and is left out.
   [[nodiscard]] Result<std::vector<FolderEntry>> list(const std::string& folder) const override;

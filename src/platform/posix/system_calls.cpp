@@ -42,6 +42,9 @@ int SystemCalls::fstat(int file, struct stat* into) {
 int SystemCalls::stat(const char* path, struct stat* into) {
   return ::stat(path, into);
 }
+int SystemCalls::lstat(const char* path, struct stat* into) {
+  return ::lstat(path, into);
+}
 int SystemCalls::access(const char* path, int mode) {
   return ::access(path, mode);
 }

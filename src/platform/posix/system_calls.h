@@ -29,6 +29,7 @@ class SystemCalls {
   virtual int fchmod(int file, mode_t mode);
   virtual int fstat(int file, struct stat* into);
   virtual int stat(const char* path, struct stat* into);
+  virtual int lstat(const char* path, struct stat* into);
   virtual int access(const char* path, int mode);
   virtual int chmod(const char* path, mode_t mode);
   virtual int rename(const char* from, const char* to);
