@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "text/ids.h"
+#include "text/reasons.h"
 
 namespace text {
 namespace {
@@ -67,6 +68,10 @@ void Messages::error_filled(int id, std::initializer_list<std::string_view> argu
   std::string shown = fill(texts_.get(id), arguments);
   if (below != 0) shown.append("\n").append(texts_.get(below));
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
+}
+
+void Messages::file_error(int id, std::string_view path, platform::FileError why) {
+  error_filled(id, {path, texts_.get(reason_of(why))});
 }
 
 int Messages::question(std::string_view text, std::string_view title, QuestionMode mode,

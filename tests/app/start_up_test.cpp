@@ -288,8 +288,10 @@ TEST_F(StartUp, FoldersThatCannotBeCreatedAreNotReported) {
   settle();
   files.fail_path("C:\\kavrel\\file", FileError::kAccessDenied);
   files.fail_path("C:\\kavrel\\data", FileError::kAccessDenied);
+  // What is saved into one of them tells.
+  world.windows.expect_text(std::string("The file ") + kFixed +
+                            " can not be saved (no such file or folder).");
   EXPECT_EQ(run(), 0);
-  EXPECT_TRUE(world.windows.boxes.empty());
 }
 
 // ---- Ship files
@@ -307,12 +309,13 @@ TEST_F(StartUp, ShipDataAreTakenWhateverTheAnswerButWrittenOnlyWhenConfirmed) {
   EXPECT_FALSE(files.is_file(kFixed));
 }
 
-TEST_F(StartUp, ShipFileThatCannotBeWrittenIsNotReported) {
+TEST_F(StartUp, OfficerIsToldWhenTheShipDataEnteredCannotBeWritten) {
   settle();
-  files.fail_path(kFixed, FileError::kAccessDenied);
+  files.fail_path(kFixed, FileError::kNoSpace);
+  world.windows.expect_text(std::string("The file ") + kFixed +
+                            " can not be saved (no space left).");
   EXPECT_EQ(run(), 0);
   EXPECT_FALSE(files.is_file(kFixed));
-  EXPECT_TRUE(world.windows.boxes.empty());
 }
 
 TEST_F(StartUp, MainWindowSavesShipDataAndFoldersThroughTheApplication) {
@@ -337,7 +340,8 @@ TEST_F(StartUp, OfficerIsToldWhenTheMainWindowCannotSaveTheShipData) {
   files.add_file(kFixed, "x");
   in_main_window = [&](ui::Services&, const mainwindow::MainWindowContext& context) {
     files.fail_path(kFixed, FileError::kAccessDenied);
-    world.windows.expect_text("The file C:\\kavrel\\file\\FIXDATA.DAT can not be saved.");
+    world.windows.expect_text(
+        "The file C:\\kavrel\\file\\FIXDATA.DAT can not be saved (not permitted).");
     context.save_fixed_data();
   };
   EXPECT_EQ(run(), 0);

@@ -356,7 +356,9 @@ TEST_F(Folders, NewFolderWithoutAGoodNameIsRefusedAndNothingIsCreated) {
       EXPECT_EQ(dialog.focused(), &dialog.folder_name) << row.name;
       EXPECT_EQ(dialog.path(), "");
       EXPECT_EQ(files.snapshot(), before) << row.name;
-      EXPECT_EQ(world.windows.boxes.back().text, world.texts.get(row.message));
+      const auto reason = world.texts.get(id::kReasonNotPermitted);
+      EXPECT_EQ(world.windows.boxes.back().text,
+                text::fill(world.texts.get(row.message), {"C:\\out\\" + row.name, reason}));
       dialog.press(dialog.cancel);
       EXPECT_EQ(dialog.result(), text::kCancel);
     }
