@@ -5,6 +5,7 @@
 
 #include "text/ids.h"
 #include "text/numbers.h"
+#include "text/reasons.h"
 #include "text/strings.h"
 #include "ui/line_keys.h"
 
@@ -364,6 +365,11 @@ bool Screen::reveal(Control& tree, std::string_view path) {
 void Screen::close_box() {
   const Handling handling(*this);
   if (handling) on_cancel();
+}
+
+void Screen::event_failed(const std::exception_ptr& thrown) {
+  const Handling handling(*this);
+  services_.messages.error_filled(text::id::kEventFailed, {text::reason_of(thrown, language())});
 }
 
 void Screen::on_f1(Control* /*focused*/) {
