@@ -91,7 +91,7 @@ FolderCheck check_working_folder(const std::string& folder, const std::string& r
     return {FolderState::kUsable};
   // A name that no folder can have and a drive that has gone are answers, too.
   if (found.there != There::kCannotTell || found.error == FileError::kBadName ||
-      !drive_is_there(folder, drives))
+      (found.error == FileError::kMediumMissing && !drive_is_there(folder, drives)))
     return {FolderState::kGone};
   return {FolderState::kUncertain, platform::why_no_file(found)};
 }

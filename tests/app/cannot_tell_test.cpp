@@ -287,6 +287,8 @@ TEST(CannotTell, FolderOfADriveThatIsGoneIsAskedForAgain) {
   files.set_medium_missing('D');
   files.fail_look("C:\\a\\", FileError::kBadName);
   files.fail_look("C:\\b\\", FileError::kMediumMissing);
+  // The drive that one cannot look at may be there.
+  files.fail_look("E:\\tlx", FileError::kOther);
   const struct {
     const char* folder;
     app::FolderState state;
@@ -294,7 +296,7 @@ TEST(CannotTell, FolderOfADriveThatIsGoneIsAskedForAgain) {
               {"d:\\tlx\\", app::FolderState::kGone},  {"C:\\none", app::FolderState::kGone},
               {"C:\\a\\", app::FolderState::kGone},    {"C:\\b\\", app::FolderState::kUncertain},
               {"c:\\b", app::FolderState::kUncertain}, {"C:\\", app::FolderState::kUsable},
-              {"A:\\tlx", app::FolderState::kUsable}};
+              {"A:\\tlx", app::FolderState::kUsable},  {"E:\\tlx", app::FolderState::kUncertain}};
   for (const auto& row : rows)
     EXPECT_EQ(app::check_working_folder(row.folder, "A:\\", files, drives).state, row.state)
         << row.folder;

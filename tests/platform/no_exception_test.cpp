@@ -65,8 +65,7 @@ TEST(NoException, FolderInPlaceOfTheListOfDrivesIsAProblemToldByName) {
   std::filesystem::create_directory(temp / "drives.txt");
   const System system(rooted(temp));
   ASSERT_EQ(system.problems().size(), 1U);
-  EXPECT_EQ(system.problems()[0],
-            "drives.txt: cannot be read: a folder or a device, not a file");
+  EXPECT_EQ(system.problems()[0], "drives.txt: cannot be read: a folder or a device, not a file");
 }
 
 TEST(NoException, PipeInPlaceOfTheListOfDrivesIsNotWaitedFor) {
