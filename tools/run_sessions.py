@@ -75,7 +75,8 @@ def lay_out(folder, names, target):
         if not os.path.isdir(source):
             raise Wrong(f"no folder {source}")
         # git keeps no empty folder, so one is marked by a file that is not copied.
-        shutil.copytree(source, target, dirs_exist_ok=True, ignore=shutil.ignore_patterns(".keep"))
+        # A link stays one, so that it may lead nowhere.
+        shutil.copytree(source, target, symlinks=True, dirs_exist_ok=True, ignore=shutil.ignore_patterns(".keep"))
 
 
 def set_writable(path, writable):

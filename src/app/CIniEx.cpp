@@ -61,7 +61,9 @@ FileError CIniEx::open(const std::string& path, Options options) {
   clear();
   (void)files_.clear_read_only(path);  // what cannot be cleared shows when it is saved
   auto content = files_.read(path);
-  if (!content.ok() && content.error == FileError::kNotFound && options.create) {
+  // A link that leads nowhere reads as missing too, and what it names may only be away.
+  if (content.error == FileError::kNotFound && options.create &&
+      files_.look(path).there == platform::There::kNo) {
     if (const FileError error = files_.replace(path, ""); error != FileError::kNone) return error;
     content = std::string();
   }
@@ -119,7 +121,9 @@ bool CIniEx::set_value(std::string_view section, std::string_view key, std::stri
 }
 
 FileError CIniEx::back_up() const {
-  if (!files_.is_file(path_)) return FileError::kNone;
+  const FileError error = platform::why_no_file(files_.look(path_));
+  if (error == FileError::kNotFound) return FileError::kNone;
+  if (error != FileError::kNone) return error;
   const NameParts own = parts_of(path_);
   const auto entries = files_.list(own.folder.empty() ? files_.current_folder() : own.folder);
   if (!entries.ok()) return entries.error;

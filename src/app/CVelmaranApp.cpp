@@ -4,10 +4,22 @@
 #include "mainwindow/save_flow.h"
 #include "ship/ship_files.h"
 #include "text/ids.h"
+#include "text/reasons.h"
 
 namespace app {
 
 using platform::FileError;
+using platform::There;
+
+namespace {
+
+// There is something, readable or not. Where one cannot tell, a screen must not accept itself as if
+// it knew.
+bool is_there(There there) {
+  return there != There::kNo && there != There::kCannotTell;
+}
+
+}  // namespace
 
 CVelmaranApp::CVelmaranApp(const Ports& ports, Dialogs dialogs)
     : messages_(texts_, ports.windows),
@@ -52,7 +64,8 @@ void CVelmaranApp::create_folders() {
   settings_.folders.fixed_data = settings_.file_folder + "\\FIXDATA.DAT";
   settings_.folders.key_items = settings_.file_folder + "\\MOKSDATA.DAT";
   settings_.folders.drafts = settings_.file_folder;
-  // One that cannot be created shows when something is saved into it.
+  // One that cannot be created shows when something is saved into it. Creating leaves alone what is
+  // there, so nothing is lost where one cannot tell.
   for (const std::string& folder : {settings_.file_folder, settings_.data_folder})
     if (!services_.files.is_folder(folder)) (void)services_.files.create_folder(folder);
 }
@@ -64,46 +77,61 @@ void CVelmaranApp::find_removable() {
 void CVelmaranApp::check_folder(WorkingFolder which) {
   std::string& folder =
       which == WorkingFolder::kReports ? settings_.folders.reports : settings_.folders.logbook;
-  if (folder_accepted(folder, settings_.folders.removable_root, services_.files)) return;
-  folder.clear();
+  const FolderCheck check = check_working_folder(folder, settings_.folders.removable_root,
+                                                 services_.files, services_.drives);
+  if (check.state == FolderState::kUsable) return;
+  if (check.state == FolderState::kUncertain && may_be_used(folder, check.why)) return;
+  if (check.state == FolderState::kGone) folder.clear();
   const auto write = [this](std::string_view key, std::string_view chosen) {
     keep([&](CIniEx& ini) { return ini.set_value(kSection, key, chosen); });
   };
-  folder = dialogs_.working_folder(services_, which, settings_.data_folder, write).value_or("");
+  folder = dialogs_.working_folder(services_, which, settings_.data_folder, write).value_or(folder);
+}
+
+bool CVelmaranApp::may_be_used(const std::string& folder, FileError why) {
+  const std::string question =
+      text::fill(texts_.get(text::id::kAskUseFolder), {folder, texts_.get(text::reason_of(why))});
+  return messages_.question(question, {}, text::QuestionMode::kYesNo, text::id::kAskUseFolder) ==
+         text::kYes;
 }
 
 void CVelmaranApp::ask_fixed_data() {
   const std::string& path = settings_.folders.fixed_data;
-  const bool exists = services_.files.is_file(path);
+  const There before = services_.files.look(path).there;
   const auto answer = dialogs_.fixed_data(
-      services_, {path, exists, settings_.folders.reports, settings_.folders.logbook});
+      services_, {path, is_there(before), settings_.folders.reports, settings_.folders.logbook});
   ship_ = answer.values;
-  // A save that fails is not reported here: the officer is asked again at the next start.
-  if (!exists && answer.confirmed)
+  const bool missing = before == There::kNo || (before == There::kCannotTell &&
+                                                services_.files.look(path).there == There::kNo);
+  // Nothing is said here when it cannot be written: the officer is asked again at the next start.
+  if (missing && answer.confirmed)
     (void)save_fixed_data(services_.files, path, ship_, services_.clock, services_.code_page);
+}
+
+void CVelmaranApp::save_ship() {
+  const std::string& path = settings_.folders.fixed_data;
+  const FileError error =
+      save_fixed_data(services_.files, path, ship_, services_.clock, services_.code_page);
+  if (error != FileError::kNone) messages_.file_error(text::id::kShipFileNotSaved, path, error);
 }
 
 void CVelmaranApp::ask_key_items() {
   const std::string& path = settings_.folders.key_items;
-  items_ = dialogs_.key_items(services_, path, services_.files.is_file(path)).values;
+  items_ = dialogs_.key_items(services_, path, is_there(services_.files.look(path).there)).values;
 }
 
 void CVelmaranApp::show_main_window() {
-  const auto save_ship = [this] {
-    const std::string& path = settings_.folders.fixed_data;
-    if (save_fixed_data(services_.files, path, ship_, services_.clock, services_.code_page) !=
-        FileError::kNone)
-      messages_.error_filled(text::id::kShipFileNotSaved, {path});
-  };
   dialogs_.main_window(
-      services_, {ship_, items_, settings_.folders, save_ship, {}, [this] { keep_folders(); }});
+      services_,
+      {ship_, items_, settings_.folders, [this] { save_ship(); }, {}, [this] { keep_folders(); }});
 }
 
 void CVelmaranApp::keep(const std::function<bool(CIniEx&)>& set) {
   CIniEx ini(services_.files);
-  const bool kept = open_settings(ini, services_.files, places_, false) == FileError::kNone &&
-                    set(ini) && ini.save() == FileError::kNone;
-  if (!kept) messages_.error(text::id::kSettingsNotSaved);
+  FileError error = open_settings(ini, services_.files, places_, false);
+  if (error == FileError::kNone) error = set(ini) ? ini.save() : FileError::kBadName;
+  if (error != FileError::kNone)
+    messages_.file_error(text::id::kSettingsNotSaved, places_.live, error);
 }
 
 void CVelmaranApp::keep_folders() {

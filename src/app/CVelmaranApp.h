@@ -42,9 +42,12 @@ class CVelmaranApp {
   [[nodiscard]] bool read_settings();
   /// Letter and root of the removable drive.
   void find_removable();
-  /// Asks for a working folder that is not there; empty when the officer cancels.
+  /// Asks for a working folder that is not there; empty when the officer cancels. One of which one
+  /// cannot tell is named, with the reason, and stays unless the officer chooses another: what is
+  /// saved into it tells whether it can be used.
   void check_folder(WorkingFolder which);
-  /// Ship fixed data; FIXDATA.DAT is written when there was none and the officer confirmed.
+  /// Ship fixed data; FIXDATA.DAT is written when there was none and the officer confirmed, never
+  /// when one cannot tell whether there is one.
   void ask_fixed_data();
   /// Observation items.
   void ask_key_items();
@@ -60,6 +63,10 @@ class CVelmaranApp {
 
  private:
   void create_folders();
+  /// Asks whether a folder that cannot be looked at is to be used all the same.
+  [[nodiscard]] bool may_be_used(const std::string& folder, platform::FileError why);
+  /// Writes FIXDATA.DAT; the officer is told when that fails.
+  void save_ship();
   /// Sets values in the file and saves it; the officer is told when that fails.
   void keep(const std::function<bool(CIniEx&)>& set);
   void keep_folders();

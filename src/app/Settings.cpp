@@ -1,14 +1,28 @@
 #include "app/Settings.h"
 
+#include <algorithm>
+
 #include "media/floppy_drive.h"
 
 namespace app {
 
 using platform::FileError;
+using platform::There;
 
 namespace {
 
 constexpr std::size_t kRootLength = 3;  // "C:\"
+
+// A path without a drive lies on the current one.
+bool drive_is_there(const std::string& path, const platform::Drives& drives) {
+  if (path.size() < 2 || path[1] != ':') return true;
+  const char given = path.front();
+  const char letter = given >= 'a' && given <= 'z' ? static_cast<char>(given - 'a' + 'A') : given;
+  const auto all = drives.drives();
+  return std::any_of(all.begin(), all.end(),
+                     [&](const platform::Drive& each) { return each.letter == letter; }) &&
+         drives.medium_present(letter);
+}
 
 }  // namespace
 
@@ -28,10 +42,13 @@ SettingsPlaces settings_places(const std::string& root, const std::string& progr
 
 FileError open_settings(CIniEx& ini, platform::Files& files, const SettingsPlaces& places,
                         bool auto_save) {
-  if (!files.is_file(places.live)) {
+  const platform::Look live = files.look(places.live);
+  if (live.there == There::kNo) {
     (void)files.create_folder(places.folder);  // without it the copy fails
     if (const FileError error = files.copy(places.seed, places.live); error != FileError::kNone)
       return error;
+  } else if (const FileError error = platform::why_no_file(live); error != FileError::kNone) {
+    return error;
   }
   return ini.open(places.live, {.auto_save = auto_save, .create = true, .case_insensitive = true});
 }
@@ -66,10 +83,17 @@ void find_removable_drive(Settings& settings, const platform::Drives& drives) {
   if (!root.ends_with('\\')) root += '\\';
 }
 
-bool folder_accepted(const std::string& folder, const std::string& removable_root,
-                     const platform::Files& files) {
-  if (folder.empty()) return false;
-  return files.is_folder(folder) || folder.substr(0, kRootLength) == removable_root;
+FolderCheck check_working_folder(const std::string& folder, const std::string& removable_root,
+                                 const platform::Files& files, const platform::Drives& drives) {
+  if (folder.empty()) return {FolderState::kGone};
+  const platform::Look found = files.look(folder);
+  if (found.there == There::kFolder || folder.substr(0, kRootLength) == removable_root)
+    return {FolderState::kUsable};
+  // A name that no folder can have and a drive that has gone are answers, too.
+  if (found.there != There::kCannotTell || found.error == FileError::kBadName ||
+      (found.error == FileError::kMediumMissing && !drive_is_there(folder, drives)))
+    return {FolderState::kGone};
+  return {FolderState::kUncertain, platform::why_no_file(found)};
 }
 
 }  // namespace app

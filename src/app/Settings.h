@@ -50,8 +50,8 @@ struct SettingsPlaces {
 [[nodiscard]] SettingsPlaces settings_places(const std::string& root,
                                              const std::string& program_folder);
 
-/// Opens the live file, seeding it first when it is missing. An error when there is neither, or
-/// when it cannot be read.
+/// Opens the live file, seeding it first when it is missing. An error, and nothing is changed, when
+/// there is neither, when it cannot be read, or when one cannot tell whether it is there.
 [[nodiscard]] platform::FileError open_settings(CIniEx& ini, platform::Files& files,
                                                 const SettingsPlaces& places, bool auto_save);
 
@@ -67,9 +67,19 @@ void read_folders(const CIniEx& ini, mainwindow::Folders& folders);
 /// root: a lone letter gets ":\", and a "\" is added unless it ends in one.
 void find_removable_drive(Settings& settings, const platform::Drives& drives);
 
-/// True when a working folder can be used as it stands: it is there, or it lies on the removable
-/// drive, whose medium may not be inserted yet.
-[[nodiscard]] bool folder_accepted(const std::string& folder, const std::string& removable_root,
-                                   const platform::Files& files);
+/// What start-up knows of a working folder.
+enum class FolderState {
+  kUsable,     ///< it is there, or lies on the removable drive, whose medium may not be in yet
+  kGone,       ///< never chosen, no such folder, or its drive is not there
+  kUncertain,  ///< one cannot tell, so it is neither given up nor asked for anew
+};
+struct FolderCheck {
+  FolderState state = FolderState::kUsable;
+  platform::FileError why = platform::FileError::kNone;  ///< of kUncertain
+};
+[[nodiscard]] FolderCheck check_working_folder(const std::string& folder,
+                                               const std::string& removable_root,
+                                               const platform::Files& files,
+                                               const platform::Drives& drives);
 
 }  // namespace app

@@ -25,7 +25,7 @@ enum class WorkingFolder { kReports, kLogbook };
 
 struct FixedDataQuestion {
   std::string path;     ///< of FIXDATA.DAT
-  bool exists = false;  ///< it is there: the screen accepts itself
+  bool exists = false;  ///< something is there: the screen accepts itself when it was read
   std::string reports;  ///< folders, shown only
   std::string logbook;
 };

@@ -8,6 +8,7 @@
 #include "text/strings.h"
 
 namespace id = text::id;
+using platform::FileError;
 
 bool archive::is_folder_name(std::string_view name) {
   const bool has_bad = std::any_of(name.begin(), name.end(), [](char c) {
@@ -34,8 +35,12 @@ void CCreateDir::on_ok() {
   if (!archive::is_folder_name(name)) return refuse(id::kBadFolderName);
   std::string path = archive::join(parent_, name);
   platform::Files& files = services().files;
-  if (!files.is_folder(path) && files.create_folder(path) != platform::FileError::kNone)
-    return refuse(id::kFolderNotCreated);
+  const FileError error = files.is_folder(path) ? FileError::kNone : files.create_folder(path);
+  if (error != FileError::kNone) {
+    services().messages.file_error(id::kFolderNotCreated, path, error);
+    focus(folder_name);
+    return;
+  }
   path_ = std::move(path);
   close(text::kOk);
 }

@@ -10,6 +10,22 @@
 
 using ui::TreeRow;
 
+namespace {
+
+// Ends with its block, also when something throws: a tree must not stay silent for good.
+class Silence {
+ public:
+  explicit Silence(bool& silent) : silent_(silent) { silent_ = true; }
+  ~Silence() { silent_ = false; }
+  Silence(const Silence&) = delete;
+  Silence& operator=(const Silence&) = delete;
+
+ private:
+  bool& silent_;
+};
+
+}  // namespace
+
 CDirectoryDrawList::CDirectoryDrawList(ui::Control& tree, const platform::Files& files,
                                        const platform::Drives& drives, const text::Texts& texts)
     : tree_(tree), files_(files), drives_(drives), texts_(texts) {
@@ -95,7 +111,7 @@ bool CDirectoryDrawList::reveal(std::string_view folder) {
 }
 
 int CDirectoryDrawList::find_row(std::string_view folder) {
-  silent_ = true;
+  const Silence silence(silent_);
   int row = 0;
   for (std::string_view part = archive::first_part(folder); !part.empty();
        part = archive::first_part(folder)) {
@@ -108,7 +124,6 @@ int CDirectoryDrawList::find_row(std::string_view folder) {
     row = found;
     if (row < 0) break;
   }
-  silent_ = false;
   return row;
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "cli/commands.h"
+#include "cli/last_catch.h"
 #include "cli/session_command.h"
 #include "platform/posix/system_calls.h"
 
@@ -49,7 +50,9 @@ int run(const std::vector<std::string>& arguments) {
   if (arguments.front() == "--help") return help(std::cout, cli::kOk);
   for (const Command& command : kCommands)
     if (arguments.front() == command.name)
-      return command.run({arguments.begin() + 1, arguments.end()});
+      return cli::with_last_catch([&] {
+        return command.run({arguments.begin() + 1, arguments.end()});
+      });
   std::cerr << "kavrel-cli: unknown command " << arguments.front() << "\n";
   return help(std::cerr, cli::kWrong);
 }

@@ -56,8 +56,8 @@ constexpr int kDefaultField = 8;  // where no largest length is given
 
 class LineBinding : public Binding {
  public:
-  LineBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), edit_(new QLineEdit(parent)) {
+  LineBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), edit_(new QLineEdit(parent)) {
     const int characters = c.max_length > 0 ? c.max_length : kDefaultField;
     edit_->setMinimumWidth(width_for(*edit_, std::min(characters, kWideField)));
     if (c.max_length > 0 && characters <= kWideField) keep_to(*edit_, characters + 1);
@@ -101,8 +101,8 @@ class LineBinding : public Binding {
 // A value that is shown, never typed: looks like a field, takes no focus.
 class ReadOnlyBinding : public Binding {
  public:
-  ReadOnlyBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), edit_(new QLineEdit(parent)) {
+  ReadOnlyBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), edit_(new QLineEdit(parent)) {
     edit_->setReadOnly(true);
     edit_->setFocusPolicy(Qt::NoFocus);
     if (c.max_length > 0) keep_to(*edit_, c.max_length + 1);
@@ -128,8 +128,8 @@ class ReadOnlyBinding : public Binding {
 
 class MemoBinding : public Binding {
  public:
-  MemoBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), edit_(new QPlainTextEdit(parent)) {
+  MemoBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), edit_(new QPlainTextEdit(parent)) {
     edit_->setReadOnly(true);
     edit_->setTabChangesFocus(true);
     edit_->setMinimumSize(width_for(*edit_, 60), edit_->fontMetrics().lineSpacing() * 8);
@@ -150,8 +150,8 @@ class MemoBinding : public Binding {
 
 class ComboBinding : public Binding {
  public:
-  ComboBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), box_(new QComboBox(parent)) {
+  ComboBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), box_(new QComboBox(parent)) {
     if (c.kind == ui::Kind::kCombo) {
       box_->setEditable(true);
       // Qt would complete "087" to "0870" while it is typed, and add what was typed to the list.
@@ -240,8 +240,8 @@ class ShortList : public QListWidget {
 
 class ListBinding : public Binding {
  public:
-  ListBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), list_(new ShortList(parent)) {
+  ListBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), list_(new ShortList(parent)) {
     list_->setUniformItemSizes(true);
     // Item by item, the list would count its last line as hidden and show a scroll bar for it.
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -289,10 +289,8 @@ class ListBinding : public Binding {
 
 class ChoiceBinding : public Binding {
  public:
-  ChoiceBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)),
-        box_(new QWidget(parent)),
-        group_(new QButtonGroup(box_)) {
+  ChoiceBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), box_(new QWidget(parent)), group_(new QButtonGroup(box_)) {
     connect(group_, &QButtonGroup::idClicked, this,
             [this](int index) { tell([&] { screen().choose(control(), index); }); });
   }
@@ -395,8 +393,8 @@ class ChoiceBinding : public Binding {
 
 class TickBinding : public Binding {
  public:
-  TickBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), box_(new QCheckBox(parent)) {
+  TickBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), box_(new QCheckBox(parent)) {
     connect(box_, &QCheckBox::clicked, this,
             [this](bool on) { tell([&] { screen().tick(control(), on); }); });
   }
@@ -416,8 +414,8 @@ class TickBinding : public Binding {
 
 class ButtonBinding : public Binding {
  public:
-  ButtonBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), button_(new QPushButton(parent)) {
+  ButtonBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), button_(new QPushButton(parent)) {
     button_->setAutoDefault(false);
     connect(button_, &QPushButton::clicked, this,
             [this] { tell([&] { screen().press(control()); }); });
@@ -437,8 +435,8 @@ class ButtonBinding : public Binding {
 
 class LabelBinding : public Binding {
  public:
-  LabelBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), label_(new ClickableLabel(parent)) {
+  LabelBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), label_(new ClickableLabel(parent)) {
     connect(label_, &ClickableLabel::clicked, this,
             [this] { tell([&] { screen().press(control()); }); });
   }
@@ -461,8 +459,8 @@ class LabelBinding : public Binding {
 
 class TreeBinding : public Binding {
  public:
-  TreeBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Refresh refresh)
-      : Binding(s, c, std::move(refresh)), tree_(new QTreeWidget(parent)) {
+  TreeBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), tree_(new QTreeWidget(parent)) {
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
     tree_->setMinimumSize(width_for(*tree_, 44), tree_->fontMetrics().lineSpacing() * 12);
@@ -554,11 +552,11 @@ class TreeBinding : public Binding {
 
 template <class B>
 std::unique_ptr<Binding> make(ui::Screen& screen, ui::Control& control, QWidget* parent,
-                              Refresh refresh) {
-  return std::make_unique<B>(screen, control, parent, std::move(refresh));
+                              Hand hand) {
+  return std::make_unique<B>(screen, control, parent, std::move(hand));
 }
 
-using Maker = std::unique_ptr<Binding> (*)(ui::Screen&, ui::Control&, QWidget*, Refresh);
+using Maker = std::unique_ptr<Binding> (*)(ui::Screen&, ui::Control&, QWidget*, Hand);
 
 // One row per ui::Kind, in its order.
 constexpr std::array<Maker, 12> kMakers = {
@@ -581,8 +579,8 @@ void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {
     Q_EMIT clicked();
 }
 
-Binding::Binding(ui::Screen& screen, ui::Control& control, Refresh refresh)
-    : screen_(screen), control_(control), refresh_(std::move(refresh)) {}
+Binding::Binding(ui::Screen& screen, ui::Control& control, Hand hand)
+    : screen_(screen), control_(control), hand_(std::move(hand)) {}
 
 bool Binding::owns(const QWidget* candidate) const {
   return candidate != nullptr && (candidate == widget() || widget()->isAncestorOf(candidate));
@@ -634,9 +632,8 @@ void Binding::show() {
 }
 
 std::unique_ptr<Binding> make_binding(ui::Screen& screen, ui::Control& control, QWidget* parent,
-                                      Refresh refresh) {
-  return kMakers[static_cast<std::size_t>(control.kind)](screen, control, parent,
-                                                         std::move(refresh));
+                                      Hand hand) {
+  return kMakers[static_cast<std::size_t>(control.kind)](screen, control, parent, std::move(hand));
 }
 
 }  // namespace desktop

@@ -14,8 +14,9 @@
 
 namespace desktop {
 
-/// What a binding tells its window: the event has been handed to the screen, now show everything.
-using Refresh = std::function<void()>;
+/// How a binding tells its window what the person did: the window hands the event to the screen and
+/// then shows everything.
+using Hand = std::function<void(const std::function<void()>& event)>;
 
 /// A label that can be clicked; used for captions, group titles and pictures that open something.
 class ClickableLabel : public QLabel {
@@ -39,7 +40,7 @@ class ClickableLabel : public QLabel {
 class Binding : public QObject {
   Q_OBJECT
  public:
-  Binding(ui::Screen& screen, ui::Control& control, Refresh refresh);
+  Binding(ui::Screen& screen, ui::Control& control, Hand hand);
 
   [[nodiscard]] ui::Control& control() const { return control_; }
   /// The widget that stands for the control.
@@ -79,18 +80,17 @@ class Binding : public QObject {
   /// Hands one event to the screen and shows the result.
   template <class Event>
   void tell(Event event) {
-    event();
-    refresh_();
+    hand_(event);
   }
 
  private:
   ui::Screen& screen_;
   ui::Control& control_;
-  Refresh refresh_;
+  Hand hand_;
 };
 
 /// The binding for the control's kind, its widget a child of `parent`.
 [[nodiscard]] std::unique_ptr<Binding> make_binding(ui::Screen& screen, ui::Control& control,
-                                                    QWidget* parent, Refresh refresh);
+                                                    QWidget* parent, Hand hand);
 
 }  // namespace desktop

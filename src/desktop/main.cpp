@@ -9,8 +9,10 @@
 #include "desktop/desktop_help.h"
 #include "desktop/desktop_printer.h"
 #include "desktop/desktop_windows.h"
+#include "desktop/last_catch.h"
 #include "platform/posix/system.h"
 #include "platform/posix/system_calls.h"
+#include "text/reasons.h"
 
 namespace {
 
@@ -34,14 +36,7 @@ desktop::PathMap path_map(const platform::posix::System& system) {
       [&system](const std::string& path) { return system.map().to_program(path).value_or(""); }};
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  platform::posix::prepare_process();
-  QApplication application(argc, argv);
-  QApplication::setApplicationName("kavrel");
-  desktop::prepare_application();
-
+int start(const QApplication& application) {
   platform::posix::System system(read_options(application));
   for (const std::string& problem : system.problems())
     std::fprintf(stderr, "kavrel: %s\n", problem.c_str());
@@ -53,5 +48,21 @@ int main(int argc, char** argv) {
       [&system](const std::string& path) { return system.help().page(path); });
   app::CVelmaranApp program({system.clock(), system.locale(), system.drives(), system.files(),
                              system.code_page(), printer, windows, help});
-  return program.run();
+  return desktop::run_program(program);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  platform::posix::prepare_process();
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("kavrel");
+  try {
+    desktop::prepare_application();
+    return start(application);
+  } catch (...) {  // before there was anything to tell it with
+    const std::string why = text::reason_of(std::current_exception(), text::Language::kEnglish);
+    std::fprintf(stderr, "kavrel: %s\n", why.c_str());
+    return desktop::kHadToEnd;
+  }
 }

@@ -149,7 +149,8 @@ void ScreenWindow::build() {
   scroll_->setFocusPolicy(Qt::NoFocus);
   content_ = new QWidget(scroll_);
   for (ui::Control* const control : screen_.controls()) {
-    bindings_.push_back(make_binding(screen_, *control, content_, [this] { refresh(); }));
+    bindings_.push_back(make_binding(screen_, *control, content_,
+                                     [this](const std::function<void()>& event) { hand(event); }));
   }
   // Texts go in before the layouts are made, which remember the sizes they find.
   for (const auto& binding : bindings_) binding->show();
@@ -174,6 +175,27 @@ void ScreenWindow::build() {
   set_tab_order();
   focus_frame_ = new FocusFrame(content_);
   built_ = true;
+}
+
+void ScreenWindow::watch(const std::function<void()>& call) {
+  try {
+    call();
+  } catch (...) {
+    // The toolkit may have moved the focus before the screen was asked.
+    const Binding* const entered = binding_of(focusWidget());
+    if (entered == nullptr || &entered->control() != screen_.focused())
+      focus_serial_ = screen_.focus_serial() - 1;
+    try {
+      screen_.event_failed(std::current_exception());
+    } catch (...) {  // NOLINT(bugprone-empty-catch)
+      // There is no room even for the message; what was entered is in the screen all the same.
+    }
+  }
+}
+
+void ScreenWindow::hand(const std::function<void()>& event) {
+  watch(event);
+  watch([this] { refresh(); });
 }
 
 ClickableLabel* ScreenWindow::caption_of(Binding& binding) {
@@ -376,8 +398,7 @@ void ScreenWindow::add_items(QWidget& menu, std::span<const ui::MenuItem> items)
 
 void ScreenWindow::run_command(const ui::MenuItem& item) {
   settle_focus();
-  screen_.command(item);
-  refresh();
+  hand([&] { screen_.command(item); });
   // Once the menu itself has let go of the keyboard.
   QMetaObject::invokeMethod(
       this, [this] { give_focus_back(); }, Qt::QueuedConnection);
@@ -433,8 +454,9 @@ void ScreenWindow::settle_focus() {
   if (now == nullptr || now->window() != this) return;
   const Binding* const entered = binding_of(now);
   if (entered == nullptr || screen_.focused() == &entered->control()) return;
-  if (!screen_.move_focus(entered->control())) focus_serial_ = screen_.focus_serial() - 1;
-  refresh();
+  hand([&] {
+    if (!screen_.move_focus(entered->control())) focus_serial_ = screen_.focus_serial() - 1;
+  });
 }
 
 Binding* ScreenWindow::binding_of(const QWidget* part) const {
@@ -452,14 +474,14 @@ bool ScreenWindow::choose_line(const QWidget& widget, const QKeyEvent& pressed) 
   const QString character = ui::finds_lines(kind) ? character_of(pressed) : QString();
   if (!steps && character.isEmpty()) return false;
   settle_focus();
-  if (screen_.focused() == &target->control()) {
+  hand([&] {
+    if (screen_.focused() != &target->control()) return;
     if (steps) {
       screen_.key(*key);
     } else {
       screen_.find_line(character.toStdString());
     }
-  }
-  refresh();
+  });
   return true;
 }
 
@@ -495,27 +517,23 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   const auto key = key_in(kWindowKeys, pressed);
   if (!key) return QDialog::eventFilter(watched, event);
   settle_focus();
-  screen_.key(*key);
-  refresh();
+  hand([&] { screen_.key(*key); });
   return true;
 }
 
 bool ScreenWindow::focusNextPrevChild(bool next) {
   settle_focus();
-  screen_.key(next ? ui::Key::kTab : ui::Key::kShiftTab);
-  refresh();
+  hand([&] { screen_.key(next ? ui::Key::kTab : ui::Key::kShiftTab); });
   return true;
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  screen_.close_box();
-  refresh();
+  hand([this] { screen_.close_box(); });
 }
 
 void ScreenWindow::reject() {
-  screen_.key(ui::Key::kEscape);
-  refresh();
+  hand([this] { screen_.key(ui::Key::kEscape); });
 }
 
 namespace {

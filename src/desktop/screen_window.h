@@ -3,6 +3,7 @@
 // of the program.
 
 #include <QDialog>
+#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -24,6 +25,10 @@ class ScreenWindow : public QDialog {
   ScreenWindow(ui::Screen& screen, QWidget* parent);
   ~ScreenWindow() override;
 
+  /// Hands one event to the screen and shows the result: the one place through which everything
+  /// that the person does goes. No exception leaves it, for none may cross the toolkit's event
+  /// loop: the person is told, and the window and all that was entered stay.
+  void hand(const std::function<void()>& event);
   /// Everything the screen holds, on the widgets; closes the window when the screen has a result.
   void refresh();
   [[nodiscard]] const std::vector<std::unique_ptr<Binding>>& bindings() const { return bindings_; }
@@ -54,6 +59,8 @@ class ScreenWindow : public QDialog {
   /// Keys that choose a line of the control that the widget belongs to. True when it was one.
   bool choose_line(const QWidget& widget, const QKeyEvent& pressed);
   void run_command(const ui::MenuItem& item);
+  /// Calls it and tells the person of an exception.
+  void watch(const std::function<void()>& call);
   /// The field that has the screen's focus has the window's too.
   void give_focus_back();
   [[nodiscard]] QSize fitting_size() const;

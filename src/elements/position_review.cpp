@@ -8,6 +8,7 @@
 #include "observation/report_reader.h"
 #include "text/ids.h"
 #include "text/numbers.h"
+#include "text/reasons.h"
 
 namespace elements {
 namespace {
@@ -49,14 +50,16 @@ std::optional<SignedPosition> signed_position(const Struct_Weather& record) {
   return SignedPosition{south ? -latitude : latitude, west ? -longitude : longitude};
 }
 
-std::optional<TenthsPosition> earlier_position(const Struct_Weather& record,
-                                               const platform::Files& files,
-                                               const std::string& report_folder) {
-  if (report_folder.empty() || !observation::has_valid_date(record)) return std::nullopt;
-  const auto report =
-      files.read(observation::earlier_report_path(report_folder, record), kLargestReport);
-  if (!report.ok()) return std::nullopt;
-  return observation::read_report_position(*report.value);
+EarlierPosition earlier_position(const Struct_Weather& record, const platform::Files& files,
+                                 const std::string& report_folder) {
+  if (report_folder.empty() || !observation::has_valid_date(record)) return {};
+  const std::string path = observation::earlier_report_path(report_folder, record);
+  const auto report = files.read(path, kLargestReport);
+  if (report.ok()) return {observation::read_report_position(*report.value), path};
+  // A disk that is not in holds no report now, as on a ship that has just begun.
+  const bool none = report.error == platform::FileError::kNotFound ||
+                    report.error == platform::FileError::kMediumMissing;
+  return {std::nullopt, path, none ? platform::FileError::kNone : report.error};
 }
 
 std::string review_position(const Struct_Weather& record, const platform::Files& files,
@@ -69,8 +72,13 @@ std::string review_position(const Struct_Weather& record, const platform::Files&
     warnings += on_one_line(texts.get(id::kOnLandQuestion));
   const auto current = record.position();
   const auto earlier = earlier_position(record, files, report_folder);
-  if (current && earlier) {
-    if (const int message = movement_message(check_movement(*current, *earlier)); message != 0)
+  if (current && earlier.unreadable != platform::FileError::kNone)
+    warnings +=
+        on_one_line(text::fill(texts.get(id::kEarlierReportUnreadable),
+                               {earlier.report, texts.get(text::reason_of(earlier.unreadable))}));
+  if (current && earlier.position) {
+    if (const int message = movement_message(check_movement(*current, *earlier.position));
+        message != 0)
       warnings += on_one_line(texts.get(message));
   }
   return warnings;

@@ -22,15 +22,23 @@ struct SignedPosition {
 };
 [[nodiscard]] std::optional<SignedPosition> signed_position(const Struct_Weather& record);
 
-/// Position in the report of three hours earlier; nothing when the date is not complete, the report
-/// does not exist or cannot be read, or a figure of its position groups is missing. The folder is
-/// as the settings have it.
-[[nodiscard]] std::optional<TenthsPosition> earlier_position(const Struct_Weather& record,
-                                                             const platform::Files& files,
-                                                             const std::string& report_folder);
+/// Where the ship was three hours earlier.
+struct EarlierPosition {
+  /// Nothing when the date is not complete, the report does not exist or cannot be read, or a
+  /// figure of its position groups is missing.
+  std::optional<TenthsPosition> position;
+  std::string report = {};  ///< path of the report; empty when the date is not complete
+  /// Why a report cannot be read of which one cannot say that it does not exist.
+  platform::FileError unreadable = platform::FileError::kNone;
+};
+/// Reads the report of three hours earlier. The folder is as the settings have it.
+[[nodiscard]] EarlierPosition earlier_position(const Struct_Weather& record,
+                                               const platform::Files& files,
+                                               const std::string& report_folder);
 
 /// The warnings about the record's position, in the language of the moment: on land, and at most
-/// one about the movement since three hours earlier. Each without its line breaks, ended by CR LF;
+/// one about the movement since three hours earlier, or that the report of then cannot be read and
+/// so nothing was compared. Each without its line breaks, ended by CR LF;
 /// empty when there is nothing to warn of. Warnings only: nothing is refused. Without a land test
 /// the sea is everywhere.
 [[nodiscard]] std::string review_position(const Struct_Weather& record,

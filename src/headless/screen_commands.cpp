@@ -52,7 +52,14 @@ void ScreenCommands::carry_out(const Line& line) {
   const auto* const row = std::find_if(std::begin(kRows), std::end(kRows),
                                        [&](const Row& r) { return r.verb == line_.verb(); });
   if (row == std::end(kRows)) cannot("no command " + ui::quoted(text::first(line_.verb(), 40)));
-  (this->*row->carry_out)();
+  try {
+    (this->*row->carry_out)();
+  } catch (const EndOfRun&) {
+    throw;
+  } catch (...) {
+    // As in a window: the person is told, and goes on with what was entered.
+    screen_.event_failed(std::current_exception());
+  }
   if (!screen_.result()) windows_.say_changes(watch_, true);
 }
 

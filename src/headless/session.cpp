@@ -1,6 +1,7 @@
 #include "headless/session.h"
 
 #include "headless/script_windows.h"
+#include "text/reasons.h"
 
 namespace headless {
 namespace {
@@ -11,7 +12,15 @@ void play(ScriptWindows& windows, const Program& program) {
     const Line line = windows.next_command();
     if (line.verb() != "start")
       windows.stop(line, Status::kCannot, "the program is not running: start it first");
-    program({windows, windows, windows});
+    try {
+      program({windows, windows, windows});
+    } catch (const EndOfRun&) {
+      throw;
+    } catch (...) {
+      windows.stop(line, Status::kCannot,
+                   "the program failed: " +
+                       text::reason_of(std::current_exception(), text::Language::kEnglish));
+    }
     windows.say("the program has ended");
   }
 }

@@ -8,6 +8,8 @@
 #include "text/ids.h"
 
 namespace id = text::id;
+using platform::FileError;
+using platform::There;
 
 namespace {
 
@@ -51,8 +53,8 @@ CLogDiskSavePathDlg::CLogDiskSavePathDlg(ui::Services& services, Mode mode, Fold
   drives.on_change = [this] { drive_chosen(); };
   tree.on_change = [this] { show_chosen(); };
   create_folder.on_press = [this] { create(); };
-  directory_.on_unreadable = [this](const std::string& path, platform::FileError) {
-    this->services().messages.error_filled(id::kFolderNotReadable, {path});
+  directory_.on_unreadable = [this](const std::string& path, FileError why) {
+    this->services().messages.file_error(id::kFolderNotReadable, path, why);
   };
 }
 
@@ -91,6 +93,13 @@ void CLogDiskSavePathDlg::create() {
 void CLogDiskSavePathDlg::on_ok() {
   std::string folder = archive::with_backslash(directory_.folder());
   if (const int message = refusal(folder); message != 0) return refuse(message);
+  const platform::Look found = services().files.look(folder);
+  if (found.there != There::kFolder && !is_on_removable_drive(folder)) {
+    if (found.there != There::kCannotTell) return refuse(id::kFolderGone);
+    services().messages.file_error(id::kFolderUncertain, folder, platform::why_no_file(found));
+    focus(tree);
+    return;
+  }
   folder_ = std::move(folder);
   if (write_) write_(row_of(mode_).key, folder_);
   close(text::kOk);
@@ -101,7 +110,6 @@ int CLogDiskSavePathDlg::refusal(const std::string& folder) const {
   if (row_of(mode_).is_copy && is_source(folder)) return id::kChooseAnotherFolder;
   // The settings file takes what follows a ";" for a comment, so the name would come back cut.
   if (folder.find(';') != std::string::npos) return id::kBadFolderName;
-  if (!services().files.is_folder(folder) && !is_on_removable_drive(folder)) return id::kFolderGone;
   return 0;
 }
 

@@ -40,8 +40,8 @@ class CLogDiskSavePathDlg : public ui::Screen {
  protected:
   void on_open() override;
   /// Refusals leave the screen open and write nothing: no folder chosen, a folder that is not there
-  /// (a removable medium may be absent), one whose name the settings cannot keep, the source of a
-  /// copy.
+  /// or cannot be looked at (a removable medium may be absent), one whose name the settings cannot
+  /// keep, the source of a copy.
   void on_ok() override;
 
  private:

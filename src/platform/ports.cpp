@@ -2,6 +2,22 @@
 
 namespace platform {
 
+FileError why_no_file(const Look& found) {
+  switch (found.there) {
+    case There::kNo:
+      return FileError::kNotFound;
+    case There::kFile:
+      return FileError::kNone;
+    case There::kFolder:
+    case There::kOther:
+      return FileError::kNotAFile;
+    case There::kCannotTell:
+      break;
+  }
+  return found.error == FileError::kNone || found.error == FileError::kNotFound ? FileError::kOther
+                                                                                : found.error;
+}
+
 FileError Files::replace(const std::string& path, std::string_view content) {
   const auto staged = stage(path, content);
   if (!staged.ok()) return staged.error;

@@ -109,6 +109,7 @@ enum class FileError {
   kBadName,        ///< too long, or with a character that no name may have there
   kLocked,         ///< another program holds the file
   kExists,         ///< something of that name is there already
+  kNoMemory,       ///< the computer has no memory left for it
   kOther,
 };
 
@@ -138,6 +139,9 @@ struct Look {
   FileError error = FileError::kNone;  ///< why one cannot tell; else kNone
   std::uint64_t size = 0;              ///< bytes of a file; else 0
 };
+
+/// Why no file can be read under the path: kNone for a file, kNotFound only where there is nothing.
+[[nodiscard]] FileError why_no_file(const Look& found);
 
 struct FolderEntry {
   std::string name;

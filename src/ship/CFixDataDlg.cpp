@@ -158,8 +158,8 @@ void CFixDataDlg::read_file() {
        loaded.values != as_read_back(*in_force_, services().clock.utc(), services().code_page)))
     accepted_ = *in_force_;
   if (file_read_ == FileRead::kUnreadable) {
-    services().messages.error_filled(
-        in_force_ ? id::kShipFileUnreadableInForce : id::kShipFileUnreadable, {path_});
+    services().messages.file_error(
+        in_force_ ? id::kShipFileUnreadableInForce : id::kShipFileUnreadable, path_, loaded.error);
   }
 }
 

@@ -66,8 +66,8 @@ void CKeyObserveDlg::on_open() {
   file_read_ = loaded.outcome;
   accepted_ = in_force_.value_or(loaded.values);
   if (file_read_ == FileRead::kUnreadable) {
-    services().messages.error_filled(
-        in_force_ ? id::kShipFileUnreadableInForce : id::kShipFileUnreadable, {path_});
+    services().messages.file_error(
+        in_force_ ? id::kShipFileUnreadableInForce : id::kShipFileUnreadable, path_, loaded.error);
   }
   for (std::size_t i = 0; i < kObservationItems; ++i)
     items[i].selected = accepted_.not_observed[i] ? 1 : 0;
@@ -78,7 +78,8 @@ void CKeyObserveDlg::on_open() {
 void CKeyObserveDlg::on_ok() {
   for (std::size_t i = 0; i < kObservationItems; ++i)
     accepted_.not_observed[i] = items[i].selected == 1;
-  if (save_key_items(services().files, path_, accepted_) != platform::FileError::kNone)
-    services().messages.error_filled(id::kShipFileNotSaved, {path_});
+  if (const auto error = save_key_items(services().files, path_, accepted_);
+      error != platform::FileError::kNone)
+    services().messages.file_error(id::kShipFileNotSaved, path_, error);
   close(text::kOk);
 }

@@ -278,11 +278,13 @@ std::string two_digits(int value) {
 template <class T, class Decode>
 Loaded<T> load(const platform::Files& files, const std::string& path, std::size_t size,
                Decode decode) {
-  if (!files.is_file(path)) return {FileRead::kMissing, {}};
-  if (const auto found = files.size(path); found && *found != size)
-    return {FileRead::kWrongSize, {}};
+  const platform::Look found = files.look(path);
+  if (found.there == platform::There::kNo) return {FileRead::kMissing, {}};
+  if (const auto error = platform::why_no_file(found); error != platform::FileError::kNone)
+    return {FileRead::kUnreadable, {}, error};
+  if (found.size != size) return {FileRead::kWrongSize, {}};
   const auto content = files.read(path);
-  if (!content.ok()) return {FileRead::kUnreadable, {}};
+  if (!content.ok()) return {FileRead::kUnreadable, {}, content.error};
   const std::optional<T> values = decode(*content.value);
   if (!values) return {FileRead::kWrongSize, {}};
   return {FileRead::kRead, *values};

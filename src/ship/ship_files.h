@@ -49,16 +49,17 @@ inline constexpr std::size_t kKeyItemsSize = kObservationItems;
 /// How reading one of the two files ended.
 enum class FileRead {
   kRead,
-  kMissing,
+  kMissing,     ///< there is none, for certain
   kWrongSize,   ///< not a file of its kind, by its size or for control characters: ignored, the
                 ///< caller goes on with its defaults
-  kUnreadable,  ///< it is there and cannot be read: the officer is told
+  kUnreadable,  ///< it cannot be read, or one cannot tell whether it is there: the officer is told
 };
 
 template <class T>
 struct Loaded {
   FileRead outcome = FileRead::kMissing;
-  T values{};  ///< the defaults unless outcome is kRead
+  T values{};                                              ///< the defaults unless outcome is kRead
+  platform::FileError error = platform::FileError::kNone;  ///< of kUnreadable
 };
 
 [[nodiscard]] Loaded<ShipFixedData> load_fixed_data(const platform::Files& files,

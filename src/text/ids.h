@@ -21,6 +21,24 @@ inline constexpr int kHelpPageMissing = 40908;
 
 // Start-up, settings, files
 inline constexpr int kSettingsNotSaved = 41000;
+inline constexpr int kAskUseFolder = 42620;
+inline constexpr int kEventFailed = 42622;
+inline constexpr int kProgramFailed = 42623;
+
+// Why a file could not be used, or an operation not be ended
+inline constexpr int kReasonNotFound = 42600;
+inline constexpr int kReasonNotPermitted = 42601;
+inline constexpr int kReasonNoSpace = 42602;
+inline constexpr int kReasonNoMedium = 42603;
+inline constexpr int kReasonNotAFile = 42604;
+inline constexpr int kReasonBadLink = 42605;
+inline constexpr int kReasonTooManyOpen = 42606;
+inline constexpr int kReasonBadName = 42607;
+inline constexpr int kReasonLocked = 42608;
+inline constexpr int kReasonExists = 42609;
+inline constexpr int kReasonNoMemory = 42610;
+inline constexpr int kReasonInputOutput = 42611;
+inline constexpr int kReasonUnknown = 42612;
 
 // Archive and media: folder dialog
 inline constexpr int kReportFolderTitle = 12500;
@@ -49,6 +67,7 @@ inline constexpr int kNoFolderChosen = 40301;
 inline constexpr int kFolderGone = 40302;
 inline constexpr int kFolderNotReadable = 40303;
 inline constexpr int kFolderNotCreated = 40304;
+inline constexpr int kFolderUncertain = 42621;
 inline constexpr int kBadFolderName = 40305;
 
 // CFixDataDlg
@@ -330,6 +349,7 @@ inline constexpr int kLatitudeMinutesRange = 35019;
 inline constexpr int kLongitudeDegreesRange = 35020;
 inline constexpr int kLongitudeMinutesRange = 35021;
 inline constexpr int kOnLandQuestion = 37011;
+inline constexpr int kEarlierReportUnreadable = 42624;
 inline constexpr int kSeaLevelPressureMissing = 33200;
 inline constexpr int kUtcHourMissing = 33204;
 inline constexpr int kInvalidValue = 33205;

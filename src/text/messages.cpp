@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "text/ids.h"
+#include "text/reasons.h"
 
 namespace text {
 namespace {
@@ -71,6 +72,10 @@ void Messages::error_filled(int id, std::initializer_list<std::string_view> argu
 
 void Messages::error_filled_once(int id, std::initializer_list<std::string_view> arguments) {
   if (!quiet && told_once_.insert(id).second) error_filled(id, arguments);
+}
+
+void Messages::file_error(int id, std::string_view path, platform::FileError why) {
+  error_filled(id, {path, texts_.get(reason_of(why))});
 }
 
 int Messages::question(std::string_view text, std::string_view title, QuestionMode mode,

@@ -75,6 +75,9 @@ class Messages {
 
   /// error_filled(), but the first time of the run only.
   void error_filled_once(int id, std::initializer_list<std::string_view> arguments);
+  /// Error notice of a text with two places: the path of a file or folder, and why it could not be
+  /// used, in the language of the moment.
+  void file_error(int id, std::string_view path, platform::FileError why);
 
   /// A question; the result is one of the four codes above (mode kOkCancel gives kOk or kCancel).
   /// Any other mode shows nothing and returns 0. An empty title means the program's. `text_id` only

@@ -5,6 +5,7 @@
 
 #include "text/ids.h"
 #include "text/numbers.h"
+#include "text/reasons.h"
 #include "text/strings.h"
 #include "ui/line_keys.h"
 
@@ -374,6 +375,11 @@ void Screen::idle() {
     on_idle(static_cast<bool>(handling));
   }
   looked_for_ = looked_for;
+}
+
+void Screen::event_failed(const std::exception_ptr& thrown) {
+  const Handling handling(*this);
+  services_.messages.error_filled(text::id::kEventFailed, {text::reason_of(thrown, language())});
 }
 
 void Screen::on_f1(Control* /*focused*/) {

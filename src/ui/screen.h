@@ -3,6 +3,7 @@
 // the functions under "What the person did" and after each copies the controls' state to its
 // widgets: one event in, one refresh out.
 
+#include <exception>
 #include <optional>
 #include <span>
 #include <string>
@@ -75,6 +76,10 @@ class Screen {
   /// thing.
   bool reveal(Control& tree, std::string_view path);
   void close_box();
+
+  /// A front end could not bring one of these to its end, because something threw: tells the person
+  /// why. What has been entered stays. Events that the message brings along are dropped.
+  void event_failed(const std::exception_ptr& thrown);
 
   // What nobody did.
   /// Nothing has happened for a while. Every open screen is told, also one that lies behind others

@@ -246,6 +246,21 @@ TEST_F(Ini, FileIsNotReplacedWithoutItsBackup) {
 
 // ---- Files that must not be lost
 
+TEST_F(Ini, WhereOneCannotTellWhetherThereIsAFileItIsNeitherCreatedNorReplacedWithoutBackup) {
+  auto ini = opened("[S]\nX=1\n", {.keep_backup = true});
+  EXPECT_TRUE(ini->set_value("S", "X", "2"));
+  files.fail_look(kPath, FileError::kAccessDenied);
+  EXPECT_EQ(ini->save(), FileError::kAccessDenied);
+  EXPECT_EQ(files.content(kPath), "[S]\nX=1\n");
+  ini->clear();
+  // What a link that leads nowhere reads as.
+  files.fail_look(kPath, FileError::kBadLink);
+  files.fail_path(kPath, FileError::kNotFound);
+  EXPECT_EQ(ini->open(kPath, {.create = true}), FileError::kNotFound);
+  EXPECT_EQ(files.snapshot().size(), 1U);
+  EXPECT_EQ(files.content(kPath), "[S]\nX=1\n");
+}
+
 TEST_F(Ini, AnyFailureOfASaveLeavesTheOldFileAndTheChange) {
   for (const auto operation : {FakeFiles::Operation::kStage, FakeFiles::Operation::kCommit}) {
     files = FakeFiles();

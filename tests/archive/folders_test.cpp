@@ -288,6 +288,22 @@ TEST_F(Folders, RevealOfWhatIsNotThereChangesNothingAndSaysNothing) {
   }
 }
 
+TEST_F(Folders, LookThatDidNotComeToItsEndDoesNotLeaveTheTreeSilent) {
+  files.add_folder("C:\\kavrel\\data");
+  CDirectoryDrawList tree(screen.tree, files, world.drives, world.texts);
+  Names told;
+  tree.on_unreadable = [&](const std::string& path, FileError) { told.push_back(path); };
+  tree.fill();
+  screen.open();
+  files.kill_before(1);
+  EXPECT_THROW((void)tree.reveal("C:\\kavrel\\data"), fakes::FakeFiles::Killed);
+  files.heal();
+  tree.fill();
+  files.fail_path("C:\\", FileError::kAccessDenied);
+  screen.expand(screen.tree, 1);
+  EXPECT_EQ(told, Names{"C:\\"});
+}
+
 TEST_F(Folders, ReadingAgainShowsAFolderThatWasJustCreated) {
   files.add_folder("C:\\out");
   CDirectoryDrawList tree(screen.tree, files, world.drives, world.texts);
@@ -356,7 +372,9 @@ TEST_F(Folders, NewFolderWithoutAGoodNameIsRefusedAndNothingIsCreated) {
       EXPECT_EQ(dialog.focused(), &dialog.folder_name) << row.name;
       EXPECT_EQ(dialog.path(), "");
       EXPECT_EQ(files.snapshot(), before) << row.name;
-      EXPECT_EQ(world.windows.boxes.back().text, world.texts.get(row.message));
+      const auto reason = world.texts.get(id::kReasonNotPermitted);
+      EXPECT_EQ(world.windows.boxes.back().text,
+                text::fill(world.texts.get(row.message), {"C:\\out\\" + row.name, reason}));
       dialog.press(dialog.cancel);
       EXPECT_EQ(dialog.result(), text::kCancel);
     }

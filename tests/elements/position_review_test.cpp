@@ -141,6 +141,39 @@ TEST(PositionReview, AReportWithoutAPositionOrAReportElsewhereTellsNothing) {
   EXPECT_EQ(r.warnings(), "");
 }
 
+// The officer must not take silence for a comparison that was made.
+TEST(PositionReview, ReportThatCannotBeReadIsNamedWithTheReason) {
+  using platform::FileError;
+  const struct {
+    FileError error;
+    const char* english;
+    const char* japanese;
+  } rows[] = {
+      {FileError::kAccessDenied, "not permitted", "許可されていません"},
+      {FileError::kOther, "input or output error", "入出力エラー"},
+      {FileError::kBadLink, "a link that leads nowhere or in a circle",
+       "リンク先がないか、リンクが循環しています"},
+      {FileError::kNotFound, nullptr, nullptr},
+      {FileError::kMediumMissing, nullptr, nullptr},
+  };
+  for (const auto& row : rows) {
+    Review r;
+    r.earlier_report("99100", "30100");
+    r.files.fail_path(r.earlier, row.error);
+    const std::string path = r.earlier;
+    EXPECT_EQ(r.warnings(), row.english == nullptr
+                                ? ""
+                                : "The report " + path +
+                                      " of three hours earlier can not be read (" + row.english +
+                                      "), so the ship's movement is not checked.\r\n");
+    r.texts.language = text::Language::kJapanese;
+    EXPECT_EQ(r.warnings(), row.japanese == nullptr
+                                ? ""
+                                : "３時間前の気象電報 " + path + " を読み込めない（" +
+                                      row.japanese + "）ため、船の移動は確認していません。\r\n");
+  }
+}
+
 TEST(PositionReview, SpeaksTheLanguageOfTheMoment) {
   Review r;
   r.texts.language = text::Language::kJapanese;

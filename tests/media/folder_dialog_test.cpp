@@ -231,12 +231,35 @@ TEST_F(FolderDialog, VanishedFolderIsRefusedButAnAbsentDiskIsTaken) {
   EXPECT_EQ(written, Names{"TLX=A:\\tlx\\"});
 }
 
+TEST_F(FolderDialog, FolderThatCannotBeLookedAtIsRefusedWithTheReasonInBothLanguages) {
+  const struct {
+    bool japanese;
+    const char* told;
+  } rows[] = {{false, "The folder C:\\log\\ can not be looked at (not permitted)."},
+              {true, "フォルダ C:\\log\\ を確認できません（許可されていません）。"}};
+  for (const auto& row : rows) {
+    if (row.japanese) world.japanese();
+    CLogDiskSavePathDlg dialog(world.services, Mode::kReport, {"", "C:\\log", ""}, write());
+    dialog.open();
+    files.fail_look("C:\\log", platform::FileError::kAccessDenied);
+    world.windows.expect_text(row.told);
+    dialog.press(dialog.ok);
+    EXPECT_FALSE(dialog.result());
+    EXPECT_EQ(dialog.focused(), &dialog.tree);
+    EXPECT_TRUE(written.empty());
+    files.heal();
+    dialog.press(dialog.ok);
+    EXPECT_EQ(written, Names{"TLX=C:\\log\\"});
+    written.clear();
+  }
+}
+
 TEST_F(FolderDialog, UnreadableDriveIsReported) {
   world.drives.list = {{'A', platform::DriveType::kRemovable, 2}};
   files.set_medium_missing('A');
   CLogDiskSavePathDlg dialog(world.services, Mode::kReport, {}, write());
   dialog.open();
-  world.windows.expect_text("The folder cannot be read.\nA:\\");
+  world.windows.expect_text("The folder cannot be read.\nA:\\ (no such drive or no medium in it)");
   dialog.expand(dialog.tree, 1);
   EXPECT_FALSE(dialog.tree.rows[1].expanded);
 }

@@ -549,7 +549,7 @@ TEST_F(Cli, SaveNeverWaitsForAPipeAndNamesIt) {
     const Outcome outcome = run("save --reports reports --logbook logbook " + name);
     EXPECT_EQ(outcome.status, 2);
     EXPECT_NE(outcome.error.find((folder_ / pipe).string() +
-                                 " cannot be written: a pipe or a device, not a file"),
+                                 " cannot be written: a folder or a device, not a file"),
               std::string::npos)
         << outcome.error;
     EXPECT_EQ(saved().size(), 1U) << "only the pipe";

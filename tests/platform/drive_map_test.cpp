@@ -64,6 +64,22 @@ TEST(DriveMap, PathsThatNoFileCanHaveAreRefused) {
   EXPECT_EQ(map.to_os("\\x", "").error, FileError::kNotFound);
 }
 
+TEST(DriveMap, DriveThatCannotBeLookedAtIsNotTakenForAnAbsentOne) {
+  const fakes::TempFolder temp;
+  temp.folder("c");
+  temp.write("file", "");
+  std::filesystem::create_symlink("circle", temp / "circle");
+  std::filesystem::create_symlink("gone", temp / "nowhere");
+  const DriveMap map(temp / "c", [&] {
+    return std::vector<Medium>{{"d", 'D', DriveType::kFixed, 12, temp / "circle"},
+                               {"e", 'E', DriveType::kFixed, 12, temp / "nowhere"},
+                               {"f", 'F', DriveType::kFixed, 12, temp / "file"}};
+  });
+  EXPECT_EQ(map.to_os("D:\\x").error, FileError::kBadLink);
+  EXPECT_EQ(map.to_os("E:\\x").error, FileError::kMediumMissing);
+  EXPECT_EQ(map.to_os("F:\\x").error, FileError::kMediumMissing);
+}
+
 TEST(DriveMap, PathsOfThisComputerBecomeProgramPathsOnTheNearestDrive) {
   const fakes::TempFolder temp;
   temp.folder("c/kavrel");

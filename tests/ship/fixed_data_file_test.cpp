@@ -381,6 +381,25 @@ TEST(FixedDataFile, CarriesTheLocalDateOfTheSave) {
   EXPECT_EQ(loaded.values, full_ship());
 }
 
+TEST(FixedDataFile, IsMissingOnlyWhereThereIsNothing) {
+  using platform::FileError;
+  fakes::FakeClock clock;
+  for (const bool exists : {true, false}) {
+    fakes::FakeFiles files;
+    if (exists) files.add_file(kPath, std::string(kFixedDataSize, '0'));
+    files.fail_look(kPath, FileError::kTooManyOpen);
+    const auto loaded = load_fixed_data(files, kPath, clock, kCodePage);
+    EXPECT_EQ(loaded.outcome, FileRead::kUnreadable);
+    EXPECT_EQ(loaded.error, FileError::kTooManyOpen);
+    EXPECT_EQ(load_key_items(files, kPath).outcome, FileRead::kUnreadable);
+  }
+  fakes::FakeFiles files;
+  files.add_folder(kPath);
+  EXPECT_EQ(load_fixed_data(files, kPath, clock, kCodePage).error, FileError::kNotAFile);
+  files.add_other("C:\\pipe");
+  EXPECT_EQ(load_key_items(files, "C:\\pipe").error, FileError::kNotAFile);
+}
+
 TEST(FixedDataFile, TellsMissingWrongSizeAndUnreadableApart) {
   fakes::FakeFiles files;
   fakes::FakeClock clock;

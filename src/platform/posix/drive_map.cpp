@@ -3,8 +3,11 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <string_view>
+
+#include "platform/posix/posix_files.h"
 
 namespace platform::posix {
 
@@ -19,6 +22,15 @@ bool is_separator(char c) {
 bool is_os_folder(const std::string& path) {
   struct stat about {};
   return ::stat(path.c_str(), &about) == 0 && S_ISDIR(about.st_mode);
+}
+
+/// kMediumMissing only where the folder of a drive is not there: a refusal or an input error says
+/// nothing about that.
+FileError why_no_medium(const std::string& folder) {
+  struct stat about {};
+  if (::stat(folder.c_str(), &about) == 0)
+    return S_ISDIR(about.st_mode) ? FileError::kNone : FileError::kMediumMissing;
+  return errno == ENOENT || errno == ENOTDIR ? FileError::kMediumMissing : file_error(errno);
 }
 
 /// Without a final "/": "" for the root of the file system.
@@ -135,8 +147,9 @@ Result<std::string> DriveMap::to_os(const std::string& path,
     look();  // it may have come since
     medium = find(whole[0]);
   }
-  if (medium == nullptr || !medium->folder || !is_os_folder(*medium->folder + "/"))
-    return FileError::kMediumMissing;
+  if (medium == nullptr || !medium->folder) return FileError::kMediumMissing;
+  if (const FileError error = why_no_medium(*medium->folder + "/"); error != FileError::kNone)
+    return error;
   std::string result = *medium->folder;
   for (const std::string_view name : names_of(std::string_view(whole).substr(2)))
     result.append("/").append(name);

@@ -39,7 +39,8 @@ class DriveMap {
   /// A program path as this computer's. A path without a drive letter starts at `current_folder`.
   /// "/" parts names as "\" does; "." and empty names are dropped; ".." never climbs above the
   /// drive's own folder. kMediumMissing when there is no such drive or no medium in it, kNotFound
-  /// for a path that no file can have.
+  /// for a path that no file can have, and the computer's reason when one cannot tell about the
+  /// drive's folder.
   [[nodiscard]] Result<std::string> to_os(const std::string& path,
                                           const std::string& current_folder = "C:\\") const;
 

@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <ctime>
 #include <filesystem>
+#include <memory>
+#include <new>
 
 namespace platform::posix {
 
@@ -57,7 +59,7 @@ FileError file_error(int error_number) {
       {EMFILE, FileError::kTooManyOpen},      {ENFILE, FileError::kTooManyOpen},
       {EINVAL, FileError::kBadName},          {ENAMETOOLONG, FileError::kBadName},
       {EILSEQ, FileError::kBadName},          {EAGAIN, FileError::kLocked},
-      {EEXIST, FileError::kExists},
+      {EEXIST, FileError::kExists},           {ENOMEM, FileError::kNoMemory},
   };
   const auto* const row =
       std::find_if(std::begin(kReasons), std::end(kReasons),
@@ -308,13 +310,17 @@ Result<std::string> PosixFiles::read(const std::string& path, std::uint64_t larg
   if (!S_ISREG(found.st_mode)) return FileError::kNotAFile;
   std::string content;
   std::array<char, 1U << 16U> block;
-  for (;;) {
-    const auto count =
-        unbroken([&] { return calls_.read(file.file(), block.data(), block.size()); });
-    if (count == -1) return file_error(errno);
-    if (count == 0) return content;
-    content.append(block.data(), static_cast<std::size_t>(count));
-    if (content.size() > largest) return FileError::kOther;
+  try {
+    for (;;) {
+      const auto count =
+          unbroken([&] { return calls_.read(file.file(), block.data(), block.size()); });
+      if (count == -1) return file_error(errno);
+      if (count == 0) return content;
+      content.append(block.data(), static_cast<std::size_t>(count));
+      if (content.size() > largest) return FileError::kOther;
+    }
+  } catch (const std::bad_alloc&) {
+    return FileError::kNoMemory;
   }
 }
 
@@ -547,29 +553,27 @@ std::optional<DateTime> PosixFiles::modified(const std::string& path) const {
 Result<std::vector<FolderEntry>> PosixFiles::list(const std::string& folder) const {
   const auto os_path = os(folder);
   if (!os_path.ok()) return os_path.error;
-  DIR* open = calls_.opendir(os_path.value->c_str());
+  const auto close = [this](DIR* opened) { (void)calls_.closedir(opened); };
+  const std::unique_ptr<DIR, decltype(close)> open(calls_.opendir(os_path.value->c_str()), close);
   if (open == nullptr) return file_error(errno);
   std::vector<FolderEntry> entries;
-  int error_number = 0;
-  for (;;) {
-    const dirent* entry = calls_.readdir(open);
-    if (entry == nullptr) {
-      error_number = errno;
-      break;
+  try {
+    while (const dirent* entry = calls_.readdir(open.get())) {
+      const std::string name = static_cast<const char*>(entry->d_name);
+      if (name == "." || name == ".." || name.find('\\') != std::string::npos) continue;
+      bool is_a_folder = entry->d_type == DT_DIR;
+      bool is_other = !is_a_folder && entry->d_type != DT_REG;
+      if (entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK) {
+        const Look target = look_at(*os_path.value + "/" + name);
+        is_a_folder = target.there == There::kFolder;
+        is_other = target.there == There::kOther;
+      }
+      if (!is_other) entries.push_back({name, is_a_folder});
     }
-    const std::string name = static_cast<const char*>(entry->d_name);
-    if (name == "." || name == ".." || name.find('\\') != std::string::npos) continue;
-    bool is_a_folder = entry->d_type == DT_DIR;
-    bool is_other = !is_a_folder && entry->d_type != DT_REG;
-    if (entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK) {
-      const Look target = look_at(*os_path.value + "/" + name);
-      is_a_folder = target.there == There::kFolder;
-      is_other = target.there == There::kOther;
-    }
-    if (!is_other) entries.push_back({name, is_a_folder});
+  } catch (const std::bad_alloc&) {
+    return FileError::kNoMemory;
   }
-  (void)calls_.closedir(open);
-  if (error_number != 0) return file_error(error_number);
+  if (errno != 0) return file_error(errno);
   return entries;
 }
 

@@ -96,16 +96,26 @@ bool is_floppy_drive(const std::string& name) {
   return name.size() == 3 && name.starts_with("fd") && (name[2] == '0' || name[2] == '1');
 }
 
+/// What lies in a folder, in the order of the names. A folder that cannot be read, or not to its
+/// end, gives what was seen of it.
+std::vector<fs::path> entries_of(const fs::path& folder) {
+  std::vector<fs::path> entries;
+  std::error_code error;
+  for (fs::directory_iterator at(folder, error); !error && at != fs::directory_iterator();
+       at.increment(error))
+    entries.push_back(at->path());
+  std::sort(entries.begin(), entries.end());
+  return entries;
+}
+
 /// The mounted media of one disk: the disk itself and its partitions, which are folders in its own.
 void add_mounted(const fs::path& disk, const std::vector<Mount>& mounts,
                  std::vector<Medium>& media) {
   const std::string name = disk.filename().string();
   const DriveType type = name.starts_with("sr") ? DriveType::kCdRom : DriveType::kRemovable;
   std::vector<fs::path> parts{disk};
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(disk, error))
-    if (entry.path().filename().string().starts_with(name)) parts.push_back(entry.path());
-  std::sort(parts.begin(), parts.end());
+  for (fs::path& entry : entries_of(disk))
+    if (entry.filename().string().starts_with(name)) parts.push_back(std::move(entry));
   for (const fs::path& part : parts)
     if (auto folder = mounted_at(first_line(part / "dev"), mounts))
       media.push_back({part.filename().string(), 0, type, media_type_of(disk, kRemovableMedium),
@@ -115,14 +125,9 @@ void add_mounted(const fs::path& disk, const std::vector<Mount>& mounts,
 }  // namespace
 
 std::vector<Medium> removable_media(const KernelFolders& kernel) {
-  std::vector<fs::path> disks;
-  std::error_code error;
-  for (const auto& entry : fs::directory_iterator(kernel.block, error))
-    disks.push_back(entry.path());
-  std::sort(disks.begin(), disks.end());
   const auto mounts = read_mounts(kernel.mounts);
   std::vector<Medium> media;
-  for (const fs::path& disk : disks) {
+  for (const fs::path& disk : entries_of(kernel.block)) {
     const std::string name = disk.filename().string();
     if (is_floppy_drive(name)) {
       media.push_back({name, static_cast<char>('A' + (name[2] - '0')), DriveType::kRemovable,

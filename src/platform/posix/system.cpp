@@ -3,6 +3,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -10,6 +11,7 @@
 
 #include "platform/posix/drives_file.h"
 #include "platform/posix/removable_media.h"
+#include "text/reasons.h"
 
 namespace platform::posix {
 
@@ -34,10 +36,23 @@ std::string absolute(const std::string& path) {
   return error ? path : whole.lexically_normal().string();
 }
 
-std::optional<std::string> content_of(const std::string& path) {
+/// The text of a file; kNotFound only where there is none.
+Result<std::string> content_of(const std::string& path) {
+  std::error_code error;
+  if (fs::symlink_status(path, error).type() == fs::file_type::not_found)
+    return FileError::kNotFound;
+  const fs::file_type type = fs::status(path, error).type();
+  if (type == fs::file_type::not_found) return FileError::kBadLink;
+  if (type == fs::file_type::none) return file_error(error.value());
+  if (type != fs::file_type::regular) return FileError::kNotAFile;
+  errno = 0;
   std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
+  if (!file) return errno == 0 ? FileError::kOther : file_error(errno);
+  try {
+    return std::string(std::istreambuf_iterator<char>(file), {});
+  } catch (const std::exception&) {
+    return FileError::kOther;  // the library's file buffer reports a failed read this way
+  }
 }
 
 std::string drives_file_of(const std::string& root) {
@@ -72,14 +87,24 @@ void System::choose_root(const SystemOptions& options) {
   fs::create_directories(root_, error);
   if (!fs::is_directory(root_, error))
     problems_.push_back("--root: \"" + root_ + "\" is not a folder and could not be made one");
-  if (const auto text = content_of(drives_file_of(root_)))
-    for (const std::string& problem : read_drives(*text, root_).problems)
-      problems_.push_back("drives.txt: " + problem);
+  const auto text = content_of(drives_file_of(root_));
+  if (!text.ok() && text.error != FileError::kNotFound) {
+    const auto why = text::resolve({text::reason_of(text.error)}, text::Language::kEnglish);
+    problems_.push_back("drives.txt: cannot be read: " + std::string(why));
+  }
+  if (!text.ok()) return;
+  for (const std::string& problem : read_drives(*text.value, root_).problems)
+    problems_.push_back("drives.txt: " + problem);
 }
 
 std::vector<Medium> System::find_media() const {
   const auto text = content_of(drives_file_of(root_));
-  return text ? read_drives(*text, root_).media : removable_media();
+  if (text.ok()) {
+    media_ = read_drives(*text.value, root_).media;
+  } else if (text.error == FileError::kNotFound) {
+    media_ = removable_media();
+  }
+  return media_;
 }
 
 void System::choose_clock(const SystemOptions& options) {

@@ -49,9 +49,12 @@ class System {
   void choose_clock(const SystemOptions& options);
   void choose_locale(const SystemOptions& options);
   [[nodiscard]] std::string choose_program(const SystemOptions& options);
+  /// Those of drives.txt, else those that the computer tells of; the ones found last where one
+  /// cannot tell what drives.txt says.
   [[nodiscard]] std::vector<Medium> find_media() const;
 
   std::string root_;
+  mutable std::vector<Medium> media_;  ///< as found last
   std::vector<std::string> problems_;
   SystemCalls calls_;
   std::unique_ptr<DriveMap> map_;
