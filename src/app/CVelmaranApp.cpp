@@ -112,7 +112,7 @@ void CVelmaranApp::save_ship() {
   const std::string& path = settings_.folders.fixed_data;
   const FileError error =
       save_fixed_data(services_.files, path, ship_, services_.clock, services_.code_page);
-  if (error != FileError::kNone) messages_.file_error(text::id::kShipFileNotSaved, path, error);
+  if (error != FileError::kNone) messages_.file_error(text::id::kFileNotSaved, path, error);
 }
 
 void CVelmaranApp::ask_key_items() {

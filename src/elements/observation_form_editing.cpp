@@ -74,7 +74,7 @@ bool ObservationForm::refuse_range(Field field) const {
   const auto bounds = named_bounds(field);
   const EditorRow& row = editor_of(field);
   messages_.error_filled(range_message(field), {bounds[0], bounds[1]},
-                         row.shows_check ? row.check_text : 0);
+                         row.shows_check ? language_.get(row.check_text) : std::string_view());
   return false;
 }
 

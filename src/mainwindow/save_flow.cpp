@@ -10,6 +10,7 @@
 #include "observation/report_encoder.h"
 #include "observation/report_file.h"
 #include "text/ids.h"
+#include "text/reasons.h"
 #include "text/strings.h"
 
 namespace mainwindow {
@@ -148,6 +149,14 @@ void tell_remarks(ui::Services& services, const observation::SaveResult& result,
     services.messages.error_filled(id::kSaveLineLeft, {logbook});
 }
 
+// The notice of old, and below it the file and the cause that it does not name.
+void tell_failure(ui::Services& services, const std::string& path, platform::FileError why) {
+  const text::Texts& texts = services.texts;
+  services.messages.error_filled(
+      id::kSaveFailed, {},
+      text::fill(texts.get(id::kFileNotSaved), {path, texts.get(text::reason_of(why))}));
+}
+
 }  // namespace
 
 std::string save_errors(const Saving& saving, const text::Texts& texts) {
@@ -184,9 +193,11 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
   if (!result) return SaveEnd::kNotSaved;
   if (result->outcome == SaveOutcome::kSaved && saving.written) saving.written();
   tell_remarks(services, *result, request.logbook_path);
-  return result->outcome == SaveOutcome::kSaved
-             ? end_with(services, id::kSaved, SaveEnd::kSaved)
-             : end_with(services, id::kSaveFailed, SaveEnd::kNotSaved);
+  if (result->outcome == SaveOutcome::kSaved)
+    return end_with(services, id::kSaved, SaveEnd::kSaved);
+  const bool of_logbook = result->outcome == SaveOutcome::kLogbookFailed;
+  tell_failure(services, of_logbook ? request.logbook_path : request.report_path, result->error);
+  return SaveEnd::kNotSaved;
 }
 
 void tell_recovery(ui::Services& services, const Folders& folders,

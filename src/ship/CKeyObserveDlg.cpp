@@ -80,6 +80,6 @@ void CKeyObserveDlg::on_ok() {
     accepted_.not_observed[i] = items[i].selected == 1;
   if (const auto error = save_key_items(services().files, path_, accepted_);
       error != platform::FileError::kNone)
-    services().messages.file_error(id::kShipFileNotSaved, path_, error);
+    services().messages.file_error(id::kFileNotSaved, path_, error);
   close(text::kOk);
 }

@@ -63,10 +63,11 @@ void Messages::error(int id, std::string_view literal) {
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
-void Messages::error_filled(int id, std::initializer_list<std::string_view> arguments, int below) {
+void Messages::error_filled(int id, std::initializer_list<std::string_view> arguments,
+                            std::string_view below) {
   if (quiet) return;
   std::string shown = fill(texts_.get(id), arguments);
-  if (below != 0) shown.append("\n").append(texts_.get(below));
+  if (!below.empty()) shown.append("\n").append(below);
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 

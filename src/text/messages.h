@@ -69,9 +69,10 @@ class Messages {
   /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
   /// "Check Error".
   void error(int id, std::string_view literal = {});
-  /// Error notice of a text whose "%s" and "%d" are filled in; with `below`, that text stands on a
-  /// line of its own below it.
-  void error_filled(int id, std::initializer_list<std::string_view> arguments, int below = 0);
+  /// Error notice of a text whose "%s" and "%d" are filled in; `below`, when there is one, stands
+  /// on a line of its own below it.
+  void error_filled(int id, std::initializer_list<std::string_view> arguments,
+                    std::string_view below = {});
 
   /// error_filled(), but the first time of the run only.
   void error_filled_once(int id, std::initializer_list<std::string_view> arguments);

@@ -10,6 +10,7 @@
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
 #include "text/ids.h"
+#include "text/reasons.h"
 
 namespace {
 
@@ -102,7 +103,10 @@ void in_both_languages(const std::function<void(Save&)>& check) {
     check(save);
     for (const platform::MessageBox& box : save.world.windows.boxes) {
       EXPECT_FALSE(box.text.empty());
-      EXPECT_EQ(box.text, text::bilingual(box.text_id, language)) << box.text_id;
+      // Below a failed save stand the file and the cause.
+      const std::string notice =
+          box.text_id == id::kSaveFailed ? box.text.substr(0, box.text.find('\n')) : box.text;
+      EXPECT_EQ(notice, text::bilingual(box.text_id, language)) << box.text_id;
     }
   }
 }
@@ -322,6 +326,14 @@ TEST(SaveFlow, EveryFailedWriteLeavesBothFilesAndSaysSo) {
         s.world.windows.expect(id::kAskReplaceReport, "yes");
         s.world.windows.expect(id::kSaveFailed);
         s.expect_nothing_written(SaveEnd::kNotSaved);
+        const bool of_logbook = operation == Operation::kLock || operation == Operation::kAppend ||
+                                operation == Operation::kNote;
+        const text::Texts& texts = s.world.texts;
+        EXPECT_EQ(
+            s.world.windows.boxes.back().text,
+            std::string(texts.get(id::kSaveFailed)) + "\n" +
+                text::fill(texts.get(id::kFileNotSaved),
+                           {of_logbook ? kLogbook : kReport, texts.get(text::reason_of(error))}));
         // And the same save goes well afterwards.
         s.files.heal();
         s.world.windows.expect(id::kAskReplaceReport, "yes");
@@ -468,7 +480,9 @@ TEST(SaveFlow, FoldersThatAreGoneOrReadOnlyAndAFullDiskLeaveBothFiles) {
     trouble(s);
     s.world.windows.expect(id::kSaveFailed);
     s.expect_nothing_written(SaveEnd::kNotSaved);
-    EXPECT_EQ(s.world.windows.boxes.back().text, "SetFDMount");
+    const std::string& told = s.world.windows.boxes.back().text;
+    EXPECT_TRUE(told.starts_with("SetFDMount\nThe file C:\\")) << told;
+    EXPECT_TRUE(told.ends_with(").")) << "the cause: " << told;
   }
 }
 

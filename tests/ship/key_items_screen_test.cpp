@@ -108,7 +108,7 @@ TEST(ItemsScreen, SaysSoWhenTheFileCannotBeWrittenAndKeepsTheChoiceForThisRun) {
     screen.open();
     screen.choose(screen.items[0], 1);
     bench.files.fail_next(fakes::FakeFiles::Operation::kStage, platform::FileError::kNoSpace);
-    bench.world.windows.expect(id::kShipFileNotSaved);
+    bench.world.windows.expect(id::kFileNotSaved);
     screen.press(screen.ok);
     EXPECT_EQ(screen.result(), text::kOk);
     EXPECT_EQ(bench.files.content(kPath), "000000000000");
@@ -157,7 +157,7 @@ TEST(ItemsScreen, ShowsTheChoiceAgainThatCouldNotBeWritten) {
     screen.choose(screen.items[4], 1);
     if (round < 2) {
       bench.files.fail_next(fakes::FakeFiles::Operation::kStage, platform::FileError::kNoSpace);
-      bench.world.windows.expect(id::kShipFileNotSaved);
+      bench.world.windows.expect(id::kFileNotSaved);
     }
     screen.press(screen.ok);
     in_force = screen.values();
