@@ -27,7 +27,7 @@ Journal sample() {
 TEST(SaveJournal, ComesBackAsItWasWritten) {
   Journal journal = sample();
   EXPECT_EQ(observation::read_journal(observation::write_journal(journal)), journal);
-  journal.folder = std::string("C:\\\n9\nreport 3\n\0\xFF\\", 20);
+  journal.folder = std::string("C:\\\n9\nreport 3\n\0\xFF\\", 18);
   journal.replace = false;
   journal.log_existed = false;
   journal.log_size = 0;
