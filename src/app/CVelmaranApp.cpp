@@ -35,7 +35,7 @@ int CVelmaranApp::run() {
   find_removable();
   check_folder(WorkingFolder::kReports);
   check_folder(WorkingFolder::kLogbook);
-  mainwindow::recover_save(services_, settings_.folders);
+  settings_.folders.finished_report = mainwindow::recover_save(services_, settings_.folders);
   ask_fixed_data();
   ask_key_items();
   show_main_window();

@@ -156,13 +156,13 @@ class Saver {
       case SaveOutcome::kAlreadyExists:
         return exists(request.report_path);
       case SaveOutcome::kReportFailed:
-        return shown(request.report_path) + " cannot be written: " + why;
+        [[fallthrough]];
       case SaveOutcome::kLogbookFailed:
-        return shown(request.logbook_path) + " cannot be written: " + why;
+        return shown(result.failed) + " cannot be written: " + why;
       case SaveOutcome::kLineLeft:
         return shown(request.report_path) + " cannot be written: " + why +
                "; its line is already in " + shown(request.logbook_path) +
-               " until the next save takes it back";
+               " until the next save finishes this one or takes it back";
     }
     return why;
   }

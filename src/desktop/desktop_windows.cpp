@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTimer>
 #include <clocale>
 
@@ -31,7 +32,13 @@ void prepare_application() {
 DesktopWindows::DesktopWindows(PathMap paths)
     : paths_(std::move(paths)), idle_([this] {
         // A copy: a message that a screen shows may be there for long.
-        for (ui::Screen* const screen : std::vector(open_)) screen->idle();
+        for (ui::Screen* const screen : std::vector(open_)) {
+          try {
+            screen->idle();
+          } catch (...) {  // nothing may cross the windowing system's loop
+            screen->event_failed(std::current_exception());
+          }
+        }
       }) {}
 
 DesktopWindows::~DesktopWindows() = default;
@@ -63,8 +70,8 @@ int DesktopWindows::run_modal(ui::Screen& screen) {
   ScreenWindow window(screen, QApplication::activeWindow());
   if (on_shown) QTimer::singleShot(0, &window, [this, &window] { on_shown(window); });
   open_.push_back(&screen);
+  const auto closed = qScopeGuard([this] { open_.pop_back(); });
   window.exec();
-  open_.pop_back();
   return screen.result().value_or(text::kCancel);
 }
 

@@ -137,6 +137,8 @@ ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent
 
 ScreenWindow::~ScreenWindow() {
   qApp->removeEventFilter(this);
+  // The base class moves the focus while it is taken down; nothing of this class is there any more.
+  disconnect(qApp, nullptr, this, nullptr);
 }
 
 void ScreenWindow::build() {

@@ -44,7 +44,8 @@ bool CSea_SurfaceTemperatureDlg::check() {
 
 void CSea_SurfaceTemperatureDlg::on_ok() {
   if (text::trim(temperature.content).empty()) {
-    values_ = {};
+    // Nothing was shown of a temperature that was coded as not observed, and nothing is changed.
+    if (!opened_with_.empty()) values_ = {};
     close(text::kOk);
     return;
   }

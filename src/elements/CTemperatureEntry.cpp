@@ -39,12 +39,20 @@ CTemperatureEntry::CTemperatureEntry(ui::Screen& owner, ui::Services& services, 
 
 void CTemperatureEntry::set(std::string_view text) {
   text = text::trim(text);
+  not_observed_ = !text.empty() && text.find_first_not_of('/') == std::string_view::npos
+                      ? std::string(text)
+                      : std::string();
+  if (!not_observed_.empty()) text = {};
   const auto point = text.find('.');
   whole.set(text.substr(0, point));
   tenths.set(point == std::string_view::npos ? std::string_view() : text.substr(point + 1, 1));
 }
 
 std::string CTemperatureEntry::text() const {
+  return empty() && text::trim(tenths.content).empty() ? not_observed_ : joined();
+}
+
+std::string CTemperatureEntry::joined() const {
   return elements::joined_temperature(whole.content, tenths.content);
 }
 

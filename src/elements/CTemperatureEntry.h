@@ -29,11 +29,12 @@ class CTemperatureEntry {
   /// After each typed character, and when the tenths were filled in.
   std::function<void()> on_change;
 
-  /// Splits a text such as "-1.8" at its point. Call in on_open().
+  /// Splits a text such as "-1.8" at its point. Call in on_open(). Solidi are shown as nothing, and
+  /// are what text() gives back while nothing is entered.
   void set(std::string_view text);
   /// Whole + "." + tenths, tenths "0" when empty; empty without whole degrees.
   [[nodiscard]] std::string text() const;
-  [[nodiscard]] bool empty() const { return text().empty(); }
+  [[nodiscard]] bool empty() const { return joined().empty(); }
   [[nodiscard]] double value() const;
   /// True when both fields hold what a temperature is written with (or nothing).
   [[nodiscard]] bool well_formed() const;
@@ -44,6 +45,7 @@ class CTemperatureEntry {
   [[nodiscard]] ui::Control* check();
 
  private:
+  [[nodiscard]] std::string joined() const;
   bool check_whole();
   bool check_tenths();
 
@@ -51,4 +53,5 @@ class CTemperatureEntry {
   Texts texts_;
   std::string confirmed_;
   bool tenths_typed_ = false;
+  std::string not_observed_;  ///< "///" that the entry was opened with
 };

@@ -226,6 +226,8 @@ FormState ObservationForm::state() const {
 
 void ObservationForm::load(const FormState& state) {
   restore(state.entries);
+  record_.CallSign = ship_.call_sign;  // the ship's, whatever the state was made with
+  record_.ShipFixed = ship_.imo_number;
   before_typing_ = state.before_typing;
   put_aside_ = state.put_aside;
   pppp_of_reading_ = state.pppp_of_reading;

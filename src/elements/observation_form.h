@@ -153,6 +153,7 @@ class ObservationForm {
   [[nodiscard]] bool take_symbol(std::string Struct_Weather::*member, std::string_view figures,
                                  TypedGroup& typed);
   void take_tenths(std::string Struct_Weather::*member, std::string_view figure, TypedGroup& typed);
+  void forget_large_speed();
   [[nodiscard]] bool take_large_speed(std::string_view figures, TypedGroup& typed);
   [[nodiscard]] std::optional<Field> field_of_member(std::string Struct_Weather::*member) const;
   [[nodiscard]] std::optional<Field> field_of_sign(std::string Struct_Weather::*member) const;

@@ -113,7 +113,9 @@ bool ObservationForm::leave(Field field) {
 // Stores an accepted or emptied entry with all that follows from it.
 void ObservationForm::take(Field field, const std::string& value) {
   const Struct_Weather before = record_;
-  if (value.empty()) {
+  if (value.empty() && field == Field::kReading && before_typing_[at(field)].empty()) {
+    slot(field).clear();  // there was no reading: a pressure that was typed by hand is not of one
+  } else if (value.empty()) {
     clear(field);
   } else {
     store(field, value);

@@ -63,14 +63,22 @@ bool is_kept_group(std::string W::*member) {
   return member == &W::gg || member == &W::GGExact;
 }
 
-// Minus zero is zero, also where its sign is typed. A bulb with ice on it keeps the sign that says
-// so.
-void take_minus_from_zero(W& record) {
-  if (record.TTT == "000" && record.SnT == "1") record.SnT = "0";
-  if (record.TdTdTd == "000" && record.SnTd == "1") record.SnTd = "0";
-  if (record.TbTbTb == "000" && record.Sw == "1") record.Sw = "0";
+// Minus zero is zero, also where its sign is typed: for the value that this group holds. A bulb
+// with ice on it keeps the sign that says so.
+void take_minus_from_zero(const observation::GroupRow& row, W& record) {
+  const auto holds = [&](std::string W::*member) {
+    return std::any_of(row.used().begin(), row.used().end(),
+                       [&](const Symbol& symbol) { return symbol.field == member; });
+  };
+  const auto mend = [&](std::string W::*sign, std::string W::*figures) {
+    if (holds(figures) && record.*figures == "000" && record.*sign == "1") record.*sign = "0";
+  };
+  mend(&W::SnT, &W::TTT);
+  mend(&W::SnTd, &W::TdTdTd);
+  mend(&W::Sw, &W::TbTbTb);
   const auto method = sea_temperature_method(record.Ss);
-  if (record.TwTwTw == "000" && method) record.Ss = sea_temperature_sign(*method, false);
+  if (holds(&W::TwTwTw) && record.TwTwTw == "000" && method)
+    record.Ss = sea_temperature_sign(*method, false);
 }
 
 bool all_of(std::string_view figures, char c) {
@@ -152,7 +160,7 @@ bool ObservationForm::leave_group(Group group, std::string_view typed) {
   before_group_ = entries();
   bool accepted = take_symbols(row, figures, entry);
   if (accepted) {
-    take_minus_from_zero(record_);
+    take_minus_from_zero(row, record_);
     accepted = group_accepted(row, before_group_->record, entry);
   }
   const FormEntries before = *std::exchange(before_group_, std::nullopt);
@@ -258,7 +266,11 @@ bool ObservationForm::take_symbol(std::string W::*member, std::string_view figur
     if (member == &W::dw2dw2 && field_text == "00") return true;
     const auto field = field_of_member(member);
     if (field && switched_off(*field)) return true;  // solidi that the program put there
-    field_text.clear();
+    if (member == &W::fff) {
+      forget_large_speed();
+    } else {
+      field_text.clear();
+    }
     if (member == &W::ff) record_.fff.clear();
     // What was computed from it is due.
     if (field) typed.taken.push_back(*field);
@@ -276,7 +288,8 @@ bool ObservationForm::take_symbol(std::string W::*member, std::string_view figur
   }
   const bool unknown = all_of(figures, '/');
   if (member == &W::fff) return take_large_speed(figures, typed);
-  if (member == &W::ff) record_.fff.clear();
+  // 99 says that 00fff holds the speed; until that is typed it is 99, as in the field.
+  if (member == &W::ff) record_.fff = figures == "99" ? "099" : "";
   const auto field = field_of_member(member);
   if (!field || switched_off(*field)) return refuse(id::kInputError);
   if (!unknown && !take_field(*field, figures, typed)) return false;
@@ -312,12 +325,18 @@ std::optional<Field> ObservationForm::field_of_member(std::string W::*member) co
   return std::nullopt;  // signs, and what the ship and the program put in
 }
 
+// Without its 00fff a speed of 99 and more is not known: the 99 alone would be sent as one.
+void ObservationForm::forget_large_speed() {
+  if (!record_.fff.empty() && record_.ff == "99") record_.ff.clear();
+  record_.fff.clear();
+}
+
 // 00fff holds a speed of 99 and more, and is not written without one.
 bool ObservationForm::take_large_speed(std::string_view figures, TypedGroup& typed) {
   constexpr int kLowest = 99;
   typed.taken.push_back(Field::kff);
   if (all_of(figures, '/')) {
-    record_.fff.clear();
+    forget_large_speed();
     return true;
   }
   if (!text::is_all_digits(figures) || text::leading_int(figures) < kLowest)

@@ -213,6 +213,7 @@ void CVelmaranDlg::edit_fixed_data() {
   form_.ship_changed();
   show_menu();
   refresh();
+  tell_doubts();
 }
 
 void CVelmaranDlg::edit_observation_items() {
@@ -221,6 +222,7 @@ void CVelmaranDlg::edit_observation_items() {
   context_.items = dialog.values();
   form_.items_changed();
   refresh();
+  tell_doubts();
 }
 
 void CVelmaranDlg::switch_language(text::Language language) {

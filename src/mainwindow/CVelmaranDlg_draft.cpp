@@ -2,6 +2,7 @@
 // start.
 
 #include "mainwindow/CVelmaranDlg.h"
+#include "observation/report_file.h"
 #include "text/ids.h"
 
 namespace {
@@ -61,7 +62,11 @@ void CVelmaranDlg::offer_drafts() {
     const elements::DraftRead read = elements::decode_draft(left->text);
     if (read.fault != DraftFault::kNone || read.draft.call_sign != context_.ship.call_sign) {
       put_unusable_aside(left->path, read);
-    } else if (wants(read.draft.form.entries.record)) {
+    } else if (const Struct_Weather& record = read.draft.form.entries.record;
+               observation::report_file_name(record) == context_.folders.finished_report) {
+      // Its save was under way when the program ended, and has been finished since.
+      static_cast<void>(keeper_.put_aside(DraftKeeper::Why::kNotWanted));
+    } else if (wants(record)) {
       keeper_.take_over();
       take_over(read.draft);
       return;  // others are offered at the next start: there is one form

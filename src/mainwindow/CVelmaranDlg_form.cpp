@@ -76,6 +76,7 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
       freeze.on_change = [this] {
         form_.toggle_freeze();
         refresh();
+        tell_doubts();
       };
       fields_.push_back({&row, &freeze, {}});
       break;
@@ -246,6 +247,7 @@ void CVelmaranDlg::loading_state_chosen() {
     form_.card_changed();
   }
   refresh();
+  tell_doubts();
 }
 
 const CVelmaranDlg::Field* CVelmaranDlg::field_of(const ui::Control* control) const {

@@ -22,6 +22,7 @@ struct Folders {
   std::string key_items;       ///< path of MOKSDATA.DAT
   /// Where what is not saved yet is kept, without a backslash at its end; empty: it is not kept.
   std::string drafts = {};
+  std::string finished_report = {};  ///< whose interrupted saving this start finished; else empty
 };
 
 /// The application's values are changed in place, then told through the callbacks; a callback that

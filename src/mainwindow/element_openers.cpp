@@ -168,7 +168,7 @@ bool open_tendency(Opening& opening) {
 bool open_psychrometer(Opening& opening) {
   elements::ObservationForm& form = opening.form;
   CCountDewDlg dialog(opening.services, {form.text(Field::kDryBulb), form.text(Field::kWetBulb),
-                                         form.wet_bulb_state(), form.text(Field::kReading),
+                                         form.wet_bulb_state(), form.entered(Field::kReading),
                                          opening.context.ship.card});
   if (!confirmed(opening, dialog)) return false;
   form.put_bulbs(dialog.values().dry, dialog.values().wet, dialog.values().state);

@@ -195,8 +195,7 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
   tell_remarks(services, *result, request.logbook_path);
   if (result->outcome == SaveOutcome::kSaved)
     return end_with(services, id::kSaved, SaveEnd::kSaved);
-  const bool of_logbook = result->outcome == SaveOutcome::kLogbookFailed;
-  tell_failure(services, of_logbook ? request.logbook_path : request.report_path, result->error);
+  tell_failure(services, result->failed, result->error);
   return SaveEnd::kNotSaved;
 }
 
@@ -223,9 +222,10 @@ void tell_recovery(ui::Services& services, const Folders& folders,
   }
 }
 
-void recover_save(ui::Services& services, const Folders& folders) {
-  tell_recovery(services, folders,
-                observation::recover(services.files, folders.reports, folders.logbook));
+std::string recover_save(ui::Services& services, const Folders& folders) {
+  const auto recovery = observation::recover(services.files, folders.reports, folders.logbook);
+  tell_recovery(services, folders, recovery);
+  return recovery.outcome == observation::Recovered::kFinished ? recovery.report : std::string();
 }
 
 }  // namespace mainwindow

@@ -87,6 +87,16 @@ void clear_staged(platform::Files& files, const Folders& folders) {
   }
 }
 
+bool anything_staged(const platform::Files& files, const Folders& folders) {
+  for (const std::string* folder : {&folders.reports, &folders.logbook}) {
+    const auto entries = files.list(*folder);
+    if (!entries.ok()) continue;
+    for (const platform::FolderEntry& entry : *entries.value)
+      if (platform::staged_by(entry.name)) return true;
+  }
+  return false;
+}
+
 /// Number of the line that begins behind so many bytes.
 platform::Result<std::uint64_t> line_number(const platform::LockedLog& log, std::uint64_t bytes) {
   constexpr std::uint64_t kBlock = 1U << 16U;
@@ -131,6 +141,10 @@ class Repairing {
       if (!text.ok()) return {failed(text.error), std::nullopt};
       if (auto journal = read_journal(*text.value);
           journal && files_.same(journal->folder, folders_.reports)) {
+        // Without locks the save that noted this may still be under way.
+        if (const auto saver = platform::staged_by(journal->staged);
+            !log_.is_locked() && saver && files_.is_running(*saver))
+          return {};
         const Recovery told = repair(*journal);
         return {told, std::move(journal)};
       }
@@ -172,7 +186,7 @@ class Repairing {
       if (error == FileError::kExists) {
         // Somebody else's report has come into the place, which this save was not to replace.
         found.staged_is_it = false;
-        what = decide(found);
+        what = found.line == LineFound::kLast ? Repair::kTakeBack : Repair::kLeaveLine;
         files_.discard({report, staged});
       }
     } else if (found.staged_is_it && what != Repair::kTakeBack) {
@@ -243,7 +257,7 @@ class Save {
       return end(SaveOutcome::kReportFailed, FileError::kBadName);
     if (repaired_the_same()) return result_;
     if (result_.recovered.error != FileError::kNone)
-      return end(SaveOutcome::kLogbookFailed, result_.recovered.error);
+      return end(SaveOutcome::kLogbookFailed, result_.recovered.error, folders_.journal());
 
     const platform::Look found = files_.look(request_.report_path);
     if (found.there == There::kCannotTell) return end(SaveOutcome::kReportFailed, found.error);
@@ -258,7 +272,7 @@ class Save {
     if (const FileError error = files_.note(folders_.journal(), write_journal(journal_));
         error != FileError::kNone) {
       files_.discard(*staged.value);
-      return end(SaveOutcome::kLogbookFailed, error);
+      return end(SaveOutcome::kLogbookFailed, error, folders_.journal());
     }
     if (const FileError error = log_.append(journal_.appended); error != FileError::kNone)
       return take_back(*staged.value, SaveOutcome::kLogbookFailed, error);
@@ -306,17 +320,31 @@ class Save {
     return FileError::kNone;
   }
 
+  /// What cannot be taken back stays noted with its staged report, for the next save or start.
   SaveResult take_back(const platform::StagedFile& staged, SaveOutcome outcome, FileError error) {
-    const bool clean =
-        log_.size() == journal_.log_size || log_.cut(journal_.log_size) == FileError::kNone;
+    if (!line_is_gone()) return end(SaveOutcome::kLineLeft, error);
     files_.discard(staged);
-    if (clean) (void)files_.remove(folders_.journal());
-    return end(clean ? outcome : SaveOutcome::kLineLeft, error);
+    (void)files_.remove(folders_.journal());
+    return end(outcome, error);
   }
 
-  SaveResult end(SaveOutcome outcome, FileError error) {
+  /// Cuts the line off, and nothing but it: where there are no locks another program may have
+  /// written behind it meanwhile.
+  bool line_is_gone() {
+    if (log_.size() == journal_.log_size) return true;
+    const auto behind = log_.read(journal_.log_size, journal_.appended.size() + 1);
+    if (!behind.ok() || !std::string_view(journal_.appended).starts_with(*behind.value))
+      return false;
+    return log_.cut(journal_.log_size) == FileError::kNone;
+  }
+
+  SaveResult end(SaveOutcome outcome, FileError error, std::string file = {}) {
     result_.outcome = outcome;
     result_.error = error;
+    result_.failed = std::move(file);
+    if (error != FileError::kNone && result_.failed.empty())
+      result_.failed =
+          outcome == SaveOutcome::kLogbookFailed ? request_.logbook_path : request_.report_path;
     result_.closed_line = 0;
     return result_;
   }
@@ -418,10 +446,10 @@ Recovery recover(platform::Files& files, const std::string& reports_folder,
                  const std::string& logbook_folder) {
   if (reports_folder.empty() || logbook_folder.empty()) return {};
   const Folders folders{in_folder(reports_folder, ""), in_folder(logbook_folder, "")};
-  if (files.look(folders.journal()).there == There::kNo) {
-    clear_staged(files, folders);
-    return {};
-  }
+  // What a living save has staged is cleared by nobody else who holds the lock.
+  const bool noted = files.look(folders.journal()).there != There::kNo;
+  const bool logbook = files.look(logbook_path(logbook_folder)).there == There::kFile;
+  if (!noted && (!logbook || !anything_staged(files, folders))) return {};
   const auto log = files.lock_log(logbook_path(logbook_folder));
   if (!log.ok()) return failed(log.error);
   return repair(files, **log.value, folders).told;
@@ -441,7 +469,7 @@ std::uint64_t room_for(const SaveRequest& request) {
 
 SaveResult save(platform::Files& files, const SaveRequest& request) {
   const auto log = files.lock_log(request.logbook_path);
-  if (!log.ok()) return {SaveOutcome::kLogbookFailed, log.error};
+  if (!log.ok()) return {SaveOutcome::kLogbookFailed, log.error, request.logbook_path};
   return Save(files, **log.value, request).run();
 }
 

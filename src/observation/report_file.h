@@ -124,6 +124,7 @@ struct Recovery {
 struct SaveResult {
   SaveOutcome outcome = SaveOutcome::kSaved;
   platform::FileError error = platform::FileError::kNone;  ///< why, when it failed
+  std::string failed;             ///< the file that it was; empty when none failed
   Recovery recovered = {};        ///< what this save found and repaired first
   std::uint64_t closed_line = 0;  ///< number of the logbook's last line, which had no end and was
                                   ///< closed before the new one; 0 when it was whole

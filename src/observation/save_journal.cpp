@@ -160,7 +160,9 @@ Repair decide(const Found& found) {
   }
   if (found.report_is_it) return Repair::kDone;
   if (found.staged_is_it) return Repair::kFinish;
-  return found.line == LineFound::kLast ? Repair::kTakeBack : Repair::kLeaveLine;
+  // A report that is nowhere was in its place and is not any more, or lies on a drive that is away:
+  // a staged one stays where it was until it is renamed.
+  return Repair::kLeaveLine;
 }
 
 }  // namespace observation

@@ -67,7 +67,7 @@ enum class Repair {
   kDone,        ///< both are there: only the journal is left over
   kFinish,      ///< the line is there: rename the staged report
   kTakeBack,    ///< cut the logbook back and discard the staged report
-  kLeaveLine,   ///< the line has no report, but others stand behind it
+  kLeaveLine,   ///< the line is there, and the report as it was saved is not (any more)
   kDoNotTrust,  ///< the journal does not tell of this logbook
 };
 [[nodiscard]] Repair decide(const Found& found);

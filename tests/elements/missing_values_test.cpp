@@ -286,4 +286,20 @@ TEST(DoubledPressure, IsNotToldOfADewPointThatWasReadDirectly) {
   EXPECT_TRUE(f.form->remarks().empty());
 }
 
+// A group that is typed touches no value of another: the dew point stays that of its bulbs.
+TEST(DewPoint, StaysOfItsBulbsWhenOtherGroupsAreTyped) {
+  Form f;
+  ASSERT_TRUE(f.enter(Field::kDryBulb, "0.0"));
+  ASSERT_TRUE(f.enter(Field::kWetBulb, "0.0"));
+  const std::string computed = dew_point(f);
+  ASSERT_EQ(computed, "1000") << "printed -0.0";
+  for (const auto& [group, typed] :
+       {std::pair{Group::k222DsVs, "22223"}, {Group::k4PPPP, "40132"}, {Group::kNddff, "52712"}}) {
+    ASSERT_TRUE(f.form->leave_group(group, typed));
+    EXPECT_EQ(dew_point(f), computed) << typed;
+  }
+  ASSERT_TRUE(f.enter(Field::kWetBulb, ""));
+  EXPECT_EQ(dew_point(f) + f.record().LogExtra, "");
+}
+
 }  // namespace

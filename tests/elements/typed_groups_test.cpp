@@ -174,4 +174,23 @@ TEST(TypedGroup, WavesOfPeriodZeroHaveNoHeight) {
   }
 }
 
+// 99 alone would be sent as a speed that nobody observed.
+TEST(TypedGroup, ASpeedOf99HasItsFiguresOrIsNotKnown) {
+  for (const char* const taken_away : {"00///", "00***", ""}) {
+    Form f;
+    f.world.windows.expect(id::kWindSpeedQuestion, "yes");
+    ASSERT_TRUE(f.form->leave_group(Group::kNddff, "52799"));
+    EXPECT_EQ(f.record().ff + f.record().fff, "99099") << "as in the field";
+    f.world.windows.expect(id::kWindSpeedQuestion, "yes");
+    ASSERT_TRUE(f.form->leave_group(Group::k00fff, "00120"));
+    EXPECT_EQ(f.record().ff + f.record().fff, "99120");
+    ASSERT_TRUE(f.form->leave_group(Group::k00fff, taken_away));
+    EXPECT_EQ(f.record().ff + f.record().fff, "") << taken_away;
+    EXPECT_NE(f.form->missing().find("GroupNddff"), std::string::npos);
+  }
+  Form calm;
+  ASSERT_TRUE(calm.form->leave_group(Group::kNddff, "52712"));
+  EXPECT_EQ(calm.record().fff, "");
+}
+
 }  // namespace

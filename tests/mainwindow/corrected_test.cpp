@@ -367,4 +367,70 @@ TEST(UntouchedForm, IsNotUnsavedByItemsOrShipData) {
   opened->menu("File/Exit");
 }
 
+TEST(PressureTypedByHand, SurvivesAReadingThatWasBegunAndTakenBack) {
+  const auto opened = std::make_unique<Opened>();
+  opened->type("PPPP", "1010.0");
+  ASSERT_TRUE(fakes::enter(opened->window, opened->control("reading"), "10"));
+  opened->type("reading", "");
+  EXPECT_EQ(opened->window.form().record().PPPP, "0100");
+  EXPECT_EQ(opened->shown("PPPP"), "1010.0");
+}
+
+// What is coded as not observed is not shown by a dialog, and is as it was after its OK; a value
+// that is entered takes its place and leaves the other one.
+TEST(NotObserved, SurvivesTheOkOfItsDialog) {
+  struct Row {
+    DewPointMethod method;
+    const char* group;
+    const char* coded;
+    const char* field;
+    const char* dialog;
+  };
+  for (const Row& row :
+       {Row{DewPointMethod::kDirect, "group_1SnTTT", "1////", "air_temperature",
+            "CTemperatureAndDewDlg"},
+        Row{DewPointMethod::kDirect, "group_2SnTdTdTd", "2////", "dew_point",
+            "CTemperatureAndDewDlg"},
+        Row{DewPointMethod::kComputed, "group_1SnTTT", "1////", "dry_bulb", "CCountDewDlg"},
+        Row{DewPointMethod::kComputed, "group_8SwTbTbTb", "8////", "wet_bulb", "CCountDewDlg"},
+        Row{DewPointMethod::kDirect, "group_0SsTwTwTw", "0////", "TwTwTw",
+            "CSea_SurfaceTemperatureDlg"}}) {
+    SCOPED_TRACE(row.group);
+    ShipFixedData ship = main_window::sample_ship();
+    ship.dew_point_method = row.method;
+    const auto opened = std::make_unique<Opened>(ship);
+    opened->type(row.group, row.coded);
+    const auto before = opened->window.record_fields();
+    ASSERT_TRUE(opened->window.move_focus(opened->control(row.field)));
+    opened->world.windows.expect_screen(row.dialog, ok);
+    opened->window.key(ui::Key::kF1);
+    EXPECT_EQ(opened->window.record_fields(), before);
+    EXPECT_EQ(opened->shown(row.group), row.coded);
+  }
+}
+
+TEST(NotObserved, GivesWayToAValueOfTheDialogAndLeavesTheOtherOne) {
+  const auto opened = std::make_unique<Opened>();
+  opened->type("group_1SnTTT", "1////");
+  opened->type("group_2SnTdTdTd", "2////");
+  opened->world.windows.expect_screen("CTemperatureAndDewDlg", types({{"air_whole", "20"}}));
+  opened->press("label_dew_point");
+  EXPECT_EQ(opened->shown("group_1SnTTT"), "10200");
+  EXPECT_EQ(opened->shown("group_2SnTdTdTd"), "2////");
+}
+
+TEST(DoubledPressure, IsToldWhenIceOnTheBulbBringsAnotherDewPoint) {
+  ShipFixedData ship = main_window::sample_ship();
+  ship.dew_point_method = DewPointMethod::kComputed;
+  ship.card = {};
+  const auto opened = std::make_unique<Opened>(ship);
+  opened->type("dry_bulb", "-5.0");
+  ASSERT_TRUE(fakes::enter(opened->window, opened->control("wet_bulb"), "-5.5"));
+  opened->world.windows.expect(id::kDoubledPressure);
+  opened->window.key(ui::Key::kTab);
+  opened->world.windows.expect(id::kDoubledPressure);
+  opened->window.tick(opened->control("freeze"), true);
+  opened->world.windows.verify();
+}
+
 }  // namespace

@@ -493,4 +493,38 @@ TEST(KeptEntries, SurviveAKillAtAnyMoment) {
   }
 }
 
+// The program ended in the middle of a save, and the start has finished that: the entries are
+// saved.
+TEST(KeptEntries, OfASaveThatTheStartHasFinishedAreNotOfferedAgain) {
+  Computer computer;
+  {
+    Copy killed(computer);
+    killed.start();
+    for (const auto& [name, text] :
+         {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
+      killed.type(name, text);
+    killed.window.idle();
+  }
+  computer.folders.finished_report = "14111512.tlx";
+  Copy next(computer);
+  next.start();
+  next.world.windows.verify();
+  EXPECT_EQ(next.shown("YY"), "");
+  EXPECT_TRUE(computer.files.content(kOld)) << "put aside, not lost";
+}
+
+// A text that was changed by hand cannot give the observation another ship.
+TEST(KeptEntries, BearTheCallSignOfTheShip) {
+  Computer computer;
+  leave_behind(computer);
+  auto read = elements::decode_draft(*computer.files.content(kDraft));
+  read.draft.form.entries.record.CallSign = "OTHER";
+  read.draft.form.entries.record.ShipFixed = "7654321";
+  computer.files.add_file(kDraft, elements::encode_draft(read.draft));
+  Copy next(computer);
+  next.world.windows.expect(id::kDraftFound, "yes");
+  next.start();
+  EXPECT_TRUE(next.window.report().starts_with("BBXX ABCD ")) << next.window.report();
+}
+
 }  // namespace

@@ -274,7 +274,22 @@ TEST(Save, ALastLineWithoutItsEndIsClosedAndTold) {
   EXPECT_EQ(files.content(kLogbook), "LINE1\nLIN") << "as it was, with all that is wrong with it";
 }
 
-TEST(Save, ALineThatCannotBeTakenBackIsSaidAndTakenBackTheNextTime) {
+// Where there are no locks another program may have written behind the line meanwhile, and finished
+// what it found noted: nothing of its own is cut off.
+TEST(Save, CutsOffNothingButItsOwnLine) {
+  struct Shared : FakeFiles {
+    FileError commit(const platform::StagedFile& /*staged*/, platform::Over /*over*/) override {
+      add_file(kLogbook, *content(kLogbook) + "LINE OF ANOTHER\n");
+      return FileError::kNotFound;
+    }
+  } files;
+  static_cast<FakeFiles&>(files) = with_old_files();
+  const auto result = observation::save(files, request());
+  EXPECT_EQ(result.outcome, SaveOutcome::kLineLeft);
+  EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook) + "LINE OF ANOTHER\n");
+}
+
+TEST(Save, ALineThatCannotBeTakenBackIsSaidAndItsSaveFinishedTheNextTime) {
   FakeFiles files = with_old_files();
   files.fail_next(FakeFiles::Operation::kCommit, FileError::kAccessDenied);
   files.fail_next(FakeFiles::Operation::kCut, FileError::kOther);
@@ -285,9 +300,9 @@ TEST(Save, ALineThatCannotBeTakenBackIsSaidAndTakenBackTheNextTime) {
   EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook));
   FakeFiles later = files;
   const auto recovery = observation::recover(later, "C:\\out\\", "C:\\log");
-  EXPECT_EQ(recovery.outcome, observation::Recovered::kTakenBack);
+  EXPECT_EQ(recovery.outcome, observation::Recovered::kFinished);
   EXPECT_EQ(recovery.report, "14111512.tlx");
-  EXPECT_EQ(later.snapshot(), kOld);
+  EXPECT_EQ(later.snapshot(), kNew);
   EXPECT_EQ(observation::save(files, request()).outcome, SaveOutcome::kSaved);
   EXPECT_EQ(files.snapshot(), kNew) << "one line";
 }
