@@ -139,8 +139,7 @@ class Repairing {
     if (found.there == There::kFile && found.size <= kLargest) {
       const auto text = files_.read(folders_.journal());
       if (!text.ok()) return {failed(text.error), std::nullopt};
-      if (auto journal = read_journal(*text.value);
-          journal && files_.same(journal->folder, folders_.reports)) {
+      if (auto journal = read_journal(*text.value); journal && can_be_reached(*journal)) {
         // Without locks the save that noted this may still be under way.
         if (const auto saver = platform::staged_by(journal->staged);
             !log_.is_locked() && saver && files_.is_running(*saver))
@@ -153,9 +152,19 @@ class Repairing {
   }
 
  private:
+  /// Also the reports of a save into another folder than this one's belong to a line of this
+  /// logbook. What may be renamed or removed there are a report's name and a staged one's, with the
+  /// content that was noted.
+  [[nodiscard]] bool can_be_reached(const Journal& journal) const {
+    return files_.same(journal.folder, folders_.reports) ||
+           files_.look(journal.folder).there == There::kFolder;
+  }
+
   Recovery repair(const Journal& journal) {
-    const std::string report = folders_.reports + journal.report;
-    const std::string staged = folders_.reports + journal.staged;
+    const bool here = files_.same(journal.folder, folders_.reports);
+    const std::string reports = here ? folders_.reports : in_folder(journal.folder, "");
+    const std::string report = reports + journal.report;
+    const std::string staged = reports + journal.staged;
     const bool line_begins = journal.appended.front() == '\n';
     Found found;
     if (log_.size() > journal.log_size) {

@@ -24,7 +24,7 @@ struct Mark {
 [[nodiscard]] Mark mark_of(std::string_view content);
 
 struct Journal {
-  std::string folder;       ///< of the reports, as the save had it; only ever compared
+  std::string folder;       ///< of the reports, as the save had it
   std::string report;       ///< name of the report, without a folder
   std::string staged;       ///< name of the staged report, without a folder
   bool replace = false;     ///< a report of that name may be replaced

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "fakes/fake_files.h"
+#include "observation/save_journal.h"
 #include "records.h"
 
 namespace {
@@ -422,17 +423,28 @@ TEST(Recover, PutsAsideWhatIsNoJournalOfTheseFiles) {
     EXPECT_EQ(files.content(kReport), kOld.at(kReport));
     EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook)) << "nothing is cut off on its word";
   }
-  // Of other reports' folder: its staged file cannot be looked for here.
-  FakeFiles files = interrupted();
-  files.add_folder("C:\\other");
-  EXPECT_EQ(observation::recover(files, "C:\\other", "C:\\log").outcome,
-            observation::Recovered::kPutAside);
-  EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook));
+  // The reports' folder that it names is not there.
+  FakeFiles files = with_old_files();
+  observation::Journal gone = *observation::read_journal(whole);
+  gone.folder = "C:\\gone\\";
+  files.add_file(kJournal, observation::write_journal(gone));
+  EXPECT_EQ(recover(files).outcome, observation::Recovered::kPutAside);
+  EXPECT_EQ(files.content(kLogbook), kOld.at(kLogbook));
   // The logbook is not the one any more.
   FakeFiles shorter = interrupted();
   shorter.add_file(kLogbook, "L\n");
   EXPECT_EQ(recover(shorter).outcome, observation::Recovered::kPutAside);
   EXPECT_EQ(shorter.content(kLogbook), "L\n");
+}
+
+// The line is in this logbook, so the save is finished where its report belongs.
+TEST(Recover, FinishesASaveOfAnotherReportFolder) {
+  FakeFiles files = interrupted();
+  files.add_folder("C:\\other");
+  const auto recovery = observation::recover(files, "C:\\other", "C:\\log");
+  EXPECT_EQ(recovery.outcome, observation::Recovered::kFinished);
+  EXPECT_EQ(recovery.report, "14111512.tlx");
+  EXPECT_EQ(files.snapshot(), kNew);
 }
 
 TEST(Recover, ClearsWhatDeadProcessesStagedAndNothingElse) {
