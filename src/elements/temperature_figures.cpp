@@ -20,7 +20,7 @@ namespace {
 
 TemperatureFigures figures_of(std::string text) {
   TemperatureFigures result;
-  result.sign = text.starts_with('-') ? "1" : "0";
+  result.sign = std::string(1, text.starts_with('-') ? '1' : '0');
   result.figures = text;
   result.text = std::move(text);
   std::erase_if(result.figures, [](char c) { return c == '.' || c == '-'; });

@@ -322,7 +322,7 @@ class Save {
         const auto line = line_number(log_, log_.size());
         if (!line.ok()) return line.error;
         result_.closed_line = *line.value;
-        journal_.appended = kLineEnd;
+        journal_.appended.push_back('\n');
       }
     }
     journal_.appended += request_.logbook_line + std::string(kLineEnd);
