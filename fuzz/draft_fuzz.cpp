@@ -55,9 +55,12 @@ void take_over(const elements::Draft& draft) {
   const StoppedClock clock;
   elements::ObservationForm form(ship, items, texts, messages, clock);
   form.load(draft.form);
+  elements::Draft taken = draft;  // it bears the ship's names, whatever the text says
+  taken.form.entries.record.CallSign = ship.call_sign;
+  taken.form.entries.record.ShipFixed = ship.imo_number;
   fuzz::expect(
       elements::encode_draft({draft.call_sign, draft.ship_mark, form.state(), draft.typing_in,
-                              draft.group_text}) == elements::encode_draft(draft),
+                              draft.group_text}) == elements::encode_draft(taken),
       "a form holds what it took over");
   form.ship_changed();
   form.items_changed();
