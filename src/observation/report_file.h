@@ -17,8 +17,9 @@
 //   7. the journal is removed                   both new                -
 //
 //   When 6 fails, the line is cut off again, the staged report and then the journal are removed;
-//   killed between these: as behind 4. When the cutting fails (kLineLeft), only the staged report
-//   is removed, so that the next start or save finds a line without a report and cuts it off.
+//   killed between these: as behind 4. When the cutting fails (kLineLeft), staged report and
+//   journal stay, as behind 5, and the next start or save goes on from there. A line whose report
+//   is neither in its place nor staged is never cut off: the report was moved, or its drive is away.
 //
 // What a person sees as a save that failed and whose disk then came back is never saved twice: when
 // the repair finishes the very save that is asked for, save() has nothing more to do.
@@ -93,7 +94,7 @@ enum class SaveOutcome {
   kReportFailed,   ///< the report could not be written; both files are as they were
   kLogbookFailed,  ///< the line could not be appended; both files are as they were
   kLineLeft,       ///< the save failed and the line, or a part of it, could not be taken back: the
-                   ///< logbook has it until the next start or save takes it back
+                   ///< next start or save finishes this one or takes it back
 };
 
 /// What became of a save that had been interrupted.
@@ -101,7 +102,7 @@ enum class Recovered {
   kNothing,    ///< there was none
   kFinished,   ///< both files are there now
   kTakenBack,  ///< both files are as they were before it
-  kLineLeft,   ///< its line stands in the logbook between others, without a report
+  kLineLeft,   ///< its line stands in the logbook; the report as it was saved is not there
   kPutAside,   ///< what it had noted makes no sense; it lies in kDamagedJournalName now
 };
 struct Recovery {
