@@ -19,7 +19,7 @@
 //   When 6 fails, the line is cut off again, the staged report and then the journal are removed;
 //   killed between these: as behind 4. When the cutting fails (kLineLeft), staged report and
 //   journal stay, as behind 5, and the next start or save goes on from there. A line whose report
-//   is neither in its place nor staged is never cut off: the report was moved, or its drive is away.
+//   is neither in its place nor staged is never cut off: it was moved, or its drive is away.
 //
 // What a person sees as a save that failed and whose disk then came back is never saved twice: when
 // the repair finishes the very save that is asked for, save() has nothing more to do.
