@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-#include "elements/draft.h"
+#include "elements/form/draft.h"
 #include "mainwindow/draft_keeper.h"
 #include "platform/posix/posix_files.h"
 

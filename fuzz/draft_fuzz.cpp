@@ -1,12 +1,12 @@
 // A draft from any bytes, as they are and with the checksum that they should have: what is read
 // encodes to the same bytes, and a form that takes it over works, goes on, and can be kept again.
 
-#include "elements/draft.h"
+#include "elements/form/draft.h"
 
 #include <cstdio>
 #include <string>
 
-#include "elements/observation_form.h"
+#include "elements/form/observation_form.h"
 #include "fuzz.h"
 
 namespace {

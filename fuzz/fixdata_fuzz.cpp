@@ -9,7 +9,7 @@
 
 #include "fuzz.h"
 #include "platform/posix/code_page.h"
-#include "ship/ship_files.h"
+#include "ship/data/ship_files.h"
 #include "text/strings.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

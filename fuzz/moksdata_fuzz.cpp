@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "ship/ship_files.h"
+#include "ship/data/ship_files.h"
 #include "text/strings.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

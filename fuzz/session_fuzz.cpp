@@ -13,7 +13,7 @@
 #include "headless/session.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_file.h"
-#include "ship/ship_files.h"
+#include "ship/data/ship_files.h"
 #include "text/strings.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include "app/CAssistantClass.h"
 #include "mainwindow/save_flow.h"
-#include "ship/ship_files.h"
+#include "ship/data/ship_files.h"
 #include "text/ids.h"
 #include "text/reasons.h"
 

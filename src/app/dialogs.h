@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "mainwindow/context.h"
-#include "ship/KeyObservationItems.h"
-#include "ship/ShipFixedData.h"
+#include "ship/data/KeyObservationItems.h"
+#include "ship/data/ShipFixedData.h"
 #include "ui/services.h"
 
 namespace app {

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "elements/relative_humidity.h"
-#include "elements/temperature_figures.h"
+#include "codetables/tables/temperature_figures.h"
+#include "elements/formulas/relative_humidity.h"
 #include "text/ids.h"
 
 namespace id = text::id;

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "elements/CTemperatureEntry.h"
-#include "elements/psychrometer.h"
-#include "ship/ShipFixedData.h"
+#include "elements/formulas/psychrometer.h"
+#include "ship/data/ShipFixedData.h"
 #include "ui/screen.h"
 
 class CCountDewDlg : public ui::Screen {

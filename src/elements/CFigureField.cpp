@@ -1,6 +1,6 @@
 #include "elements/CFigureField.h"
 
-#include "elements/whole_number.h"
+#include "elements/formulas/whole_number.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 

@@ -4,8 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "elements/field_editors.h"
-#include "elements/wind_fields.h"
+#include "elements/formulas/wind_fields.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -95,7 +94,7 @@ bool CLookWindDlg::check(const DegreesField& row) {
 }
 
 int CLookWindDlg::refusal(const SpeedField& row, std::string_view typed) {
-  const auto knots = elements::strict_number(text::trim(typed));
+  const auto knots = text::strict_number(text::trim(typed));
   if (!knots) return id::kNotANumber;
   return *knots < 0.0 || *knots > row.largest ? id::kInputError : 0;
 }

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "elements/true_wind.h"
+#include "elements/formulas/true_wind.h"
 #include "ui/screen.h"
 
 class CLookWindDlg : public ui::Screen {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "elements/whole_number.h"
+#include "elements/formulas/whole_number.h"
 #include "text/ids.h"
 
 namespace id = text::id;

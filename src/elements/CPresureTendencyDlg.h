@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "elements/pressure_tendency.h"
+#include "elements/formulas/pressure_tendency.h"
 #include "ui/screen.h"
 
 class CPresureTendencyDlg : public ui::Screen {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "elements/sea_level_pressure.h"
+#include "elements/formulas/sea_level_pressure.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "ship/ShipFixedData.h"
+#include "ship/data/ShipFixedData.h"
 #include "ui/screen.h"
 
 class CSeaSurfacePressureDlg : public ui::Screen {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "elements/sea_temperature_figures.h"
+#include "codetables/tables/sea_temperature_figures.h"
 #include "text/ids.h"
 #include "text/strings.h"
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "ship/ShipFixedData.h"
+#include "ship/data/ShipFixedData.h"
 #include "ui/screen.h"
 
 class CSea_SurfaceTemperatureDlg : public ui::Screen {

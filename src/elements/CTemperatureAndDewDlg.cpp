@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "elements/relative_humidity.h"
+#include "elements/formulas/relative_humidity.h"
 #include "text/ids.h"
 
 namespace id = text::id;

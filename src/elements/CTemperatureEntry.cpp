@@ -1,6 +1,6 @@
 #include "elements/CTemperatureEntry.h"
 
-#include "elements/temperature_figures.h"
+#include "codetables/tables/temperature_figures.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "elements/relative_humidity.h"
+#include "elements/formulas/relative_humidity.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"

@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "elements/true_wind_rules.h"
-#include "elements/wind_fields.h"
+#include "elements/formulas/true_wind_rules.h"
+#include "elements/formulas/wind_fields.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"

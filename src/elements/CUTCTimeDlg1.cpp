@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "elements/calendar_date.h"
-#include "elements/whole_number.h"
+#include "elements/formulas/calendar_date.h"
+#include "elements/formulas/whole_number.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"

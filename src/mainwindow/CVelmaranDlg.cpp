@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "elements/CHour3ErrorDlg.h"
-#include "elements/position_review.h"
+#include "elements/form/position_review.h"
 #include "mainwindow/last_position.h"
 #include "mainwindow/save_flow.h"
 #include "ship/CFixDataDlg.h"

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "elements/draft.h"
-#include "elements/observation_form.h"
+#include "elements/form/draft.h"
+#include "elements/form/observation_form.h"
 #include "mainwindow/context.h"
 #include "mainwindow/draft_keeper.h"
 #include "mainwindow/element_openers.h"

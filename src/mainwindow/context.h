@@ -4,8 +4,8 @@
 #include <functional>
 #include <string>
 
-#include "ship/KeyObservationItems.h"
-#include "ship/ShipFixedData.h"
+#include "ship/data/KeyObservationItems.h"
+#include "ship/data/ShipFixedData.h"
 #include "text/texts.h"
 
 namespace mainwindow {

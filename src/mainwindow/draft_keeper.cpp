@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "elements/draft.h"
+#include "elements/form/draft.h"
 #include "text/numbers.h"
 
 namespace mainwindow {

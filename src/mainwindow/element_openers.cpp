@@ -14,7 +14,7 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
-#include "elements/sea_level_pressure.h"
+#include "elements/formulas/sea_level_pressure.h"
 #include "mainwindow/form_rows.h"
 #include "ship/CKataInputDlg.h"
 #include "text/numbers.h"

@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "elements/observation_form.h"
+#include "elements/form/observation_form.h"
 #include "mainwindow/context.h"
 #include "ui/services.h"
 

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "observation/report_groups.h"
-#include "ship/KeyObservationItems.h"
+#include "ship/data/KeyObservationItems.h"
 #include "text/texts.h"
 
 namespace mainwindow {

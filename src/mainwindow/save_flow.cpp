@@ -4,7 +4,7 @@
 
 #include "archive/CShowStatusDlg.h"
 #include "elements/CSaveErrorInfoDlg.h"
-#include "elements/cross_rules.h"
+#include "elements/form/cross_rules.h"
 #include "observation/control_characters.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "ship/KeyObservationItems.h"
-#include "ship/ShipFixedData.h"
+#include "ship/data/KeyObservationItems.h"
+#include "ship/data/ShipFixedData.h"
 
 /// Position in tenths of a degree, without sign, and the quadrant that signs it (code table 3333).
 struct TenthsPosition {

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "ship/KeyObservationItems.h"
-#include "ship/ShipFixedData.h"
+#include "ship/data/KeyObservationItems.h"
+#include "ship/data/ShipFixedData.h"
 
 namespace observation {
 

@@ -6,7 +6,7 @@
 
 #include "ship/CKataInputDlg.h"
 #include "ship/CKataSelectDlg.h"
-#include "ship/ship_identity.h"
+#include "ship/data/ship_identity.h"
 #include "text/ids.h"
 #include "text/strings.h"
 

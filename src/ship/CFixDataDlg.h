@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 
-#include "ship/ShipFixedData.h"
-#include "ship/barometer_card.h"
-#include "ship/ship_files.h"
+#include "ship/data/ShipFixedData.h"
+#include "ship/data/barometer_card.h"
+#include "ship/data/ship_files.h"
 #include "ui/screen.h"
 
 class CFixDataDlg : public ui::Screen {

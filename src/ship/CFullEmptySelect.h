@@ -1,7 +1,7 @@
 #pragma once
 // At full load or in ballast: asked when a card of type "1" was entered without it.
 
-#include "ship/ShipFixedData.h"
+#include "ship/data/ShipFixedData.h"
 #include "ui/screen.h"
 
 class CFullEmptySelect : public ui::Screen {

@@ -5,8 +5,8 @@
 
 #include "ship/CFullEmptySelect.h"
 #include "ship/CKataSelectDlg.h"
-#include "ship/barometer_date.h"
-#include "ship/ship_text.h"
+#include "ship/data/barometer_date.h"
+#include "ship/data/ship_text.h"
 #include "text/ids.h"
 #include "text/strings.h"
 

@@ -3,8 +3,8 @@
 
 #include <array>
 
-#include "ship/ShipFixedData.h"
-#include "ship/barometer_card.h"
+#include "ship/data/ShipFixedData.h"
+#include "ship/data/barometer_card.h"
 #include "ui/screen.h"
 
 class CKataInputDlg : public ui::Screen {

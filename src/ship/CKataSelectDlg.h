@@ -1,7 +1,7 @@
 #pragma once
 // Which of the two kinds of barometer correction card the ship has.
 
-#include "ship/ShipFixedData.h"
+#include "ship/data/ShipFixedData.h"
 #include "ui/screen.h"
 
 class CKataSelectDlg : public ui::Screen {

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "ship/KeyObservationItems.h"
-#include "ship/ship_files.h"
+#include "ship/data/KeyObservationItems.h"
+#include "ship/data/ship_files.h"
 #include "ui/screen.h"
 
 class CKeyObserveDlg : public ui::Screen {

@@ -84,4 +84,16 @@ int leading_int(std::string_view text) {
   return static_cast<int>(negative ? -value : value);
 }
 
+std::optional<double> strict_number(std::string_view text) {
+  std::string_view rest = text;
+  if (!rest.empty() && (rest.front() == '+' || rest.front() == '-')) rest.remove_prefix(1);
+  const auto points = std::count(rest.begin(), rest.end(), '.');
+  const auto digits =
+      std::count_if(rest.begin(), rest.end(), [](char c) { return c >= '0' && c <= '9'; });
+  constexpr std::size_t kLongest = 12;
+  if (digits == 0 || points > 1 || rest.size() > kLongest) return std::nullopt;
+  if (static_cast<std::size_t>(points + digits) != rest.size()) return std::nullopt;
+  return leading_number(text);
+}
+
 }  // namespace text

@@ -31,4 +31,7 @@ namespace text {
 /// none. Clamped to the range of int.
 [[nodiscard]] int leading_int(std::string_view text);
 
+/// The number of a text that is nothing but a number: an optional sign, digits, at most one point.
+[[nodiscard]] std::optional<double> strict_number(std::string_view text);
+
 }  // namespace text

@@ -12,7 +12,7 @@
 #include "app/CVelmaranApp.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
-#include "ship/ship_files.h"
+#include "ship/data/ship_files.h"
 #include "text/ids.h"
 
 namespace {

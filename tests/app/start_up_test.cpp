@@ -6,7 +6,7 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
 #include "observation/report_file.h"
-#include "ship/ship_files.h"
+#include "ship/data/ship_files.h"
 #include "text/ids.h"
 
 namespace {

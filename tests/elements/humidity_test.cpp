@@ -4,9 +4,9 @@
 #include <optional>
 #include <vector>
 
-#include "elements/psychrometer.h"
-#include "elements/relative_humidity.h"
-#include "elements/temperature_figures.h"
+#include "codetables/tables/temperature_figures.h"
+#include "elements/formulas/psychrometer.h"
+#include "elements/formulas/relative_humidity.h"
 
 namespace {
 

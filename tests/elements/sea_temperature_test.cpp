@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "codetables/tables/sea_temperature_figures.h"
 #include "elements/CSea_SurfaceTemperatureDlg.h"
-#include "elements/sea_temperature_figures.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
 

@@ -4,7 +4,7 @@
 #include "elements/CTemperatureAndDewDlg.h"
 #include "elements/CThumidityDlg.h"
 #include "elements/dialog_checks.h"
-#include "elements/relative_humidity.h"
+#include "elements/formulas/relative_humidity.h"
 #include "text/ids.h"
 
 namespace {

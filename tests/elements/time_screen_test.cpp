@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "elements/CUTCTimeDlg1.h"
-#include "elements/calendar_date.h"
+#include "elements/formulas/calendar_date.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
 

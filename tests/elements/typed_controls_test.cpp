@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "elements/form_under_test.h"
+#include "elements/form/form_under_test.h"
 #include "observation/control_characters.h"
 #include "observation/report_groups.h"
 

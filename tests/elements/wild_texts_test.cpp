@@ -3,14 +3,14 @@
 #include <random>
 #include <string>
 
-#include "elements/code_metres.h"
-#include "elements/pressure_tendency.h"
-#include "elements/psychrometer.h"
-#include "elements/relative_humidity.h"
-#include "elements/sea_level_pressure.h"
-#include "elements/temperature_figures.h"
-#include "elements/true_wind.h"
-#include "elements/true_wind_rules.h"
+#include "codetables/tables/code_metres.h"
+#include "codetables/tables/temperature_figures.h"
+#include "elements/formulas/pressure_tendency.h"
+#include "elements/formulas/psychrometer.h"
+#include "elements/formulas/relative_humidity.h"
+#include "elements/formulas/sea_level_pressure.h"
+#include "elements/formulas/true_wind.h"
+#include "elements/formulas/true_wind_rules.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 

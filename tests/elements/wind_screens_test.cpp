@@ -3,7 +3,7 @@
 #include "elements/CLookWindDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/dialog_checks.h"
-#include "elements/wind_fields.h"
+#include "elements/formulas/wind_fields.h"
 #include "text/ids.h"
 
 namespace {

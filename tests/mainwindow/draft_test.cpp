@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "elements/field_editors.h"
+#include "elements/form/field_editors.h"
 #include "mainwindow/draft_keeper.h"
 #include "window.h"
 

@@ -8,7 +8,7 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
 #include "ship/CFixDataDlg.h"
-#include "ship/ship_files.h"
+#include "ship/data/ship_files.h"
 #include "text/ids.h"
 
 namespace {

@@ -22,7 +22,7 @@
 #include "fakes/fake_ports.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CKataInputDlg.h"
-#include "ship/ship_files.h"
+#include "ship/data/ship_files.h"
 
 namespace {
 

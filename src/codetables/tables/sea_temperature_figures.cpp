@@ -1,0 +1,55 @@
+#include "codetables/tables/sea_temperature_figures.h"
+
+#include <algorithm>
+
+#include "codetables/tables/temperature_figures.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace elements {
+namespace {
+
+bool is_plain_number(std::string_view text) {
+  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+  const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
+  return std::count(text.begin(), text.end(), '.') <= 1 &&
+         std::any_of(text.begin(), text.end(), is_digit) &&
+         std::all_of(text.begin(), text.end(), [&](char c) { return c == '.' || is_digit(c); });
+}
+
+}  // namespace
+
+std::optional<Celsius> sea_temperature(std::string_view text) {
+  text = text::trim(text);
+  if (!is_plain_number(text)) return std::nullopt;
+  const double value = text::leading_number(text);
+  if (value < -2.0 || value > 37.0) return std::nullopt;
+  return Celsius{value};
+}
+
+SeaTemperatureFigures sea_temperature_figures(Celsius t, SeaTemperatureMethod method) {
+  const TemperatureFigures shared = temperature_figures(t);
+  return {sea_temperature_sign(method, shared.sign == "1"), shared.figures};
+}
+
+std::string sea_temperature_text(std::string_view Ss, std::string_view TwTwTw) {
+  if (!text::is_all_digits(TwTwTw)) return {};
+  const double degrees = text::leading_int(TwTwTw) / 10.0;
+  const bool below_zero = is_below_zero(Ss) && degrees > 0.0;
+  return text::format_fixed(below_zero ? -degrees : degrees, 1);
+}
+
+std::string sea_temperature_sign(SeaTemperatureMethod method, bool below_zero) {
+  return text::format_int(2 * static_cast<int>(method) + (below_zero ? 1 : 0));
+}
+
+bool is_below_zero(std::string_view Ss) {
+  return sea_temperature_method(Ss) && (Ss.front() - '0') % 2 == 1;
+}
+
+std::optional<SeaTemperatureMethod> sea_temperature_method(std::string_view Ss) {
+  if (Ss.size() != 1 || Ss.front() < '0' || Ss.front() > '7') return std::nullopt;
+  return static_cast<SeaTemperatureMethod>((Ss.front() - '0') / 2);
+}
+
+}  // namespace elements

@@ -1,0 +1,44 @@
+#pragma once
+// A temperature as the form shows it and as the report's groups take it.
+
+#include <string>
+#include <string_view>
+
+#include "elements/formulas/psychrometer.h"
+#include "elements/formulas/units.h"
+
+namespace elements {
+
+/// One decimal with two figures before the point and no blanks: "05.0", "12.3", "-01.8", "-12.3".
+/// What rounds to zero has no sign: "00.0".
+[[nodiscard]] std::string zero_filled_tenths(double value);
+
+struct TemperatureFigures {
+  std::string text;     ///< "-01.8"
+  std::string sign;     ///< code table 3845: "0", or "1" when the text begins with "-"
+  std::string figures;  ///< tenths of a degree, three figures: "018"
+  bool operator==(const TemperatureFigures&) const = default;
+};
+
+/// Texts for the fields SnT/TTT, SnTd/TdTdTd, TbTbTb and TwTwTw. What rounds to zero is zero, from
+/// whichever side: sign "0".
+[[nodiscard]] TemperatureFigures temperature_figures(Celsius t);
+
+/// The same for a dew point that was computed: one that is printed "-0.0" keeps its sign "1", as
+/// this computation has always given it.
+[[nodiscard]] TemperatureFigures computed_dew_point_figures(Celsius td);
+
+/// Sign and type of the wet bulb, Sw (code table 3855, measured values): "0" and "1" by sign for a
+/// bulb that is not iced, "2" for an iced one.
+[[nodiscard]] std::string wet_bulb_sign(const TemperatureFigures& wet, WetBulbState state);
+
+/// A temperature of two fields, whole degrees with sign and tenths. Empty whole degrees are no
+/// temperature; empty tenths count as "0". Zero has no minus: "-0" and "0" give "0.0".
+[[nodiscard]] std::string joined_temperature(std::string_view whole, std::string_view tenths);
+
+/// Too high or too low for the sea, so that the question is asked: whole degrees above 40 or below
+/// -25. Tenths do not count: 40.9 passes.
+enum class TemperatureRange { kUsual, kAbove, kBelow };
+[[nodiscard]] TemperatureRange temperature_range(std::string_view text);
+
+}  // namespace elements

@@ -1,0 +1,171 @@
+#include "elements/form/cross_rules.h"
+
+#include <algorithm>
+
+#include "elements/form/field_codes.h"
+#include "elements/formulas/true_wind_rules.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace elements {
+namespace {
+
+namespace id = text::id;
+using W = Struct_Weather;
+
+bool is_zero(const std::string& figures) {
+  return figures == "0";
+}
+
+// 1 to 9: 9 is a sky that cannot be seen, which is not "no clouds" either.
+bool is_some_cloud(const std::string& figures) {
+  return text::is_all_digits(figures) && !is_zero(figures);
+}
+
+bool steady_with_amount(const W& r) {
+  return r.a == "4" && text::is_all_digits(r.ppp) && text::leading_int(r.ppp) != 0;
+}
+
+bool lowest_above_total(const W& r) {
+  return text::is_all_digits(r.N) && text::is_all_digits(r.Nh) &&
+         text::leading_int(r.Nh) > text::leading_int(r.N);
+}
+
+bool cover_without_types(const W& r) {
+  return is_some_cloud(r.N) && is_zero(r.CL) && is_zero(r.CM) && is_zero(r.CH);
+}
+
+bool types_without_amount(const W& r) {
+  return is_zero(r.Nh) && (is_some_cloud(r.CL) || is_some_cloud(r.CM));
+}
+
+bool amount_without_types(const W& r) {
+  return is_zero(r.CL) && is_zero(r.CM) && is_some_cloud(r.Nh);
+}
+
+// The record's speed is in whole units; fff holds one of 99 and more.
+TrueWindRule wind_rule(const W& r) {
+  const std::string& speed = r.fff.empty() ? r.ff : r.fff;
+  if (r.dd.empty() || speed.empty()) return TrueWindRule::kKept;
+  return check_true_wind(r.dd, speed);
+}
+
+bool calm_with_speed(const W& r) {
+  return wind_rule(r) == TrueWindRule::kCalmWithSpeed;
+}
+bool direction_without_speed(const W& r) {
+  return wind_rule(r) == TrueWindRule::kDirectionWithoutSpeed;
+}
+
+// Signed tenths of a degree, or nothing when a part is missing.
+std::optional<int> tenths(const std::string& sign, const std::string& figures) {
+  if (!text::is_all_digits(sign) || !text::is_all_digits(figures)) return std::nullopt;
+  const int value = text::leading_int(figures);
+  return sign == "1" ? -value : value;
+}
+
+std::optional<int> wet_bulb_tenths(const W& r) {
+  if (!text::is_all_digits(r.Sw)) return std::nullopt;
+  return tenths(wet_bulb_is_negative(r) ? "1" : "0", r.TbTbTb);
+}
+
+bool above_air(std::optional<int> other, const W& r) {
+  const auto air = tenths(r.SnT, r.TTT);
+  return air && other && *other > *air;
+}
+
+bool dew_point_above_air(const W& r) {
+  return above_air(tenths(r.SnTd, r.TdTdTd), r);
+}
+bool wet_bulb_above_air(const W& r) {
+  return above_air(wet_bulb_tenths(r), r);
+}
+
+// Wind waves, swells and the wave recorder alike.
+template <std::string W::*period, std::string W::*height>
+bool no_waves_with_height(const W& r) {
+  return r.*period == "00" && text::is_all_digits(r.*height) && text::leading_int(r.*height) != 0;
+}
+
+// The group of the actual time would go out with two figures for four.
+bool half_an_exact_time(const W& r) {
+  return r.gg.empty() != r.GGExact.empty();
+}
+
+constexpr CrossRule kRules[] = {
+    {id::kSteadyWithAmount, 0, steady_with_amount,
+     [] {
+       return std::vector<Field>{Field::ka, Field::kppp};
+     }},
+    {id::kLowestAboveTotal, id::kCheckLowestCloud, lowest_above_total,
+     [] {
+       return std::vector<Field>{Field::kN, Field::kNh};
+     }},
+    {id::kCloudTypesAllZero, 0, cover_without_types,
+     [] {
+       return std::vector<Field>{Field::kN, Field::kCL, Field::kCM, Field::kCH};
+     }},
+    {id::kNoLowestCloudWithTypes, 0, types_without_amount,
+     [] {
+       return std::vector<Field>{Field::kNh, Field::kCL, Field::kCM};
+     }},
+    {id::kLowestCloudWithoutTypes, 0, amount_without_types,
+     [] {
+       return std::vector<Field>{Field::kNh, Field::kCL, Field::kCM};
+     }},
+    {id::kCalmDirectionWithSpeed, 0, calm_with_speed,
+     [] { return std::vector<Field>{Field::kff}; }},
+    {id::kDirectionWithoutSpeed, 0, direction_without_speed,
+     [] { return std::vector<Field>{Field::kff}; }},
+    {id::kDewPointAboveAir, 0, dew_point_above_air,
+     [] {
+       return std::vector<Field>{Field::kAirTemperature, Field::kDewPoint};
+     }},
+    {id::kWetBulbAboveAir, 0, wet_bulb_above_air,
+     [] {
+       return std::vector<Field>{Field::kDryBulb, Field::kWetBulb};
+     }},
+    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::PwPw, &W::HwHw>,
+     [] {
+       return std::vector<Field>{Field::kPwPw, Field::kHwHw};
+     }},
+    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::Pw1Pw1, &W::Hw1Hw1>,
+     [] {
+       return std::vector<Field>{Field::kPw1Pw1, Field::kHw1Hw1};
+     }},
+    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::Pw2Pw2, &W::Hw2Hw2>,
+     [] {
+       return std::vector<Field>{Field::kPw2Pw2, Field::kHw2Hw2};
+     }},
+    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::PwaPwa, &W::HwaHwa>,
+     [] {
+       return std::vector<Field>{Field::kPwaPwa, Field::kHwaHwa};
+     }},
+    {id::kHalfAnExactTime, 0, half_an_exact_time, [] { return std::vector<Field>{}; }},
+};
+
+}  // namespace
+
+std::span<const CrossRule> cross_rules() {
+  return kRules;
+}
+
+std::vector<const CrossRule*> broken_rules(const Struct_Weather& record) {
+  std::vector<const CrossRule*> broken;
+  for (const CrossRule& rule : kRules) {
+    if (rule.broken(record)) broken.push_back(&rule);
+  }
+  return broken;
+}
+
+const CrossRule* broken_by(Field field, const Struct_Weather& record) {
+  for (const CrossRule& rule : kRules) {
+    const auto raisers = rule.raised_by();
+    if (std::find(raisers.begin(), raisers.end(), field) != raisers.end() && rule.broken(record))
+      return &rule;
+  }
+  return nullptr;
+}
+
+}  // namespace elements

@@ -1,0 +1,87 @@
+#include "elements/form/position_review.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "elements/formulas/ship_movement.h"
+#include "observation/report_file.h"
+#include "observation/report_reader.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/reasons.h"
+
+namespace elements {
+namespace {
+
+namespace id = text::id;
+
+constexpr std::uint64_t kLargestReport = 64U << 10U;
+
+std::string on_one_line(std::string_view text) {
+  std::string line(text);
+  std::erase_if(line, [](char c) { return c == '\r' || c == '\n'; });
+  return line.append("\r\n");
+}
+
+int movement_message(MovementWarning warning) {
+  switch (warning) {
+    case MovementWarning::kLatitude:
+      return id::kLatitudeChangeWarning;
+    case MovementWarning::kLongitude:
+      return id::kLongitudeChangeWarning;
+    case MovementWarning::kNone:
+      break;
+  }
+  return 0;
+}
+
+}  // namespace
+
+std::optional<SignedPosition> signed_position(const Struct_Weather& record) {
+  if (!record.position()) return std::nullopt;
+  constexpr double kMinutes = 60.0;
+  const auto degrees = [](const std::string& whole, const std::string& minutes) {
+    return text::leading_int(whole) + text::leading_int(minutes) / kMinutes;
+  };
+  const bool south = record.Qc == "3" || record.Qc == "5";
+  const bool west = record.Qc == "5" || record.Qc == "7";
+  const double latitude = degrees(record.LaDeg, record.LaMin);
+  const double longitude = degrees(record.LoDeg, record.LoMin);
+  return SignedPosition{south ? -latitude : latitude, west ? -longitude : longitude};
+}
+
+EarlierPosition earlier_position(const Struct_Weather& record, const platform::Files& files,
+                                 const std::string& report_folder) {
+  if (report_folder.empty() || !observation::has_valid_date(record)) return {};
+  const std::string path = observation::earlier_report_path(report_folder, record);
+  const auto report = files.read(path, kLargestReport);
+  if (report.ok()) return {observation::read_report_position(*report.value), path};
+  // A disk that is not in holds no report now, as on a ship that has just begun.
+  const bool none = report.error == platform::FileError::kNotFound ||
+                    report.error == platform::FileError::kMediumMissing;
+  return {std::nullopt, path, none ? platform::FileError::kNone : report.error};
+}
+
+std::string review_position(const Struct_Weather& record, const platform::Files& files,
+                            const std::string& report_folder, const LandTest& is_on_land,
+                            const text::Texts& texts) {
+  const auto here = signed_position(record);
+  if (!here) return {};
+  std::string warnings;
+  if (is_on_land && is_on_land(here->latitude, here->longitude))
+    warnings += on_one_line(texts.get(id::kOnLandQuestion));
+  const auto current = record.position();
+  const auto earlier = earlier_position(record, files, report_folder);
+  if (current && earlier.unreadable != platform::FileError::kNone)
+    warnings +=
+        on_one_line(text::fill(texts.get(id::kEarlierReportUnreadable),
+                               {earlier.report, texts.get(text::reason_of(earlier.unreadable))}));
+  if (current && earlier.position) {
+    if (const int message = movement_message(check_movement(*current, *earlier.position));
+        message != 0)
+      warnings += on_one_line(texts.get(message));
+  }
+  return warnings;
+}
+
+}  // namespace elements

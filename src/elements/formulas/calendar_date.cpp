@@ -1,0 +1,20 @@
+#include "elements/formulas/calendar_date.h"
+
+namespace elements {
+
+int days_in_month(int year, int month) {
+  constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  if (month < 1 || month > 12) return 0;
+  const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+  return kDays[month - 1] + (month == 2 && leap ? 1 : 0);
+}
+
+bool is_calendar_date(int year, int month, int day) {
+  return year >= 1 && year <= 9999 && day >= 1 && day <= days_in_month(year, month);
+}
+
+Years observation_years(int this_year) {
+  return {2000, this_year + 1};
+}
+
+}  // namespace elements

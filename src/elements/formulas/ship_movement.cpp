@@ -1,0 +1,39 @@
+#include "elements/formulas/ship_movement.h"
+
+#include <cstdlib>
+
+namespace elements {
+namespace {
+
+// Limits in tenths of a degree over three hours: 0.7 degrees an hour is 21.
+constexpr int kLimit = 21;
+
+struct Band {
+  int from;
+  int to;
+  int limit;
+};
+constexpr Band kLongitudeBands[] = {
+    {0, 398, kLimit}, {400, 498, 30}, {500, 598, 42}, {600, 698, 60}, {700, 798, 81}};
+
+int signed_latitude(const TenthsPosition& at) {
+  return at.quadrant == 3 || at.quadrant == 5 ? -at.latitude : at.latitude;
+}
+int signed_longitude(const TenthsPosition& at) {
+  return at.quadrant == 5 || at.quadrant == 7 ? -at.longitude : at.longitude;
+}
+
+}  // namespace
+
+MovementWarning check_movement(const TenthsPosition& current,
+                               const TenthsPosition& three_hours_earlier) {
+  const int north = std::abs(signed_latitude(current) - signed_latitude(three_hours_earlier));
+  const int east = std::abs(signed_longitude(current) - signed_longitude(three_hours_earlier));
+  for (const Band& band : kLongitudeBands) {
+    if (current.latitude >= band.from && current.latitude <= band.to && east > band.limit)
+      return MovementWarning::kLongitude;
+  }
+  return north > kLimit ? MovementWarning::kLatitude : MovementWarning::kNone;
+}
+
+}  // namespace elements
