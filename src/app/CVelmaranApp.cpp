@@ -121,9 +121,7 @@ void CVelmaranApp::ask_key_items() {
 }
 
 void CVelmaranApp::show_main_window() {
-  dialogs_.main_window(
-      services_,
-      {ship_, items_, settings_.folders, [this] { save_ship(); }, {}, [this] { keep_folders(); }});
+  dialogs_.main_window(services_, {ship_, items_, settings_.folders, [this] { save_ship(); }});
 }
 
 void CVelmaranApp::keep(const std::function<bool(CIniEx&)>& set) {
@@ -132,22 +130,6 @@ void CVelmaranApp::keep(const std::function<bool(CIniEx&)>& set) {
   if (error == FileError::kNone) error = set(ini) ? ini.save() : FileError::kBadName;
   if (error != FileError::kNone)
     messages_.file_error(text::id::kSettingsNotSaved, places_.live, error);
-}
-
-void CVelmaranApp::keep_folders() {
-  const mainwindow::Folders& folders = settings_.folders;
-  keep([&](CIniEx& ini) {
-    bool kept = true;
-    // An empty folder was never chosen, or was not found at this start: what the file has stays.
-    const auto keep_one = [&](std::string_view key, const std::string& folder) {
-      if (!folder.empty()) kept = ini.set_value(kSection, key, folder) && kept;
-    };
-    keep_one(kReportKey, folders.reports);
-    keep_one(kLogbookKey, folders.logbook);
-    keep_one(kReportCopyKey, folders.report_copies);
-    keep_one(kLogbookCopyKey, folders.logbook_copies);
-    return kept;
-  });
 }
 
 void CVelmaranApp::write_settings() {

@@ -69,7 +69,6 @@ class CVelmaranApp {
   void save_ship();
   /// Sets values in the file and saves it; the officer is told when that fails.
   void keep(const std::function<bool(CIniEx&)>& set);
-  void keep_folders();
 
   text::Texts texts_;
   text::Messages messages_;

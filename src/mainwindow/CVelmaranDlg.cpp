@@ -227,7 +227,6 @@ void CVelmaranDlg::edit_observation_items() {
 
 void CVelmaranDlg::switch_language(text::Language language) {
   services().texts.language = language;
-  if (context_.language_changed) context_.language_changed(language);
   show_menu();
   relabel();
   refresh();

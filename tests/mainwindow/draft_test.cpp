@@ -59,7 +59,7 @@ struct Copy {
   fakes::World world{computer.files};
   ShipFixedData ship;
   KeyObservationItems items;
-  CVelmaranDlg window{world.services, {ship, items, computer.folders, {}, {}, {}}};
+  CVelmaranDlg window{world.services, {ship, items, computer.folders, {}}};
 };
 
 /// What a copy that was killed after these entries left behind.

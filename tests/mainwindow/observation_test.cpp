@@ -373,7 +373,7 @@ struct Play {
   ShipFixedData ship;
   KeyObservationItems items;
   mainwindow::Folders folders;
-  CVelmaranDlg window{services, {ship, items, folders, {}, {}, {}}};
+  CVelmaranDlg window{services, {ship, items, folders, {}}};
 };
 
 TEST(Property, ShownGroupsAreTheEncodersAndNoEntryIsLost) {
