@@ -22,7 +22,7 @@ int line_of(char code) {
 }  // namespace
 
 CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, std::string ppp)
-    : Screen(services, "CPresureTendencyDlg", {id::kTendencyTitle}),
+    : OkCancelHelpDialog(services, "CPresureTendencyDlg", {id::kTendencyTitle}),
       choice(*this, "choice"),
       kind_group(*this, "kind_group", {id::kTendencyKindGroup}),
       kind(*this, "kind"),
@@ -30,9 +30,6 @@ CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, 
       characteristic(*this, "characteristic"),
       amount(*this, "amount", {id::kTendencyAmount}, 6),
       code(*this, "code", {id::kTendencyCode}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       a_(std::move(a)),
       ppp_(std::move(ppp)) {
   kind.item_refs = {

@@ -10,13 +10,10 @@ namespace id = text::id;
 
 CSea_SurfaceTemperatureDlg::CSea_SurfaceTemperatureDlg(ui::Services& services, Values values,
                                                        SeaTemperatureMethod of_ship)
-    : Screen(services, "CSea_SurfaceTemperatureDlg", {id::kSeaTemperatureTitle}),
+    : OkCancelHelpDialog(services, "CSea_SurfaceTemperatureDlg", {id::kSeaTemperatureTitle}),
       temperature(*this, "temperature", {id::kSeaTemperatureField}, 5),
       method(*this, "method", {id::kSeaTemperatureMethod},
              {{id::kSeaIntake}, {id::kSeaBucket}, {id::kSeaHullSensor}, {id::kSeaOther}}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)),
       of_ship_(of_ship) {
   temperature.unit = {id::kSeaTemperatureUnit};
@@ -51,8 +48,7 @@ void CSea_SurfaceTemperatureDlg::on_ok() {
   }
   const auto value = elements::sea_temperature(temperature.content);
   if (!value) {
-    services().messages.error(id::kSeaTemperatureRange);
-    focus(temperature);
+    refuse(temperature, id::kSeaTemperatureRange);
     return;
   }
   const auto figures =

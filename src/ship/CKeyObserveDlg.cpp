@@ -51,12 +51,9 @@ std::deque<ui::Choice> CKeyObserveDlg::choices(ui::Screen& owner) {
 
 CKeyObserveDlg::CKeyObserveDlg(ui::Services& services, std::string path, bool auto_accept,
                                std::optional<KeyObservationItems> in_force)
-    : Screen(services, "CKeyObserveDlg", label(id::kItemsTitle)),
+    : OkCancelHelpDialog(services, "CKeyObserveDlg", label(id::kItemsTitle)),
       prompt(*this, "prompt", label(id::kItemsPrompt)),
       items(choices(*this)),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       path_(std::move(path)),
       auto_accept_(auto_accept),
       in_force_(in_force) {}

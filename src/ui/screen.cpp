@@ -403,6 +403,16 @@ void Screen::focus(Control& control) {
   ++focus_serial_;
 }
 
+bool Screen::refuse(Control& control, int message, std::string_view argument) {
+  if (argument.empty()) {
+    services_.messages.error(message);
+  } else {
+    services_.messages.error_filled(message, {argument});
+  }
+  focus(control);
+  return false;
+}
+
 Control* Screen::neighbour(const Control* from, bool forward) const {
   const std::size_t count = controls_.size();
   if (count == 0) return nullptr;

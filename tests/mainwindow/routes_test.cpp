@@ -385,9 +385,9 @@ TEST(Methods, ChooseTheTemperatureDialogs) {
       if (dialog.element != 5 && dialog.element != 6 && dialog.element != 26) continue;
       bool shown = false;
       ui::Control& label = opened->control(dialog.label);
-      const bool in_use = mainwindow::find_element(dialog.element)
-                              ->use({opened->ship, opened->items, opened->folders, {}}) ==
-                          mainwindow::Use::kInUse;
+      const bool in_use =
+          mainwindow::find_element(dialog.element)
+              ->use({opened->ship, opened->items, opened->folders, {}}) == mainwindow::Use::kInUse;
       if (in_use) {
         opened->world.windows.expect_screen(dialog.class_name, [&](ui::Screen& screen) {
           shown = true;

@@ -79,9 +79,8 @@ struct Opened {
   KeyObservationItems items;
   mainwindow::Folders folders;
   std::vector<std::string> told;  ///< the callbacks that were called
-  CVelmaranDlg window{
-      world.services,
-      {ship, items, folders, [this] { told.emplace_back("fixed data"); }}};
+  CVelmaranDlg window{world.services,
+                      {ship, items, folders, [this] { told.emplace_back("fixed data"); }}};
 };
 
 inline void Opened::menu(std::string_view path) {
