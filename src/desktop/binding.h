@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-#include "ui/screen.h"
+#include "ui/plan.h"
 
 namespace desktop {
 
@@ -66,11 +66,12 @@ class Binding : public QObject {
   /// The labels beside the widget; the window places them. They stay empty until there is a text.
   ClickableLabel* caption_label = nullptr;
   QLabel* unit_label = nullptr;
-  /// True when the widget shows the caption itself (buttons, tick boxes, labels).
-  [[nodiscard]] virtual bool shows_own_caption() const { return false; }
 
  protected:
   virtual void show_state() = 0;
+  /// The room that the control wants now (ui::extent_of), in characters and lines of the widget's
+  /// font, and `besides` pixels beside the characters.
+  void make_room(int besides = 0);
   /// A property of the widget that the style sheet asks for.
   void show_property(const char* name, const QVariant& value);
   [[nodiscard]] ui::Screen& screen() const { return screen_; }
@@ -87,6 +88,7 @@ class Binding : public QObject {
   ui::Screen& screen_;
   ui::Control& control_;
   Hand hand_;
+  ui::Extent room_;  ///< made last
 };
 
 /// The binding for the control's kind, its widget a child of `parent`.
