@@ -9,7 +9,6 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -18,6 +17,8 @@
 #include <QTreeWidget>
 #include <algorithm>
 #include <array>
+
+#include "desktop/picture_label.h"
 
 namespace desktop {
 namespace {
@@ -427,6 +428,46 @@ class LabelBinding : public Binding {
   ClickableLabel* label_;
 };
 
+// A drawing, or the picture of a file; the caption where that is missing.
+class PictureBinding : public Binding {
+ public:
+  PictureBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), label_(new PictureLabel(parent)) {
+    connect(label_, &ClickableLabel::clicked, this, [this](QPointF position) {
+      if (const auto place = label_->point_at(position)) {
+        tell([&] { screen().press_at(control(), *place); });
+      } else if (!label_->text().isEmpty()) {
+        tell([&] { screen().press(control()); });
+      }
+    });
+  }
+  [[nodiscard]] QWidget* widget() const override { return label_; }
+  [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
+  [[nodiscard]] Shown shown() const override { return {file_, {}, {}, -1, false}; }
+
+ protected:
+  void show_state() override {
+    label_->show_drawing(control().drawing);
+    if (const QString wanted = text_of(control().content); wanted != file_ || !looked_) {
+      looked_ = true;
+      file_ = wanted;
+      found_ = label_->show_file(file_);
+    }
+    if (!found_) {
+      const QString wanted = control().drawing == nullptr ? caption() : QString();
+      if (label_->text() != wanted) label_->setText(wanted);
+    }
+    label_->set_clickable(control().on_press || control().on_point);
+    make_room();
+  }
+
+ private:
+  PictureLabel* label_;
+  QString file_;
+  bool looked_ = false;
+  bool found_ = false;
+};
+
 class TreeBinding : public Binding {
  public:
   TreeBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
@@ -530,24 +571,12 @@ using Maker = std::unique_ptr<Binding> (*)(ui::Screen&, ui::Control&, QWidget*, 
 
 // One row per ui::Kind, in its order.
 constexpr std::array<Maker, 12> kMakers = {
-    make<LabelBinding>, make<ReadOnlyBinding>, make<LineBinding>,  make<MemoBinding>,
-    make<ComboBinding>, make<ComboBinding>,    make<ListBinding>,  make<ChoiceBinding>,
-    make<TickBinding>,  make<ButtonBinding>,   make<LabelBinding>, make<TreeBinding>,
+    make<LabelBinding>, make<ReadOnlyBinding>, make<LineBinding>,    make<MemoBinding>,
+    make<ComboBinding>, make<ComboBinding>,    make<ListBinding>,    make<ChoiceBinding>,
+    make<TickBinding>,  make<ButtonBinding>,   make<PictureBinding>, make<TreeBinding>,
 };
 
 }  // namespace
-
-void ClickableLabel::set_clickable(bool on) {
-  if (clickable_ == on) return;
-  clickable_ = on;
-  setCursor(on ? Qt::PointingHandCursor : Qt::ArrowCursor);
-  setProperty("clickable", on);
-}
-
-void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {
-  if (clickable_ && event->button() == Qt::LeftButton && rect().contains(event->pos()))
-    Q_EMIT clicked();
-}
 
 Binding::Binding(ui::Screen& screen, ui::Control& control, Hand hand)
     : screen_(screen), control_(control), hand_(std::move(hand)) {}

@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+#include "desktop/clickable_label.h"
 #include "ui/plan.h"
 
 namespace desktop {
@@ -17,25 +18,6 @@ namespace desktop {
 /// How a binding tells its window what the person did: the window hands the event to the screen and
 /// then shows everything.
 using Hand = std::function<void(const std::function<void()>& event)>;
-
-/// A label that can be clicked; used for captions, group titles and pictures that open something.
-class ClickableLabel : public QLabel {
-  Q_OBJECT
- public:
-  explicit ClickableLabel(QWidget* parent = nullptr) : QLabel(parent) {
-    setTextFormat(Qt::PlainText);
-  }
-  void set_clickable(bool on);
-
- Q_SIGNALS:
-  void clicked();
-
- protected:
-  void mouseReleaseEvent(QMouseEvent* event) override;
-
- private:
-  bool clickable_ = false;
-};
 
 class Binding : public QObject {
   Q_OBJECT

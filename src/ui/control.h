@@ -3,11 +3,13 @@
 // did.
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "text/texts.h"
+#include "ui/drawing.h"
 
 namespace ui {
 
@@ -24,7 +26,7 @@ enum class Kind {
   kChoice,    ///< one of several (radio buttons); the items are their texts
   kTick,      ///< tick box
   kButton,
-  kPicture,  ///< clickable when on_press is set
+  kPicture,  ///< a file's picture or a drawing; clickable when on_press or on_point is set
   kTree,
 };
 
@@ -73,7 +75,9 @@ class Control {
   std::vector<std::string> item_codes;  ///< choice only: the code shown in front of each line
   std::vector<bool> item_marked;        ///< lines of a list or drop-down set apart; empty: none
   std::vector<TreeRow> rows;            ///< tree only
-  int selected = -1;                    ///< line of a drop-down, list, choice or tree
+  /// Picture only: what is drawn, instead of a file. Another drawing is another object.
+  std::shared_ptr<const Drawing> drawing;
+  int selected = -1;  ///< line of a drop-down, list, choice or tree
   bool checked = false;
   bool enabled = true;
   bool visible = true;
@@ -93,6 +97,9 @@ class Control {
   std::function<void()> on_change;
   /// Button pressed, label or picture clicked, tree or list line double-clicked.
   std::function<void()> on_press;
+  /// Picture clicked at a place: in the coordinates of its drawing; those of a file's picture go
+  /// from 0 to 1, from the left and from the bottom.
+  std::function<void(Point)> on_point;
   /// Before the focus enters.
   std::function<void()> on_enter;
   /// Tree: a row is about to be opened; insert its children behind it.

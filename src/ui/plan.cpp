@@ -222,8 +222,10 @@ Extent extent_of(const Control& control) {
     case Kind::kChoice:
     case Kind::kTick:
     case Kind::kButton:
-    case Kind::kPicture:
       break;
+    case Kind::kPicture:
+      if (control.drawing == nullptr) break;
+      return {control.drawing->characters, 0, control.drawing->lines, false};
   }
   return {};
 }

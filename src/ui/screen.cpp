@@ -175,6 +175,19 @@ void Screen::press(Control& control) {
   press_inside(control);
 }
 
+void Screen::press_at(Control& picture, Point place) {
+  const Handling handling(*this);
+  if (!handling || !picture.enabled || !picture.visible || picture.kind != Kind::kPicture) return;
+  static const Drawing kFile;  // has the coordinates of a file's picture
+  if (!is_inside(picture.drawing == nullptr ? kFile : *picture.drawing, place)) return;
+  if (!leave_focused(picture)) return;
+  if (picture.on_point) {
+    picture.on_point(place);
+  } else {
+    press_inside(picture);
+  }
+}
+
 void Screen::press_inside(Control& button) {
   if (button.role == Role::kOk && !check_skipped_fields()) return;
   if (button.on_press) {

@@ -62,6 +62,9 @@ class Screen {
   /// moves first (labels and pictures do not take it, but the field that has it is checked), so
   /// that a refused field keeps it and nothing is pressed.
   void press(Control& control);
+  /// Clicked a picture at a place (Control::on_point); without a handler for places it is pressed.
+  /// A place outside the picture is none.
+  void press_at(Control& picture, Point place);
   /// Moves the focus. False when the field that has it refused to let go.
   bool move_focus(Control& to);
   /// The arrows, Home and End choose a line where the focused control has lines (ui/line_keys.h).

@@ -108,9 +108,9 @@ INSTANTIATE_TEST_SUITE_P(
     Desktop, EveryPlanDrawn,
     testing::Combine(testing::Range(std::size_t{0}, fakes::all_screens().size()),
                      testing::Values(text::Language::kEnglish, text::Language::kJapanese)),
-    [](const auto& info) {
-      const bool english = std::get<1>(info.param) == text::Language::kEnglish;
-      return std::string(fakes::all_screens()[std::get<0>(info.param)].class_name) +
+    [](const auto& row) {
+      const bool english = std::get<1>(row.param) == text::Language::kEnglish;
+      return std::string(fakes::all_screens()[std::get<0>(row.param)].class_name) +
              (english ? "_en" : "_ja");
     });
 
