@@ -3,7 +3,7 @@
 
   run_sessions.py --cli KAVREL_CLI FOLDER [NAME...]    plays the sessions (all when none is named)
   run_sessions.py --script FOLDER NAME...              prints scripts as the program is given them
-  run_sessions.py --orphans FOLDER                     fails on files that belong to no session
+  run_sessions.py --orphans FOLDER                     fails on files that belong to no session, and on scripts written twice
 
 Sessions lie in the folders below FOLDER, and no two bear one name: "NAME" means the same as "SUBFOLDER/NAME". NAME.session is
 a script, NAME.transcript what it must print, byte for byte. Each session runs in a room of its own: a new root, a new program
@@ -255,14 +255,25 @@ def check(cli, folder, play):
     return reasons
 
 
+def commands_of(base):
+    """What a script does and on which files, whatever its language and comments: scripts that agree are one."""
+    with open(base + ".session", encoding="utf-8") as file:
+        lines = [line.strip() for line in file]
+    options = {key: value for key, value in read_options(base + ".session").items() if not key.startswith("locale")}
+    return repr((options, [line for line in lines if line and not line.startswith("#")]))
+
+
 def orphans(folder):
-    """Files that belong to no session, sessions without a transcript or outside the folders, and unused sample files."""
-    used, known, reasons = {"program"}, {"README.md"}, []
+    """Files that belong to no session, sessions without a transcript or outside the folders, scripts that repeat another, and
+    unused sample files."""
+    used, known, reasons, done = {"program"}, {"README.md"}, [], {}
     for base in scripts_of(folder).values():
         script = os.path.relpath(base + ".session", folder)
         known.add(script)
         if os.path.dirname(script) == "":
             reasons.append(f"{script} lies in no folder")
+        if (first := done.setdefault(commands_of(base), script)) != script:
+            reasons.append(f"{script} does what {first} does: play one in both languages")
         for play in plays_of(base):
             script_of(play)
             used.update(play.options["root-files"] + play.options["program-files"])

@@ -139,6 +139,18 @@ class Sessions(unittest.TestCase):
         self.write("a/two.ja.actual", "")
         self.assertEqual(self.run_it("--orphans"), (0, ""))
 
+    def test_a_script_that_repeats_another_in_its_language_is_found(self):
+        self.session("# locale: en\n# root-files: program\n# Saved.\nstart\nset N 5\n", "")
+        for script in ("# root-files: program\n# locale: ja\n# 保存。\n\nstart\n# Typed.\nset N 5\n",
+                       "# locales: en ja\n# root-files: program\nstart\nset N 5\n"):
+            with self.subTest(script=script):
+                self.session(script, "", "b/twin")
+                self.assert_fails("b/twin.session does what a/one.session does", "--orphans")
+        for script in ("# locale: ja\n# root-files: program\nstart\nset N 6\n", "# locale: ja\nstart\nset N 5\n"):
+            with self.subTest(script=script):
+                self.session(script, "", "b/twin")
+                self.assertEqual(self.run_it("--orphans"), (0, ""))
+
     def test_one_script_is_played_in_each_of_its_languages(self):
         self.in_two_languages()
         for name in ("two", "a/two"):
