@@ -5,6 +5,7 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/dialog_checks.h"
 #include "elements/relative_humidity.h"
+#include "fakes/sample_ship.h"
 #include "text/ids.h"
 
 namespace {
@@ -17,16 +18,10 @@ constexpr int kNotIcedLine = 0;
 constexpr int kIcedLine = 1;
 constexpr int kUnknownLine = 2;
 
-BarometerCard fixed_card() {
-  BarometerCard card;
-  card.type = CardType::kTotalCorrection;
-  return card;
-}
-
 struct Psychrometer {
   Psychrometer(const char* dry, const char* wet, WetBulbState state = WetBulbState::kNotSet,
                text::Language language = text::Language::kEnglish)
-      : screen(world.services, {dry, wet, state, "1013.2", fixed_card()}) {
+      : screen(world.services, {dry, wet, state, "1013.2", fakes::total_card()}) {
     world.texts.language = language;
     screen.open();
   }
