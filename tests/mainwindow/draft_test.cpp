@@ -48,6 +48,12 @@ struct Copy {
     ASSERT_TRUE(fakes::enter(window, *window.find(name), text)) << name;
     window.key(ui::Key::kTab);
   }
+  /// What a save asks for before all else.
+  void type_hour() {
+    for (const auto& [name, text] :
+         {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
+      type(name, text);
+  }
   [[nodiscard]] std::string state() {
     std::string result = fakes::dump(window) + window.title() + "\n" + window.report() + "\n";
     for (const auto& [name, value] : window.record_fields()) result += name + "=" + value + "\n";
@@ -95,9 +101,7 @@ TEST(KeptEntries, AreWrittenWhileAMessageOrADialogIsOpenOverTheWindow) {
   Computer computer;
   Copy copy(computer);
   copy.start();
-  for (const auto& [name, text] :
-       {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
-    copy.type(name, text);
+  copy.type_hour();
   ASSERT_TRUE(fakes::enter(copy.window, *copy.window.find("VV"), "97"));
   copy.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& list) {
     copy.window.idle();
@@ -124,13 +128,8 @@ TEST(KeptEntries, OfTheNextStartAreOfferedAndTakenOver) {
   {
     Copy copy(computer);
     copy.start();
-    for (const auto& [name, text] : {std::pair{"Year", "2014"},
-                                     {"Month", "11"},
-                                     {"YY", "15"},
-                                     {"GG", "12"},
-                                     {"reading", "1010.8"},
-                                     {"N", "5"},
-                                     {"VV", "97"}})
+    copy.type_hour();
+    for (const auto& [name, text] : {std::pair{"reading", "1010.8"}, {"N", "5"}, {"VV", "97"}})
       copy.type(name, text);
     copy.window.choose(*copy.window.find("north_south"), 1);
     copy.window.idle();
@@ -234,9 +233,7 @@ TEST(KeptEntries, GoWhenTheObservationIsSavedOrGivenUp) {
   Computer computer;
   Copy copy(computer);
   copy.start();
-  for (const auto& [name, text] :
-       {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
-    copy.type(name, text);
+  copy.type_hour();
   copy.window.idle();
   copy.world.windows.expect(id::kAskSaveOnExit, "yes");
   copy.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& list) {
@@ -500,9 +497,7 @@ TEST(KeptEntries, OfASaveThatTheStartHasFinishedAreNotOfferedAgain) {
   {
     Copy killed(computer);
     killed.start();
-    for (const auto& [name, text] :
-         {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
-      killed.type(name, text);
+    killed.type_hour();
     killed.window.idle();
   }
   computer.folders.finished_report = "14111512.tlx";

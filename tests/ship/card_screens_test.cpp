@@ -18,13 +18,8 @@ namespace id = text::id;
 using fakes::dump;
 using fakes::enter;
 using ship_test::card_one;
+using ship_test::press;
 using text::Language;
-
-void press(ui::Screen& screen, const std::string& name) {
-  ui::Control* const control = screen.find(name);
-  ASSERT_NE(control, nullptr) << name;
-  screen.press(*control);
-}
 
 // The officer in the card type screen.
 std::function<void(ui::Screen&)> selects_type(int line) {

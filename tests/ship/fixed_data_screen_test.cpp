@@ -17,6 +17,7 @@ namespace {
 namespace id = text::id;
 using fakes::dump;
 using fakes::enter;
+using ship_test::press;
 using ship_test::valid_ship;
 using text::Language;
 
@@ -32,12 +33,6 @@ struct Bench {
     files.add_file(kPath, encode_fixed_data(data, world.clock.local_time, world.code_page));
   }
 };
-
-void press(ui::Screen& screen, const std::string& name) {
-  ui::Control* const control = screen.find(name);
-  ASSERT_NE(control, nullptr) << name;
-  screen.press(*control);
-}
 
 // ---- Start
 

@@ -1,7 +1,12 @@
 #pragma once
-// What the tests of this room write into the ship's file and screens.
+// What the tests of this room write into the ship's file and screens, and what they press there.
+
+#include <gtest/gtest.h>
+
+#include <string>
 
 #include "fakes/sample_ship.h"
+#include "ui/screen.h"
 
 namespace ship_test {
 
@@ -25,6 +30,13 @@ namespace ship_test {
   ship.aws_fitted = true;
   ship.aws_manufacturer = "AWS CO.";
   return ship;
+}
+
+/// Fails the test when there is no such control.
+inline void press(ui::Screen& screen, const std::string& name) {
+  ui::Control* const control = screen.find(name);
+  ASSERT_NE(control, nullptr) << name;
+  screen.press(*control);
 }
 
 }  // namespace ship_test
