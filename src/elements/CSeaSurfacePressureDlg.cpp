@@ -138,7 +138,7 @@ void CSeaSurfacePressureDlg::recalculate() {
   sea_level_pressure.content = text::format_fixed(read.value + correction.value, 1);
 }
 
-bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, int message) {
+bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, text::Id message) {
   if (!field.content.empty() && !text::is_all_digits(field.content)) {
     services().messages.error(message);
     return false;

@@ -66,7 +66,7 @@ class CSeaSurfacePressureDlg : public ui::OkCancelHelpDialog {
   void time_choice_changed();
   void renew_card();
   void recalculate();
-  bool check_digits(const ui::Control& field, int message);
+  bool check_digits(const ui::Control& field, text::Id message);
   bool check_time(ui::Control& field, int largest);
   bool validate();
 

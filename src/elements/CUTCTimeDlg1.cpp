@@ -44,14 +44,14 @@ void CUTCTimeDlg1::on_open() {
   month_.open(or_clock(values_.Month, now.month));
   day_.open(or_clock(values_.YY, now.day));
   hour_.open(or_clock(values_.GG, now.hour));
-  if (hour_fault() != 0) focus(hour);
+  if (hour_fault()) focus(hour);
 }
 
 // The clock's hour is only an offer: a report belongs to a main or intermediate synoptic hour.
-int CUTCTimeDlg1::hour_fault() const {
-  if (text::trim(hour.content).empty()) return 0;
+text::Id CUTCTimeDlg1::hour_fault() const {
+  if (text::trim(hour.content).empty()) return {};
   if (!hour_.number()) return id::kInvalidHour;
-  return *hour_.number() % kHoursBetweenReports == 0 ? 0 : id::kNotSynopticHour;
+  return *hour_.number() % kHoursBetweenReports == 0 ? text::Id() : id::kNotSynopticHour;
 }
 
 bool CUTCTimeDlg1::complete() {
@@ -62,8 +62,8 @@ bool CUTCTimeDlg1::complete() {
   if (!day_.number() ||
       !elements::is_calendar_date(*year_.number(), *month_.number(), *day_.number()))
     return refuse(day, id::kInvalidDay);
-  const int fault = hour_fault();
-  return fault == 0 || refuse(hour, fault);
+  const text::Id fault = hour_fault();
+  return !fault || refuse(hour, fault);
 }
 
 void CUTCTimeDlg1::on_ok() {

@@ -38,7 +38,7 @@ class CUTCTimeDlg1 : public ui::OkCancelHelpDialog {
   /// True when every part is there and the date exists; else the first fault was told.
   bool complete();
   /// Text id of the message that refuses the hour shown, 0 when OK takes it.
-  [[nodiscard]] int hour_fault() const;
+  [[nodiscard]] text::Id hour_fault() const;
 
   Values values_;
   elements::Years years_;

@@ -15,9 +15,9 @@ namespace {
 
 struct ModeRow {
   std::string_view key;
-  int title;
-  int prompt;
-  int current;
+  text::Id title;
+  text::Id prompt;
+  text::Id current;
   bool is_copy;
 };
 
@@ -93,7 +93,7 @@ void CLogDiskSavePathDlg::create() {
 
 void CLogDiskSavePathDlg::on_ok() {
   std::string folder = archive::with_backslash(directory_.folder());
-  if (const int message = refusal(folder); message != 0) {
+  if (const text::Id message = refusal(folder); message) {
     refuse(tree, message);
     return;
   }
@@ -112,12 +112,12 @@ void CLogDiskSavePathDlg::on_ok() {
   close(text::kOk);
 }
 
-int CLogDiskSavePathDlg::refusal(const std::string& folder) const {
+text::Id CLogDiskSavePathDlg::refusal(const std::string& folder) const {
   if (folder.empty()) return id::kNoFolderChosen;
   if (row_of(mode_).is_copy && is_source(folder)) return id::kChooseAnotherFolder;
   // The settings file takes what follows a ";" for a comment, so the name would come back cut.
   if (folder.find(';') != std::string::npos) return id::kBadFolderName;
-  return 0;
+  return {};
 }
 
 bool CLogDiskSavePathDlg::is_source(const std::string& folder) const {

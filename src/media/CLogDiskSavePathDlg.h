@@ -47,7 +47,7 @@ class CLogDiskSavePathDlg : public ui::OkCancelDialog {
   void drive_chosen();
   void create();
   /// Message that refuses the folder, 0 when it is taken.
-  [[nodiscard]] int refusal(const std::string& folder) const;
+  [[nodiscard]] text::Id refusal(const std::string& folder) const;
   [[nodiscard]] bool is_source(const std::string& folder) const;
   [[nodiscard]] bool is_on_removable_drive(const std::string& folder) const;
 

@@ -192,7 +192,7 @@ void CFixDataDlg::show_card() {
   const BarometerCard& shown = draft_.card;
   const bool one = shown.type == CardType::kHeightAndTemperature;
   const bool two = shown.type == CardType::kTotalCorrection;
-  card_type.set(services().texts.get(one ? id::kCardTypeOne : two ? id::kCardTypeTwo : 0));
+  card_type.set(services().texts.get(one ? id::kCardTypeOne : two ? id::kCardTypeTwo : text::Id()));
   barometer_check_date.set(shown.check_date);
   barometer_check_port.set(shown.check_port);
   total_correction.set(shown.total_correction);

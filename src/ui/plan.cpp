@@ -51,7 +51,7 @@ class Planner {
     PlanNode node = bare(control);
     if (!shows_own_caption(control.kind) && !screen_.english_caption(control).empty())
       node.caption = captions;
-    node.has_unit = control.unit.id != 0;
+    node.has_unit = control.unit.id.number != 0;
     node.room_behind_unit = node.has_unit && (above || node.caption == CaptionPlace::kColumn);
     return node;
   }

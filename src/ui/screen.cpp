@@ -416,7 +416,7 @@ void Screen::focus(Control& control) {
   ++focus_serial_;
 }
 
-bool Screen::refuse(Control& control, int message, std::string_view argument) {
+bool Screen::refuse(Control& control, text::Id message, std::string_view argument) {
   if (argument.empty()) {
     services_.messages.error(message);
   } else {

@@ -117,7 +117,7 @@ class Screen {
   /// Refuses what a control holds: the message, then the focus on the control. Always false. Where
   /// the text of the table has a place for it, `argument` is filled in. A check that refuses the
   /// field being left (Control::on_leave) only shows its message: the focus stays by itself.
-  bool refuse(Control& control, int message, std::string_view argument = {});
+  bool refuse(Control& control, text::Id message, std::string_view argument = {});
   /// The control after (or before) this one in tab order that can have the focus; the same one when
   /// there is no other.
   [[nodiscard]] Control* neighbour(const Control* from, bool forward) const;

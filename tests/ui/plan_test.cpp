@@ -207,7 +207,7 @@ TEST_P(EveryPlan, ShowsEachControlOnceWithAllThatBelongsToIt) {
     ++shown[node.name];
     const ui::Control* const control = screen->find(node.name);
     ASSERT_NE(control, nullptr) << node.name;
-    EXPECT_EQ(node.has_unit, control->unit.id != 0) << node.name;
+    EXPECT_EQ(node.has_unit, control->unit.id.number != 0) << node.name;
     if (node.caption == CaptionPlace::kNone) return;
     EXPECT_FALSE(ui::shows_own_caption(control->kind)) << node.name;
     EXPECT_NE(screen->caption(*control), "") << node.name;
