@@ -91,8 +91,8 @@ void CVelmaranApp::check_folder(WorkingFolder which) {
 bool CVelmaranApp::may_be_used(const std::string& folder, FileError why) {
   const std::string question =
       text::fill(texts_.get(text::id::kAskUseFolder), {folder, texts_.get(text::reason_of(why))});
-  return messages_.question(question, {}, text::QuestionMode::kYesNo, text::id::kAskUseFolder) ==
-         text::kYes;
+  return messages_.question(question, {}, ui::QuestionMode::kYesNo, text::id::kAskUseFolder) ==
+         ui::kYes;
 }
 
 void CVelmaranApp::ask_fixed_data() {

@@ -9,8 +9,8 @@
 #include "app/dialogs.h"
 #include "platform/ports.h"
 #include "text/help.h"
-#include "text/messages.h"
 #include "text/texts.h"
+#include "ui/messages.h"
 #include "ui/services.h"
 
 namespace app {
@@ -23,7 +23,7 @@ struct Ports {
   platform::Files& files;
   platform::CodePage& code_page;
   platform::Printer& printer;
-  platform::Windows& windows;
+  ui::Windows& windows;
   platform::HelpViewer& help;
 };
 
@@ -71,7 +71,7 @@ class CVelmaranApp {
   void keep(const std::function<bool(CIniEx&)>& set);
 
   text::Texts texts_;
-  text::Messages messages_;
+  ui::Messages messages_;
   text::HelpLauncher help_;
   ui::Services services_;
   Dialogs dialogs_;

@@ -42,5 +42,5 @@ void CCreateDir::on_ok() {
     return;
   }
   path_ = std::move(path);
-  close(text::kOk);
+  close(ui::kOk);
 }

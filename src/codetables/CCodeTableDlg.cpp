@@ -41,5 +41,5 @@ void CCodeTableDlg::on_open() {
 
 void CCodeTableDlg::on_ok() {
   if (choice.selected >= 0) code_ = table_.rows[static_cast<std::size_t>(choice.selected)].code;
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -398,7 +398,7 @@ class ButtonBinding : public Binding {
  protected:
   void show_state() override {
     if (button_->text() != caption()) button_->setText(caption());
-    button_->setDefault(control().role == ui::Role::kOk);
+    button_->setDefault(control().role == ui::Role::kAccept);
   }
 
  private:

@@ -102,5 +102,5 @@ void CCountDewDlg::on_ok() {
   values_.dry = dry.text();
   values_.wet = wet.text();
   values_.state = chosen_state();
-  close(text::kOk);
+  close(ui::kOk);
 }

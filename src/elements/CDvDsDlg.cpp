@@ -71,5 +71,5 @@ void CDvDsDlg::on_open() {
 void CDvDsDlg::on_ok() {
   take(kTable0700, course, values_.Ds);
   take(kTable4451, speed, values_.Vs);
-  close(text::kOk);
+  close(ui::kOk);
 }

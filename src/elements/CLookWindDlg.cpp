@@ -121,5 +121,5 @@ void CLookWindDlg::on_ok() {
     return;
   }
   values_ = entered();
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -125,11 +125,11 @@ bool CPositionDlg::is_on_land() const {
 void CPositionDlg::on_ok() {
   if (!complete()) return;
   if (is_on_land() &&
-      services().messages.question(id::kOnLandQuestion, text::QuestionMode::kYesNo) != text::kYes) {
+      services().messages.question(id::kOnLandQuestion, ui::QuestionMode::kYesNo) != ui::kYes) {
     focus(latitude_degrees);
     return;
   }
   values_ = {la_deg_.figures(), la_min_.figures(), lo_deg_.figures(), lo_min_.figures(),
              quadrant_of(latitude_side.selected, longitude_side.selected)};
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -112,8 +112,8 @@ bool CPresureTendencyDlg::check_amount(const std::string& characteristic_code,
   }
   const std::string stored = elements::tendency_stored(typed);
   if (stored == confirmed_) return true;
-  if (services().messages.question(id::kTendencyAmountQuestion, text::QuestionMode::kYesNo) !=
-      text::kYes)
+  if (services().messages.question(id::kTendencyAmountQuestion, ui::QuestionMode::kYesNo) !=
+      ui::kYes)
     return false;
   confirmed_ = stored;
   return true;
@@ -128,5 +128,5 @@ void CPresureTendencyDlg::on_ok() {
   }
   a_ = new_a;
   ppp_ = elements::tendency_stored(typed);
-  close(text::kOk);
+  close(ui::kOk);
 }

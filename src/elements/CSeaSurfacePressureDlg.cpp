@@ -188,5 +188,5 @@ void CSeaSurfacePressureDlg::on_ok() {
   values_.hour = hour.content;
   values_.minute = minute.content;
   values_.time_choice = far ? TimeChoice::kMoreThan10Minutes : TimeChoice::kUnder10Minutes;
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -43,7 +43,7 @@ void CSea_SurfaceTemperatureDlg::on_ok() {
   if (text::trim(temperature.content).empty()) {
     // Nothing was shown of a temperature that was coded as not observed, and nothing is changed.
     if (!opened_with_.empty()) values_ = {};
-    close(text::kOk);
+    close(ui::kOk);
     return;
   }
   const auto value = elements::sea_temperature(temperature.content);
@@ -54,5 +54,5 @@ void CSea_SurfaceTemperatureDlg::on_ok() {
   const auto figures =
       elements::sea_temperature_figures(*value, static_cast<SeaTemperatureMethod>(method.selected));
   values_ = {figures.Ss, figures.TwTwTw};
-  close(text::kOk);
+  close(ui::kOk);
 }

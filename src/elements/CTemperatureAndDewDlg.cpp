@@ -48,5 +48,5 @@ void CTemperatureAndDewDlg::on_ok() {
     return;
   }
   values_ = {air.text(), dew.text()};
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -46,5 +46,5 @@ void CThumidityDlg::on_ok() {
     return;
   }
   humidity_ = text::trim(value.content);
-  close(text::kOk);
+  close(ui::kOk);
 }

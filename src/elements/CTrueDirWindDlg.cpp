@@ -107,5 +107,5 @@ void CTrueDirWindDlg::on_ok() {
   }
   direction_ = elements::true_wind_direction(text::trim(direction_field.content));
   speed_ = text::trim(speed_field.content);
-  close(text::kOk);
+  close(ui::kOk);
 }

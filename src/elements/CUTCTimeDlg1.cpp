@@ -69,5 +69,5 @@ bool CUTCTimeDlg1::complete() {
 void CUTCTimeDlg1::on_ok() {
   if (!complete()) return;
   values_ = {year_.figures(), month_.figures(), day_.figures(), hour_.figures()};
-  close(text::kOk);
+  close(ui::kOk);
 }

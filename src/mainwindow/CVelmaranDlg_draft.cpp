@@ -79,8 +79,8 @@ void CVelmaranDlg::offer_drafts() {
 bool CVelmaranDlg::wants(const Struct_Weather& record) {
   const std::string question =
       text::fill(services().texts.get(id::kDraftFound), {when(record, services().texts)});
-  return services().messages.question(question, {}, text::QuestionMode::kYesNo, id::kDraftFound) ==
-         text::kYes;
+  return services().messages.question(question, {}, ui::QuestionMode::kYesNo, id::kDraftFound) ==
+         ui::kYes;
 }
 
 // Ship and items are read at each start; they may not be those that the draft was made with.

@@ -84,7 +84,7 @@ void CLogDiskSavePathDlg::create() {
     return;
   }
   CCreateDir dialog(services(), parent);
-  if (services().windows.run_modal(dialog) != text::kOk) return;
+  if (services().windows.run_modal(dialog) != ui::kOk) return;
   directory_.read_again(parent);
   directory_.reveal(dialog.path());
   show_chosen();
@@ -109,7 +109,7 @@ void CLogDiskSavePathDlg::on_ok() {
   }
   folder_ = std::move(folder);
   if (write_) write_(row_of(mode_).key, folder_);
-  close(text::kOk);
+  close(ui::kOk);
 }
 
 text::Id CLogDiskSavePathDlg::refusal(const std::string& folder) const {

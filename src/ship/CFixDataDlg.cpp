@@ -165,7 +165,7 @@ void CFixDataDlg::on_open() {
   draft_ = accepted_;
   show_values();
   if (auto_accept_ && (file_read_ == FileRead::kRead || file_read_ == FileRead::kMissing))
-    close(text::kOk);
+    close(ui::kOk);
 }
 
 void CFixDataDlg::show_values() {
@@ -275,7 +275,7 @@ void CFixDataDlg::apply_vosclim() {
 
 void CFixDataDlg::edit_card() {
   CKataSelectDlg select(services(), draft_.card.type);
-  if (services().windows.run_modal(select) != text::kOk) return;
+  if (services().windows.run_modal(select) != ui::kOk) return;
   BarometerCard copy = draft_.card;
   copy.type = select.type();
   if (!renew_card(services(), copy)) return;
@@ -307,5 +307,5 @@ void CFixDataDlg::on_ok() {
   }
   read_values();
   accepted_ = draft_;
-  close(text::kOk);
+  close(ui::kOk);
 }

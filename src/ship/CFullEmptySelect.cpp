@@ -21,7 +21,7 @@ void CFullEmptySelect::on_ok() {
     refuse(loading_state, id::kLoadingStateMissing);
     return;
   }
-  close(text::kOk);
+  close(ui::kOk);
 }
 
 // The loading state is explained in the topic of the ship fixed data.

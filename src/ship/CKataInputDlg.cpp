@@ -155,7 +155,7 @@ bool CKataInputDlg::refuse_fault(const CardFault& fault) {
 
 void CKataInputDlg::on_change_type() {
   CKataSelectDlg select(services(), draft_.type);
-  if (services().windows.run_modal(select) != text::kOk || select.type() == draft_.type) return;
+  if (services().windows.run_modal(select) != ui::kOk || select.type() == draft_.type) return;
   read_fields();
   change_card_type(draft_, select.type());
   show_card();
@@ -163,7 +163,7 @@ void CKataInputDlg::on_change_type() {
 
 bool CKataInputDlg::ask_loading_state() {
   CFullEmptySelect select(services());
-  if (services().windows.run_modal(select) != text::kOk) return false;
+  if (services().windows.run_modal(select) != ui::kOk) return false;
   draft_.loading_state = select.state();
   loading_state.selected = static_cast<int>(draft_.loading_state);
   return true;
@@ -183,7 +183,7 @@ void CKataInputDlg::on_ok() {
     return;
   }
   accepted_ = draft_;
-  close(text::kOk);
+  close(ui::kOk);
 }
 
 // The card is explained in the topic of the ship fixed data.
@@ -193,7 +193,7 @@ void CKataInputDlg::on_help() {
 
 bool renew_card(ui::Services& services, BarometerCard& card) {
   CKataInputDlg input(services, card);
-  if (services.windows.run_modal(input) != text::kOk) return false;
+  if (services.windows.run_modal(input) != ui::kOk) return false;
   card = input.card();
   return true;
 }

@@ -22,7 +22,7 @@ void CKataSelectDlg::on_ok() {
     refuse(card_type, id::kCardTypeMissing);
     return;
   }
-  close(text::kOk);
+  close(ui::kOk);
 }
 
 // The card is explained in the topic of the ship fixed data.

@@ -69,7 +69,7 @@ void CKeyObserveDlg::on_open() {
   for (std::size_t i = 0; i < kObservationItems; ++i)
     items[i].selected = accepted_.not_observed[i] ? 1 : 0;
   if (auto_accept_ && (file_read_ == FileRead::kRead || file_read_ == FileRead::kMissing))
-    close(text::kOk);
+    close(ui::kOk);
 }
 
 void CKeyObserveDlg::on_ok() {
@@ -78,5 +78,5 @@ void CKeyObserveDlg::on_ok() {
   if (const auto error = save_key_items(services().files, path_, accepted_);
       error != platform::FileError::kNone)
     services().messages.file_error(id::kFileNotSaved, path_, error);
-  close(text::kOk);
+  close(ui::kOk);
 }

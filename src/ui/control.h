@@ -43,8 +43,8 @@ struct TreeRow {
   bool marked = false;  ///< set apart (remote and CD-ROM drives)
 };
 
-/// What a button is for; the shared behaviours follow from it.
-enum class Role { kNone, kOk, kCancel, kHelp };
+/// What a button is for (OK, Cancel, Help); the shared behaviours follow from it.
+enum class Role { kNone, kAccept, kDismiss, kHelp };
 
 /// State of one control. Screens declare the kinds below as members, in reading order.
 class Control {

@@ -189,16 +189,16 @@ void Screen::press_at(Control& picture, Point place) {
 }
 
 void Screen::press_inside(Control& button) {
-  if (button.role == Role::kOk && !check_skipped_fields()) return;
+  if (button.role == Role::kAccept && !check_skipped_fields()) return;
   if (button.on_press) {
     button.on_press();
     return;
   }
   switch (button.role) {
-    case Role::kOk:
+    case Role::kAccept:
       on_ok();
       break;
-    case Role::kCancel:
+    case Role::kDismiss:
       on_cancel();
       break;
     case Role::kHelp:
@@ -232,7 +232,7 @@ bool Screen::move_focus_inside(Control& to) {
 bool Screen::leave_focused(const Control& to) {
   Control* const from = focused_;
   if (from == nullptr || from == &to) return true;
-  if (to.role == Role::kCancel || to.role == Role::kHelp) {
+  if (to.role == Role::kDismiss || to.role == Role::kHelp) {
     from->unchecked = true;
     return true;
   }
@@ -306,7 +306,7 @@ void Screen::key(Key key) {
   Control* target = focused_;
   if (target == nullptr || target->kind != Kind::kButton) {
     const auto ok = std::find_if(controls_.begin(), controls_.end(), [](const Control* c) {
-      return c->role == Role::kOk && c->can_focus();
+      return c->role == Role::kAccept && c->can_focus();
     });
     if (ok == controls_.end()) return;
     target = *ok;

@@ -2,6 +2,16 @@
 // A screen is a list of controls with handlers. A front end tells it what the person did through
 // the functions under "What the person did" and after each copies the controls' state to its
 // widgets: one event in, one refresh out.
+//
+// The whole contract of the program with its front ends stands in this room:
+//   windows.h    what the program asks a front end to do: show a message, run a screen
+//   screen.h     what a front end tells a screen, and what it reads of it
+//   control.h    the values that it shows, one kind of widget for each kind of control
+//   plan.h       where everything stands and how much room it has
+//   drawing.h    what is drawn in a picture, and which point was clicked
+//   menu.h       the menu bar
+//   line_keys.h  which keys choose a line: handed to Screen::key and Screen::find_line
+//   dump.h       a screen as a text; what a front end shows, read back, gives the same text
 
 #include <exception>
 #include <optional>
@@ -95,9 +105,9 @@ class Screen {
   virtual void on_open() {}
   /// The OK button (and Enter), once every field that was changed or left without its check has
   /// passed it. The default closes with kOk.
-  virtual void on_ok() { close(text::kOk); }
+  virtual void on_ok() { close(ui::kOk); }
   /// The Cancel button, Escape and the close box. The default closes with kCancel.
-  virtual void on_cancel() { close(text::kCancel); }
+  virtual void on_cancel() { close(ui::kCancel); }
   /// F1. The default opens the help topic.
   virtual void on_f1(Control* focused);
   /// Returns true when Enter or Escape was dealt with; the default is false: OK and Cancel follow.

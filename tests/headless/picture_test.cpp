@@ -37,7 +37,7 @@ test_form::Played play(std::string_view script) {
   const auto status =
       headless::run_session(source, transcript, error, [](const headless::Doors& doors) {
         fakes::World world;
-        text::Messages messages(world.texts, doors.windows);
+        ui::Messages messages(world.texts, doors.windows);
         text::HelpLauncher help(world.texts, doors.help, "C:\\program");
         ui::Services services{world.clock,     world.locale,  world.drives,  world.no_files,
                               world.code_page, doors.printer, doors.windows, world.texts,

@@ -59,13 +59,13 @@ TEST(ClosingButtons, CloseTheDialogByTheirRole) {
   With<ui::OkCancelHelpDialog> kept(world.services);
   kept.open();
   kept.press(kept.ok);
-  EXPECT_EQ(kept.result(), text::kOk);
+  EXPECT_EQ(kept.result(), ui::kOk);
   With<ui::OkCancelHelpDialog> left(world.services);
   left.open();
   left.press(left.help);
   EXPECT_FALSE(left.result());
   left.press(left.cancel);
-  EXPECT_EQ(left.result(), text::kCancel);
+  EXPECT_EQ(left.result(), ui::kCancel);
 }
 
 TEST(Refusal, ShowsItsMessageThenGivesTheFocusWithAllSelected) {

@@ -149,8 +149,8 @@ TEST_P(EveryScreen, ClosesWithTheButtonsThatAllScreensShare) {
     ui::Role role;
     text::Ref caption;
   };
-  static const Row kRows[] = {{"ok", ui::Role::kOk, {text::id::kOkLabel}},
-                              {"cancel", ui::Role::kCancel, {text::id::kCancelLabel}},
+  static const Row kRows[] = {{"ok", ui::Role::kAccept, {text::id::kOkLabel}},
+                              {"cancel", ui::Role::kDismiss, {text::id::kCancelLabel}},
                               {"help", ui::Role::kHelp, {text::id::kHelpLabel}}};
   in(text::Language::kEnglish);
   const auto role_before = [](const ui::Control* a, const ui::Control* b) {
