@@ -38,7 +38,7 @@ CMessageBox1::CMessageBox1(std::string text, std::string yes, std::string no, st
            {{or_default(std::move(yes), "&YES"), "yes", kYes},
             {or_default(std::move(no), "&NO"), "no", kNo}},
            kNo,
-           0} {}
+           {}} {}
 
 CMessageBox2::CMessageBox2(std::string text, std::string yes, std::string no, std::string cancel,
                            std::string title)
@@ -48,7 +48,7 @@ CMessageBox2::CMessageBox2(std::string text, std::string yes, std::string no, st
             {std::move(no), "no", kNo},
             {std::move(cancel), "cancel", kCancel}},
            kCancel,
-           0} {}
+           {}} {}
 
 CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, std::string title)
     : box_{or_default(std::move(title), kTitle3),
@@ -56,7 +56,7 @@ CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, st
            {{or_default(std::move(no), "&NO"), "no", kNo},
             {or_default(std::move(yes), "&YES"), "yes", kYes}},
            kNo,
-           0} {}
+           {}} {}
 
 void Messages::error(text::Id id, std::string_view literal) {
   if (quiet) return;
