@@ -138,5 +138,4 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   bool command_in_progress_ = false;
   bool exiting_ = false;
   bool saved_once_ = false;
-  bool not_kept_told_ = false;  ///< the officer knows that the entries cannot be kept
 };

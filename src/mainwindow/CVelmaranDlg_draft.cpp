@@ -51,14 +51,22 @@ void CVelmaranDlg::on_idle(bool undisturbed) {
     keeper_.drop({});
     return;
   }
+  const bool kept = keeper_.keep(draft());
   // Nobody who is typing is told; the news comes with the entry.
-  if (keeper_.keep(draft()) || not_kept_told_ || !undisturbed || typing_) return;
-  not_kept_told_ = true;
-  services().messages.error_filled(id::kDraftNotKept, {keeper_.own_path()});
+  if (!undisturbed || typing_) return;
+  if (kept && !keeper_.locked())
+    services().messages.error_filled_once(id::kDraftWithoutLock, {keeper_.own_path()});
+  if (!kept) services().messages.error_filled_once(id::kDraftNotKept, {keeper_.own_path()});
 }
 
 void CVelmaranDlg::offer_drafts() {
   while (const auto left = keeper_.next_left()) {
+    if (left->error != platform::FileError::kNone) {
+      services().messages.file_error(id::kDraftUnreadable, left->path, left->error);
+      continue;
+    }
+    // Told before the question, for it may be the draft of another copy that is still running.
+    if (!left->locked) services().messages.error_filled_once(id::kDraftWithoutLock, {left->path});
     const elements::DraftRead read = elements::decode_draft(left->text);
     if (read.fault != DraftFault::kNone || read.draft.call_sign != context_.ship.call_sign) {
       put_unusable_aside(left->path, read);

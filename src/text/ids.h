@@ -666,5 +666,7 @@ inline constexpr int kDraftOtherShip = 42590;
 inline constexpr int kDraftAside = 42591;
 inline constexpr int kDraftStays = 42592;
 inline constexpr int kDraftNotKept = 42593;
+inline constexpr int kDraftUnreadable = 42630;
+inline constexpr int kDraftWithoutLock = 42631;
 
 }  // namespace text::id

@@ -10,6 +10,7 @@
 
 #include "elements/field_editors.h"
 #include "mainwindow/draft_keeper.h"
+#include "text/reasons.h"
 #include "window.h"
 
 namespace {
@@ -420,7 +421,10 @@ TEST(KeptEntries, ThatCannotBeKeptAreToldOfOnce) {
       [](Computer& c) { c.files.set_free_space('C', 100); },
       [](Computer& c) { c.files.set_read_only("C:\\kavrel\\file"); },
       [](Computer& c) { c.folders.drafts = "C:\\nowhere"; },
-      [](Computer& c) { c.files.add_folder(kDraft); },
+      [](Computer& c) {
+        for (char number = '1'; number <= '9'; ++number)
+          c.files.add_folder(std::string("C:\\kavrel\\file\\DRAFT") + number + ".DAT");
+      },
   };
   for (const auto& harm : obstacles) {
     SCOPED_TRACE(&harm - obstacles);
@@ -436,6 +440,115 @@ TEST(KeptEntries, ThatCannotBeKeptAreToldOfOnce) {
     copy.window.idle();
     copy.window.idle();
     EXPECT_EQ(copy.world.windows.boxes.size(), 1U);
+  }
+}
+
+TEST(KeptEntries, PassOverANumberThatIsNoFile) {
+  const std::function<void(Computer&)> in_the_way[] = {
+      [](Computer& c) { c.files.add_folder(kDraft); },
+      [](Computer& c) { c.files.add_other(kDraft); },
+  };
+  for (const auto& put : in_the_way) {
+    SCOPED_TRACE(&put - in_the_way);
+    Computer computer;
+    put(computer);
+    const auto before = computer.files.look(kDraft).there;
+    {
+      Copy copy(computer);
+      copy.start();  // the fake windows fail on any message
+      copy.type("VV", "97");
+      copy.window.idle();
+    }
+    EXPECT_EQ(computer.files.look(kDraft).there, before);
+    EXPECT_EQ(computer.files.look(kBad).there, platform::There::kNo);
+    Copy next(computer);
+    next.world.windows.expect(id::kDraftFound, "yes");
+    next.start();
+    EXPECT_EQ(next.shown("VV"), "97");
+  }
+}
+
+// What cannot be read now is not damaged: a later start may be able to.
+TEST(KeptEntries, ThatCannotBeReadAreNamedWithTheReasonAndStayForALaterStart) {
+  struct Case {
+    const char* what;
+    std::function<void(Computer&)> harm;
+    FileError reason;
+  };
+  constexpr const char* kClaim = "C:\\kavrel\\file\\DRAFT1.LCK";
+  const Case cases[] = {
+      {"read", [](Computer& c) { c.files.fail_path(kDraft, FileError::kOther); },
+       FileError::kOther},
+      {"rights", [](Computer& c) { c.files.fail_path(kDraft, FileError::kAccessDenied); },
+       FileError::kAccessDenied},
+      {"look", [](Computer& c) { c.files.fail_look(kDraft, FileError::kBadLink); },
+       FileError::kBadLink},
+      {"claim", [](Computer& c) { c.files.fail_path(kClaim, FileError::kAccessDenied); },
+       FileError::kAccessDenied},
+  };
+  for (const Case& c : cases) {
+    for (const bool japanese : {false, true}) {
+      SCOPED_TRACE(c.what);
+      Computer computer;
+      leave_behind(computer);
+      const auto draft = computer.files.content(kDraft);
+      c.harm(computer);
+      {
+        Copy next(computer);
+        if (japanese) next.world.japanese();
+        next.world.windows.expect(id::kDraftUnreadable);
+        next.start();
+        const std::string& text = next.world.windows.boxes.at(0).text;
+        EXPECT_NE(text.find(kDraft), std::string::npos) << text;
+        EXPECT_NE(text.find(next.world.texts.get(text::reason_of(c.reason))), std::string::npos)
+            << text;
+        EXPECT_EQ(next.shown("YY"), "");
+        next.type("VV", "97");
+        next.window.idle();
+        next.window.idle();
+      }
+      computer.files.heal();
+      EXPECT_EQ(computer.files.content(kDraft), draft) << "neither renamed nor written over";
+      EXPECT_EQ(computer.files.content(kBad), std::nullopt);
+      EXPECT_NE(computer.files.content(kSecond).value_or("").find("record.VV=97\n"),
+                std::string::npos);
+      Copy later(computer);
+      later.world.windows.expect(id::kDraftFound, "yes");
+      later.start();
+      EXPECT_EQ(later.shown("reading"), "1010.8");
+    }
+  }
+}
+
+TEST(KeptEntries, OnADriveWithoutLocksAreKeptAndOffered) {
+  for (const bool japanese : {false, true}) {
+    Computer computer;
+    computer.files.set_lockless();
+    {
+      Copy copy(computer);
+      if (japanese) copy.world.japanese();
+      copy.start();
+      copy.type("VV", "97");
+      copy.world.windows.expect(id::kDraftWithoutLock);
+      copy.window.idle();
+      EXPECT_NE(copy.world.windows.boxes.at(0).text.find(kDraft), std::string::npos);
+      copy.type("N", "5");
+      copy.window.idle();
+      EXPECT_EQ(copy.world.windows.boxes.size(), 1U) << "told once";
+    }
+    EXPECT_NE(computer.files.content(kDraft), std::nullopt);
+    Copy next(computer);
+    if (japanese) next.world.japanese();
+    next.world.windows.expect(id::kDraftWithoutLock);
+    next.world.windows.expect(id::kDraftFound, "yes");
+    next.start();
+    EXPECT_EQ(next.shown("VV"), "97");
+    EXPECT_EQ(next.shown("N"), "5");
+    next.type("VV", "98");
+    next.window.idle();
+    EXPECT_EQ(next.world.windows.boxes.size(), 2U) << "told once";
+    EXPECT_NE(computer.files.content(kDraft).value_or("").find("record.VV=98\n"),
+              std::string::npos);
   }
 }
 
