@@ -50,7 +50,8 @@ void tell_recovery(ui::Services& services, const Folders& folders,
                    const observation::Recovery& recovery);
 
 /// For a start, once the folders are known: finishes or takes back an interrupted save and tells
-/// it. The name of the report whose saving was finished, empty when none was.
+/// it, or why it can be neither now. The name of the report whose saving was finished, empty when
+/// none was.
 std::string recover_save(ui::Services& services, const Folders& folders);
 
 }  // namespace mainwindow

@@ -650,6 +650,9 @@ inline constexpr int kSaveLineWithoutReport = 42506;
 inline constexpr int kSaveNoteDamaged = 42507;
 inline constexpr int kSaveLineLeft = 42508;
 inline constexpr int kLogbookLineClosed = 42509;
+inline constexpr int kSaveNotRecovered = 42635;
+inline constexpr int kSaveUnreachable = 42636;
+inline constexpr int kAskLeaveUnreachable = 42637;
 
 // Entries that outlive the program
 inline constexpr int kDraftFound = 42580;
