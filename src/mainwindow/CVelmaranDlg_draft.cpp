@@ -2,6 +2,10 @@
 // start.
 
 #include "mainwindow/CVelmaranDlg.h"
+
+#include <algorithm>
+
+#include "mainwindow/save_flow.h"
 #include "observation/report_file.h"
 #include "text/ids.h"
 
@@ -70,6 +74,8 @@ void CVelmaranDlg::offer_drafts() {
     const elements::DraftRead read = elements::decode_draft(left->text);
     if (read.fault != DraftFault::kNone || read.draft.call_sign != context_.ship.call_sign) {
       put_unusable_aside(left->path, read);
+    } else if (is_saved(left->path, read.draft)) {
+      keeper_.discard();
     } else if (const Struct_Weather& record = read.draft.form.entries.record;
                observation::report_file_name(record) == context_.folders.finished_report) {
       // Its save was under way when the program ended, and has been finished since.
@@ -91,11 +97,35 @@ bool CVelmaranDlg::wants(const Struct_Weather& record) {
          text::kYes;
 }
 
+bool CVelmaranDlg::is_saved(const std::string& path, const elements::Draft& draft) const {
+  // An entry that was made behind the save may be in neither file: a heading that still lacks its
+  // wind. Its draft is younger than the report.
+  const std::string report =
+      observation::report_path(context_.folders.reports, draft.form.entries.record);
+  const auto saved_at = services().files.modified(report);
+  const auto kept_at = services().files.modified(path);
+  if (!saved_at || !kept_at || *saved_at < *kept_at) return false;
+  // What is not accepted is in no report and no line, and the officer has not let it go.
+  const auto& typed = draft.form.entries.typed;
+  if (!draft.typing_in.empty() || std::find(typed.begin(), typed.end(), true) != typed.end())
+    return false;
+  ui::Services& all = services();
+  elements::ObservationForm form(context_.ship, context_.items, all.texts, all.messages, all.clock);
+  form.messages_suppressed = true;
+  load(form, draft);
+  return mainwindow::is_saved(all,
+                              {form.record(), context_.ship, context_.items, context_.folders, {}});
+}
+
 // Ship and items are read at each start; they may not be those that the draft was made with.
+void CVelmaranDlg::load(elements::ObservationForm& form, const elements::Draft& draft) const {
+  form.load(draft.form);
+  if (draft.ship_mark != elements::ship_mark(context_.ship)) form.ship_changed();
+  form.items_changed();
+}
+
 void CVelmaranDlg::take_over(const elements::Draft& draft) {
-  form_.load(draft.form);
-  if (draft.ship_mark != elements::ship_mark(context_.ship)) form_.ship_changed();
-  form_.items_changed();
+  load(form_, draft);
   refresh();
   ui::Control* const typing_in = find(draft.typing_in);
   if (typing_in == nullptr || !typing_in->can_focus()) return;

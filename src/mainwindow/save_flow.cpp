@@ -220,6 +220,13 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
   return SaveEnd::kNotSaved;
 }
 
+bool is_saved(ui::Services& services, const Saving& saving) {
+  if (!has_date(saving) || saving.folders.reports.empty() || saving.folders.logbook.empty())
+    return false;
+  return observation::is_saved(services.files,
+                               request_of(saving, encode(saving, services.texts.language).message));
+}
+
 void tell_recovery(ui::Services& services, const Folders& folders,
                    const observation::Recovery& recovery) {
   using observation::Recovered;

@@ -45,6 +45,9 @@ struct Saving {
 /// Runs the whole save with its messages and questions.
 SaveEnd save_observation(ui::Services& services, const Saving& saving);
 
+/// True when the report and the logbook hold already what a save would write now.
+[[nodiscard]] bool is_saved(ui::Services& services, const Saving& saving);
+
 /// Tells the officer what became of a save that had been interrupted, if there was one.
 void tell_recovery(ui::Services& services, const Folders& folders,
                    const observation::Recovery& recovery);

@@ -539,6 +539,14 @@ std::uint64_t room_for(const SaveRequest& request) {
   return request.message.size() + journal.appended.size() + write_journal(journal).size();
 }
 
+bool is_saved(const platform::Files& files, const SaveRequest& request) {
+  const auto report = files.read(request.report_path);
+  if (!report.ok() || *report.value != report_file_content(request.message)) return false;
+  const auto log = files.read(request.logbook_path);
+  const std::string line = "\n" + request.logbook_line + std::string(kLineEnd);
+  return log.ok() && ("\n" + *log.value).find(line) != std::string::npos;
+}
+
 SaveResult save(platform::Files& files, const SaveRequest& request) {
   const auto log = files.lock_log(request.logbook_path);
   if (!log.ok()) return {SaveOutcome::kLogbookFailed, log.error, request.logbook_path};

@@ -158,6 +158,10 @@ struct SaveResult {
 /// Bytes that a save may need on one disk: both files' and what it notes beside the logbook.
 [[nodiscard]] std::uint64_t room_for(const SaveRequest& request);
 
+/// True when both files hold already what such a save would write: the report in its place, and the
+/// line as a whole one anywhere in the logbook. False also when one cannot tell.
+[[nodiscard]] bool is_saved(const platform::Files& files, const SaveRequest& request);
+
 /// Writes both files, or neither. kLogbookFailed with kLocked: another program holds the logbook;
 /// with an error of `recovered`: what an interrupted save left is in the way.
 [[nodiscard]] SaveResult save(platform::Files& files, const SaveRequest& request);

@@ -626,6 +626,142 @@ TEST(KeptEntries, OfASaveThatTheStartHasFinishedAreNotOfferedAgain) {
   EXPECT_TRUE(computer.files.content(kOld)) << "put aside, not lost";
 }
 
+// ---- The program ended between the save and the removal of the draft
+
+constexpr const char* kReportFile = "C:\\out\\14111512.tlx";
+constexpr const char* kLogbookFile = "C:\\log\\immt5.log";
+
+/// Saves with whatever is missing, to leave the program.
+void save(Copy& copy, bool told) {
+  copy.world.windows.expect(id::kAskSaveOnExit, "yes");
+  copy.world.windows.expect_screen("CSaveErrorInfoDlg",
+                                   [](ui::Screen& list) { list.press(*list.find("save_as")); });
+  if (told) copy.world.windows.expect(id::kSaved);
+  copy.window.close_box();
+}
+
+/// An observation of 2014-11-15 12 UTC, saved by a copy that was killed before it removed the
+/// draft.
+void kill_behind_the_save(Computer& computer) {
+  int removal = 0;
+  for (const bool kill : {false, true}) {
+    FakeFiles before = computer.files;
+    Copy copy(computer);
+    copy.start();
+    for (const auto& [name, text] : {std::pair{"Year", "2014"},
+                                     {"Month", "11"},
+                                     {"YY", "15"},
+                                     {"GG", "12"},
+                                     {"VV", "97"},
+                                     {"relative_humidity", "53"}})
+      copy.type(name, text);
+    copy.window.idle();
+    if (kill) {
+      computer.files.kill_before(removal);
+      EXPECT_THROW(save(copy, false), FakeFiles::Killed);
+      computer.files.heal();
+      computer.files.restart();
+      return;
+    }
+    const int done = computer.files.operations();
+    save(copy, true);
+    const auto& log = computer.files.log();
+    for (int n = done; n < computer.files.operations(); ++n)
+      if (log[static_cast<std::size_t>(n)] == std::string("remove ") + kDraft)
+        removal = n - done + 1;
+    EXPECT_GT(removal, 0);
+    computer.files = before;
+  }
+}
+
+TEST(SavedEntries, WhoseDraftAKillLeftAreNotOfferedAsUnsaved) {
+  Computer computer;
+  kill_behind_the_save(computer);
+  ASSERT_TRUE(computer.files.content(kReportFile));
+  ASSERT_TRUE(computer.files.content(kDraft));
+  const auto report = computer.files.content(kReportFile);
+  const auto logbook = computer.files.content(kLogbookFile);
+  Copy next(computer);
+  next.start();  // the fake windows fail on any question
+  EXPECT_FALSE(next.window.unsaved());
+  EXPECT_EQ(computer.files.content(kDraft), std::nullopt);
+  EXPECT_EQ(computer.files.content(kOld), std::nullopt);
+  EXPECT_EQ(computer.files.content(kReportFile), report);
+  EXPECT_EQ(computer.files.content(kLogbookFile), logbook);
+  next.type("N", "5");
+  next.window.idle();
+  EXPECT_NE(computer.files.content(kDraft), std::nullopt) << "its number is used again";
+}
+
+TEST(SavedEntries, AreOfferedWhenAnythingOfThemIsNotWrittenAsItWouldBeNow) {
+  // Changes a draft that is taken over again before the copy is killed once more.
+  const auto changed = [](const char* name, const char* text, bool leave) {
+    return [=](Computer& c) {
+      const auto saved = c.files.content(kReportFile);
+      c.files.add_file(kReportFile, "BBXX OTHER");
+      {
+        Copy copy(c);
+        copy.world.windows.expect(id::kDraftFound, "yes");
+        copy.start();
+        ASSERT_TRUE(fakes::enter(copy.window, *copy.window.find(name), text));
+        if (leave) copy.window.key(ui::Key::kTab);
+        copy.window.idle();
+      }
+      c.files.add_file(kReportFile, *saved);
+    };
+  };
+  const struct {
+    const char* what;
+    std::function<void(Computer&)> change;
+  } rows[] = {
+      {"no report", [](Computer& c) { (void)c.files.remove(kReportFile); }},
+      {"another report", [](Computer& c) { c.files.add_file(kReportFile, "BBXX OTHER"); }},
+      {"unreadable report", [](Computer& c) { c.files.fail_path(kReportFile, FileError::kOther); }},
+      {"no logbook", [](Computer& c) { (void)c.files.remove(kLogbookFile); }},
+      {"another line", [](Computer& c) { c.files.add_file(kLogbookFile, "LINE\n"); }},
+      {"a line without its end",
+       [](Computer& c) {
+         std::string log = *c.files.content(kLogbookFile);
+         log.pop_back();
+         c.files.add_file(kLogbookFile, log);
+       }},
+      {"no folder", [](Computer& c) { c.folders.logbook.clear(); }},
+      {"an entry of the report", changed("VV", "98", true)},
+      {"an entry of the logbook alone", changed("relative_humidity", "60", true)},
+      {"an entry that is in neither file yet",
+       [](Computer& c) {
+         c.files.set_modified(kDraft, {2014, 11, 15, 12, 0, 1});
+       }},
+      {"an entry that is being typed", changed("N", "5", false)},
+      {"another ship's data", [](Computer& c) { c.ship.imo_number = "7654321"; }},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    Computer computer;
+    kill_behind_the_save(computer);
+    row.change(computer);
+    Copy next(computer);
+    next.world.windows.expect(id::kDraftFound, "yes");
+    next.start();
+    next.world.windows.verify();
+    EXPECT_TRUE(next.window.unsaved());
+    EXPECT_NE(computer.files.content(kDraft), std::nullopt);
+  }
+}
+
+TEST(SavedEntries, WhoseDraftCannotBeRemovedStayAndStopNothing) {
+  Computer computer;
+  kill_behind_the_save(computer);
+  computer.files.set_read_only(kDraft);
+  const auto draft = computer.files.content(kDraft);
+  Copy next(computer);
+  next.start();
+  next.type("N", "5");
+  next.window.idle();
+  EXPECT_EQ(computer.files.content(kDraft), draft);
+  EXPECT_NE(computer.files.content(kSecond), std::nullopt);
+}
+
 // A text that was changed by hand cannot give the observation another ship.
 TEST(KeptEntries, BearTheCallSignOfTheShip) {
   Computer computer;
