@@ -61,7 +61,7 @@ class Saver {
       std::error_code error;
       if (!*path &&
           std::filesystem::absolute(*given, error).string().find('\\') != std::string::npos)
-        return *given + " cannot be used: a \"\\\" stands in its path";
+        return *given + R"( cannot be used: a "\" stands in its path)";
       const platform::Look found = *path ? files_.look(**path) : platform::Look{};
       if (found.there == platform::There::kCannotTell)
         return *given + " cannot be used: " + std::string(reason_of(found.error));

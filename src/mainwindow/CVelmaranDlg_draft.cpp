@@ -4,6 +4,7 @@
 #include "mainwindow/CVelmaranDlg.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "mainwindow/save_flow.h"
 #include "observation/report_file.h"
@@ -38,6 +39,11 @@ std::string when(const Struct_Weather& record, const text::Texts& texts) {
   }
   if (missing.empty()) return lines;
   return lines.append("\n").append(text::fill(texts.get(id::kDraftMissing), {missing}));
+}
+
+// For comparing, from the year down.
+auto in_order(const platform::DateTime& when) {
+  return std::tie(when.year, when.month, when.day, when.hour, when.minute, when.second);
 }
 
 }  // namespace
@@ -104,7 +110,7 @@ bool CVelmaranDlg::is_saved(const std::string& path, const elements::Draft& draf
       observation::report_path(context_.folders.reports, draft.form.entries.record);
   const auto saved_at = services().files.modified(report);
   const auto kept_at = services().files.modified(path);
-  if (!saved_at || !kept_at || *saved_at < *kept_at) return false;
+  if (!saved_at || !kept_at || in_order(*saved_at) < in_order(*kept_at)) return false;
   // What is not accepted is in no report and no line, and the officer has not let it go.
   const auto& typed = draft.form.entries.typed;
   if (!draft.typing_in.empty() || std::find(typed.begin(), typed.end(), true) != typed.end())
