@@ -115,8 +115,8 @@ bool wants_to_leave(ui::Services& services, const observation::Recovery& recover
       text::fill(texts.get(id::kAskLeaveUnreachable),
                  {recovery.report, std::to_string(recovery.line), recovery.failed,
                   texts.get(text::reason_of(recovery.error))});
-  return services.messages.question(question, {}, text::QuestionMode::kYesNo,
-                                    id::kAskLeaveUnreachable) == text::kYes;
+  return services.messages.question(question, {}, ui::QuestionMode::kYesNo,
+                                    id::kAskLeaveUnreachable) == ui::kYes;
 }
 
 std::optional<observation::SaveResult> given_up(ui::Services& services) {

@@ -505,7 +505,7 @@ TEST(SaveFlow, AnInterruptedSaveWhoseDriveIsAwayIsToldAtTheStartAndAskedAboutBef
     s.world.windows.verify();
     EXPECT_EQ(s.logbook(), "LINE\n" + s.line());
     EXPECT_EQ(s.files.content(kReport), s.message());
-    for (const platform::MessageBox& box : s.world.windows.boxes)
+    for (const ui::MessageBox& box : s.world.windows.boxes)
       if (box.text_id == id::kSaveUnreachable || box.text_id == id::kAskLeaveUnreachable)
         expect_words(box, box.text_id, language, {"14111506.tlx", "1", "E:\\out\\", reason});
   }
