@@ -42,7 +42,7 @@ std::string CVelmaranDlg::draft() const {
   const bool typing = typing_ && focused() != nullptr;
   const bool in_group = typing && field_of(focused()) == nullptr;
   return elements::encode_draft({context_.ship.call_sign, elements::ship_mark(context_.ship),
-                                 form_.state(), typing ? focused()->name : std::string(),
+                                 form_.entries(), typing ? focused()->name : std::string(),
                                  in_group ? focused()->content : std::string()});
 }
 
@@ -62,7 +62,7 @@ void CVelmaranDlg::offer_drafts() {
     const elements::DraftRead read = elements::decode_draft(left->text);
     if (read.fault != DraftFault::kNone || read.draft.call_sign != context_.ship.call_sign) {
       put_unusable_aside(left->path, read);
-    } else if (const Struct_Weather& record = read.draft.form.entries.record;
+    } else if (const Struct_Weather& record = read.draft.form.record;
                observation::report_file_name(record) == context_.folders.finished_report) {
       // Its save was under way when the program ended, and has been finished since.
       static_cast<void>(keeper_.put_aside(DraftKeeper::Why::kNotWanted));

@@ -206,7 +206,7 @@ TEST(MainWindowLanguage, EveryLabelHasATextInBothLanguages) {
   }
   for (int label = 11000; label <= 11073; ++label) {
     EXPECT_TRUE(text::has_entry(label)) << label;
-    EXPECT_TRUE(text::has_entry(label + mainwindow::kLabelsToEnglish)) << label;
+    EXPECT_TRUE(text::has_entry(label + elements::kLabelsToEnglish)) << label;
   }
 }
 
