@@ -94,8 +94,10 @@ void compute_true_wind(Entries& entries, const ShipFixedData& ship) {
   if (ship.wind_input_method != WindInputMethod::kApparentWind) return;
   const auto wind = true_wind_of(entries);
   if (!wind) {
-    clear(entries, Field::kdd);
-    clear(entries, Field::kff);
+    for (const Field field : {Field::kdd, Field::kff}) {
+      clear(entries, field);
+      entries[field].show({});
+    }
     return;
   }
   const auto take = [&](Field field, const std::string& figures) {

@@ -162,9 +162,11 @@ void ObservationForm::put(std::initializer_list<Value> values,
     what = what | row_of(field).follows;
   }
   // The sign of the wet bulb tells its state, so a state alone stores the value anew.
-  if (const std::string wet = entered(Field::kWetBulb);
-      wet_bulb && values.size() == 0 && !wet.empty())
-    store(now_, Field::kWetBulb, wet, around_.ship);
+  if (wet_bulb && fields.empty()) {
+    fields.push_back(Field::kWetBulb);
+    if (const std::string wet = entered(Field::kWetBulb); !wet.empty())
+      store(now_, Field::kWetBulb, wet, around_.ship);
+  }
   finish(before, what, fields);
 }
 

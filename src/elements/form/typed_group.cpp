@@ -95,12 +95,8 @@ std::string figures_of_group(const GroupRow& row, std::string_view typed) {
   return fits ? text : std::string();
 }
 
-// An emptied group: what the ship and the program put there is not emptied with the rest.
-std::string emptied_group(const GroupRow& row, const W& record) {
-  std::string figures(row.indicator);
-  for (const Symbol& symbol : row.used())
-    figures += is_given(symbol.field) ? record.*symbol.field : std::string(symbol.width, '*');
-  return figures;
+std::string emptied_group(const GroupRow& row) {
+  return std::string(row.indicator) + std::string(row.width() - row.indicator.size(), '*');
 }
 
 // A record with the symbols of one group typed over it. Each step answers whether it is accepted;
@@ -162,8 +158,9 @@ class Trial {
   }
 
   Answer empty(Member member) {
-    // A masked second swell direction is no entry.
-    if (member == &W::dw2dw2 && record_.dw2dw2 == "00") return {};
+    // Neither what the ship and the program put there nor a masked second swell direction is an
+    // entry that could be taken away.
+    if (is_given(member) || (member == &W::dw2dw2 && record_.dw2dw2 == "00")) return {};
     const auto field = field_of(member, around_.ship);
     // Solidi that the program put there stay.
     if (field && is_switched_off(row_of(*field), around_.items)) return {};
@@ -329,7 +326,7 @@ TypedGroup type_group(const Struct_Weather& before, const Surroundings& around, 
                       std::string_view typed, Confirmed confirmed) {
   const GroupRow& row = observation::row_of(group);
   const std::string figures =
-      text::trim(typed).empty() ? emptied_group(row, before) : figures_of_group(row, typed);
+      text::trim(typed).empty() ? emptied_group(row) : figures_of_group(row, typed);
   if (figures == observation::group_text(before, group)) return {{}, before, {}};
   if (figures.empty() || !values_are_whole(row, figures))
     return {refused(id::kInputError), before, {}};

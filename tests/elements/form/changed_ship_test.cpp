@@ -76,6 +76,18 @@ TEST(ChangedShip, WavesOfARecorderThatIsNotThereAreNotSent) {
   EXPECT_EQ(f.form->text(Field::kHwaHwa), "2.5");
 }
 
+// A refused direction would stay marked in a field that is locked once the wind is computed.
+TEST(ChangedShip, ARefusedTrueWindGivesWayToTheApparentOne) {
+  Form f;
+  f.world.windows.expect(text::id::kTrueDirectionRange);
+  EXPECT_FALSE(f.enter(Field::kdd, "x"));
+  f.ship.wind_input_method = WindInputMethod::kApparentWind;
+  f.form->ship_changed();
+  ASSERT_TRUE(f.enter(Field::kApparentDirection, "45"));
+  EXPECT_EQ(f.form->text(Field::kdd), "");
+  EXPECT_FALSE(f.form->in_error(Field::kdd));
+}
+
 struct Change {
   const char* name;
   std::function<void(Form&)> change;

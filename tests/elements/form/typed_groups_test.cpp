@@ -193,4 +193,29 @@ TEST(TypedGroup, ASpeedOf99HasItsFiguresOrIsNotKnown) {
   EXPECT_EQ(calm.record().fff, "");
 }
 
+// What the ship and the program put into a group is no entry: asterisks over it take nothing away,
+// and a group that is emptied keeps it, also where it is not there.
+TEST(TypedGroup, KeepsTheIndicatorsOfTheShipUnderAsterisks) {
+  for (const char* const typed : {"1512*", "*****", ""}) {
+    Form f;
+    const std::string iw = f.record().iw;
+    ASSERT_NE(iw, "");
+    ASSERT_TRUE(f.enter(Group::kYYGGiw, "1512" + iw));
+    EXPECT_TRUE(f.enter(Group::kYYGGiw, typed)) << typed;
+    EXPECT_EQ(f.record().iw, iw) << typed;
+  }
+  for (const char* const typed : {"**///", "****97", "**", "*****"}) {
+    Form f;
+    const std::string given = f.record().iR + f.record().iX;
+    if (std::string_view(typed).size() != 5) f.world.windows.expect(id::kInputError);
+    (void)f.enter(Group::kiRiXhVV, typed);
+    EXPECT_EQ(f.record().iR + f.record().iX, given) << typed;
+  }
+  Form bare;
+  bare.form->change([](Struct_Weather& r) { r.iw.clear(); });
+  ASSERT_TRUE(bare.enter(Field::kYY, "15"));
+  EXPECT_TRUE(bare.enter(Group::kYYGGiw, ""));
+  EXPECT_EQ(bare.record().YY, "");
+}
+
 }  // namespace
