@@ -219,14 +219,16 @@ void ObservationForm::items_changed() {
   now_.modified = was_modified;
 }
 
-// An element that is not observed, or that no instrument measures any more, gives its entry up and
-// gets it back.
+// Not observed, or measured by no instrument of this ship.
+bool ObservationForm::is_unused(const FieldRow& row) const {
+  return switched_off(row.field) || (row.needs_wave_recorder && !around_.ship.wave_recorder);
+}
+
+// An unused element gives its entry up and gets it back.
 void ObservationForm::put_unused_aside() {
   for (const FieldRow& row : field_rows()) {
     Entry& entry = now_[row.field];
-    const bool off = switched_off(row.field);
-    const bool unused = off || (row.needs_wave_recorder && !around_.ship.wave_recorder);
-    if (unused == entry.put_aside.has_value()) continue;
+    if (is_unused(row) == entry.put_aside.has_value()) continue;
     // Present and past weather are filled, so that their group says "not observed"; other elements
     // stay empty.
     const bool filled = !row.not_observed.empty();
@@ -239,7 +241,7 @@ void ObservationForm::put_unused_aside() {
     entry.put_aside = entry.entered();
     clear(now_, row.field);
     entry.show({});
-    if (!filled || !off) continue;
+    if (!filled || !switched_off(row.field)) continue;
     entry.text = row.not_observed;
     store(now_, row.field, entry.text, around_.ship);
   }
@@ -249,6 +251,27 @@ void ObservationForm::load(const Entries& entries) {
   now_ = entries;
   now_.record.CallSign = around_.ship.call_sign;
   now_.record.ShipFixed = around_.ship.imo_number;
+}
+
+void ObservationForm::load_record(const Struct_Weather& record) {
+  const ShipFixedData& ship = around_.ship;
+  Entries loaded;
+  loaded.record = record;
+  loaded.dew_point_method = ship.dew_point_method;
+  loaded.sea_temperature_method = ship.sea_temperature_method;
+  loaded.north_south = north_south_of(record.Qc);
+  loaded.east_west = east_west_of(record.Qc);
+  if (record.Sw == "2") loaded.wet_bulb = WetBulbState::kIced;
+  for (const FieldRow& row : field_rows()) {
+    Entry& entry = loaded[row.field];
+    entry.text = shown(row, record, ship);
+    // What this ship does not observe any more was observed then: it stays until it is switched on
+    // again, and then it comes back as any entry put aside.
+    if (is_unused(row)) entry.put_aside = entry.text;
+  }
+  // A dew point beside its bulbs is theirs, and does not outlive them.
+  if (record.has_wet_bulb()) loaded.dew_point_of_bulbs = record.SnTd + record.TdTdTd;
+  now_ = std::move(loaded);
 }
 
 Doubts ObservationForm::take_doubts() {

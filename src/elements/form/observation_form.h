@@ -9,6 +9,7 @@
 //   put, change           values and figures that a dialog has checked
 //   ..._changed           ship, barometer card or observation items are others now
 //   entries, load         all that it holds, to be kept and to be taken over
+//   load_record           an observation that was sent, to be corrected
 //   a field's text        what it shows; entered: the last one that was accepted
 
 #include <functional>
@@ -118,6 +119,11 @@ class ObservationForm {
   /// IMO number are the ship's. What the ship or its items have changed since is ship_changed()'s
   /// and items_changed()'s to follow.
   void load(const Entries& entries);
+  /// Takes a whole record over, as it was sent: every field shows what it holds, nothing is
+  /// computed over it or put aside, and it counts as saved. A record has no barometer reading and
+  /// no apparent wind; what is entered from then on is computed without them until they are entered
+  /// too.
+  void load_record(const Struct_Weather& record);
   void saved() { now_.modified = false; }
   /// What came up since the last call.
   [[nodiscard]] Doubts take_doubts();
@@ -125,6 +131,7 @@ class ObservationForm {
  private:
   void store_put(Field field, std::string_view text);
   void finish(const Struct_Weather& before, Follows what, const std::vector<Field>& but = {});
+  [[nodiscard]] bool is_unused(const FieldRow& row) const;
   void put_unused_aside();
 
   Surroundings around_;
