@@ -21,7 +21,7 @@ using elements::label_ref;
 /// switched off; a caption also moves the focus on to the field behind its own.
 struct LabelRow {
   std::string_view name;
-  int label = 0;
+  text::Id label;
   std::optional<elements::Field> of = {};  ///< none: it opens nothing
   bool caption = false;
 
@@ -46,7 +46,7 @@ enum class FieldKind : std::uint8_t {
 /// A control of the form: an entry field, or what is chosen beside one.
 struct FieldRow {
   std::string_view name;
-  int label = 0;  ///< main label, 0 for none
+  text::Id label = {};  ///< main label, or none
   Element element = kNoElement;
   FieldKind kind = FieldKind::kEdit;
   const elements::FieldRow* field = nullptr;  ///< of an edit

@@ -70,8 +70,7 @@ class Composer {
   }
 
   void note(const GroupRow& row) {
-    if (row.missing_label != 0 && is_incomplete(record_, row.group))
-      report_.missing.insert(row.group);
+    if (row.missing_label && is_incomplete(record_, row.group)) report_.missing.insert(row.group);
   }
 
   // The text of a group for a decision; it is built at the end of the message and taken off again,

@@ -6,14 +6,17 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <utility>
+
+#include "text/id.h"
 
 namespace elements {
 
 /// A text of the table with what stands in its places.
 struct Notice {
-  int message = 0;                      ///< text id; 0: nothing is said
+  text::Id message = {};                ///< none: nothing is said
   std::array<std::string, 2> bounds{};  ///< for the places of the message, where it has some
-  int below = 0;                        ///< text id of a second line, 0 for none
+  text::Id below = {};                  ///< a second line, or none
 
   bool operator==(const Notice&) const = default;
 };
@@ -33,7 +36,7 @@ struct Answer {
 [[nodiscard]] inline Answer refused(Notice notice) {
   return {Answer::Kind::kRefused, std::move(notice)};
 }
-[[nodiscard]] inline Answer refused(int message) {
+[[nodiscard]] inline Answer refused(text::Id message) {
   return refused(Notice{message});
 }
 

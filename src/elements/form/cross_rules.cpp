@@ -92,18 +92,18 @@ bool half_an_exact_time(const W& r) {
 }
 
 constexpr CrossRule kRules[] = {
-    {id::kSteadyWithAmount, 0, steady_with_amount, {Field::ka, Field::kppp}},
+    {id::kSteadyWithAmount, {}, steady_with_amount, {Field::ka, Field::kppp}},
     {id::kLowestAboveTotal, id::kCheckLowestCloud, lowest_above_total, {Field::kN, Field::kNh}},
     {id::kCloudTypesAllZero,
      0,
      cover_without_types,
      {Field::kN, Field::kCL, Field::kCM, Field::kCH}},
-    {id::kNoLowestCloudWithTypes, 0, types_without_amount, {Field::kNh, Field::kCL, Field::kCM}},
-    {id::kLowestCloudWithoutTypes, 0, amount_without_types, {Field::kNh, Field::kCL, Field::kCM}},
-    {id::kCalmDirectionWithSpeed, 0, calm_with_speed, {Field::kff}},
-    {id::kDirectionWithoutSpeed, 0, direction_without_speed, {Field::kff}},
-    {id::kDewPointAboveAir, 0, dew_point_above_air, {Field::kAirTemperature, Field::kDewPoint}},
-    {id::kWetBulbAboveAir, 0, wet_bulb_above_air, {Field::kDryBulb, Field::kWetBulb}},
+    {id::kNoLowestCloudWithTypes, {}, types_without_amount, {Field::kNh, Field::kCL, Field::kCM}},
+    {id::kLowestCloudWithoutTypes, {}, amount_without_types, {Field::kNh, Field::kCL, Field::kCM}},
+    {id::kCalmDirectionWithSpeed, {}, calm_with_speed, {Field::kff}},
+    {id::kDirectionWithoutSpeed, {}, direction_without_speed, {Field::kff}},
+    {id::kDewPointAboveAir, {}, dew_point_above_air, {Field::kAirTemperature, Field::kDewPoint}},
+    {id::kWetBulbAboveAir, {}, wet_bulb_above_air, {Field::kDryBulb, Field::kWetBulb}},
     {id::kPeriodNeedsHeight,
      0,
      no_waves_with_height<&W::PwPw, &W::HwHw>,
@@ -120,7 +120,7 @@ constexpr CrossRule kRules[] = {
      0,
      no_waves_with_height<&W::PwaPwa, &W::HwaHwa>,
      {Field::kPwaPwa, Field::kHwaHwa}},
-    {id::kHalfAnExactTime, 0, half_an_exact_time, {}},
+    {id::kHalfAnExactTime, {}, half_an_exact_time, {}},
 };
 
 }  // namespace

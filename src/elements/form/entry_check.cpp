@@ -116,9 +116,9 @@ CheckedEntry check_entry(const Entries& entries, const Surroundings& around, Fie
   if (field == Field::kppp) checked.text = tendency_amount_text(checked.text);
   if (Answer answer = check_rules(entries, around, field, checked.text); !answer.accepted())
     return {std::move(answer), {}};
-  std::vector<int> questions;
+  std::vector<text::Id> questions;
   if (checked.verdict == Verdict::kAsks) questions.push_back(editor.question);
-  if (const int question = question_about(field, checked.text, record); question != 0)
+  if (const text::Id question = question_about(field, checked.text, record); question)
     questions.push_back(question);
   return {asked(questions, confirmed), checked.text};
 }
@@ -136,7 +136,7 @@ std::optional<Bounds> bounds_of(Field field, const Struct_Weather& record,
 Notice range_notice(Field field, const Struct_Weather& record, const platform::Clock& clock) {
   const Editor& editor = row_of(field).editor;
   // Where a field has no message, its check text says what it accepts.
-  Notice notice{editor.message != 0 ? editor.message : editor.check_text};
+  Notice notice{editor.message ? editor.message : editor.check_text};
   if (editor.shows_check) notice.below = editor.check_text;
   const auto bounds = bounds_of(field, record, clock);
   if (!bounds) return notice;
@@ -150,17 +150,18 @@ Notice range_notice(Field field, const Struct_Weather& record, const platform::C
   return notice;
 }
 
-Answer asked(const std::vector<int>& questions, Confirmed confirmed) {
+Answer asked(const std::vector<text::Id>& questions, Confirmed confirmed) {
   if (questions.size() <= static_cast<std::size_t>(confirmed)) return {};
   return {Answer::Kind::kAsks, {questions[static_cast<std::size_t>(confirmed)]}};
 }
 
-int question_about(Field field, const std::string& value, const Struct_Weather& record) {
+text::Id question_about(Field field, const std::string& value, const Struct_Weather& record) {
   if (field == Field::kppp)
-    return check_tendency("/", value) == TendencyCheck::kAsks ? id::kTendencyAmountQuestion : 0;
+    return check_tendency("/", value) == TendencyCheck::kAsks ? id::kTendencyAmountQuestion
+                                                              : text::Id();
   const bool far = (field == Field::kGGExact && is_far_from_hour(record.GG, value, record.gg)) ||
                    (field == Field::kgg && is_far_from_hour(record.GG, record.GGExact, value));
-  return far ? id::kExactTimeQuestion : 0;
+  return far ? id::kExactTimeQuestion : text::Id();
 }
 
 CheckedEntry check_pressure(std::string_view typed) {

@@ -30,10 +30,10 @@ struct CheckedEntry {
 [[nodiscard]] Notice range_notice(Field field, const Struct_Weather& record,
                                   const platform::Clock& clock);
 /// The first question that is not confirmed yet; accepted when all are.
-[[nodiscard]] Answer asked(const std::vector<int>& questions, Confirmed confirmed);
-/// The question that relates an accepted value to the record, 0 for none.
-[[nodiscard]] int question_about(Field field, const std::string& value,
-                                 const Struct_Weather& record);
+[[nodiscard]] Answer asked(const std::vector<text::Id>& questions, Confirmed confirmed);
+/// The question that relates an accepted value to the record, or none.
+[[nodiscard]] text::Id question_about(Field field, const std::string& value,
+                                      const Struct_Weather& record);
 /// A pressure at sea level: hPa, or the figures PPPP. The value is as the field is to show it; the
 /// answer may be a question.
 [[nodiscard]] CheckedEntry check_pressure(std::string_view typed);

@@ -32,14 +32,14 @@ Checked check_figures(const Editor& editor, std::string_view text, Bounds bounds
   if (!text::is_all_digits(text) || text.size() > longest) return {};
   const int value = text::leading_int(text);
   if (value < bounds.low || value > bounds.high) return {};
-  const bool asks = editor.question != 0 && value >= editor.asks_from;
+  const bool asks = editor.question && value >= editor.asks_from;
   return {asks ? Verdict::kAsks : Verdict::kAccepted, filled(text, editor.width)};
 }
 
 Checked check_number(const Editor& editor, std::string_view text, Bounds bounds) {
   const auto value = text::strict_number(text);
   if (!value || *value < bounds.low || *value > bounds.high) return {};
-  const bool asks = editor.question != 0 && *value > editor.asks_from;
+  const bool asks = editor.question && *value > editor.asks_from;
   std::string shown = text::format_fixed(*value, kDecimals);
   // Minus zero is zero, also where it only comes of the rounding.
   if (text::leading_number(shown) == 0.0) shown = text::format_fixed(0.0, kDecimals);

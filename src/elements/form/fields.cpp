@@ -685,7 +685,7 @@ static_assert(all_rows([](const FieldRow& row) {
               }),
               "a sign or a large speed stands in a member of its own");
 static_assert(all_rows([](const FieldRow& row) {
-                return row.editor.message != 0 || row.editor.check_text != 0;
+                return row.editor.message || row.editor.check_text;
               }),
               "a refusal says something");
 static_assert(all_rows([](const FieldRow& row) {

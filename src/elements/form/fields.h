@@ -14,6 +14,7 @@
 #include "elements/form/element_numbers.h"
 #include "observation/Struct_Weather.h"
 #include "ship/data/KeyObservationItems.h"
+#include "text/id.h"
 #include "text/texts.h"
 
 namespace elements {
@@ -82,8 +83,8 @@ inline constexpr std::size_t kFields = static_cast<std::size_t>(Field::kzi) + 1;
 
 /// Main labels: the English text stands this much behind the Japanese one.
 inline constexpr int kLabelsToEnglish = 74;
-[[nodiscard]] constexpr text::Ref label_ref(int id) {
-  return {id, id == 0 ? 0 : kLabelsToEnglish};
+[[nodiscard]] constexpr text::Ref label_ref(text::Id id) {
+  return {id, id ? kLabelsToEnglish : 0};
 }
 
 /// How the record holds what a field shows; field_codes.h converts.
@@ -130,10 +131,10 @@ struct Editor {
   double high = 0;
   std::string_view also = {};  ///< further accepted texts, separated by a blank: "99 //"
   std::size_t width = 0;       ///< figures are filled with zeros to this width; 0 leaves them
-  int message = 0;             ///< text id of the refusal; 0 shows the check text
-  int check_text = 0;          ///< text id, 0 for none
-  double asks_from = 0;        ///< a value from here up (above, for a number) asks …
-  int question = 0;            ///< … this question; 0 never asks
+  text::Id message = {};       ///< of the refusal; none shows the check text
+  text::Id check_text = {};
+  double asks_from = 0;    ///< a value from here up (above, for a number) asks …
+  text::Id question = {};  ///< … this question; none never asks
   /// The refusal shows the check text below the message: the message's range is wider than what is
   /// accepted.
   bool shows_check = false;
@@ -144,7 +145,7 @@ struct FieldRow {
   std::string_view name = {};  ///< of its control, in scripts and drafts ("YY", "reading")
 
   // On the form.
-  int label = 0;  ///< main label, 0 for none
+  text::Id label = {};  ///< main label, or none
   text::Ref unit = {};
   int max_length = 0;
   Element element = kNoElement;  ///< the dialog that F1 opens

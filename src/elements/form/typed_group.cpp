@@ -30,7 +30,7 @@ constexpr std::string_view kIceWord = "ICE ";
 struct SignRow {
   Member member;
   std::string_view allowed;
-  int message;
+  text::Id message;
 };
 constexpr SignRow kSigns[] = {
     {&W::SnT, "01", id::kSignRange},   {&W::SnTd, "01", id::kSignRange},
@@ -297,12 +297,13 @@ class Trial {
   }
 
   [[nodiscard]] Answer ask(Confirmed confirmed) const {
-    std::vector<int> questions = questions_;
+    std::vector<text::Id> questions = questions_;
     for (const Field field : changed_) {
       const FieldRow& row = row_of(field);
       if (row.member == nullptr || (record_.*row.member).empty()) continue;
-      if (const int question = question_about(field, shown_from_record(field, record_), record_);
-          question != 0)
+      if (const text::Id question =
+              question_about(field, shown_from_record(field, record_), record_);
+          question)
         questions.push_back(question);
     }
     return asked(questions, confirmed);
@@ -317,7 +318,7 @@ class Trial {
   const Surroundings& around_;
   const GroupRow& row_;
   std::vector<Field> changed_;
-  std::vector<int> questions_;
+  std::vector<text::Id> questions_;
 };
 
 }  // namespace

@@ -17,14 +17,14 @@ using W = Struct_Weather;
 TEST(Fields, HaveTextsInBothLanguages) {
   for (const FieldRow& row : elements::field_rows()) {
     for (const text::Language language : {text::Language::kEnglish, text::Language::kJapanese}) {
-      if (row.label != 0) {
+      if (row.label) {
         EXPECT_NE(text::resolve(elements::label_ref(row.label), language), "") << row.name;
       }
-      if (row.unit.id != 0) {
+      if (row.unit.id) {
         EXPECT_NE(text::resolve(row.unit, language), "") << row.name;
       }
-      for (const int id : {row.editor.message, row.editor.check_text, row.editor.question}) {
-        if (id != 0) {
+      for (const text::Id id : {row.editor.message, row.editor.check_text, row.editor.question}) {
+        if (id) {
           EXPECT_NE(text::bilingual(id, language), "") << row.name;
         }
       }

@@ -12,16 +12,12 @@ using elements::Field;
 using elements::WetBulbState;
 using observation::Group;
 
-// A ship with a psychrometer and a card of type "1".
+// A ship with a psychrometer and a card of type "1", on which only the height in ballast counts.
 struct Form : form_test::Form {
   Form() {
-    ship = {};
     ship.card.type = CardType::kHeightAndTemperature;
     ship.card.loading_state = LoadingState::kFullLoad;
     ship.card.height_ballast = "200";
-    ship.dew_point_method = DewPointMethod::kComputed;
-    ship.humidity_method = HumidityMethod::kComputed;
-    ship.humidity_unit = 1.0;
     rebuild();
   }
   std::string dew_point() const { return record().SnTd + record().TdTdTd; }
@@ -159,7 +155,7 @@ TEST(TendencyAmount, OfMinusZeroIsZero) {
 TEST(Reading, RefusesAsksAndTakesByThePressureAtSeaLevel) {
   struct Row {
     const char* reading;
-    int message;  // 0: taken silently
+    text::Id message;  // 0: taken silently
     const char* pppp;
   };
   for (const Row& row :
@@ -178,7 +174,7 @@ TEST(Reading, RefusesAsksAndTakesByThePressureAtSeaLevel) {
       EXPECT_EQ(no.record().PPPP, "");
     }
     Form f;
-    if (row.message != 0) f.world.windows.expect(row.message, asks ? "yes" : "ok");
+    if (row.message) f.world.windows.expect(row.message, asks ? "yes" : "ok");
     EXPECT_EQ(f.enter(Field::kReading, row.reading), *row.pppp != '\0');
     EXPECT_EQ(f.record().PPPP, row.pppp);
     Form quiet;
