@@ -39,7 +39,7 @@ std::vector<Notice> ObservationForm::remarks() const {
     const bool wrong = row.field == Field::kYY ? now_[row.field].wrong : in_error(row.field);
     if (!wrong) continue;
     Notice notice = range_notice(row.field, record(), around_.clock);
-    notice.below = 0;  // the list has one line for each
+    notice.below = {};  // the list has one line for each
     notices.push_back(std::move(notice));
   }
   const ShipFixedData& ship = around_.ship;

@@ -109,8 +109,9 @@ class Trial {
   [[nodiscard]] Answer take(std::string_view figures, Confirmed confirmed) {
     std::size_t place = row_.indicator.size();
     for (const Symbol& symbol : row_.used()) {
-      const Answer answer = take_symbol(symbol, figures.substr(place, symbol.width));
-      if (!answer.accepted()) return answer;
+      if (Answer answer = take_symbol(symbol, figures.substr(place, symbol.width));
+          !answer.accepted())
+        return answer;
       place += symbol.width;
     }
     take_minus_from_zero();
