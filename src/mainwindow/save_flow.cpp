@@ -215,7 +215,7 @@ bool is_saved(ui::Services& services, const Saving& saving) {
   if (!has_date(saving) || saving.folders.reports.empty() || saving.folders.logbook.empty())
     return false;
   return observation::is_saved(services.files,
-                               request_of(saving, encode(saving, services.texts.language).message));
+                               request_of(saving, report_of(saving).text));
 }
 
 void tell_recovery(ui::Services& services, const Folders& folders,
