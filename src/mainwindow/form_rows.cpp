@@ -54,8 +54,8 @@ struct ChoiceRow {
   FieldRow row;
 };
 constexpr ChoiceRow kChoices[] = {
-    {Field::kLaMin, {"north_south", 0, kPosition, FieldKind::kNorthSouth}},
-    {Field::kLoMin, {"east_west", 0, kPosition, FieldKind::kEastWest}},
+    {Field::kLaMin, {"north_south", {}, kPosition, FieldKind::kNorthSouth}},
+    {Field::kLoMin, {"east_west", {}, kPosition, FieldKind::kEastWest}},
     {Field::kVs, {"loading_state", id::kLabelLoadingState, kPressure, FieldKind::kLoadingState}},
     {Field::kWetBulb, {"freeze", id::kLabelFreeze, kPsychrometer, FieldKind::kFreeze}},
 };
