@@ -80,7 +80,7 @@ void products_of(benchmark::State& state, const Struct_Weather& record) {
 /// each column of the logbook, one for each part of the missing list.
 std::vector<std::string> pieces_of_report(const Struct_Weather& record) {
   std::vector<std::string> pieces{"BBXX ", record.call_sign_for_report(), " "};
-  for (const auto group : observation::groups_in_report(record, true)) {
+  for (const auto group : observation::make_report(record, true).written.in_order()) {
     const auto& row = observation::row_of(group);
     std::string_view rest;
     std::string text = observation::group_text(record, group);

@@ -13,19 +13,6 @@
 
 namespace {
 
-class NoWindows : public ui::Windows {
- public:
-  int show_message(const ui::MessageBox& box) override { return box.close_result; }
-  int run_modal(ui::Screen& /*screen*/) override { return 0; }
-  void show_notice(ui::Screen& /*screen*/) override {}
-  void hide_notice(ui::Screen& /*screen*/) override {}
-  void pause(int /*milliseconds*/) override {}
-  std::optional<std::string> browse_for_folder(const std::string& /*caption*/,
-                                               const std::string& /*initial*/) override {
-    return std::nullopt;
-  }
-};
-
 class StoppedClock : public platform::Clock {
  public:
   [[nodiscard]] platform::DateTime local() const override { return {2014, 11, 15, 11, 50, 0}; }
@@ -47,27 +34,25 @@ void take_over(const elements::Draft& draft) {
   ShipFixedData ship = fakes::psychrometer_ship();
   ship.wind_input_method = WindInputMethod::kApparentWind;
   const KeyObservationItems items;
-  text::Texts texts;
-  NoWindows windows;
-  ui::Messages messages(texts, windows);
   const StoppedClock clock;
-  elements::ObservationForm form(ship, items, texts, messages, clock);
+  elements::ObservationForm form(ship, items, clock);
   form.load(draft.form);
   elements::Draft taken = draft;  // it bears the ship's names, whatever the text says
-  taken.form.entries.record.CallSign = ship.call_sign;
-  taken.form.entries.record.ShipFixed = ship.imo_number;
+  taken.form.record.CallSign = ship.call_sign;
+  taken.form.record.ShipFixed = ship.imo_number;
   fuzz::expect(
-      elements::encode_draft({draft.call_sign, draft.ship_mark, form.state(), draft.typing_in,
+      elements::encode_draft({draft.call_sign, draft.ship_mark, form.entries(), draft.typing_in,
                               draft.group_text}) == elements::encode_draft(taken),
       "a form holds what it took over");
   form.ship_changed();
   form.items_changed();
   for (std::size_t i = 0; i < elements::kFields; ++i)
     (void)form.leave(static_cast<elements::Field>(i));
-  fuzz::expect(form.report().ends_with(" ....."), "a report ends in full stops", form.report());
+  fuzz::expect(form.report().text.ends_with(" ....."), "a report ends in full stops",
+               form.report().text);
   (void)form.remarks();
   const std::string again =
-      elements::encode_draft({ship.call_sign, elements::ship_mark(ship), form.state(), {}, {}});
+      elements::encode_draft({ship.call_sign, elements::ship_mark(ship), form.entries(), {}, {}});
   fuzz::expect(elements::decode_draft(again).fault == elements::DraftFault::kNone,
                "a form that took a draft over can be kept again", again);
 }

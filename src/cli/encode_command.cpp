@@ -12,13 +12,11 @@ namespace {
 constexpr const char* kUsage = "kavrel-cli encode [--language en|ja] [FILE]";
 
 std::string products(const observation::ObservationReader& observed, text::Language language) {
-  std::string report;
-  std::string missing;
-  observation::encode_report(observed.record(), report, missing,
-                             observation::wants_wet_bulb(observed.ship()), language);
+  observation::Report report =
+      observation::make_report(observed.record(), observation::wants_wet_bulb(observed.ship()));
   nlohmann::ordered_json line;
-  line["report"] = std::move(report);
-  line["missing"] = std::move(missing);
+  line["report"] = std::move(report.text);
+  line["missing"] = observation::missing_list(report.missing, language);
   line["logbook"] =
       observation::encode_logbook(observed.record(), observed.ship(), observed.items());
   return line.dump() + "\n";

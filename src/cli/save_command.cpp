@@ -97,10 +97,9 @@ class Saver {
     request.report_path = observation::report_path(*reports_, observed.record());
     request.logbook_path = observation::logbook_path(*logbook_);
     request.replace = replace_;
-    std::string missing;
-    observation::encode_report(observed.record(), request.message, missing,
-                               observation::wants_wet_bulb(observed.ship()),
-                               text::Language::kEnglish);
+    request.message =
+        observation::make_report(observed.record(), observation::wants_wet_bulb(observed.ship()))
+            .text;
     request.logbook_line =
         observation::encode_logbook(observed.record(), observed.ship(), observed.items());
     const auto result = observation::save(files_, request);

@@ -4,6 +4,7 @@
 
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
+#include "mainwindow/entry_messages.h"
 #include "mainwindow/last_position.h"
 #include "mainwindow/save_flow.h"
 #include "ship/CFixDataDlg.h"
@@ -67,9 +68,9 @@ void CVelmaranDlg::show_menu() {
 
 // The label of a switched-off element is dead; a caption's focus moves on whatever the dialog says.
 void CVelmaranDlg::label_clicked(const mainwindow::LabelRow& row) {
-  if (row.item && !context_.items.observed(*row.item)) return;
-  open_element(row.element);
-  if (!row.caption_of.empty()) focus_behind(control_of(row.caption_of));
+  if (form_.switched_off(*row.of)) return;
+  open_element(row.element());
+  if (row.caption) focus_behind(control_of(elements::name_of(*row.of)));
 }
 
 void CVelmaranDlg::focus_behind(const ui::Control* last) {
@@ -87,7 +88,7 @@ const ui::Control* CVelmaranDlg::last_field_of(int element) const {
 
 bool CVelmaranDlg::open_element(int element) {
   const mainwindow::ElementRow* const row = mainwindow::find_element(element);
-  if (row != nullptr && row->use(context_) != mainwindow::Use::kInUse) return false;
+  if (row != nullptr && use_of(*row, context_) != mainwindow::Use::kInUse) return false;
   if (row == nullptr || row->open == nullptr) {
     // What has no number never has a dialog; a row without an opener gets one in a later version.
     services().messages.error(row == nullptr ? id::kNoSubWindow : id::kNotInThisVersion);
@@ -99,7 +100,7 @@ bool CVelmaranDlg::open_element(int element) {
   if (confirmed) {
     // A value that the form then refused is to be put right first.
     const auto refused = std::find_if(fields_.begin(), fields_.end(), [&](const Field& f) {
-      return f.row->element == element && f.value && form_.in_error(*f.value);
+      return f.row->element == element && f.is_edit() && form_.in_error(f.value());
     });
     typing_ = refused != fields_.end();
     if (typing_) {
@@ -120,7 +121,7 @@ void CVelmaranDlg::on_f1(ui::Control* focused) {
     services().messages.error(why);
     return;
   }
-  if (field != nullptr && field->value && !form_.in_error(*field->value))
+  if (field != nullptr && field->is_edit() && !form_.in_error(field->value()))
     static_cast<void>(leave(*field));
   open_element(field == nullptr ? mainwindow::kNoElement : field->row->element);
 }
@@ -138,8 +139,9 @@ bool CVelmaranDlg::settle_focused() {
   const auto group = std::find_if(groups_.begin(), groups_.end(),
                                   [&](const ReportGroup& g) { return g.control == control; });
   const Field* const field = field_of(control);
-  const bool taken = group != groups_.end() ? leave_group(*group)
-                                            : field == nullptr || !field->value || leave(*field);
+  const bool taken = group != groups_.end()
+                         ? leave_group(*group)
+                         : field == nullptr || !field->is_edit() || leave(*field);
   if (!taken) focus(*control);
   return taken;
 }
@@ -251,8 +253,11 @@ void CVelmaranDlg::end() {
 
 bool CVelmaranDlg::save() {
   if (!settle_focused()) return false;
+  std::vector<std::string> remarks;
+  for (const elements::Notice& notice : form_.remarks())
+    remarks.push_back(mainwindow::worded(notice, services().texts));
   const mainwindow::SaveEnd end = mainwindow::save_observation(
-      services(), {form_.record(), context_.ship, context_.items, context_.folders, form_.remarks(),
+      services(), {form_.record(), context_.ship, context_.items, context_.folders, remarks,
                    [this] { keeper_.drop(draft()); }});
   if (end != mainwindow::SaveEnd::kSaved) return false;
   // The officer has seen in the list what was refused, and saved without it.
@@ -271,8 +276,9 @@ void CVelmaranDlg::find_last_position() {
 // Warnings only: is the ship where it can be, after a new date, hour or position; and is the dew
 // point one of this pressure.
 void CVelmaranDlg::tell_doubts() {
-  if (form_.take_doubled_pressure_due()) services().messages.error(id::kDoubledPressure);
-  if (!form_.take_review_due()) return;
+  const elements::Doubts doubts = form_.take_doubts();
+  if (doubts.doubled_pressure) services().messages.error(id::kDoubledPressure);
+  if (!doubts.review) return;
   CHour3ErrorDlg::show(services(), elements::review_position(
                                        form_.record(), services().files, context_.folders.reports,
                                        context_.is_on_land, services().texts));

@@ -3,6 +3,7 @@
 // every other dialog. What the fields hold and what follows from an entry is ObservationForm's;
 // the window shows it, and leads the focus, the menus and the dialogs.
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,7 +30,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
 
   [[nodiscard]] std::string title() const override;
   [[nodiscard]] std::vector<std::pair<std::string, std::string>> record_fields() const override;
-  [[nodiscard]] std::string report() const override { return form_.report(); }
+  [[nodiscard]] std::string report() const override { return form_.report().text; }
 
   [[nodiscard]] const elements::ObservationForm& form() const { return form_; }
   /// A menu command or the exit procedure is running; focus-loss checks and further commands wait.
@@ -65,7 +66,10 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   struct Field {
     const mainwindow::FieldRow* row = nullptr;
     ui::Control* control = nullptr;
-    std::optional<elements::Field> value;  ///< of an edit
+
+    [[nodiscard]] bool is_edit() const { return row->field != nullptr; }
+    /// Of an edit.
+    [[nodiscard]] elements::Field value() const { return row->field->field; }
   };
   struct ReportGroup {
     const mainwindow::ReportGroupRow* row = nullptr;
@@ -91,6 +95,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   [[nodiscard]] std::string group_shown(const ReportGroup& group) const;
 
   // Entries.
+  bool settle(const std::function<elements::Answer(elements::Confirmed)>& take);
   bool leave(const Field& field);
   bool leave_group(const ReportGroup& group);
   bool settle_focused();

@@ -52,7 +52,7 @@ std::string CVelmaranDlg::draft() const {
   const bool typing = typing_ && focused() != nullptr;
   const bool in_group = typing && field_of(focused()) == nullptr;
   return elements::encode_draft({context_.ship.call_sign, elements::ship_mark(context_.ship),
-                                 form_.state(), typing ? focused()->name : std::string(),
+                                 form_.entries(), typing ? focused()->name : std::string(),
                                  in_group ? focused()->content : std::string()});
 }
 
@@ -82,7 +82,7 @@ void CVelmaranDlg::offer_drafts() {
       put_unusable_aside(left->path, read);
     } else if (is_saved(left->path, read.draft)) {
       keeper_.discard();
-    } else if (const Struct_Weather& record = read.draft.form.entries.record;
+    } else if (const Struct_Weather& record = read.draft.form.record;
                observation::report_file_name(record) == context_.folders.finished_report) {
       // Its save was under way when the program ended, and has been finished since.
       static_cast<void>(keeper_.put_aside(DraftKeeper::Why::kNotWanted));
@@ -106,20 +106,18 @@ bool CVelmaranDlg::wants(const Struct_Weather& record) {
 bool CVelmaranDlg::is_saved(const std::string& path, const elements::Draft& draft) const {
   // An entry that was made behind the save may be in neither file: a heading that still lacks its
   // wind. Its draft is younger than the report.
-  const std::string report =
-      observation::report_path(context_.folders.reports, draft.form.entries.record);
+  const std::string report = observation::report_path(context_.folders.reports, draft.form.record);
   const auto saved_at = services().files.modified(report);
   const auto kept_at = services().files.modified(path);
   if (!saved_at || !kept_at || in_order(*saved_at) < in_order(*kept_at)) return false;
   // What is not accepted is in no report and no line, and the officer has not let it go.
-  const auto& typed = draft.form.entries.typed;
-  if (!draft.typing_in.empty() || std::find(typed.begin(), typed.end(), true) != typed.end())
-    return false;
-  ui::Services& all = services();
-  elements::ObservationForm form(context_.ship, context_.items, all.texts, all.messages, all.clock);
-  form.messages_suppressed = true;
+  const bool typed = std::ranges::any_of(draft.form.fields, [](const elements::Entry& entry) {
+    return entry.before_typing.has_value();
+  });
+  if (!draft.typing_in.empty() || typed) return false;
+  elements::ObservationForm form(context_.ship, context_.items, services().clock);
   load(form, draft);
-  return mainwindow::is_saved(all,
+  return mainwindow::is_saved(services(),
                               {form.record(), context_.ship, context_.items, context_.folders, {}});
 }
 

@@ -3,13 +3,14 @@
 #include <algorithm>
 
 #include "mainwindow/CVelmaranDlg.h"
+#include "mainwindow/entry_messages.h"
 #include "text/ids.h"
 
 namespace {
 
 namespace id = text::id;
+using elements::label_ref;
 using mainwindow::FieldKind;
-using mainwindow::label_ref;
 using mainwindow::Use;
 
 constexpr int kSelectedOnFocus = 10;
@@ -23,7 +24,7 @@ constexpr std::string_view kFiguresFont = "monospace";  // the report's figures 
 CVelmaranDlg::CVelmaranDlg(ui::Services& services, mainwindow::MainWindowContext context)
     : Screen(services, "CVelmaranDlg", {id::kMainTitle, 0}),
       context_(std::move(context)),
-      form_(context_.ship, context_.items, services.texts, services.messages, services.clock),
+      form_(context_.ship, context_.items, services.clock),
       keeper_(services.files, context_.folders.drafts) {
   select_on_focus(kSelectedOnFocus);
   add_labels();
@@ -45,8 +46,7 @@ C& CVelmaranDlg::add(Arguments&&... arguments) {
 void CVelmaranDlg::add_labels() {
   for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
     auto& label = add<ui::Label>(row.name, label_ref(row.label));
-    if (row.element != mainwindow::kNoElement)
-      label.on_press = [this, &row] { label_clicked(row); };
+    if (row.of) label.on_press = [this, &row] { label_clicked(row); };
   }
   add<ui::Label>("label_report", label_ref(id::kLabelWeatherMessage));
 }
@@ -68,7 +68,7 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
           row.name, label,
           std::vector{label_ref(id::kLabelFullLoad), label_ref(id::kLabelInBallast)});
       choice.on_change = [this] { loading_state_chosen(); };
-      fields_.push_back({&row, &choice, {}});
+      fields_.push_back({&row, &choice});
       break;
     }
     case FieldKind::kFreeze: {
@@ -78,7 +78,7 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
         refresh();
         tell_doubts();
       };
-      fields_.push_back({&row, &freeze, {}});
+      fields_.push_back({&row, &freeze});
       break;
     }
   }
@@ -86,12 +86,12 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
 }
 
 void CVelmaranDlg::add_edit(const mainwindow::FieldRow& row, text::Ref label) {
-  auto& edit = add<ui::Edit>(row.name, label, row.max_length);
-  edit.unit = row.unit;
-  fields_.push_back({&row, &edit, elements::field_named(row.name)});
+  auto& edit = add<ui::Edit>(row.name, label, row.field->max_length);
+  edit.unit = row.field->unit;
+  fields_.push_back({&row, &edit});
   edit.on_change = [this, at = fields_.size() - 1] {
     typing_ = true;
-    form_.type(*fields_[at].value, fields_[at].control->content);
+    form_.type(fields_[at].value(), fields_[at].control->content);
   };
   edit.on_leave = [this, at = fields_.size() - 1] {
     return command_in_progress_ || leave(fields_[at]);
@@ -103,7 +103,7 @@ void CVelmaranDlg::add_hemispheres(const mainwindow::FieldRow& row, text::Id fir
   auto& choice = add<ui::Choice>(row.name, label_ref(row.label),
                                  std::vector{label_ref(first), label_ref(second)});
   choice.on_change = [this] { hemispheres_chosen(); };
-  fields_.push_back({&row, &choice, {}});
+  fields_.push_back({&row, &choice});
 }
 
 void CVelmaranDlg::add_report() {
@@ -135,7 +135,7 @@ void CVelmaranDlg::add_report() {
 
 void CVelmaranDlg::refresh() {
   for (const Field& field : fields_) {
-    if (field.value) show_edit(field);
+    if (field.is_edit()) show_edit(field);
   }
   show_choices();
   show_report();
@@ -143,14 +143,14 @@ void CVelmaranDlg::refresh() {
 
 // The reason, none for a field that is open.
 text::Id CVelmaranDlg::why_locked(const mainwindow::FieldRow& row) const {
-  if (const auto field = elements::field_named(row.name)) {
-    if (form_.switched_off(*field)) return id::kWhyNotObserved;
-    if (elements::needs_wave_recorder(*field))
+  if (row.field != nullptr) {
+    if (form_.switched_off(row.field->field)) return id::kWhyNotObserved;
+    if (row.field->needs_wave_recorder)
       return context_.ship.wave_recorder ? text::Id() : id::kWhyNoWaveRecorder;
   }
   const mainwindow::ElementRow* const element = mainwindow::find_element(row.element);
-  if (element == nullptr || element->use(context_) != Use::kOtherMethod) return {};
-  return row.computed ? id::kWhyComputed : id::kWhyOtherMethod;
+  if (element == nullptr || use_of(*element, context_) != Use::kOtherMethod) return {};
+  return row.field != nullptr && row.field->computed ? id::kWhyComputed : id::kWhyOtherMethod;
 }
 
 // A field whose value the program computes or fills in is locked and shows it; one that has no
@@ -158,31 +158,31 @@ text::Id CVelmaranDlg::why_locked(const mainwindow::FieldRow& row) const {
 void CVelmaranDlg::show_edit(const Field& field) {
   ui::Control& control = *field.control;
   const text::Id why = why_locked(*field.row);
-  const bool shows_value = why == id::kWhyNotObserved || field.row->computed;
+  const bool shows_value = why == id::kWhyNotObserved || field.row->field->computed;
   control.enabled = !why || shows_value;
   control.read_only = why && shows_value;
   control.why_locked = services().texts.get(why);
-  control.set(control.enabled ? std::string_view(form_.text(*field.value)) : std::string_view());
-  control.mark = form_.in_error(*field.value) ? kWrong : std::string_view();
+  control.set(control.enabled ? std::string_view(form_.text(field.value())) : std::string_view());
+  control.mark = form_.in_error(field.value()) ? kWrong : std::string_view();
 }
 
 void CVelmaranDlg::show_choices() {
-  control_of("north_south")->selected = form_.north_south();
-  control_of("east_west")->selected = form_.east_west();
+  control_of("north_south")->selected = form_.entries().north_south;
+  control_of("east_west")->selected = form_.entries().east_west;
   ui::Control& loading = *control_of("loading_state");
   loading.enabled = context_.ship.card.type == CardType::kHeightAndTemperature;
   loading.selected = static_cast<int>(context_.ship.card.loading_state);
   loading.why_locked = services().texts.get(loading.enabled ? text::Id() : id::kWhyNoLoadingState);
   ui::Control& freeze = *control_of("freeze");
   freeze.enabled = context_.ship.dew_point_method == DewPointMethod::kComputed;
-  freeze.checked = freeze.enabled && form_.wet_bulb_state() == elements::WetBulbState::kIced;
+  freeze.checked = freeze.enabled && form_.entries().wet_bulb == elements::WetBulbState::kIced;
   freeze.why_locked = services().texts.get(freeze.enabled ? text::Id() : id::kWhyOtherMethod);
 }
 
 // What stands in a group's field: the group as the report would have it. The word ICE has a field
 // of its own, and a group that is written only when it is set says so by solidi.
 std::string CVelmaranDlg::group_shown(const ReportGroup& group) const {
-  std::string text = form_.group_text(group.row->group);
+  std::string text = observation::group_text(form_.record(), group.row->group);
   if (text.starts_with(kIceWord)) text.erase(0, kIceWord.size());
   if (group.row->group == observation::Group::k9GGgg && text == "9") text = "9////";
   if (group.row->group == observation::Group::k00fff && text == "00") text = "00///";
@@ -191,23 +191,26 @@ std::string CVelmaranDlg::group_shown(const ReportGroup& group) const {
 
 void CVelmaranDlg::show_report() {
   call_sign_->set(form_.record().call_sign_for_report());
-  const std::string missing = form_.missing();
+  const observation::GroupSet missing = form_.report().missing;
   for (const ReportGroup& group : groups_) {
     if (typing_ && group.control == focused()) continue;  // a group half typed is not taken away
     group.control->set(group_shown(group));
-    const text::Id label = observation::row_of(group.row->group).missing_label;
     const bool half_time = group.row->group == observation::Group::k9GGgg &&
                            form_.record().gg.empty() != form_.record().GGExact.empty();
-    const bool lacks =
-        half_time || (label && missing.find(services().texts.get(label)) != std::string::npos);
+    const bool lacks = half_time || missing.contains(group.row->group);
     group.control->mark = lacks ? kMissing : std::string_view();
   }
 }
 
+bool CVelmaranDlg::settle(const std::function<elements::Answer(elements::Confirmed)>& take) {
+  return mainwindow::settle(services().messages, services().texts, take);
+}
+
 bool CVelmaranDlg::leave(const Field& field) {
-  if (field.control->content != form_.text(*field.value))
-    form_.type(*field.value, field.control->content);
-  const bool accepted = form_.leave(*field.value);
+  if (field.control->content != form_.text(field.value()))
+    form_.type(field.value(), field.control->content);
+  const bool accepted =
+      settle([&](elements::Confirmed confirmed) { return form_.leave(field.value(), confirmed); });
   typing_ = typing_ && !accepted;
   refresh();
   if (accepted) tell_doubts();
@@ -221,7 +224,10 @@ bool CVelmaranDlg::leave_group(const ReportGroup& group) {
   }
   std::string typed = group.control->content;
   if (group.row->group == observation::Group::kICE) typed.insert(0, kIceWord);
-  if (!form_.leave_group(group.row->group, typed)) {
+  const bool accepted = settle([&](elements::Confirmed confirmed) {
+    return form_.leave(group.row->group, typed, confirmed);
+  });
+  if (!accepted) {
     group.control->mark = kWrong;
     return false;
   }

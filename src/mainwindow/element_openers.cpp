@@ -15,6 +15,7 @@
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
 #include "elements/formulas/sea_level_pressure.h"
+#include "mainwindow/entry_messages.h"
 #include "mainwindow/form_rows.h"
 #include "ship/CKataInputDlg.h"
 #include "text/numbers.h"
@@ -23,34 +24,18 @@
 namespace mainwindow {
 namespace {
 
-Use always(const MainWindowContext& /*context*/) {
-  return Use::kInUse;
-}
-
-template <ObservationItem item>
-Use item_is_observed(const MainWindowContext& context) {
-  return context.items.observed(item) ? Use::kInUse : Use::kNotObserved;
-}
-
-Use a_swell_is_observed(const MainWindowContext& context) {
-  return context.items.observed(ObservationItem::dw1Pw1Hw1) ||
-                 context.items.observed(ObservationItem::dw2Pw2Hw2)
-             ? Use::kInUse
-             : Use::kNotObserved;
-}
-
 template <DewPointMethod method>
-Use dew_point_by(const MainWindowContext& context) {
-  return context.ship.dew_point_method == method ? Use::kInUse : Use::kOtherMethod;
+bool dew_point_not_by(const ShipFixedData& ship) {
+  return ship.dew_point_method != method;
 }
 
-Use humidity_is_read(const MainWindowContext& context) {
-  return context.ship.humidity_method == HumidityMethod::kDirect ? Use::kInUse : Use::kOtherMethod;
+bool humidity_is_computed(const ShipFixedData& ship) {
+  return ship.humidity_method == HumidityMethod::kComputed;
 }
 
 template <WindInputMethod method>
-Use wind_by(const MainWindowContext& context) {
-  return context.ship.wind_input_method == method ? Use::kInUse : Use::kOtherMethod;
+bool wind_not_by(const ShipFixedData& ship) {
+  return ship.wind_input_method != method;
 }
 
 using elements::Field;
@@ -80,7 +65,7 @@ bool open_position(Opening& opening) {
   CPositionDlg dialog(opening.services,
                       {record.LaDeg, record.LaMin, record.LoDeg, record.LoMin, record.Qc},
                       opening.last_quadrant, opening.context.is_on_land,
-                      {opening.form.north_south(), opening.form.east_west()});
+                      {opening.form.entries().north_south, opening.form.entries().east_west});
   if (!confirmed(opening, dialog)) return false;
   opening.form.change(
       [&](Struct_Weather& r) {
@@ -98,22 +83,23 @@ bool open_position(Opening& opening) {
 bool open_course_and_speed(Opening& opening) {
   CDvDsDlg dialog(opening.services, {opening.form.record().Ds, opening.form.record().Vs});
   if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kDs, dialog.values().Ds);
-  opening.form.put(Field::kVs, dialog.values().Vs);
+  opening.form.put({{Field::kDs, dialog.values().Ds}, {Field::kVs, dialog.values().Vs}});
   return true;
 }
 
 // The reading is taken as if it had been typed: an unusual pressure at sea level asks, and No keeps
 // the pressure that was there. Where no reading was or is given, a pressure that was typed by hand
 // is the only one there is, and stays.
-void take_reading(elements::ObservationForm& form, const std::string& reading) {
+void take_reading(Opening& opening, const std::string& reading) {
+  elements::ObservationForm& form = opening.form;
   if (reading.empty()) {
     if (!form.entered(Field::kReading).empty()) form.put(Field::kReading, {});
     form.change([](Struct_Weather&) {}, {Field::kReading});
     return;
   }
   form.type(Field::kReading, text::format_fixed(text::leading_number(reading), 1, 4));
-  static_cast<void>(form.leave(Field::kReading));
+  settle(opening.services.messages, opening.services.texts,
+         [&](elements::Confirmed confirmed) { return form.leave(Field::kReading, confirmed); });
 }
 
 bool open_pressure(Opening& opening) {
@@ -146,9 +132,9 @@ bool open_pressure(Opening& opening) {
   if (!ok) return false;
   const Dialog::Values& result = dialog.values();
   const bool exact = result.time_choice == Dialog::TimeChoice::kMoreThan10Minutes;
-  form.put(Field::kGGExact, exact ? result.hour : std::string());
-  form.put(Field::kgg, exact ? result.minute : std::string());
-  take_reading(form, result.reading);
+  form.put({{Field::kGGExact, exact ? std::string_view(result.hour) : std::string_view()},
+            {Field::kgg, exact ? std::string_view(result.minute) : std::string_view()}});
+  take_reading(opening, result.reading);
   return true;
 }
 
@@ -168,10 +154,11 @@ bool open_tendency(Opening& opening) {
 bool open_psychrometer(Opening& opening) {
   elements::ObservationForm& form = opening.form;
   CCountDewDlg dialog(opening.services, {form.text(Field::kDryBulb), form.text(Field::kWetBulb),
-                                         form.wet_bulb_state(), form.entered(Field::kReading),
+                                         form.entries().wet_bulb, form.entered(Field::kReading),
                                          opening.context.ship.card});
   if (!confirmed(opening, dialog)) return false;
-  form.put_bulbs(dialog.values().dry, dialog.values().wet, dialog.values().state);
+  form.put({{Field::kDryBulb, dialog.values().dry}, {Field::kWetBulb, dialog.values().wet}},
+           dialog.values().state);
   return true;
 }
 
@@ -180,8 +167,8 @@ bool open_dew_point(Opening& opening) {
   CTemperatureAndDewDlg dialog(opening.services,
                                {form.text(Field::kAirTemperature), form.text(Field::kDewPoint)});
   if (!confirmed(opening, dialog)) return false;
-  form.put(Field::kAirTemperature, dialog.values().air);
-  form.put(Field::kDewPoint, dialog.values().dew);
+  form.put(
+      {{Field::kAirTemperature, dialog.values().air}, {Field::kDewPoint, dialog.values().dew}});
   return true;
 }
 
@@ -215,11 +202,11 @@ bool open_apparent_wind(Opening& opening) {
        form.text(Field::kHeading), form.text(Field::kCourse), form.text(Field::kShipSpeed)});
   if (!confirmed(opening, dialog)) return false;
   const elements::ApparentWindTexts& v = dialog.values();
-  form.put(Field::kApparentDirection, text::trim(v.direction));
-  form.put(Field::kApparentSpeed, text::trim(v.speed));
-  form.put(Field::kHeading, text::trim(v.heading));
-  form.put(Field::kCourse, text::trim(v.course));
-  form.put(Field::kShipSpeed, text::trim(v.ship_speed));
+  form.put({{Field::kApparentDirection, text::trim(v.direction)},
+            {Field::kApparentSpeed, text::trim(v.speed)},
+            {Field::kHeading, text::trim(v.heading)},
+            {Field::kCourse, text::trim(v.course)},
+            {Field::kShipSpeed, text::trim(v.ship_speed)}});
   return true;
 }
 
@@ -227,8 +214,7 @@ bool open_true_wind(Opening& opening) {
   elements::ObservationForm& form = opening.form;
   CTrueDirWindDlg dialog(opening.services, form.text(Field::kdd), form.text(Field::kff));
   if (!confirmed(opening, dialog)) return false;
-  form.put(Field::kdd, dialog.direction());
-  form.put(Field::kff, dialog.speed());
+  form.put({{Field::kdd, dialog.direction()}, {Field::kff, dialog.speed()}});
   return true;
 }
 
@@ -240,39 +226,52 @@ bool open_visibility(Opening& opening) {
 }
 
 constexpr ElementRow kRows[] = {
-    {kObservationTime, always, open_time},
-    {kPosition, always, open_position},
-    {kCourseAndSpeed, always, open_course_and_speed},
-    {kPressure, always, open_pressure},
-    {kPressureTendency, always, open_tendency},
-    {kPsychrometer, dew_point_by<DewPointMethod::kComputed>, open_psychrometer},
-    {kTemperatureAndDewPoint, dew_point_by<DewPointMethod::kDirect>, open_dew_point},
-    {kSeaTemperature, always, open_sea_temperature},
-    {kApparentWind, wind_by<WindInputMethod::kApparentWind>, open_apparent_wind},
-    {kWindWave, item_is_observed<ObservationItem::PwHw>},
-    {kSwell, a_swell_is_observed},
-    {kVisibility, item_is_observed<ObservationItem::VV>, open_visibility},
-    {kPresentWeather, item_is_observed<ObservationItem::ww>},
-    {kPastWeather, item_is_observed<ObservationItem::W1W2>},
-    {kCloudAmount, item_is_observed<ObservationItem::N>},
-    {kLowestCloud, item_is_observed<ObservationItem::Nh>},
-    {kUpperCloud, item_is_observed<ObservationItem::CLCMCH>},
-    {kMiddleCloud, item_is_observed<ObservationItem::CLCMCH>},
-    {kLowerCloud, item_is_observed<ObservationItem::CLCMCH>},
-    {kIceAccretion, item_is_observed<ObservationItem::IsEsEsRs>},
-    {kCloudHeight, item_is_observed<ObservationItem::h>},
-    {kIceConcentration, item_is_observed<ObservationItem::ciSibiDizi>},
-    {kIceStage, item_is_observed<ObservationItem::ciSibiDizi>},
-    {kIceBearing, item_is_observed<ObservationItem::ciSibiDizi>},
-    {kIceTrend, item_is_observed<ObservationItem::ciSibiDizi>},
-    {kTrueWind, wind_by<WindInputMethod::kTrueWind>, open_true_wind},
-    {kRelativeHumidity, humidity_is_read, open_humidity},
+    {kObservationTime, open_time},
+    {kPosition, open_position},
+    {kCourseAndSpeed, open_course_and_speed},
+    {kPressure, open_pressure},
+    {kPressureTendency, open_tendency},
+    {kPsychrometer, open_psychrometer, dew_point_not_by<DewPointMethod::kComputed>},
+    {kTemperatureAndDewPoint, open_dew_point, dew_point_not_by<DewPointMethod::kDirect>},
+    {kSeaTemperature, open_sea_temperature},
+    {kApparentWind, open_apparent_wind, wind_not_by<WindInputMethod::kApparentWind>},
+    {kWindWave},
+    {kSwell},
+    {kVisibility, open_visibility},
+    {kPresentWeather},
+    {kPastWeather},
+    {kCloudAmount},
+    {kLowestCloud},
+    {kUpperCloud},
+    {kMiddleCloud},
+    {kLowerCloud},
+    {kIceAccretion},
+    {kCloudHeight},
+    {kIceConcentration},
+    {kIceStage},
+    {kIceBearing},
+    {kIceTrend},
+    {kTrueWind, open_true_wind, wind_not_by<WindInputMethod::kTrueWind>},
+    {kRelativeHumidity, open_humidity, humidity_is_computed},
 };
 
 }  // namespace
 
 std::span<const ElementRow> element_rows() {
   return kRows;
+}
+
+Use use_of(const ElementRow& row, const MainWindowContext& context) {
+  bool has_fields = false;
+  bool observed = false;
+  for (const elements::FieldRow& field : elements::field_rows()) {
+    if (field.element != row.element) continue;
+    has_fields = true;
+    observed = observed || !elements::is_switched_off(field, context.items);
+  }
+  if (has_fields && !observed) return Use::kNotObserved;
+  const bool other = row.by_other_method != nullptr && row.by_other_method(context.ship);
+  return other ? Use::kOtherMethod : Use::kInUse;
 }
 
 const ElementRow* find_element(int element) {

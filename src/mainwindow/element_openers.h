@@ -28,9 +28,12 @@ enum class Use { kInUse, kNotObserved, kOtherMethod };
 
 struct ElementRow {
   int element = 0;
-  Use (*use)(const MainWindowContext&) = nullptr;
   Opener open = nullptr;  ///< nullptr: no dialog in this version
+  /// True when this ship enters the element by another method; nullptr: it has only one.
+  bool (*by_other_method)(const ShipFixedData&) = nullptr;
 };
+/// An element is not observed when all of its fields are switched off.
+[[nodiscard]] Use use_of(const ElementRow& row, const MainWindowContext& context);
 [[nodiscard]] std::span<const ElementRow> element_rows();
 /// The row of that number, or nullptr (99, numbers outside the table).
 [[nodiscard]] const ElementRow* find_element(int element);

@@ -1,126 +1,75 @@
 #include "mainwindow/form_rows.h"
 
+#include <vector>
+
 #include "text/ids.h"
 
 namespace mainwindow {
 namespace {
 
 namespace id = text::id;
+using elements::Field;
 using observation::Group;
 
 constexpr LabelRow kLabels[] = {
-    {"label_time", id::kLabelObservationTime, kObservationTime},
-    {"label_latitude", id::kLabelLatitude, kPosition},
-    {"label_longitude", id::kLabelLongitude, kPosition},
-    {"label_ship_direction", id::kLabelShipDirection, kCourseAndSpeed},
-    {"label_ship_speed", id::kLabelShipSpeed, kCourseAndSpeed},
-    {"label_pressure", id::kLabelAirPressure, kPressure},
-    {"label_tendency", id::kLabelDuringThreeHours, kPressureTendency},
-    {"label_dry_and_wet", id::kLabelDryAndWet, kPsychrometer},
-    {"label_dew_point", id::kLabelTempByDewPoint, kTemperatureAndDewPoint},
-    {"label_humidity", id::kLabelHumidity, kRelativeHumidity},
-    {"label_true_wind", id::kLabelTrueWind, kTrueWind},
-    {"label_apparent_wind", id::kLabelApparentWind, kApparentWind},
-    {"label_sea_temperature", id::kLabelSeaTemperature, kSeaTemperature},
-    {"label_wind_wave", id::kLabelWindWave, kWindWave, ObservationItem::PwHw},
-    {"label_swell1", id::kLabelSwell1, kSwell, ObservationItem::dw1Pw1Hw1},
-    {"label_swell2", id::kLabelSwell2, kSwell, ObservationItem::dw2Pw2Hw2},
-    {"label_wave_recorder", id::kLabelWaveRecorder, kNoElement},
-    {"label_visibility", id::kLabelVisibility, kVisibility, ObservationItem::VV},
-    {"label_present_weather", id::kLabelPresentWeather, kPresentWeather, ObservationItem::ww},
-    {"label_past_weather", id::kLabelPastWeather, kPastWeather, ObservationItem::W1W2},
-    {"label_total_cloud", id::kLabelTotalCloud, kCloudAmount, ObservationItem::N},
-    {"label_lowest_cloud", id::kLabelLowestCloud, kLowestCloud, ObservationItem::Nh},
-    {"label_cloud_type", id::kLabelCloudType, kNoElement},
-    {"caption_CH", id::kLabelUpperCloud, kUpperCloud, ObservationItem::CLCMCH, "CH"},
-    {"caption_CM", id::kLabelMiddleCloud, kMiddleCloud, ObservationItem::CLCMCH, "CM"},
-    {"caption_CL", id::kLabelLowerCloud, kLowerCloud, ObservationItem::CLCMCH, "CL"},
-    {"label_cloud_height", id::kLabelCloudHeight, kCloudHeight, ObservationItem::h},
-    {"label_ice_accretion", id::kLabelIceAccretion, kIceAccretion, ObservationItem::IsEsEsRs},
-    {"label_sea_ice", id::kLabelSeaIce, kNoElement},
-    {"caption_ci", id::kLabelIceConcentration, kIceConcentration, ObservationItem::ciSibiDizi,
-     "ci"},
-    {"caption_Si", id::kLabelIceStage, kIceStage, ObservationItem::ciSibiDizi, "Si"},
-    {"caption_bi", id::kLabelIceLandOrigin, kIceStage, ObservationItem::ciSibiDizi, "bi"},
-    {"caption_Di", id::kLabelIceBearing, kIceBearing, ObservationItem::ciSibiDizi, "Di"},
-    {"caption_zi", id::kLabelIceTrend, kIceTrend, ObservationItem::ciSibiDizi, "zi"},
+    {"label_time", id::kLabelObservationTime, Field::kYear},
+    {"label_latitude", id::kLabelLatitude, Field::kLaDeg},
+    {"label_longitude", id::kLabelLongitude, Field::kLoDeg},
+    {"label_ship_direction", id::kLabelShipDirection, Field::kDs},
+    {"label_ship_speed", id::kLabelShipSpeed, Field::kVs},
+    {"label_pressure", id::kLabelAirPressure, Field::kReading},
+    {"label_tendency", id::kLabelDuringThreeHours, Field::ka},
+    {"label_dry_and_wet", id::kLabelDryAndWet, Field::kDryBulb},
+    {"label_dew_point", id::kLabelTempByDewPoint, Field::kAirTemperature},
+    {"label_humidity", id::kLabelHumidity, Field::kHumidity},
+    {"label_true_wind", id::kLabelTrueWind, Field::kdd},
+    {"label_apparent_wind", id::kLabelApparentWind, Field::kApparentDirection},
+    {"label_sea_temperature", id::kLabelSeaTemperature, Field::kTwTwTw},
+    {"label_wind_wave", id::kLabelWindWave, Field::kPwPw},
+    {"label_swell1", id::kLabelSwell1, Field::kdw1dw1},
+    {"label_swell2", id::kLabelSwell2, Field::kdw2dw2},
+    {"label_wave_recorder", id::kLabelWaveRecorder},
+    {"label_visibility", id::kLabelVisibility, Field::kVV},
+    {"label_present_weather", id::kLabelPresentWeather, Field::kww},
+    {"label_past_weather", id::kLabelPastWeather, Field::kW1},
+    {"label_total_cloud", id::kLabelTotalCloud, Field::kN},
+    {"label_lowest_cloud", id::kLabelLowestCloud, Field::kNh},
+    {"label_cloud_type", id::kLabelCloudType},
+    {"caption_CH", id::kLabelUpperCloud, Field::kCH, true},
+    {"caption_CM", id::kLabelMiddleCloud, Field::kCM, true},
+    {"caption_CL", id::kLabelLowerCloud, Field::kCL, true},
+    {"label_cloud_height", id::kLabelCloudHeight, Field::kh},
+    {"label_ice_accretion", id::kLabelIceAccretion, Field::kIs},
+    {"label_sea_ice", id::kLabelSeaIce},
+    {"caption_ci", id::kLabelIceConcentration, Field::kci, true},
+    {"caption_Si", id::kLabelIceStage, Field::kSi, true},
+    {"caption_bi", id::kLabelIceLandOrigin, Field::kbi, true},
+    {"caption_Di", id::kLabelIceBearing, Field::kDi, true},
+    {"caption_zi", id::kLabelIceTrend, Field::kzi, true},
 };
 
-constexpr text::Ref kDegrees = label_ref(id::kLabelDegrees);
-constexpr text::Ref kMinutes = label_ref(id::kLabelMinutes);
-constexpr text::Ref kTens = label_ref(id::kLabelTensOfDegrees);
-constexpr text::Ref kKnots = label_ref(id::kLabelKnots);
-constexpr text::Ref kPercent = label_ref(id::kLabelPercent);
-constexpr text::Ref kSeconds = label_ref(id::kLabelSeconds);
-constexpr text::Ref kHectopascal{id::kFormHectopascal, 0};
-constexpr text::Ref kCelsius{id::kFormCelsius, 0};
-constexpr text::Ref kMetres{id::kFormMetres, 0};
-constexpr text::Ref kCentimetres{id::kFormCentimetres, 0};
-
-constexpr FieldRow kFields[] = {
-    {"Year", id::kLabelYear, {}, 4, kObservationTime},
-    {"Month", id::kLabelMonth, {}, 2, kObservationTime},
-    {"YY", id::kLabelDay, {}, 2, kObservationTime},
-    {"GG", id::kLabelHour, {}, 2, kObservationTime},
-    {"GGExact", id::kLabelActualTime, {}, 2, kPressure},
-    {"gg", 0, {}, 2, kPressure},
-    {"LaDeg", id::kLabelLatitude, kDegrees, 2, kPosition},
-    {"LaMin", 0, kMinutes, 2, kPosition},
-    {"north_south", 0, {}, 0, kPosition, FieldKind::kNorthSouth},
-    {"LoDeg", id::kLabelLongitude, kDegrees, 3, kPosition},
-    {"LoMin", 0, kMinutes, 2, kPosition},
-    {"east_west", 0, {}, 0, kPosition, FieldKind::kEastWest},
-    {"Ds", id::kLabelShipDirection, {}, 1, kCourseAndSpeed},
-    {"Vs", id::kLabelShipSpeed, {}, 1, kCourseAndSpeed},
-    {"loading_state", id::kLabelLoadingState, {}, 0, kPressure, FieldKind::kLoadingState},
-    {"reading", id::kLabelReading, kHectopascal, 7, kPressure},
-    {"PPPP", id::kLabelSeaLevel, kHectopascal, 6, kPressure},
-    {"a", id::kLabelTendencyType, {}, 1, kPressureTendency},
-    {"ppp", id::kLabelTendencyAmount, kHectopascal, 4, kPressureTendency},
-    {"dry_bulb", id::kLabelDry, kCelsius, 5, kPsychrometer},
-    {"wet_bulb", id::kLabelWet, kCelsius, 5, kPsychrometer},
-    {"freeze", id::kLabelFreeze, {}, 0, kPsychrometer, FieldKind::kFreeze},
-    {"air_temperature", id::kLabelTemp, kCelsius, 5, kTemperatureAndDewPoint},
-    {"dew_point", id::kLabelDew, kCelsius, 5, kTemperatureAndDewPoint},
-    {"relative_humidity", id::kLabelHumidity, kPercent, 5, kRelativeHumidity, FieldKind::kEdit,
-     true},
-    {"dd", id::kLabelWindDirection, kTens, 2, kTrueWind, FieldKind::kEdit, true},
-    {"ff", id::kLabelWindSpeed, kKnots, 3, kTrueWind, FieldKind::kEdit, true},
-    {"apparent_direction", id::kLabelWindDirection, kDegrees, 3, kApparentWind},
-    {"apparent_speed", id::kLabelWindSpeed, kKnots, 5, kApparentWind},
-    {"heading", id::kLabelShipHeading, kDegrees, 3, kApparentWind},
-    {"course", id::kLabelShipCourse, kDegrees, 3, kApparentWind},
-    {"ship_speed", id::kLabelApparentShipSpeed, kKnots, 4, kApparentWind},
-    {"TwTwTw", id::kLabelSeaTemperature, kCelsius, 5, kSeaTemperature},
-    {"PwPw", id::kLabelWavePeriod, kSeconds, 2, kWindWave},
-    {"HwHw", id::kLabelWaveHeight, kMetres, 4, kWindWave},
-    {"dw1dw1", id::kLabelWaveDirection, kTens, 2, kSwell},
-    {"Pw1Pw1", id::kLabelWavePeriod, kSeconds, 2, kSwell},
-    {"Hw1Hw1", id::kLabelWaveHeight, kMetres, 4, kSwell},
-    {"dw2dw2", id::kLabelWaveDirection, kTens, 2, kSwell},
-    {"Pw2Pw2", id::kLabelWavePeriod, kSeconds, 2, kSwell},
-    {"Hw2Hw2", id::kLabelWaveHeight, kMetres, 4, kSwell},
-    {"PwaPwa", id::kLabelWavePeriod, kSeconds, 2, kNoElement},
-    {"HwaHwa", id::kLabelWaveHeight, kMetres, 4, kNoElement},
-    {"VV", id::kLabelVisibility, {}, 2, kVisibility},
-    {"ww", id::kLabelPresentWeather, {}, 2, kPresentWeather},
-    {"W1", id::kLabelPastWeather, {}, 1, kPastWeather},
-    {"W2", 0, {}, 1, kPastWeather},
-    {"N", id::kLabelTotalCloud, {}, 1, kCloudAmount},
-    {"Nh", id::kLabelLowestCloud, {}, 1, kLowestCloud},
-    {"CH", id::kLabelUpperCloud, {}, 1, kUpperCloud},
-    {"CM", id::kLabelMiddleCloud, {}, 1, kMiddleCloud},
-    {"CL", id::kLabelLowerCloud, {}, 1, kLowerCloud},
-    {"h", id::kLabelCloudHeight, kMetres, 4, kCloudHeight},
-    {"Is", id::kLabelIceCauses, {}, 1, kIceAccretion},
-    {"EsEs", id::kLabelIceThickness, kCentimetres, 2, kIceAccretion},
-    {"Rs", id::kLabelIceRate, {}, 1, kIceAccretion},
-    {"ci", id::kLabelIceConcentration, {}, 1, kIceConcentration},
-    {"Si", id::kLabelIceStage, {}, 1, kIceStage},
-    {"bi", id::kLabelIceLandOrigin, {}, 1, kIceStage},
-    {"Di", id::kLabelIceBearing, {}, 1, kIceBearing},
-    {"zi", id::kLabelIceTrend, {}, 1, kIceTrend},
+// What is chosen or ticked among the entry fields, and the field that it stands behind.
+struct ChoiceRow {
+  Field behind;
+  FieldRow row;
 };
+constexpr ChoiceRow kChoices[] = {
+    {Field::kLaMin, {"north_south", {}, kPosition, FieldKind::kNorthSouth}},
+    {Field::kLoMin, {"east_west", {}, kPosition, FieldKind::kEastWest}},
+    {Field::kVs, {"loading_state", id::kLabelLoadingState, kPressure, FieldKind::kLoadingState}},
+    {Field::kWetBulb, {"freeze", id::kLabelFreeze, kPsychrometer, FieldKind::kFreeze}},
+};
+
+std::vector<FieldRow> with_choices() {
+  std::vector<FieldRow> rows;
+  for (const elements::FieldRow& field : elements::field_rows()) {
+    rows.push_back({field.name, field.label, field.element, FieldKind::kEdit, &field});
+    for (const ChoiceRow& choice : kChoices) {
+      if (choice.behind == field.field) rows.push_back(choice.row);
+    }
+  }
+  return rows;
+}
 
 constexpr ReportGroupRow kReportGroups[] = {
     {Group::kYYGGiw, "group_YYGGiw", "Y Y G G i w"},
@@ -155,7 +104,8 @@ std::span<const LabelRow> label_rows() {
 }
 
 std::span<const FieldRow> field_rows() {
-  return kFields;
+  static const std::vector<FieldRow> kRows = with_choices();
+  return kRows;
 }
 
 std::span<const ReportGroupRow> report_group_rows() {

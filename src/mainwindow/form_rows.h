@@ -7,58 +7,31 @@
 #include <span>
 #include <string_view>
 
+#include "elements/form/fields.h"
 #include "observation/report_groups.h"
 #include "ship/data/KeyObservationItems.h"
-#include "text/texts.h"
 
 namespace mainwindow {
 
-/// Numbers by which a field names the element dialog that F1 opens.
-enum Element : int {
-  kObservationTime = 0,
-  kPosition = 1,
-  kCourseAndSpeed = 2,
-  kPressure = 3,
-  kPressureTendency = 4,
-  kPsychrometer = 5,
-  kTemperatureAndDewPoint = 6,
-  kSeaTemperature = 7,
-  kApparentWind = 8,
-  kWindWave = 9,
-  kSwell = 10,
-  kVisibility = 11,
-  kPresentWeather = 12,
-  kPastWeather = 13,
-  kCloudAmount = 14,
-  kLowestCloud = 15,
-  kUpperCloud = 16,
-  kMiddleCloud = 17,
-  kLowerCloud = 18,
-  kIceAccretion = 19,
-  kCloudHeight = 20,
-  kIceConcentration = 21,
-  kIceStage = 22,
-  kIceBearing = 23,
-  kIceTrend = 24,
-  kTrueWind = 25,
-  kRelativeHumidity = 26,  ///< has a dialog but no number of old
-  kNoElement = 99,
-};
+using enum elements::Element;
+using elements::Element;
+using elements::label_ref;
 
-/// Main labels: the English text stands this much behind the Japanese one.
-inline constexpr int kLabelsToEnglish = 74;
-[[nodiscard]] constexpr text::Ref label_ref(text::Id id) {
-  return {id, id ? kLabelsToEnglish : 0};
-}
-
-/// A label that opens an element's dialog. It does nothing when the element is switched off; a
-/// caption also moves the focus on to the field behind its own.
+/// A label over the fields of an element, which opens its dialog. It does nothing when its field is
+/// switched off; a caption also moves the focus on to the field behind its own.
 struct LabelRow {
   std::string_view name;
   text::Id label;
-  int element = kNoElement;
-  std::optional<ObservationItem> item = {};  ///< that switches the element off
-  std::string_view caption_of = {};  ///< the field that a caption stands at; none for a group
+  std::optional<elements::Field> of = {};  ///< none: it opens nothing
+  bool caption = false;
+
+  [[nodiscard]] Element element() const {
+    return of ? elements::row_of(*of).element : elements::kNoElement;
+  }
+  /// The item that switches it off.
+  [[nodiscard]] std::optional<ObservationItem> item() const {
+    return of ? elements::row_of(*of).item : std::nullopt;
+  }
 };
 [[nodiscard]] std::span<const LabelRow> label_rows();
 
@@ -70,16 +43,15 @@ enum class FieldKind : std::uint8_t {
   kFreeze,
 };
 
-/// A field of the form; the rows are in tab order.
+/// A control of the form: an entry field, or what is chosen beside one.
 struct FieldRow {
   std::string_view name;
-  text::Id label;  ///< main label, 0 for none
-  text::Ref unit = {};
-  int max_length = 0;
-  int element = kNoElement;
+  text::Id label = {};  ///< main label, or none
+  Element element = kNoElement;
   FieldKind kind = FieldKind::kEdit;
-  bool computed = false;  ///< with the other method the program computes it: locked, but shown
+  const elements::FieldRow* field = nullptr;  ///< of an edit
 };
+/// In tab order.
 [[nodiscard]] std::span<const FieldRow> field_rows();
 
 /// A group of the report under its fixed caption.

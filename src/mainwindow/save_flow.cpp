@@ -21,16 +21,8 @@ using observation::SaveOutcome;
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-struct Encoded {
-  std::string message;
-  std::string missing;
-};
-
-Encoded encode(const Saving& saving, text::Language language) {
-  Encoded encoded;
-  observation::encode_report(saving.record, encoded.message, encoded.missing,
-                             observation::wants_wet_bulb(saving.ship), language);
-  return encoded;
+observation::Report report_of(const Saving& saving) {
+  return observation::make_report(saving.record, observation::wants_wet_bulb(saving.ship));
 }
 
 // One message is one line: its own line breaks become blanks, so that neither its words nor two
@@ -181,7 +173,7 @@ void tell_failure(ui::Services& services, const std::string& path, platform::Fil
 }  // namespace
 
 std::string save_errors(const Saving& saving, const text::Texts& texts) {
-  std::string errors = encode(saving, texts.language).missing;
+  std::string errors = observation::missing_list(report_of(saving).missing, texts.language);
   for (const elements::CrossRule* rule : elements::broken_rules(saving.record))
     append_line(errors, texts.get(rule->message));
   for (const std::string& remark : saving.remarks) append_line(errors, remark);
@@ -204,8 +196,7 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
   // Without a folder the files would go wherever the program happens to run.
   if (saving.folders.reports.empty() || saving.folders.logbook.empty())
     return end_with(services, id::kSaveFailed, SaveEnd::kNotSaved);
-  const observation::SaveRequest request =
-      request_of(saving, encode(saving, services.texts.language).message);
+  const observation::SaveRequest request = request_of(saving, report_of(saving).text);
   std::optional<observation::SaveResult> result;
   {
     const CShowStatusDlg notice(services, id::kNowSaving);
@@ -223,8 +214,7 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
 bool is_saved(ui::Services& services, const Saving& saving) {
   if (!has_date(saving) || saving.folders.reports.empty() || saving.folders.logbook.empty())
     return false;
-  return observation::is_saved(services.files,
-                               request_of(saving, encode(saving, services.texts.language).message));
+  return observation::is_saved(services.files, request_of(saving, report_of(saving).text));
 }
 
 void tell_recovery(ui::Services& services, const Folders& folders,

@@ -1,6 +1,7 @@
 #include "observation/report_encoder.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/ids.h"
 
@@ -16,7 +17,8 @@ constexpr std::size_t kCallSignWidth = 7;
 /// Writes groups to the end of the message and takes back those that turn out to hold nothing.
 class Composer {
  public:
-  Composer(const Struct_Weather& record, std::string& message) : record_(record), out_(message) {}
+  Composer(const Struct_Weather& record, Report& report)
+      : record_(record), report_(report), out_(report.text) {}
 
   void add(const GroupRow& row, bool wet_bulb_wanted) {
     switch (row.written) {
@@ -46,14 +48,6 @@ class Composer {
     out_.append(".....");
   }
 
-  /// Where the missing groups are noted, and in which language; nowhere at first.
-  void note_into(std::string& missing, text::Language language) {
-    missing_ = &missing;
-    language_ = language;
-  }
-  /// Where the groups written are listed; nowhere at first.
-  void list_into(std::vector<Group>& list) { list_ = &list; }
-
  private:
   void separate() {
     if (!out_.empty() && out_.back() != ' ') out_.push_back(' ');
@@ -62,7 +56,7 @@ class Composer {
   void write(const GroupRow& row) {
     separate();
     append_group(out_, record_, row.group);
-    if (list_ != nullptr) list_->push_back(row.group);
+    report_.written.insert(row.group);
   }
 
   void write_unless_all_missing(const GroupRow& row) {
@@ -71,19 +65,12 @@ class Composer {
     append_group(out_, record_, row.group);
     if (is_all_missing(std::string_view(out_).substr(start), row))
       out_.resize(start);
-    else if (list_ != nullptr)
-      list_->push_back(row.group);
+    else
+      report_.written.insert(row.group);
   }
 
   void note(const GroupRow& row) {
-    if (missing_ == nullptr || !row.missing_label || !is_incomplete(record_, row.group)) return;
-    if (no_value_.empty()) {
-      missing_->reserve(kFullList);
-      no_value_ = text::bilingual(text::id::kNoValueInput, language_);
-    }
-    missing_->append(text::entry(row.missing_label));
-    missing_->append(no_value_);
-    missing_->append("\r\n");
+    if (row.missing_label && is_incomplete(record_, row.group)) report_.missing.insert(row.group);
   }
 
   // The text of a group for a decision; it is built at the end of the message and taken off again,
@@ -120,11 +107,8 @@ class Composer {
   }
 
   const Struct_Weather& record_;
+  Report& report_;
   std::string& out_;
-  std::string* missing_ = nullptr;
-  text::Language language_ = text::Language::kEnglish;
-  std::string_view no_value_;  ///< looked up when the first group is noted
-  std::vector<Group>* list_ = nullptr;
 };
 
 }  // namespace
@@ -133,27 +117,50 @@ bool wants_wet_bulb(const ShipFixedData& ship) {
   return ship.dew_point_method == DewPointMethod::kComputed;
 }
 
-int encode_report(const Struct_Weather& record, std::string& message, std::string& missing,
-                  bool wet_bulb_wanted, text::Language language) {
-  missing.clear();
-  message.reserve(message.size() + kFullReport);
-  message.append("BBXX ");
-  message.append(record.CallSign, 0, kCallSignWidth);
-  message.push_back(' ');
-  Composer composer(record, message);
-  composer.note_into(missing, language);
-  for (const GroupRow& row : group_rows()) composer.add(row, wet_bulb_wanted);
-  composer.finish();
-  return 0;
+std::vector<Group> GroupSet::in_order() const {
+  std::vector<Group> groups;
+  for (const GroupRow& row : group_rows()) {
+    if (contains(row.group)) groups.push_back(row.group);
+  }
+  return groups;
 }
 
-std::vector<Group> groups_in_report(const Struct_Weather& record, bool wet_bulb_wanted) {
-  std::vector<Group> list;
-  std::string scratch;
-  Composer composer(record, scratch);
-  composer.list_into(list);
+Report make_report(const Struct_Weather& record, bool wet_bulb_wanted) {
+  Report report;
+  std::string& text = report.text;
+  text.reserve(kFullReport);
+  text.append("BBXX ");
+  text.append(record.CallSign, 0, kCallSignWidth);
+  text.push_back(' ');
+  Composer composer(record, report);
   for (const GroupRow& row : group_rows()) composer.add(row, wet_bulb_wanted);
+  composer.finish();
+  return report;
+}
+
+std::string missing_list(const GroupSet& missing, text::Language language) {
+  std::string list;
+  if (missing.empty()) return list;
+  list.reserve(kFullList);
+  const std::string_view no_value = text::bilingual(text::id::kNoValueInput, language);
+  for (const GroupRow& row : group_rows()) {
+    if (!missing.contains(row.group)) continue;
+    list.append(text::entry(row.missing_label)).append(no_value).append("\r\n");
+  }
   return list;
+}
+
+int encode_report(const Struct_Weather& record, std::string& message, std::string& missing,
+                  bool wet_bulb_wanted, text::Language language) {
+  Report report = make_report(record, wet_bulb_wanted);
+  if (message.empty()) {
+    message = std::move(report.text);
+  } else {
+    message.append(report.text);
+    std::replace(message.begin(), message.end(), '*', '/');
+  }
+  missing = missing_list(report.missing, language);
+  return 0;
 }
 
 }  // namespace observation

@@ -1,6 +1,7 @@
 #pragma once
 // One observation to the text of a ship report (FM 13 SHIP) and the list of what still lacks input.
 
+#include <bitset>
 #include <string>
 #include <vector>
 
@@ -13,15 +14,36 @@ namespace observation {
 /// True when a save asks for the wet-bulb group: the dew point is computed from dry and wet bulb.
 [[nodiscard]] bool wants_wet_bulb(const ShipFixedData& ship);
 
-/// Appends the report to `message`, "BBXX" to "....."; every "*" of the message ends as "/".
-/// Replaces `missing` by one line for each group with an empty field, in the order of the message,
-/// each ended by CR LF; groups that were left out for having nothing in them are noted too, the
-/// wet-bulb group only when asked for. Always 0.
+/// Some groups of the report.
+class GroupSet {
+ public:
+  void insert(Group group) { set_.set(static_cast<std::size_t>(group)); }
+  [[nodiscard]] bool contains(Group group) const {
+    return set_.test(static_cast<std::size_t>(group));
+  }
+  [[nodiscard]] bool empty() const { return set_.none(); }
+  /// In the order of the message.
+  [[nodiscard]] std::vector<Group> in_order() const;
+  bool operator==(const GroupSet&) const = default;
+
+ private:
+  std::bitset<kGroups> set_;
+};
+
+struct Report {
+  std::string text;  ///< "BBXX" to "....."; every "*" of a group is a "/"
+  GroupSet written;
+  /// Groups with an empty field, also such as were left out for having nothing in them; the
+  /// wet-bulb group only when it is wanted.
+  GroupSet missing;
+};
+[[nodiscard]] Report make_report(const Struct_Weather& record, bool wet_bulb_wanted);
+
+/// One line for each missing group, in the order of the message, each ended by CR LF.
+[[nodiscard]] std::string missing_list(const GroupSet& missing, text::Language language);
+
+/// Both as texts: appends the report to `message` and replaces `missing` by the list. Always 0.
 int encode_report(const Struct_Weather& record, std::string& message, std::string& missing,
                   bool wet_bulb_wanted, text::Language language);
-
-/// The groups that encode_report() writes, in order.
-[[nodiscard]] std::vector<Group> groups_in_report(const Struct_Weather& record,
-                                                  bool wet_bulb_wanted);
 
 }  // namespace observation

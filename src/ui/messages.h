@@ -7,13 +7,13 @@
 #include <string_view>
 
 #include "platform/ports.h"
-#include "text/messages.h"
 #include "text/texts.h"
 #include "ui/windows.h"
 
 namespace ui {
 
-using text::QuestionMode;
+/// Which buttons a question has.
+enum class QuestionMode { kOkCancel = 1, kYesNoCancel = 3, kYesNo = 4 };
 
 /// Two buttons in the order Yes, No: kYes, or kNo for No and for closing.
 class CMessageBox1 {
@@ -53,7 +53,7 @@ class CMessageBox3 {
   MessageBox box_;
 };
 
-class Messages : public text::Messages {
+class Messages {
  public:
   Messages(text::Texts& texts, Windows& windows) : texts_(texts), windows_(windows) {}
 
@@ -63,11 +63,11 @@ class Messages : public text::Messages {
 
   /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
   /// "Check Error".
-  void error(text::Id id, std::string_view literal = {}) override;
+  void error(text::Id id, std::string_view literal = {});
   /// Error notice of a text whose "%s" and "%d" are filled in; `below`, when there is one, stands
   /// on a line of its own below it.
   void error_filled(text::Id id, std::initializer_list<std::string_view> arguments,
-                    std::string_view below = {}) override;
+                    std::string_view below = {});
 
   /// error_filled(), but the first time of the run only.
   void error_filled_once(text::Id id, std::initializer_list<std::string_view> arguments);
@@ -81,7 +81,7 @@ class Messages : public text::Messages {
   int question(std::string_view text, std::string_view title, QuestionMode mode,
                text::Id text_id = {});
   /// The same for a text of the table.
-  int question(text::Id id, QuestionMode mode, std::string_view title = {}) override {
+  int question(text::Id id, QuestionMode mode, std::string_view title = {}) {
     return question(texts_.get(id), title, mode, id);
   }
 

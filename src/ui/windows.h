@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "text/messages.h"
 #include "text/texts.h"
 
 namespace ui {
@@ -15,7 +14,7 @@ class Screen;
 // Results of the message boxes, and of screens.
 inline constexpr int kOk = 1;
 inline constexpr int kCancel = 2;
-using text::kYes;
+inline constexpr int kYes = 6;
 inline constexpr int kNo = 7;
 
 struct BoxButton {

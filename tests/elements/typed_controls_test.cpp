@@ -28,7 +28,7 @@ TEST(TypedControls, ReachTheRecordFromNoField) {
   for (std::size_t i = 0; i < elements::kFields; ++i) {
     const auto field = static_cast<elements::Field>(i);
     Form form;
-    form.form->messages_suppressed = true;
+    form.suppressed = true;
     for (const std::string value : {"1", "12", "2014", "1013.2", "-12.5", "//", "00"}) {
       for (const char control : control_characters()) {
         for (std::size_t at = 0; at <= value.size(); ++at) {
@@ -45,19 +45,19 @@ TEST(TypedControls, ReachTheRecordFromNoField) {
 TEST(TypedControls, ReachTheRecordFromNoGroup) {
   for (const observation::GroupRow& row : observation::group_rows()) {
     Form form;
-    form.form->messages_suppressed = true;
+    form.suppressed = true;
     std::string value(row.indicator);
     value.resize(row.width(), '1');
     for (const char control : control_characters()) {
       for (std::size_t at = 0; at <= value.size(); ++at) {
         std::string typed = value;
         typed.insert(at, 1, control);
-        (void)form.form->leave_group(row.group, typed);
+        (void)form.enter(row.group, typed);
         expect_sound(form, value, typed);
         if (at == value.size()) continue;
         typed = value;
         typed[at] = control;
-        (void)form.form->leave_group(row.group, typed);
+        (void)form.enter(row.group, typed);
         expect_sound(form, value, typed);
       }
     }

@@ -207,7 +207,7 @@ TEST(MainWindowLanguage, EveryLabelHasATextInBothLanguages) {
   for (int number = 11000; number <= 11073; ++number) {
     const text::Id label{number};
     EXPECT_TRUE(text::has_entry(label)) << label;
-    EXPECT_TRUE(text::has_entry(label + mainwindow::kLabelsToEnglish)) << label;
+    EXPECT_TRUE(text::has_entry(label + elements::kLabelsToEnglish)) << label;
   }
 }
 

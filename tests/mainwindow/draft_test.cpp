@@ -264,7 +264,7 @@ TEST(KeptEntries, KeepARefusedTextAndTheFieldThatIsBeingTyped) {
       copy.start();
       copy.type("VV", "97");
       ASSERT_TRUE(fakes::enter(copy.window, *copy.window.find("N"), typed));
-      if (refused) copy.world.windows.expect(elements::editor_of(elements::Field::kN).message);
+      if (refused) copy.world.windows.expect(elements::row_of(elements::Field::kN).editor.message);
       if (refused) copy.window.key(ui::Key::kTab);
       copy.window.idle();
       before = copy.state();
@@ -276,7 +276,7 @@ TEST(KeptEntries, KeepARefusedTextAndTheFieldThatIsBeingTyped) {
     EXPECT_EQ(next.window.focused()->name, "N");
     EXPECT_EQ(next.shown("N"), typed);
     EXPECT_EQ(next.window.find("N")->mark, refused ? "wrong" : "");
-    if (refused) next.world.windows.expect(elements::editor_of(elements::Field::kN).message);
+    if (refused) next.world.windows.expect(elements::row_of(elements::Field::kN).editor.message);
     next.window.key(ui::Key::kTab);
     EXPECT_EQ(next.window.form().record().N, refused ? "" : "4");
   }
@@ -762,8 +762,8 @@ TEST(KeptEntries, BearTheCallSignOfTheShip) {
   Computer computer;
   leave_behind(computer);
   auto read = elements::decode_draft(*computer.files.content(kDraft));
-  read.draft.form.entries.record.CallSign = "OTHER";
-  read.draft.form.entries.record.ShipFixed = "7654321";
+  read.draft.form.record.CallSign = "OTHER";
+  read.draft.form.record.ShipFixed = "7654321";
   computer.files.add_file(kDraft, elements::encode_draft(read.draft));
   Copy next(computer);
   next.world.windows.expect(id::kDraftFound, "yes");

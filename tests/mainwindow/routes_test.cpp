@@ -248,7 +248,7 @@ TEST(ElementDialogs, ThatAreNotThereYetSayThatThisVersionDoesNotHaveThem) {
       });
     }
     for (const mainwindow::LabelRow& label : mainwindow::label_rows()) {
-      if (label.element == row.element)
+      if (label.element() == row.element)
         says_so(label.name, [&](Opened& opened) { opened.press(label.name); });
     }
   }
@@ -275,8 +275,8 @@ TEST(ElementNumbers, OfTheFieldsAndLabelsAreInTheTable) {
         << row.name;
   }
   for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
-    EXPECT_TRUE(row.element == mainwindow::kNoElement ||
-                mainwindow::find_element(row.element) != nullptr)
+    EXPECT_TRUE(row.element() == mainwindow::kNoElement ||
+                mainwindow::find_element(row.element()) != nullptr)
         << row.name;
   }
 }
@@ -306,7 +306,7 @@ TEST(Captions, OpenTheirCodesDialogAndMoveTheFocusOn) {
     EXPECT_EQ(row.focus, opened->window.focused()->name) << row.name;
     for (const mainwindow::LabelRow& label : mainwindow::label_rows()) {
       if (label.name == row.name) {
-        EXPECT_EQ(row.element, label.element) << row.name;
+        EXPECT_EQ(row.element, label.element()) << row.name;
       }
     }
   }
@@ -316,9 +316,9 @@ TEST(Captions, OpenTheirCodesDialogAndMoveTheFocusOn) {
 
 TEST(SwitchedOffElements, HaveDeadLabels) {
   for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
-    if (!row.item) continue;
+    if (!row.item()) continue;
     KeyObservationItems items;
-    items.set_observed(*row.item, false);
+    items.set_observed(*row.item(), false);
     const auto opened = std::make_unique<Opened>(main_window::sample_ship(), items);
     const std::string before = opened->state();
     const ui::Control* const focused = opened->window.focused();
@@ -335,8 +335,7 @@ TEST(SwitchedOffElements, AreLockedAndSayWhy) {
     const auto opened = std::make_unique<Opened>(main_window::sample_ship(), items);
     int locked = 0;
     for (const mainwindow::FieldRow& row : mainwindow::field_rows()) {
-      const auto field = elements::field_named(row.name);
-      if (!field || elements::item_of(*field) != static_cast<ObservationItem>(i)) continue;
+      if (row.field == nullptr || row.field->item != static_cast<ObservationItem>(i)) continue;
       ++locked;
       ui::Control& control = opened->control(row.name);
       EXPECT_TRUE(control.read_only) << row.name;
@@ -385,9 +384,9 @@ TEST(Methods, ChooseTheTemperatureDialogs) {
       if (dialog.element != 5 && dialog.element != 6 && dialog.element != 26) continue;
       bool shown = false;
       ui::Control& label = opened->control(dialog.label);
-      const bool in_use =
-          mainwindow::find_element(dialog.element)
-              ->use({opened->ship, opened->items, opened->folders, {}}) == mainwindow::Use::kInUse;
+      const bool in_use = mainwindow::use_of(*mainwindow::find_element(dialog.element),
+                                             {opened->ship, opened->items, opened->folders, {}}) ==
+                          mainwindow::Use::kInUse;
       if (in_use) {
         opened->world.windows.expect_screen(dialog.class_name, [&](ui::Screen& screen) {
           shown = true;

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "records.h"
+#include "text/ids.h"
 
 namespace {
 
@@ -288,12 +289,37 @@ INSTANTIATE_TEST_SUITE_P(Rows, Swell,
                              SwellRow{"//", "//", "", "", "11", "03", "3//// 4//// 51103 ", "4"}));
 
 TEST(ShipReport, ListOfGroupsIsThatOfTheMessage) {
-  const auto list = observation::groups_in_report(fresh(), true);
-  EXPECT_EQ(list, (std::vector<Group>{Group::kYYGGiw, Group::k99LaLaLa, Group::kQcLoLoLoLo,
-                                      Group::kiRiXhVV, Group::kNddff, Group::k8NhCLCMCH,
-                                      Group::k222DsVs}));
-  EXPECT_EQ(observation::groups_in_report(full(), true).size(), observation::kGroups);
-  EXPECT_EQ(observation::groups_in_report(full(), false).size(), observation::kGroups - 1);
+  const auto written = [](const Struct_Weather& record, bool wet_bulb) {
+    return observation::make_report(record, wet_bulb).written.in_order();
+  };
+  EXPECT_EQ(
+      written(fresh(), true),
+      (std::vector<Group>{Group::kYYGGiw, Group::k99LaLaLa, Group::kQcLoLoLoLo, Group::kiRiXhVV,
+                          Group::kNddff, Group::k8NhCLCMCH, Group::k222DsVs}));
+  EXPECT_EQ(written(full(), true).size(), observation::kGroups);
+  EXPECT_EQ(written(full(), false).size(), observation::kGroups - 1);
+}
+
+// What is missing is a value; the list only words it.
+TEST(ShipReport, NamesTheMissingGroupsAsValuesAndTheListWordsThem) {
+  for (const bool wet_bulb : {false, true}) {
+    const observation::Report report = observation::make_report(fresh(), wet_bulb);
+    std::vector<Group> expected = {Group::kYYGGiw,    Group::k99LaLaLa, Group::kQcLoLoLoLo,
+                                   Group::kiRiXhVV,   Group::kNddff,    Group::k1SnTTT,
+                                   Group::k2SnTdTdTd, Group::k4PPPP,    Group::k5appp,
+                                   Group::k8NhCLCMCH, Group::k222DsVs,  Group::k0SsTwTwTw};
+    if (wet_bulb) expected.push_back(Group::k8SwTbTbTb);
+    EXPECT_EQ(report.missing.in_order(), expected);
+    for (const Language language : {Language::kEnglish, Language::kJapanese}) {
+      std::string lines;
+      for (const Group group : expected)
+        lines += std::string(text::entry(observation::row_of(group).missing_label)) +
+                 std::string(text::bilingual(text::id::kNoValueInput, language)) + "\r\n";
+      EXPECT_EQ(observation::missing_list(report.missing, language), lines);
+    }
+  }
+  EXPECT_TRUE(observation::make_report(full(), true).missing.empty());
+  EXPECT_EQ(observation::missing_list({}, Language::kJapanese), "");
 }
 
 }  // namespace

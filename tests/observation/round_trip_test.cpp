@@ -108,7 +108,7 @@ Struct_Weather expected(const Struct_Weather& record, bool wet_bulb) {
   Struct_Weather result = blank();
   result.CallSign = record.CallSign.substr(0, 7);
   std::replace(result.CallSign.begin(), result.CallSign.end(), '*', '/');
-  for (const Group group : observation::groups_in_report(record, wet_bulb))
+  for (const Group group : observation::make_report(record, wet_bulb).written.in_order())
     for (const Symbol& symbol : observation::row_of(group).used())
       result.*symbol.field = carried(record.*symbol.field, symbol);
   if (record.dw2dw2 == "00" && record.dw1dw1 != "00" && !result.dw2dw2.empty())

@@ -1,7 +1,5 @@
 #include "elements/form/cross_rules.h"
 
-#include <algorithm>
-
 #include "elements/form/field_codes.h"
 #include "elements/formulas/true_wind_rules.h"
 #include "text/ids.h"
@@ -94,79 +92,35 @@ bool half_an_exact_time(const W& r) {
 }
 
 constexpr CrossRule kRules[] = {
-    {id::kSteadyWithAmount,
-     {},
-     steady_with_amount,
-     [] {
-       return std::vector<Field>{Field::ka, Field::kppp};
-     }},
-    {id::kLowestAboveTotal, id::kCheckLowestCloud, lowest_above_total,
-     [] {
-       return std::vector<Field>{Field::kN, Field::kNh};
-     }},
+    {id::kSteadyWithAmount, {}, steady_with_amount, {Field::ka, Field::kppp}},
+    {id::kLowestAboveTotal, id::kCheckLowestCloud, lowest_above_total, {Field::kN, Field::kNh}},
     {id::kCloudTypesAllZero,
      {},
      cover_without_types,
-     [] {
-       return std::vector<Field>{Field::kN, Field::kCL, Field::kCM, Field::kCH};
-     }},
-    {id::kNoLowestCloudWithTypes,
-     {},
-     types_without_amount,
-     [] {
-       return std::vector<Field>{Field::kNh, Field::kCL, Field::kCM};
-     }},
-    {id::kLowestCloudWithoutTypes,
-     {},
-     amount_without_types,
-     [] {
-       return std::vector<Field>{Field::kNh, Field::kCL, Field::kCM};
-     }},
-    {id::kCalmDirectionWithSpeed,
-     {},
-     calm_with_speed,
-     [] { return std::vector<Field>{Field::kff}; }},
-    {id::kDirectionWithoutSpeed,
-     {},
-     direction_without_speed,
-     [] { return std::vector<Field>{Field::kff}; }},
-    {id::kDewPointAboveAir,
-     {},
-     dew_point_above_air,
-     [] {
-       return std::vector<Field>{Field::kAirTemperature, Field::kDewPoint};
-     }},
-    {id::kWetBulbAboveAir,
-     {},
-     wet_bulb_above_air,
-     [] {
-       return std::vector<Field>{Field::kDryBulb, Field::kWetBulb};
-     }},
+     {Field::kN, Field::kCL, Field::kCM, Field::kCH}},
+    {id::kNoLowestCloudWithTypes, {}, types_without_amount, {Field::kNh, Field::kCL, Field::kCM}},
+    {id::kLowestCloudWithoutTypes, {}, amount_without_types, {Field::kNh, Field::kCL, Field::kCM}},
+    {id::kCalmDirectionWithSpeed, {}, calm_with_speed, {Field::kff}},
+    {id::kDirectionWithoutSpeed, {}, direction_without_speed, {Field::kff}},
+    {id::kDewPointAboveAir, {}, dew_point_above_air, {Field::kAirTemperature, Field::kDewPoint}},
+    {id::kWetBulbAboveAir, {}, wet_bulb_above_air, {Field::kDryBulb, Field::kWetBulb}},
     {id::kPeriodNeedsHeight,
      {},
      no_waves_with_height<&W::PwPw, &W::HwHw>,
-     [] {
-       return std::vector<Field>{Field::kPwPw, Field::kHwHw};
-     }},
+     {Field::kPwPw, Field::kHwHw}},
     {id::kPeriodNeedsHeight,
      {},
      no_waves_with_height<&W::Pw1Pw1, &W::Hw1Hw1>,
-     [] {
-       return std::vector<Field>{Field::kPw1Pw1, Field::kHw1Hw1};
-     }},
+     {Field::kPw1Pw1, Field::kHw1Hw1}},
     {id::kPeriodNeedsHeight,
      {},
      no_waves_with_height<&W::Pw2Pw2, &W::Hw2Hw2>,
-     [] {
-       return std::vector<Field>{Field::kPw2Pw2, Field::kHw2Hw2};
-     }},
+     {Field::kPw2Pw2, Field::kHw2Hw2}},
     {id::kPeriodNeedsHeight,
      {},
      no_waves_with_height<&W::PwaPwa, &W::HwaHwa>,
-     [] {
-       return std::vector<Field>{Field::kPwaPwa, Field::kHwaHwa};
-     }},
-    {id::kHalfAnExactTime, {}, half_an_exact_time, [] { return std::vector<Field>{}; }},
+     {Field::kPwaPwa, Field::kHwaHwa}},
+    {id::kHalfAnExactTime, {}, half_an_exact_time, {}},
 };
 
 }  // namespace
@@ -185,9 +139,7 @@ std::vector<const CrossRule*> broken_rules(const Struct_Weather& record) {
 
 const CrossRule* broken_by(Field field, const Struct_Weather& record) {
   for (const CrossRule& rule : kRules) {
-    const auto raisers = rule.raised_by();
-    if (std::find(raisers.begin(), raisers.end(), field) != raisers.end() && rule.broken(record))
-      return &rule;
+    if (rule.raised_by.contains(field) && rule.broken(record)) return &rule;
   }
   return nullptr;
 }

@@ -2,6 +2,8 @@
 // Rules that relate two or more elements. The editors of the elements involved ask here when a
 // field is left, the save asks for all of them.
 
+#include <cstdint>
+#include <initializer_list>
 #include <span>
 #include <vector>
 
@@ -11,12 +13,28 @@
 
 namespace elements {
 
+/// Some fields.
+class FieldSet {
+ public:
+  constexpr FieldSet(std::initializer_list<Field> fields) {
+    for (const Field field : fields) bits_ |= bit(field);
+  }
+  [[nodiscard]] constexpr bool contains(Field field) const { return (bits_ & bit(field)) != 0; }
+
+ private:
+  static_assert(kFields <= 64);
+  static constexpr std::uint64_t bit(Field field) {
+    return std::uint64_t{1} << static_cast<unsigned>(field);
+  }
+  std::uint64_t bits_ = 0;
+};
+
 struct CrossRule {
   text::Id message;     ///< text id of the refusal
   text::Id check_text;  ///< text id, 0 for none
   bool (*broken)(const Struct_Weather& record);
   /// The fields whose editors raise it; none for a rule that only a save asks for.
-  std::vector<Field> (*raised_by)();
+  FieldSet raised_by;
 };
 
 [[nodiscard]] std::span<const CrossRule> cross_rules();

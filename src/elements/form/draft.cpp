@@ -148,33 +148,28 @@ void describe_enum(Lines& lines, string_view name, Enum& value, int none, int hi
 }
 
 template <class Lines>
-void describe_fields(Lines& lines, FormState& form) {
-  FormEntries& entries = form.entries;
-  for (std::size_t i = 0; i < kFields; ++i) {
-    const std::string name(name_of(static_cast<Field>(i)));
-    lines.text("text." + name, entries.texts[i]);
-    std::optional<std::string> before;
-    if (entries.typed[i]) before = form.before_typing[i];
-    lines.text_or_none("typed." + name, before);
-    entries.typed[i] = before.has_value();
-    form.before_typing[i] = before.value_or("");
-    lines.flag("wrong." + name, entries.error[i]);
-    lines.text_or_none("aside." + name, form.put_aside[i]);
+void describe_fields(Lines& lines, Entries& entries) {
+  for (const FieldRow& row : field_rows()) {
+    const std::string name(row.name);
+    Entry& entry = entries[row.field];
+    lines.text("text." + name, entry.text);
+    lines.text_or_none("typed." + name, entry.before_typing);
+    lines.flag("wrong." + name, entry.wrong);
+    lines.text_or_none("aside." + name, entry.put_aside);
   }
 }
 
 template <class Lines>
 void describe(Lines& lines, Draft& draft) {
-  FormState& form = draft.form;
-  FormEntries& entries = form.entries;
+  Entries& form = draft.form;
   lines.text("call_sign", draft.call_sign);
   lines.text("ship", draft.ship_mark);
   for (const WeatherField& field : weather_fields())
-    lines.text("record." + std::string(field.name), entries.record.*field.member);
+    lines.text("record." + std::string(field.name), form.record.*field.member);
   describe_fields(lines, form);
-  describe_enum(lines, "wet_bulb", entries.wet_bulb, -1, 1);
-  lines.number("north_south", entries.north_south, -1, -1, 1);
-  lines.number("east_west", entries.east_west, -1, -1, 1);
+  describe_enum(lines, "wet_bulb", form.wet_bulb, -1, 1);
+  lines.number("north_south", form.north_south, -1, -1, 1);
+  lines.number("east_west", form.east_west, -1, -1, 1);
   lines.text("PPPP_of_reading", form.pppp_of_reading);
   lines.text("dew_point_of_bulbs", form.dew_point_of_bulbs);
   describe_enum(lines, "dew_point_method", form.dew_point_method, 0, 1);
@@ -253,7 +248,7 @@ DraftRead decode_draft(string_view text) {
   DraftRead read{DraftFault::kNone, {}};
   Reader reader(*lines);
   describe(reader, read.draft);
-  if (!is_sound(read.draft.form.entries.record) || encode_draft(read.draft) != text) return {};
+  if (!is_sound(read.draft.form.record) || encode_draft(read.draft) != text) return {};
   return read;
 }
 

@@ -21,14 +21,14 @@
 #include <string>
 #include <string_view>
 
-#include "elements/form/form_state.h"
+#include "elements/form/entries.h"
 
 namespace elements {
 
 struct Draft {
   std::string call_sign;   ///< as in the ship's fixed data
   std::string ship_mark;   ///< see ship_mark()
-  FormState form;          ///< the working values of the record are not kept
+  Entries form;            ///< the working values of the record are not kept
   std::string typing_in;   ///< name of the control that was being typed into; empty: none was
   std::string group_text;  ///< what stood in it, when it is a group of the report
 };

@@ -11,80 +11,17 @@
 #include "text/strings.h"
 
 namespace elements {
-namespace {
-
-using W = Struct_Weather;
-
-struct MemberRow {
-  Field field;
-  std::string W::*member;
-};
-
-constexpr MemberRow kMembers[] = {
-    {Field::kYear, &W::Year},
-    {Field::kMonth, &W::Month},
-    {Field::kYY, &W::YY},
-    {Field::kGG, &W::GG},
-    {Field::kGGExact, &W::GGExact},
-    {Field::kgg, &W::gg},
-    {Field::kLaDeg, &W::LaDeg},
-    {Field::kLaMin, &W::LaMin},
-    {Field::kLoDeg, &W::LoDeg},
-    {Field::kLoMin, &W::LoMin},
-    {Field::kDs, &W::Ds},
-    {Field::kVs, &W::Vs},
-    {Field::ka, &W::a},
-    {Field::kppp, &W::ppp},
-    {Field::kdd, &W::dd},
-    {Field::kPwPw, &W::PwPw},
-    {Field::kHwHw, &W::HwHw},
-    {Field::kdw1dw1, &W::dw1dw1},
-    {Field::kPw1Pw1, &W::Pw1Pw1},
-    {Field::kHw1Hw1, &W::Hw1Hw1},
-    {Field::kdw2dw2, &W::dw2dw2},
-    {Field::kPw2Pw2, &W::Pw2Pw2},
-    {Field::kHw2Hw2, &W::Hw2Hw2},
-    {Field::kPwaPwa, &W::PwaPwa},
-    {Field::kHwaHwa, &W::HwaHwa},
-    {Field::kVV, &W::VV},
-    {Field::kww, &W::ww},
-    {Field::kW1, &W::W1},
-    {Field::kW2, &W::W2},
-    {Field::kN, &W::N},
-    {Field::kNh, &W::Nh},
-    {Field::kCH, &W::CH},
-    {Field::kCM, &W::CM},
-    {Field::kCL, &W::CL},
-    {Field::kh, &W::h},
-    {Field::kIs, &W::Is},
-    {Field::kEsEs, &W::EsEs},
-    {Field::kRs, &W::Rs},
-    {Field::kci, &W::ci},
-    {Field::kSi, &W::Si},
-    {Field::kbi, &W::bi},
-    {Field::kDi, &W::Di},
-    {Field::kzi, &W::zi},
-};
-
-bool is_wave_height(Field field) {
-  return field == Field::kHwHw || field == Field::kHw1Hw1 || field == Field::kHw2Hw2 ||
-         field == Field::kHwaHwa;
-}
-
-}  // namespace
-
-std::string Struct_Weather::*member_of(Field field) {
-  for (const MemberRow& row : kMembers) {
-    if (row.field == field) return row.member;
-  }
-  return nullptr;
-}
-
 std::string figures_of(Field field, std::string_view shown) {
-  if (is_wave_height(field)) return half_metre_figures(shown);
-  if (field == Field::kh) return cloud_base_code(shown);
-  if (field == Field::kppp) return tendency_stored(shown);
-  return std::string(shown);
+  switch (row_of(field).codec) {
+    case Codec::kHalfMetres:
+      return half_metre_figures(shown);
+    case Codec::kCloudBase:
+      return cloud_base_code(shown);
+    case Codec::kTendency:
+      return tendency_stored(shown);
+    default:
+      return std::string(shown);
+  }
 }
 
 // An iced bulb (2) has no sign of its own: it is below zero, or at 0.0.
@@ -93,23 +30,33 @@ bool wet_bulb_is_negative(const Struct_Weather& record) {
 }
 
 std::string shown_from_record(Field field, const Struct_Weather& record) {
-  if (field == Field::kPPPP) return pressure_shown(record.PPPP);
-  if (field == Field::kWetBulb)
-    return temperature_shown(wet_bulb_is_negative(record) ? "1" : "0", record.TbTbTb);
-  if (field == Field::kTwTwTw) {
-    return temperature_shown(is_below_zero(record.Ss) ? "1" : "0", record.TwTwTw);
+  const FieldRow& row = row_of(field);
+  if (row.codec == Codec::kNone) return {};
+  const std::string& figures = record.*row.member;
+  switch (row.codec) {
+    case Codec::kNone:
+    case Codec::kFigures:
+      break;
+    case Codec::kHalfMetres:
+      return metres_of_figures(figures);
+    case Codec::kCloudBase:
+      return figures == "/" ? figures : cloud_base_metres(figures);
+    case Codec::kTendency:
+      return tendency_shown(figures);
+    case Codec::kPressure:
+      return pressure_shown(figures);
+    case Codec::kTemperature:
+      return temperature_shown(record.*row.beside, figures);
+    case Codec::kWetBulb:
+      return temperature_shown(wet_bulb_is_negative(record) ? "1" : "0", figures);
+    case Codec::kSeaTemperature:
+      return temperature_shown(is_below_zero(record.*row.beside) ? "1" : "0", figures);
+    case Codec::kSpeed:
+      return (record.*row.beside).empty() ? figures : record.*row.beside;
+    case Codec::kHumidity:
+      if (!text::is_all_digits(figures)) return {};
+      return text::format_fixed(text::leading_int(figures) / 10.0, 1, 4, '0');
   }
-  if (field == Field::kff) return record.fff.empty() ? record.ff : record.fff;
-  if (field == Field::kHumidity) {
-    if (!text::is_all_digits(record.LogExtra)) return {};
-    return text::format_fixed(text::leading_int(record.LogExtra) / 10.0, 1, 4, '0');
-  }
-  std::string W::*const member = member_of(field);
-  if (member == nullptr) return {};
-  const std::string& figures = record.*member;
-  if (is_wave_height(field)) return metres_of_figures(figures);
-  if (field == Field::kh) return figures == "/" ? figures : cloud_base_metres(figures);
-  if (field == Field::kppp) return tendency_shown(figures);
   return figures;
 }
 

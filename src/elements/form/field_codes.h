@@ -9,18 +9,15 @@
 
 namespace elements {
 
-/// Member of the record that a field fills alone; nullptr for one that fills several, or none.
-[[nodiscard]] std::string Struct_Weather::*member_of(Field field);
-
-/// The figures for the member of a field: half metres for wave heights, code table 1600 for the
-/// cloud base, tenths for the tendency; all others as they are shown.
+/// The figures for the member of a field whose codec needs nothing but the text: half metres for
+/// wave heights, code table 1600 for the cloud base, tenths for the tendency; all others as they
+/// are shown.
 [[nodiscard]] std::string figures_of(Field field, std::string_view shown);
 
 /// True for a wet bulb below 0 degrees, iced or not.
 [[nodiscard]] bool wet_bulb_is_negative(const Struct_Weather& record);
 
-/// What the field shows for the record; empty for fields that the record does not hold (the
-/// barometer reading, the apparent wind).
+/// What the field shows for the record; empty for fields that the record does not hold.
 [[nodiscard]] std::string shown_from_record(Field field, const Struct_Weather& record);
 
 /// "-1.8" from "1" and "018"; figures that are no number come back as they are.

@@ -1,291 +1,281 @@
 #include "elements/form/observation_form.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "codetables/tables/sea_temperature_figures.h"
+#include "elements/form/derivation.h"
+#include "elements/form/entry_check.h"
 #include "elements/form/field_codes.h"
+#include "elements/form/typed_group.h"
 #include "elements/formulas/barometer_correction.h"
-#include "observation/report_encoder.h"
+#include "text/ids.h"
 #include "text/strings.h"
 
 namespace elements {
 
-using observation::Group;
+namespace id = text::id;
 
 ObservationForm::ObservationForm(const ShipFixedData& ship, const KeyObservationItems& items,
-                                 const text::Texts& texts, text::Messages& messages,
                                  const platform::Clock& clock)
-    : ship_(ship),
-      items_(items),
-      language_(texts),
-      messages_(messages),
-      clock_(clock),
-      record_(ship, items),
-      dew_point_method_(ship.dew_point_method),
-      sea_temperature_method_(ship.sea_temperature_method) {
+    : around_{ship, items, clock} {
+  now_.record = Struct_Weather(ship, items);
+  now_.dew_point_method = ship.dew_point_method;
+  now_.sea_temperature_method = ship.sea_temperature_method;
   items_changed();
-  modified_ = false;
 }
 
 bool ObservationForm::switched_off(Field field) const {
-  const auto item = item_of(field);
-  return item && !items_.observed(*item);
+  return is_switched_off(row_of(field), around_.items);
 }
 
-const std::string& ObservationForm::entered(Field field) const {
-  return typed_[at(field)] ? before_typing_[at(field)] : texts_[at(field)];
+bool ObservationForm::in_error(Field field) const {
+  return now_[field].wrong || is_impossible(field, record());
 }
 
-bool ObservationForm::any_error() const {
-  for (std::size_t i = 0; i < kFields; ++i) {
-    if (in_error(static_cast<Field>(i))) return true;
+std::vector<Notice> ObservationForm::remarks() const {
+  std::vector<Notice> notices;
+  for (const FieldRow& row : field_rows()) {
+    // A date that does not exist stops a save in its own way.
+    const bool wrong = row.field == Field::kYY ? now_[row.field].wrong : in_error(row.field);
+    if (!wrong) continue;
+    Notice notice = range_notice(row.field, record(), around_.clock);
+    notice.below = {};  // the list has one line for each
+    notices.push_back(std::move(notice));
   }
-  return false;
+  const ShipFixedData& ship = around_.ship;
+  if (ship.dew_point_method == DewPointMethod::kComputed && dew_point_is_of_bulbs(now_)) {
+    if (!dew_point_of_bulbs(now_, ship)) {
+      notices.push_back({id::kDewPointOfEarlierBulbs});
+    } else if (ship.card.type == CardType::kNotChosen) {
+      notices.push_back({id::kDoubledPressure});
+    }
+  }
+  return notices;
 }
 
-bool ObservationForm::take_review_due() {
-  return std::exchange(review_due_, false);
-}
-
-bool ObservationForm::take_doubled_pressure_due() {
-  return std::exchange(doubled_pressure_due_, false);
-}
-
-std::string ObservationForm::group_text(Group group) const {
-  return observation::group_text(record_, group);
-}
-
-std::string ObservationForm::report() const {
-  std::string message;
-  std::string missing;
-  observation::encode_report(record_, message, missing, observation::wants_wet_bulb(ship_),
-                             language_.language);
-  return message;
-}
-
-std::string ObservationForm::missing() const {
-  std::string message;
-  std::string missing;
-  observation::encode_report(record_, message, missing, observation::wants_wet_bulb(ship_),
-                             language_.language);
-  return missing;
+observation::Report ObservationForm::report() const {
+  return observation::make_report(record(), observation::wants_wet_bulb(around_.ship));
 }
 
 void ObservationForm::type(Field field, std::string_view text) {
   if (switched_off(field)) return;
-  if (!typed_[at(field)]) before_typing_[at(field)] = slot(field);
-  slot(field) = text;
-  typed_[at(field)] = true;
+  Entry& entry = now_[field];
+  if (!entry.before_typing) entry.before_typing = entry.text;
+  entry.text = text;
 }
 
-void ObservationForm::store_put(Field field, std::string_view text) {
-  const std::string earlier = entered(field);
-  if (text::trim(text).empty()) {
-    clear(field);
-  } else {
-    slot(field) = text;
-    store(field, slot(field));
-    // A speed loses its decimals, as it does when it is typed.
-    if (field == Field::kff) slot(field) = shown(field, record_);
+Answer ObservationForm::leave(Field field, Confirmed confirmed) {
+  if (switched_off(field)) return {};
+  Entry& entry = now_[field];
+  if (!entry.before_typing) {
+    if (!is_impossible(field, record())) return {};
+    now_.error_flag = true;
+    return refused(field == Field::kYY ? Notice{id::kDateInvalid}
+                                       : range_notice(field, record(), around_.clock));
   }
-  typed_[at(field)] = error_[at(field)] = false;
-  modified_ = modified_ || slot(field) != earlier;
+  std::string value;
+  if (const auto typed = text::trim(entry.text); !typed.empty()) {
+    CheckedEntry checked = check_entry(now_, around_, field, typed, confirmed);
+    if (!checked.answer.accepted()) {
+      entry.wrong = now_.error_flag = true;
+      return checked.answer;
+    }
+    value = std::move(checked.value);
+  }
+  const Struct_Weather before = record();
+  const std::string earlier = entry.entered();
+  // Where there was no reading, the pressure was typed by hand and is not of one.
+  const bool nothing_to_clear = field == Field::kReading && earlier.empty();
+  if (!value.empty()) {
+    store(now_, field, value, around_.ship);
+  } else if (!nothing_to_clear) {
+    clear(now_, field);
+  }
+  entry.show(value);
+  // Not everything that is entered goes into the record (the apparent wind).
+  if (value != earlier) now_.modified = true;
+  finish(before, row_of(field).follows, {field});
+  if (confirmed != kEveryQuestion) now_.error_flag = false;
+  return {};
 }
 
-void ObservationForm::put(Field field, std::string_view text) {
-  const Struct_Weather before = record_;
-  store_put(field, text);
-  follow(field);
-  show_changes(before, field);
-  touch(before);
+Answer ObservationForm::leave(observation::Group group, std::string_view typed,
+                              Confirmed confirmed) {
+  TypedGroup entry = type_group(record(), around_, group, typed, confirmed);
+  if (!entry.answer.accepted()) return entry.answer;
+  const Struct_Weather before = std::exchange(now_.record, std::move(entry.record));
+  // Signs change what other fields show (the temperature behind its sign, the speed of 99 and
+  // more), so the fields are right before anything is computed from them.
+  show_changes(now_, before, around_.ship);
+  Follows what = Follows::kNothing;
+  for (const Field field : entry.changed) what = what | row_of(field).follows;
+  finish(before, what);
+  return {};
 }
 
-void ObservationForm::put_bulbs(std::string_view dry, std::string_view wet, WetBulbState state) {
-  const Struct_Weather before = record_;
-  wet_bulb_ = state;
-  store_put(Field::kDryBulb, dry);
-  store_put(Field::kWetBulb, wet);
-  follow(Field::kDryBulb);
-  touch(before);
+// What every change of the record ends with.
+void ObservationForm::finish(const Struct_Weather& before, Follows what,
+                             const std::vector<Field>& but) {
+  now_ = derived(std::move(now_), around_.ship, what);
+  show_changes(now_, before, around_.ship, but);
+  if (!(record() == before)) now_.modified = true;
 }
 
-void ObservationForm::put_wet_bulb_state(WetBulbState state) {
-  const Struct_Weather before = record_;
-  wet_bulb_ = state;
-  if (const std::string wet = entered(Field::kWetBulb); !wet.empty()) store(Field::kWetBulb, wet);
-  compute_dew_point();
-  touch(before);
+void ObservationForm::choose_hemispheres(int north_south, int east_west) {
+  const std::string quadrant = quadrant_of(north_south, east_west);
+  now_.north_south = north_south;
+  now_.east_west = east_west;
+  if (quadrant != record().Qc) now_.review_due = now_.modified = true;
+  now_.record.Qc = quadrant;
 }
 
 void ObservationForm::toggle_freeze() {
   const auto wet = air_temperature_of(entered(Field::kWetBulb));
-  if (!wet) return;
-  put_wet_bulb_state(toggled_wet_bulb(wet_bulb_, *wet));
+  if (wet) put({}, toggled_wet_bulb(now_.wet_bulb, *wet));
 }
 
-void ObservationForm::choose_hemispheres(int north_south, int east_west) {
-  const Struct_Weather before = record_;
-  north_south_ = north_south;
-  east_west_ = east_west;
-  record_.Qc = quadrant_of(north_south, east_west);
-  if (record_.Qc != before.Qc) review_due_ = true;
-  touch(before);
+void ObservationForm::store_put(Field field, std::string_view text) {
+  Entry& entry = now_[field];
+  const std::string earlier = entry.entered();
+  std::string value(text);
+  if (text::trim(text).empty()) {
+    clear(now_, field);
+    value.clear();
+  } else {
+    store(now_, field, value, around_.ship);
+    // A speed loses its decimals, as it does when it is typed.
+    if (field == Field::kff) value = shown(row_of(field), record(), around_.ship);
+  }
+  entry.show(value);
+  if (value != earlier) now_.modified = true;
+}
+
+void ObservationForm::put(std::initializer_list<Value> values,
+                          std::optional<WetBulbState> wet_bulb) {
+  const Struct_Weather before = record();
+  Follows what = wet_bulb ? Follows::kDewPoint : Follows::kNothing;
+  now_.wet_bulb = wet_bulb.value_or(now_.wet_bulb);
+  std::vector<Field> fields;
+  for (const auto& [field, text] : values) {
+    fields.push_back(field);
+    store_put(field, text);
+    what = what | row_of(field).follows;
+  }
+  // The sign of the wet bulb tells its state, so a state alone stores the value anew.
+  if (wet_bulb && fields.empty()) {
+    fields.push_back(Field::kWetBulb);
+    if (const std::string wet = entered(Field::kWetBulb); !wet.empty())
+      store(now_, Field::kWetBulb, wet, around_.ship);
+  }
+  finish(before, what, fields);
 }
 
 void ObservationForm::change(const std::function<void(Struct_Weather&)>& change,
                              std::initializer_list<Field> of_dialog) {
-  const Struct_Weather before = record_;
-  change(record_);
-  show_changes(before);
-  for (const Field field : of_dialog) {
-    slot(field) = shown(field, record_);
-    typed_[at(field)] = error_[at(field)] = false;
-  }
-  touch(before);
+  const Struct_Weather before = record();
+  change(now_.record);
+  finish(before, Follows::kNothing);
+  for (const Field field : of_dialog)
+    now_[field].show(shown(row_of(field), record(), around_.ship));
 }
 
 void ObservationForm::ship_changed() {
-  const Struct_Weather before = record_;
-  const bool was_modified = modified_;
-  const Struct_Weather fresh(ship_, items_);
-  record_.iw = fresh.iw;
-  record_.CallSign = fresh.CallSign;
-  record_.ShipFixed = fresh.ShipFixed;
-  if (dew_point_method_ != ship_.dew_point_method) {
-    // The same air temperature stands in another field now.
-    dew_point_method_ = ship_.dew_point_method;
-    for (const Field field :
-         {Field::kDryBulb, Field::kWetBulb, Field::kAirTemperature, Field::kDewPoint}) {
-      slot(field) = shown(field, record_);
-      typed_[at(field)] = error_[at(field)] = false;
+  const ShipFixedData& ship = around_.ship;
+  const Struct_Weather before = record();
+  const bool was_modified = modified();
+  Struct_Weather& record = now_.record;
+  const Struct_Weather fresh(ship, around_.items);
+  record.iw = fresh.iw;
+  record.CallSign = fresh.CallSign;
+  record.ShipFixed = fresh.ShipFixed;
+  if (std::exchange(now_.dew_point_method, ship.dew_point_method) != ship.dew_point_method) {
+    // The same temperatures stand in other fields now.
+    for (const FieldRow& row : field_rows()) {
+      if (row.shown_with || row.codec == Codec::kWetBulb)
+        now_[row.field].show(shown(row, record, ship));
     }
   }
   // The method stands in the sign's figure. One that was chosen for this observation alone stays.
-  const auto method = elements::sea_temperature_method(record_.Ss);
-  if (method == sea_temperature_method_)
-    record_.Ss = sea_temperature_sign(ship_.sea_temperature_method, is_below_zero(record_.Ss));
-  sea_temperature_method_ = ship_.sea_temperature_method;
+  if (sea_temperature_method(record.Ss) == now_.sea_temperature_method)
+    record.Ss = sea_temperature_sign(ship.sea_temperature_method, is_below_zero(record.Ss));
+  now_.sea_temperature_method = ship.sea_temperature_method;
   put_unused_aside();
-  const Struct_Weather as_entered = record_;
-  reduce_again();
-  compute_dew_point();
-  if (true_wind_of_texts(apparent_wind())) compute_true_wind();
-  show_changes(before);
-  modified_ = was_modified || !(record_ == as_entered);
+  const Struct_Weather as_entered = record;
+  Follows what = Follows::kReductionAgain | Follows::kDewPoint;
+  // Without a whole apparent wind a true one that stands there was entered as such.
+  if (true_wind_of(now_)) what = what | Follows::kTrueWind;
+  finish(before, what);
+  now_.modified = was_modified || !(record == as_entered);
+}
+
+void ObservationForm::card_changed() {
+  finish(Struct_Weather(record()), Follows::kReductionAgain | Follows::kDewPoint);
 }
 
 void ObservationForm::items_changed() {
-  const bool was_modified = modified_;
-  record_.iX = Struct_Weather(ship_, items_).iX;
+  const bool was_modified = modified();
+  now_.record.iX = Struct_Weather(around_.ship, around_.items).iX;
   put_unused_aside();
-  modified_ = was_modified;
+  now_.modified = was_modified;
 }
 
-// An element that is not observed, or that no instrument measures any more, gives its entry up and
-// gets it back.
+// Not observed, or measured by no instrument of this ship.
+bool ObservationForm::is_unused(const FieldRow& row) const {
+  return switched_off(row.field) || (row.needs_wave_recorder && !around_.ship.wave_recorder);
+}
+
+// An unused element gives its entry up and gets it back.
 void ObservationForm::put_unused_aside() {
-  for (std::size_t i = 0; i < kFields; ++i) {
-    const auto field = static_cast<Field>(i);
-    const bool off = switched_off(field);
-    const bool unused = off || (needs_wave_recorder(field) && !ship_.wave_recorder);
-    if (unused == put_aside_[i].has_value()) continue;
+  for (const FieldRow& row : field_rows()) {
+    Entry& entry = now_[row.field];
+    if (is_unused(row) == entry.put_aside.has_value()) continue;
     // Present and past weather are filled, so that their group says "not observed"; other elements
     // stay empty.
-    const bool filled = field == Field::kww || field == Field::kW1 || field == Field::kW2;
-    if (put_aside_[i]) {
-      const std::string entry = *std::exchange(put_aside_[i], std::nullopt);
-      if (filled) clear(field);
-      if (!entry.empty()) put(field, entry);
+    const bool filled = !row.not_observed.empty();
+    if (entry.put_aside) {
+      const std::string back = *std::exchange(entry.put_aside, std::nullopt);
+      if (filled) clear(now_, row.field);
+      if (!back.empty()) put(row.field, back);
       continue;
     }
-    put_aside_[i] = entered(field);
-    clear(field);
-    typed_[i] = error_[i] = false;
-    if (filled && off) store(field, slot(field) = field == Field::kww ? "//" : "/");
+    entry.put_aside = entry.entered();
+    clear(now_, row.field);
+    entry.show({});
+    if (!filled || !switched_off(row.field)) continue;
+    entry.text = row.not_observed;
+    store(now_, row.field, entry.text, around_.ship);
   }
 }
 
-FormState ObservationForm::state() const {
-  FormState state{before_group_ ? *before_group_ : entries(),
-                  {},
-                  put_aside_,
-                  pppp_of_reading_,
-                  dew_point_of_bulbs_,
-                  dew_point_method_,
-                  sea_temperature_method_,
-                  error_flag_,
-                  modified_,
-                  review_due_,
-                  doubled_pressure_due_};
-  for (std::size_t i = 0; i < kFields; ++i) {
-    if (state.entries.typed[i]) state.before_typing[i] = before_typing_[i];
-  }
-  return state;
+void ObservationForm::load(const Entries& entries) {
+  now_ = entries;
+  now_.record.CallSign = around_.ship.call_sign;
+  now_.record.ShipFixed = around_.ship.imo_number;
 }
 
-void ObservationForm::load(const FormState& state) {
-  restore(state.entries);
-  record_.CallSign = ship_.call_sign;  // the ship's, whatever the state was made with
-  record_.ShipFixed = ship_.imo_number;
-  before_typing_ = state.before_typing;
-  put_aside_ = state.put_aside;
-  pppp_of_reading_ = state.pppp_of_reading;
-  dew_point_of_bulbs_ = state.dew_point_of_bulbs;
-  dew_point_method_ = state.dew_point_method;
-  sea_temperature_method_ = state.sea_temperature_method;
-  error_flag_ = state.error_flag;
-  modified_ = state.modified;
-  review_due_ = state.review_due;
-  doubled_pressure_due_ = state.doubled_pressure_due;
+void ObservationForm::load_record(const Struct_Weather& record) {
+  const ShipFixedData& ship = around_.ship;
+  Entries loaded;
+  loaded.record = record;
+  loaded.dew_point_method = ship.dew_point_method;
+  loaded.sea_temperature_method = ship.sea_temperature_method;
+  loaded.north_south = north_south_of(record.Qc);
+  loaded.east_west = east_west_of(record.Qc);
+  if (record.Sw == "2") loaded.wet_bulb = WetBulbState::kIced;
+  for (const FieldRow& row : field_rows()) {
+    Entry& entry = loaded[row.field];
+    entry.text = shown(row, record, ship);
+    // What this ship does not observe any more was observed then: it stays until it is switched on
+    // again, and then it comes back as any entry put aside.
+    if (is_unused(row)) entry.put_aside = entry.text;
+  }
+  // A dew point beside its bulbs is theirs, and does not outlive them.
+  if (record.has_wet_bulb()) loaded.dew_point_of_bulbs = record.SnTd + record.TdTdTd;
+  now_ = std::move(loaded);
 }
 
-void ObservationForm::touch(const Struct_Weather& before) {
-  if (!(record_ == before)) modified_ = true;
-}
-
-void ObservationForm::show_changes(const Struct_Weather& before, std::optional<Field> except) {
-  for (std::size_t i = 0; i < kFields; ++i) {
-    const auto field = static_cast<Field>(i);
-    std::string now = shown(field, record_);
-    if (field == except || now == shown(field, before)) continue;
-    texts_[i] = std::move(now);
-    typed_[i] = error_[i] = false;
-  }
-  if (record_.Qc != before.Qc) {
-    north_south_ = north_south_of(record_.Qc);
-    east_west_ = east_west_of(record_.Qc);
-  }
-  const auto place = [](const Struct_Weather& r) {
-    return std::array<std::string, 9>{r.Year,  r.Month, r.YY,    r.GG,   r.Qc,
-                                      r.LaDeg, r.LaMin, r.LoDeg, r.LoMin};
-  };
-  if (place(record_) != place(before)) review_due_ = true;
-  if (record_.Sw == before.Sw) return;
-  if (record_.Sw == "2") {
-    wet_bulb_ = WetBulbState::kIced;
-  } else if (wet_bulb_ == WetBulbState::kIced) {
-    wet_bulb_ = WetBulbState::kNotSet;
-  }
-}
-
-std::string ObservationForm::shown(Field field, const Struct_Weather& record) const {
-  switch (field) {
-    case Field::kDryBulb:
-      return ship_.dew_point_method == DewPointMethod::kComputed
-                 ? temperature_shown(record.SnT, record.TTT)
-                 : std::string();
-    case Field::kAirTemperature:
-      return ship_.dew_point_method == DewPointMethod::kComputed
-                 ? std::string()
-                 : temperature_shown(record.SnT, record.TTT);
-    case Field::kDewPoint:
-      return ship_.dew_point_method == DewPointMethod::kComputed
-                 ? std::string()
-                 : temperature_shown(record.SnTd, record.TdTdTd);
-    default:
-      return shown_from_record(field, record);
-  }
+Doubts ObservationForm::take_doubts() {
+  return {std::exchange(now_.review_due, false), std::exchange(now_.doubled_pressure_due, false)};
 }
 
 }  // namespace elements

@@ -252,10 +252,9 @@ TEST(CodeTables, WhatTheFormAcceptsHasAMeaning) {
   const std::set<std::string> without_meaning = {"Rs 5"};
   std::set<std::string> missing;
   std::set<std::string> asked;
-  for (const elements::EditorRow& row : elements::editor_rows()) {
-    std::string Struct_Weather::*const member = elements::member_of(row.field);
-    if (member == nullptr) continue;
-    const std::string_view symbol = symbol_of(member);
+  for (const elements::FieldRow& row : elements::field_rows()) {
+    if (row.member == nullptr || row.beside != nullptr) continue;
+    const std::string_view symbol = symbol_of(row.member);
     if (has_no_table(symbol)) continue;
     const CodeTable* const table = codetables::table_of(symbol);
     ASSERT_NE(table, nullptr) << symbol;
@@ -263,7 +262,7 @@ TEST(CodeTables, WhatTheFormAcceptsHasAMeaning) {
     for (int number = 0; number <= 9999; ++number) typed.push_back(text::format_int(number));
     for (int number = 0; number <= 9; ++number) typed.push_back("0" + text::format_int(number));
     for (const std::string& one : typed) {
-      const elements::Checked checked = elements::check_field(row, one);
+      const elements::Checked checked = elements::check_field(row.editor, one);
       if (checked.verdict == elements::Verdict::kRefused) continue;
       const std::string figures = elements::figures_of(row.field, checked.text);
       asked.insert(std::string(symbol) + " " + figures);

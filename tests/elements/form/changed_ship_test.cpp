@@ -54,7 +54,7 @@ TEST(ChangedShip, AMethodChosenForThisObservationAloneStays) {
   empty.ship.sea_temperature_method = SeaTemperatureMethod::kOther;
   empty.form->ship_changed();
   EXPECT_EQ(empty.record().Ss, "");
-  ASSERT_TRUE(empty.form->leave_group(Group::k0SsTwTwTw, "0////"));
+  ASSERT_TRUE(empty.enter(Group::k0SsTwTwTw, "0////"));
   empty.ship.sea_temperature_method = SeaTemperatureMethod::kBucket;
   empty.form->ship_changed();
   EXPECT_EQ(empty.record().Ss, "/");
@@ -69,11 +69,23 @@ TEST(ChangedShip, WavesOfARecorderThatIsNotThereAreNotSent) {
   ASSERT_TRUE(f.enter(Field::kHwaHwa, "2.5"));
   f.ship.wave_recorder = false;
   f.form->ship_changed();
-  EXPECT_EQ(f.form->group_text(Group::k1PwaPwaHwaHwa), "1****");
+  EXPECT_EQ(observation::group_text(f.record(), Group::k1PwaPwaHwaHwa), "1****");
   f.ship.wave_recorder = true;
   f.form->ship_changed();
-  EXPECT_EQ(f.form->group_text(Group::k1PwaPwaHwaHwa), "10605");
+  EXPECT_EQ(observation::group_text(f.record(), Group::k1PwaPwaHwaHwa), "10605");
   EXPECT_EQ(f.form->text(Field::kHwaHwa), "2.5");
+}
+
+// A refused direction would stay marked in a field that is locked once the wind is computed.
+TEST(ChangedShip, ARefusedTrueWindGivesWayToTheApparentOne) {
+  Form f;
+  f.world.windows.expect(text::id::kTrueDirectionRange);
+  EXPECT_FALSE(f.enter(Field::kdd, "x"));
+  f.ship.wind_input_method = WindInputMethod::kApparentWind;
+  f.form->ship_changed();
+  ASSERT_TRUE(f.enter(Field::kApparentDirection, "45"));
+  EXPECT_EQ(f.form->text(Field::kdd), "");
+  EXPECT_FALSE(f.form->in_error(Field::kdd));
 }
 
 struct Change {
@@ -168,7 +180,7 @@ TEST(Unsaved, AFieldThatWasOnlyVisitedOrEmptiedAgainIsNoEntry) {
   Form f;
   for (std::size_t i = 0; i < elements::kFields; ++i) {
     const auto field = static_cast<Field>(i);
-    EXPECT_TRUE(f.form->leave(field));
+    EXPECT_TRUE(f.leave(field));
     EXPECT_TRUE(f.enter(field, ""));
     EXPECT_FALSE(f.form->modified()) << elements::name_of(field);
   }
@@ -188,7 +200,7 @@ TEST(OfADialog, FieldsShowTheRecordAlsoWhereItHeldTheValue) {
   EXPECT_TRUE(f.form->in_error(Field::kYY)) << "no field of that dialog";
   f.form->change([](Struct_Weather&) {}, {Field::kYY});
   EXPECT_EQ(f.form->text(Field::kYY), "");
-  EXPECT_FALSE(f.form->any_error());
+  EXPECT_FALSE(f.any_error());
 }
 
 }  // namespace

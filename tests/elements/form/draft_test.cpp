@@ -23,7 +23,7 @@ using form_test::RandomEntries;
 
 std::string encoded(const Form& form) {
   return elements::encode_draft(
-      {form.ship.call_sign, elements::ship_mark(form.ship), form.form->state(), {}, {}});
+      {form.ship.call_sign, elements::ship_mark(form.ship), form.form->entries(), {}, {}});
 }
 
 /// All that can be seen of a form, and all that it holds.
@@ -33,8 +33,9 @@ std::string everything(const Form& form) {
     const auto field = static_cast<Field>(i);
     result += form.form->entered(field) + (form.form->in_error(field) ? "!" : ";");
   }
-  for (const std::string& remark : form.form->remarks()) result += remark;
-  return result + form.form->report() + form.form->missing();
+  for (const std::string& remark : form.remarks()) result += remark;
+  return result + form.form->report().text +
+         observation::missing_list(form.form->report().missing, text::Language::kEnglish);
 }
 
 /// Another start of the program on the same ship takes the text over.
@@ -43,7 +44,7 @@ std::unique_ptr<Form> taken_over(const Form& from, const std::string& text) {
   form->ship = from.ship;
   form->items = from.items;
   form->rebuild();
-  form->form->messages_suppressed = from.form->messages_suppressed;
+  form->suppressed = from.suppressed;
   const elements::DraftRead read = elements::decode_draft(text);
   EXPECT_EQ(read.fault, DraftFault::kNone) << text;
   form->form->load(read.draft.form);
@@ -75,7 +76,7 @@ TEST(Draft, OfAnyFormIsThatFormAndGoesOnLikeIt) {
 
 TEST(Draft, HoldsWhatTheRecordDoesNot) {
   Form form;
-  form.form->messages_suppressed = true;
+  form.suppressed = true;
   form.ship.wind_input_method = WindInputMethod::kApparentWind;
   EXPECT_TRUE(form.enter(Field::kReading, "1010.8"));
   EXPECT_TRUE(form.enter(Field::kDryBulb, "-1.0"));
@@ -96,8 +97,8 @@ TEST(Draft, HoldsWhatTheRecordDoesNot) {
   EXPECT_EQ(text.find("\neast_west="), std::string::npos);
   const auto read = taken_over(form, text);
   EXPECT_EQ(read->form->text(Field::kReading), "1010.8");
-  EXPECT_EQ(read->form->wet_bulb_state(), elements::WetBulbState::kIced);
-  EXPECT_EQ(read->form->north_south(), 0);
+  EXPECT_EQ(read->form->entries().wet_bulb, elements::WetBulbState::kIced);
+  EXPECT_EQ(read->form->entries().north_south, 0);
   EXPECT_EQ(read->form->text(Field::kN), "x");
   EXPECT_TRUE(read->form->in_error(Field::kN));
   EXPECT_TRUE(read->form->modified());
@@ -125,16 +126,16 @@ TEST(Draft, KeepsAnyBytesOfATextInReadableLines) {
                                "\xc0\xaf"};
   for (const std::string& typed : texts) {
     Draft draft;
-    draft.form.entries.texts[0] = typed;
-    draft.form.put_aside[1] = typed;
+    draft.form.fields[0].text = typed;
+    draft.form.fields[1].put_aside = typed;
     draft.typing_in = draft.group_text = typed;
     const std::string text = elements::encode_draft(draft);
     for (const char c : text)
       EXPECT_TRUE(c == '\n' || static_cast<unsigned char>(c) >= ' ') << text;
     const elements::DraftRead read = elements::decode_draft(text);
     ASSERT_EQ(read.fault, DraftFault::kNone) << text;
-    EXPECT_EQ(read.draft.form.entries.texts[0], typed);
-    EXPECT_EQ(read.draft.form.put_aside[1], typed);
+    EXPECT_EQ(read.draft.form.fields[0].text, typed);
+    EXPECT_EQ(read.draft.form.fields[1].put_aside, typed);
     EXPECT_EQ(read.draft.typing_in, typed);
     EXPECT_EQ(read.draft.group_text, typed);
   }
@@ -236,41 +237,21 @@ TEST(Draft, MarkOfTheShipChangesWithWhatTheFormComputesWith) {
   EXPECT_EQ(elements::ship_mark(same), mark) << "as the file may write it";
 }
 
-// While a group is being tried its symbols stand in the record, and a message may be open; killed
-// then, the program must not have kept what nobody accepted.
-TEST(Draft, KeepsNothingOfAGroupThatIsBeingTried) {
+// The officer reads why a group is refused, or thinks about a question, when the program is killed:
+// it must not have kept what nobody accepted.
+TEST(Draft, KeepsNothingOfAGroupThatIsNotAccepted) {
+  using Kind = elements::Answer::Kind;
   Form form;
   EXPECT_TRUE(form.enter(Field::kN, "5"));
   EXPECT_TRUE(form.enter(Field::kVV, "97"));
   const std::string before = encoded(form);
-  std::string during;
-  struct Looking : ui::Windows {
-    std::function<void()> look;
-    int show_message(const ui::MessageBox& box) override {
-      look();
-      return box.close_result;
-    }
-    int run_modal(ui::Screen&) override { return 0; }
-    void show_notice(ui::Screen&) override {}
-    void hide_notice(ui::Screen&) override {}
-    void pause(int) override {}
-    std::optional<std::string> browse_for_folder(const std::string&, const std::string&) override {
-      return std::nullopt;
-    }
-  } windows;
-  ui::Messages messages(form.world.texts, windows);
-  elements::ObservationForm watched(form.ship, form.items, form.world.texts, messages,
-                                    form.world.clock);
-  watched.load(form.form->state());
-  const auto now = [&] {
-    return elements::encode_draft(
-        {form.ship.call_sign, elements::ship_mark(form.ship), watched.state(), {}, {}});
-  };
-  windows.look = [&] { during = now(); };
-  EXPECT_EQ(now(), before);
-  ASSERT_FALSE(watched.leave_group(observation::Group::kNddff, "74099"));
-  EXPECT_EQ(during, before);
-  EXPECT_EQ(now().find("record.N=7"), std::string::npos);
+  for (const auto& [typed, answered] :
+       {std::pair{"74099", Kind::kRefused}, {"72799", Kind::kAsks}}) {
+    EXPECT_EQ(form.form->leave(observation::Group::kNddff, typed).kind, answered) << typed;
+    EXPECT_EQ(encoded(form), before) << typed;
+  }
+  EXPECT_TRUE(form.form->leave(observation::Group::kNddff, "72799", 1).accepted());
+  EXPECT_NE(encoded(form).find("record.N=7"), std::string::npos);
 }
 
 }  // namespace

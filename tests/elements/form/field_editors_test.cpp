@@ -178,7 +178,7 @@ TEST(FieldEditors, EveryFieldHasOneRowHereAndThere) {
   for (const FiguresRow& row : kFigures) EXPECT_TRUE(here.insert(row.field).second);
   for (const NumberRow& row : kNumbers) EXPECT_TRUE(here.insert(row.field).second);
   EXPECT_EQ(here.size(), elements::kFields);
-  EXPECT_EQ(elements::editor_rows().size(), elements::kFields);
+  EXPECT_EQ(elements::field_rows().size(), elements::kFields);
 }
 
 TEST(FieldEditors, FiguresAreTakenInTheirRangeAndFilledWithZeros) {
@@ -278,8 +278,8 @@ TEST(FieldEditors, HoursAreTheEightOfTheReports) {
 // Minus zero is zero, also where it only comes of the rounding.
 TEST(FieldEditors, EverySignedNumberTakesMinusZeroAsZero) {
   int seen = 0;
-  for (const elements::EditorRow& row : elements::editor_rows()) {
-    if (row.accepts != elements::Accepts::kNumber || row.low >= 0) continue;
+  for (const elements::FieldRow& row : elements::field_rows()) {
+    if (row.editor.accepts != elements::Accepts::kNumber || row.editor.low >= 0) continue;
     ++seen;
     for (const char* const typed : {"-0", "-0.0", "-.0", "-0.04", "+0", "0"}) {
       Form f;
@@ -385,7 +385,7 @@ TEST(FieldEditors, WildTextsAreRefusedInBothLanguagesAndChangeNothing) {
         ASSERT_TRUE(f.enter(Field::kww, "61"));
         if (field == Field::kww) continue;
         const std::string before = f.state(field);
-        const elements::EditorRow& row = elements::editor_of(field);
+        const elements::Editor& row = elements::row_of(field).editor;
         // Any number of figures, cut behind its first decimal, is a reading of no possible
         // pressure.
         const bool is_reading =

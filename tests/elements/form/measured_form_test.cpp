@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "elements/form/form_under_test.h"
-#include "elements/form/observation_form.h"
-#include "fakes/fake_ports.h"
 #include "text/ids.h"
 
 namespace {
@@ -29,7 +27,7 @@ struct Form : form_test::Form {
 TEST(CardChange, ReducesThePressureAndTheDewPointFollows) {
   Form f;
   ASSERT_TRUE(f.enter(Field::kReading, "1013.2"));
-  f.form->put_bulbs("30.0", "15.0", WetBulbState::kNotSet);
+  f.form->put({{Field::kDryBulb, "30.0"}, {Field::kWetBulb, "15.0"}}, WetBulbState::kNotSet);
   EXPECT_EQ(f.record().PPPP, "0132");
   const std::string at_full_load = f.dew_point();
   f.ship.card.loading_state = LoadingState::kInBallast;
@@ -60,7 +58,7 @@ TEST(CardChange, MarksAReadingThatGivesAnImpossiblePressure) {
   f.form->card_changed();
   EXPECT_TRUE(f.form->in_error(Field::kReading));
   EXPECT_EQ(f.record().PPPP, "0499");
-  EXPECT_EQ(f.form->remarks().size(), 1U);
+  EXPECT_EQ(f.remarks().size(), 1U);
   f.ship.card.loading_state = LoadingState::kFullLoad;
   f.form->card_changed();
   EXPECT_FALSE(f.form->in_error(Field::kReading));
@@ -69,13 +67,13 @@ TEST(CardChange, MarksAReadingThatGivesAnImpossiblePressure) {
 // Between the old dry bulb and the new wet bulb lies an air that nobody observed.
 TEST(Bulbs, OfADialogAreTakenTogether) {
   Form f;
-  f.form->put_bulbs("26.0", "25.0", WetBulbState::kNotSet);
+  f.form->put({{Field::kDryBulb, "26.0"}, {Field::kWetBulb, "25.0"}}, WetBulbState::kNotSet);
   const std::string observed = f.dew_point();
   EXPECT_EQ(observed, "0246");
-  f.form->put_bulbs("30.0", "10.0", WetBulbState::kNotSet);
+  f.form->put({{Field::kDryBulb, "30.0"}, {Field::kWetBulb, "10.0"}}, WetBulbState::kNotSet);
   EXPECT_EQ(f.record().TTT + f.record().TbTbTb, "300100");
   EXPECT_EQ(f.dew_point(), observed);
-  f.form->put_bulbs("", "10.0", WetBulbState::kNotSet);
+  f.form->put({{Field::kDryBulb, ""}, {Field::kWetBulb, "10.0"}}, WetBulbState::kNotSet);
   EXPECT_EQ(f.dew_point(), "");
 }
 
@@ -93,29 +91,29 @@ TEST(Bulbs, KeepWhatTheOfficerSaidAboutIce) {
                          Row{"0.1", WetBulbState::kIced, WetBulbState::kNotSet, "0"},
                          Row{"-1.0", WetBulbState::kNotSet, WetBulbState::kNotSet, "1"}}) {
     Form f;
-    f.form->put_bulbs("10.0", row.wet, row.said);
-    EXPECT_EQ(f.form->wet_bulb_state(), row.kept) << row.wet;
+    f.form->put({{Field::kDryBulb, "10.0"}, {Field::kWetBulb, row.wet}}, row.said);
+    EXPECT_EQ(f.form->entries().wet_bulb, row.kept) << row.wet;
     EXPECT_EQ(f.record().Sw, row.Sw) << row.wet;
   }
 }
 
 TEST(Bulbs, TypedAsAGroupTellTheirIceAndTheDewPointFollows) {
   Form f;
-  f.form->put_bulbs("0.0", "-2.0", WetBulbState::kNotSet);
+  f.form->put({{Field::kDryBulb, "0.0"}, {Field::kWetBulb, "-2.0"}}, WetBulbState::kNotSet);
   const std::string over_water = f.dew_point();
-  ASSERT_TRUE(f.form->leave_group(Group::k8SwTbTbTb, "82020"));
-  EXPECT_EQ(f.form->wet_bulb_state(), WetBulbState::kIced);
+  ASSERT_TRUE(f.enter(Group::k8SwTbTbTb, "82020"));
+  EXPECT_EQ(f.form->entries().wet_bulb, WetBulbState::kIced);
   EXPECT_NE(f.dew_point(), over_water);
-  ASSERT_TRUE(f.form->leave_group(Group::k8SwTbTbTb, "81020"));
-  EXPECT_EQ(f.form->wet_bulb_state(), WetBulbState::kNotSet);
+  ASSERT_TRUE(f.enter(Group::k8SwTbTbTb, "81020"));
+  EXPECT_EQ(f.form->entries().wet_bulb, WetBulbState::kNotSet);
   EXPECT_EQ(f.dew_point(), over_water);
 }
 
 TEST(Bulbs, ASignTypedAloneChangesTheDewPoint) {
   Form f;
-  f.form->put_bulbs("2.0", "-2.0", WetBulbState::kNotSet);
+  f.form->put({{Field::kDryBulb, "2.0"}, {Field::kWetBulb, "-2.0"}}, WetBulbState::kNotSet);
   const std::string before = f.dew_point();
-  ASSERT_TRUE(f.form->leave_group(Group::k8SwTbTbTb, "80020"));
+  ASSERT_TRUE(f.enter(Group::k8SwTbTbTb, "80020"));
   EXPECT_NE(f.dew_point(), before);
 }
 
@@ -180,7 +178,7 @@ TEST(Reading, RefusesAsksAndTakesByThePressureAtSeaLevel) {
     EXPECT_EQ(f.enter(Field::kReading, row.reading), *row.pppp != '\0');
     EXPECT_EQ(f.record().PPPP, row.pppp);
     Form quiet;
-    quiet.form->messages_suppressed = true;
+    quiet.suppressed = true;
     EXPECT_EQ(quiet.enter(Field::kReading, row.reading), *row.pppp != '\0');
     EXPECT_EQ(quiet.record().PPPP, row.pppp);
     EXPECT_EQ(quiet.form->in_error(Field::kReading), *row.pppp == '\0');

@@ -53,8 +53,9 @@ TEST(MinusZero, OfBothBulbsIsZero) {
     ASSERT_EQ(screen.result(), ui::kOk);
     EXPECT_EQ(screen.values().dry, row.text);
     EXPECT_EQ(screen.values().wet, row.text);
-    roads.psychrometer.form->put_bulbs(screen.values().dry, screen.values().wet,
-                                       screen.values().state);
+    roads.psychrometer.form->put(
+        {{Field::kDryBulb, screen.values().dry}, {Field::kWetBulb, screen.values().wet}},
+        screen.values().state);
     EXPECT_EQ(roads.psychrometer.record().SnT, row.sign) << row.whole;
     EXPECT_EQ(roads.psychrometer.record().Sw, row.sign) << row.whole;
     EXPECT_EQ(roads.psychrometer.form->text(Field::kDryBulb), row.text);

@@ -185,13 +185,13 @@ TEST(MissingValues, TypedAsAGroupTakeWhatWasComputedFromThemAlong) {
     ASSERT_TRUE(f.enter(Field::kWetBulb, "15.0"));
     ASSERT_EQ(dew_point(f), "0116");
     ASSERT_EQ(f.record().LogExtra, "0580");
-    ASSERT_TRUE(f.form->leave_group(row.group, row.typed));
+    ASSERT_TRUE(f.enter(row.group, row.typed));
     for (const auto member : row.gone) EXPECT_EQ(f.record().*member, "");
     EXPECT_EQ(f.form->text(Field::kHumidity), "");
     // Nothing of it is computed anew from the rest.
     ASSERT_TRUE(f.enter(Field::kReading, "1000.0"));
     EXPECT_EQ(dew_point(f), "");
-    f.form->put_wet_bulb_state(WetBulbState::kIced);
+    f.form->put({}, WetBulbState::kIced);
     EXPECT_EQ(dew_point(f), "");
     EXPECT_NE(f.record().TbTbTb, "000");
   }
@@ -205,7 +205,7 @@ TEST(MissingValues, OfTheAirTemperatureTakeTheHumidityAlong) {
     ASSERT_TRUE(f.enter(Field::kAirTemperature, "20.0"));
     ASSERT_TRUE(f.enter(Field::kDewPoint, "10.0"));
     ASSERT_EQ(f.record().LogExtra, "0530");
-    ASSERT_TRUE(f.form->leave_group(Group::k1SnTTT, typed));
+    ASSERT_TRUE(f.enter(Group::k1SnTTT, typed));
     EXPECT_EQ(f.record().LogExtra, "") << typed;
     EXPECT_EQ(dew_point(f), "0100") << "it was read, not computed";
   }
@@ -213,7 +213,7 @@ TEST(MissingValues, OfTheAirTemperatureTakeTheHumidityAlong) {
 
 TEST(DewPoint, ThatWasTypedAsAGroupStaysWithoutBulbs) {
   Form f;
-  ASSERT_TRUE(f.form->leave_group(Group::k2SnTdTdTd, "20100"));
+  ASSERT_TRUE(f.enter(Group::k2SnTdTdTd, "20100"));
   ASSERT_TRUE(f.enter(Field::kDryBulb, "20.0"));
   EXPECT_EQ(dew_point(f), "0100");
   EXPECT_EQ(f.record().LogExtra, "0530");
@@ -229,7 +229,7 @@ TEST(DewPoint, DoesNotOutliveABulbThatIsEmptiedInItsField) {
     ASSERT_TRUE(f.enter(Field::kWetBulb, "15.0"));
     ASSERT_TRUE(f.enter(bulb, ""));
     EXPECT_EQ(dew_point(f) + f.record().LogExtra, "");
-    EXPECT_TRUE(f.form->remarks().empty());
+    EXPECT_TRUE(f.remarks().empty());
   }
 }
 
@@ -244,10 +244,10 @@ TEST(DewPoint, OfEarlierBulbsIsNamedInTheListOfASave) {
     ASSERT_TRUE(f.enter(Field::kWetBulb, "1.0"));
     EXPECT_EQ(dew_point(f), "0116");
     EXPECT_EQ(f.record().LogExtra, "");
-    EXPECT_EQ(f.form->remarks(), std::vector<std::string>{std::string(
-                                     text::bilingual(id::kDewPointOfEarlierBulbs, language))});
+    EXPECT_EQ(f.remarks(), std::vector<std::string>{std::string(
+                               text::bilingual(id::kDewPointOfEarlierBulbs, language))});
     ASSERT_TRUE(f.enter(Field::kWetBulb, "15.0"));
-    EXPECT_TRUE(f.form->remarks().empty());
+    EXPECT_TRUE(f.remarks().empty());
     EXPECT_EQ(f.record().LogExtra, "0580");
   }
 }
@@ -258,21 +258,21 @@ TEST(DoubledPressure, IsComputedWithAndTold) {
   f.ship.card = {};
   f.rebuild();
   ASSERT_TRUE(f.enter(Field::kDryBulb, "20.0"));
-  EXPECT_FALSE(f.form->take_doubled_pressure_due());
+  EXPECT_FALSE(f.form->take_doubts().doubled_pressure);
   ASSERT_TRUE(f.enter(Field::kWetBulb, "15.0"));
   EXPECT_EQ(dew_point(f), "0075");
-  EXPECT_TRUE(f.form->take_doubled_pressure_due());
-  EXPECT_FALSE(f.form->take_doubled_pressure_due()) << "told once";
+  EXPECT_TRUE(f.form->take_doubts().doubled_pressure);
+  EXPECT_FALSE(f.form->take_doubts().doubled_pressure) << "told once";
   const std::vector<std::string> told{std::string(f.world.texts.get(id::kDoubledPressure))};
-  EXPECT_EQ(f.form->remarks(), told);
-  f.form->put_bulbs("20.0", "15.0", WetBulbState::kNotSet);
-  EXPECT_FALSE(f.form->take_doubled_pressure_due()) << "the same dew point";
-  f.form->put_bulbs("21.0", "15.0", WetBulbState::kNotSet);
-  EXPECT_TRUE(f.form->take_doubled_pressure_due());
+  EXPECT_EQ(f.remarks(), told);
+  f.form->put({{Field::kDryBulb, "20.0"}, {Field::kWetBulb, "15.0"}}, WetBulbState::kNotSet);
+  EXPECT_FALSE(f.form->take_doubts().doubled_pressure) << "the same dew point";
+  f.form->put({{Field::kDryBulb, "21.0"}, {Field::kWetBulb, "15.0"}}, WetBulbState::kNotSet);
+  EXPECT_TRUE(f.form->take_doubts().doubled_pressure);
   f.ship.card = card();
   f.form->card_changed();
-  EXPECT_FALSE(f.form->take_doubled_pressure_due());
-  EXPECT_TRUE(f.form->remarks().empty());
+  EXPECT_FALSE(f.form->take_doubts().doubled_pressure);
+  EXPECT_TRUE(f.remarks().empty());
 }
 
 TEST(DoubledPressure, IsNotToldOfADewPointThatWasReadDirectly) {
@@ -282,8 +282,8 @@ TEST(DoubledPressure, IsNotToldOfADewPointThatWasReadDirectly) {
   f.rebuild();
   ASSERT_TRUE(f.enter(Field::kAirTemperature, "20.0"));
   ASSERT_TRUE(f.enter(Field::kDewPoint, "10.0"));
-  EXPECT_FALSE(f.form->take_doubled_pressure_due());
-  EXPECT_TRUE(f.form->remarks().empty());
+  EXPECT_FALSE(f.form->take_doubts().doubled_pressure);
+  EXPECT_TRUE(f.remarks().empty());
 }
 
 // A group that is typed touches no value of another: the dew point stays that of its bulbs.
@@ -295,7 +295,7 @@ TEST(DewPoint, StaysOfItsBulbsWhenOtherGroupsAreTyped) {
   ASSERT_EQ(computed, "1000") << "printed -0.0";
   for (const auto& [group, typed] :
        {std::pair{Group::k222DsVs, "22223"}, {Group::k4PPPP, "40132"}, {Group::kNddff, "52712"}}) {
-    ASSERT_TRUE(f.form->leave_group(group, typed));
+    ASSERT_TRUE(f.enter(group, typed));
     EXPECT_EQ(dew_point(f), computed) << typed;
   }
   ASSERT_TRUE(f.enter(Field::kWetBulb, ""));

@@ -18,7 +18,7 @@ TEST(ObservationForm, StoresAnAcceptedFieldZeroFilledAndRebuildsItsGroup) {
   EXPECT_TRUE(f.enter(Field::kww, " 5 "));
   EXPECT_EQ(f.record().ww, "05");
   EXPECT_EQ(f.form->text(Field::kww), "05");
-  EXPECT_EQ(f.form->group_text(Group::k7wwW1W2), "705**");
+  EXPECT_EQ(observation::group_text(f.record(), Group::k7wwW1W2), "705**");
   EXPECT_TRUE(f.form->modified());
 }
 
@@ -31,7 +31,7 @@ TEST(ObservationForm, EmptyTextClearsTheFieldAndItsError) {
   EXPECT_EQ(f.record().ww, "05");
   EXPECT_TRUE(f.enter(Field::kww, "  "));
   EXPECT_EQ(f.record().ww, "");
-  EXPECT_FALSE(f.form->any_error());
+  EXPECT_FALSE(f.any_error());
 }
 
 TEST(ObservationForm, ABlankInsideRefuses) {
@@ -43,7 +43,7 @@ TEST(ObservationForm, ABlankInsideRefuses) {
 
 TEST(ObservationForm, SuppressedMessagesStillRefuseAndCountQuestionsAsYes) {
   Form f;
-  f.form->messages_suppressed = true;
+  f.suppressed = true;
   EXPECT_FALSE(f.enter(Field::kww, "xx"));
   EXPECT_TRUE(f.form->in_error(Field::kww));
   EXPECT_TRUE(f.enter(Field::kff, "85"));
@@ -54,7 +54,7 @@ TEST(ObservationForm, AFigureOfADialogIsNotRefusedWhenTheFocusPassesThrough) {
   Form f;
   f.form->change([](Struct_Weather& r) { r.zi = "0"; });
   EXPECT_EQ(f.form->text(Field::kzi), "0");
-  EXPECT_TRUE(f.form->leave(Field::kzi));
+  EXPECT_TRUE(f.leave(Field::kzi));
   f.world.windows.expect(id::kIceTrendRange);
   EXPECT_FALSE(f.enter(Field::kzi, "0"));
   EXPECT_EQ(f.record().zi, "0");
@@ -69,7 +69,7 @@ TEST(ObservationForm, TheDaysBoundsAreThoseOfItsMonth) {
   EXPECT_TRUE(f.enter(Field::kYY, "28"));
   ASSERT_TRUE(f.enter(Field::kMonth, "3"));
   ASSERT_TRUE(f.enter(Field::kYY, "31"));
-  EXPECT_FALSE(f.form->any_error());
+  EXPECT_FALSE(f.any_error());
 }
 
 TEST(ObservationForm, TheYearsBoundsAreNamed) {
@@ -214,7 +214,7 @@ TEST(ObservationForm, SwitchedOffWeatherIsFilledAndLockedAndComesBack) {
   f.items.set_observed(ObservationItem::W1W2, false);
   f.form->items_changed();
   EXPECT_EQ(f.record().iX, "3");
-  EXPECT_EQ(f.form->group_text(Group::k7wwW1W2), "7////");
+  EXPECT_EQ(observation::group_text(f.record(), Group::k7wwW1W2), "7////");
   f.items = {};
   f.form->items_changed();
   EXPECT_EQ(f.record().ww, "61");
@@ -266,13 +266,13 @@ TEST(ObservationForm, AGroupTypedWholeFillsItsFields) {
   };
   for (const GroupRow& row : rows) {
     Form f;
-    EXPECT_TRUE(f.form->leave_group(row.group, row.typed)) << row.typed;
-    EXPECT_EQ(f.form->group_text(row.group), row.shown);
-    EXPECT_TRUE(f.form->leave_group(row.group, "")) << row.typed;
-    EXPECT_EQ(
-        f.form->group_text(row.group).find_first_of("56789", row.group == Group::kICE ? 4 : 3),
-        std::string::npos)
-        << f.form->group_text(row.group);
+    EXPECT_TRUE(f.enter(row.group, row.typed)) << row.typed;
+    EXPECT_EQ(observation::group_text(f.record(), row.group), row.shown);
+    EXPECT_TRUE(f.enter(row.group, "")) << row.typed;
+    EXPECT_EQ(observation::group_text(f.record(), row.group)
+                  .find_first_of("56789", row.group == Group::kICE ? 4 : 3),
+              std::string::npos)
+        << observation::group_text(f.record(), row.group);
   }
 }
 
@@ -283,7 +283,7 @@ TEST(ObservationForm, AGroupOfTheWrongShapeIsRefusedWhole) {
     ASSERT_TRUE(f.enter(Field::kPPPP, "9987"));
     const Struct_Weather before = f.record();
     f.world.windows.expect(id::kInputError);
-    EXPECT_FALSE(f.form->leave_group(Group::k4PPPP, typed)) << typed;
+    EXPECT_FALSE(f.enter(Group::k4PPPP, typed)) << typed;
     EXPECT_TRUE(f.record() == before);
   }
 }
@@ -292,11 +292,11 @@ TEST(ObservationForm, AGroupWithOneWrongSymbolStoresNone) {
   Form f;
   const Struct_Weather before = f.record();
   f.world.windows.expect(id::kVisibilityRange);
-  EXPECT_FALSE(f.form->leave_group(Group::kiRiXhVV, "41489"));
+  EXPECT_FALSE(f.enter(Group::kiRiXhVV, "41489"));
   EXPECT_TRUE(f.record() == before);
   EXPECT_EQ(f.form->text(Field::kh), "");
   f.world.windows.expect(id::kSignRange);
-  EXPECT_FALSE(f.form->leave_group(Group::k1SnTTT, "12015"));
+  EXPECT_FALSE(f.enter(Group::k1SnTTT, "12015"));
   EXPECT_TRUE(f.record() == before);
 }
 
@@ -310,12 +310,12 @@ TEST(ObservationForm, ADayThatTheNewMonthDoesNotHaveIsTheOneToBeCorrected) {
   EXPECT_EQ(f.record().Month, "11");
   EXPECT_TRUE(f.form->in_error(Field::kYY));
   f.world.windows.expect(id::kDateInvalid);
-  EXPECT_FALSE(f.form->leave(Field::kYY));
+  EXPECT_FALSE(f.leave(Field::kYY));
   EXPECT_EQ(f.record().YY, "31");
   f.world.windows.expect(id::kDayRange);
   EXPECT_FALSE(f.enter(Field::kYY, "31"));
   EXPECT_TRUE(f.enter(Field::kYY, "01"));
-  EXPECT_FALSE(f.form->any_error());
+  EXPECT_FALSE(f.any_error());
 }
 
 TEST(ObservationForm, AYearMayMakeThe29thOfFebruaryImpossible) {
@@ -348,10 +348,10 @@ TEST(ObservationForm, NothingLiesBeyondThePoleAndTheDateLine) {
     // The degrees are right; the minutes wait to be corrected.
     ASSERT_TRUE(f.enter(row.degrees, row.limit));
     f.world.windows.expect(row.message);
-    EXPECT_FALSE(f.form->leave(row.minutes));
-    EXPECT_EQ(f.form->remarks().size(), 1U);
+    EXPECT_FALSE(f.leave(row.minutes));
+    EXPECT_EQ(f.remarks().size(), 1U);
     EXPECT_TRUE(f.enter(row.minutes, "00"));
-    EXPECT_TRUE(f.form->remarks().empty());
+    EXPECT_TRUE(f.remarks().empty());
   }
 }
 
@@ -383,26 +383,26 @@ TEST(ObservationForm, ATimeFarFromTheNominalHourAsks) {
 
 TEST(ObservationForm, TheErrorFlagOutlastsSuppressedEntries) {
   Form f;
-  f.form->messages_suppressed = true;
+  f.suppressed = true;
   EXPECT_FALSE(f.enter(Field::kww, "xx"));
   EXPECT_TRUE(f.enter(Field::kVV, "97"));
   EXPECT_TRUE(f.enter(Field::kww, ""));
-  EXPECT_FALSE(f.form->any_error());
-  EXPECT_TRUE(f.form->error_flag());
-  f.form->messages_suppressed = false;
+  EXPECT_FALSE(f.any_error());
+  EXPECT_TRUE(f.form->entries().error_flag);
+  f.suppressed = false;
   EXPECT_TRUE(f.enter(Field::kVV, "96"));
-  EXPECT_FALSE(f.form->error_flag());
+  EXPECT_FALSE(f.form->entries().error_flag);
 }
 
 TEST(ObservationForm, EveryRefusedEntryIsNamedForTheSave) {
   Form f;
-  f.form->messages_suppressed = true;
+  f.suppressed = true;
   EXPECT_FALSE(f.enter(Field::kYear, "1999"));
   EXPECT_FALSE(f.enter(Field::kHwHw, "15"));
   const std::vector<std::string> expected = {
       "Error: Input data is out of range.\nIt must be \"1999<YEAR<=2015\"",
       "14.5 >= HW >=0.0 Or //"};
-  EXPECT_EQ(f.form->remarks(), expected);
+  EXPECT_EQ(f.remarks(), expected);
 }
 
 TEST(ObservationForm, APressureTypedOverClearsTheCharacteristicOnTheFormToo) {
@@ -442,7 +442,7 @@ TEST(ObservationForm, TheLoadingStateChangesThePressure) {
   f.ship.card.loading_state = LoadingState::kInBallast;
   f.form->card_changed();
   EXPECT_EQ(f.form->text(Field::kPPPP), "1016.2");
-  EXPECT_EQ(f.form->group_text(Group::k4PPPP), "40162");
+  EXPECT_EQ(observation::group_text(f.record(), Group::k4PPPP), "40162");
 }
 
 TEST(ObservationForm, ARefusedWetBulbLeavesItsStateAlone) {
@@ -450,11 +450,11 @@ TEST(ObservationForm, ARefusedWetBulbLeavesItsStateAlone) {
   ASSERT_TRUE(f.enter(Field::kDryBulb, "0.0"));
   ASSERT_TRUE(f.enter(Field::kWetBulb, "-1.0"));
   f.form->toggle_freeze();
-  ASSERT_EQ(f.form->wet_bulb_state(), elements::WetBulbState::kIced);
+  ASSERT_EQ(f.form->entries().wet_bulb, elements::WetBulbState::kIced);
   EXPECT_EQ(f.record().Sw, "2");
   f.world.windows.expect(id::kWetBulbAboveAir);
   EXPECT_FALSE(f.enter(Field::kWetBulb, "0.5"));
-  EXPECT_EQ(f.form->wet_bulb_state(), elements::WetBulbState::kIced);
+  EXPECT_EQ(f.form->entries().wet_bulb, elements::WetBulbState::kIced);
   EXPECT_EQ(f.form->text(Field::kWetBulb), "0.5");
   // What is refused counts for nothing that is derived.
   const std::string dew_point = f.record().TdTdTd;
@@ -467,7 +467,7 @@ TEST(ObservationForm, AnIcedBulbAtZeroHasNoMinus) {
   ASSERT_TRUE(f.enter(Field::kDryBulb, "1.0"));
   ASSERT_TRUE(f.enter(Field::kWetBulb, "0.0"));
   f.form->toggle_freeze();
-  EXPECT_EQ(f.form->group_text(Group::k8SwTbTbTb), "82000");
+  EXPECT_EQ(observation::group_text(f.record(), Group::k8SwTbTbTb), "82000");
   f.form->change([](Struct_Weather& r) { r.TbTbTb = "001"; });
   EXPECT_EQ(f.form->text(Field::kWetBulb), "-0.1");
   f.form->change([](Struct_Weather& r) { r.TbTbTb = "000"; });
@@ -481,7 +481,7 @@ TEST(ObservationForm, WithoutABulbThereIsNoDewPointAndNoHumidity) {
     ASSERT_TRUE(f.enter(Field::kWetBulb, "8.0"));
     ASSERT_FALSE(f.record().TdTdTd.empty());
     ASSERT_TRUE(f.enter(emptied, ""));
-    EXPECT_EQ(f.form->group_text(Group::k2SnTdTdTd), "2****");
+    EXPECT_EQ(observation::group_text(f.record(), Group::k2SnTdTdTd), "2****");
     EXPECT_EQ(f.form->text(Field::kHumidity), "");
     EXPECT_EQ(f.record().LogExtra, "");
   }
@@ -567,7 +567,7 @@ TEST(ObservationForm, ATypedGroupKeepsTheRulesOfItsFields) {
     ASSERT_TRUE(f.enter(Field::kww, "61"));
     const std::string before = f.state(Field::kww);
     f.world.windows.expect(row.message);
-    EXPECT_FALSE(f.form->leave_group(row.group, row.typed));
+    EXPECT_FALSE(f.enter(row.group, row.typed));
     EXPECT_EQ(f.state(Field::kww), before);
   }
 }
@@ -576,9 +576,9 @@ TEST(ObservationForm, ASignAloneIsTestedWithItsFigures) {
   Form f;
   ASSERT_TRUE(f.enter(Field::kDryBulb, "30.0"));
   f.world.windows.expect(id::kAirTemperatureRange);
-  EXPECT_FALSE(f.form->leave_group(Group::k1SnTTT, "11300"));
+  EXPECT_FALSE(f.enter(Group::k1SnTTT, "11300"));
   EXPECT_EQ(f.form->text(Field::kDryBulb), "30.0");
-  EXPECT_TRUE(f.form->leave_group(Group::k1SnTTT, "11200"));
+  EXPECT_TRUE(f.enter(Group::k1SnTTT, "11200"));
   EXPECT_EQ(f.form->text(Field::kDryBulb), "-20.0");
 }
 
@@ -588,13 +588,13 @@ TEST(ObservationForm, ASignAloneMustKeepTheRulesOfItsValue) {
   ASSERT_TRUE(f.enter(Field::kWetBulb, "-5.0"));
   const std::string before = f.state(Field::kWetBulb);
   f.world.windows.expect(id::kWetBulbAboveAir);
-  EXPECT_FALSE(f.form->leave_group(Group::k8SwTbTbTb, "80050"));
+  EXPECT_FALSE(f.enter(Group::k8SwTbTbTb, "80050"));
   EXPECT_EQ(f.state(Field::kWetBulb), before);
   ASSERT_TRUE(f.enter(Field::kWetBulb, ""));
   ASSERT_TRUE(f.enter(Field::kDryBulb, "1.2"));
   ASSERT_TRUE(f.enter(Field::kWetBulb, "0.5"));
   f.world.windows.expect(id::kWetBulbAboveAir);
-  EXPECT_FALSE(f.form->leave_group(Group::k1SnTTT, "11012"));
+  EXPECT_FALSE(f.enter(Group::k1SnTTT, "11012"));
   EXPECT_EQ(f.form->text(Field::kDryBulb), "1.2");
 }
 
@@ -602,7 +602,7 @@ TEST(ObservationForm, ASignAloneBringsWhatFollowsFromItsValue) {
   Form f;
   ASSERT_TRUE(f.enter(Field::kDryBulb, "10.0"));
   ASSERT_TRUE(f.enter(Field::kWetBulb, "-1.0"));
-  ASSERT_TRUE(f.form->leave_group(Group::k8SwTbTbTb, "80010"));
+  ASSERT_TRUE(f.enter(Group::k8SwTbTbTb, "80010"));
   Form typed;
   ASSERT_TRUE(typed.enter(Field::kDryBulb, "10.0"));
   ASSERT_TRUE(typed.enter(Field::kWetBulb, "1.0"));
@@ -612,14 +612,14 @@ TEST(ObservationForm, ASignAloneBringsWhatFollowsFromItsValue) {
 
 TEST(ObservationForm, SolidiInAGroupThatIsWrittenOnlyWhenSetEmptyIt) {
   Form f;
-  ASSERT_TRUE(f.form->leave_group(Group::k9GGgg, "91150"));
+  ASSERT_TRUE(f.enter(Group::k9GGgg, "91150"));
   EXPECT_EQ(f.record().GGExact + f.record().gg, "1150");
-  ASSERT_TRUE(f.form->leave_group(Group::k9GGgg, "9////"));
+  ASSERT_TRUE(f.enter(Group::k9GGgg, "9////"));
   EXPECT_EQ(f.record().GGExact + f.record().gg, "");
   f.world.windows.expect(id::kWindSpeedQuestion, "yes");
-  ASSERT_TRUE(f.form->leave_group(Group::k00fff, "00105"));
+  ASSERT_TRUE(f.enter(Group::k00fff, "00105"));
   EXPECT_EQ(f.record().ff + f.record().fff, "99105");
-  ASSERT_TRUE(f.form->leave_group(Group::k00fff, "00///"));
+  ASSERT_TRUE(f.enter(Group::k00fff, "00///"));
   EXPECT_EQ(f.record().fff, "");
 }
 
@@ -628,21 +628,21 @@ TEST(ObservationForm, ATimeOrPositionThatWasTakenIsToBeReviewed) {
       {Field::kYear, "2014"}, {Field::kMonth, "11"}, {Field::kYY, "15"},     {Field::kGG, "12"},
       {Field::kLaDeg, "35"},  {Field::kLaMin, "30"}, {Field::kLoDeg, "140"}, {Field::kLoMin, "30"}};
   Form f;
-  EXPECT_FALSE(f.form->take_review_due());
+  EXPECT_FALSE(f.form->take_doubts().review);
   for (const auto& [field, text] : rows) {
     ASSERT_TRUE(f.enter(field, text));
-    EXPECT_TRUE(f.form->take_review_due()) << text;
-    EXPECT_FALSE(f.form->take_review_due());
+    EXPECT_TRUE(f.form->take_doubts().review) << text;
+    EXPECT_FALSE(f.form->take_doubts().review);
   }
   f.form->choose_hemispheres(0, 0);
-  EXPECT_TRUE(f.form->take_review_due());
+  EXPECT_TRUE(f.form->take_doubts().review);
   f.form->change([](Struct_Weather& r) { r.LaDeg = "36"; });
-  EXPECT_TRUE(f.form->take_review_due());
+  EXPECT_TRUE(f.form->take_doubts().review);
   f.world.windows.expect(id::kLatitudeDegreesRange);
   EXPECT_FALSE(f.enter(Field::kLaDeg, "91"));
-  EXPECT_FALSE(f.form->take_review_due());
+  EXPECT_FALSE(f.form->take_doubts().review);
   ASSERT_TRUE(f.enter(Field::kww, "61"));
-  EXPECT_FALSE(f.form->take_review_due());
+  EXPECT_FALSE(f.form->take_doubts().review);
 }
 
 }  // namespace

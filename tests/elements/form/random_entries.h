@@ -28,7 +28,7 @@ class RandomEntries {
         pick(2) == 0 ? WindInputMethod::kTrueWind : WindInputMethod::kApparentWind;
     form.ship.dew_point_method = pick(2) == 0 ? DewPointMethod::kDirect : DewPointMethod::kComputed;
     form.rebuild();
-    form.form->messages_suppressed = true;
+    form.suppressed = true;
   }
 
   /// One entry; a refused one must leave everything but its own field as it was.
@@ -56,12 +56,12 @@ class RandomEntries {
         form.change([&](Struct_Weather& r) { r.ww = "61"; });
         break;
       case 4: {
-        std::string typed = form.group_text(group);
+        std::string typed = observation::group_text(form.record(), group);
         const auto place = static_cast<std::size_t>(pick(typed.empty() ? 1 : typed.size()));
         const char figure = "0123456789/*x"[pick(13)];
         if (!typed.empty()) typed[place] = figure;
         const Struct_Weather record = form.record();
-        if (!form.leave_group(group, typed)) {
+        if (!on.enter(group, typed)) {
           EXPECT_TRUE(form.record() == record);
         }
         break;

@@ -57,7 +57,7 @@ TEST(TypedGroup, AValueIsKnownWithItsSignAndDegreesOrNotAtAll) {
     ASSERT_TRUE(f.enter(Field::kww, "61"));
     const std::string before = f.state(Field::kww);
     if (!row.taken) f.world.windows.expect(id::kInputError);
-    EXPECT_EQ(f.form->leave_group(row.group, row.typed), row.taken);
+    EXPECT_EQ(f.enter(row.group, row.typed), row.taken);
     if (!row.taken) {
       EXPECT_EQ(f.state(Field::kww), before);
     }
@@ -81,11 +81,11 @@ TEST(TypedGroup, TheWindIsRefusedAsItsFieldsAre) {
     for (const bool there : {true, false}) {
       Form f;
       if (there) {
-        ASSERT_TRUE(f.form->leave_group(Group::kNddff, "/2712"));
+        ASSERT_TRUE(f.enter(Group::kNddff, "/2712"));
       }
       const std::string before = f.state(Field::kww);
       if (row.message) f.world.windows.expect(row.message);
-      EXPECT_EQ(f.form->leave_group(Group::kNddff, row.typed), !row.message);
+      EXPECT_EQ(f.enter(Group::kNddff, row.typed), !row.message);
       if (row.message) {
         EXPECT_EQ(f.state(Field::kww), before);
       }
@@ -100,7 +100,7 @@ TEST(TypedGroup, IsNotRefusedForARuleThatItDoesNotTouch) {
     r.N = "3";
     r.Nh = "5";
   });
-  EXPECT_TRUE(f.form->leave_group(Group::kNddff, "32712"));
+  EXPECT_TRUE(f.enter(Group::kNddff, "32712"));
   EXPECT_EQ(f.record().dd, "27");
 }
 
@@ -110,13 +110,13 @@ TEST(TypedGroup, ASpeedOf99AndMoreSaysItsRangeAndAsks) {
     f.world.texts.language = language;
     for (const char* const typed : {"00098", "00012", "00000", "001/5", "0010/"}) {
       f.world.windows.expect(id::kLargeSpeedRange);
-      EXPECT_FALSE(f.form->leave_group(Group::k00fff, typed)) << typed;
+      EXPECT_FALSE(f.enter(Group::k00fff, typed)) << typed;
     }
     f.world.windows.expect(id::kWindSpeedQuestion, "no");
-    EXPECT_FALSE(f.form->leave_group(Group::k00fff, "00105"));
+    EXPECT_FALSE(f.enter(Group::k00fff, "00105"));
     EXPECT_EQ(f.record().ff + f.record().fff, "");
     f.world.windows.expect(id::kWindSpeedQuestion, "yes");
-    EXPECT_TRUE(f.form->leave_group(Group::k00fff, "00105"));
+    EXPECT_TRUE(f.enter(Group::k00fff, "00105"));
     EXPECT_EQ(f.record().ff + f.record().fff, "99105");
   }
   EXPECT_EQ(text::bilingual(id::kLargeSpeedRange, text::Language::kEnglish),
@@ -127,20 +127,20 @@ TEST(TypedGroup, ASpeedOf99AndMoreSaysItsRangeAndAsks) {
 TEST(TypedGroup, AsksOnlyWhatNothingRefuses) {
   Form f;
   f.world.windows.expect(id::kCalmDirectionWithSpeed);
-  EXPECT_FALSE(f.form->leave_group(Group::kNddff, "/0090"));
-  ASSERT_TRUE(f.form->leave_group(Group::kNddff, "/0000"));
+  EXPECT_FALSE(f.enter(Group::kNddff, "/0090"));
+  ASSERT_TRUE(f.enter(Group::kNddff, "/0000"));
   f.world.windows.expect(id::kCalmDirectionWithSpeed);
-  EXPECT_FALSE(f.form->leave_group(Group::k00fff, "00120"));
+  EXPECT_FALSE(f.enter(Group::k00fff, "00120"));
   f.world.windows.expect(id::kPeriodNeedsHeight);
-  EXPECT_FALSE(f.form->leave_group(Group::k2PwPwHwHw, "20005"));
+  EXPECT_FALSE(f.enter(Group::k2PwPwHwHw, "20005"));
 }
 
 TEST(TypedGroup, EmptiedKeepsTheSolidiOfElementsThatAreNotObserved) {
   Form f;
   f.items.set_observed(ObservationItem::ww, false);
   f.form->items_changed();
-  ASSERT_TRUE(f.form->leave_group(Group::k7wwW1W2, "7//21"));
-  ASSERT_TRUE(f.form->leave_group(Group::k7wwW1W2, ""));
+  ASSERT_TRUE(f.enter(Group::k7wwW1W2, "7//21"));
+  ASSERT_TRUE(f.enter(Group::k7wwW1W2, ""));
   EXPECT_EQ(f.record().ww + f.record().W1 + f.record().W2, "//");
 }
 
@@ -170,7 +170,7 @@ TEST(TypedGroup, WavesOfPeriodZeroHaveNoHeight) {
     }
     Form f;
     f.world.windows.expect(id::kPeriodNeedsHeight);
-    EXPECT_FALSE(f.form->leave_group(row.group, row.typed));
+    EXPECT_FALSE(f.enter(row.group, row.typed));
   }
 }
 
@@ -179,18 +179,43 @@ TEST(TypedGroup, ASpeedOf99HasItsFiguresOrIsNotKnown) {
   for (const char* const taken_away : {"00///", "00***", ""}) {
     Form f;
     f.world.windows.expect(id::kWindSpeedQuestion, "yes");
-    ASSERT_TRUE(f.form->leave_group(Group::kNddff, "52799"));
+    ASSERT_TRUE(f.enter(Group::kNddff, "52799"));
     EXPECT_EQ(f.record().ff + f.record().fff, "99099") << "as in the field";
     f.world.windows.expect(id::kWindSpeedQuestion, "yes");
-    ASSERT_TRUE(f.form->leave_group(Group::k00fff, "00120"));
+    ASSERT_TRUE(f.enter(Group::k00fff, "00120"));
     EXPECT_EQ(f.record().ff + f.record().fff, "99120");
-    ASSERT_TRUE(f.form->leave_group(Group::k00fff, taken_away));
+    ASSERT_TRUE(f.enter(Group::k00fff, taken_away));
     EXPECT_EQ(f.record().ff + f.record().fff, "") << taken_away;
-    EXPECT_NE(f.form->missing().find("GroupNddff"), std::string::npos);
+    EXPECT_TRUE(f.form->report().missing.contains(Group::kNddff));
   }
   Form calm;
-  ASSERT_TRUE(calm.form->leave_group(Group::kNddff, "52712"));
+  ASSERT_TRUE(calm.enter(Group::kNddff, "52712"));
   EXPECT_EQ(calm.record().fff, "");
+}
+
+// What the ship and the program put into a group is no entry: asterisks over it take nothing away,
+// and a group that is emptied keeps it, also where it is not there.
+TEST(TypedGroup, KeepsTheIndicatorsOfTheShipUnderAsterisks) {
+  for (const char* const typed : {"1512*", "*****", ""}) {
+    Form f;
+    const std::string iw = f.record().iw;
+    ASSERT_NE(iw, "");
+    ASSERT_TRUE(f.enter(Group::kYYGGiw, "1512" + iw));
+    EXPECT_TRUE(f.enter(Group::kYYGGiw, typed)) << typed;
+    EXPECT_EQ(f.record().iw, iw) << typed;
+  }
+  for (const char* const typed : {"**///", "****97", "**", "*****"}) {
+    Form f;
+    const std::string given = f.record().iR + f.record().iX;
+    if (std::string_view(typed).size() != 5) f.world.windows.expect(id::kInputError);
+    (void)f.enter(Group::kiRiXhVV, typed);
+    EXPECT_EQ(f.record().iR + f.record().iX, given) << typed;
+  }
+  Form bare;
+  bare.form->change([](Struct_Weather& r) { r.iw.clear(); });
+  ASSERT_TRUE(bare.enter(Field::kYY, "15"));
+  EXPECT_TRUE(bare.enter(Group::kYYGGiw, ""));
+  EXPECT_EQ(bare.record().YY, "");
 }
 
 }  // namespace
