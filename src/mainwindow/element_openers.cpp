@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "codetables/CEyeShotDlg.h"
+#include "codetables/CCodeTableDlg.h"
+#include "codetables/code_pickers.h"
 #include "elements/CCountDewDlg.h"
-#include "elements/CDvDsDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
 #include "elements/CPresureTendencyDlg.h"
@@ -59,48 +59,72 @@ bool confirmed(Opening& opening, ui::Screen& dialog) {
   return opening.services.windows.run_modal(dialog) == text::kOk;
 }
 
-bool open_time(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
-  CUTCTimeDlg1 dialog(opening.services, {record.Year, record.Month, record.YY, record.GG});
+// A member of the record and where the dialog holds what it hands back.
+struct HandedBack {
+  std::string Struct_Weather::*member;
+  const std::string& result;
+};
+
+// Runs the dialog. On OK the record takes its results as they are, and the element's fields show
+// them.
+bool fill_record(Opening& opening, ui::Screen& dialog, std::initializer_list<HandedBack> results,
+                 std::initializer_list<Field> fields) {
   if (!confirmed(opening, dialog)) return false;
   opening.form.change(
-      [&](Struct_Weather& r) {
-        const CUTCTimeDlg1::Values& v = dialog.values();
-        r.Year = v.Year;
-        r.Month = v.Month;
-        r.YY = v.YY;
-        r.GG = v.GG;
+      [&](Struct_Weather& record) {
+        for (const HandedBack& row : results) record.*row.member = row.result;
       },
-      {Field::kYear, Field::kMonth, Field::kYY, Field::kGG});
+      fields);
   return true;
 }
 
+// A field and where the dialog holds what it hands back for it.
+struct PutBack {
+  Field field;
+  const std::string& result;
+};
+
+// Runs the dialog. On OK its results go into the fields, in this order, with all that follows.
+bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<PutBack> results) {
+  if (!confirmed(opening, dialog)) return false;
+  for (const PutBack& row : results) opening.form.put(row.field, text::trim(row.result));
+  return true;
+}
+
+// The dialogs that pick codes; `fields` show them.
+template <const codetables::CodePicker& picker, Field... fields>
+bool pick(Opening& opening) {
+  CCodeTableDlg dialog(opening.services, picker, opening.form.record());
+  if (!confirmed(opening, dialog)) return false;
+  opening.form.change([&](Struct_Weather& record) { dialog.put_into(record); }, {fields...});
+  return true;
+}
+
+using R = Struct_Weather;
+
+bool open_time(Opening& opening) {
+  const R& record = opening.form.record();
+  CUTCTimeDlg1 dialog(opening.services, {record.Year, record.Month, record.YY, record.GG});
+  const CUTCTimeDlg1::Values& v = dialog.values();
+  return fill_record(opening, dialog,
+                     {{&R::Year, v.Year}, {&R::Month, v.Month}, {&R::YY, v.YY}, {&R::GG, v.GG}},
+                     {Field::kYear, Field::kMonth, Field::kYY, Field::kGG});
+}
+
 bool open_position(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
+  const R& record = opening.form.record();
   CPositionDlg dialog(opening.services,
                       {record.LaDeg, record.LaMin, record.LoDeg, record.LoMin, record.Qc},
                       opening.last_quadrant, opening.context.is_on_land,
                       {opening.form.north_south(), opening.form.east_west()});
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.change(
-      [&](Struct_Weather& r) {
-        const CPositionDlg::Values& v = dialog.values();
-        r.LaDeg = v.LaDeg;
-        r.LaMin = v.LaMin;
-        r.LoDeg = v.LoDeg;
-        r.LoMin = v.LoMin;
-        r.Qc = v.Qc;
-      },
-      {Field::kLaDeg, Field::kLaMin, Field::kLoDeg, Field::kLoMin});
-  return true;
-}
-
-bool open_course_and_speed(Opening& opening) {
-  CDvDsDlg dialog(opening.services, {opening.form.record().Ds, opening.form.record().Vs});
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kDs, dialog.values().Ds);
-  opening.form.put(Field::kVs, dialog.values().Vs);
-  return true;
+  const CPositionDlg::Values& v = dialog.values();
+  return fill_record(opening, dialog,
+                     {{&R::LaDeg, v.LaDeg},
+                      {&R::LaMin, v.LaMin},
+                      {&R::LoDeg, v.LoDeg},
+                      {&R::LoMin, v.LoMin},
+                      {&R::Qc, v.Qc}},
+                     {Field::kLaDeg, Field::kLaMin, Field::kLoDeg, Field::kLoMin});
 }
 
 // The reading is taken as if it had been typed: an unusual pressure at sea level asks, and No keeps
@@ -153,16 +177,10 @@ bool open_pressure(Opening& opening) {
 }
 
 bool open_tendency(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
+  const R& record = opening.form.record();
   CPresureTendencyDlg dialog(opening.services, record.a, record.ppp);
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.change(
-      [&](Struct_Weather& r) {
-        r.a = dialog.a();
-        r.ppp = dialog.ppp();
-      },
-      {Field::ka, Field::kppp});
-  return true;
+  return fill_record(opening, dialog, {{&R::a, dialog.a()}, {&R::ppp, dialog.ppp()}},
+                     {Field::ka, Field::kppp});
 }
 
 bool open_psychrometer(Opening& opening) {
@@ -176,73 +194,55 @@ bool open_psychrometer(Opening& opening) {
 }
 
 bool open_dew_point(Opening& opening) {
-  elements::ObservationForm& form = opening.form;
+  const elements::ObservationForm& form = opening.form;
   CTemperatureAndDewDlg dialog(opening.services,
                                {form.text(Field::kAirTemperature), form.text(Field::kDewPoint)});
-  if (!confirmed(opening, dialog)) return false;
-  form.put(Field::kAirTemperature, dialog.values().air);
-  form.put(Field::kDewPoint, dialog.values().dew);
-  return true;
+  return fill_fields(
+      opening, dialog,
+      {{Field::kAirTemperature, dialog.values().air}, {Field::kDewPoint, dialog.values().dew}});
 }
 
 bool open_humidity(Opening& opening) {
   CThumidityDlg dialog(opening.services, opening.form.text(Field::kHumidity),
                        opening.context.ship.humidity_unit);
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kHumidity, dialog.humidity());
-  return true;
+  return fill_fields(opening, dialog, {{Field::kHumidity, dialog.humidity()}});
 }
 
 bool open_sea_temperature(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
+  const R& record = opening.form.record();
   CSea_SurfaceTemperatureDlg dialog(opening.services, {record.Ss, record.TwTwTw},
                                     opening.context.ship.sea_temperature_method);
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.change(
-      [&](Struct_Weather& r) {
-        r.Ss = dialog.values().Ss;
-        r.TwTwTw = dialog.values().TwTwTw;
-      },
-      {Field::kTwTwTw});
-  return true;
+  return fill_record(opening, dialog,
+                     {{&R::Ss, dialog.values().Ss}, {&R::TwTwTw, dialog.values().TwTwTw}},
+                     {Field::kTwTwTw});
 }
 
 bool open_apparent_wind(Opening& opening) {
-  elements::ObservationForm& form = opening.form;
+  const elements::ObservationForm& form = opening.form;
   CLookWindDlg dialog(
       opening.services,
       {form.text(Field::kApparentDirection), form.text(Field::kApparentSpeed),
        form.text(Field::kHeading), form.text(Field::kCourse), form.text(Field::kShipSpeed)});
-  if (!confirmed(opening, dialog)) return false;
   const elements::ApparentWindTexts& v = dialog.values();
-  form.put(Field::kApparentDirection, text::trim(v.direction));
-  form.put(Field::kApparentSpeed, text::trim(v.speed));
-  form.put(Field::kHeading, text::trim(v.heading));
-  form.put(Field::kCourse, text::trim(v.course));
-  form.put(Field::kShipSpeed, text::trim(v.ship_speed));
-  return true;
+  return fill_fields(opening, dialog,
+                     {{Field::kApparentDirection, v.direction},
+                      {Field::kApparentSpeed, v.speed},
+                      {Field::kHeading, v.heading},
+                      {Field::kCourse, v.course},
+                      {Field::kShipSpeed, v.ship_speed}});
 }
 
 bool open_true_wind(Opening& opening) {
-  elements::ObservationForm& form = opening.form;
+  const elements::ObservationForm& form = opening.form;
   CTrueDirWindDlg dialog(opening.services, form.text(Field::kdd), form.text(Field::kff));
-  if (!confirmed(opening, dialog)) return false;
-  form.put(Field::kdd, dialog.direction());
-  form.put(Field::kff, dialog.speed());
-  return true;
-}
-
-bool open_visibility(Opening& opening) {
-  CEyeShotDlg dialog(opening.services, opening.form.record().VV);
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kVV, dialog.code());
-  return true;
+  return fill_fields(opening, dialog,
+                     {{Field::kdd, dialog.direction()}, {Field::kff, dialog.speed()}});
 }
 
 constexpr ElementRow kRows[] = {
     {kObservationTime, always, open_time},
     {kPosition, always, open_position},
-    {kCourseAndSpeed, always, open_course_and_speed},
+    {kCourseAndSpeed, always, pick<codetables::kMovement, Field::kDs, Field::kVs>},
     {kPressure, always, open_pressure},
     {kPressureTendency, always, open_tendency},
     {kPsychrometer, dew_point_by<DewPointMethod::kComputed>, open_psychrometer},
@@ -251,7 +251,7 @@ constexpr ElementRow kRows[] = {
     {kApparentWind, wind_by<WindInputMethod::kApparentWind>, open_apparent_wind},
     {kWindWave, item_is_observed<ObservationItem::PwHw>},
     {kSwell, a_swell_is_observed},
-    {kVisibility, item_is_observed<ObservationItem::VV>, open_visibility},
+    {kVisibility, item_is_observed<ObservationItem::VV>, pick<codetables::kVisibility, Field::kVV>},
     {kPresentWeather, item_is_observed<ObservationItem::ww>},
     {kPastWeather, item_is_observed<ObservationItem::W1W2>},
     {kCloudAmount, item_is_observed<ObservationItem::N>},
