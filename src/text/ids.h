@@ -527,6 +527,430 @@ inline constexpr int kVisibility200m = 13418;
 inline constexpr int kVisibility50m = 13419;
 inline constexpr int kVisibilityBelow = 13420;
 
+// Code table 4677, ww: present weather. The lines of the dialog, each with its figures.
+inline constexpr int kPresentWeather00 = 43000;
+inline constexpr int kPresentWeather01 = 43001;
+inline constexpr int kPresentWeather02 = 43002;
+inline constexpr int kPresentWeather03 = 43003;
+inline constexpr int kPresentWeather04 = 43004;
+inline constexpr int kPresentWeather05 = 43005;
+inline constexpr int kPresentWeather06 = 43006;
+inline constexpr int kPresentWeather07 = 43007;
+inline constexpr int kPresentWeather08 = 43008;
+inline constexpr int kPresentWeather09 = 43009;
+inline constexpr int kPresentWeather10 = 43010;
+inline constexpr int kPresentWeather11 = 43011;
+inline constexpr int kPresentWeather12 = 43012;
+inline constexpr int kPresentWeather13 = 43013;
+inline constexpr int kPresentWeather14 = 43014;
+inline constexpr int kPresentWeather15 = 43015;
+inline constexpr int kPresentWeather16 = 43016;
+inline constexpr int kPresentWeather17 = 43017;
+inline constexpr int kPresentWeather18 = 43018;
+inline constexpr int kPresentWeather19 = 43019;
+inline constexpr int kPresentWeather20 = 43020;
+inline constexpr int kPresentWeather21 = 43021;
+inline constexpr int kPresentWeather22 = 43022;
+inline constexpr int kPresentWeather23 = 43023;
+inline constexpr int kPresentWeather24 = 43024;
+inline constexpr int kPresentWeather25 = 43025;
+inline constexpr int kPresentWeather26 = 43026;
+inline constexpr int kPresentWeather27 = 43027;
+inline constexpr int kPresentWeather28 = 43028;
+inline constexpr int kPresentWeather29 = 43029;
+inline constexpr int kPresentWeather30 = 43030;
+inline constexpr int kPresentWeather31 = 43031;
+inline constexpr int kPresentWeather32 = 43032;
+inline constexpr int kPresentWeather33 = 43033;
+inline constexpr int kPresentWeather34 = 43034;
+inline constexpr int kPresentWeather35 = 43035;
+inline constexpr int kPresentWeather36 = 43036;
+inline constexpr int kPresentWeather37 = 43037;
+inline constexpr int kPresentWeather38 = 43038;
+inline constexpr int kPresentWeather39 = 43039;
+inline constexpr int kPresentWeather40 = 43040;
+inline constexpr int kPresentWeather41 = 43041;
+inline constexpr int kPresentWeather42 = 43042;
+inline constexpr int kPresentWeather43 = 43043;
+inline constexpr int kPresentWeather44 = 43044;
+inline constexpr int kPresentWeather45 = 43045;
+inline constexpr int kPresentWeather46 = 43046;
+inline constexpr int kPresentWeather47 = 43047;
+inline constexpr int kPresentWeather48 = 43048;
+inline constexpr int kPresentWeather49 = 43049;
+inline constexpr int kPresentWeather50 = 43050;
+inline constexpr int kPresentWeather51 = 43051;
+inline constexpr int kPresentWeather52 = 43052;
+inline constexpr int kPresentWeather53 = 43053;
+inline constexpr int kPresentWeather54 = 43054;
+inline constexpr int kPresentWeather55 = 43055;
+inline constexpr int kPresentWeather56 = 43056;
+inline constexpr int kPresentWeather57 = 43057;
+inline constexpr int kPresentWeather58 = 43058;
+inline constexpr int kPresentWeather59 = 43059;
+inline constexpr int kPresentWeather60 = 43060;
+inline constexpr int kPresentWeather61 = 43061;
+inline constexpr int kPresentWeather62 = 43062;
+inline constexpr int kPresentWeather63 = 43063;
+inline constexpr int kPresentWeather64 = 43064;
+inline constexpr int kPresentWeather65 = 43065;
+inline constexpr int kPresentWeather66 = 43066;
+inline constexpr int kPresentWeather67 = 43067;
+inline constexpr int kPresentWeather68 = 43068;
+inline constexpr int kPresentWeather69 = 43069;
+inline constexpr int kPresentWeather70 = 43070;
+inline constexpr int kPresentWeather71 = 43071;
+inline constexpr int kPresentWeather72 = 43072;
+inline constexpr int kPresentWeather73 = 43073;
+inline constexpr int kPresentWeather74 = 43074;
+inline constexpr int kPresentWeather75 = 43075;
+inline constexpr int kPresentWeather76 = 43076;
+inline constexpr int kPresentWeather77 = 43077;
+inline constexpr int kPresentWeather78 = 43078;
+inline constexpr int kPresentWeather79 = 43079;
+inline constexpr int kPresentWeather80 = 43080;
+inline constexpr int kPresentWeather81 = 43081;
+inline constexpr int kPresentWeather82 = 43082;
+inline constexpr int kPresentWeather83 = 43083;
+inline constexpr int kPresentWeather84 = 43084;
+inline constexpr int kPresentWeather85 = 43085;
+inline constexpr int kPresentWeather86 = 43086;
+inline constexpr int kPresentWeather87 = 43087;
+inline constexpr int kPresentWeather88 = 43088;
+inline constexpr int kPresentWeather89 = 43089;
+inline constexpr int kPresentWeather90 = 43090;
+inline constexpr int kPresentWeather91 = 43091;
+inline constexpr int kPresentWeather92 = 43092;
+inline constexpr int kPresentWeather93 = 43093;
+inline constexpr int kPresentWeather94 = 43094;
+inline constexpr int kPresentWeather95 = 43095;
+inline constexpr int kPresentWeather96 = 43096;
+inline constexpr int kPresentWeather97 = 43097;
+inline constexpr int kPresentWeather98 = 43098;
+inline constexpr int kPresentWeather99 = 43099;
+
+// Code table 4561, W1W2: past weather
+inline constexpr int kPastWeather0 = 43110;
+inline constexpr int kPastWeather1 = 43111;
+inline constexpr int kPastWeather2 = 43112;
+inline constexpr int kPastWeather3 = 43113;
+inline constexpr int kPastWeather4 = 43114;
+inline constexpr int kPastWeather5 = 43115;
+inline constexpr int kPastWeather6 = 43116;
+inline constexpr int kPastWeather7 = 43117;
+inline constexpr int kPastWeather8 = 43118;
+inline constexpr int kPastWeather9 = 43119;
+inline constexpr int kPastWeatherNotObserved = 43120;
+
+// Code table 2700, N and Nh: cloud amount
+inline constexpr int kCloudAmount0 = 43130;
+inline constexpr int kCloudAmount1 = 43131;
+inline constexpr int kCloudAmount2 = 43132;
+inline constexpr int kCloudAmount3 = 43133;
+inline constexpr int kCloudAmount4 = 43134;
+inline constexpr int kCloudAmount5 = 43135;
+inline constexpr int kCloudAmount6 = 43136;
+inline constexpr int kCloudAmount7 = 43137;
+inline constexpr int kCloudAmount8 = 43138;
+inline constexpr int kCloudAmount9 = 43139;
+inline constexpr int kCloudAmountUnknown = 43140;
+inline constexpr int kLowestCloudAmount2 = 43142;
+inline constexpr int kLowestCloudAmount6 = 43146;
+
+// Code table 1600, h: height of the base of the lowest cloud
+inline constexpr int kCloudBase0 = 43150;
+inline constexpr int kCloudBase1 = 43151;
+inline constexpr int kCloudBase2 = 43152;
+inline constexpr int kCloudBase3 = 43153;
+inline constexpr int kCloudBase4 = 43154;
+inline constexpr int kCloudBase5 = 43155;
+inline constexpr int kCloudBase6 = 43156;
+inline constexpr int kCloudBase7 = 43157;
+inline constexpr int kCloudBase8 = 43158;
+inline constexpr int kCloudBase9 = 43159;
+inline constexpr int kCloudBaseUnknown = 43160;
+
+// Code table 0513, CL: low clouds
+inline constexpr int kLowCloud0 = 43170;
+inline constexpr int kLowCloud1 = 43171;
+inline constexpr int kLowCloud2 = 43172;
+inline constexpr int kLowCloud3 = 43173;
+inline constexpr int kLowCloud4 = 43174;
+inline constexpr int kLowCloud5 = 43175;
+inline constexpr int kLowCloud6 = 43176;
+inline constexpr int kLowCloud7 = 43177;
+inline constexpr int kLowCloud8 = 43178;
+inline constexpr int kLowCloud9 = 43179;
+inline constexpr int kLowCloudUnknown = 43180;
+
+// Code table 0515, CM: medium clouds
+inline constexpr int kMiddleCloud0 = 43190;
+inline constexpr int kMiddleCloud1 = 43191;
+inline constexpr int kMiddleCloud2 = 43192;
+inline constexpr int kMiddleCloud3 = 43193;
+inline constexpr int kMiddleCloud4 = 43194;
+inline constexpr int kMiddleCloud5 = 43195;
+inline constexpr int kMiddleCloud6 = 43196;
+inline constexpr int kMiddleCloud7 = 43197;
+inline constexpr int kMiddleCloud8 = 43198;
+inline constexpr int kMiddleCloud9 = 43199;
+inline constexpr int kMiddleCloudUnknown = 43200;
+
+// Code table 0509, CH: high clouds
+inline constexpr int kHighCloud0 = 43210;
+inline constexpr int kHighCloud1 = 43211;
+inline constexpr int kHighCloud2 = 43212;
+inline constexpr int kHighCloud3 = 43213;
+inline constexpr int kHighCloud4 = 43214;
+inline constexpr int kHighCloud5 = 43215;
+inline constexpr int kHighCloud6 = 43216;
+inline constexpr int kHighCloud7 = 43217;
+inline constexpr int kHighCloud8 = 43218;
+inline constexpr int kHighCloud9 = 43219;
+inline constexpr int kHighCloudUnknown = 43220;
+
+// Code table 1751, Is: cause of ice accretion
+inline constexpr int kIcingCause1 = 43231;
+inline constexpr int kIcingCause2 = 43232;
+inline constexpr int kIcingCause3 = 43233;
+inline constexpr int kIcingCause4 = 43234;
+inline constexpr int kIcingCause5 = 43235;
+
+// Code table 3551, Rs: rate of ice accretion
+inline constexpr int kIcingRate0 = 43240;
+inline constexpr int kIcingRate1 = 43241;
+inline constexpr int kIcingRate2 = 43242;
+inline constexpr int kIcingRate3 = 43243;
+inline constexpr int kIcingRate4 = 43244;
+
+// Code table 0639, ci: concentration or arrangement of sea ice
+inline constexpr int kIceConcentration0 = 43250;
+inline constexpr int kIceConcentration1 = 43251;
+inline constexpr int kIceConcentration2 = 43252;
+inline constexpr int kIceConcentration3 = 43253;
+inline constexpr int kIceConcentration4 = 43254;
+inline constexpr int kIceConcentration5 = 43255;
+inline constexpr int kIceConcentration6 = 43256;
+inline constexpr int kIceConcentration7 = 43257;
+inline constexpr int kIceConcentration8 = 43258;
+inline constexpr int kIceConcentration9 = 43259;
+inline constexpr int kIceConcentrationNotReported = 43260;
+
+// Code table 3739, Si: stage of development of sea ice
+inline constexpr int kIceStage0 = 43270;
+inline constexpr int kIceStage1 = 43271;
+inline constexpr int kIceStage2 = 43272;
+inline constexpr int kIceStage3 = 43273;
+inline constexpr int kIceStage4 = 43274;
+inline constexpr int kIceStage5 = 43275;
+inline constexpr int kIceStage6 = 43276;
+inline constexpr int kIceStage7 = 43277;
+inline constexpr int kIceStage8 = 43278;
+inline constexpr int kIceStage9 = 43279;
+inline constexpr int kIceStageNotReported = 43280;
+
+// Code table 0439, bi: ice of land origin
+inline constexpr int kLandIce0 = 43290;
+inline constexpr int kLandIce1 = 43291;
+inline constexpr int kLandIce2 = 43292;
+inline constexpr int kLandIce3 = 43293;
+inline constexpr int kLandIce4 = 43294;
+inline constexpr int kLandIce5 = 43295;
+inline constexpr int kLandIce6 = 43296;
+inline constexpr int kLandIce7 = 43297;
+inline constexpr int kLandIce8 = 43298;
+inline constexpr int kLandIce9 = 43299;
+inline constexpr int kLandIceNotReported = 43300;
+
+// Code table 0739, Di: bearing of the principal ice edge
+inline constexpr int kIceEdge0 = 43310;
+inline constexpr int kIceEdge1 = 43311;
+inline constexpr int kIceEdge2 = 43312;
+inline constexpr int kIceEdge3 = 43313;
+inline constexpr int kIceEdge4 = 43314;
+inline constexpr int kIceEdge5 = 43315;
+inline constexpr int kIceEdge6 = 43316;
+inline constexpr int kIceEdge7 = 43317;
+inline constexpr int kIceEdge8 = 43318;
+inline constexpr int kIceEdge9 = 43319;
+inline constexpr int kIceEdgeNotReported = 43320;
+
+// Code table 5239, zi: ice situation and trend
+inline constexpr int kIceTrend0 = 43330;
+inline constexpr int kIceTrend1 = 43331;
+inline constexpr int kIceTrend2 = 43332;
+inline constexpr int kIceTrend3 = 43333;
+inline constexpr int kIceTrend4 = 43334;
+inline constexpr int kIceTrend5 = 43335;
+inline constexpr int kIceTrend6 = 43336;
+inline constexpr int kIceTrend7 = 43337;
+inline constexpr int kIceTrend8 = 43338;
+inline constexpr int kIceTrend9 = 43339;
+inline constexpr int kIceTrendNotReported = 43340;
+
+// Code table 1855, iw: source and unit of the wind speed
+inline constexpr int kWindSource0 = 43350;
+inline constexpr int kWindSource1 = 43351;
+inline constexpr int kWindSource3 = 43353;
+inline constexpr int kWindSource4 = 43354;
+
+// Code table 3333, Qc: quadrant of the globe
+inline constexpr int kQuadrant1 = 43361;
+inline constexpr int kQuadrant3 = 43363;
+inline constexpr int kQuadrant5 = 43365;
+inline constexpr int kQuadrant7 = 43367;
+
+// Code table 3845, sn: sign of the air temperature and the dew point
+inline constexpr int kTemperatureSign0 = 43370;
+inline constexpr int kTemperatureSign1 = 43371;
+inline constexpr int kTemperatureSign9 = 43379;
+
+// Code table 3850, ss: sign and type of measurement of the sea temperature
+inline constexpr int kSeaTemperatureSign0 = 43380;
+inline constexpr int kSeaTemperatureSign1 = 43381;
+inline constexpr int kSeaTemperatureSign2 = 43382;
+inline constexpr int kSeaTemperatureSign3 = 43383;
+inline constexpr int kSeaTemperatureSign4 = 43384;
+inline constexpr int kSeaTemperatureSign5 = 43385;
+inline constexpr int kSeaTemperatureSign6 = 43386;
+inline constexpr int kSeaTemperatureSign7 = 43387;
+
+// Code table 3855, sw: sign and type of the wet-bulb temperature
+inline constexpr int kWetBulbSign0 = 43390;
+inline constexpr int kWetBulbSign1 = 43391;
+inline constexpr int kWetBulbSign2 = 43392;
+inline constexpr int kWetBulbSign5 = 43395;
+inline constexpr int kWetBulbSign6 = 43396;
+inline constexpr int kWetBulbSign7 = 43397;
+
+// Code table 0877, dd, dw1dw1 and dw2dw2: directions in tens of degrees
+inline constexpr int kDirectionCalm = 43400;
+inline constexpr int kDirectionDegrees = 43401;
+inline constexpr int kDirectionVariable = 43402;
+inline constexpr int kSwellDirectionNotObserved = 43403;
+
+// Code table 4377, VV: the visibilities that the dialog does not offer
+inline constexpr int kVisibilityUnder100m = 43410;
+inline constexpr int kVisibilityKilometres = 43411;
+inline constexpr int kVisibilityOver70km = 43412;
+
+// Code table 1819, iR: where the amount of precipitation is
+inline constexpr int kPrecipitationData0 = 43420;
+inline constexpr int kPrecipitationData1 = 43421;
+inline constexpr int kPrecipitationData2 = 43422;
+inline constexpr int kPrecipitationData3 = 43423;
+inline constexpr int kPrecipitationData4 = 43424;
+
+// Code table 1860, iX: kind of station, and whether present and past weather are reported
+inline constexpr int kWeatherData1 = 43430;
+inline constexpr int kWeatherData2 = 43431;
+inline constexpr int kWeatherData3 = 43432;
+inline constexpr int kWeatherData4 = 43433;
+inline constexpr int kWeatherData5 = 43434;
+inline constexpr int kWeatherData6 = 43435;
+inline constexpr int kWeatherData7 = 43436;
+
+// CNowWeatherDlg
+inline constexpr int kPresentWeatherTitle = 43500;
+inline constexpr int kPrecipitationNow = 43501;
+inline constexpr int kNoPrecipitationNow = 43502;
+inline constexpr int kPresentWeatherNotObserved = 43503;
+inline constexpr int kPresentWeatherGroup95 = 43510;
+inline constexpr int kPresentWeatherGroup91 = 43511;
+inline constexpr int kPresentWeatherGroup85 = 43512;
+inline constexpr int kPresentWeatherGroup80 = 43513;
+inline constexpr int kPresentWeatherGroup70 = 43514;
+inline constexpr int kPresentWeatherGroup60 = 43515;
+inline constexpr int kPresentWeatherGroup50 = 43516;
+inline constexpr int kPresentWeatherGroup40 = 43517;
+inline constexpr int kPresentWeatherGroup30 = 43518;
+inline constexpr int kPresentWeatherGroup20 = 43519;
+inline constexpr int kPresentWeatherGroup18 = 43520;
+inline constexpr int kPresentWeatherGroup17 = 43521;
+inline constexpr int kPresentWeatherGroup13 = 43522;
+inline constexpr int kPresentWeatherGroup10 = 43523;
+inline constexpr int kPresentWeatherGroup04 = 43524;
+inline constexpr int kPresentWeatherGroup00 = 43525;
+
+// CPastWeatherDlg1
+inline constexpr int kPastWeatherTitle = 43530;
+inline constexpr int kPastWeatherHint = 43531;
+inline constexpr int kPastWeatherHeading = 43532;
+inline constexpr int kPastWeatherGroup = 43533;
+
+// CCloudAgeDlg
+inline constexpr int kTotalCloudTitle = 43540;
+inline constexpr int kTotalCloudHeading = 43541;
+inline constexpr int kTotalCloudGroup = 43542;
+
+// CBottomLayerCloudDlg
+inline constexpr int kLowestCloudTitle = 43545;
+inline constexpr int kLowestCloudHeading = 43546;
+
+// CCloudHeightDlg
+inline constexpr int kCloudBaseTitle = 43550;
+inline constexpr int kCloudBaseHeading = 43551;
+inline constexpr int kCloudBaseGroup = 43552;
+
+// CBottomCloudDlg, CMidCloudDlg, CTopCloudDlg
+inline constexpr int kLowCloudTitle = 43555;
+inline constexpr int kMiddleCloudTitle = 43556;
+inline constexpr int kHighCloudTitle = 43557;
+
+// CWindDlg (wind waves)
+inline constexpr int kWindWaveTitle = 43560;
+inline constexpr int kWindWaveObservation = 43561;
+inline constexpr int kNoWindWave = 43562;
+inline constexpr int kWavesNotObserved = 43563;
+inline constexpr int kWindWave = 43564;
+inline constexpr int kWavePeriod = 43565;
+inline constexpr int kWindWaveHeight = 43566;
+inline constexpr int kReferenceWave = 43567;
+inline constexpr int kReferenceWaveHeight = 43568;
+inline constexpr int kWavePeriodUnknown = 43569;
+inline constexpr int kWavePeriodConfused = 43570;
+inline constexpr int kWindWaveHeightUnknown = 43571;
+inline constexpr int kWindWaveHeightSmallest = 43572;
+inline constexpr int kWaveNumberCaption = 43573;
+
+// CSwellWaveDlg
+inline constexpr int kSwellTitle = 43580;
+inline constexpr int kTwoSwells = 43581;
+inline constexpr int kOneSwell = 43582;
+inline constexpr int kNoSwell = 43583;
+inline constexpr int kSwellObservation = 43584;
+inline constexpr int kSwell1 = 43585;
+inline constexpr int kSwell2 = 43586;
+inline constexpr int kSwellDirection = 43587;
+inline constexpr int kSwellHeight = 43588;
+inline constexpr int kSwellDirectionIsUnknown = 43589;
+inline constexpr int kSwellHeightUnknown = 43590;
+inline constexpr int kSwellDirectionGroup = 43591;
+inline constexpr int kSwellPeriodFromLength = 43592;
+inline constexpr int kSwellHeightSmallest = 43593;
+inline constexpr int kSwellNumberNeededCaption = 43594;
+inline constexpr int kSwellRangeCaption = 43595;
+inline constexpr int kSwellPairCaption = 43596;
+inline constexpr int kSwell2DirectionMustBeUnknown = 43597;
+
+// CSeaIceDialog (ice accretion)
+inline constexpr int kIcingTitle = 43600;
+inline constexpr int kIcingCauseGroup = 43601;
+inline constexpr int kIcingThickness = 43602;
+inline constexpr int kIcingRateHeading = 43603;
+inline constexpr int kIcingRateGroup = 43604;
+
+// CICECiDlg, CICESiBiDlg, CICEDiDlg, CNewZiDlg (sea ice)
+inline constexpr int kIceConcentrationTitle = 43610;
+inline constexpr int kIceBeyondHalfMile = 43611;
+inline constexpr int kIceWithinHalfMile = 43612;
+inline constexpr int kIceUniform = 43613;
+inline constexpr int kIceNotUniform = 43614;
+inline constexpr int kIceConcentrationList = 43615;
+inline constexpr int kIceStageTitle = 43620;
+inline constexpr int kIceEdgeTitle = 43621;
+inline constexpr int kIceTrendTitle = 43622;
+
 // CSeaSurfacePressureDlg
 inline constexpr int kPressureTitle = 13500;
 inline constexpr int kPressureReadingGroup = 13501;
