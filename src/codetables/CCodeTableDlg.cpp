@@ -1,5 +1,6 @@
 #include "codetables/CCodeTableDlg.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "text/ids.h"
@@ -8,32 +9,24 @@
 
 namespace id = text::id;
 using codetables::CodePicker;
+using codetables::CodeRow;
+using codetables::LinePicture;
 using codetables::PickedCode;
-using codetables::PickerLine;
 using codetables::Reads;
 
 namespace {
 
-std::vector<std::string> codes_of(const CodePicker& picker, const Struct_Weather& record) {
-  std::vector<std::string> codes;
-  for (const PickedCode& picked : picker.codes) codes.push_back(record.*picked.member);
-  return codes;
-}
-
 // The code of the table that the record's code stands for.
-std::string code_to_choose(const PickedCode& picked, std::string_view code) {
+std::string code_to_choose(Reads reads, std::string_view code) {
   const std::string_view trimmed = text::trim(code);
-  if (picked.reads == Reads::kFirstFigure) return std::string(trimmed.substr(0, 1));
+  if (reads == Reads::kFirstFigure) return std::string(trimmed.substr(0, 1));
   if (!text::number_at_start(trimmed)) return std::string(trimmed);
   return text::format_int(text::leading_int(trimmed));
 }
 
-int line_of(const PickedCode& picked, std::string_view code) {
-  const std::string wanted = code_to_choose(picked, code);
-  for (std::size_t i = 0; i < picked.lines.size(); ++i) {
-    if (picked.lines[i].code == wanted) return static_cast<int>(i);
-  }
-  return -1;
+int line_of(const ui::Choice& choice, std::string_view code) {
+  const auto at = std::find(choice.item_codes.begin(), choice.item_codes.end(), code);
+  return at == choice.item_codes.end() ? -1 : static_cast<int>(at - choice.item_codes.begin());
 }
 
 std::string with_code(std::string_view name, char between, std::string_view code) {
@@ -45,10 +38,8 @@ std::string with_code(std::string_view name, char between, std::string_view code
 CCodeTableDlg::CCodeTableDlg(ui::Services& services, const CodePicker& picker,
                              const Struct_Weather& record)
     : Screen(services, picker.class_name, {picker.title}),
-      picker_(picker),
-      codes_(codes_of(picker, record)),
-      labels_(labels()),
-      choices_(choices()),
+      labels_(labels(picker)),
+      picked_(picked(picker, record)),
       pictures_(pictures()),
       ok_(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
       cancel_(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
@@ -56,40 +47,42 @@ CCodeTableDlg::CCodeTableDlg(ui::Services& services, const CodePicker& picker,
 
 CCodeTableDlg::~CCodeTableDlg() = default;
 
-std::vector<std::unique_ptr<ui::Control>> CCodeTableDlg::labels() {
+std::vector<std::unique_ptr<ui::Control>> CCodeTableDlg::labels(const CodePicker& picker) {
   std::vector<std::unique_ptr<ui::Control>> made;
   const auto add = [&](std::string_view name, int text) {
     if (text != 0) made.push_back(std::make_unique<ui::Label>(*this, name, text::Ref{text}));
   };
-  add("heading", picker_.heading);
-  add("group", picker_.group);
+  add("heading", picker.heading);
+  add("group", picker.group);
   return made;
 }
 
-std::vector<std::unique_ptr<ui::Choice>> CCodeTableDlg::choices() {
-  std::vector<std::unique_ptr<ui::Choice>> made;
-  for (const PickedCode& picked : picker_.codes) {
-    std::vector<text::Ref> lines;
-    for (const PickerLine& line : picked.lines) lines.push_back({line.text});
-    made.push_back(std::make_unique<ui::Choice>(*this, picked.name, text::Ref{picked.caption},
-                                                std::move(lines)));
-    for (const PickerLine& line : picked.lines) made.back()->item_codes.emplace_back(line.code);
+std::vector<CCodeTableDlg::Picked> CCodeTableDlg::picked(const CodePicker& picker,
+                                                         const Struct_Weather& record) {
+  std::vector<Picked> made;
+  for (const PickedCode& row : picker.codes) {
+    const auto member = find_weather_field(row.symbol)->member;
+    auto choice = std::make_unique<ui::Choice>(*this, row.control, text::Ref{row.caption},
+                                               std::vector<text::Ref>());
+    for (const CodeRow& line : codetables::lines_of(row)) {
+      choice->item_refs.push_back({line.text});
+      choice->item_codes.emplace_back(line.figures);
+    }
+    made.push_back({row, member, record.*member, std::move(choice)});
   }
   return made;
 }
 
 std::vector<std::unique_ptr<ui::Control>> CCodeTableDlg::pictures() {
   std::vector<std::unique_ptr<ui::Control>> made;
-  for (std::size_t k = 0; k < picker_.codes.size(); ++k) {
-    const PickedCode& picked = picker_.codes[k];
-    for (std::size_t i = 0; i < picked.lines.size(); ++i) {
-      const PickerLine& line = picked.lines[i];
-      if (line.picture.empty()) continue;
-      auto picture = std::make_unique<ui::Picture>(*this, with_code(picked.name, '_', line.code));
-      picture->literal_caption = with_code(picked.name, ' ', line.code);
-      picture->content = line.picture;
-      picture->on_press = [this, &choice = *choices_[k], at = static_cast<int>(i)] {
-        choice.selected = at;
+  for (const Picked& picked : picked_) {
+    for (const LinePicture& line : picked.row.pictures) {
+      auto picture =
+          std::make_unique<ui::Picture>(*this, with_code(picked.row.control, '_', line.code));
+      picture->literal_caption = with_code(picked.row.symbol, ' ', line.code);
+      picture->content = line.file;
+      picture->on_press = [this, &choice = *picked.choice, code = line.code] {
+        choice.selected = line_of(choice, code);
         focus(choice);
       };
       made.push_back(std::move(picture));
@@ -99,18 +92,19 @@ std::vector<std::unique_ptr<ui::Control>> CCodeTableDlg::pictures() {
 }
 
 void CCodeTableDlg::on_open() {
-  for (std::size_t k = 0; k < choices_.size(); ++k)
-    choices_[k]->selected = line_of(picker_.codes[k], codes_[k]);
-}
-
-void CCodeTableDlg::put_into(Struct_Weather& record) const {
-  for (std::size_t k = 0; k < codes_.size(); ++k) record.*picker_.codes[k].member = codes_[k];
+  for (Picked& picked : picked_)
+    picked.choice->selected =
+        line_of(*picked.choice, code_to_choose(picked.row.reads, picked.code));
 }
 
 void CCodeTableDlg::on_ok() {
-  for (std::size_t k = 0; k < choices_.size(); ++k) {
-    const int chosen = choices_[k]->selected;
-    if (chosen >= 0) codes_[k] = picker_.codes[k].lines[static_cast<std::size_t>(chosen)].code;
+  for (Picked& picked : picked_) {
+    const int chosen = picked.choice->selected;
+    if (chosen >= 0) picked.code = picked.choice->item_codes[static_cast<std::size_t>(chosen)];
   }
   close(text::kOk);
+}
+
+void CCodeTableDlg::put_into(Struct_Weather& record) const {
+  for (const Picked& picked : picked_) record.*picked.member = picked.code;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "codetables/code_pickers.h"
+#include "observation/Struct_Weather.h"
 #include "ui/screen.h"
 
 class CCodeTableDlg : public ui::Screen {
@@ -26,15 +27,20 @@ class CCodeTableDlg : public ui::Screen {
   void on_ok() override;
 
  private:
-  [[nodiscard]] std::vector<std::unique_ptr<ui::Control>> labels();
-  [[nodiscard]] std::vector<std::unique_ptr<ui::Choice>> choices();
+  /// One of the codes: where the record holds it, what was chosen last, its lines.
+  struct Picked {
+    const codetables::PickedCode& row;
+    std::string Struct_Weather::*member;
+    std::string code;
+    std::unique_ptr<ui::Choice> choice;
+  };
+  [[nodiscard]] std::vector<std::unique_ptr<ui::Control>> labels(const codetables::CodePicker&);
+  [[nodiscard]] std::vector<Picked> picked(const codetables::CodePicker&, const Struct_Weather&);
   [[nodiscard]] std::vector<std::unique_ptr<ui::Control>> pictures();
 
-  const codetables::CodePicker& picker_;
-  std::vector<std::string> codes_;
   // In reading order, as all controls are.
   std::vector<std::unique_ptr<ui::Control>> labels_;
-  std::vector<std::unique_ptr<ui::Choice>> choices_;
+  std::vector<Picked> picked_;
   std::vector<std::unique_ptr<ui::Control>> pictures_;
   ui::Button ok_;
   ui::Button cancel_;

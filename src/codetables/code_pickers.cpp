@@ -1,46 +1,55 @@
 #include "codetables/code_pickers.h"
 
+#include <algorithm>
+
 #include "text/ids.h"
 
 namespace codetables {
 namespace {
 
 namespace id = text::id;
-using R = Struct_Weather;
-
-// ---- Course and speed made good during the three hours before the observation
-
-constexpr PickerLine kTable0700[] = {
-    {"0", id::kDsUnchanged}, {"1", id::kDsNortheast},   {"2", id::kDsEast},
-    {"3", id::kDsSoutheast}, {"4", id::kDsSouth},       {"5", id::kDsSouthwest},
-    {"6", id::kDsWest},      {"7", id::kDsNorthwest},   {"8", id::kDsNorth},
-    {"9", id::kDsUnknown},   {"/", id::kDsNotObserved},
-};
-
-// Exactly 40 knots is a 9.
-constexpr PickerLine kTable4451[] = {
-    {"0", id::kVsUnder1},  {"1", id::kVsUnder6},   {"2", id::kVsUnder11}, {"3", id::kVsUnder16},
-    {"4", id::kVsUnder21}, {"5", id::kVsUnder26},  {"6", id::kVsUnder31}, {"7", id::kVsUnder36},
-    {"8", id::kVsUnder40}, {"9", id::kVs40OrMore}, {"/", id::kVsUnknown},
-};
 
 constexpr PickedCode kMovementCodes[] = {
-    {.name = "course", .caption = id::kMovementCourse, .member = &R::Ds, .lines = kTable0700},
-    {.name = "speed", .caption = id::kMovementSpeed, .member = &R::Vs, .lines = kTable4451},
+    {.symbol = "Ds", .control = "course", .caption = id::kMovementCourse},
+    {.symbol = "Vs", .control = "speed", .caption = id::kMovementSpeed},
 };
 
-// ---- Visibility: of code table 4377 the bands that serve at sea
-
-constexpr PickerLine kTable4377[] = {
-    {"//", id::kVisibilityUnknown}, {"99", id::kVisibility50km},  {"98", id::kVisibility20km},
-    {"97", id::kVisibility10km},    {"96", id::kVisibility4km},   {"95", id::kVisibility2km},
-    {"94", id::kVisibility1km},     {"93", id::kVisibility500m},  {"92", id::kVisibility200m},
-    {"91", id::kVisibility50m},     {"90", id::kVisibilityBelow},
-};
-
+// The bands that serve at sea, the farthest first.
+constexpr std::string_view kVisibilityOrder[] = {"//", "99", "98", "97", "96", "95",
+                                                 "94", "93", "92", "91", "90"};
 constexpr PickedCode kVisibilityCodes[] = {
-    {.name = "choice", .member = &R::VV, .lines = kTable4377},
+    {.symbol = "VV", .control = "choice", .order = kVisibilityOrder},
 };
+
+constexpr PickedCode kTotalCloudCodes[] = {{.symbol = "N", .control = "choice"}};
+constexpr PickedCode kLowestCloudCodes[] = {{.symbol = "Nh", .control = "choice"}};
+
+// From above, as one looks for the base.
+constexpr std::string_view kCloudBaseOrder[] = {"/", "9", "8", "7", "6", "5",
+                                                "4", "3", "2", "1", "0"};
+constexpr PickedCode kCloudBaseCodes[] = {
+    {.symbol = "h", .control = "choice", .order = kCloudBaseOrder},
+};
+
+// What is no type of cloud stands before the types.
+constexpr std::string_view kCloudTypeOrder[] = {"0", "/", "1", "2", "3", "4",
+                                                "5", "6", "7", "8", "9"};
+constexpr PickedCode kLowCloudCodes[] = {
+    {.symbol = "CL", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
+constexpr PickedCode kMiddleCloudCodes[] = {
+    {.symbol = "CM", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
+constexpr PickedCode kHighCloudCodes[] = {
+    {.symbol = "CH", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
+
+constexpr PickedCode kIceStageCodes[] = {
+    {.symbol = "Si", .control = "stage", .caption = id::kIceStageList},
+    {.symbol = "bi", .control = "land_origin", .caption = id::kLandIceList},
+};
+constexpr PickedCode kIceEdgeCodes[] = {{.symbol = "Di", .control = "choice"}};
+constexpr PickedCode kIceTrendCodes[] = {{.symbol = "zi", .control = "choice"}};
 
 }  // namespace
 
@@ -58,9 +67,60 @@ constexpr CodePicker kVisibility = {
     .codes = kVisibilityCodes,
 };
 
+constexpr CodePicker kTotalCloud = {
+    .class_name = "CCloudAgeDlg",
+    .title = id::kTotalCloudTitle,
+    .heading = id::kTotalCloudHeading,
+    .group = id::kTotalCloudGroup,
+    .codes = kTotalCloudCodes,
+};
+
+constexpr CodePicker kLowestCloud = {
+    .class_name = "CBottomLayerCloudDlg",
+    .title = id::kLowestCloudTitle,
+    .heading = id::kLowestCloudHeading,
+    .codes = kLowestCloudCodes,
+};
+
+constexpr CodePicker kCloudBase = {
+    .class_name = "CCloudHeightDlg",
+    .title = id::kCloudBaseTitle,
+    .heading = id::kCloudBaseHeading,
+    .group = id::kCloudBaseGroup,
+    .codes = kCloudBaseCodes,
+};
+
+constexpr CodePicker kLowCloud = {
+    .class_name = "CBottomCloudDlg", .title = id::kLowCloudTitle, .codes = kLowCloudCodes};
+constexpr CodePicker kMiddleCloud = {
+    .class_name = "CMidCloudDlg", .title = id::kMiddleCloudTitle, .codes = kMiddleCloudCodes};
+constexpr CodePicker kHighCloud = {
+    .class_name = "CTopCloudDlg", .title = id::kHighCloudTitle, .codes = kHighCloudCodes};
+
+constexpr CodePicker kIceStage = {
+    .class_name = "CICESiBiDlg", .title = id::kIceStageTitle, .codes = kIceStageCodes};
+constexpr CodePicker kIceEdge = {
+    .class_name = "CICEDiDlg", .title = id::kIceEdgeTitle, .codes = kIceEdgeCodes};
+constexpr CodePicker kIceTrend = {
+    .class_name = "CNewZiDlg", .title = id::kIceTrendTitle, .codes = kIceTrendCodes};
+
 std::span<const CodePicker* const> code_pickers() {
-  static constexpr const CodePicker* kAll[] = {&kMovement, &kVisibility};
+  static constexpr const CodePicker* kAll[] = {
+      &kMovement,    &kVisibility, &kTotalCloud, &kLowestCloud, &kCloudBase, &kLowCloud,
+      &kMiddleCloud, &kHighCloud,  &kIceStage,   &kIceEdge,     &kIceTrend,
+  };
   return kAll;
+}
+
+std::vector<CodeRow> lines_of(const PickedCode& picked) {
+  const std::span<const CodeRow> rows = table_of(picked.symbol)->rows;
+  if (picked.order.empty()) return {rows.begin(), rows.end()};
+  std::vector<CodeRow> lines;
+  for (const std::string_view code : picked.order) {
+    lines.push_back(*std::find_if(rows.begin(), rows.end(),
+                                  [&](const CodeRow& row) { return row.figures == code; }));
+  }
+  return lines;
 }
 
 }  // namespace codetables

@@ -5,19 +5,12 @@
 
 #include <cstdint>
 #include <span>
-#include <string>
 #include <string_view>
+#include <vector>
 
-#include "observation/Struct_Weather.h"
+#include "codetables/tables/code_tables.h"
 
 namespace codetables {
-
-/// A line to choose, in the order of the screen, which need not be the table's.
-struct PickerLine {
-  std::string_view code;          ///< as it goes into the record: "95", "/" …
-  int text = 0;                   ///< what it means
-  std::string_view picture = {};  ///< file of a picture beside the lines; a click on it chooses
-};
 
 /// How the record's code finds its line.
 enum class Reads : std::uint8_t {
@@ -25,16 +18,23 @@ enum class Reads : std::uint8_t {
   kFirstFigure,  ///< by its first character alone
 };
 
-/// One of the codes that a dialog picks. Texts are ids of the string table, 0 for none.
+/// A picture beside the line of a code; a click on it chooses the line.
+struct LinePicture {
+  std::string_view code;
+  std::string_view file;
+};
+
+/// One of the codes that a dialog picks.
 struct PickedCode {
-  /// The control's name. A picture is named for it and its line, and captioned likewise: "CL 1".
-  std::string_view name;
-  int caption = 0;
-  std::string Struct_Weather::*member = nullptr;  ///< where the record holds it
-  std::span<const PickerLine> lines;
+  std::string_view symbol;   ///< the field of the record, and of the code table that serves it
+  std::string_view control;  ///< name of the lines' control; the title says enough for one alone
+  int caption = 0;           ///< text id, 0 for none
+  std::span<const std::string_view> order = {};  ///< the codes to choose; none: all of the table
+  std::span<const LinePicture> pictures = {};    ///< controls CONTROL_CODE, captioned "CL 1"
   Reads reads = Reads::kCode;
 };
 
+/// Texts are ids of the string table, 0 for none.
 struct CodePicker {
   std::string_view class_name;  ///< names the layout and the help topic
   int title = 0;
@@ -45,8 +45,20 @@ struct CodePicker {
 
 extern const CodePicker kMovement;
 extern const CodePicker kVisibility;
+extern const CodePicker kTotalCloud;
+extern const CodePicker kLowestCloud;
+extern const CodePicker kCloudBase;
+extern const CodePicker kLowCloud;
+extern const CodePicker kMiddleCloud;
+extern const CodePicker kHighCloud;
+extern const CodePicker kIceStage;
+extern const CodePicker kIceEdge;
+extern const CodePicker kIceTrend;
 
 /// All of them, for what must hold for each.
 [[nodiscard]] std::span<const CodePicker* const> code_pickers();
+
+/// The lines to choose in the order of the screen.
+[[nodiscard]] std::vector<CodeRow> lines_of(const PickedCode& picked);
 
 }  // namespace codetables

@@ -91,12 +91,20 @@ bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<Put
   return true;
 }
 
-// The dialogs that pick codes; `fields` show them.
-template <const codetables::CodePicker& picker, Field... fields>
+// The dialogs that pick codes. A field that shows one of them is named for it.
+template <const codetables::CodePicker& picker>
 bool pick(Opening& opening) {
   CCodeTableDlg dialog(opening.services, picker, opening.form.record());
   if (!confirmed(opening, dialog)) return false;
-  opening.form.change([&](Struct_Weather& record) { dialog.put_into(record); }, {fields...});
+  Struct_Weather chosen = opening.form.record();
+  dialog.put_into(chosen);
+  for (const codetables::PickedCode& picked : picker.codes) {
+    std::string Struct_Weather::*const member = find_weather_field(picked.symbol)->member;
+    const Field field = elements::field_named(picked.symbol).value();
+    // A text that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
+    if (opening.form.record().*member == chosen.*member && !opening.form.in_error(field)) continue;
+    opening.form.change([&](Struct_Weather& record) { record.*member = chosen.*member; }, {field});
+  }
   return true;
 }
 
@@ -242,7 +250,7 @@ bool open_true_wind(Opening& opening) {
 constexpr ElementRow kRows[] = {
     {kObservationTime, always, open_time},
     {kPosition, always, open_position},
-    {kCourseAndSpeed, always, pick<codetables::kMovement, Field::kDs, Field::kVs>},
+    {kCourseAndSpeed, always, pick<codetables::kMovement>},
     {kPressure, always, open_pressure},
     {kPressureTendency, always, open_tendency},
     {kPsychrometer, dew_point_by<DewPointMethod::kComputed>, open_psychrometer},
@@ -251,20 +259,20 @@ constexpr ElementRow kRows[] = {
     {kApparentWind, wind_by<WindInputMethod::kApparentWind>, open_apparent_wind},
     {kWindWave, item_is_observed<ObservationItem::PwHw>},
     {kSwell, a_swell_is_observed},
-    {kVisibility, item_is_observed<ObservationItem::VV>, pick<codetables::kVisibility, Field::kVV>},
+    {kVisibility, item_is_observed<ObservationItem::VV>, pick<codetables::kVisibility>},
     {kPresentWeather, item_is_observed<ObservationItem::ww>},
     {kPastWeather, item_is_observed<ObservationItem::W1W2>},
-    {kCloudAmount, item_is_observed<ObservationItem::N>},
-    {kLowestCloud, item_is_observed<ObservationItem::Nh>},
-    {kUpperCloud, item_is_observed<ObservationItem::CLCMCH>},
-    {kMiddleCloud, item_is_observed<ObservationItem::CLCMCH>},
-    {kLowerCloud, item_is_observed<ObservationItem::CLCMCH>},
+    {kCloudAmount, item_is_observed<ObservationItem::N>, pick<codetables::kTotalCloud>},
+    {kLowestCloud, item_is_observed<ObservationItem::Nh>, pick<codetables::kLowestCloud>},
+    {kUpperCloud, item_is_observed<ObservationItem::CLCMCH>, pick<codetables::kHighCloud>},
+    {kMiddleCloud, item_is_observed<ObservationItem::CLCMCH>, pick<codetables::kMiddleCloud>},
+    {kLowerCloud, item_is_observed<ObservationItem::CLCMCH>, pick<codetables::kLowCloud>},
     {kIceAccretion, item_is_observed<ObservationItem::IsEsEsRs>},
-    {kCloudHeight, item_is_observed<ObservationItem::h>},
+    {kCloudHeight, item_is_observed<ObservationItem::h>, pick<codetables::kCloudBase>},
     {kIceConcentration, item_is_observed<ObservationItem::ciSibiDizi>},
-    {kIceStage, item_is_observed<ObservationItem::ciSibiDizi>},
-    {kIceBearing, item_is_observed<ObservationItem::ciSibiDizi>},
-    {kIceTrend, item_is_observed<ObservationItem::ciSibiDizi>},
+    {kIceStage, item_is_observed<ObservationItem::ciSibiDizi>, pick<codetables::kIceStage>},
+    {kIceBearing, item_is_observed<ObservationItem::ciSibiDizi>, pick<codetables::kIceEdge>},
+    {kIceTrend, item_is_observed<ObservationItem::ciSibiDizi>, pick<codetables::kIceTrend>},
     {kTrueWind, wind_by<WindInputMethod::kTrueWind>, open_true_wind},
     {kRelativeHumidity, humidity_is_read, open_humidity},
 };

@@ -948,6 +948,8 @@ inline constexpr int kIceUniform = 43613;
 inline constexpr int kIceNotUniform = 43614;
 inline constexpr int kIceConcentrationList = 43615;
 inline constexpr int kIceStageTitle = 43620;
+inline constexpr int kIceStageList = 42720;
+inline constexpr int kLandIceList = 42721;
 inline constexpr int kIceEdgeTitle = 43621;
 inline constexpr int kIceTrendTitle = 43622;
 

@@ -65,6 +65,16 @@ constexpr F1Row kF1[] = {
     {"dd", "CTrueDirWindDlg"},
     {"TwTwTw", "CSea_SurfaceTemperatureDlg"},
     {"VV", "CEyeShotDlg"},
+    {"N", "CCloudAgeDlg"},
+    {"Nh", "CBottomLayerCloudDlg"},
+    {"CH", "CTopCloudDlg"},
+    {"CM", "CMidCloudDlg"},
+    {"CL", "CBottomCloudDlg"},
+    {"h", "CCloudHeightDlg"},
+    {"Si", "CICESiBiDlg"},
+    {"bi", "CICESiBiDlg"},
+    {"Di", "CICEDiDlg"},
+    {"zi", "CNewZiDlg"},
 };
 
 TEST(Dialogs, OpenWithF1InTheirFieldsAndCancelledChangeNothing) {

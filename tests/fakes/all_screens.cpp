@@ -66,7 +66,7 @@ Made make_picker(ui::Services& services, const codetables::CodePicker& picker) {
   constexpr std::size_t kLine = 3;
   Struct_Weather record(sample_ship(), KeyObservationItems());
   for (const codetables::PickedCode& picked : picker.codes)
-    record.*picked.member = picked.lines[kLine].code;
+    record.*find_weather_field(picked.symbol)->member = codetables::lines_of(picked)[kLine].figures;
   return std::make_unique<CCodeTableDlg>(services, picker, record);
 }
 
