@@ -5,60 +5,28 @@
 #include "text/ids.h"
 
 namespace codetables {
-namespace {
 
 namespace id = text::id;
+
+// ---- Course and speed made good during the three hours before the observation
 
 constexpr PickedCode kMovementCodes[] = {
     {.symbol = "Ds", .control = "course", .caption = id::kMovementCourse},
     {.symbol = "Vs", .control = "speed", .caption = id::kMovementSpeed},
 };
-
-// The bands that serve at sea, the farthest first.
-constexpr std::string_view kVisibilityOrder[] = {"//", "99", "98", "97", "96", "95",
-                                                 "94", "93", "92", "91", "90"};
-constexpr PickedCode kVisibilityCodes[] = {
-    {.symbol = "VV", .control = "choice", .order = kVisibilityOrder},
-};
-
-constexpr PickedCode kTotalCloudCodes[] = {{.symbol = "N", .control = "choice"}};
-constexpr PickedCode kLowestCloudCodes[] = {{.symbol = "Nh", .control = "choice"}};
-
-// From above, as one looks for the base.
-constexpr std::string_view kCloudBaseOrder[] = {"/", "9", "8", "7", "6", "5",
-                                                "4", "3", "2", "1", "0"};
-constexpr PickedCode kCloudBaseCodes[] = {
-    {.symbol = "h", .control = "choice", .order = kCloudBaseOrder},
-};
-
-// What is no type of cloud stands before the types.
-constexpr std::string_view kCloudTypeOrder[] = {"0", "/", "1", "2", "3", "4",
-                                                "5", "6", "7", "8", "9"};
-constexpr PickedCode kLowCloudCodes[] = {
-    {.symbol = "CL", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
-};
-constexpr PickedCode kMiddleCloudCodes[] = {
-    {.symbol = "CM", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
-};
-constexpr PickedCode kHighCloudCodes[] = {
-    {.symbol = "CH", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
-};
-
-constexpr PickedCode kIceStageCodes[] = {
-    {.symbol = "Si", .control = "stage", .caption = id::kIceStageList},
-    {.symbol = "bi", .control = "land_origin", .caption = id::kLandIceList},
-};
-constexpr PickedCode kIceEdgeCodes[] = {{.symbol = "Di", .control = "choice"}};
-constexpr PickedCode kIceTrendCodes[] = {{.symbol = "zi", .control = "choice"}};
-
-}  // namespace
-
 constexpr CodePicker kMovement = {
     .class_name = "CDvDsDlg",
     .title = id::kMovementTitle,
     .codes = kMovementCodes,
 };
 
+// ---- Visibility: the bands that serve at sea, the farthest first
+
+constexpr std::string_view kVisibilityOrder[] = {"//", "99", "98", "97", "96", "95",
+                                                 "94", "93", "92", "91", "90"};
+constexpr PickedCode kVisibilityCodes[] = {
+    {.symbol = "VV", .control = "choice", .order = kVisibilityOrder},
+};
 constexpr CodePicker kVisibility = {
     .class_name = "CEyeShotDlg",
     .title = id::kVisibilityTitle,
@@ -67,6 +35,9 @@ constexpr CodePicker kVisibility = {
     .codes = kVisibilityCodes,
 };
 
+// ---- Clouds
+
+constexpr PickedCode kTotalCloudCodes[] = {{.symbol = "N", .control = "choice"}};
 constexpr CodePicker kTotalCloud = {
     .class_name = "CCloudAgeDlg",
     .title = id::kTotalCloudTitle,
@@ -75,6 +46,7 @@ constexpr CodePicker kTotalCloud = {
     .codes = kTotalCloudCodes,
 };
 
+constexpr PickedCode kLowestCloudCodes[] = {{.symbol = "Nh", .control = "choice"}};
 constexpr CodePicker kLowestCloud = {
     .class_name = "CBottomLayerCloudDlg",
     .title = id::kLowestCloudTitle,
@@ -82,6 +54,12 @@ constexpr CodePicker kLowestCloud = {
     .codes = kLowestCloudCodes,
 };
 
+// The highest first.
+constexpr std::string_view kCloudBaseOrder[] = {"/", "9", "8", "7", "6", "5",
+                                                "4", "3", "2", "1", "0"};
+constexpr PickedCode kCloudBaseCodes[] = {
+    {.symbol = "h", .control = "choice", .order = kCloudBaseOrder},
+};
 constexpr CodePicker kCloudBase = {
     .class_name = "CCloudHeightDlg",
     .title = id::kCloudBaseTitle,
@@ -90,19 +68,63 @@ constexpr CodePicker kCloudBase = {
     .codes = kCloudBaseCodes,
 };
 
+// None and unknown stand before the types.
+constexpr std::string_view kCloudTypeOrder[] = {"0", "/", "1", "2", "3", "4",
+                                                "5", "6", "7", "8", "9"};
+constexpr PickedCode kLowCloudCodes[] = {
+    {.symbol = "CL", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
 constexpr CodePicker kLowCloud = {
-    .class_name = "CBottomCloudDlg", .title = id::kLowCloudTitle, .codes = kLowCloudCodes};
-constexpr CodePicker kMiddleCloud = {
-    .class_name = "CMidCloudDlg", .title = id::kMiddleCloudTitle, .codes = kMiddleCloudCodes};
-constexpr CodePicker kHighCloud = {
-    .class_name = "CTopCloudDlg", .title = id::kHighCloudTitle, .codes = kHighCloudCodes};
+    .class_name = "CBottomCloudDlg",
+    .title = id::kLowCloudTitle,
+    .codes = kLowCloudCodes,
+};
 
+constexpr PickedCode kMiddleCloudCodes[] = {
+    {.symbol = "CM", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
+constexpr CodePicker kMiddleCloud = {
+    .class_name = "CMidCloudDlg",
+    .title = id::kMiddleCloudTitle,
+    .codes = kMiddleCloudCodes,
+};
+
+constexpr PickedCode kHighCloudCodes[] = {
+    {.symbol = "CH", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
+constexpr CodePicker kHighCloud = {
+    .class_name = "CTopCloudDlg",
+    .title = id::kHighCloudTitle,
+    .codes = kHighCloudCodes,
+};
+
+// ---- Sea ice
+
+constexpr PickedCode kIceStageCodes[] = {
+    {.symbol = "Si", .control = "stage", .caption = id::kIceStageList},
+    {.symbol = "bi", .control = "land_origin", .caption = id::kLandIceList},
+};
 constexpr CodePicker kIceStage = {
-    .class_name = "CICESiBiDlg", .title = id::kIceStageTitle, .codes = kIceStageCodes};
+    .class_name = "CICESiBiDlg",
+    .title = id::kIceStageTitle,
+    .codes = kIceStageCodes,
+};
+
+constexpr PickedCode kIceEdgeCodes[] = {{.symbol = "Di", .control = "choice"}};
 constexpr CodePicker kIceEdge = {
-    .class_name = "CICEDiDlg", .title = id::kIceEdgeTitle, .codes = kIceEdgeCodes};
+    .class_name = "CICEDiDlg",
+    .title = id::kIceEdgeTitle,
+    .codes = kIceEdgeCodes,
+};
+
+constexpr PickedCode kIceTrendCodes[] = {{.symbol = "zi", .control = "choice"}};
 constexpr CodePicker kIceTrend = {
-    .class_name = "CNewZiDlg", .title = id::kIceTrendTitle, .codes = kIceTrendCodes};
+    .class_name = "CNewZiDlg",
+    .title = id::kIceTrendTitle,
+    .codes = kIceTrendCodes,
+};
+
+// ---- All of them
 
 std::span<const CodePicker* const> code_pickers() {
   static constexpr const CodePicker* kAll[] = {

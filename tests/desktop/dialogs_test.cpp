@@ -71,10 +71,6 @@ constexpr F1Row kF1[] = {
     {"CM", "CMidCloudDlg"},
     {"CL", "CBottomCloudDlg"},
     {"h", "CCloudHeightDlg"},
-    {"Si", "CICESiBiDlg"},
-    {"bi", "CICESiBiDlg"},
-    {"Di", "CICEDiDlg"},
-    {"zi", "CNewZiDlg"},
 };
 
 TEST(Dialogs, OpenWithF1InTheirFieldsAndCancelledChangeNothing) {

@@ -61,12 +61,11 @@ class MainWindow : private Owned, public CVelmaranDlg {
       : CVelmaranDlg(services, {ship, items, folders, {}, {}, {}}) {}
 };
 
-// Every dialog that picks codes, on the fourth line of each of its tables.
+// Every dialog that picks codes, on the last line of each of its tables.
 Made make_picker(ui::Services& services, const codetables::CodePicker& picker) {
-  constexpr std::size_t kLine = 3;
   Struct_Weather record(sample_ship(), KeyObservationItems());
   for (const codetables::PickedCode& picked : picker.codes)
-    record.*find_weather_field(picked.symbol)->member = codetables::lines_of(picked)[kLine].figures;
+    record.*find_weather_field(picked.symbol)->member = codetables::lines_of(picked).back().figures;
   return std::make_unique<CCodeTableDlg>(services, picker, record);
 }
 

@@ -323,9 +323,8 @@ TEST(Captions, OpenTheirCodesDialogAndMoveTheFocusOn) {
     const auto opened = std::make_unique<Opened>();
     const mainwindow::ElementRow* const element = mainwindow::find_element(row.element);
     ASSERT_NE(nullptr, element);
-    const auto dialog = std::find_if(dialogs().begin(), dialogs().end(), [&](const Dialog& d) {
-      return d.element == row.element;
-    });
+    const auto dialog = std::find_if(dialogs().begin(), dialogs().end(),
+                                     [&](const Dialog& d) { return d.element == row.element; });
     ASSERT_EQ(dialog == dialogs().end(), element->open == nullptr) << row.name;
     if (element->open == nullptr) {
       opened->world.windows.expect(id::kNotInThisVersion);
