@@ -49,8 +49,8 @@ CCodeTableDlg::~CCodeTableDlg() = default;
 
 std::vector<std::unique_ptr<ui::Control>> CCodeTableDlg::labels(const CodePicker& picker) {
   std::vector<std::unique_ptr<ui::Control>> made;
-  const auto add = [&](std::string_view name, int text) {
-    if (text != 0) made.push_back(std::make_unique<ui::Label>(*this, name, text::Ref{text}));
+  const auto add = [&](std::string_view name, text::Id text) {
+    if (text) made.push_back(std::make_unique<ui::Label>(*this, name, text::Ref{text}));
   };
   add("heading", picker.heading);
   add("group", picker.group);

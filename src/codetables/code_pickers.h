@@ -28,18 +28,17 @@ struct LinePicture {
 struct PickedCode {
   std::string_view symbol;   ///< the field of the record, and of the code table that serves it
   std::string_view control;  ///< name of the lines' control; the title says enough for one alone
-  int caption = 0;           ///< text id, 0 for none
+  text::Id caption = {};
   std::span<const std::string_view> order = {};  ///< the codes to choose; none: all of the table
   std::span<const LinePicture> pictures = {};    ///< controls CONTROL_CODE, captioned "CL 1"
   Reads reads = Reads::kCode;
 };
 
-/// Texts are ids of the string table, 0 for none.
 struct CodePicker {
   std::string_view class_name;  ///< names the layout and the help topic
-  int title = 0;
-  int heading = 0;  ///< a text above all
-  int group = 0;    ///< title of a frame around the lines
+  text::Id title = {};
+  text::Id heading = {};  ///< a text above all
+  text::Id group = {};    ///< title of a frame around the lines
   std::span<const PickedCode> codes;
 };
 

@@ -88,7 +88,7 @@ bool CTemperatureEntry::check_whole() {
   }
   const elements::TemperatureRange range = elements::temperature_range(degrees);
   if (range != elements::TemperatureRange::kUsual && degrees != confirmed_) {
-    const int question =
+    const text::Id question =
         range == elements::TemperatureRange::kAbove ? texts_.high_question : texts_.low_question;
     if (services_.messages.question(question, text::QuestionMode::kYesNo) != text::kYes)
       return false;

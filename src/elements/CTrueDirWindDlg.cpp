@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view kUnknown = "//";
 constexpr double kLargestSpeed = 999.0;
 
-int message_of(TrueWindRule rule) {
+text::Id message_of(TrueWindRule rule) {
   switch (rule) {
     case TrueWindRule::kCalmWithSpeed:
       return id::kCalmDirectionWithSpeed;
@@ -27,7 +27,7 @@ int message_of(TrueWindRule rule) {
     case TrueWindRule::kKept:
       break;
   }
-  return 0;
+  return {};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "codetables/CCodeTableDlg.h"
 #include "expected_pickers.h"
 #include "fakes/fake_ports.h"
+#include "text/ids.h"
 #include "text/texts.h"
 #include "ui/dump.h"
 
@@ -234,7 +235,7 @@ TEST(Movement, GivesBothCodesAndEachAlone) {
 
 // ---- Pictures
 
-constexpr int kSomeText = 40904;  // "OK" in both languages
+constexpr text::Id kSomeText = text::id::kOkLabel;
 constexpr codetables::LinePicture kTwoPictures[] = {{"1", "one.png"}, {"2", "two.png"}};
 constexpr codetables::PickedCode kPictureCodes[] = {
     {.symbol = "CL",

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "text/id.h"
 #include "text/ids.h"
 #include "text/strings.h"
 #include "text/texts.h"
@@ -11,7 +12,7 @@ namespace id = text::id;
 namespace {
 
 struct Line {
-  decltype(id::kPresentWeatherTitle) text;
+  text::Id text;
   std::string_view english;
 };
 

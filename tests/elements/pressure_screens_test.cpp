@@ -429,8 +429,8 @@ TEST(TendencyScreen, EveryCharacteristicWithEveryAmount) {
   struct Amount {
     const char* typed;
     const char* stored;
-    int question;  // asked once, answered Yes
-    int refusal;
+    text::Id question;  // asked once, answered Yes
+    text::Id refusal;
   };
   const Amount amounts[] = {{"", "", 0, 0},
                             {"0", "000", 0, 0},
@@ -459,12 +459,12 @@ TEST(TendencyScreen, EveryCharacteristicWithEveryAmount) {
               t.world, t.screen, [&] { t.press_ok(); }, amount.refusal, t.screen.amount);
           continue;
         }
-        if (amount.question != 0) {
+        if (amount.question) {
           checks::refused(
               t.world, t.screen, [&] { t.press_ok(); }, amount.question, t.screen.amount, "no");
         }
         const auto leave = [&] { EXPECT_TRUE(t.screen.move_focus(t.screen.ok)); };
-        if (amount.question != 0) {
+        if (amount.question) {
           checks::asked_and_kept(t.world, leave, amount.question);
         } else {
           leave();

@@ -164,17 +164,17 @@ TEST(PsychrometerScreen, RefusesWhatIsNoTemperature) {
 // Unusual temperatures of all four entries: No keeps the focus, Yes the value, and it is asked
 // once.
 template <class World, class Entry>
-void expect_questions(World& p, ui::Screen& screen, Entry& entry, const ui::Control& ok, int high,
-                      int low) {
+void expect_questions(World& p, ui::Screen& screen, Entry& entry, const ui::Control& ok,
+                      text::Id high, text::Id low) {
   struct Row {
     const char* whole;
-    int question;
+    text::Id question;
   };
   for (const Row& row : {Row{"41", high}, Row{"40", 0}, Row{"-26", low}, Row{"-25", 0}}) {
     SCOPED_TRACE(row.whole);
     p.type(entry.whole, row.whole);
     ui::Control& next = entry.tenths;
-    if (row.question == 0) {
+    if (!row.question) {
       EXPECT_TRUE(screen.move_focus(next));
       continue;
     }
@@ -407,7 +407,7 @@ TEST(TemperatureMessages, ReadAsTheyAlwaysDid) {
                      "Error: Input data is out of range.\nIt must be \"0<=Relative "
                      "Humidity(%)<=100\"");
   struct Row {
-    int question;
+    text::Id question;
     const char* range;
   };
   for (const Row& row : {Row{id::kAirTemperatureHighQuestion, "Air temp<=40"},

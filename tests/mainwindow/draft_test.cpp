@@ -329,7 +329,7 @@ TEST(KeptEntries, AreComputedAnewForAShipThatWasChangedSince) {
 TEST(KeptEntries, ThatCannotBeUsedAreNamedAndPutAside) {
   struct Case {
     const char* what;
-    int message;
+    text::Id message;
     std::function<void(Computer&)> harm;
   };
   const Case cases[] = {

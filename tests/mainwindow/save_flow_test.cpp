@@ -149,7 +149,7 @@ TEST(SaveFlow, AControlCharacterIsToldWithItsFieldAndNothingIsWritten) {
 
 TEST(SaveFlow, GivenTextsAreToTheLetter) {
   struct Row {
-    int message;
+    text::Id message;
     const char *english, *japanese;  // nullptr: not given
   };
   const Row rows[] = {
@@ -347,7 +347,7 @@ TEST(SaveFlow, EveryFailedWriteLeavesBothFilesAndSaysSo) {
 }
 
 // The box shows the text of the id with these words in its places.
-void expect_words(const platform::MessageBox& box, int id, text::Language language,
+void expect_words(const platform::MessageBox& box, text::Id id, text::Language language,
                   std::initializer_list<std::string_view> words) {
   EXPECT_EQ(box.text_id, id);
   EXPECT_EQ(box.text, text::fill(text::bilingual(id, language), words));
@@ -441,7 +441,7 @@ TEST(SaveFlow, EveryEndOfAnInterruptedSaveIsToldInBothLanguages) {
   using observation::Recovered;
   const struct {
     Recovered outcome;
-    int id;
+    text::Id id;
     std::vector<std::string_view> words;
   } rows[] = {
       {Recovered::kFinished, id::kSaveFinished, {"14111512.tlx", "7"}},

@@ -184,7 +184,7 @@ TEST(CardScreen, LimitsThePortAndTheHeights) {
 struct LeaveRow {
   const char* field;
   const char* typed;
-  int message;
+  text::Id message;
   const char* argument;  // of the message
 };
 
@@ -344,7 +344,7 @@ TEST(CardScreen, ComparesWithAPartnerThatWasTyped) {
 struct OkRow {
   const char* rule;
   std::function<void(BarometerCard&)> spoil;
-  int message;
+  text::Id message;
   const char* focus;
 };
 
@@ -583,7 +583,7 @@ TEST(CardScreen, ShowsAPortAsTheFileWillKeepIt) {
 TEST(CardScreen, RefusesAtOkAPortThatTheFileCanNotKeep) {
   const struct {
     std::string port;
-    int message;
+    text::Id message;
     const char* argument;
   } rows[] = {
       {"横浜\uFFFD", id::kCheckPortCharacter, "\uFFFD"},

@@ -331,7 +331,7 @@ struct FieldRow {
   const char* name;
   std::string typed;
   std::string left;  // what the field holds after it was left
-  int message;       // 0 when it is accepted
+  text::Id message;  // 0 when it is accepted
 };
 
 TEST(FixedDataScreen, TidiesAndChecksAFieldWhenItIsLeft) {
@@ -367,10 +367,10 @@ TEST(FixedDataScreen, TidiesAndChecksAFieldWhenItIsLeft) {
       ui::Control& field = *screen.find(row.name);
       ASSERT_TRUE(enter(screen, field, row.typed)) << row.name;
       const std::string before = dump(screen);
-      if (row.message != 0) bench.world.windows.expect(row.message);
-      EXPECT_EQ(screen.move_focus(screen.wave_recorder), row.message == 0) << row.typed;
+      if (row.message) bench.world.windows.expect(row.message);
+      EXPECT_EQ(screen.move_focus(screen.wave_recorder), !row.message) << row.typed;
       EXPECT_EQ(field.content, row.left) << row.typed;
-      if (row.message == 0) continue;
+      if (!row.message) continue;
       EXPECT_EQ(dump(screen), before) << row.typed;
       EXPECT_EQ(screen.focused(), &field);
       EXPECT_EQ(screen.selection_length(), -1);
@@ -559,7 +559,7 @@ TEST(FixedDataScreen, LeavesTheCardAloneWhenEitherScreenIsCancelled) {
 struct OkRow {
   const char* rule;
   std::function<void(ShipFixedData&)> spoil;
-  int message;
+  text::Id message;
   const char* argument;
 };
 
@@ -644,7 +644,7 @@ TEST(FixedDataScreen, RefusesAtOkAPortThatIsDamagedInTheFile) {
 TEST(FixedDataScreen, ChecksASingleTotalCorrectionAtOk) {
   struct {
     const char* value;
-    int message;
+    text::Id message;
   } const rows[] = {{"", id::kTotalCorrectionMissing},
                     {"x", id::kTotalCorrectionNotNumeric},
                     {"80.1", id::kTotalCorrectionRange},

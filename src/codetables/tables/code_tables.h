@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "text/id.h"
 #include "text/texts.h"
 
 namespace codetables {
@@ -16,7 +17,7 @@ namespace codetables {
 /// A line of a table.
 struct CodeRow {
   std::string_view figures;  ///< "95", "/" …
-  int text = 0;              ///< text id of what they stand for
+  text::Id text;             ///< what they stand for
 };
 
 /// Figures of two digits that stand for a number: `first` for `start`, each further one for `step`
@@ -24,7 +25,7 @@ struct CodeRow {
 struct FigureRange {
   int first = 0;
   int last = 0;
-  int text = 0;  ///< text id; its "%s" is the number
+  text::Id text;  ///< its "%s" is the number
   int start = 0;
   int step = 0;
   int decimals = 0;

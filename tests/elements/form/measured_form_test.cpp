@@ -170,7 +170,7 @@ TEST(TendencyAmount, OfMinusZeroIsZero) {
 TEST(Reading, RefusesAsksAndTakesByThePressureAtSeaLevel) {
   struct Row {
     const char* reading;
-    int message;  // 0: taken silently
+    text::Id message;  // 0: taken silently
     const char* pppp;
   };
   for (const Row& row :
@@ -189,7 +189,7 @@ TEST(Reading, RefusesAsksAndTakesByThePressureAtSeaLevel) {
       EXPECT_EQ(no.record().PPPP, "");
     }
     Form f;
-    if (row.message != 0) f.world.windows.expect(row.message, asks ? "yes" : "ok");
+    if (row.message) f.world.windows.expect(row.message, asks ? "yes" : "ok");
     EXPECT_EQ(f.enter(Field::kReading, row.reading), *row.pppp != '\0');
     EXPECT_EQ(f.record().PPPP, row.pppp);
     Form quiet;

@@ -31,7 +31,7 @@ BarometerCard card_two() {
   return card;
 }
 
-int message_of(const std::optional<CardFault>& fault) {
+text::Id message_of(const std::optional<CardFault>& fault) {
   return fault ? fault->message : 0;
 }
 
@@ -104,7 +104,7 @@ TEST(BarometerDate, IsMissingWhenBlankOrStillThePlaceholder) {
 struct ValueRow {
   CardField field;
   const char* value;
-  int message;  // 0 when accepted
+  text::Id message;  // 0 when accepted
 };
 
 // Card type "1" with 10 m and +1.0 at full load, 20 m and +2.0 in ballast.
