@@ -1078,6 +1078,9 @@ inline constexpr Id kSaveLineWithoutReport{42506};
 inline constexpr Id kSaveNoteDamaged{42507};
 inline constexpr Id kSaveLineLeft{42508};
 inline constexpr Id kLogbookLineClosed{42509};
+inline constexpr Id kSaveNotRecovered{42635};
+inline constexpr Id kSaveUnreachable{42636};
+inline constexpr Id kAskLeaveUnreachable{42637};
 
 // Entries that outlive the program
 inline constexpr Id kDraftFound{42580};
@@ -1094,5 +1097,7 @@ inline constexpr Id kDraftOtherShip{42590};
 inline constexpr Id kDraftAside{42591};
 inline constexpr Id kDraftStays{42592};
 inline constexpr Id kDraftNotKept{42593};
+inline constexpr Id kDraftUnreadable{42630};
+inline constexpr Id kDraftWithoutLock{42631};
 
 }  // namespace text::id

@@ -46,6 +46,21 @@ inline void asked_and_kept(fakes::World& world, const std::function<void()>& act
   EXPECT_EQ(world.windows.boxes.back().text, text::bilingual(text_id, world.texts.language));
 }
 
+/// The Help button opens the topic, in the language of the moment. The world is English before and
+/// Japanese afterwards.
+inline void help_opens(fakes::World& world, ui::Screen& screen, ui::Control& help,
+                       const std::string& topic) {
+  screen.press(help);
+  ASSERT_EQ(world.help_viewer.shown.size(), 1U);
+  EXPECT_EQ(world.help_viewer.shown[0],
+            "C:\\program\\help\\Kavrel_E.CHM::/Capter" + topic + "_E.htm");
+  world.japanese();
+  screen.press(help);
+  ASSERT_EQ(world.help_viewer.shown.size(), 2U);
+  EXPECT_EQ(world.help_viewer.shown[1],
+            "C:\\program\\help\\Kavrel_J.CHM::/Capter" + topic + "_J.htm");
+}
+
 /// Every control has a caption where it needs one, in both languages, and the Help button opens the
 /// topic.
 inline void has_texts_and_help(fakes::World& world, ui::Screen& screen, ui::Control& help,
@@ -61,15 +76,7 @@ inline void has_texts_and_help(fakes::World& world, ui::Screen& screen, ui::Cont
     }
   }
   world.texts.language = text::Language::kEnglish;
-  screen.press(help);
-  ASSERT_EQ(world.help_viewer.shown.size(), 1U);
-  EXPECT_EQ(world.help_viewer.shown[0],
-            "C:\\program\\help\\Kavrel_E.CHM::/Capter" + topic + "_E.htm");
-  world.japanese();
-  screen.press(help);
-  ASSERT_EQ(world.help_viewer.shown.size(), 2U);
-  EXPECT_EQ(world.help_viewer.shown[1],
-            "C:\\program\\help\\Kavrel_J.CHM::/Capter" + topic + "_J.htm");
+  help_opens(world, screen, help, topic);
 }
 
 /// Each given text, English half, to the letter.

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "elements/CPositionDlg.h"
+#include "elements/dialog_checks.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
 
@@ -318,12 +319,7 @@ TEST_F(PositionScreen, CancelHandsBackWhatWasHandedIn) {
 TEST_F(PositionScreen, HelpOpensItsTopic) {
   CPositionDlg dialog(world.services, {}, "", {});
   dialog.open();
-  dialog.press(dialog.help);
-  world.japanese();
-  dialog.press(dialog.help);
-  EXPECT_EQ(world.help_viewer.shown,
-            (std::vector<std::string>{"C:\\program\\help\\Kavrel_E.CHM::/Capter11-2_E.htm",
-                                      "C:\\program\\help\\Kavrel_J.CHM::/Capter11-2_J.htm"}));
+  checks::help_opens(world, dialog, dialog.help, "11-2");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "codetables/tables/sea_temperature_figures.h"
 #include "elements/CSea_SurfaceTemperatureDlg.h"
+#include "elements/dialog_checks.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
 
@@ -174,12 +175,7 @@ TEST_F(SeaScreen, EmptyTemperatureClearsBothFields) {
 TEST_F(SeaScreen, HelpOpensItsTopic) {
   CSea_SurfaceTemperatureDlg dialog(world.services, {}, Method::kIntake);
   dialog.open();
-  dialog.press(dialog.help);
-  world.japanese();
-  dialog.press(dialog.help);
-  EXPECT_EQ(world.help_viewer.shown,
-            (std::vector<std::string>{"C:\\program\\help\\Kavrel_E.CHM::/Capter11-8_E.htm",
-                                      "C:\\program\\help\\Kavrel_J.CHM::/Capter11-8_J.htm"}));
+  checks::help_opens(world, dialog, dialog.help, "11-8");
 }
 
 }  // namespace

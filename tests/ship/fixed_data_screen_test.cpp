@@ -9,6 +9,7 @@
 #include "fakes/fake_ports.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/data/ship_files.h"
+#include "ship/ship_data.h"
 #include "text/ids.h"
 
 namespace {
@@ -16,25 +17,11 @@ namespace {
 namespace id = text::id;
 using fakes::dump;
 using fakes::enter;
+using ship_test::press;
+using ship_test::valid_ship;
 using text::Language;
 
 const std::string kPath = "C:\\kavrel\\file\\FIXDATA.DAT";
-
-ShipFixedData valid_ship() {
-  ShipFixedData data;
-  data.call_sign = "JCCX";
-  data.card = {"2014/08/09", "YOKOHAMA", CardType::kHeightAndTemperature,
-               "+0.0",       "-0.3",     LoadingState::kInBallast,
-               "10",         "+1.0",     "20",
-               "+2.0"};
-  data.wind_speed_method = WindSpeedMethod::kAnemometer;
-  data.imo_number = "9074729";
-  data.vosclim_cargo_height = "07";
-  data.vosclim_load_line_departure = "-12";
-  data.aws_fitted = true;
-  data.aws_manufacturer = "AWS CO.";
-  return data;
-}
 
 // A world with a file of these data, and the screen on it.
 struct Bench {
@@ -46,12 +33,6 @@ struct Bench {
     files.add_file(kPath, encode_fixed_data(data, world.clock.local_time, world.code_page));
   }
 };
-
-void press(ui::Screen& screen, const std::string& name) {
-  ui::Control* const control = screen.find(name);
-  ASSERT_NE(control, nullptr) << name;
-  screen.press(*control);
-}
 
 // ---- Start
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "elements/form/form_under_test.h"
 #include "elements/form/observation_form.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
@@ -13,28 +14,14 @@ using elements::Field;
 using elements::WetBulbState;
 using observation::Group;
 
-// A ship with a psychrometer and a card of type "1".
-struct Form {
-  fakes::World world;
-  ShipFixedData ship;
-  KeyObservationItems items;
-  std::unique_ptr<elements::ObservationForm> form;
-
+// A ship with a psychrometer and a card of type "1", on which only the height in ballast counts.
+struct Form : form_test::Form {
   Form() {
     ship.card.type = CardType::kHeightAndTemperature;
     ship.card.loading_state = LoadingState::kFullLoad;
     ship.card.height_ballast = "200";
-    ship.dew_point_method = DewPointMethod::kComputed;
-    ship.humidity_method = HumidityMethod::kComputed;
-    ship.humidity_unit = 1.0;
-    form = std::make_unique<elements::ObservationForm>(ship, items, world.texts, world.messages,
-                                                       world.clock);
+    rebuild();
   }
-  bool enter(Field field, std::string_view text) const {
-    form->type(field, text);
-    return form->leave(field);
-  }
-  const Struct_Weather& record() const { return form->record(); }
   std::string dew_point() const { return record().SnTd + record().TdTdTd; }
 };
 
