@@ -3,11 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
-namespace id = text::id;
 using codetables::CodePicker;
 using codetables::CodeRow;
 using codetables::LinePicture;
@@ -37,13 +35,10 @@ std::string with_code(std::string_view name, char between, std::string_view code
 
 CCodeTableDlg::CCodeTableDlg(ui::Services& services, const CodePicker& picker,
                              const Struct_Weather& record)
-    : Screen(services, picker.class_name, {picker.title}),
+    : OkCancelHelpDialog(services, picker.class_name, {picker.title}),
       labels_(labels(picker)),
       picked_(picked(picker, record)),
-      pictures_(pictures()),
-      ok_(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel_(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help_(*this, "help", {id::kHelpLabel}, ui::Role::kHelp) {}
+      pictures_(pictures()) {}
 
 CCodeTableDlg::~CCodeTableDlg() = default;
 
@@ -102,7 +97,7 @@ void CCodeTableDlg::on_ok() {
     const int chosen = picked.choice->selected;
     if (chosen >= 0) picked.code = picked.choice->item_codes[static_cast<std::size_t>(chosen)];
   }
-  close(text::kOk);
+  close(ui::kOk);
 }
 
 void CCodeTableDlg::put_into(Struct_Weather& record) const {

@@ -8,9 +8,9 @@
 
 #include "codetables/code_pickers.h"
 #include "observation/Struct_Weather.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CCodeTableDlg : public ui::Screen {
+class CCodeTableDlg : public ui::OkCancelHelpDialog {
  public:
   /// `picker` must outlive the dialog. A code of the record that its table does not have chooses
   /// no line.
@@ -42,7 +42,4 @@ class CCodeTableDlg : public ui::Screen {
   std::vector<std::unique_ptr<ui::Control>> labels_;
   std::vector<Picked> picked_;
   std::vector<std::unique_ptr<ui::Control>> pictures_;
-  ui::Button ok_;
-  ui::Button cancel_;
-  ui::Button help_;
 };

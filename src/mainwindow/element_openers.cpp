@@ -56,7 +56,7 @@ Use wind_by(const MainWindowContext& context) {
 using elements::Field;
 
 bool confirmed(Opening& opening, ui::Screen& dialog) {
-  return opening.services.windows.run_modal(dialog) == text::kOk;
+  return opening.services.windows.run_modal(dialog) == ui::kOk;
 }
 
 // A member of the record and where the dialog holds what it hands back.

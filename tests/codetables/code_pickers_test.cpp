@@ -36,8 +36,8 @@ struct EveryPicker : testing::TestWithParam<Picker> {
     CCodeTableDlg dialog(world.services, *GetParam().row, record);
     dialog.open();
     act(dialog);
-    if (dialog.result() == text::kOk) dialog.put_into(record);
-    return dialog.result() == text::kOk;
+    if (dialog.result() == ui::kOk) dialog.put_into(record);
+    return dialog.result() == ui::kOk;
   }
   static void ok(ui::Screen& dialog) { dialog.press(*dialog.find("ok")); }
 };
@@ -131,7 +131,7 @@ TEST_P(EveryPicker, ChangesNothingUnlessItIsConfirmed) {
     if (way == 0) dialog.press(*dialog.find("cancel"));
     if (way == 1) dialog.key(ui::Key::kEscape);
     if (way == 2) dialog.close_box();
-    EXPECT_EQ(dialog.result(), text::kCancel);
+    EXPECT_EQ(dialog.result(), ui::kCancel);
     dialog.put_into(record);
     EXPECT_TRUE(record == before) << way;
   }

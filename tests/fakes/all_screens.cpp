@@ -50,7 +50,7 @@ struct Owned {
 class MainWindow : private Owned, public CVelmaranDlg {
  public:
   explicit MainWindow(ui::Services& services)
-      : CVelmaranDlg(services, {ship, items, folders, {}, {}, {}}) {}
+      : CVelmaranDlg(services, {ship, items, folders, {}}) {}
 };
 
 // Every dialog that picks codes, on the last line of each of its tables.
