@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Follows docs/new-dialog.md on a copy: takes its files, builds them and runs its test.
+"""Follows a guide of docs/ on a copy: takes its files, builds them and runs its tests.
 
-  follow_guide.py SOURCE COMPILER [LIBRARY...]
+  follow_guide.py SOURCE GUIDE COMPILER [LIBRARY...]
 
-Blocks of the guide that begin ```LANGUAGE file=PATH are whole files; those with add=PATH after="LINE" are put behind that
-line. The string table and the layouts are embedded anew, so that what the guide says about them is put to the test too; the
-rest comes from the libraries already built.
+Blocks of the guide that begin ```LANGUAGE file=PATH are whole files; those with add=PATH after="LINE" or before="LINE" are put
+there. Tests of the project that the guide runs beside its own are named by test=PATH. The string table, the layouts and the
+help pages are made anew, so that what the guide says about them is put to the test too; the rest comes from the libraries
+already built.
 """
 import os
 import re
@@ -20,30 +21,34 @@ def blocks(guide):
         yield info, body
 
 
-def take(guide, source, copy):
-    """Writes the guide's files; the paths of those that are new."""
-    new = []
-    for info, body in blocks(guide):
-        found = re.search(r'(file|add)=(\S+)(?: after="(.*)")?', info)
-        if not found:
-            continue
-        verb, path, after = found.groups()
-        target = os.path.join(copy, path)
-        os.makedirs(os.path.dirname(target), exist_ok=True)
+class Copy:
+    """The files that the guide makes or changes; all others are the source's."""
+
+    def __init__(self, source, folder):
+        self.source, self.folder = source, folder
+        self.changed = []
+
+    def path(self, name):
+        return os.path.join(self.folder if name in self.changed else self.source, name)
+
+    def take(self, verb, name, where, line, body):
         if verb == "file":
-            if os.path.exists(os.path.join(source, path)):
-                sys.exit(f"the guide's {path} is there already")
+            if os.path.exists(self.path(name)):
+                sys.exit(f"the guide's {name} is there already")
             text = body
-            new.append(path)
         else:
-            with open(target if os.path.exists(target) else os.path.join(source, path), encoding="utf-8") as old:
+            with open(self.path(name), encoding="utf-8") as old:
                 text = old.read()
-            if after + "\n" not in text:
-                sys.exit(f"{path} has no line {after}")
-            text = text.replace(after + "\n", after + "\n" + body, 1)
+            if text.count(f"\n{line}\n") != 1:
+                sys.exit(f"{name} has not one line {line}")
+            both = line + "\n" + body if where == "after" else body + line + "\n"
+            text = text.replace(f"\n{line}\n", "\n" + both)
+        target = os.path.join(self.folder, name)
+        os.makedirs(os.path.dirname(target), exist_ok=True)
         with open(target, "w", encoding="utf-8", newline="\n") as out:
             out.write(text)
-    return new
+        if name not in self.changed:
+            self.changed.append(name)
 
 
 def run(*command):
@@ -53,31 +58,49 @@ def run(*command):
         sys.exit("failed: " + " ".join(command))
 
 
+def make_resources(copy, generated):
+    def tool(name, *arguments):
+        run(sys.executable, os.path.join(copy.source, "tools", name), *arguments)
+
+    layouts = os.path.join(copy.folder, "layouts")
+    shutil.copytree(os.path.join(copy.source, "resources", "layouts"), layouts)
+    for name in copy.changed:
+        if name.endswith(".layout"):
+            shutil.copy(copy.path(name), layouts)
+    os.makedirs(generated)
+    tool("embed_strings.py", copy.path("resources/strings.txt"), copy.path("src/text/ids.h"),
+         os.path.join(generated, "string_table.inc"))
+    tool("embed_layouts.py", os.path.join(generated, "layouts.inc"),
+         *sorted(os.path.join(layouts, name) for name in os.listdir(layouts)))
+    tool("make_help.py", copy.path("resources/help/topics.txt"), os.path.join(generated, "help"),
+         *(copy.path("src/" + name) for name in ("text/help.cpp", "mainwindow/main_menu.cpp", "mainwindow/main_menu.h")))
+
+
 def main():
-    source, compiler, *libraries = sys.argv[1:]
-    with open(os.path.join(source, "docs", "new-dialog.md"), encoding="utf-8") as page:
+    source, name, compiler, *libraries = sys.argv[1:]
+    with open(os.path.join(source, "docs", name), encoding="utf-8") as page:
         guide = page.read()
-    with tempfile.TemporaryDirectory(prefix="kavrel-guide-") as copy:
-        new = take(guide, source, copy)
-        layouts = os.path.join(copy, "layouts")
-        shutil.copytree(os.path.join(source, "resources", "layouts"), layouts)
-        for path in new:
-            if path.endswith(".layout"):
-                shutil.copy(os.path.join(copy, path), layouts)
-        generated = os.path.join(copy, "generated")
-        os.makedirs(generated)
-        tools = os.path.join(source, "tools")
-        run(sys.executable, os.path.join(tools, "embed_strings.py"), os.path.join(copy, "resources", "strings.txt"),
-            os.path.join(copy, "src", "text", "ids.h"), os.path.join(generated, "string_table.inc"))
-        run(sys.executable, os.path.join(tools, "embed_layouts.py"), os.path.join(generated, "layouts.inc"),
-            *sorted(os.path.join(layouts, name) for name in os.listdir(layouts)))
-        sources = [os.path.join(copy, path) for path in new if path.endswith(".cpp")]
-        # These two hold the embedded tables; built here, they stand in for the library's.
-        sources += [os.path.join(source, "src", path) for path in ("text/texts.cpp", "ui/layout.cpp")]
-        program = os.path.join(copy, "guide")
+    with tempfile.TemporaryDirectory(prefix="kavrel-guide-") as folder:
+        copy, tests = Copy(source, folder), []
+        for info, body in blocks(guide):
+            found = re.search(r'(file|add)=(\S+)(?: (after|before)="(.*)")?', info)
+            if found:
+                copy.take(*found.groups(), body)
+            tests += re.findall(r"test=(\S+)", info)
+        generated = os.path.join(folder, "generated")
+        make_resources(copy, generated)
+        # Texts and layouts hold the embedded tables; built here, they stand in for the library's, and so does what the
+        # guide changed.
+        sources = [path for path in copy.changed if path.endswith(".cpp")] + tests
+        sources += ["src/text/texts.cpp", "src/ui/layout.cpp"]
+        program = os.path.join(folder, "guide")
+        includes = [os.path.join(folder, "src"), os.path.join(source, "src"), os.path.join(folder, "tests"),
+                    os.path.join(source, "tests"), generated]
+        # The headers beside a test, for a test's source that was changed and so lies elsewhere.
+        includes += sorted({os.path.join(source, os.path.dirname(path)) for path in sources if path.startswith("tests/")})
         run(compiler, "-std=c++20", "-O0", "-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Wshadow", "-Werror",
-            "-I" + os.path.join(copy, "src"), "-I" + os.path.join(source, "src"), "-I" + os.path.join(source, "tests"),
-            "-I" + generated, "-o", program, *sources, *libraries, "-lgtest", "-lgtest_main", "-lpthread")
+            *("-I" + path for path in includes), "-o", program, *map(copy.path, sources), *libraries,
+            "-lgtest", "-lgtest_main", "-lpthread")
         run(program)
 
 

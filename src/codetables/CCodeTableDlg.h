@@ -1,47 +1,45 @@
 #pragma once
-// The engine of every dialog that picks one code from a code table: the lines of the table with the
-// code beside each, the line of the current code chosen. A dialog is a table and a constructor.
+// The engine of every dialog that picks codes from code tables: the lines of each table with the
+// code beside each, the line of the record's code chosen. A dialog is a row of code_pickers.h.
 
-#include <span>
+#include <memory>
 #include <string>
-#include <string_view>
+#include <vector>
 
+#include "codetables/code_pickers.h"
+#include "observation/Struct_Weather.h"
 #include "ui/dialog.h"
-
-/// A line of a code table.
-struct CodeTableRow {
-  std::string_view code;  ///< "95", "/" …
-  text::Id text;          ///< what it means
-};
-
-/// A code table and how its dialog is headed. Texts are ids of the string table.
-struct CodeTable {
-  std::string_view class_name;  ///< names the layout and the help topic
-  text::Id title;
-  text::Id heading;
-  text::Id group;  ///< title of the frame around the lines
-  std::span<const CodeTableRow> rows;
-};
 
 class CCodeTableDlg : public ui::OkCancelHelpDialog {
  public:
-  /// `code` is the record's current code; a code that the table does not have chooses no line.
-  CCodeTableDlg(ui::Services& services, const CodeTable& table, std::string code);
+  /// `picker` must outlive the dialog. A code of the record that its table does not have chooses
+  /// no line.
+  CCodeTableDlg(ui::Services& services, const codetables::CodePicker& picker,
+                const Struct_Weather& record);
+  ~CCodeTableDlg() override;
 
-  /// After kOk, the code chosen; without a choice, and until then, what was handed in.
-  [[nodiscard]] const std::string& code() const { return code_; }
-
-  ui::Label heading;
-  ui::Label group;
-  ui::Choice choice;
+  /// After kOk, puts the chosen codes into the record. One without a choice, and until then every
+  /// one, is what it was when the dialog was made.
+  void put_into(Struct_Weather& record) const;
 
  protected:
   void on_open() override;
   void on_ok() override;
-  /// The code of the table that the record's code stands for; the default takes blanks off.
-  [[nodiscard]] virtual std::string code_to_choose(const std::string& code) const;
 
  private:
-  const CodeTable& table_;
-  std::string code_;
+  /// One of the codes: where the record holds it, what was chosen last, its lines.
+  struct Picked {
+    const codetables::PickedCode& row;
+    std::string Struct_Weather::*member;
+    std::string code;
+    std::unique_ptr<ui::Choice> choice;
+  };
+  [[nodiscard]] std::vector<std::unique_ptr<ui::Control>> labels(const codetables::CodePicker&);
+  [[nodiscard]] std::vector<Picked> picked(const codetables::CodePicker&, const Struct_Weather&);
+  [[nodiscard]] std::vector<std::unique_ptr<ui::Control>> pictures();
+
+  // In reading order, as all controls are.
+  std::vector<std::unique_ptr<ui::Control>> labels_;
+  std::vector<Picked> picked_;
+  std::vector<std::unique_ptr<ui::Control>> pictures_;
 };

@@ -1,10 +1,12 @@
 #include "mainwindow/element_openers.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
-#include "codetables/CEyeShotDlg.h"
+#include "codetables/CCodeTableDlg.h"
+#include "codetables/code_pickers.h"
 #include "elements/CCountDewDlg.h"
-#include "elements/CDvDsDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
 #include "elements/CPresureTendencyDlg.h"
@@ -44,47 +46,95 @@ bool confirmed(Opening& opening, ui::Screen& dialog) {
   return opening.services.windows.run_modal(dialog) == ui::kOk;
 }
 
-bool open_time(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
-  CUTCTimeDlg1 dialog(opening.services, {record.Year, record.Month, record.YY, record.GG});
+// A member of the record and where the dialog holds what it hands back.
+struct HandedBack {
+  std::string Struct_Weather::*member;
+  const std::string& result;
+};
+
+// Runs the dialog. On OK the record takes its results as they are, and the element's fields show
+// them.
+bool fill_record(Opening& opening, ui::Screen& dialog, std::initializer_list<HandedBack> results,
+                 std::initializer_list<Field> fields) {
   if (!confirmed(opening, dialog)) return false;
   opening.form.change(
-      [&](Struct_Weather& r) {
-        const CUTCTimeDlg1::Values& v = dialog.values();
-        r.Year = v.Year;
-        r.Month = v.Month;
-        r.YY = v.YY;
-        r.GG = v.GG;
+      [&](Struct_Weather& record) {
+        for (const HandedBack& row : results) record.*row.member = row.result;
       },
-      {Field::kYear, Field::kMonth, Field::kYY, Field::kGG});
+      fields);
   return true;
 }
 
+// A field and where the dialog holds what it hands back for it.
+struct PutBack {
+  Field field;
+  const std::string& result;
+};
+
+// A dialog that is confirmed as it opened changes nothing: what stands in its fields is not entered
+// once more, for what is computed from it may have been typed over since. A refused text that
+// stands there does give way to what the dialog said.
+bool stands(const elements::ObservationForm& form, Field field, std::string_view value) {
+  return form.text(field) == value && form.entered(field) == value && !form.in_error(field);
+}
+
+// Puts what does not stand there yet.
+void put(elements::ObservationForm& form, std::vector<elements::ObservationForm::Value> values) {
+  std::erase_if(values, [&](const auto& value) { return stands(form, value.field, value.text); });
+  form.put(values);
+}
+
+// Runs the dialog. On OK its results go into the fields, with all that follows.
+bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<PutBack> results) {
+  if (!confirmed(opening, dialog)) return false;
+  std::vector<elements::ObservationForm::Value> values;
+  for (const PutBack& row : results) values.push_back({row.field, text::trim(row.result)});
+  put(opening.form, std::move(values));
+  return true;
+}
+
+// The dialogs that pick codes. A field that shows one of them is named for it.
+template <const codetables::CodePicker& picker>
+bool pick(Opening& opening) {
+  CCodeTableDlg dialog(opening.services, picker, opening.form.record());
+  if (!confirmed(opening, dialog)) return false;
+  Struct_Weather chosen = opening.form.record();
+  dialog.put_into(chosen);
+  for (const codetables::PickedCode& picked : picker.codes) {
+    std::string Struct_Weather::*const member = find_weather_field(picked.symbol)->member;
+    const Field field = elements::field_named(picked.symbol).value();
+    // A text that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
+    if (opening.form.record().*member == chosen.*member && !opening.form.in_error(field)) continue;
+    opening.form.change([&](Struct_Weather& record) { record.*member = chosen.*member; }, {field});
+  }
+  return true;
+}
+
+using R = Struct_Weather;
+
+bool open_time(Opening& opening) {
+  const R& record = opening.form.record();
+  CUTCTimeDlg1 dialog(opening.services, {record.Year, record.Month, record.YY, record.GG});
+  const CUTCTimeDlg1::Values& v = dialog.values();
+  return fill_record(opening, dialog,
+                     {{&R::Year, v.Year}, {&R::Month, v.Month}, {&R::YY, v.YY}, {&R::GG, v.GG}},
+                     {Field::kYear, Field::kMonth, Field::kYY, Field::kGG});
+}
+
 bool open_position(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
+  const R& record = opening.form.record();
   CPositionDlg dialog(opening.services,
                       {record.LaDeg, record.LaMin, record.LoDeg, record.LoMin, record.Qc},
                       opening.last_quadrant, opening.context.is_on_land,
                       {opening.form.entries().north_south, opening.form.entries().east_west});
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.change(
-      [&](Struct_Weather& r) {
-        const CPositionDlg::Values& v = dialog.values();
-        r.LaDeg = v.LaDeg;
-        r.LaMin = v.LaMin;
-        r.LoDeg = v.LoDeg;
-        r.LoMin = v.LoMin;
-        r.Qc = v.Qc;
-      },
-      {Field::kLaDeg, Field::kLaMin, Field::kLoDeg, Field::kLoMin});
-  return true;
-}
-
-bool open_course_and_speed(Opening& opening) {
-  CDvDsDlg dialog(opening.services, {opening.form.record().Ds, opening.form.record().Vs});
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.put({{Field::kDs, dialog.values().Ds}, {Field::kVs, dialog.values().Vs}});
-  return true;
+  const CPositionDlg::Values& v = dialog.values();
+  return fill_record(opening, dialog,
+                     {{&R::LaDeg, v.LaDeg},
+                      {&R::LaMin, v.LaMin},
+                      {&R::LoDeg, v.LoDeg},
+                      {&R::LoMin, v.LoMin},
+                      {&R::Qc, v.Qc}},
+                     {Field::kLaDeg, Field::kLaMin, Field::kLoDeg, Field::kLoMin});
 }
 
 // The reading is taken as if it had been typed: an unusual pressure at sea level asks, and No keeps
@@ -132,23 +182,17 @@ bool open_pressure(Opening& opening) {
   if (!ok) return false;
   const Dialog::Values& result = dialog.values();
   const bool exact = result.time_choice == Dialog::TimeChoice::kMoreThan10Minutes;
-  form.put({{Field::kGGExact, exact ? std::string_view(result.hour) : std::string_view()},
-            {Field::kgg, exact ? std::string_view(result.minute) : std::string_view()}});
+  put(form, {{Field::kGGExact, exact ? std::string_view(result.hour) : std::string_view()},
+             {Field::kgg, exact ? std::string_view(result.minute) : std::string_view()}});
   take_reading(opening, result.reading);
   return true;
 }
 
 bool open_tendency(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
+  const R& record = opening.form.record();
   CPresureTendencyDlg dialog(opening.services, record.a, record.ppp);
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.change(
-      [&](Struct_Weather& r) {
-        r.a = dialog.a();
-        r.ppp = dialog.ppp();
-      },
-      {Field::ka, Field::kppp});
-  return true;
+  return fill_record(opening, dialog, {{&R::a, dialog.a()}, {&R::ppp, dialog.ppp()}},
+                     {Field::ka, Field::kppp});
 }
 
 bool open_psychrometer(Opening& opening) {
@@ -157,78 +201,64 @@ bool open_psychrometer(Opening& opening) {
                                          form.entries().wet_bulb, form.entered(Field::kReading),
                                          opening.context.ship.card});
   if (!confirmed(opening, dialog)) return false;
-  form.put({{Field::kDryBulb, dialog.values().dry}, {Field::kWetBulb, dialog.values().wet}},
-           dialog.values().state);
+  const CCountDewDlg::Values& v = dialog.values();
+  if (stands(form, Field::kDryBulb, v.dry) && stands(form, Field::kWetBulb, v.wet) &&
+      v.state == form.entries().wet_bulb)
+    return true;
+  form.put({{Field::kDryBulb, v.dry}, {Field::kWetBulb, v.wet}}, v.state);
   return true;
 }
 
 bool open_dew_point(Opening& opening) {
-  elements::ObservationForm& form = opening.form;
+  const elements::ObservationForm& form = opening.form;
   CTemperatureAndDewDlg dialog(opening.services,
                                {form.text(Field::kAirTemperature), form.text(Field::kDewPoint)});
-  if (!confirmed(opening, dialog)) return false;
-  form.put(
+  return fill_fields(
+      opening, dialog,
       {{Field::kAirTemperature, dialog.values().air}, {Field::kDewPoint, dialog.values().dew}});
-  return true;
 }
 
 bool open_humidity(Opening& opening) {
   CThumidityDlg dialog(opening.services, opening.form.text(Field::kHumidity),
                        opening.context.ship.humidity_unit);
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kHumidity, dialog.humidity());
-  return true;
+  return fill_fields(opening, dialog, {{Field::kHumidity, dialog.humidity()}});
 }
 
 bool open_sea_temperature(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
+  const R& record = opening.form.record();
   CSea_SurfaceTemperatureDlg dialog(opening.services, {record.Ss, record.TwTwTw},
                                     opening.context.ship.sea_temperature_method);
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.change(
-      [&](Struct_Weather& r) {
-        r.Ss = dialog.values().Ss;
-        r.TwTwTw = dialog.values().TwTwTw;
-      },
-      {Field::kTwTwTw});
-  return true;
+  return fill_record(opening, dialog,
+                     {{&R::Ss, dialog.values().Ss}, {&R::TwTwTw, dialog.values().TwTwTw}},
+                     {Field::kTwTwTw});
 }
 
 bool open_apparent_wind(Opening& opening) {
-  elements::ObservationForm& form = opening.form;
+  const elements::ObservationForm& form = opening.form;
   CLookWindDlg dialog(
       opening.services,
       {form.text(Field::kApparentDirection), form.text(Field::kApparentSpeed),
        form.text(Field::kHeading), form.text(Field::kCourse), form.text(Field::kShipSpeed)});
-  if (!confirmed(opening, dialog)) return false;
   const elements::ApparentWindTexts& v = dialog.values();
-  form.put({{Field::kApparentDirection, text::trim(v.direction)},
-            {Field::kApparentSpeed, text::trim(v.speed)},
-            {Field::kHeading, text::trim(v.heading)},
-            {Field::kCourse, text::trim(v.course)},
-            {Field::kShipSpeed, text::trim(v.ship_speed)}});
-  return true;
+  return fill_fields(opening, dialog,
+                     {{Field::kApparentDirection, v.direction},
+                      {Field::kApparentSpeed, v.speed},
+                      {Field::kHeading, v.heading},
+                      {Field::kCourse, v.course},
+                      {Field::kShipSpeed, v.ship_speed}});
 }
 
 bool open_true_wind(Opening& opening) {
-  elements::ObservationForm& form = opening.form;
+  const elements::ObservationForm& form = opening.form;
   CTrueDirWindDlg dialog(opening.services, form.text(Field::kdd), form.text(Field::kff));
-  if (!confirmed(opening, dialog)) return false;
-  form.put({{Field::kdd, dialog.direction()}, {Field::kff, dialog.speed()}});
-  return true;
-}
-
-bool open_visibility(Opening& opening) {
-  CEyeShotDlg dialog(opening.services, opening.form.record().VV);
-  if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kVV, dialog.code());
-  return true;
+  return fill_fields(opening, dialog,
+                     {{Field::kdd, dialog.direction()}, {Field::kff, dialog.speed()}});
 }
 
 constexpr ElementRow kRows[] = {
     {kObservationTime, open_time},
     {kPosition, open_position},
-    {kCourseAndSpeed, open_course_and_speed},
+    {kCourseAndSpeed, pick<codetables::kMovement>},
     {kPressure, open_pressure},
     {kPressureTendency, open_tendency},
     {kPsychrometer, open_psychrometer, dew_point_not_by<DewPointMethod::kComputed>},
@@ -237,20 +267,20 @@ constexpr ElementRow kRows[] = {
     {kApparentWind, open_apparent_wind, wind_not_by<WindInputMethod::kApparentWind>},
     {kWindWave},
     {kSwell},
-    {kVisibility, open_visibility},
+    {kVisibility, pick<codetables::kVisibility>},
     {kPresentWeather},
     {kPastWeather},
-    {kCloudAmount},
-    {kLowestCloud},
-    {kUpperCloud},
-    {kMiddleCloud},
-    {kLowerCloud},
+    {kCloudAmount, pick<codetables::kTotalCloud>},
+    {kLowestCloud, pick<codetables::kLowestCloud>},
+    {kUpperCloud, pick<codetables::kHighCloud>},
+    {kMiddleCloud, pick<codetables::kMiddleCloud>},
+    {kLowerCloud, pick<codetables::kLowCloud>},
     {kIceAccretion},
-    {kCloudHeight},
+    {kCloudHeight, pick<codetables::kCloudBase>},
     {kIceConcentration},
-    {kIceStage},
-    {kIceBearing},
-    {kIceTrend},
+    {kIceStage, pick<codetables::kIceStage>},
+    {kIceBearing, pick<codetables::kIceEdge>},
+    {kIceTrend, pick<codetables::kIceTrend>},
     {kTrueWind, open_true_wind, wind_not_by<WindInputMethod::kTrueWind>},
     {kRelativeHumidity, open_humidity, humidity_is_computed},
 };

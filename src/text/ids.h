@@ -950,6 +950,8 @@ inline constexpr Id kIceUniform{43613};
 inline constexpr Id kIceNotUniform{43614};
 inline constexpr Id kIceConcentrationList{43615};
 inline constexpr Id kIceStageTitle{43620};
+inline constexpr Id kIceStageList{42720};
+inline constexpr Id kLandIceList{42721};
 inline constexpr Id kIceEdgeTitle{43621};
 inline constexpr Id kIceTrendTitle{43622};
 

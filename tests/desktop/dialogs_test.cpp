@@ -65,6 +65,12 @@ constexpr F1Row kF1[] = {
     {"dd", "CTrueDirWindDlg"},
     {"TwTwTw", "CSea_SurfaceTemperatureDlg"},
     {"VV", "CEyeShotDlg"},
+    {"N", "CCloudAgeDlg"},
+    {"Nh", "CBottomLayerCloudDlg"},
+    {"CH", "CTopCloudDlg"},
+    {"CM", "CMidCloudDlg"},
+    {"CL", "CBottomCloudDlg"},
+    {"h", "CCloudHeightDlg"},
 };
 
 TEST(Dialogs, OpenWithF1InTheirFieldsAndCancelledChangeNothing) {

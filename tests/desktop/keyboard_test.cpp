@@ -12,9 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "codetables/CEyeShotDlg.h"
+#include "codetables/CCodeTableDlg.h"
 #include "desktop_world.h"
-#include "elements/CDvDsDlg.h"
 #include "elements/CPresureTendencyDlg.h"
 #include "fakes/all_screens.h"
 #include "mainwindow/CVelmaranDlg.h"
@@ -51,6 +50,10 @@ struct Shown {
     return window->binding(name)->shown().selected;
   }
 };
+
+Struct_Weather empty_record() {
+  return {ShipFixedData(), KeyObservationItems()};
+}
 
 void type(const char* text) {
   for (const char* c = text; *c != 0; ++c) QTest::keyClick(QApplication::focusWidget(), *c);
@@ -243,7 +246,7 @@ TEST(Visibility, IsChosenByKeysAndTakenByEnter) {
            VisibilityRow{{Key_9, Key_Down, Key_7}, "//"},            // another key: forgotten
            VisibilityRow{{Key_9, Key_Tab, Key_Backtab, Key_7}, ""},  // another field: forgotten
        }) {
-    Shown<CEyeShotDlg> s("");
+    Shown<CCodeTableDlg> s(codetables::kVisibility, empty_record());
     std::string keys;
     for (const Qt::Key key : row.keys) {
       if (key == Key_Backtab) {
@@ -255,23 +258,25 @@ TEST(Visibility, IsChosenByKeysAndTakenByEnter) {
     }
     press(Qt::Key_Return);
     EXPECT_EQ(ui::kOk, s.screen->result()) << keys;
-    EXPECT_EQ(row.code, s.screen->code()) << keys;
+    Struct_Weather record = empty_record();
+    s.screen->put_into(record);
+    EXPECT_EQ(row.code, record.VV) << keys;
   }
 }
 
 TEST(Visibility, ShowsWhatIsChosenAndTheFocusOnIt) {
-  Shown<CEyeShotDlg> s("");
+  Shown<CCodeTableDlg> s(codetables::kVisibility, empty_record());
   type("97");
   const auto* const line = qobject_cast<QRadioButton*>(QApplication::focusWidget());
   ASSERT_NE(nullptr, line);
   EXPECT_TRUE(line->isChecked());
-  EXPECT_EQ(s.screen->choice.items[3], line->text().toStdString());
+  EXPECT_EQ(s.screen->find("choice")->items[3], line->text().toStdString());
   press(Qt::Key_Down);
   EXPECT_EQ(4, s.line("choice"));
 }
 
 TEST(Movement, IsChosenByTheCodesFigure) {
-  Shown<CDvDsDlg> s(CDvDsDlg::Values{});
+  Shown<CCodeTableDlg> s(codetables::kMovement, empty_record());
   s.tab_to("course");
   type("7");
   s.tab_to("speed");

@@ -2,9 +2,8 @@
 
 #include "archive/CCreateDir.h"
 #include "archive/CShowStatusDlg.h"
-#include "codetables/CEyeShotDlg.h"
+#include "codetables/CCodeTableDlg.h"
 #include "elements/CCountDewDlg.h"
-#include "elements/CDvDsDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
@@ -54,8 +53,16 @@ class MainWindow : private Owned, public CVelmaranDlg {
       : CVelmaranDlg(services, {ship, items, folders, {}}) {}
 };
 
+// Every dialog that picks codes, on the last line of each of its tables.
+Made make_picker(ui::Services& services, const codetables::CodePicker& picker) {
+  Struct_Weather record(sample_ship(), KeyObservationItems());
+  for (const codetables::PickedCode& picked : picker.codes)
+    record.*find_weather_field(picked.symbol)->member = codetables::lines_of(picked).back().figures;
+  return std::make_unique<CCodeTableDlg>(services, picker, record);
+}
+
 std::vector<ScreenCase> make_table() {
-  return {
+  std::vector<ScreenCase> table = {
       // archive
       {"CCreateDir",
        [](ui::Services& services) -> Made {
@@ -63,11 +70,6 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
-      // codetables
-      {"CEyeShotDlg",
-       [](ui::Services& services) -> Made {
-         return std::make_unique<CEyeShotDlg>(services, "97");
-       }},
       // elements
       {"CCountDewDlg",
        [](ui::Services& services) -> Made {
@@ -75,10 +77,6 @@ std::vector<ScreenCase> make_table() {
          values.dry = "18.3";
          values.wet = "15.1";
          return std::make_unique<CCountDewDlg>(services, values);
-       }},
-      {"CDvDsDlg",
-       [](ui::Services& services) -> Made {
-         return std::make_unique<CDvDsDlg>(services, CDvDsDlg::Values{"2", "3"});
        }},
       {"CHour3ErrorDlg",
        [](ui::Services& services) -> Made {
@@ -170,6 +168,13 @@ std::vector<ScreenCase> make_table() {
          return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
        }},
   };
+  // codetables
+  for (const codetables::CodePicker* const picker : codetables::code_pickers()) {
+    table.push_back({picker->class_name, [picker](ui::Services& services) -> Made {
+                       return make_picker(services, *picker);
+                     }});
+  }
+  return table;
 }
 
 }  // namespace

@@ -150,8 +150,7 @@ void ObservationForm::store_put(Field field, std::string_view text) {
   if (value != earlier) now_.modified = true;
 }
 
-void ObservationForm::put(std::initializer_list<Value> values,
-                          std::optional<WetBulbState> wet_bulb) {
+void ObservationForm::put(const std::vector<Value>& values, std::optional<WetBulbState> wet_bulb) {
   const Struct_Weather before = record();
   Follows what = wet_bulb ? Follows::kDewPoint : Follows::kNothing;
   now_.wet_bulb = wet_bulb.value_or(now_.wet_bulb);

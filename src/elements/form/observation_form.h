@@ -98,8 +98,8 @@ class ObservationForm {
   /// Puts values into their fields and stores them, without a check: a dialog has checked them.
   /// What follows is computed once from all of them. A state of the wet bulb that is given counts
   /// for its value, also for the one that is there.
-  void put(std::initializer_list<Value> values, std::optional<WetBulbState> wet_bulb = {});
-  void put(Field field, std::string_view text) { put({{field, text}}); }
+  void put(const std::vector<Value>& values, std::optional<WetBulbState> wet_bulb = {});
+  void put(Field field, std::string_view text) { put(std::vector<Value>{{field, text}}); }
   /// Changes the record directly, as a code dialog does; fields whose figures changed show them,
   /// and so do those `of_dialog` in any case: a text that was refused there gives way to what the
   /// dialog said.

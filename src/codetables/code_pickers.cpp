@@ -1,0 +1,148 @@
+#include "codetables/code_pickers.h"
+
+#include <algorithm>
+
+#include "text/ids.h"
+
+namespace codetables {
+
+namespace id = text::id;
+
+// ---- Course and speed made good during the three hours before the observation
+
+constexpr PickedCode kMovementCodes[] = {
+    {.symbol = "Ds", .control = "course", .caption = id::kMovementCourse},
+    {.symbol = "Vs", .control = "speed", .caption = id::kMovementSpeed},
+};
+constexpr CodePicker kMovement = {
+    .class_name = "CDvDsDlg",
+    .title = id::kMovementTitle,
+    .codes = kMovementCodes,
+};
+
+// ---- Visibility: the bands that serve at sea, the farthest first
+
+constexpr std::string_view kVisibilityOrder[] = {"//", "99", "98", "97", "96", "95",
+                                                 "94", "93", "92", "91", "90"};
+constexpr PickedCode kVisibilityCodes[] = {
+    {.symbol = "VV", .control = "choice", .order = kVisibilityOrder},
+};
+constexpr CodePicker kVisibility = {
+    .class_name = "CEyeShotDlg",
+    .title = id::kVisibilityTitle,
+    .heading = id::kVisibilityHeading,
+    .group = id::kVisibilityGroup,
+    .codes = kVisibilityCodes,
+};
+
+// ---- Clouds
+
+constexpr PickedCode kTotalCloudCodes[] = {{.symbol = "N", .control = "choice"}};
+constexpr CodePicker kTotalCloud = {
+    .class_name = "CCloudAgeDlg",
+    .title = id::kTotalCloudTitle,
+    .heading = id::kTotalCloudHeading,
+    .group = id::kTotalCloudGroup,
+    .codes = kTotalCloudCodes,
+};
+
+constexpr PickedCode kLowestCloudCodes[] = {{.symbol = "Nh", .control = "choice"}};
+constexpr CodePicker kLowestCloud = {
+    .class_name = "CBottomLayerCloudDlg",
+    .title = id::kLowestCloudTitle,
+    .heading = id::kLowestCloudHeading,
+    .codes = kLowestCloudCodes,
+};
+
+// The highest first.
+constexpr std::string_view kCloudBaseOrder[] = {"/", "9", "8", "7", "6", "5",
+                                                "4", "3", "2", "1", "0"};
+constexpr PickedCode kCloudBaseCodes[] = {
+    {.symbol = "h", .control = "choice", .order = kCloudBaseOrder},
+};
+constexpr CodePicker kCloudBase = {
+    .class_name = "CCloudHeightDlg",
+    .title = id::kCloudBaseTitle,
+    .heading = id::kCloudBaseHeading,
+    .group = id::kCloudBaseGroup,
+    .codes = kCloudBaseCodes,
+};
+
+// None and unknown stand before the types.
+constexpr std::string_view kCloudTypeOrder[] = {"0", "/", "1", "2", "3", "4",
+                                                "5", "6", "7", "8", "9"};
+constexpr PickedCode kLowCloudCodes[] = {
+    {.symbol = "CL", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
+constexpr CodePicker kLowCloud = {
+    .class_name = "CBottomCloudDlg",
+    .title = id::kLowCloudTitle,
+    .codes = kLowCloudCodes,
+};
+
+constexpr PickedCode kMiddleCloudCodes[] = {
+    {.symbol = "CM", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
+constexpr CodePicker kMiddleCloud = {
+    .class_name = "CMidCloudDlg",
+    .title = id::kMiddleCloudTitle,
+    .codes = kMiddleCloudCodes,
+};
+
+constexpr PickedCode kHighCloudCodes[] = {
+    {.symbol = "CH", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+};
+constexpr CodePicker kHighCloud = {
+    .class_name = "CTopCloudDlg",
+    .title = id::kHighCloudTitle,
+    .codes = kHighCloudCodes,
+};
+
+// ---- Sea ice
+
+constexpr PickedCode kIceStageCodes[] = {
+    {.symbol = "Si", .control = "stage", .caption = id::kIceStageList},
+    {.symbol = "bi", .control = "land_origin", .caption = id::kLandIceList},
+};
+constexpr CodePicker kIceStage = {
+    .class_name = "CICESiBiDlg",
+    .title = id::kIceStageTitle,
+    .codes = kIceStageCodes,
+};
+
+constexpr PickedCode kIceEdgeCodes[] = {{.symbol = "Di", .control = "choice"}};
+constexpr CodePicker kIceEdge = {
+    .class_name = "CICEDiDlg",
+    .title = id::kIceEdgeTitle,
+    .codes = kIceEdgeCodes,
+};
+
+constexpr PickedCode kIceTrendCodes[] = {{.symbol = "zi", .control = "choice"}};
+constexpr CodePicker kIceTrend = {
+    .class_name = "CNewZiDlg",
+    .title = id::kIceTrendTitle,
+    .codes = kIceTrendCodes,
+};
+
+// ---- All of them
+
+std::span<const CodePicker* const> code_pickers() {
+  static constexpr const CodePicker* kAll[] = {
+      &kMovement,    &kVisibility, &kTotalCloud, &kLowestCloud, &kCloudBase, &kLowCloud,
+      &kMiddleCloud, &kHighCloud,  &kIceStage,   &kIceEdge,     &kIceTrend,
+  };
+  return kAll;
+}
+
+std::vector<CodeRow> lines_of(const PickedCode& picked) {
+  const std::span<const CodeRow> rows = table_of(picked.symbol)->rows;
+  if (picked.order.empty()) return {rows.begin(), rows.end()};
+  std::vector<CodeRow> lines;
+  for (const std::string_view code : picked.order) {
+    lines.push_back(*std::find_if(rows.begin(), rows.end(),
+                                  [&](const CodeRow& row) { return row.figures == code; }));
+  }
+  return lines;
+}
+
+}  // namespace codetables
