@@ -41,7 +41,7 @@ bool wind_not_by(const ShipFixedData& ship) {
 using elements::Field;
 
 bool confirmed(Opening& opening, ui::Screen& dialog) {
-  return opening.services.windows.run_modal(dialog) == text::kOk;
+  return opening.services.windows.run_modal(dialog) == ui::kOk;
 }
 
 bool open_time(Opening& opening) {

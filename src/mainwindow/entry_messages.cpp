@@ -8,7 +8,7 @@ std::string worded(const elements::Notice& notice, const text::Texts& texts) {
   return text::fill(texts.get(notice.message), {notice.bounds[0], notice.bounds[1]});
 }
 
-bool settle(text::Messages& messages, const text::Texts& texts,
+bool settle(ui::Messages& messages, const text::Texts& texts,
             const std::function<Answer(elements::Confirmed)>& take) {
   for (elements::Confirmed confirmed = 0;; ++confirmed) {
     const Answer answer = take(confirmed);
@@ -21,8 +21,7 @@ bool settle(text::Messages& messages, const text::Texts& texts,
                               texts.get(text::Ref{notice.below, 0}));
         return false;
       case Answer::Kind::kAsks:
-        if (messages.question(notice.message, text::QuestionMode::kYesNo) != text::kYes)
-          return false;
+        if (messages.question(notice.message, ui::QuestionMode::kYesNo) != ui::kYes) return false;
     }
   }
 }

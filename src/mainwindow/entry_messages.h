@@ -5,8 +5,8 @@
 #include <string>
 
 #include "elements/form/answer.h"
-#include "text/messages.h"
 #include "text/texts.h"
+#include "ui/messages.h"
 
 namespace mainwindow {
 
@@ -15,7 +15,7 @@ namespace mainwindow {
 
 /// Hands an entry in, as `take` does, shows why it is refused, and hands it in again after each
 /// question that is answered Yes. True when it was accepted.
-bool settle(text::Messages& messages, const text::Texts& texts,
+bool settle(ui::Messages& messages, const text::Texts& texts,
             const std::function<elements::Answer(elements::Confirmed)>& take);
 
 }  // namespace mainwindow

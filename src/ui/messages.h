@@ -8,14 +8,9 @@
 
 #include "platform/ports.h"
 #include "text/texts.h"
+#include "ui/windows.h"
 
-namespace text {
-
-// Results of the message boxes, and of screens.
-inline constexpr int kOk = 1;
-inline constexpr int kCancel = 2;
-inline constexpr int kYes = 6;
-inline constexpr int kNo = 7;
+namespace ui {
 
 /// Which buttons a question has.
 enum class QuestionMode { kOkCancel = 1, kYesNoCancel = 3, kYesNo = 4 };
@@ -26,11 +21,11 @@ class CMessageBox1 {
   /// Empty labels mean "&YES" and "&NO"; an empty title the program's.
   explicit CMessageBox1(std::string text, std::string yes = {}, std::string no = {},
                         std::string title = {});
-  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
-  [[nodiscard]] platform::MessageBox& box() { return box_; }
+  [[nodiscard]] const MessageBox& box() const { return box_; }
+  [[nodiscard]] MessageBox& box() { return box_; }
 
  private:
-  platform::MessageBox box_;
+  MessageBox box_;
 };
 
 /// Three buttons with the caller's labels: kOk for Yes, kNo, or kCancel for Cancel and for closing.
@@ -38,11 +33,11 @@ class CMessageBox2 {
  public:
   CMessageBox2(std::string text, std::string yes, std::string no, std::string cancel,
                std::string title = {});
-  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
-  [[nodiscard]] platform::MessageBox& box() { return box_; }
+  [[nodiscard]] const MessageBox& box() const { return box_; }
+  [[nodiscard]] MessageBox& box() { return box_; }
 
  private:
-  platform::MessageBox box_;
+  MessageBox box_;
 };
 
 /// CMessageBox1 with the buttons in the order No, Yes. Its title is capitalised differently, on
@@ -51,16 +46,16 @@ class CMessageBox3 {
  public:
   explicit CMessageBox3(std::string text, std::string yes = {}, std::string no = {},
                         std::string title = {});
-  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
-  [[nodiscard]] platform::MessageBox& box() { return box_; }
+  [[nodiscard]] const MessageBox& box() const { return box_; }
+  [[nodiscard]] MessageBox& box() { return box_; }
 
  private:
-  platform::MessageBox box_;
+  MessageBox box_;
 };
 
 class Messages {
  public:
-  Messages(Texts& texts, platform::Windows& windows) : texts_(texts), windows_(windows) {}
+  Messages(text::Texts& texts, Windows& windows) : texts_(texts), windows_(windows) {}
 
   bool quiet = false;             ///< while set, error notices are not shown
   bool question_open = false;     ///< a question is on the screen
@@ -68,24 +63,25 @@ class Messages {
 
   /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
   /// "Check Error".
-  void error(Id id, std::string_view literal = {});
+  void error(text::Id id, std::string_view literal = {});
   /// Error notice of a text whose "%s" and "%d" are filled in; `below`, when there is one, stands
   /// on a line of its own below it.
-  void error_filled(Id id, std::initializer_list<std::string_view> arguments,
+  void error_filled(text::Id id, std::initializer_list<std::string_view> arguments,
                     std::string_view below = {});
 
   /// error_filled(), but the first time of the run only.
-  void error_filled_once(Id id, std::initializer_list<std::string_view> arguments);
+  void error_filled_once(text::Id id, std::initializer_list<std::string_view> arguments);
   /// Error notice of a text with two places: the path of a file or folder, and why it could not be
   /// used, in the language of the moment.
-  void file_error(Id id, std::string_view path, platform::FileError why);
+  void file_error(text::Id id, std::string_view path, platform::FileError why);
 
   /// A question; the result is one of the four codes above (mode kOkCancel gives kOk or kCancel).
   /// Any other mode shows nothing and returns 0. An empty title means the program's. `text_id` only
   /// tells tests which text it is.
-  int question(std::string_view text, std::string_view title, QuestionMode mode, Id text_id = {});
+  int question(std::string_view text, std::string_view title, QuestionMode mode,
+               text::Id text_id = {});
   /// The same for a text of the table.
-  int question(Id id, QuestionMode mode, std::string_view title = {}) {
+  int question(text::Id id, QuestionMode mode, std::string_view title = {}) {
     return question(texts_.get(id), title, mode, id);
   }
 
@@ -95,9 +91,9 @@ class Messages {
   int show(const CMessageBox3& box);
 
  private:
-  Texts& texts_;
-  platform::Windows& windows_;
-  std::set<Id> told_once_;
+  text::Texts& texts_;
+  Windows& windows_;
+  std::set<text::Id> told_once_;
 };
 
-}  // namespace text
+}  // namespace ui
