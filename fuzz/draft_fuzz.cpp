@@ -9,7 +9,6 @@
 #include "elements/form/observation_form.h"
 #include "fakes/sample_ship.h"
 #include "fuzz.h"
-#include "ui/messages.h"
 
 namespace {
 
