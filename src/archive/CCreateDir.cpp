@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "archive/paths.h"
+#include "platform/paths.h"
 #include "text/ids.h"
 #include "text/strings.h"
 
@@ -33,7 +33,7 @@ void CCreateDir::on_ok() {
   const std::string_view name = text::trim(folder_name.content);
   if (name.empty()) return refuse(id::kNoValueInput);
   if (!archive::is_folder_name(name)) return refuse(id::kBadFolderName);
-  std::string path = archive::join(parent_, name);
+  std::string path = platform::join(parent_, name);
   platform::Files& files = services().files;
   const FileError error = files.is_folder(path) ? FileError::kNone : files.create_folder(path);
   if (error != FileError::kNone) {
