@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "elements/formulas/pressure_tendency.h"
+#include "codetables/tables/pressure_tendency.h"
 #include "ui/screen.h"
 
 class CPresureTendencyDlg : public ui::Screen {
@@ -31,7 +31,7 @@ class CPresureTendencyDlg : public ui::Screen {
   void on_ok() override;
 
  private:
-  [[nodiscard]] elements::TendencyKind chosen_kind() const;
+  [[nodiscard]] codetables::TendencyKind chosen_kind() const;
   [[nodiscard]] std::string chosen_code() const;
   void fill_characteristics();
   void kind_changed();

@@ -1,14 +1,13 @@
 #include "elements/form/field_codes.h"
 
-#include <algorithm>
-#include <array>
-#include <iterator>
-
-#include "codetables/tables/code_metres.h"
+#include "codetables/tables/cloud_base.h"
+#include "codetables/tables/humidity_figures.h"
+#include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/pressure_tendency.h"
 #include "codetables/tables/sea_temperature_figures.h"
-#include "elements/formulas/pressure_tendency.h"
-#include "text/numbers.h"
-#include "text/strings.h"
+#include "codetables/tables/temperature_figures.h"
+#include "codetables/tables/wave_height.h"
+#include "codetables/tables/wind_figures.h"
 
 namespace elements {
 namespace {
@@ -81,74 +80,34 @@ std::string Struct_Weather::*member_of(Field field) {
 }
 
 std::string figures_of(Field field, std::string_view shown) {
-  if (is_wave_height(field)) return half_metre_figures(shown);
-  if (field == Field::kh) return cloud_base_code(shown);
-  if (field == Field::kppp) return tendency_stored(shown);
+  if (is_wave_height(field)) return codetables::half_metre_figures(shown);
+  if (field == Field::kh) return codetables::cloud_base_code(shown);
+  if (field == Field::kppp) return codetables::tendency_stored(shown);
   return std::string(shown);
 }
 
-// An iced bulb (2) has no sign of its own: it is below zero, or at 0.0.
-bool wet_bulb_is_negative(const Struct_Weather& record) {
-  return record.Sw == "1" || (record.Sw == "2" && record.TbTbTb != "000");
-}
-
 std::string shown_from_record(Field field, const Struct_Weather& record) {
-  if (field == Field::kPPPP) return pressure_shown(record.PPPP);
+  if (field == Field::kPPPP) return codetables::pressure_shown(record.PPPP);
   if (field == Field::kWetBulb)
-    return temperature_shown(wet_bulb_is_negative(record) ? "1" : "0", record.TbTbTb);
-  if (field == Field::kTwTwTw) {
-    return temperature_shown(is_below_zero(record.Ss) ? "1" : "0", record.TwTwTw);
-  }
-  if (field == Field::kff) return record.fff.empty() ? record.ff : record.fff;
-  if (field == Field::kHumidity) {
-    if (!text::is_all_digits(record.LogExtra)) return {};
-    return text::format_fixed(text::leading_int(record.LogExtra) / 10.0, 1, 4, '0');
-  }
+    return codetables::temperature_shown(codetables::wet_bulb_value_sign(record.Sw, record.TbTbTb),
+                                         record.TbTbTb);
+  if (field == Field::kTwTwTw)
+    return codetables::temperature_shown(codetables::is_below_zero(record.Ss) ? "1" : "0",
+                                         record.TwTwTw);
+  if (field == Field::kff) return codetables::speed_shown(record.ff, record.fff);
+  if (field == Field::kHumidity) return codetables::humidity_of_logbook(record.LogExtra);
   std::string W::*const member = member_of(field);
   if (member == nullptr) return {};
   const std::string& figures = record.*member;
-  if (is_wave_height(field)) return metres_of_figures(figures);
-  if (field == Field::kh) return figures == "/" ? figures : cloud_base_metres(figures);
-  if (field == Field::kppp) return tendency_shown(figures);
+  if (is_wave_height(field)) return codetables::metres_of_figures(figures);
+  if (field == Field::kh) return figures == "/" ? figures : codetables::cloud_base_metres(figures);
+  if (field == Field::kppp) return codetables::tendency_shown(figures);
   return figures;
 }
 
-std::string temperature_shown(std::string_view sign, std::string_view figures) {
-  if (!text::is_all_digits(figures)) return std::string(figures);
-  const std::string value = text::format_fixed(text::leading_int(figures) / 10.0, 1);
-  return sign == "1" ? "-" + value : value;
-}
-
-std::string pressure_shown(std::string_view pppp) {
-  if (!text::is_all_digits(pppp)) return std::string(pppp);
-  const int tenths = text::leading_int(pppp);
-  // The thousands are dropped in the report; pressures at sea level lie between 870 and 1070 hPa.
-  constexpr int kNoThousands = 5000;
-  return text::format_fixed((tenths < kNoThousands ? tenths + 10000 : tenths) / 10.0, 1, 6, '0');
-}
-
-std::string cloud_base_code(std::string_view metres) {
-  if (!text::is_all_digits(metres)) return std::string(metres);
-  static constexpr std::array kLowerLimits = {50, 100, 200, 300, 600, 1000, 1500, 2000, 2500};
-  const auto above =
-      std::upper_bound(kLowerLimits.begin(), kLowerLimits.end(), text::leading_int(metres));
-  return text::format_int(std::distance(kLowerLimits.begin(), above));
-}
-
-std::string quadrant_of(int north_south, int east_west) {
-  if (north_south < 0 || east_west < 0) return {};
-  if (north_south == 0) return east_west == 0 ? "1" : "7";
-  return east_west == 0 ? "3" : "5";
-}
-
-int north_south_of(std::string_view quadrant) {
-  if (quadrant == "1" || quadrant == "7") return 0;
-  return quadrant == "3" || quadrant == "5" ? 1 : -1;
-}
-
-int east_west_of(std::string_view quadrant) {
-  if (quadrant == "1" || quadrant == "3") return 0;
-  return quadrant == "5" || quadrant == "7" ? 1 : -1;
+void store_pppp(Struct_Weather& record, const std::string& pppp) {
+  if (!pppp.empty() && pppp != record.PPPP) record.a.clear();
+  record.PPPP = pppp;
 }
 
 }  // namespace elements

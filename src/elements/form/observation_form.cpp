@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "codetables/tables/quadrant.h"
 #include "codetables/tables/sea_temperature_figures.h"
+#include "codetables/tables/temperature_figures.h"
 #include "elements/form/field_codes.h"
 #include "elements/formulas/barometer_correction.h"
 #include "observation/report_encoder.h"
@@ -128,7 +130,7 @@ void ObservationForm::choose_hemispheres(int north_south, int east_west) {
   const Struct_Weather before = record_;
   north_south_ = north_south;
   east_west_ = east_west;
-  record_.Qc = quadrant_of(north_south, east_west);
+  record_.Qc = codetables::quadrant_of(north_south, east_west);
   if (record_.Qc != before.Qc) review_due_ = true;
   touch(before);
 }
@@ -162,9 +164,10 @@ void ObservationForm::ship_changed() {
     }
   }
   // The method stands in the sign's figure. One that was chosen for this observation alone stays.
-  const auto method = elements::sea_temperature_method(record_.Ss);
+  const auto method = codetables::sea_temperature_method(record_.Ss);
   if (method == sea_temperature_method_)
-    record_.Ss = sea_temperature_sign(ship_.sea_temperature_method, is_below_zero(record_.Ss));
+    record_.Ss = codetables::sea_temperature_sign(ship_.sea_temperature_method,
+                                                  codetables::is_below_zero(record_.Ss));
   sea_temperature_method_ = ship_.sea_temperature_method;
   put_unused_aside();
   const Struct_Weather as_entered = record_;
@@ -253,8 +256,8 @@ void ObservationForm::show_changes(const Struct_Weather& before, std::optional<F
     typed_[i] = error_[i] = false;
   }
   if (record_.Qc != before.Qc) {
-    north_south_ = north_south_of(record_.Qc);
-    east_west_ = east_west_of(record_.Qc);
+    north_south_ = codetables::north_south_of(record_.Qc);
+    east_west_ = codetables::east_west_of(record_.Qc);
   }
   const auto place = [](const Struct_Weather& r) {
     return std::array<std::string, 9>{r.Year,  r.Month, r.YY,    r.GG,   r.Qc,
@@ -273,16 +276,16 @@ std::string ObservationForm::shown(Field field, const Struct_Weather& record) co
   switch (field) {
     case Field::kDryBulb:
       return ship_.dew_point_method == DewPointMethod::kComputed
-                 ? temperature_shown(record.SnT, record.TTT)
+                 ? codetables::temperature_shown(record.SnT, record.TTT)
                  : std::string();
     case Field::kAirTemperature:
       return ship_.dew_point_method == DewPointMethod::kComputed
                  ? std::string()
-                 : temperature_shown(record.SnT, record.TTT);
+                 : codetables::temperature_shown(record.SnT, record.TTT);
     case Field::kDewPoint:
       return ship_.dew_point_method == DewPointMethod::kComputed
                  ? std::string()
-                 : temperature_shown(record.SnTd, record.TdTdTd);
+                 : codetables::temperature_shown(record.SnTd, record.TdTdTd);
     default:
       return shown_from_record(field, record);
   }

@@ -1,6 +1,7 @@
 // What follows from an entry: pressure at sea level, dew point, humidity, true wind, the review of
 // the position.
 
+#include "codetables/tables/pressure_figures.h"
 #include "codetables/tables/temperature_figures.h"
 #include "elements/form/field_codes.h"
 #include "elements/form/observation_form.h"
@@ -60,7 +61,7 @@ bool ObservationForm::reduce_reading(bool keep_tendency) {
   const auto reduced = elements::reduce_reading(entered(Field::kReading), ship_.card,
                                                 air_temperature_of(entered(air_field())));
   if (!reduced) return true;
-  if (reduced->range == PressureRange::kRefused) return false;
+  if (reduced->range == codetables::PressureRange::kRefused) return false;
   const std::string tendency = record_.a;
   store_pppp(record_, reduced->pppp);
   if (keep_tendency) record_.a = tendency;
@@ -112,7 +113,7 @@ void ObservationForm::compute_dew_point() {
     }
     return;
   }
-  const TemperatureFigures figures = computed_dew_point_figures(*td);
+  const codetables::TemperatureFigures figures = codetables::computed_dew_point_figures(*td);
   const std::string earlier = record_.SnTd + record_.TdTdTd;
   record_.SnTd = figures.sign;
   record_.TdTdTd = figures.figures;
@@ -136,7 +137,7 @@ void ObservationForm::forget_dew_point() {
 void ObservationForm::compute_humidity() {
   if (ship_.humidity_method != HumidityMethod::kComputed) return;
   const std::string dew_point = ship_.dew_point_method == DewPointMethod::kComputed
-                                    ? temperature_shown(record_.SnTd, record_.TdTdTd)
+                                    ? codetables::temperature_shown(record_.SnTd, record_.TdTdTd)
                                     : entered(Field::kDewPoint);
   if (const auto humidity = humidity_of_texts(entered(air_field()), dew_point)) {
     set_humidity(humidity->display, humidity->logbook);

@@ -4,18 +4,20 @@
 #include <array>
 #include <utility>
 
-#include "codetables/tables/code_metres.h"
+#include "codetables/tables/humidity_figures.h"
+#include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/pressure_tendency.h"
 #include "codetables/tables/sea_temperature_figures.h"
 #include "codetables/tables/temperature_figures.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/form/field_codes.h"
 #include "elements/form/observation_form.h"
 #include "elements/formulas/barometer_correction.h"
-#include "elements/formulas/calendar_date.h"
-#include "elements/formulas/pressure_tendency.h"
-#include "elements/formulas/relative_humidity.h"
+#include "elements/formulas/observation_years.h"
 #include "elements/formulas/sea_level_pressure.h"
 #include "elements/formulas/true_wind.h"
 #include "elements/formulas/true_wind_rules.h"
+#include "platform/calendar.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -33,7 +35,8 @@ int days_of_month(const Struct_Weather& record) {
   if (month < 1 || month > 12) return 31;
   // Before the year is known a 29th of February may be right.
   constexpr int kSomeLeapYear = 2000;
-  return days_in_month(record.Year.empty() ? kSomeLeapYear : text::leading_int(record.Year), month);
+  return platform::days_in_month(
+      record.Year.empty() ? kSomeLeapYear : text::leading_int(record.Year), month);
 }
 
 // Four figures without a point are the code of the report ("9987"), never a pressure in hPa: "1013"
@@ -140,9 +143,10 @@ std::optional<std::string> ObservationForm::accept(Field field, const std::strin
   Checked checked = check_field(row, typed, bounds_of(field));
   if (field == Field::kHumidity) {
     const bool whole = ship_.humidity_unit == 1.0;
-    checked = {check_humidity(typed, whole) == HumidityCheck::kAccepted ? Verdict::kAccepted
-                                                                        : Verdict::kRefused,
-               shown_humidity(typed, whole)};
+    checked = {codetables::check_humidity(typed, whole) == codetables::HumidityCheck::kAccepted
+                   ? Verdict::kAccepted
+                   : Verdict::kRefused,
+               codetables::shown_humidity(typed, whole)};
   }
   if (checked.verdict == Verdict::kRefused) {
     refuse_range(field);
@@ -156,9 +160,10 @@ std::optional<std::string> ObservationForm::accept(Field field, const std::strin
       return std::nullopt;
     }
     checked.text = text::format_int(
-        static_cast<int>(whole_units(Knot{text::leading_number(checked.text)})), 2, '0');
+        static_cast<int>(codetables::whole_units(Knot{text::leading_number(checked.text)})), 2,
+        '0');
   }
-  if (field == Field::kppp) checked.text = tendency_amount_text(checked.text);
+  if (field == Field::kppp) checked.text = codetables::tendency_amount_text(checked.text);
   if (!follows_rules(field, checked.text)) return std::nullopt;
   // Asked last: nobody confirms a value that is then refused.
   if (checked.verdict == Verdict::kAsks && !ask(row.warning)) return std::nullopt;
@@ -221,7 +226,8 @@ std::vector<std::string> ObservationForm::remarks() const {
 
 bool ObservationForm::confirmed(Field field, const std::string& value) {
   if (field == Field::kppp)
-    return check_tendency("/", value) != TendencyCheck::kAsks || ask(id::kTendencyAmountQuestion);
+    return codetables::check_tendency("/", value) != codetables::TendencyCheck::kAsks ||
+           ask(id::kTendencyAmountQuestion);
   if (field == Field::kGGExact)
     return !is_far_from_hour(value, record_.gg) || ask(id::kExactTimeQuestion);
   if (field == Field::kgg)
@@ -243,7 +249,7 @@ bool ObservationForm::is_far_from_hour(const std::string& hour, const std::strin
 }
 
 bool ObservationForm::pressure_accepted(Field field, std::string& value) {
-  PressureRange range = PressureRange::kRefused;
+  codetables::PressureRange range = codetables::PressureRange::kRefused;
   if (field == Field::kReading) {
     const auto reduced =
         elements::reduce_reading(value, ship_.card, air_temperature_of(entered(air_field())));
@@ -251,16 +257,16 @@ bool ObservationForm::pressure_accepted(Field field, std::string& value) {
     range = reduced->range;
     value = reduced->reading;
   } else if (is_pppp_code(value)) {
-    range = pppp_range(text::leading_int(value));
-    value = pressure_shown(value);
+    range = codetables::pppp_range(text::leading_int(value));
+    value = codetables::pressure_shown(value);
   } else if (const auto number = text::strict_number(value)) {
-    range = pressure_range(Hectopascal{*number});
-    value = text::format_fixed(*number, 1, 6, '0');
+    range = codetables::pressure_range(Hectopascal{*number});
+    value = codetables::pressure_text({*number});
   } else {
     return refuse(id::kSeaLevelPressureRange);
   }
-  if (range == PressureRange::kRefused) return refuse(id::kSeaLevelPressureRange);
-  return range == PressureRange::kAccepted || ask(id::kPressureQuestion);
+  if (range == codetables::PressureRange::kRefused) return refuse(id::kSeaLevelPressureRange);
+  return range == codetables::PressureRange::kAccepted || ask(id::kPressureQuestion);
 }
 
 void ObservationForm::clear(Field field) {
@@ -312,13 +318,13 @@ void ObservationForm::store(Field field, const std::string& value) {
   }
   switch (field) {
     case Field::kPPPP:
-      store_pppp(record_, pppp_of(value));
+      store_pppp(record_, codetables::pppp_of(value));
       break;
     case Field::kff:
       store_true_speed(value);
       break;
     case Field::kHumidity:
-      record_.LogExtra = humidity_texts(Percent{text::leading_number(value)}).logbook;
+      record_.LogExtra = codetables::humidity_texts(Percent{text::leading_number(value)}).logbook;
       break;
     case Field::kDryBulb:
     case Field::kWetBulb:
@@ -334,7 +340,8 @@ void ObservationForm::store(Field field, const std::string& value) {
 
 void ObservationForm::store_temperature(Field field, const std::string& value) {
   if (!text::number_at_start(value)) return;  // "///": its group has stored it
-  const TemperatureFigures t = temperature_figures(Celsius{text::leading_number(value)});
+  const codetables::TemperatureFigures t =
+      codetables::temperature_figures(Celsius{text::leading_number(value)});
   switch (field) {
     case Field::kDewPoint:
       record_.SnTd = t.sign;
@@ -343,13 +350,13 @@ void ObservationForm::store_temperature(Field field, const std::string& value) {
     case Field::kWetBulb:
       if (wet_bulb_ == WetBulbState::kIced && !can_be_iced(Celsius{text::leading_number(value)}))
         wet_bulb_ = WetBulbState::kNotSet;
-      record_.Sw = wet_bulb_sign(t, wet_bulb_);
+      record_.Sw = codetables::wet_bulb_sign(t, wet_bulb_);
       record_.TbTbTb = t.figures;
       break;
     case Field::kTwTwTw: {
-      const auto method = sea_temperature_method(record_.Ss);
-      record_.Ss =
-          sea_temperature_sign(method.value_or(ship_.sea_temperature_method), t.sign == "1");
+      const auto method = codetables::sea_temperature_method(record_.Ss);
+      record_.Ss = codetables::sea_temperature_sign(method.value_or(ship_.sea_temperature_method),
+                                                    t.sign == "1");
       record_.TwTwTw = t.figures;
       break;
     }
@@ -361,7 +368,7 @@ void ObservationForm::store_temperature(Field field, const std::string& value) {
 }
 
 void ObservationForm::store_true_speed(const std::string& value) {
-  const WindFigures figures = wind_figures({}, value);
+  const codetables::WindFigures figures = codetables::wind_figures({}, value);
   record_.ff = figures.ff;
   record_.fff = figures.fff;
 }

@@ -4,7 +4,11 @@
 #include <array>
 #include <utility>
 
+#include "codetables/tables/minutes.h"
+#include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/quadrant.h"
 #include "codetables/tables/sea_temperature_figures.h"
+#include "codetables/tables/temperature_figures.h"
 #include "elements/form/field_codes.h"
 #include "elements/form/observation_form.h"
 #include "elements/formulas/sea_level_pressure.h"
@@ -30,15 +34,17 @@ struct SignRow {
   int message;
 };
 constexpr SignRow kSigns[] = {
-    {&W::SnT, "01", id::kSignRange},   {&W::SnTd, "01", id::kSignRange},
-    {&W::Sw, "012", id::kSignRange},   {&W::Ss, "01234567", id::kInputError},
-    {&W::Qc, "1357", id::kInputError},
+    {&W::SnT, "01", id::kSignRange},
+    {&W::SnTd, "01", id::kSignRange},
+    {&W::Sw, "012", id::kSignRange},
+    {&W::Ss, "01234567", id::kInputError},
+    {&W::Qc, codetables::kQuadrants, id::kInputError},
 };
 
 std::string signed_value(Field field, const W& record) {
-  if (field == Field::kDewPoint) return temperature_shown(record.SnTd, record.TdTdTd);
+  if (field == Field::kDewPoint) return codetables::temperature_shown(record.SnTd, record.TdTdTd);
   if (field == Field::kWetBulb || field == Field::kTwTwTw) return shown_from_record(field, record);
-  return temperature_shown(record.SnT, record.TTT);
+  return codetables::temperature_shown(record.SnT, record.TTT);
 }
 
 // The field whose editor tests these figures; nothing for signs and indicators.
@@ -76,9 +82,9 @@ void take_minus_from_zero(const observation::GroupRow& row, W& record) {
   mend(&W::SnT, &W::TTT);
   mend(&W::SnTd, &W::TdTdTd);
   mend(&W::Sw, &W::TbTbTb);
-  const auto method = sea_temperature_method(record.Ss);
+  const auto method = codetables::sea_temperature_method(record.Ss);
   if (holds(&W::TwTwTw) && record.TwTwTw == "000" && method)
-    record.Ss = sea_temperature_sign(*method, false);
+    record.Ss = codetables::sea_temperature_sign(*method, false);
 }
 
 bool all_of(std::string_view figures, char c) {
@@ -250,9 +256,10 @@ void ObservationForm::take_tenths(std::string W::*member, std::string_view figur
                                   TypedGroup& typed) {
   if (figure == "*" || figure == "/") {
     (record_.*member).clear();
-  } else if (text::leading_int(figure) != text::leading_int(record_.*member) / 6 ||
+  } else if (text::leading_int(figure) !=
+                 codetables::tenths_of_minutes(text::leading_int(record_.*member)) ||
              (record_.*member).empty()) {
-    record_.*member = text::format_int(6LL * (figure.front() - '0'), 2, '0');
+    record_.*member = codetables::minutes_of_tenth(figure.front());
   }
   typed.taken.push_back(member == &W::LaMin ? Field::kLaMin : Field::kLoMin);
 }

@@ -40,7 +40,7 @@ class Sequence {
     EXPECT_EQ(form.missing(), missing);
     EXPECT_TRUE(form.record().PPPP.empty() || form.record().PPPP.size() == 4 ||
                 form.record().PPPP == "////");
-    EXPECT_EQ(elements::quadrant_of(form.north_south(), form.east_west()),
+    EXPECT_EQ(codetables::quadrant_of(form.north_south(), form.east_west()),
               form.record().Qc == "/" ? "" : form.record().Qc);
   }
 

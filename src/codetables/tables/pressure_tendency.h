@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace elements {
+namespace codetables {
 
 /// What the pressure did over the preceding three hours: the lines of the first list, in order.
 enum class TendencyKind { kRisen = 0, kSame = 1, kDescended = 2, kUnknown = 3 };
@@ -49,4 +49,4 @@ enum class TendencyCheck {
 /// "05.2" as "052"; texts that are no amount ("///") stay.
 [[nodiscard]] std::string tendency_stored(std::string_view amount);
 
-}  // namespace elements
+}  // namespace codetables
