@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "codetables/CEyeShotDlg.h"
+#include "codetables/tables/pressure_figures.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CDvDsDlg.h"
 #include "elements/CLookWindDlg.h"
@@ -59,6 +60,17 @@ bool confirmed(Opening& opening, ui::Screen& dialog) {
   return opening.services.windows.run_modal(dialog) == text::kOk;
 }
 
+// A dialog that is confirmed as it opened changes nothing: what stands in its fields is not entered
+// once more, for what is computed from it may have been typed over since. A refused text that
+// stands there does give way to what the dialog said.
+bool stands(const elements::ObservationForm& form, Field field, std::string_view value) {
+  return form.text(field) == value && form.entered(field) == value && !form.in_error(field);
+}
+
+void put(elements::ObservationForm& form, Field field, std::string_view value) {
+  if (!stands(form, field, value)) form.put(field, value);
+}
+
 bool open_time(Opening& opening) {
   const Struct_Weather& record = opening.form.record();
   CUTCTimeDlg1 dialog(opening.services, {record.Year, record.Month, record.YY, record.GG});
@@ -98,8 +110,8 @@ bool open_position(Opening& opening) {
 bool open_course_and_speed(Opening& opening) {
   CDvDsDlg dialog(opening.services, {opening.form.record().Ds, opening.form.record().Vs});
   if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kDs, dialog.values().Ds);
-  opening.form.put(Field::kVs, dialog.values().Vs);
+  put(opening.form, Field::kDs, dialog.values().Ds);
+  put(opening.form, Field::kVs, dialog.values().Vs);
   return true;
 }
 
@@ -112,7 +124,9 @@ void take_reading(elements::ObservationForm& form, const std::string& reading) {
     form.change([](Struct_Weather&) {}, {Field::kReading});
     return;
   }
-  form.type(Field::kReading, text::format_fixed(text::leading_number(reading), 1, 4));
+  const codetables::Hectopascal read{text::leading_number(reading)};
+  if (stands(form, Field::kReading, codetables::pressure_text(read))) return;
+  form.type(Field::kReading, text::format_fixed(read.value, 1, 4));
   static_cast<void>(form.leave(Field::kReading));
 }
 
@@ -146,8 +160,8 @@ bool open_pressure(Opening& opening) {
   if (!ok) return false;
   const Dialog::Values& result = dialog.values();
   const bool exact = result.time_choice == Dialog::TimeChoice::kMoreThan10Minutes;
-  form.put(Field::kGGExact, exact ? result.hour : std::string());
-  form.put(Field::kgg, exact ? result.minute : std::string());
+  put(form, Field::kGGExact, exact ? result.hour : std::string());
+  put(form, Field::kgg, exact ? result.minute : std::string());
   take_reading(form, result.reading);
   return true;
 }
@@ -171,7 +185,11 @@ bool open_psychrometer(Opening& opening) {
                                          form.wet_bulb_state(), form.entered(Field::kReading),
                                          opening.context.ship.card});
   if (!confirmed(opening, dialog)) return false;
-  form.put_bulbs(dialog.values().dry, dialog.values().wet, dialog.values().state);
+  const CCountDewDlg::Values& v = dialog.values();
+  if (stands(form, Field::kDryBulb, v.dry) && stands(form, Field::kWetBulb, v.wet) &&
+      v.state == form.wet_bulb_state())
+    return true;
+  form.put_bulbs(v.dry, v.wet, v.state);
   return true;
 }
 
@@ -180,8 +198,8 @@ bool open_dew_point(Opening& opening) {
   CTemperatureAndDewDlg dialog(opening.services,
                                {form.text(Field::kAirTemperature), form.text(Field::kDewPoint)});
   if (!confirmed(opening, dialog)) return false;
-  form.put(Field::kAirTemperature, dialog.values().air);
-  form.put(Field::kDewPoint, dialog.values().dew);
+  put(form, Field::kAirTemperature, dialog.values().air);
+  put(form, Field::kDewPoint, dialog.values().dew);
   return true;
 }
 
@@ -189,7 +207,7 @@ bool open_humidity(Opening& opening) {
   CThumidityDlg dialog(opening.services, opening.form.text(Field::kHumidity),
                        opening.context.ship.humidity_unit);
   if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kHumidity, dialog.humidity());
+  put(opening.form, Field::kHumidity, dialog.humidity());
   return true;
 }
 
@@ -215,11 +233,11 @@ bool open_apparent_wind(Opening& opening) {
        form.text(Field::kHeading), form.text(Field::kCourse), form.text(Field::kShipSpeed)});
   if (!confirmed(opening, dialog)) return false;
   const elements::ApparentWindTexts& v = dialog.values();
-  form.put(Field::kApparentDirection, text::trim(v.direction));
-  form.put(Field::kApparentSpeed, text::trim(v.speed));
-  form.put(Field::kHeading, text::trim(v.heading));
-  form.put(Field::kCourse, text::trim(v.course));
-  form.put(Field::kShipSpeed, text::trim(v.ship_speed));
+  put(form, Field::kApparentDirection, text::trim(v.direction));
+  put(form, Field::kApparentSpeed, text::trim(v.speed));
+  put(form, Field::kHeading, text::trim(v.heading));
+  put(form, Field::kCourse, text::trim(v.course));
+  put(form, Field::kShipSpeed, text::trim(v.ship_speed));
   return true;
 }
 
@@ -227,15 +245,15 @@ bool open_true_wind(Opening& opening) {
   elements::ObservationForm& form = opening.form;
   CTrueDirWindDlg dialog(opening.services, form.text(Field::kdd), form.text(Field::kff));
   if (!confirmed(opening, dialog)) return false;
-  form.put(Field::kdd, dialog.direction());
-  form.put(Field::kff, dialog.speed());
+  put(form, Field::kdd, dialog.direction());
+  put(form, Field::kff, dialog.speed());
   return true;
 }
 
 bool open_visibility(Opening& opening) {
   CEyeShotDlg dialog(opening.services, opening.form.record().VV);
   if (!confirmed(opening, dialog)) return false;
-  opening.form.put(Field::kVV, dialog.code());
+  put(opening.form, Field::kVV, dialog.code());
   return true;
 }
 

@@ -68,6 +68,10 @@ bool is_iced(std::string_view Sw) {
   return Sw == kIced;
 }
 
+bool has_iced_bulb(std::string_view Sw, std::string_view TbTbTb) {
+  return is_iced(Sw) && text::is_all_digits(TbTbTb);
+}
+
 std::string wet_bulb_value_sign(std::string_view Sw, std::string_view TbTbTb) {
   if (!is_iced(Sw)) return std::string(Sw);
   return std::string(TbTbTb == "000" ? kNotBelowZero : kBelowZero);

@@ -45,6 +45,10 @@ enum class WetBulbState { kNotSet = -1, kIced = 0, kNotIced = 1 };
 /// True for the sign of an iced bulb.
 [[nodiscard]] bool is_iced(std::string_view Sw);
 
+/// True for an iced bulb whose temperature is there: the table tells how a temperature was measured
+/// that is reported, so a missing one ("2" and "///") has no state.
+[[nodiscard]] bool has_iced_bulb(std::string_view Sw, std::string_view TbTbTb);
+
 /// The sign by code table 3845 that a wet bulb's value has: an iced bulb has no sign of its own, it
 /// is below zero or at 0.0. A sign that is missing ("", "/") stays as it is.
 [[nodiscard]] std::string wet_bulb_value_sign(std::string_view Sw, std::string_view TbTbTb);

@@ -264,8 +264,8 @@ void ObservationForm::show_changes(const Struct_Weather& before, std::optional<F
                                       r.LaDeg, r.LaMin, r.LoDeg, r.LoMin};
   };
   if (place(record_) != place(before)) review_due_ = true;
-  if (record_.Sw == before.Sw) return;
-  if (record_.Sw == "2") {
+  if (record_.Sw == before.Sw && record_.TbTbTb == before.TbTbTb) return;
+  if (codetables::has_iced_bulb(record_.Sw, record_.TbTbTb)) {
     wet_bulb_ = WetBulbState::kIced;
   } else if (wet_bulb_ == WetBulbState::kIced) {
     wet_bulb_ = WetBulbState::kNotSet;

@@ -153,15 +153,15 @@ std::optional<std::string> ObservationForm::accept(Field field, const std::strin
     return std::nullopt;
   }
   if (field == Field::kff) {
-    // Below one knot the decimals decide which rule is broken, so the rule is asked before they go.
+    // Below one knot the decimals decide which rule is broken, so the rule is asked before they go;
+    // and they go once: 0.49 is no knot, though to one decimal it is 0.5.
     if (!record_.dd.empty() &&
-        check_true_wind(record_.dd, checked.text) == TrueWindRule::kDirectionBelowOneKnot) {
+        check_true_wind(record_.dd, typed) == TrueWindRule::kDirectionBelowOneKnot) {
       refuse(id::kDirectionBelowOneKnot);
       return std::nullopt;
     }
     checked.text = text::format_int(
-        static_cast<int>(codetables::whole_units(Knot{text::leading_number(checked.text)})), 2,
-        '0');
+        static_cast<int>(codetables::whole_units(Knot{text::leading_number(typed)})), 2, '0');
   }
   if (field == Field::kppp) checked.text = codetables::tendency_amount_text(checked.text);
   if (!follows_rules(field, checked.text)) return std::nullopt;
