@@ -7,6 +7,7 @@
 #include <string>
 
 #include "elements/form/observation_form.h"
+#include "fakes/sample_ship.h"
 #include "fuzz.h"
 
 namespace {
@@ -42,11 +43,7 @@ std::string with_checksum(std::string_view body) {
 }
 
 void take_over(const elements::Draft& draft) {
-  ShipFixedData ship;
-  ship.call_sign = "ABCD";
-  ship.card.type = CardType::kTotalCorrection;
-  ship.dew_point_method = DewPointMethod::kComputed;
-  ship.humidity_method = HumidityMethod::kComputed;
+  ShipFixedData ship = fakes::psychrometer_ship();
   ship.wind_input_method = WindInputMethod::kApparentWind;
   const KeyObservationItems items;
   text::Texts texts;

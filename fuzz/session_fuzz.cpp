@@ -9,6 +9,7 @@
 #include "app/CVelmaranApp.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
+#include "fakes/sample_ship.h"
 #include "fuzz.h"
 #include "headless/session.h"
 #include "observation/logbook_encoder.h"
@@ -43,9 +44,8 @@ struct World {
     files.add_folder("C:\\tlx");
     files.add_folder("C:\\log");
     files.add_file("C:\\kavrel\\kavrel.ini", "[KAVREL]\nLANG=JPN\nTLX=C:\\tlx\\\nLOG=C:\\log\\\n");
-    ShipFixedData ship;
-    ship.call_sign = "JABC";
-    ship.card.type = CardType::kTotalCorrection;
+    ShipFixedData ship = fakes::sample_ship();
+    ship.card = fakes::total_card();
     files.add_file("C:\\kavrel\\file\\FIXDATA.DAT",
                    encode_fixed_data(ship, clock.local(), code_page));
     files.add_file("C:\\kavrel\\file\\MOKSDATA.DAT", encode_key_items({}));

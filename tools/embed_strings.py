@@ -39,7 +39,7 @@ def main():
             entries[int(left)] = plain
     with open(ids_path, encoding="utf-8") as ids:
         named = {}
-        for name, value in re.findall(r"constexpr int (k\w+) = (\d+);", ids.read()):
+        for name, value in re.findall(r"constexpr Id (k\w+){(\d+)};", ids.read()):
             if int(value) in named:
                 fail(f"{name} and {named[int(value)]} name the same id {value}")
             if int(value) not in entries:

@@ -2,7 +2,9 @@
 """Writes a session for every field of the main window that is typed into.
 
   make_editor_sessions.py FOLDER            writes FOLDER/editor_NAME.session for every row below
-  make_editor_sessions.py --check FOLDER    fails when a session is not what this program writes
+  make_editor_sessions.py --check FOLDER    fails when a session there is not what this program writes
+
+FOLDER holds nothing but these sessions: tests/sessions/generated/editors.
 
 Each session types, in Japanese and again in English: the smallest and the largest value, those just outside, solidi,
 full-width figures, blanks, and texts that are no value at all. The rows hold what an officer is to see, written down here
@@ -408,8 +410,7 @@ def main():
     check = sys.argv[1] == "--check"
     folder = sys.argv[-1]
     wanted = {f"editor_{row.field}.session": session_of(row) for row in ROWS}
-    wrong = [name for name in sorted(os.listdir(folder))
-             if name.startswith("editor_") and name.endswith(".session") and name not in wanted]
+    wrong = [name for name in sorted(os.listdir(folder)) if name.endswith(".session") and name not in wanted]
     for name, text in wanted.items():
         path = os.path.join(folder, name)
         if not check:

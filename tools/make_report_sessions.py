@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Writes a session for every real report: its figures are typed field by field into the main window.
 
-  make_report_sessions.py TESTS            writes TESTS/sessions/real_report_NN.session, one for each line of the data file
-  make_report_sessions.py --check TESTS    fails when a session is not what this program writes, or when the report in its
-                                           transcript is not the real one, changed by the rules below and nothing else
+  make_report_sessions.py TESTS            writes real_report_NN.session, one for each line of the data file, into
+                                           TESTS/sessions/generated/real_reports, which holds nothing else
+  make_report_sessions.py --check TESTS    fails when a session there is not what this program writes, or when the report in
+                                           its transcript is not the real one, changed by the rules below and nothing else
   make_report_sessions.py --list TESTS     the changes, as the table of docs/real-reports.md
 
 The reports come from ships whose programs follow other practices, so not every one can come out as it went in. Each
@@ -256,11 +257,18 @@ def read_reports(tests):
         return [Typed(line.strip()) for line in file if line.startswith("BBXX")]
 
 
+def path_of(tests, number, ending):
+    return os.path.join(tests, "sessions", "generated", "real_reports", f"real_report_{number:02}{ending}")
+
+
 def problems(tests, reports):
-    folder, wrong = os.path.join(tests, "sessions"), []
+    folder, wrong = os.path.dirname(path_of(tests, 1, "")), []
+    wanted = {os.path.basename(path_of(tests, number, ".session")) for number in range(1, len(reports) + 1)}
+    for name in sorted(os.listdir(folder)):
+        if name.endswith(".session") and name not in wanted:
+            wrong.append(f"{name} is not what tools/make_report_sessions.py writes")
     for number, report in enumerate(reports, 1):
-        name = os.path.join(folder, f"real_report_{number:02}")
-        texts = []
+        name, texts = path_of(tests, number, ""), []
         for ending in (".session", ".transcript"):
             texts.append(open(name + ending, encoding="utf-8", newline="").read() if os.path.exists(name + ending) else "")
         if texts[0] != report.session():
@@ -277,7 +285,7 @@ def problems(tests, reports):
 def table(tests, reports):
     lines = ["| # | Report | Comes out as | Rules |", "| --- | --- | --- | --- |"]
     for number, report in enumerate(reports, 1):
-        path = os.path.join(tests, "sessions", f"real_report_{number:02}.transcript")
+        path = path_of(tests, number, ".transcript")
         transcript = open(path, encoding="utf-8").read() if os.path.exists(path) else ""
         found = re.findall(r'^  report "(.*)"$', transcript, re.M)
         rules = ", ".join(rule for rule in report.rules if rule not in ("ship", "end"))
@@ -297,8 +305,7 @@ def main():
         sys.exit(1 if wrong else 0)
     else:
         for number, report in enumerate(reports, 1):
-            path = os.path.join(tests, "sessions", f"real_report_{number:02}.session")
-            with open(path, "w", encoding="utf-8", newline="\n") as file:
+            with open(path_of(tests, number, ".session"), "w", encoding="utf-8", newline="\n") as file:
                 file.write(report.session())
 
 

@@ -2,14 +2,22 @@
 """Plays scripted sessions and compares what they print with their transcripts.
 
   run_sessions.py --cli KAVREL_CLI FOLDER [NAME...]    plays the sessions (all when none is named)
-  run_sessions.py --orphans FOLDER                     fails on files that belong to no session
+  run_sessions.py --script FOLDER NAME...              prints scripts as the program is given them
+  run_sessions.py --orphans FOLDER                     fails on files that belong to no session, and on scripts written twice
 
-NAME.session is a script, NAME.transcript what it must print, byte for byte. Each session runs in a room of its own: a new
-root, a new program folder, a cleared environment and a clock that stands still. The comment block at the top of a session
-may hold, in lines of the form "# key: value":
+Sessions lie in the folders below FOLDER, and no two bear one name: "NAME" means the same as "SUBFOLDER/NAME". NAME.session is
+a script, NAME.transcript what it must print, byte for byte. Each session runs in a room of its own: a new root, a new program
+folder, a cleared environment and a clock that stands still.
 
+A script whose first line is "# locales: en ja" is played once in each of these languages: "NAME.en" and "NAME.ja" are its two
+plays, NAME.en.transcript and NAME.ja.transcript what they must print. A line of it that begins with "[en] " or "[ja] " is a
+command of that play only, as where a text is expected.
+
+The comment block at the top of a session may hold, in lines of the form "# key: value":
+
+  locales        the languages it is played in, in the first line only
+  locale         en or ja (en), of a script that is played once
   status         exit status, 0 when left out (1: an expectation failed, 2: a command could not be carried out)
-  locale         en or ja (en)
   clock          UTC (2014-11-15T11:50)
   tz             time zone of the local clock (UTC0)
   root-files     folder roots/NAME that is copied to where C: is; later ones are laid over earlier ones
@@ -18,9 +26,10 @@ may hold, in lines of the form "# key: value":
   printer        none
   leaves         a path on C: (the last part may be a pattern) whose content the transcript ends with
 
-On a difference NAME.actual is left beside the session; scripts/accept-sessions NAME takes it over.
+On a difference NAME.actual (NAME.en.actual) is left beside the session; scripts/accept-sessions NAME takes it over.
 """
 import argparse
+import collections
 import difflib
 import fnmatch
 import os
@@ -32,6 +41,7 @@ import subprocess
 import sys
 import tempfile
 
+LANGUAGES = ("en", "ja")
 DEFAULTS = {"status": "0", "locale": "en", "clock": "2014-11-15T11:50", "tz": "UTC0", "printer": ""}
 LISTS = {"root-files", "program-files", "read-only", "leaves"}
 
@@ -40,9 +50,14 @@ class Wrong(Exception):
     """A session that cannot be played, with the reason."""
 
 
+# One play of a script: `name` is what its transcript is called, `base` the path without an ending of the script.
+Play = collections.namedtuple("Play", "name base locale options")
+
+
 def read_options(path):
     options = dict(DEFAULTS)
     options.update({key: [] for key in LISTS})
+    options["locales"] = None
     with open(path, encoding="utf-8") as session:
         for number, line in enumerate(session, 1):
             if not line.startswith("#"):
@@ -51,7 +66,12 @@ def read_options(path):
             if not found:
                 continue
             key, value = found.groups()
-            if key in LISTS:
+            if key == "locales":
+                options[key] = value.split()
+                # Whoever makes a test of each play reads the first line alone.
+                if number != 1:
+                    raise Wrong(f"{path}:{number}: locales stands in the first line")
+            elif key in LISTS:
                 options[key].append(value)
             elif key in options:
                 options[key] = value
@@ -59,7 +79,59 @@ def read_options(path):
                 raise Wrong(f"{path}:{number}: unknown option {key}")
     if options["status"] not in {"0", "1", "2"}:
         raise Wrong(f"{path}: status is 0, 1 or 2")
+    if options["locales"] is not None and (len(options["locales"]) < 2 or not set(options["locales"]) <= set(LANGUAGES)):
+        raise Wrong(f"{path}: locales are {' '.join(LANGUAGES)}")
     return options
+
+
+def scripts_of(folder):
+    """The scripts in all folders, by name: their paths without an ending."""
+    scripts, twice = {}, []
+    for place, folders, names in os.walk(folder):
+        if place == folder and "roots" in folders:
+            folders.remove("roots")
+        for name in sorted(names):
+            if name.endswith(".session"):
+                base = name[:-8]
+                twice += [base] if base in scripts else []
+                scripts[base] = os.path.join(place, base)
+    if twice:
+        raise Wrong(f"two sessions are called {', '.join(sorted(twice))}")
+    return dict(sorted(scripts.items()))
+
+
+def plays_of(base):
+    """The plays of a script, one for each of its languages."""
+    options = read_options(base + ".session")
+    if options["locales"] is None:
+        return [Play(os.path.basename(base), base, options["locale"], options)]
+    return [Play(f"{os.path.basename(base)}.{locale}", base, locale, options) for locale in options["locales"]]
+
+
+def plays_named(folder, wanted):
+    """All plays that NAME, NAME.LOCALE or either behind SUBFOLDER/ means."""
+    place, name = os.path.split(wanted)
+    scripts = scripts_of(folder)
+    base = scripts.get(name) or scripts.get(os.path.splitext(name)[0])
+    if base and place in ("", os.path.relpath(os.path.dirname(base), folder)):
+        found = [play for play in plays_of(base) if name in (play.name, os.path.basename(base))]
+        if found:
+            return found
+    raise Wrong(f"no session {wanted}")
+
+
+def script_of(play):
+    """The script as the program is given it: without the lines of other languages."""
+    with open(play.base + ".session", "rb") as file:
+        lines = file.read().splitlines(keepends=True)
+    script = b""
+    for number, line in enumerate(lines, 1):
+        mark = re.match(rb"\[([a-z]+)\] ", line)
+        if mark and mark[1].decode() not in (play.options["locales"] or []):
+            raise Wrong(f"{play.base}.session:{number}: a line of a language that it is not played in")
+        if not mark or mark[1].decode() == play.locale:
+            script += line[mark.end():] if mark else line
+    return script
 
 
 def on_disk(root, path):
@@ -114,10 +186,9 @@ def left_behind(root, pattern):
     return shown
 
 
-def play(cli, folder, name):
+def play_it(cli, folder, play):
     """Status (negative: killed by a signal) and what was printed."""
-    path = os.path.join(folder, name + ".session")
-    options = read_options(path)
+    options, script = play.options, script_of(play)
     with tempfile.TemporaryDirectory(prefix="kavrel-session-") as room:
         root, program = os.path.join(room, "root"), os.path.join(room, "root", "program")
         os.makedirs(root)
@@ -127,7 +198,7 @@ def play(cli, folder, name):
         locked = [on_disk(root, path) for path in options["read-only"]]
         for target in locked:
             set_writable(target, False)
-        command = [cli, "session", "--root", root, "--program", program, "--locale", options["locale"],
+        command = [cli, "session", "--root", root, "--program", program, "--locale", play.locale,
                    "--clock", options["clock"]]
         if options["printer"] == "none":
             command.append("--no-printer")
@@ -135,14 +206,13 @@ def play(cli, folder, name):
         for name_kept in ("ASAN_OPTIONS", "UBSAN_OPTIONS"):
             if name_kept in os.environ:
                 environment[name_kept] = os.environ[name_kept]
-        with open(path, "rb") as script:
-            done = subprocess.run(command, stdin=script, stdout=subprocess.PIPE, stderr=subprocess.PIPE, cwd=room,
-                                  env=environment, check=False)
+        done = subprocess.run(command, input=script, stdout=subprocess.PIPE, stderr=subprocess.PIPE, cwd=room,
+                              env=environment, check=False)
         for target in locked:
             set_writable(target, True)
         printed = done.stdout + "".join(left_behind(root, path) for path in options["leaves"]).encode("utf-8")
         if room.encode() in printed:
-            raise Wrong(f"{name}: the transcript tells where this computer keeps the files")
+            raise Wrong(f"{play.name}: the transcript tells where this computer keeps the files")
         return int(options["status"]), done.returncode, printed, done.stderr.decode("utf-8", "replace")
 
 
@@ -155,11 +225,15 @@ def difference(expected, actual, name):
     return head + "\n".join(difflib.unified_diff(old, new, name + ".transcript", name + ".actual", lineterm=""))
 
 
-def check(cli, folder, name):
-    """The reasons why the session fails; none when it passes."""
-    transcript = os.path.join(folder, name + ".transcript")
-    left = os.path.join(folder, name + ".actual")
-    wanted, status, printed, errors = play(cli, folder, name)
+def transcript_of(play):
+    return os.path.join(os.path.dirname(play.base), play.name + ".transcript")
+
+
+def check(cli, folder, play):
+    """The reasons why the play fails; none when it passes."""
+    name, transcript = play.name, transcript_of(play)
+    left = os.path.join(os.path.dirname(play.base), name + ".actual")
+    wanted, status, printed, errors = play_it(cli, folder, play)
     reasons = []
     if status < 0:
         reasons.append(f"{name}: crashed with {signal.Signals(-status).name}\n{errors}")
@@ -181,25 +255,37 @@ def check(cli, folder, name):
     return reasons
 
 
-def session_names(folder):
-    return sorted(name[:-8] for name in os.listdir(folder) if name.endswith(".session"))
+def commands_of(base):
+    """What a script does and on which files, whatever its language and comments: scripts that agree are one."""
+    with open(base + ".session", encoding="utf-8") as file:
+        lines = [line.strip() for line in file]
+    options = {key: value for key, value in read_options(base + ".session").items() if not key.startswith("locale")}
+    return repr((options, [line for line in lines if line and not line.startswith("#")]))
 
 
 def orphans(folder):
-    """Files that belong to no session, and sessions without a transcript."""
-    names = set(session_names(folder))
-    used, reasons = {"program"}, []
-    for name in sorted(names):
-        options = read_options(os.path.join(folder, name + ".session"))
-        used.update(options["root-files"] + options["program-files"])
-        if not os.path.exists(os.path.join(folder, name + ".transcript")):
-            reasons.append(f"{name}.session has no transcript")
-    for entry in sorted(os.listdir(folder)):
-        base, ending = os.path.splitext(entry)
-        if entry in {"roots", "README.md"}:
-            continue
-        if ending not in {".session", ".transcript", ".actual"} or base not in names:
-            reasons.append(f"{entry} belongs to no session")
+    """Files that belong to no session, sessions without a transcript or outside the folders, scripts that repeat another, and
+    unused sample files."""
+    used, known, reasons, done = {"program"}, {"README.md"}, [], {}
+    for base in scripts_of(folder).values():
+        script = os.path.relpath(base + ".session", folder)
+        known.add(script)
+        if os.path.dirname(script) == "":
+            reasons.append(f"{script} lies in no folder")
+        if (first := done.setdefault(commands_of(base), script)) != script:
+            reasons.append(f"{script} does what {first} does: play one in both languages")
+        for play in plays_of(base):
+            script_of(play)
+            used.update(play.options["root-files"] + play.options["program-files"])
+            transcript = os.path.relpath(transcript_of(play), folder)
+            known.update({transcript, transcript[:-len(".transcript")] + ".actual"})
+            if not os.path.exists(os.path.join(folder, transcript)):
+                reasons.append(f"{script} has no transcript {os.path.basename(transcript)}")
+    for place, folders, names in os.walk(folder):
+        if place == folder and "roots" in folders:
+            folders.remove("roots")
+        files = [os.path.relpath(os.path.join(place, name), folder) for name in names]
+        reasons += [f"{file} belongs to no session" for file in sorted(files) if file not in known]
     roots = os.path.join(folder, "roots")
     for entry in sorted(os.listdir(roots)) if os.path.isdir(roots) else []:
         if entry not in used:
@@ -211,18 +297,24 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--cli")
     parser.add_argument("--orphans", action="store_true")
+    parser.add_argument("--script", action="store_true")
     parser.add_argument("folder")
     parser.add_argument("names", nargs="*")
-    arguments = parser.parse_args()
+    arguments = parser.parse_intermixed_args()
     try:
         if arguments.orphans:
             reasons = orphans(arguments.folder)
         else:
-            names = arguments.names or session_names(arguments.folder)
-            reasons = [] if names else ["no sessions"]
-            for name in names:
-                reasons += check(os.path.abspath(arguments.cli), arguments.folder, name)
-            print(f"{len(names)} sessions, {len(reasons)} failures")
+            names = arguments.names or scripts_of(arguments.folder)
+            plays = [play for name in names for play in plays_named(arguments.folder, name)]
+            if arguments.script:
+                for play in plays:
+                    sys.stdout.buffer.write(script_of(play))
+                return
+            reasons = [] if plays else ["no sessions"]
+            for play in plays:
+                reasons += check(os.path.abspath(arguments.cli), arguments.folder, play)
+            print(f"{len(plays)} sessions, {len(reasons)} failures")
     except (Wrong, OSError) as error:
         reasons = [str(error)]
     for reason in reasons:

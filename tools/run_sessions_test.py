@@ -1,12 +1,14 @@
 #!/usr/bin/env python3
 """Tests of run_sessions.py: what must fail fails, with a reason that tells why. A shell script plays the program."""
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
 import unittest
 
 RUNNER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "run_sessions.py")
+ACCEPT = os.path.join(os.path.dirname(os.path.dirname(RUNNER)), "scripts", "accept-sessions")
 
 
 class Sessions(unittest.TestCase):
@@ -28,10 +30,15 @@ class Sessions(unittest.TestCase):
     def program(self, text):
         self.write("../cli", "#!/bin/sh\n" + text)
 
-    def session(self, text, transcript=None, name="one"):
+    def session(self, text, transcript=None, name="a/one"):
         self.write(name + ".session", text)
         if transcript is not None:
             self.write(name + ".transcript", transcript)
+
+    def in_two_languages(self, text="# locales: en ja\nstart\n[en] see Saved\n[ja] see 保存\nend\n", name="a/two"):
+        self.write(name + ".session", text)
+        self.write(name + ".en.transcript", "# locales: en ja\nstart\nsee Saved\nend\n")
+        self.write(name + ".ja.transcript", "# locales: en ja\nstart\nsee 保存\nend\n")
 
     def run_it(self, *arguments):
         command = [sys.executable, RUNNER, "--cli", self.cli, self.folder, *arguments]
@@ -46,15 +53,16 @@ class Sessions(unittest.TestCase):
 
     def test_equal_transcript_passes_and_leaves_nothing(self):
         self.session("start\n", "start\n")
-        self.assertEqual(self.run_it("one"), (0, "1 sessions, 0 failures\n"))
-        self.assertFalse(os.path.exists(os.path.join(self.folder, "one.actual")))
+        for name in ("one", "a/one"):
+            self.assertEqual(self.run_it(name), (0, "1 sessions, 0 failures\n"))
+        self.assertFalse(os.path.exists(os.path.join(self.folder, "a", "one.actual")))
 
     def test_any_difference_fails_and_is_left_to_be_read(self):
         for transcript in ["", "start", "start\n\n", "start \n", "Start\n"]:
             with self.subTest(transcript=transcript):
                 self.session("start\n", transcript)
                 self.assert_fails("one.transcript", "one")
-                with open(os.path.join(self.folder, "one.actual"), encoding="utf-8") as left:
+                with open(os.path.join(self.folder, "a", "one.actual"), encoding="utf-8") as left:
                     self.assertEqual(left.read(), "start\n")
 
     def test_missing_transcript_fails(self):
@@ -107,13 +115,117 @@ class Sessions(unittest.TestCase):
     def test_orphans_are_found(self):
         self.session("", "")
         self.assertEqual(self.run_it("--orphans")[0], 0)
-        for name, reason in [("two.transcript", "two.transcript belongs to no session"),
-                             ("two.sesion", "two.sesion belongs to no session"),
-                             ("roots/unused/x", "roots/unused is used by no session"),
-                             ("three.session", "three.session has no transcript")]:
+        self.in_two_languages()
+        self.assertEqual(self.run_it("--orphans"), (0, ""))
+        wrong = {"a/four.transcript": "a/four.transcript belongs to no session",
+                 "b/one.transcript": "b/one.transcript belongs to no session",  # its session lies in another folder
+                 "a/one.en.transcript": "a/one.en.transcript belongs to no session",
+                 "a/two.transcript": "a/two.transcript belongs to no session",
+                 "a/four.sesion": "a/four.sesion belongs to no session", "b/c/README.md": "b/c/README.md belongs to no session",
+                 "notes": "notes belongs to no session", "roots/unused/x": "roots/unused is used by no session",
+                 "a/three.session": "a/three.session has no transcript three.transcript",
+                 "three.session": "three.session lies in no folder", "b/one.session": "two sessions are called one"}
+        for name, reason in wrong.items():
             with self.subTest(name=name):
-                self.write(name, "")
+                path = self.write(name, "")
                 self.assert_fails(reason, "--orphans")
+                os.remove(path) if not name.startswith("roots") else shutil.rmtree(os.path.dirname(path))
+        for language in ("en", "ja"):
+            with self.subTest(language=language):
+                os.rename(os.path.join(self.folder, "a", f"two.{language}.transcript"), self.cli + ".away")
+                self.assert_fails(f"a/two.session has no transcript two.{language}.transcript", "--orphans")
+                os.rename(self.cli + ".away", os.path.join(self.folder, "a", f"two.{language}.transcript"))
+        self.write("a/one.actual", "")
+        self.write("a/two.ja.actual", "")
+        self.assertEqual(self.run_it("--orphans"), (0, ""))
+
+    def test_a_script_that_repeats_another_in_its_language_is_found(self):
+        self.session("# locale: en\n# root-files: program\n# Saved.\nstart\nset N 5\n", "")
+        for script in ("# root-files: program\n# locale: ja\n# 保存。\n\nstart\n# Typed.\nset N 5\n",
+                       "# locales: en ja\n# root-files: program\nstart\nset N 5\n"):
+            with self.subTest(script=script):
+                self.session(script, "", "b/twin")
+                self.assert_fails("b/twin.session does what a/one.session does", "--orphans")
+        for script in ("# locale: ja\n# root-files: program\nstart\nset N 6\n", "# locale: ja\nstart\nset N 5\n"):
+            with self.subTest(script=script):
+                self.session(script, "", "b/twin")
+                self.assertEqual(self.run_it("--orphans"), (0, ""))
+
+    def test_one_script_is_played_in_each_of_its_languages(self):
+        self.in_two_languages()
+        for name in ("two", "a/two"):
+            self.assertEqual(self.run_it(name), (0, "2 sessions, 0 failures\n"))
+        for name in ("two.en", "a/two.ja"):
+            self.assertEqual(self.run_it(name), (0, "1 sessions, 0 failures\n"))
+        self.assertEqual(self.run_it(), (0, "2 sessions, 0 failures\n"))
+        self.program('cat\necho "$7"\n')  # the value behind --locale
+        for language in ("en", "ja"):
+            self.assert_fails(f"+{language}\n", "two." + language)
+
+    def test_each_language_has_a_transcript_of_its_own(self):
+        self.in_two_languages()
+        self.write("a/two.ja.transcript", "# locales: en ja\nstart\nsee Saved\nend\n")
+        self.assertEqual(self.run_it("two.en")[0], 0)
+        self.assert_fails("+see 保存", "two.ja")
+        self.assert_fails("2 sessions, 1 failures", "two")
+        self.assertTrue(os.path.exists(os.path.join(self.folder, "a", "two.ja.actual")))
+        self.assertFalse(os.path.exists(os.path.join(self.folder, "a", "two.en.actual")))
+
+    def test_a_line_of_a_language_that_is_not_played_is_named(self):
+        for script in ("# locales: en ja\n[fr] start\n", "[ja] start\n", "# locale: en\n[en] start\n"):
+            with self.subTest(script=script):
+                self.session(script, script)
+                self.assert_fails("one.session:", "one")
+                self.assert_fails("a language that it is not played in", "--orphans")
+
+    def test_languages_stand_in_the_first_line_and_are_known(self):
+        for script, reason in [("# What it shows.\n# locales: en ja\n", "one.session:2: locales stands in the first line"),
+                               ("# locales: en\n", "locales are en ja"), ("# locales: en fr\n", "locales are en ja"),
+                               ("# locales:\n", "locales are en ja")]:
+            with self.subTest(script=script):
+                self.session(script, script)
+                self.assert_fails(reason, "one")
+
+    def test_unknown_names_are_failures(self):
+        self.session("start\n", "start\n")
+        self.in_two_languages()
+        for name in ("three", "b/one", "one.en", "two.fr", "a/a/one", "one.session"):
+            with self.subTest(name=name):
+                self.assert_fails("no session " + name, name)
+
+    def test_a_script_is_printed_as_the_program_is_given_it(self):
+        self.in_two_languages()
+        self.assertEqual(self.run_it("--script", "two.ja"), (0, "# locales: en ja\nstart\nsee 保存\nend\n"))
+
+    def accept(self, *names):
+        command = [os.path.join(self.room.name, "scripts", "accept-sessions"), *names]
+        done = subprocess.run(command, capture_output=True, text=True, check=False)
+        return done.returncode, done.stderr
+
+    def test_accepting_takes_over_what_was_printed(self):
+        self.folder = os.path.join(self.room.name, "tests", "sessions")
+        os.makedirs(os.path.join(self.room.name, "scripts"))
+        shutil.copy(ACCEPT, os.path.join(self.room.name, "scripts"))
+        for given, left, kept in [("one", ["one"], ["one_more"]), ("a/one", ["one"], ["one_more"]),
+                                  ("two", ["two.en", "two.ja"], []), ("a/two", ["two.en", "two.ja"], []),
+                                  ("two", ["two.ja"], []), ("two.en", ["two.en"], ["two.ja"])]:
+            with self.subTest(given=given, left=left):
+                for name in left + kept:
+                    self.write(f"a/{name}.transcript", "old\n")
+                    self.write(f"a/{name}.actual", "new\n")
+                self.assertEqual(self.accept(given), (0, ""))
+                for name in left + kept:
+                    with open(os.path.join(self.folder, "a", name + ".transcript"), encoding="utf-8") as file:
+                        self.assertEqual(file.read(), "old\n" if name in kept else "new\n")
+                    actual = os.path.join(self.folder, "a", name + ".actual")
+                    self.assertEqual(os.path.exists(actual), name in kept)
+                    if name in kept:
+                        os.remove(actual)
+        self.write("a/one.actual", "new\n")
+        for name in ("two", "b/one", "ne", "o*"):
+            with self.subTest(name=name):
+                self.assertEqual(self.accept(name), (1, name + ": nothing to accept; run the session first\n"))
+        self.assertEqual(self.accept()[0], 2)
 
     def test_no_sessions_at_all_is_a_failure(self):
         self.assert_fails("no sessions")

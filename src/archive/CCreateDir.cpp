@@ -45,7 +45,7 @@ void CCreateDir::on_ok() {
   close(text::kOk);
 }
 
-void CCreateDir::refuse(int message) {
+void CCreateDir::refuse(text::Id message) {
   services().messages.error(message);
   focus(folder_name);
 }

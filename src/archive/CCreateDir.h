@@ -22,7 +22,7 @@ class CCreateDir : public ui::Screen {
   void on_ok() override;
 
  private:
-  void refuse(int message);
+  void refuse(text::Id message);
 
   std::string parent_;
   std::string path_;

@@ -1,6 +1,6 @@
 #include "archive/CShowStatusDlg.h"
 
-CShowStatusDlg::CShowStatusDlg(ui::Services& services, int text_id)
+CShowStatusDlg::CShowStatusDlg(ui::Services& services, text::Id text_id)
     : Screen(services, "CShowStatusDlg", {text::id::kProgramTitleForNotice}),
       status(*this, "status", {text_id}) {
   status.font = "MS Gothic";

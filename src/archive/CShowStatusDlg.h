@@ -7,7 +7,7 @@
 class CShowStatusDlg : public ui::Screen {
  public:
   /// Shown from here until the object is gone.
-  explicit CShowStatusDlg(ui::Services& services, int text_id = text::id::kInCalculating);
+  explicit CShowStatusDlg(ui::Services& services, text::Id text_id = text::id::kInCalculating);
   ~CShowStatusDlg() override;
   CShowStatusDlg(const CShowStatusDlg&) = delete;
   CShowStatusDlg& operator=(const CShowStatusDlg&) = delete;

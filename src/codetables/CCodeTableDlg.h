@@ -11,15 +11,15 @@
 /// A line of a code table.
 struct CodeTableRow {
   std::string_view code;  ///< "95", "/" …
-  int text = 0;           ///< what it means
+  text::Id text;          ///< what it means
 };
 
 /// A code table and how its dialog is headed. Texts are ids of the string table.
 struct CodeTable {
   std::string_view class_name;  ///< names the layout and the help topic
-  int title = 0;
-  int heading = 0;
-  int group = 0;  ///< title of the frame around the lines
+  text::Id title;
+  text::Id heading;
+  text::Id group;  ///< title of the frame around the lines
   std::span<const CodeTableRow> rows;
 };
 

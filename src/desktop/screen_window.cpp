@@ -212,7 +212,7 @@ QWidget* ScreenWindow::placed(const ui::LayoutNode& node, bool caption_apart) {
   Binding* const found = binding(node.name);
   if (found == nullptr) return nullptr;
   found->widget()->setProperty("placed", true);
-  const bool has_unit = found->control().unit.id != 0;
+  const bool has_unit = found->control().unit.id.number != 0;
   const bool captioned = !caption_apart && !found->shows_own_caption() &&
                          node.caption != ui::LayoutNode::Caption::kNone &&
                          !screen_.english_caption(found->control()).empty();

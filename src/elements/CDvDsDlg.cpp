@@ -12,7 +12,7 @@ namespace {
 
 struct CodeRow {
   std::string_view code;
-  int text;
+  text::Id text;
 };
 
 constexpr CodeRow kTable0700[] = {

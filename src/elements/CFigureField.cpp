@@ -4,7 +4,7 @@
 #include "text/strings.h"
 
 CFigureField::CFigureField(ui::Services& services, ui::Control& field, int lowest, int highest,
-                           int digits, int message)
+                           int digits, text::Id message)
     : services_(services),
       field_(field),
       lowest_(lowest),

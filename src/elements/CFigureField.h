@@ -12,7 +12,7 @@ class CFigureField {
   /// Takes over the field's on_leave. `message` is the refusal's text id; all must outlive this
   /// object.
   CFigureField(ui::Services& services, ui::Control& field, int lowest, int highest, int digits,
-               int message);
+               text::Id message);
   CFigureField(const CFigureField&) = delete;
   CFigureField& operator=(const CFigureField&) = delete;
   ~CFigureField() = default;
@@ -23,7 +23,7 @@ class CFigureField {
   [[nodiscard]] std::optional<int> number() const;
   /// number() with zeros in front; empty where that is nothing.
   [[nodiscard]] std::string figures() const;
-  [[nodiscard]] int message() const { return message_; }
+  [[nodiscard]] text::Id message() const { return message_; }
   [[nodiscard]] ui::Control& field() const { return field_; }
 
  private:
@@ -34,6 +34,6 @@ class CFigureField {
   int lowest_;
   int highest_;
   int digits_;
-  int message_;
+  text::Id message_;
   std::string opened_with_;
 };

@@ -78,7 +78,7 @@ bool CLookWindDlg::acceptable() const {
   };
   const auto speed_kept = [this](const SpeedField& row) {
     const std::string& typed = (this->*row.field).content;
-    return text::trim(typed).empty() || refusal(row, typed) == 0;
+    return text::trim(typed).empty() || !refusal(row, typed);
   };
   return std::all_of(std::begin(kDegreesFields), std::end(kDegreesFields), degrees_kept) &&
          std::all_of(std::begin(kSpeedFields), std::end(kSpeedFields), speed_kept);
@@ -100,16 +100,16 @@ bool CLookWindDlg::check(const DegreesField& row) {
   return false;
 }
 
-int CLookWindDlg::refusal(const SpeedField& row, std::string_view typed) {
+text::Id CLookWindDlg::refusal(const SpeedField& row, std::string_view typed) {
   const auto knots = text::strict_number(text::trim(typed));
   if (!knots) return id::kNotANumber;
-  return *knots < 0.0 || *knots > row.largest ? id::kInputError : 0;
+  return *knots < 0.0 || *knots > row.largest ? id::kInputError : text::Id();
 }
 
 bool CLookWindDlg::check(const SpeedField& row) {
   ui::Edit& field = this->*row.field;
   if (text::trim(field.content).empty()) return true;
-  if (const int message = refusal(row, field.content); message != 0) {
+  if (const text::Id message = refusal(row, field.content); message) {
     services().messages.error(message);
     return false;
   }

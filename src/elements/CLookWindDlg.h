@@ -37,7 +37,7 @@ class CLookWindDlg : public ui::Screen {
   struct DegreesField {
     ui::Edit CLookWindDlg::*field;
     int lowest;
-    int message;
+    text::Id message;
   };
   struct SpeedField {
     ui::Edit CLookWindDlg::*field;
@@ -50,7 +50,7 @@ class CLookWindDlg : public ui::Screen {
   bool check(const DegreesField& row);
   bool check(const SpeedField& row);
   /// Text id of the message that refuses a speed, 0 when it is accepted.
-  [[nodiscard]] static int refusal(const SpeedField& row, std::string_view typed);
+  [[nodiscard]] static text::Id refusal(const SpeedField& row, std::string_view typed);
   [[nodiscard]] bool acceptable() const;
   [[nodiscard]] elements::ApparentWindTexts entered() const;
   void recompute();

@@ -116,7 +116,7 @@ void CPositionDlg::on_ok() {
   close(text::kOk);
 }
 
-bool CPositionDlg::refuse(int message, ui::Control& field) {
+bool CPositionDlg::refuse(text::Id message, ui::Control& field) {
   services().messages.error(message);
   focus(field);
   return false;

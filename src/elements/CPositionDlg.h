@@ -55,7 +55,7 @@ class CPositionDlg : public ui::Screen {
   void show_hint();
   /// True when all is there and in range; else the refusal was shown.
   bool complete();
-  bool refuse(int message, ui::Control& field);
+  bool refuse(text::Id message, ui::Control& field);
   [[nodiscard]] bool is_on_land() const;
 
   Values values_;

@@ -11,11 +11,12 @@ using codetables::TendencyKind;
 namespace {
 
 // Code table 0200, characteristics 0-8.
-constexpr int kTable0200[] = {id::kCharacteristic0, id::kCharacteristic1, id::kCharacteristic2,
-                              id::kCharacteristic3, id::kCharacteristic4, id::kCharacteristic5,
-                              id::kCharacteristic6, id::kCharacteristic7, id::kCharacteristic8};
+constexpr text::Id kTable0200[] = {
+    id::kCharacteristic0, id::kCharacteristic1, id::kCharacteristic2,
+    id::kCharacteristic3, id::kCharacteristic4, id::kCharacteristic5,
+    id::kCharacteristic6, id::kCharacteristic7, id::kCharacteristic8};
 
-int line_of(char code) {
+text::Id line_of(char code) {
   return code == '/' ? id::kCharacteristicUnknown : kTable0200[code - '0'];
 }
 

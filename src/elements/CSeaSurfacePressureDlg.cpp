@@ -135,13 +135,13 @@ void CSeaSurfacePressureDlg::recalculate() {
   sea_level_pressure.content = text::format_fixed(read.value + correction.value, 1);
 }
 
-bool CSeaSurfacePressureDlg::refuse(ui::Control& field, int message) {
+bool CSeaSurfacePressureDlg::refuse(ui::Control& field, text::Id message) {
   services().messages.error(message);
   focus(field);
   return false;
 }
 
-bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, int message) {
+bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, text::Id message) {
   if (!field.content.empty() && !text::is_all_digits(field.content)) {
     services().messages.error(message);
     return false;

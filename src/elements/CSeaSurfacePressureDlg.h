@@ -69,9 +69,9 @@ class CSeaSurfacePressureDlg : public ui::Screen {
   void time_choice_changed();
   void renew_card();
   void recalculate();
-  bool check_digits(const ui::Control& field, int message);
+  bool check_digits(const ui::Control& field, text::Id message);
   bool check_time(ui::Control& field, int largest);
-  bool refuse(ui::Control& field, int message);
+  bool refuse(ui::Control& field, text::Id message);
   bool validate();
 
   Values values_;

@@ -79,7 +79,7 @@ bool CTemperatureEntry::check_whole() {
   }
   const codetables::TemperatureRange range = codetables::temperature_range(degrees);
   if (range != codetables::TemperatureRange::kUsual && degrees != confirmed_) {
-    const int question =
+    const text::Id question =
         range == codetables::TemperatureRange::kAbove ? texts_.high_question : texts_.low_question;
     if (services_.messages.question(question, text::QuestionMode::kYesNo) != text::kYes)
       return false;

@@ -14,10 +14,10 @@ class CTemperatureEntry {
     std::string_view group_name;
     std::string_view whole_name;
     std::string_view tenths_name;
-    int group_label = 0;
-    int whole_label = 0;
-    int high_question = 0;  ///< above 40 degrees
-    int low_question = 0;   ///< below -25 degrees
+    text::Id group_label;
+    text::Id whole_label;
+    text::Id high_question;  ///< above 40 degrees
+    text::Id low_question;   ///< below -25 degrees
   };
 
   CTemperatureEntry(ui::Screen& owner, ui::Services& services, const Texts& texts);

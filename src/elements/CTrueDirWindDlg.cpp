@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kUnknown = "//";
 
-int message_of(TrueWindRule rule) {
+text::Id message_of(TrueWindRule rule) {
   switch (rule) {
     case TrueWindRule::kCalmWithSpeed:
       return id::kCalmDirectionWithSpeed;
@@ -26,7 +26,7 @@ int message_of(TrueWindRule rule) {
     case TrueWindRule::kKept:
       break;
   }
-  return 0;
+  return {};
 }
 
 }  // namespace

@@ -46,14 +46,14 @@ void CUTCTimeDlg1::on_open() {
   month_.open(or_clock(values_.Month, now.month));
   day_.open(or_clock(values_.YY, now.day));
   hour_.open(or_clock(values_.GG, now.hour));
-  if (hour_fault() != 0) focus(hour);
+  if (hour_fault()) focus(hour);
 }
 
 // The clock's hour is only an offer: a report belongs to a main or intermediate synoptic hour.
-int CUTCTimeDlg1::hour_fault() const {
-  if (text::trim(hour.content).empty()) return 0;
+text::Id CUTCTimeDlg1::hour_fault() const {
+  if (text::trim(hour.content).empty()) return {};
   if (!hour_.number()) return id::kInvalidHour;
-  return *hour_.number() % kHoursBetweenReports == 0 ? 0 : id::kNotSynopticHour;
+  return *hour_.number() % kHoursBetweenReports == 0 ? text::Id() : id::kNotSynopticHour;
 }
 
 void CUTCTimeDlg1::on_ok() {
@@ -64,12 +64,12 @@ void CUTCTimeDlg1::on_ok() {
   if (!day_.number() ||
       !platform::is_calendar_date(*year_.number(), *month_.number(), *day_.number()))
     return refuse(id::kInvalidDay, day);
-  if (const int fault = hour_fault(); fault != 0) return refuse(fault, hour);
+  if (const text::Id fault = hour_fault(); fault) return refuse(fault, hour);
   values_ = {year_.figures(), month_.figures(), day_.figures(), hour_.figures()};
   close(text::kOk);
 }
 
-void CUTCTimeDlg1::refuse(int message, ui::Control& field) {
+void CUTCTimeDlg1::refuse(text::Id message, ui::Control& field) {
   services().messages.error(message);
   focus(field);
 }

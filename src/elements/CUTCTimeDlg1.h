@@ -39,8 +39,8 @@ class CUTCTimeDlg1 : public ui::Screen {
 
  private:
   /// Text id of the message that refuses the hour shown, 0 when OK takes it.
-  [[nodiscard]] int hour_fault() const;
-  void refuse(int message, ui::Control& field);
+  [[nodiscard]] text::Id hour_fault() const;
+  void refuse(text::Id message, ui::Control& field);
 
   Values values_;
   elements::Years years_;

@@ -33,9 +33,9 @@ constexpr unsigned kPrimaryLanguage = 0x3FF;
 }  // namespace
 
 std::string CVelmaranDlg::title() const {
-  const int which = unsaved()     ? id::kMainTitleNotSaved
-                    : saved_once_ ? id::kMainTitleSaved
-                                  : id::kMainTitle;
+  const text::Id which = unsaved()     ? id::kMainTitleNotSaved
+                         : saved_once_ ? id::kMainTitleSaved
+                                       : id::kMainTitle;
   return std::string(services().texts.get(which));
 }
 
@@ -116,7 +116,7 @@ bool CVelmaranDlg::open_element(int element) {
 // stays in the field; once the officer knows that, F1 only opens the dialog.
 void CVelmaranDlg::on_f1(ui::Control* focused) {
   const Field* const field = field_of(focused);
-  if (const int why = field == nullptr ? 0 : why_locked(*field->row); why != 0) {
+  if (const text::Id why = field == nullptr ? text::Id() : why_locked(*field->row); why) {
     services().messages.error(why);
     return;
   }

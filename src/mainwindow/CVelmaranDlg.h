@@ -78,7 +78,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void add_labels();
   void add_field(const mainwindow::FieldRow& row);
   void add_edit(const mainwindow::FieldRow& row, text::Ref label);
-  void add_hemispheres(const mainwindow::FieldRow& row, int first, int second);
+  void add_hemispheres(const mainwindow::FieldRow& row, text::Id first, text::Id second);
   void add_report();
 
   // Showing it.
@@ -87,7 +87,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void show_edit(const Field& field);
   void show_choices();
   void show_report();
-  [[nodiscard]] int why_locked(const mainwindow::FieldRow& row) const;
+  [[nodiscard]] text::Id why_locked(const mainwindow::FieldRow& row) const;
   [[nodiscard]] std::string group_shown(const ReportGroup& group) const;
 
   // Entries.

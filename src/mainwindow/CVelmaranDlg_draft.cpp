@@ -15,7 +15,7 @@ using mainwindow::DraftKeeper;
 std::string when(const Struct_Weather& record, const text::Texts& texts) {
   struct Part {
     const std::string& value;
-    int name;
+    text::Id name;
     [[nodiscard]] std::string_view shown() const {
       return value.empty() ? std::string_view("--") : value;
     }

@@ -98,7 +98,8 @@ void CVelmaranDlg::add_edit(const mainwindow::FieldRow& row, text::Ref label) {
   };
 }
 
-void CVelmaranDlg::add_hemispheres(const mainwindow::FieldRow& row, int first, int second) {
+void CVelmaranDlg::add_hemispheres(const mainwindow::FieldRow& row, text::Id first,
+                                   text::Id second) {
   auto& choice = add<ui::Choice>(row.name, label_ref(row.label),
                                  std::vector{label_ref(first), label_ref(second)});
   choice.on_change = [this] { hemispheres_chosen(); };
@@ -140,15 +141,15 @@ void CVelmaranDlg::refresh() {
   show_report();
 }
 
-// Text id of the reason, 0 for a field that is open.
-int CVelmaranDlg::why_locked(const mainwindow::FieldRow& row) const {
+// The reason, none for a field that is open.
+text::Id CVelmaranDlg::why_locked(const mainwindow::FieldRow& row) const {
   if (const auto field = elements::field_named(row.name)) {
     if (form_.switched_off(*field)) return id::kWhyNotObserved;
     if (elements::needs_wave_recorder(*field))
-      return context_.ship.wave_recorder ? 0 : id::kWhyNoWaveRecorder;
+      return context_.ship.wave_recorder ? text::Id() : id::kWhyNoWaveRecorder;
   }
   const mainwindow::ElementRow* const element = mainwindow::find_element(row.element);
-  if (element == nullptr || element->use(context_) != Use::kOtherMethod) return 0;
+  if (element == nullptr || element->use(context_) != Use::kOtherMethod) return {};
   return row.computed ? id::kWhyComputed : id::kWhyOtherMethod;
 }
 
@@ -156,10 +157,10 @@ int CVelmaranDlg::why_locked(const mainwindow::FieldRow& row) const {
 // meaning on this ship is disabled and shows as empty.
 void CVelmaranDlg::show_edit(const Field& field) {
   ui::Control& control = *field.control;
-  const int why = why_locked(*field.row);
+  const text::Id why = why_locked(*field.row);
   const bool shows_value = why == id::kWhyNotObserved || field.row->computed;
-  control.enabled = why == 0 || shows_value;
-  control.read_only = why != 0 && shows_value;
+  control.enabled = !why || shows_value;
+  control.read_only = why && shows_value;
   control.why_locked = services().texts.get(why);
   control.set(control.enabled ? std::string_view(form_.text(*field.value)) : std::string_view());
   control.mark = form_.in_error(*field.value) ? kWrong : std::string_view();
@@ -171,11 +172,11 @@ void CVelmaranDlg::show_choices() {
   ui::Control& loading = *control_of("loading_state");
   loading.enabled = context_.ship.card.type == CardType::kHeightAndTemperature;
   loading.selected = static_cast<int>(context_.ship.card.loading_state);
-  loading.why_locked = services().texts.get(loading.enabled ? 0 : id::kWhyNoLoadingState);
+  loading.why_locked = services().texts.get(loading.enabled ? text::Id() : id::kWhyNoLoadingState);
   ui::Control& freeze = *control_of("freeze");
   freeze.enabled = context_.ship.dew_point_method == DewPointMethod::kComputed;
   freeze.checked = freeze.enabled && form_.wet_bulb_state() == elements::WetBulbState::kIced;
-  freeze.why_locked = services().texts.get(freeze.enabled ? 0 : id::kWhyOtherMethod);
+  freeze.why_locked = services().texts.get(freeze.enabled ? text::Id() : id::kWhyOtherMethod);
 }
 
 // What stands in a group's field: the group as the report would have it. The word ICE has a field
@@ -194,11 +195,11 @@ void CVelmaranDlg::show_report() {
   for (const ReportGroup& group : groups_) {
     if (typing_ && group.control == focused()) continue;  // a group half typed is not taken away
     group.control->set(group_shown(group));
-    const int label = observation::row_of(group.row->group).missing_label;
+    const text::Id label = observation::row_of(group.row->group).missing_label;
     const bool half_time = group.row->group == observation::Group::k9GGgg &&
                            form_.record().gg.empty() != form_.record().GGExact.empty();
     const bool lacks =
-        half_time || (label != 0 && missing.find(services().texts.get(label)) != std::string::npos);
+        half_time || (label && missing.find(services().texts.get(label)) != std::string::npos);
     group.control->mark = lacks ? kMissing : std::string_view();
   }
 }

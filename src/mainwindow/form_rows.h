@@ -47,15 +47,15 @@ enum Element : int {
 
 /// Main labels: the English text stands this much behind the Japanese one.
 inline constexpr int kLabelsToEnglish = 74;
-[[nodiscard]] constexpr text::Ref label_ref(int id) {
-  return {id, id == 0 ? 0 : kLabelsToEnglish};
+[[nodiscard]] constexpr text::Ref label_ref(text::Id id) {
+  return {id, id ? kLabelsToEnglish : 0};
 }
 
 /// A label that opens an element's dialog. It does nothing when the element is switched off; a
 /// caption also moves the focus on to the field behind its own.
 struct LabelRow {
   std::string_view name;
-  int label = 0;
+  text::Id label;
   int element = kNoElement;
   std::optional<ObservationItem> item = {};  ///< that switches the element off
   std::string_view caption_of = {};  ///< the field that a caption stands at; none for a group
@@ -73,7 +73,7 @@ enum class FieldKind : std::uint8_t {
 /// A field of the form; the rows are in tab order.
 struct FieldRow {
   std::string_view name;
-  int label = 0;  ///< main label, 0 for none
+  text::Id label;  ///< main label, 0 for none
   text::Ref unit = {};
   int max_length = 0;
   int element = kNoElement;

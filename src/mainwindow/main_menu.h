@@ -39,7 +39,7 @@ enum class Command {
 /// One line of the menus. Children follow their parent one depth further in.
 struct MenuRow {
   int depth = 0;
-  int text_id = 0;
+  text::Id text_id;
   Command command = Command::kNone;
   std::string_view help_file = {};  ///< base name, for kHelpFile
   std::string_view shortcut = {};   ///< as in ui::MenuItem

@@ -63,9 +63,9 @@ char drive_of(const std::string& folder) {
 bool disk_is_ready(ui::Services& services, const std::string& folder, std::uint64_t bytes) {
   const char letter = drive_of(folder);
   if (!is_removable(services.drives, letter)) return true;
-  int insert = id::kInsertDisk;
+  text::Id insert = id::kInsertDisk;
   while (true) {
-    int asked = 0;
+    text::Id asked;
     if (!services.drives.medium_present(letter)) {
       asked = std::exchange(insert, id::kInsertDiskAgain);
     } else if (const auto room = services.files.free_space(folder); room && *room < bytes) {
@@ -77,7 +77,7 @@ bool disk_is_ready(ui::Services& services, const std::string& folder, std::uint6
   }
 }
 
-SaveEnd end_with(ui::Services& services, int message, SaveEnd end) {
+SaveEnd end_with(ui::Services& services, text::Id message, SaveEnd end) {
   services.messages.error(message);
   return end;
 }

@@ -16,9 +16,9 @@ namespace {
 
 struct ModeRow {
   std::string_view key;
-  int title;
-  int prompt;
-  int current;
+  text::Id title;
+  text::Id prompt;
+  text::Id current;
   bool is_copy;
 };
 
@@ -93,7 +93,7 @@ void CLogDiskSavePathDlg::create() {
 
 void CLogDiskSavePathDlg::on_ok() {
   std::string folder = platform::with_backslash(directory_.folder());
-  if (const int message = refusal(folder); message != 0) return refuse(message);
+  if (const text::Id message = refusal(folder); message) return refuse(message);
   const platform::Look found = services().files.look(folder);
   if (found.there != There::kFolder && !is_on_removable_drive(folder)) {
     if (found.there != There::kCannotTell) return refuse(id::kFolderGone);
@@ -106,12 +106,12 @@ void CLogDiskSavePathDlg::on_ok() {
   close(text::kOk);
 }
 
-int CLogDiskSavePathDlg::refusal(const std::string& folder) const {
+text::Id CLogDiskSavePathDlg::refusal(const std::string& folder) const {
   if (folder.empty()) return id::kNoFolderChosen;
   if (row_of(mode_).is_copy && is_source(folder)) return id::kChooseAnotherFolder;
   // The settings file takes what follows a ";" for a comment, so the name would come back cut.
   if (folder.find(';') != std::string::npos) return id::kBadFolderName;
-  return 0;
+  return {};
 }
 
 bool CLogDiskSavePathDlg::is_source(const std::string& folder) const {
@@ -127,7 +127,7 @@ bool CLogDiskSavePathDlg::is_on_removable_drive(const std::string& folder) const
   });
 }
 
-void CLogDiskSavePathDlg::refuse(int message) {
+void CLogDiskSavePathDlg::refuse(text::Id message) {
   services().messages.error(message);
   focus(tree);
 }

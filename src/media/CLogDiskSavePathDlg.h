@@ -48,9 +48,9 @@ class CLogDiskSavePathDlg : public ui::Screen {
   void show_chosen();
   void drive_chosen();
   void create();
-  void refuse(int message);
+  void refuse(text::Id message);
   /// Message that refuses the folder, 0 when it is taken.
-  [[nodiscard]] int refusal(const std::string& folder) const;
+  [[nodiscard]] text::Id refusal(const std::string& folder) const;
   [[nodiscard]] bool is_source(const std::string& folder) const;
   [[nodiscard]] bool is_on_removable_drive(const std::string& folder) const;
 

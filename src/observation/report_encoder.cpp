@@ -76,7 +76,7 @@ class Composer {
   }
 
   void note(const GroupRow& row) {
-    if (missing_ == nullptr || row.missing_label == 0 || !is_incomplete(record_, row.group)) return;
+    if (missing_ == nullptr || !row.missing_label || !is_incomplete(record_, row.group)) return;
     if (no_value_.empty()) {
       missing_->reserve(kFullList);
       no_value_ = text::bilingual(text::id::kNoValueInput, language_);

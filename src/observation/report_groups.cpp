@@ -69,7 +69,7 @@ constexpr std::array<GroupRow, kGroups> kRows{{
      "9",
      {{{&W::GGExact, 2, kKept}, {&W::gg, 2, kKept}}},
      Written::kWhenSet,
-     0,
+     {},
      &W::gg},
     {Group::k222DsVs, "222", {{{&W::Ds, 1}, {&W::Vs, 1}}}, Written::kAlways, id::kMissing222DsVs},
     {Group::k0SsTwTwTw,

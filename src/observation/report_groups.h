@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "observation/Struct_Weather.h"
+#include "text/id.h"
 
 namespace observation {
 
@@ -67,7 +68,7 @@ struct GroupRow {
   std::string_view indicator;  ///< fixed figures in front
   std::array<Symbol, 5> symbols;
   Written written;
-  int missing_label = 0;  ///< id of the label in the missing list; 0 = never noted
+  text::Id missing_label = {};  ///< id of the label in the missing list; none = never noted
   std::string Struct_Weather::*when_set = nullptr;
 
   /// The symbols that are used.

@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include "text/id.h"
+
 namespace ui {
 class Screen;
 }
@@ -291,7 +293,7 @@ struct MessageBox {
   std::string text;
   std::vector<BoxButton> buttons;
   int close_result = 0;  ///< result of the close box and of Escape
-  int text_id = 0;       ///< id in the string table, 0 for a literal text; for tests
+  text::Id text_id;      ///< in the string table, none for a literal text; for tests
 };
 
 /// Everything that opens a window. Each call returns when the window is closed.

@@ -195,7 +195,7 @@ void CFixDataDlg::show_card() {
   const BarometerCard& shown = draft_.card;
   const bool one = shown.type == CardType::kHeightAndTemperature;
   const bool two = shown.type == CardType::kTotalCorrection;
-  card_type.set(services().texts.get(one ? id::kCardTypeOne : two ? id::kCardTypeTwo : 0));
+  card_type.set(services().texts.get(one ? id::kCardTypeOne : two ? id::kCardTypeTwo : text::Id()));
   barometer_check_date.set(shown.check_date);
   barometer_check_port.set(shown.check_port);
   total_correction.set(shown.total_correction);
@@ -223,7 +223,7 @@ void CFixDataDlg::read_values() {
   draft_.vosclim = vosclim.selected == 0;
 }
 
-bool CFixDataDlg::refuse(ui::Control& control, int message) {
+bool CFixDataDlg::refuse(ui::Control& control, text::Id message) {
   services().messages.error(message);
   focus(control);
   return false;

@@ -84,7 +84,7 @@ class CFixDataDlg : public ui::Screen {
   bool check_imo_number();
   bool check_manufacturer();
   bool check_wind();
-  [[nodiscard]] bool refuse(ui::Control& control, int message);
+  [[nodiscard]] bool refuse(ui::Control& control, text::Id message);
 
   void apply_aws();
   void apply_humidity_method();

@@ -102,7 +102,7 @@ void CKataInputDlg::show_card() {
 void CKataInputDlg::show_type() {
   const bool one = draft_.type == CardType::kHeightAndTemperature;
   const bool two = draft_.type == CardType::kTotalCorrection;
-  const int shown = one ? id::kCardTypeOne : two ? id::kCardTypeTwo : 0;
+  const text::Id shown = one ? id::kCardTypeOne : two ? id::kCardTypeTwo : text::Id();
   card_type.set(services().texts.get(shown));
   total_correction.visible = two;
   for (ui::Control* const control : std::initializer_list<ui::Control*>{

@@ -11,13 +11,13 @@ namespace {
 // The English labels lie behind the block of the Japanese ones.
 constexpr int kEnglishOffset = 40;
 
-text::Ref label(int japanese) {
+text::Ref label(text::Id japanese) {
   return {japanese, kEnglishOffset};
 }
 
 struct Item {
   const char* name;
-  int label;
+  text::Id label;
 };
 
 // In the order of the file.

@@ -56,14 +56,14 @@ CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, st
            kNo,
            0} {}
 
-void Messages::error(int id, std::string_view literal) {
+void Messages::error(Id id, std::string_view literal) {
   if (quiet) return;
-  std::string shown(id >= 1 ? texts_.get(id) : literal);
-  if (shown.empty() && id < 1) shown = texts_.get(id::kCheckError);
+  std::string shown(id ? texts_.get(id) : literal);
+  if (shown.empty() && !id) shown = texts_.get(id::kCheckError);
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
-void Messages::error_filled(int id, std::initializer_list<std::string_view> arguments,
+void Messages::error_filled(Id id, std::initializer_list<std::string_view> arguments,
                             std::string_view below) {
   if (quiet) return;
   std::string shown = fill(texts_.get(id), arguments);
@@ -71,18 +71,18 @@ void Messages::error_filled(int id, std::initializer_list<std::string_view> argu
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
-void Messages::error_filled_once(int id, std::initializer_list<std::string_view> arguments) {
+void Messages::error_filled_once(Id id, std::initializer_list<std::string_view> arguments) {
   if (!quiet && told_once_.insert(id).second) error_filled(id, arguments);
 }
 
-void Messages::file_error(int id, std::string_view path, platform::FileError why) {
+void Messages::file_error(Id id, std::string_view path, platform::FileError why) {
   error_filled(id, {path, texts_.get(reason_of(why))});
 }
 
 int Messages::question(std::string_view text, std::string_view title, QuestionMode mode,
-                       int text_id) {
+                       Id text_id) {
   const bool english = texts_.language == Language::kEnglish;
-  const auto label = [&](int id) { return std::string(texts_.get(id)); };
+  const auto label = [&](Id id) { return std::string(texts_.get(id)); };
   const Raised open(question_open);
   switch (mode) {
     case QuestionMode::kOkCancel: {

@@ -68,24 +68,24 @@ class Messages {
 
   /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
   /// "Check Error".
-  void error(int id, std::string_view literal = {});
+  void error(Id id, std::string_view literal = {});
   /// Error notice of a text whose "%s" and "%d" are filled in; `below`, when there is one, stands
   /// on a line of its own below it.
-  void error_filled(int id, std::initializer_list<std::string_view> arguments,
+  void error_filled(Id id, std::initializer_list<std::string_view> arguments,
                     std::string_view below = {});
 
   /// error_filled(), but the first time of the run only.
-  void error_filled_once(int id, std::initializer_list<std::string_view> arguments);
+  void error_filled_once(Id id, std::initializer_list<std::string_view> arguments);
   /// Error notice of a text with two places: the path of a file or folder, and why it could not be
   /// used, in the language of the moment.
-  void file_error(int id, std::string_view path, platform::FileError why);
+  void file_error(Id id, std::string_view path, platform::FileError why);
 
   /// A question; the result is one of the four codes above (mode kOkCancel gives kOk or kCancel).
   /// Any other mode shows nothing and returns 0. An empty title means the program's. `text_id` only
   /// tells tests which text it is.
-  int question(std::string_view text, std::string_view title, QuestionMode mode, int text_id = 0);
+  int question(std::string_view text, std::string_view title, QuestionMode mode, Id text_id = {});
   /// The same for a text of the table.
-  int question(int id, QuestionMode mode, std::string_view title = {}) {
+  int question(Id id, QuestionMode mode, std::string_view title = {}) {
     return question(texts_.get(id), title, mode, id);
   }
 
@@ -97,7 +97,7 @@ class Messages {
  private:
   Texts& texts_;
   platform::Windows& windows_;
-  std::set<int> told_once_;
+  std::set<Id> told_once_;
 };
 
 }  // namespace text

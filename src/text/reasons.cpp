@@ -6,12 +6,12 @@
 
 namespace text {
 
-int reason_of(platform::FileError error) {
+Id reason_of(platform::FileError error) {
   using platform::FileError;
   // A switch, so that the compiler misses a reason that has no words.
   switch (error) {
     case FileError::kNone:
-      return 0;
+      return {};
     case FileError::kNotFound:
       return id::kReasonNotFound;
     case FileError::kAccessDenied:

@@ -11,7 +11,7 @@
 namespace text {
 
 /// Id of the words for an error of the files port ("no space left"); 0 for kNone.
-[[nodiscard]] int reason_of(platform::FileError error);
+[[nodiscard]] Id reason_of(platform::FileError error);
 
 /// The words for an exception that nobody expected: memory that ran out, else what the exception
 /// says of itself (English), else that the cause is unknown. Never empty.

@@ -19,20 +19,20 @@ constexpr Entry kTable[] = {
 #include "string_table.inc"
 };
 
-const Entry* find(int id) {
-  const auto* const at = std::lower_bound(std::begin(kTable), std::end(kTable), id,
+const Entry* find(Id id) {
+  const auto* const at = std::lower_bound(std::begin(kTable), std::end(kTable), id.number,
                                           [](const Entry& e, int wanted) { return e.id < wanted; });
-  return at != std::end(kTable) && at->id == id ? at : nullptr;
+  return at != std::end(kTable) && at->id == id.number ? at : nullptr;
 }
 
 }  // namespace
 
-std::string_view entry(int id) {
+std::string_view entry(Id id) {
   const Entry* const found = find(id);
   return found == nullptr ? std::string_view() : found->text;
 }
 
-bool has_entry(int id) {
+bool has_entry(Id id) {
   return find(id) != nullptr;
 }
 
@@ -44,13 +44,13 @@ std::string_view half(std::string_view combined, Language language) {
                                         : combined.substr(at + marker.size());
 }
 
-std::string_view bilingual(int id, Language language) {
+std::string_view bilingual(Id id, Language language) {
   // The marker's own entry is nothing but the marker, and is the one text that must not be split.
   return id == id::kLanguageMarker ? entry(id) : half(entry(id), language);
 }
 
 std::string_view resolve(Ref ref, Language language) {
-  if (ref.id == 0) return {};
+  if (!ref.id) return {};
   if (ref.english_offset == 0) return bilingual(ref.id, language);
   return entry(language == Language::kJapanese ? ref.id : ref.id + ref.english_offset);
 }

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/id.h"
+
 namespace text {
 
 enum class Language { kEnglish = 0, kJapanese = 1 };
@@ -12,20 +14,20 @@ enum class Language { kEnglish = 0, kJapanese = 1 };
 /// Names a text of the table. With an offset of 0 the entry holds both languages and is split at
 /// its marker; else the id is the Japanese label and id + offset the English one.
 struct Ref {
-  int id = 0;
+  Id id;
   int english_offset = 0;
 };
 
 /// Entry of the table as stored, empty when there is none.
-[[nodiscard]] std::string_view entry(int id);
-[[nodiscard]] bool has_entry(int id);
+[[nodiscard]] std::string_view entry(Id id);
+[[nodiscard]] bool has_entry(Id id);
 
 /// The half of a combined text: before the marker in English, after it in Japanese; all of it when
 /// it holds none.
 [[nodiscard]] std::string_view half(std::string_view combined, Language language);
 
 /// half() of the entry.
-[[nodiscard]] std::string_view bilingual(int id, Language language);
+[[nodiscard]] std::string_view bilingual(Id id, Language language);
 
 /// Text of a label or message; empty for id 0.
 [[nodiscard]] std::string_view resolve(Ref ref, Language language);
@@ -39,7 +41,7 @@ class Texts {
  public:
   Language language = Language::kEnglish;
 
-  [[nodiscard]] std::string_view get(int id) const { return bilingual(id, language); }
+  [[nodiscard]] std::string_view get(Id id) const { return bilingual(id, language); }
   [[nodiscard]] std::string_view get(Ref ref) const { return resolve(ref, language); }
 };
 

@@ -13,6 +13,7 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
 #include "ship/data/ship_files.h"
+#include "fakes/sample_ship.h"
 #include "text/ids.h"
 
 namespace {
@@ -75,12 +76,8 @@ class OneCallFails : public fakes::FakeFiles {
 };
 
 ShipFixedData ship() {
-  ShipFixedData data;
-  data.call_sign = "JABC";
-  data.card.type = CardType::kTotalCorrection;
-  data.card.check_date = "2014/10/01";
-  data.card.check_port = "YOKOHAMA";
-  data.card.total_correction = "+1.5";
+  ShipFixedData data = fakes::sample_ship();
+  data.card = fakes::total_card("+1.5");
   return data;
 }
 

@@ -349,7 +349,7 @@ TEST_F(Folders, ExistingFolderIsNotCreatedAgain) {
 TEST_F(Folders, NewFolderWithoutAGoodNameIsRefusedAndNothingIsCreated) {
   struct Row {
     std::string name;
-    int message;
+    text::Id message;
   };
   std::vector<Row> rows = {{"", id::kNoValueInput},      {"  ", id::kNoValueInput},
                            {".", id::kBadFolderName},    {"..", id::kBadFolderName},

@@ -7,6 +7,7 @@
 #include "codetables/tables/temperature_figures.h"
 #include "elements/formulas/psychrometer.h"
 #include "elements/formulas/relative_humidity.h"
+#include "fakes/sample_ship.h"
 
 namespace {
 
@@ -185,17 +186,10 @@ TEST(DewPoint, WildInputsGiveASentinelOrANumber) {
   }
 }
 
-BarometerCard fixed_card(const char* correction) {
-  BarometerCard card;
-  card.type = CardType::kTotalCorrection;
-  card.total_correction = correction;
-  return card;
-}
-
 TEST(DewPointOfTexts, CountsAnEmptyReadingAsStandardPressure) {
-  const auto standard =
-      elements::dew_point_of_texts(" 10.0 ", "5.0", "", fixed_card("+0.0"), WetBulbState::kNotSet);
-  const auto read = elements::dew_point_of_texts("10.0", "5.0", "1012.2", fixed_card("+1.0"),
+  const auto standard = elements::dew_point_of_texts(" 10.0 ", "5.0", "", fakes::total_card("+0.0"),
+                                                     WetBulbState::kNotSet);
+  const auto read = elements::dew_point_of_texts("10.0", "5.0", "1012.2", fakes::total_card("+1.0"),
                                                  WetBulbState::kNotSet);
   ASSERT_TRUE(standard && read);
   EXPECT_EQ(standard->value, read->value);
@@ -204,7 +198,7 @@ TEST(DewPointOfTexts, CountsAnEmptyReadingAsStandardPressure) {
 
 TEST(DewPointOfTexts, GivesNothingWhereTheRecordIsToStay) {
   const auto of = [](const char* dry, const char* wet) {
-    return elements::dew_point_of_texts(dry, wet, "1013.2", fixed_card("+0.0"),
+    return elements::dew_point_of_texts(dry, wet, "1013.2", fakes::total_card("+0.0"),
                                         WetBulbState::kNotIced);
   };
   EXPECT_FALSE(of("", "5.0"));

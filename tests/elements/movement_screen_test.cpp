@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "elements/CDvDsDlg.h"
+#include "elements/dialog_checks.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
 
@@ -101,12 +102,7 @@ TEST_F(MovementScreen, CancelHandsBackWhatWasHandedIn) {
 TEST_F(MovementScreen, HelpOpensItsTopic) {
   CDvDsDlg dialog(world.services, {});
   dialog.open();
-  dialog.press(dialog.help);
-  world.japanese();
-  dialog.press(dialog.help);
-  EXPECT_EQ(world.help_viewer.shown,
-            (std::vector<std::string>{"C:\\program\\help\\Kavrel_E.CHM::/Capter11-3_E.htm",
-                                      "C:\\program\\help\\Kavrel_J.CHM::/Capter11-3_J.htm"}));
+  checks::help_opens(world, dialog, dialog.help, "11-3");
 }
 
 }  // namespace

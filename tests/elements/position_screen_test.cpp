@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "elements/CPositionDlg.h"
+#include "elements/dialog_checks.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
 
@@ -132,9 +133,9 @@ TEST_F(PositionScreen, OffersTheLastReportsSideOnlyWhereNobodyChose) {
         EXPECT_EQ(dialog.longitude_side.selected, longitude < 0 ? last_longitude : longitude);
         EXPECT_EQ(dialog.last_report_hint.visible, !none && (latitude < 0 || longitude < 0));
         if (none) continue;
-        const int hint = longitude >= 0  ? id::kLastLatitudeSideHint
-                         : latitude >= 0 ? id::kLastLongitudeSideHint
-                                         : id::kLastReportHint;
+        const text::Id hint = longitude >= 0  ? id::kLastLatitudeSideHint
+                              : latitude >= 0 ? id::kLastLongitudeSideHint
+                                              : id::kLastReportHint;
         if (latitude < 0 || longitude < 0) {
           EXPECT_EQ(dialog.caption(dialog.last_report_hint),
                     text::bilingual(hint, text::Language::kEnglish));
@@ -167,20 +168,20 @@ TEST_F(PositionScreen, AssumesNoHemisphereWithoutAReport) {
 
 struct PositionRefusal {
   Values in;
-  int message;
+  text::Id message;
   const char* focus;
 };
 
 TEST_F(PositionScreen, OkRefusesAMissingOrImpossiblePartAndAHemisphereNobodyChose) {
   const PositionRefusal rows[] = {
-      {{"", "56", "138", "05", "1"}, 35018, "latitude_degrees"},
-      {{"91", "56", "138", "05", "1"}, 35018, "latitude_degrees"},
-      {{"34", "", "138", "05", "1"}, 35019, "latitude_minutes"},
-      {{"34", "60", "138", "05", "1"}, 35019, "latitude_minutes"},
-      {{"34", "56", "", "05", "1"}, 35020, "longitude_degrees"},
-      {{"34", "56", "181", "05", "1"}, 35020, "longitude_degrees"},
-      {{"34", "56", "138", "", "1"}, 35021, "longitude_minutes"},
-      {{"34", "56", "138", "//", "1"}, 35021, "longitude_minutes"},
+      {{"", "56", "138", "05", "1"}, text::Id(35018), "latitude_degrees"},
+      {{"91", "56", "138", "05", "1"}, text::Id(35018), "latitude_degrees"},
+      {{"34", "", "138", "05", "1"}, text::Id(35019), "latitude_minutes"},
+      {{"34", "60", "138", "05", "1"}, text::Id(35019), "latitude_minutes"},
+      {{"34", "56", "", "05", "1"}, text::Id(35020), "longitude_degrees"},
+      {{"34", "56", "181", "05", "1"}, text::Id(35020), "longitude_degrees"},
+      {{"34", "56", "138", "", "1"}, text::Id(35021), "longitude_minutes"},
+      {{"34", "56", "138", "//", "1"}, text::Id(35021), "longitude_minutes"},
       {{"90", "01", "138", "05", "1"}, id::kBeyondThePole, "latitude_minutes"},
       {{"34", "56", "180", "01", "1"}, id::kBeyondTheDateLine, "longitude_minutes"},
       {{"34", "56", "138", "05", ""}, id::kNoLatitudeSide, "latitude_side"},
@@ -217,11 +218,15 @@ TEST_F(PositionScreen, OkAsksForTheSideOfTheMeridianToo) {
 }
 
 TEST_F(PositionScreen, LeavingATypedPartOutOfRangeRefusesIt) {
-  const std::pair<const char*, std::pair<const char*, int>> rows[] = {
-      {"latitude_degrees", {"91", 35018}},   {"latitude_degrees", {"-1", 35018}},
-      {"latitude_degrees", {"x", 35018}},    {"latitude_minutes", {"60", 35019}},
-      {"longitude_degrees", {"181", 35020}}, {"longitude_degrees", {"1 2", 35020}},
-      {"longitude_minutes", {"60", 35021}},  {"longitude_minutes", {"9.", 35021}},
+  const std::pair<const char*, std::pair<const char*, text::Id>> rows[] = {
+      {"latitude_degrees", {"91", text::Id(35018)}},
+      {"latitude_degrees", {"-1", text::Id(35018)}},
+      {"latitude_degrees", {"x", text::Id(35018)}},
+      {"latitude_minutes", {"60", text::Id(35019)}},
+      {"longitude_degrees", {"181", text::Id(35020)}},
+      {"longitude_degrees", {"1 2", text::Id(35020)}},
+      {"longitude_minutes", {"60", text::Id(35021)}},
+      {"longitude_minutes", {"9.", text::Id(35021)}},
   };
   for (const text::Language language : {text::Language::kEnglish, text::Language::kJapanese}) {
     world.texts.language = language;
@@ -240,18 +245,20 @@ TEST_F(PositionScreen, LeavingATypedPartOutOfRangeRefusesIt) {
 }
 
 TEST_F(PositionScreen, RangeMessagesAreAsGiven) {
-  const std::pair<int, const char*> rows[] = {
-      {35018, "Error: Input data is out of range.\nIt must be \"00<=Latitude(deg)<=90\""},
-      {35019, "Error: Input data is out of range.\nIt must be \"00<=Latitude(min)<=59\""},
-      {35020, "Error: Input data is out of range.\nIt must be \"000<=Longitude(deg)<=180\""},
+  const std::pair<text::Id, const char*> rows[] = {
+      {text::Id{35018}, "Error: Input data is out of range.\nIt must be \"00<=Latitude(deg)<=90\""},
+      {text::Id{35019}, "Error: Input data is out of range.\nIt must be \"00<=Latitude(min)<=59\""},
+      {text::Id{35020},
+       "Error: Input data is out of range.\nIt must be \"000<=Longitude(deg)<=180\""},
       // It says latitude, and has always said so.
-      {35021, "Error: Input data is out of range.\nIt must be \"00<=Latitude(min)<=59\""},
-      {37011, "Waning: Ship's position is on land or coastal region.\nIs it correct "}};
+      {text::Id{35021}, "Error: Input data is out of range.\nIt must be \"00<=Latitude(min)<=59\""},
+      {text::Id{37011}, "Waning: Ship's position is on land or coastal region.\nIs it correct "}};
   for (const auto& [message, english] : rows) {
     EXPECT_EQ(text::bilingual(message, text::Language::kEnglish), english);
     EXPECT_NE(text::bilingual(message, text::Language::kJapanese), english);
   }
-  EXPECT_NE(text::bilingual(35021, text::Language::kJapanese).find("経度"), std::string::npos);
+  EXPECT_NE(text::bilingual(text::Id{35021}, text::Language::kJapanese).find("経度"),
+            std::string::npos);
 }
 
 TEST_F(PositionScreen, PositionOnLandIsKeptOnYesOnly) {
@@ -268,7 +275,7 @@ TEST_F(PositionScreen, PositionOnLandIsKeptOnYesOnly) {
       fakes::enter(dialog, dialog.longitude_minutes, "00");
       dialog.move_focus(dialog.ok);
       const std::string state = fakes::dump(dialog);
-      world.windows.expect(37011, answer);
+      world.windows.expect(text::Id{37011}, answer);
       dialog.press(dialog.ok);
       if (answer == "yes") {
         EXPECT_EQ(dialog.result(), text::kOk);
@@ -312,12 +319,7 @@ TEST_F(PositionScreen, CancelHandsBackWhatWasHandedIn) {
 TEST_F(PositionScreen, HelpOpensItsTopic) {
   CPositionDlg dialog(world.services, {}, "", {});
   dialog.open();
-  dialog.press(dialog.help);
-  world.japanese();
-  dialog.press(dialog.help);
-  EXPECT_EQ(world.help_viewer.shown,
-            (std::vector<std::string>{"C:\\program\\help\\Kavrel_E.CHM::/Capter11-2_E.htm",
-                                      "C:\\program\\help\\Kavrel_J.CHM::/Capter11-2_J.htm"}));
+  checks::help_opens(world, dialog, dialog.help, "11-2");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "elements/CPresureTendencyDlg.h"
 #include "elements/CSeaSurfacePressureDlg.h"
 #include "elements/dialog_checks.h"
+#include "fakes/sample_ship.h"
 #include "text/ids.h"
 
 namespace {
@@ -10,18 +11,7 @@ namespace {
 namespace id = text::id;
 using TimeChoice = CSeaSurfacePressureDlg::TimeChoice;
 
-BarometerCard height_card() {
-  BarometerCard card;
-  card.check_date = "2014/06/01";
-  card.check_port = "BRENMOOR";
-  card.type = CardType::kHeightAndTemperature;
-  card.loading_state = LoadingState::kFullLoad;
-  card.height_full_load = "20";
-  card.total_correction_full_load = "+2.4";
-  card.height_ballast = "30";
-  card.total_correction_ballast = "+3.6";
-  return card;
-}
+using fakes::height_card;
 
 // A pressure screen with its world; `stored` is what it saved.
 struct Pressure {
@@ -64,8 +54,8 @@ TEST(PressureScreen, OpensOnTheLastReadingWithItsReduction) {
   EXPECT_EQ(p.screen.total_correction.content, "+ 2.4");
   EXPECT_EQ(p.screen.sea_level_pressure.content, "1015.6");
   EXPECT_EQ(p.screen.air_temperature.content, "15.0");
-  EXPECT_EQ(p.screen.check_date.content, "2014/06/01");
-  EXPECT_EQ(p.screen.check_place.content, "BRENMOOR");
+  EXPECT_EQ(p.screen.check_date.content, "2014/10/01");
+  EXPECT_EQ(p.screen.check_place.content, "YOKOHAMA");
   EXPECT_EQ(p.screen.focused(), &p.screen.reading_whole);
   Pressure low(with("998.7"));
   EXPECT_EQ(low.screen.reading_whole.content, "998");
@@ -245,8 +235,8 @@ TEST(PressureScreen, RenewsTheCardFromInside) {
 
   p.renewed = height_card();
   p.screen.press(p.screen.renew);
-  EXPECT_EQ(p.screen.check_date.content, "2014/06/01");
-  EXPECT_EQ(p.screen.check_place.content, "BRENMOOR");
+  EXPECT_EQ(p.screen.check_date.content, "2014/10/01");
+  EXPECT_EQ(p.screen.check_place.content, "YOKOHAMA");
   EXPECT_EQ(p.screen.sea_level_pressure.content, "1015.6");
   EXPECT_TRUE(p.stored.empty());
   p.press_ok();
@@ -429,8 +419,8 @@ TEST(TendencyScreen, EveryCharacteristicWithEveryAmount) {
   struct Amount {
     const char* typed;
     const char* stored;
-    int question;  // asked once, answered Yes
-    int refusal;
+    text::Id question;  // asked once, answered Yes
+    text::Id refusal;
   };
   const Amount amounts[] = {{"", "", 0, 0},
                             {"0", "000", 0, 0},
@@ -459,12 +449,12 @@ TEST(TendencyScreen, EveryCharacteristicWithEveryAmount) {
               t.world, t.screen, [&] { t.press_ok(); }, amount.refusal, t.screen.amount);
           continue;
         }
-        if (amount.question != 0) {
+        if (amount.question) {
           checks::refused(
               t.world, t.screen, [&] { t.press_ok(); }, amount.question, t.screen.amount, "no");
         }
         const auto leave = [&] { EXPECT_TRUE(t.screen.move_focus(t.screen.ok)); };
-        if (amount.question != 0) {
+        if (amount.question) {
           checks::asked_and_kept(t.world, leave, amount.question);
         } else {
           leave();

@@ -2,6 +2,7 @@
 
 #include "codetables/tables/sea_temperature_figures.h"
 #include "elements/CSea_SurfaceTemperatureDlg.h"
+#include "elements/dialog_checks.h"
 #include "fakes/fake_ports.h"
 #include "text/ids.h"
 
@@ -82,7 +83,7 @@ TEST_F(SeaScreen, HasItsTextsInBothLanguages) {
                                                            "Hull contact sensor", "Other"}));
   world.japanese();
   EXPECT_EQ(dialog.title(), "海面水温");
-  EXPECT_EQ(text::bilingual(35017, text::Language::kEnglish),
+  EXPECT_EQ(text::bilingual(text::Id{35017}, text::Language::kEnglish),
             "Error: Input data is out of range.\nIt must be \"-2<=Sea surface temp(degC)<=37.0\"");
 }
 
@@ -136,13 +137,13 @@ TEST_F(SeaScreen, RefusesOutOfRangeAndNoNumberAndKeepsEverything) {
       dialog.open();
       fakes::enter(dialog, dialog.temperature, bad);
       const std::string before = fakes::dump(dialog);
-      world.windows.expect(35017);
+      world.windows.expect(text::Id{35017});
       dialog.press(dialog.ok);
       EXPECT_FALSE(dialog.result()) << bad;
       EXPECT_EQ(fakes::dump(dialog), before) << bad;
       EXPECT_EQ(dialog.values(), in) << bad;
       EXPECT_EQ(dialog.focused(), &dialog.temperature);
-      EXPECT_EQ(world.windows.boxes.back().text, text::bilingual(35017, language));
+      EXPECT_EQ(world.windows.boxes.back().text, text::bilingual(text::Id{35017}, language));
       dialog.press(dialog.cancel);
       EXPECT_EQ(dialog.values(), in);
     }
@@ -154,7 +155,7 @@ TEST_F(SeaScreen, StoredValueOutOfRangeIsRefusedOnOkOnly) {
   dialog.open();
   EXPECT_TRUE(dialog.move_focus(dialog.method));
   const std::string before = fakes::dump(dialog);
-  world.windows.expect(35017);
+  world.windows.expect(text::Id{35017});
   dialog.press(dialog.ok);
   EXPECT_FALSE(dialog.result());
   EXPECT_EQ(fakes::dump(dialog), before);
@@ -174,12 +175,7 @@ TEST_F(SeaScreen, EmptyTemperatureClearsBothFields) {
 TEST_F(SeaScreen, HelpOpensItsTopic) {
   CSea_SurfaceTemperatureDlg dialog(world.services, {}, Method::kIntake);
   dialog.open();
-  dialog.press(dialog.help);
-  world.japanese();
-  dialog.press(dialog.help);
-  EXPECT_EQ(world.help_viewer.shown,
-            (std::vector<std::string>{"C:\\program\\help\\Kavrel_E.CHM::/Capter11-8_E.htm",
-                                      "C:\\program\\help\\Kavrel_J.CHM::/Capter11-8_J.htm"}));
+  checks::help_opens(world, dialog, dialog.help, "11-8");
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ struct Pair {
   const char* class_name;
   const char* whole;
   const char* tenths;
-  int wrong_whole;  ///< message for what is no whole number
+  text::Id wrong_whole;  ///< message for what is no whole number
 };
 constexpr Pair kPairs[] = {
     {"CSeaSurfacePressureDlg", "reading_whole", "reading_tenths", id::kBarometerReadingRange},

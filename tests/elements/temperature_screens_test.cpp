@@ -5,6 +5,7 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/dialog_checks.h"
 #include "elements/formulas/relative_humidity.h"
+#include "fakes/sample_ship.h"
 #include "text/ids.h"
 
 namespace {
@@ -17,25 +18,27 @@ constexpr int kNotIcedLine = 0;
 constexpr int kIcedLine = 1;
 constexpr int kUnknownLine = 2;
 
-BarometerCard fixed_card() {
-  BarometerCard card;
-  card.type = CardType::kTotalCorrection;
-  return card;
-}
-
-struct Psychrometer {
-  Psychrometer(const char* dry, const char* wet, WetBulbState state = WetBulbState::kNotSet,
-               text::Language language = text::Language::kEnglish)
-      : screen(world.services, {dry, wet, state, "1013.2", fixed_card()}) {
+/// A screen with its world, opened in a language.
+template <class Screen>
+struct Shown {
+  template <class... Values>
+  explicit Shown(text::Language language, const Values&... values)
+      : screen(world.services, values...) {
     world.texts.language = language;
     screen.open();
   }
   fakes::World world;
-  CCountDewDlg screen;
+  Screen screen;
   void press_ok() { screen.press(screen.ok); }
   void type(ui::Control& field, const char* text) {
     EXPECT_TRUE(fakes::enter(screen, field, text));
   }
+};
+
+struct Psychrometer : Shown<CCountDewDlg> {
+  Psychrometer(const char* dry, const char* wet, WetBulbState state = WetBulbState::kNotSet,
+               text::Language language = text::Language::kEnglish)
+      : Shown(language, CCountDewDlg::Values{dry, wet, state, "1013.2", fakes::total_card()}) {}
   [[nodiscard]] std::string result() const {
     return screen.values().dry + "|" + screen.values().wet + "|" +
            std::to_string(static_cast<int>(screen.values().state));
@@ -164,17 +167,17 @@ TEST(PsychrometerScreen, RefusesWhatIsNoTemperature) {
 // Unusual temperatures of all four entries: No keeps the focus, Yes the value, and it is asked
 // once.
 template <class World, class Entry>
-void expect_questions(World& p, ui::Screen& screen, Entry& entry, const ui::Control& ok, int high,
-                      int low) {
+void expect_questions(World& p, ui::Screen& screen, Entry& entry, const ui::Control& ok,
+                      text::Id high, text::Id low) {
   struct Row {
     const char* whole;
-    int question;
+    text::Id question;
   };
   for (const Row& row : {Row{"41", high}, Row{"40", 0}, Row{"-26", low}, Row{"-25", 0}}) {
     SCOPED_TRACE(row.whole);
     p.type(entry.whole, row.whole);
     ui::Control& next = entry.tenths;
-    if (row.question == 0) {
+    if (!row.question) {
       EXPECT_TRUE(screen.move_focus(next));
       continue;
     }
@@ -247,18 +250,9 @@ TEST(FreezeButton, TakesTurnsBelowATenthOfADegree) {
 
 // --- air temperature and dew point
 
-struct AirAndDew {
+struct AirAndDew : Shown<CTemperatureAndDewDlg> {
   AirAndDew(const char* air, const char* dew, text::Language language = text::Language::kEnglish)
-      : screen(world.services, {air, dew}) {
-    world.texts.language = language;
-    screen.open();
-  }
-  fakes::World world;
-  CTemperatureAndDewDlg screen;
-  void press_ok() { screen.press(screen.ok); }
-  void type(ui::Control& field, const char* text) {
-    EXPECT_TRUE(fakes::enter(screen, field, text));
-  }
+      : Shown(language, CTemperatureAndDewDlg::Values{air, dew}) {}
   [[nodiscard]] std::string result() const {
     return screen.values().air + "|" + screen.values().dew;
   }
@@ -320,15 +314,9 @@ TEST(AirAndDewScreen, HasTextsAndHelp) {
 
 // --- relative humidity
 
-struct Humidity {
+struct Humidity : Shown<CThumidityDlg> {
   Humidity(const char* humidity, double unit, text::Language language = text::Language::kEnglish)
-      : screen(world.services, humidity, unit) {
-    world.texts.language = language;
-    screen.open();
-  }
-  fakes::World world;
-  CThumidityDlg screen;
-  void press_ok() { screen.press(screen.ok); }
+      : Shown(language, humidity, unit) {}
 };
 
 TEST(HumidityScreen, ShowsWholePercentWithTwoFigures) {
@@ -407,7 +395,7 @@ TEST(TemperatureMessages, ReadAsTheyAlwaysDid) {
                      "Error: Input data is out of range.\nIt must be \"0<=Relative "
                      "Humidity(%)<=100\"");
   struct Row {
-    int question;
+    text::Id question;
     const char* range;
   };
   for (const Row& row : {Row{id::kAirTemperatureHighQuestion, "Air temp<=40"},

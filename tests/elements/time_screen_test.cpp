@@ -138,7 +138,7 @@ TEST_F(TimeScreen, MainAndIntermediateHoursAreTakenAndAnEmptyOneToo) {
 
 struct RefusalRow {
   Values in;
-  int message;
+  text::Id message;
   const char* focus;
 };
 
@@ -180,7 +180,7 @@ TEST_F(TimeScreen, OkRefusesADateThatIsNotCompleteOrDoesNotExist) {
       EXPECT_EQ(world.windows.boxes.back().text, text::bilingual(row.message, language));
     }
   }
-  EXPECT_EQ(text::bilingual(35005, text::Language::kEnglish), "Invalid day");
+  EXPECT_EQ(text::bilingual(text::Id{35005}, text::Language::kEnglish), "Invalid day");
 }
 
 TEST_F(TimeScreen, OkRefusesAnEmptyYearMonthOrDay) {
@@ -200,7 +200,7 @@ TEST_F(TimeScreen, OkRefusesAnEmptyYearMonthOrDay) {
 struct LeaveRow {
   const char* field;
   const char* typed;
-  int message;
+  text::Id message;
 };
 
 TEST_F(TimeScreen, LeavingATypedPartThatCannotBeRefusesItWithItsOwnMessage) {
@@ -232,8 +232,8 @@ TEST_F(TimeScreen, LeavingATypedPartThatCannotBeRefusesItWithItsOwnMessage) {
       EXPECT_EQ(dialog.result(), text::kCancel);
     }
   }
-  EXPECT_EQ(text::bilingual(35003, text::Language::kEnglish), "Invalid month");
-  EXPECT_EQ(text::bilingual(35004, text::Language::kEnglish), "Invalid year");
+  EXPECT_EQ(text::bilingual(text::Id{35003}, text::Language::kEnglish), "Invalid month");
+  EXPECT_EQ(text::bilingual(text::Id{35004}, text::Language::kEnglish), "Invalid year");
 }
 
 TEST_F(TimeScreen, TakesTheYearsOfObservationsUpToTheNextOfTheClock) {

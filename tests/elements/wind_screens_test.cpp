@@ -77,7 +77,7 @@ TEST(ApparentWindScreen, FieldsAcceptTheirRangesAndRefuseWhatLiesOutside) {
   struct Row {
     ui::Edit CLookWindDlg::*field;
     const char* typed;
-    int message;  // 0: accepted
+    text::Id message;  // 0: accepted
   };
   const Row rows[] = {
       {&CLookWindDlg::heading, "1", 0},
@@ -116,7 +116,7 @@ TEST(ApparentWindScreen, FieldsAcceptTheirRangesAndRefuseWhatLiesOutside) {
       ui::Edit& field = a.screen.*row.field;
       SCOPED_TRACE(field.name + " " + row.typed);
       a.type(field, row.typed);
-      if (row.message == 0) {
+      if (!row.message) {
         a.press_ok();
         EXPECT_EQ(a.screen.result(), text::kOk);
       } else {
@@ -131,7 +131,7 @@ TEST(ApparentWindScreen, FieldsAcceptTheirRangesAndRefuseWhatLiesOutside) {
 TEST(ApparentWindScreen, OkChecksValuesItOpenedWith) {
   struct Row {
     ApparentWindTexts values;
-    int message;
+    text::Id message;
     const char* focus;
   };
   for (const Row& row :
@@ -196,7 +196,7 @@ TEST(TrueWindScreen, ChecksDirectionAgainstSpeedOnOk) {
   struct Row {
     const char* direction;
     const char* speed;
-    int message;
+    text::Id message;
     const char* result;
   };
   const Row rows[] = {
@@ -223,7 +223,7 @@ TEST(TrueWindScreen, ChecksDirectionAgainstSpeedOnOk) {
       True t("27", "8", language);
       ASSERT_TRUE(fakes::enter(t.screen, t.screen.direction_field, row.direction));
       ASSERT_TRUE(fakes::enter(t.screen, t.screen.speed_field, row.speed));
-      if (row.message == 0) {
+      if (!row.message) {
         t.press_ok();
         EXPECT_EQ(t.screen.result(), text::kOk);
         EXPECT_EQ(t.result(), row.result);
@@ -268,7 +268,7 @@ TEST(TrueWindScreen, RefusesWildTexts) {
   struct Row {
     ui::Edit CTrueDirWindDlg::*field;
     const char* typed;
-    int message;
+    text::Id message;
   };
   for (const text::Language language : checks::kBothLanguages) {
     for (const Row& row : {Row{&CTrueDirWindDlg::direction_field, "37", id::kInputError},

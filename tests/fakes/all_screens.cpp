@@ -16,6 +16,7 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
+#include "fakes/sample_ship.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "media/CLogDiskSavePathDlg.h"
 #include "ship/CFixDataDlg.h"
@@ -29,19 +30,10 @@ namespace {
 
 using Made = std::unique_ptr<ui::Screen>;
 
-ShipFixedData sample_ship() {
-  ShipFixedData ship;
-  ship.call_sign = "JABC";
-  ship.imo_number = "9074729";
-  ship.card.check_date = "2014/10/01";
-  ship.card.check_port = "YOKOHAMA";
-  ship.card.type = CardType::kHeightAndTemperature;
-  ship.card.loading_state = LoadingState::kFullLoad;
+// A ship with a text in every field of its fixed data.
+ShipFixedData full_ship() {
+  ShipFixedData ship = sample_ship();
   ship.card.instrumental_correction = "+0.3";
-  ship.card.height_full_load = "18";
-  ship.card.total_correction_full_load = "+2.5";
-  ship.card.height_ballast = "24";
-  ship.card.total_correction_ballast = "+3.2";
   ship.vosclim = true;
   ship.aws_fitted = true;
   ship.aws_manufacturer = "SAMPLE MAKER CO., LTD.";
@@ -50,7 +42,7 @@ ShipFixedData sample_ship() {
 
 // What the application owns, for as long as the main window is there.
 struct Owned {
-  ShipFixedData ship = sample_ship();
+  ShipFixedData ship = full_ship();
   KeyObservationItems items;
   mainwindow::Folders folders{
       "C:\\kavrel\\data\\tlx\\", "C:\\kavrel\\data\\log\\", {}, {}, {}, "C:\\none", "C:\\none"};
@@ -118,7 +110,7 @@ std::vector<ScreenCase> make_table() {
          CSeaSurfacePressureDlg::Values values;
          values.reading = "1013.2";
          values.air_temperature = "18.3";
-         values.card = sample_ship().card;
+         values.card = full_ship().card;
          return std::make_unique<CSeaSurfacePressureDlg>(services, values,
                                                          CSeaSurfacePressureDlg::CardActions{});
        }},
@@ -161,13 +153,13 @@ std::vector<ScreenCase> make_table() {
       {"CFixDataDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CFixDataDlg>(services, "C:\\none", false, "C:\\kavrel\\data\\tlx",
-                                              "C:\\kavrel\\data\\log", sample_ship());
+                                              "C:\\kavrel\\data\\log", full_ship());
        }},
       {"CFullEmptySelect",
        [](ui::Services& services) -> Made { return std::make_unique<CFullEmptySelect>(services); }},
       {"CKataInputDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CKataInputDlg>(services, sample_ship().card);
+         return std::make_unique<CKataInputDlg>(services, full_ship().card);
        }},
       {"CKataSelectDlg",
        [](ui::Services& services) -> Made {

@@ -15,7 +15,7 @@ FakeWindows::~FakeWindows() {
   verify();
 }
 
-void FakeWindows::expect(int text_id, std::string answer) {
+void FakeWindows::expect(text::Id text_id, std::string answer) {
   expected_.push_back({text_id, {}, std::move(answer), {}, {}});
 }
 

@@ -15,6 +15,13 @@
 #include "ui/screen.h"
 #include "ui/services.h"
 
+namespace text {
+/// Ids in the words of a failed test.
+inline std::ostream& operator<<(std::ostream& out, Id id) {
+  return out << id.number;
+}
+}  // namespace text
+
 namespace fakes {
 
 class FakeClock : public platform::Clock {
@@ -79,7 +86,7 @@ class FakeWindows : public platform::Windows {
 
   /// Next, a message or question of this id comes and is answered with the button of this name
   /// ("ok", "yes", "no", "cancel", or "close" for the close box).
-  void expect(int text_id, std::string answer = "ok");
+  void expect(text::Id text_id, std::string answer = "ok");
   /// The same for a text that is not in the table.
   void expect_text(std::string text, std::string answer = "ok");
   /// Next, a screen of this class opens; `act` is the officer and must close it.
@@ -108,7 +115,7 @@ class FakeWindows : public platform::Windows {
 
  private:
   struct Expected {
-    int text_id = 0;
+    text::Id text_id;
     std::string text;
     std::string answer;
     std::string screen;

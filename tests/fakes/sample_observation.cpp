@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "fakes/fake_ports.h"
+#include "fakes/sample_ship.h"
 
 namespace fakes {
 namespace {
@@ -60,16 +61,9 @@ std::span<const Entry> sample_entries() {
 }
 
 SampleShip::SampleShip() {
-  ship_.call_sign = "JXKV";
-  ship_.imo_number = "9074729";
-  ship_.wind_speed_method = WindSpeedMethod::kAnemometer;
-  ship_.dew_point_method = DewPointMethod::kComputed;
-  ship_.humidity_method = HumidityMethod::kComputed;
-  ship_.humidity_unit = 1.0;
-  ship_.card.check_date = "2014/10/01";
-  ship_.card.check_port = "YOKOHAMA";
-  ship_.card.type = CardType::kTotalCorrection;
+  ship_ = psychrometer_ship();
   ship_.card.total_correction = "+2.4";
+  ship_.wind_speed_method = WindSpeedMethod::kAnemometer;
   items_.set_observed(ObservationItem::IsEsEsRs, false);
   items_.set_observed(ObservationItem::ciSibiDizi, false);
 }

@@ -204,7 +204,8 @@ TEST(MainWindowLanguage, EveryLabelHasATextInBothLanguages) {
     EXPECT_FALSE(text::resolve(mainwindow::label_ref(row.label), text::Language::kJapanese).empty())
         << row.name;
   }
-  for (int label = 11000; label <= 11073; ++label) {
+  for (int number = 11000; number <= 11073; ++number) {
+    const text::Id label{number};
     EXPECT_TRUE(text::has_entry(label)) << label;
     EXPECT_TRUE(text::has_entry(label + mainwindow::kLabelsToEnglish)) << label;
   }

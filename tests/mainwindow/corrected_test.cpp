@@ -33,7 +33,7 @@ struct Corrected {
   const char* field;
   const char* entered;  // first, accepted
   const char* refused;
-  int message;
+  text::Id message;
   const char* dialog;
   Act act;
   const char* shown;  // when the dialog was confirmed
@@ -189,7 +189,7 @@ TEST(PressureTypedByHand, SurvivesARefusedReadingThatTheDialogTakesBack) {
 
 struct Silent {
   const char* field;
-  int why;
+  text::Id why;
   std::function<void(ShipFixedData&, KeyObservationItems&)> set;
 };
 

@@ -48,6 +48,12 @@ struct Copy {
     ASSERT_TRUE(fakes::enter(window, *window.find(name), text)) << name;
     window.key(ui::Key::kTab);
   }
+  /// What a save asks for before all else.
+  void type_hour() {
+    for (const auto& [name, text] :
+         {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
+      type(name, text);
+  }
   [[nodiscard]] std::string state() {
     std::string result = fakes::dump(window) + window.title() + "\n" + window.report() + "\n";
     for (const auto& [name, value] : window.record_fields()) result += name + "=" + value + "\n";
@@ -95,9 +101,7 @@ TEST(KeptEntries, AreWrittenWhileAMessageOrADialogIsOpenOverTheWindow) {
   Computer computer;
   Copy copy(computer);
   copy.start();
-  for (const auto& [name, text] :
-       {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
-    copy.type(name, text);
+  copy.type_hour();
   ASSERT_TRUE(fakes::enter(copy.window, *copy.window.find("VV"), "97"));
   copy.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& list) {
     copy.window.idle();
@@ -124,13 +128,8 @@ TEST(KeptEntries, OfTheNextStartAreOfferedAndTakenOver) {
   {
     Copy copy(computer);
     copy.start();
-    for (const auto& [name, text] : {std::pair{"Year", "2014"},
-                                     {"Month", "11"},
-                                     {"YY", "15"},
-                                     {"GG", "12"},
-                                     {"reading", "1010.8"},
-                                     {"N", "5"},
-                                     {"VV", "97"}})
+    copy.type_hour();
+    for (const auto& [name, text] : {std::pair{"reading", "1010.8"}, {"N", "5"}, {"VV", "97"}})
       copy.type(name, text);
     copy.window.choose(*copy.window.find("north_south"), 1);
     copy.window.idle();
@@ -234,9 +233,7 @@ TEST(KeptEntries, GoWhenTheObservationIsSavedOrGivenUp) {
   Computer computer;
   Copy copy(computer);
   copy.start();
-  for (const auto& [name, text] :
-       {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
-    copy.type(name, text);
+  copy.type_hour();
   copy.window.idle();
   copy.world.windows.expect(id::kAskSaveOnExit, "yes");
   copy.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& list) {
@@ -329,7 +326,7 @@ TEST(KeptEntries, AreComputedAnewForAShipThatWasChangedSince) {
 TEST(KeptEntries, ThatCannotBeUsedAreNamedAndPutAside) {
   struct Case {
     const char* what;
-    int message;
+    text::Id message;
     std::function<void(Computer&)> harm;
   };
   const Case cases[] = {
@@ -344,8 +341,8 @@ TEST(KeptEntries, ThatCannotBeUsedAreNamedAndPutAside) {
        [](Computer& c) { c.files.add_file(kDraft, std::string(1U << 20U, '\n')); }},
       {"later version", id::kDraftLaterVersion,
        [](Computer& c) { c.files.add_file(kDraft, "draft=2\ncheck=5AE5125F\n"); }},
-      {"of another ship (ABCD)", id::kDraftOtherShip,
-       [](Computer& c) { c.ship.call_sign = "JXKV"; }},
+      {"of another ship (JXKV)", id::kDraftOtherShip,
+       [](Computer& c) { c.ship.call_sign = "JABC"; }},
   };
   for (const Case& c : cases) {
     for (const bool japanese : {false, true}) {
@@ -500,9 +497,7 @@ TEST(KeptEntries, OfASaveThatTheStartHasFinishedAreNotOfferedAgain) {
   {
     Copy killed(computer);
     killed.start();
-    for (const auto& [name, text] :
-         {std::pair{"Year", "2014"}, {"Month", "11"}, {"YY", "15"}, {"GG", "12"}})
-      killed.type(name, text);
+    killed.type_hour();
     killed.window.idle();
   }
   computer.folders.finished_report = "14111512.tlx";
@@ -524,7 +519,7 @@ TEST(KeptEntries, BearTheCallSignOfTheShip) {
   Copy next(computer);
   next.world.windows.expect(id::kDraftFound, "yes");
   next.start();
-  EXPECT_TRUE(next.window.report().starts_with("BBXX ABCD ")) << next.window.report();
+  EXPECT_TRUE(next.window.report().starts_with("BBXX JXKV ")) << next.window.report();
 }
 
 }  // namespace

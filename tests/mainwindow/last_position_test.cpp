@@ -11,7 +11,7 @@ namespace {
 constexpr const char* kFolder = "C:\\out\\";
 
 std::string report(const char* position) {
-  return std::string("BBXX ABCD 15124 ") + position + " 41498 52710 .....";
+  return std::string("BBXX JXKV 15124 ") + position + " 41498 52710 .....";
 }
 
 TEST(LastPosition, IsThatOfTheNewestReportByItsName) {

@@ -91,8 +91,8 @@ TEST(LoadingStateChoice, ChangesThePressureThatIsShown) {
   ASSERT_EQ("1015.6", opened->shown("PPPP"));
   opened->world.windows.expect(id::kAskLoadingState, "yes");
   opened->choose("loading_state", 1);
-  EXPECT_EQ("1016.2", opened->shown("PPPP"));
-  EXPECT_EQ("40162", opened->shown("group_4PPPP"));
+  EXPECT_EQ("1016.8", opened->shown("PPPP"));
+  EXPECT_EQ("40168", opened->shown("group_4PPPP"));
   EXPECT_EQ("2", opened->shown("a"));
 }
 

@@ -118,18 +118,18 @@ TEST(MainMenu, SavesWithControlSAndHasNoOtherKeys) {
     const auto collect = [&keys](const auto& self, const std::vector<ui::MenuItem>& items) -> void {
       for (const ui::MenuItem& item : items) {
         if (!item.shortcut.empty())
-          keys.push_back(std::to_string(item.text.id) + " " + std::string(item.shortcut));
+          keys.push_back(std::to_string(item.text.id.number) + " " + std::string(item.shortcut));
         self(self, item.children);
       }
     };
     collect(collect, mainwindow::build_menu(menu, true, [](const mainwindow::MenuRow&) {}));
-    EXPECT_EQ(std::vector{std::to_string(text::id::kMenuSave) + " Ctrl+S"}, keys);
+    EXPECT_EQ(std::vector{std::to_string(text::id::kMenuSave.number) + " Ctrl+S"}, keys);
   }
 }
 
 TEST(MainMenu, RunsEveryCommandWithItsOwnRow) {
-  std::vector<int> run;
-  std::vector<int> expected;
+  std::vector<text::Id> run;
+  std::vector<text::Id> expected;
   const auto press = [](const auto& self, const std::vector<ui::MenuItem>& items) -> void {
     for (const ui::MenuItem& item : items) {
       if (item.on_command) item.on_command();

@@ -93,7 +93,7 @@ TEST(Keyboard, EntersACompleteObservation) {
     opened->window.key(ui::Key::kTab);
   }
   EXPECT_EQ(
-      "BBXX ABCD 15123 99353 11400 41597 51812 10200 20100 40156 52012 70211 83521 22223 00185 "
+      "BBXX JXKV 15123 99353 11400 41597 51812 10200 20100 40156 52012 70211 83521 22223 00185 "
       "20503 320// 40804 .....",
       opened->window.report());
   for (const mainwindow::ReportGroupRow& row : mainwindow::report_group_rows())

@@ -435,7 +435,7 @@ TEST(Methods, DisableWhatTheShipDoesNotUseAndShowItEmpty) {
 
 TEST(PositionDialog, OpensOnTheHemispheresOfTheLastReport) {
   const auto opened = std::make_unique<Opened>();
-  opened->files.add_file("C:\\out\\14111512.tlx", "BBXX ABCD 15124 99353 31400 41498 .....");
+  opened->files.add_file("C:\\out\\14111512.tlx", "BBXX JXKV 15124 99353 31400 41498 .....");
   ShipFixedData ship = main_window::sample_ship();
   KeyObservationItems items;
   CVelmaranDlg window(opened->world.services, {ship, items, opened->folders, {}, {}, {}});

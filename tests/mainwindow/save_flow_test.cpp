@@ -69,6 +69,13 @@ struct Save {
   SaveEnd save() {
     return save_observation(world.services, {record, ship, items, folders, remarks});
   }
+  /// The same with drives of the test's own.
+  SaveEnd save_on(platform::Drives& drives) {
+    ui::Services services{world.clock,     world.locale,  drives,        files,
+                          world.code_page, world.printer, world.windows, world.texts,
+                          world.messages,  world.help};
+    return save_observation(services, {record, ship, items, folders, remarks});
+  }
   [[nodiscard]] std::string errors() const {
     return save_errors({record, ship, items, folders, remarks}, world.texts);
   }
@@ -149,7 +156,7 @@ TEST(SaveFlow, AControlCharacterIsToldWithItsFieldAndNothingIsWritten) {
 
 TEST(SaveFlow, GivenTextsAreToTheLetter) {
   struct Row {
-    int message;
+    text::Id message;
     const char *english, *japanese;  // nullptr: not given
   };
   const Row rows[] = {
@@ -347,7 +354,7 @@ TEST(SaveFlow, EveryFailedWriteLeavesBothFilesAndSaysSo) {
 }
 
 // The box shows the text of the id with these words in its places.
-void expect_words(const platform::MessageBox& box, int id, text::Language language,
+void expect_words(const platform::MessageBox& box, text::Id id, text::Language language,
                   std::initializer_list<std::string_view> words) {
   EXPECT_EQ(box.text_id, id);
   EXPECT_EQ(box.text, text::fill(text::bilingual(id, language), words));
@@ -441,7 +448,7 @@ TEST(SaveFlow, EveryEndOfAnInterruptedSaveIsToldInBothLanguages) {
   using observation::Recovered;
   const struct {
     Recovered outcome;
-    int id;
+    text::Id id;
     std::vector<std::string_view> words;
   } rows[] = {
       {Recovered::kFinished, id::kSaveFinished, {"14111512.tlx", "7"}},
@@ -513,14 +520,10 @@ TEST(SaveFlow, ADiskPutInIsWrittenTo) {
   InsertedDisk drives;
   drives.list = s.world.drives.list;
   drives.empty_looks = 2;
-  ui::Services services{s.world.clock,     s.world.locale,  drives,          s.files,
-                        s.world.code_page, s.world.printer, s.world.windows, s.world.texts,
-                        s.world.messages,  s.world.help};
   s.world.windows.expect(id::kInsertDisk, "ok");
   s.world.windows.expect(id::kInsertDiskAgain, "ok");
   s.world.windows.expect(id::kSaved);
-  EXPECT_EQ(save_observation(services, {s.record, s.ship, s.items, s.folders, {}}),
-            SaveEnd::kSaved);
+  EXPECT_EQ(s.save_on(drives), SaveEnd::kSaved);
   EXPECT_EQ(s.files.content("A:\\immt5.log"), s.line());
 }
 
@@ -587,19 +590,14 @@ TEST(SaveFlow, AReportOnADiskThatIsPutInLateIsAskedAbout) {
   InsertedDisk drives;
   drives.list = s.world.drives.list;
   drives.empty_looks = 1;
-  ui::Services services{s.world.clock,     s.world.locale,  drives,          s.files,
-                        s.world.code_page, s.world.printer, s.world.windows, s.world.texts,
-                        s.world.messages,  s.world.help};
   s.world.windows.expect(id::kInsertDisk, "cancel");
   s.world.windows.expect(id::kSaveCancelled);
-  EXPECT_EQ(save_observation(services, {s.record, s.ship, s.items, s.folders, {}}),
-            SaveEnd::kNotSaved);
+  EXPECT_EQ(s.save_on(drives), SaveEnd::kNotSaved);
   s.files.set_medium_missing('A', false);
   EXPECT_EQ(s.files.content("A:\\14111512.tlx"), "old");
   s.world.windows.expect(id::kAskReplaceReport, "yes");
   s.world.windows.expect(id::kSaved);
-  EXPECT_EQ(save_observation(services, {s.record, s.ship, s.items, s.folders, {}}),
-            SaveEnd::kSaved);
+  EXPECT_EQ(s.save_on(drives), SaveEnd::kSaved);
   EXPECT_EQ(s.files.content("A:\\14111512.tlx"), s.message());
 }
 

@@ -169,7 +169,7 @@ void enter_position(Opened& opened, const char* degrees, bool warns) {
 TEST(PositionReview, WarnsOfAMovementThatCannotBeAndKeepsTheEntry) {
   for (const bool warns : {true, false}) {
     const auto opened = std::make_unique<Opened>();
-    opened->files.add_file("C:\\out\\14111509.tlx", "BBXX ABCD 15094 99300 11400 41498 .....");
+    opened->files.add_file("C:\\out\\14111509.tlx", "BBXX JXKV 15094 99300 11400 41498 .....");
     enter_date(*opened);
     enter_position(*opened, warns ? "35" : "31", warns);
     EXPECT_EQ("1", opened->window.form().record().Qc);

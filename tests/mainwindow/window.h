@@ -8,6 +8,7 @@
 
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
+#include "fakes/sample_ship.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "text/ids.h"
 
@@ -17,21 +18,7 @@ inline constexpr const char* kReports = "C:\\out\\";
 inline constexpr const char* kFixedData = "C:\\kavrel\\file\\FIXDATA.DAT";
 inline constexpr const char* kKeyItems = "C:\\kavrel\\file\\MOKSDATA.DAT";
 
-/// A ship that can do everything: card type "1", at full load.
-[[nodiscard]] inline ShipFixedData sample_ship() {
-  ShipFixedData ship;
-  ship.call_sign = "ABCD";
-  ship.card.check_date = "2014/01/15";
-  ship.card.check_port = "YOKOHAMA";
-  ship.card.type = CardType::kHeightAndTemperature;
-  ship.card.loading_state = LoadingState::kFullLoad;
-  ship.card.height_full_load = "20";
-  ship.card.total_correction_full_load = "+2.4";
-  ship.card.height_ballast = "25";
-  ship.card.total_correction_ballast = "+3.0";
-  ship.imo_number = "1234567";
-  return ship;
-}
+using fakes::sample_ship;
 
 struct Opened {
   explicit Opened(ShipFixedData with = sample_ship(), KeyObservationItems observed = {},

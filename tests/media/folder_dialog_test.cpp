@@ -159,7 +159,7 @@ struct RefusalRow {
   Mode mode;
   CLogDiskSavePathDlg::Folders folders;
   const char* choose;
-  int message;
+  text::Id message;
 };
 
 TEST_F(FolderDialog, RefusesInBothLanguagesAndChangesNothing) {

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "fakes/sample_ship.h"
 #include "observation/Struct_Weather.h"
 
 namespace records {
@@ -24,9 +25,7 @@ inline void set(Struct_Weather& record, std::initializer_list<Setting> settings)
 
 /// A ship with an anemometer, everything observed.
 inline ShipFixedData ship() {
-  ShipFixedData ship;
-  ship.call_sign = "JXKV";
-  ship.imo_number = "9074729";
+  ShipFixedData ship = fakes::sample_ship();
   ship.wind_speed_method = WindSpeedMethod::kAnemometer;
   return ship;
 }

@@ -9,6 +9,7 @@
 #include "ship/CFullEmptySelect.h"
 #include "ship/CKataInputDlg.h"
 #include "ship/CKataSelectDlg.h"
+#include "ship/ship_data.h"
 #include "text/ids.h"
 
 namespace {
@@ -16,29 +17,9 @@ namespace {
 namespace id = text::id;
 using fakes::dump;
 using fakes::enter;
+using ship_test::card_one;
+using ship_test::press;
 using text::Language;
-
-BarometerCard card_one() {
-  return {"2014/08/09", "YOKOHAMA", CardType::kHeightAndTemperature,
-          "+0.0",       "-0.3",     LoadingState::kFullLoad,
-          "10",         "+1.0",     "20",
-          "+2.0"};
-}
-
-BarometerCard card_two() {
-  BarometerCard card;
-  card.check_date = "2014/08/09";
-  card.check_port = "YOKOHAMA";
-  card.type = CardType::kTotalCorrection;
-  card.total_correction = "+0.5";
-  return card;
-}
-
-void press(ui::Screen& screen, const std::string& name) {
-  ui::Control* const control = screen.find(name);
-  ASSERT_NE(control, nullptr) << name;
-  screen.press(*control);
-}
 
 // The officer in the card type screen.
 std::function<void(ui::Screen&)> selects_type(int line) {
@@ -184,7 +165,7 @@ TEST(CardScreen, LimitsThePortAndTheHeights) {
 struct LeaveRow {
   const char* field;
   const char* typed;
-  int message;
+  text::Id message;
   const char* argument;  // of the message
 };
 
@@ -248,13 +229,13 @@ TEST(CardScreen, RefusesAFieldWhenItIsLeft) {
   };
   for (const Language language : {Language::kEnglish, Language::kJapanese}) {
     for (const LeaveRow& row : one) expect_refused(row, language, card_one());
-    for (const LeaveRow& row : two) expect_refused(row, language, card_two());
+    for (const LeaveRow& row : two) expect_refused(row, language, fakes::total_card("+0.5"));
   }
 }
 
 TEST(CardScreen, NormalisesTheDateWhenItIsLeft) {
   fakes::World world;
-  CKataInputDlg screen(world.services, card_two());
+  CKataInputDlg screen(world.services, fakes::total_card("+0.5"));
   screen.open();
   ASSERT_TRUE(enter(screen, screen.barometer_check_date, "２０１４ ／ 8 / 9"));
   EXPECT_TRUE(screen.move_focus(screen.ok));
@@ -344,7 +325,7 @@ TEST(CardScreen, ComparesWithAPartnerThatWasTyped) {
 struct OkRow {
   const char* rule;
   std::function<void(BarometerCard&)> spoil;
-  int message;
+  text::Id message;
   const char* focus;
 };
 
@@ -441,7 +422,7 @@ TEST(CardScreen, ChecksACardOfType2AtOk) {
        "total_correction"},
   };
   for (const Language language : {Language::kEnglish, Language::kJapanese}) {
-    for (const OkRow& row : rows) expect_ok_refused(row, language, card_two());
+    for (const OkRow& row : rows) expect_ok_refused(row, language, fakes::total_card("+0.5"));
   }
 }
 
@@ -499,7 +480,7 @@ TEST(CardScreen, AsksForTheLoadingStateLast) {
 
 TEST(CardScreen, DoesNotAskForTheLoadingStateOfACardOfType2) {
   fakes::World world;
-  CKataInputDlg screen(world.services, card_two());
+  CKataInputDlg screen(world.services, fakes::total_card("+0.5"));
   screen.open();
   press(screen, "ok");
   EXPECT_EQ(screen.result(), text::kOk);
@@ -556,7 +537,7 @@ TEST(CardScreen, TakesAPortOfTwelveJapaneseCharacters) {
   for (const char* port :
        {"横浜神戸大阪東京名古屋函", "ヨコハマコウベオオサカミ", "ﾖｺﾊﾏ", "能代ダーソ", "PORT A"}) {
     fakes::World world;
-    CKataInputDlg screen(world.services, card_two());
+    CKataInputDlg screen(world.services, fakes::total_card("+0.5"));
     screen.open();
     ASSERT_TRUE(enter(screen, screen.barometer_check_port, port));
     EXPECT_EQ(screen.barometer_check_port.content, port) << "not cut";
@@ -568,7 +549,7 @@ TEST(CardScreen, TakesAPortOfTwelveJapaneseCharacters) {
 
 TEST(CardScreen, ShowsAPortAsTheFileWillKeepIt) {
   fakes::World world;
-  CKataInputDlg screen(world.services, card_two());
+  CKataInputDlg screen(world.services, fakes::total_card("+0.5"));
   screen.open();
   ASSERT_TRUE(enter(screen, screen.barometer_check_port, "横浜〜神戸　ＡＢ"));
   ASSERT_TRUE(screen.move_focus(screen.ok));
@@ -583,7 +564,7 @@ TEST(CardScreen, ShowsAPortAsTheFileWillKeepIt) {
 TEST(CardScreen, RefusesAtOkAPortThatTheFileCanNotKeep) {
   const struct {
     std::string port;
-    int message;
+    text::Id message;
     const char* argument;
   } rows[] = {
       {"横浜\uFFFD", id::kCheckPortCharacter, "\uFFFD"},
@@ -595,7 +576,7 @@ TEST(CardScreen, RefusesAtOkAPortThatTheFileCanNotKeep) {
     for (const auto& row : rows) {
       fakes::World world;
       world.texts.language = language;
-      BarometerCard card = card_two();
+      BarometerCard card = fakes::total_card("+0.5");
       card.check_port = row.port;
       CKataInputDlg screen(world.services, card);
       screen.open();
@@ -617,7 +598,7 @@ TEST(CardScreen, RefusesAtOkAPortThatTheFileCanNotKeep) {
 TEST(CardScreen, TakesTheLongestPortThatFits) {
   for (const char* port : {"横浜神戸大阪東京名古屋函", "YOKOHAMAYOKOHAMAYOKOHAMA"}) {
     fakes::World world;
-    BarometerCard card = card_two();
+    BarometerCard card = fakes::total_card("+0.5");
     card.check_port = port;
     CKataInputDlg screen(world.services, card);
     screen.open();
@@ -630,13 +611,13 @@ TEST(CardScreen, TakesTheLongestPortThatFits) {
 
 TEST(RenewCard, ReplacesTheCardOnlyOnOk) {
   fakes::World world;
-  BarometerCard card = card_two();
+  BarometerCard card = fakes::total_card("+0.5");
   world.windows.expect_screen("CKataInputDlg", [](ui::Screen& s) {
     EXPECT_TRUE(enter(s, *s.find("total_correction"), "-1.5"));
     press(s, "cancel");
   });
   EXPECT_FALSE(renew_card(world.services, card));
-  EXPECT_EQ(card, card_two());
+  EXPECT_EQ(card, fakes::total_card("+0.5"));
   world.windows.expect_screen("CKataInputDlg", [](ui::Screen& s) {
     EXPECT_TRUE(enter(s, *s.find("total_correction"), "-1.5"));
     press(s, "ok");

@@ -9,6 +9,7 @@
 #include "fakes/fake_ports.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/data/ship_files.h"
+#include "ship/ship_data.h"
 #include "text/ids.h"
 
 namespace {
@@ -16,25 +17,11 @@ namespace {
 namespace id = text::id;
 using fakes::dump;
 using fakes::enter;
+using ship_test::press;
+using ship_test::valid_ship;
 using text::Language;
 
 const std::string kPath = "C:\\kavrel\\file\\FIXDATA.DAT";
-
-ShipFixedData valid_ship() {
-  ShipFixedData data;
-  data.call_sign = "JCCX";
-  data.card = {"2014/08/09", "YOKOHAMA", CardType::kHeightAndTemperature,
-               "+0.0",       "-0.3",     LoadingState::kInBallast,
-               "10",         "+1.0",     "20",
-               "+2.0"};
-  data.wind_speed_method = WindSpeedMethod::kAnemometer;
-  data.imo_number = "9074729";
-  data.vosclim_cargo_height = "07";
-  data.vosclim_load_line_departure = "-12";
-  data.aws_fitted = true;
-  data.aws_manufacturer = "AWS CO.";
-  return data;
-}
 
 // A world with a file of these data, and the screen on it.
 struct Bench {
@@ -46,12 +33,6 @@ struct Bench {
     files.add_file(kPath, encode_fixed_data(data, world.clock.local_time, world.code_page));
   }
 };
-
-void press(ui::Screen& screen, const std::string& name) {
-  ui::Control* const control = screen.find(name);
-  ASSERT_NE(control, nullptr) << name;
-  screen.press(*control);
-}
 
 // ---- Start
 
@@ -331,7 +312,7 @@ struct FieldRow {
   const char* name;
   std::string typed;
   std::string left;  // what the field holds after it was left
-  int message;       // 0 when it is accepted
+  text::Id message;  // 0 when it is accepted
 };
 
 TEST(FixedDataScreen, TidiesAndChecksAFieldWhenItIsLeft) {
@@ -367,10 +348,10 @@ TEST(FixedDataScreen, TidiesAndChecksAFieldWhenItIsLeft) {
       ui::Control& field = *screen.find(row.name);
       ASSERT_TRUE(enter(screen, field, row.typed)) << row.name;
       const std::string before = dump(screen);
-      if (row.message != 0) bench.world.windows.expect(row.message);
-      EXPECT_EQ(screen.move_focus(screen.wave_recorder), row.message == 0) << row.typed;
+      if (row.message) bench.world.windows.expect(row.message);
+      EXPECT_EQ(screen.move_focus(screen.wave_recorder), !row.message) << row.typed;
       EXPECT_EQ(field.content, row.left) << row.typed;
-      if (row.message == 0) continue;
+      if (!row.message) continue;
       EXPECT_EQ(dump(screen), before) << row.typed;
       EXPECT_EQ(screen.focused(), &field);
       EXPECT_EQ(screen.selection_length(), -1);
@@ -559,7 +540,7 @@ TEST(FixedDataScreen, LeavesTheCardAloneWhenEitherScreenIsCancelled) {
 struct OkRow {
   const char* rule;
   std::function<void(ShipFixedData&)> spoil;
-  int message;
+  text::Id message;
   const char* argument;
 };
 
@@ -644,7 +625,7 @@ TEST(FixedDataScreen, RefusesAtOkAPortThatIsDamagedInTheFile) {
 TEST(FixedDataScreen, ChecksASingleTotalCorrectionAtOk) {
   struct {
     const char* value;
-    int message;
+    text::Id message;
   } const rows[] = {{"", id::kTotalCorrectionMissing},
                     {"x", id::kTotalCorrectionNotNumeric},
                     {"80.1", id::kTotalCorrectionRange},

@@ -12,7 +12,7 @@ using text::Language;
 
 TEST(ShipTexts, SayExactlyThis) {
   struct {
-    int text_id;
+    text::Id text_id;
     const char* english;
     const char* japanese;
   } const rows[] = {

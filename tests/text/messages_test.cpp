@@ -25,7 +25,7 @@ TEST(Texts, TextWithoutMarkerIsTheSameInBothLanguages) {
 }
 
 TEST(Texts, AnUnknownIdIsEmpty) {
-  EXPECT_EQ(text::bilingual(1, Language::kEnglish), "");
+  EXPECT_EQ(text::bilingual(text::Id{1}, Language::kEnglish), "");
   EXPECT_EQ(text::resolve({0, 74}, Language::kEnglish), "");
 }
 

@@ -13,11 +13,11 @@ using platform::FileError;
 using text::Language;
 
 TEST(Reasons, EveryFileErrorHasWordsOfItsOwnInBothLanguages) {
-  EXPECT_EQ(text::reason_of(FileError::kNone), 0);
+  EXPECT_FALSE(text::reason_of(FileError::kNone));
   std::set<std::string> seen;
   const int last = static_cast<int>(FileError::kOther);
   for (int error = 1; error <= last; ++error) {
-    const int id = text::reason_of(static_cast<FileError>(error));
+    const text::Id id = text::reason_of(static_cast<FileError>(error));
     for (const Language language : {Language::kEnglish, Language::kJapanese}) {
       const std::string words(text::bilingual(id, language));
       EXPECT_FALSE(words.empty()) << error;

@@ -9,7 +9,8 @@ namespace {
 
 class EveryKind : public ui::Screen {
  public:
-  explicit EveryKind(ui::Services& services) : Screen(services, "CEveryKindDlg", {40904, 0}) {
+  explicit EveryKind(ui::Services& services)
+      : Screen(services, "CEveryKindDlg", {text::Id{40904}, 0}) {
     combo.items = {"a", "b"};
     drop_down.items = {"0", "1", "2", "3", "4", "5", "6"};
     list.items = {"one", "two", "three", "four", "five", "six", "seven"};

@@ -25,7 +25,7 @@ constexpr GivenClash kGivenClashes[] = {
 };
 
 // The main window asks before it goes.
-constexpr int kExitQuestion = 40501;
+constexpr text::Id kExitQuestion{40501};
 
 bool is_given(std::string_view class_name, text::Language language, char key) {
   return std::any_of(std::begin(kGivenClashes), std::end(kGivenClashes), [&](const GivenClash& c) {

@@ -84,7 +84,9 @@ bool half_an_exact_time(const W& r) {
 }
 
 constexpr CrossRule kRules[] = {
-    {id::kSteadyWithAmount, 0, steady_with_amount,
+    {id::kSteadyWithAmount,
+     {},
+     steady_with_amount,
      [] {
        return std::vector<Field>{Field::ka, Field::kppp};
      }},
@@ -92,47 +94,69 @@ constexpr CrossRule kRules[] = {
      [] {
        return std::vector<Field>{Field::kN, Field::kNh};
      }},
-    {id::kCloudTypesAllZero, 0, cover_without_types,
+    {id::kCloudTypesAllZero,
+     {},
+     cover_without_types,
      [] {
        return std::vector<Field>{Field::kN, Field::kCL, Field::kCM, Field::kCH};
      }},
-    {id::kNoLowestCloudWithTypes, 0, types_without_amount,
+    {id::kNoLowestCloudWithTypes,
+     {},
+     types_without_amount,
      [] {
        return std::vector<Field>{Field::kNh, Field::kCL, Field::kCM};
      }},
-    {id::kLowestCloudWithoutTypes, 0, amount_without_types,
+    {id::kLowestCloudWithoutTypes,
+     {},
+     amount_without_types,
      [] {
        return std::vector<Field>{Field::kNh, Field::kCL, Field::kCM};
      }},
-    {id::kCalmDirectionWithSpeed, 0, calm_with_speed,
+    {id::kCalmDirectionWithSpeed,
+     {},
+     calm_with_speed,
      [] { return std::vector<Field>{Field::kff}; }},
-    {id::kDirectionWithoutSpeed, 0, direction_without_speed,
+    {id::kDirectionWithoutSpeed,
+     {},
+     direction_without_speed,
      [] { return std::vector<Field>{Field::kff}; }},
-    {id::kDewPointAboveAir, 0, dew_point_above_air,
+    {id::kDewPointAboveAir,
+     {},
+     dew_point_above_air,
      [] {
        return std::vector<Field>{Field::kAirTemperature, Field::kDewPoint};
      }},
-    {id::kWetBulbAboveAir, 0, wet_bulb_above_air,
+    {id::kWetBulbAboveAir,
+     {},
+     wet_bulb_above_air,
      [] {
        return std::vector<Field>{Field::kDryBulb, Field::kWetBulb};
      }},
-    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::PwPw, &W::HwHw>,
+    {id::kPeriodNeedsHeight,
+     {},
+     no_waves_with_height<&W::PwPw, &W::HwHw>,
      [] {
        return std::vector<Field>{Field::kPwPw, Field::kHwHw};
      }},
-    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::Pw1Pw1, &W::Hw1Hw1>,
+    {id::kPeriodNeedsHeight,
+     {},
+     no_waves_with_height<&W::Pw1Pw1, &W::Hw1Hw1>,
      [] {
        return std::vector<Field>{Field::kPw1Pw1, Field::kHw1Hw1};
      }},
-    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::Pw2Pw2, &W::Hw2Hw2>,
+    {id::kPeriodNeedsHeight,
+     {},
+     no_waves_with_height<&W::Pw2Pw2, &W::Hw2Hw2>,
      [] {
        return std::vector<Field>{Field::kPw2Pw2, Field::kHw2Hw2};
      }},
-    {id::kPeriodNeedsHeight, 0, no_waves_with_height<&W::PwaPwa, &W::HwaHwa>,
+    {id::kPeriodNeedsHeight,
+     {},
+     no_waves_with_height<&W::PwaPwa, &W::HwaHwa>,
      [] {
        return std::vector<Field>{Field::kPwaPwa, Field::kHwaHwa};
      }},
-    {id::kHalfAnExactTime, 0, half_an_exact_time, [] { return std::vector<Field>{}; }},
+    {id::kHalfAnExactTime, {}, half_an_exact_time, [] { return std::vector<Field>{}; }},
 };
 
 }  // namespace

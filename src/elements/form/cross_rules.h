@@ -7,12 +7,13 @@
 
 #include "elements/form/fields.h"
 #include "observation/Struct_Weather.h"
+#include "text/id.h"
 
 namespace elements {
 
 struct CrossRule {
-  int message;     ///< text id of the refusal
-  int check_text;  ///< text id, 0 for none
+  text::Id message;     ///< text id of the refusal
+  text::Id check_text;  ///< text id, 0 for none
   bool (*broken)(const Struct_Weather& record);
   /// The fields whose editors raise it; none for a rule that only a save asks for.
   std::vector<Field> (*raised_by)();

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "elements/form/fields.h"
+#include "text/id.h"
 
 namespace elements {
 
@@ -25,10 +26,10 @@ struct EditorRow {
   std::string_view also;  ///< further accepted texts, separated by a blank: "99 //"
   std::size_t width;      ///< figures are filled with zeros to this width; 0 leaves them
   int decimals;           ///< of a number, as it is rewritten
-  int message;            ///< text id of the refusal; 0 shows the check text
-  int check_text;         ///< text id, 0 for none
+  text::Id message;       ///< text id of the refusal; 0 shows the check text
+  text::Id check_text;    ///< text id, 0 for none
   double warn_from = 0;   ///< a value from here up (above, for a number) asks …
-  int warning = 0;        ///< … this question; 0 never asks
+  text::Id warning = {};  ///< … this question; 0 never asks
   /// The refusal shows the check text below the message: the message's range is wider than what is
   /// accepted.
   bool shows_check = false;

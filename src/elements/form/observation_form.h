@@ -146,7 +146,7 @@ class ObservationForm {
   /// are asked once nothing refuses.
   struct TypedGroup {
     std::vector<Field> taken;
-    std::vector<int> questions;
+    std::vector<text::Id> questions;
   };
   [[nodiscard]] bool take_symbols(const observation::GroupRow& row, std::string_view figures,
                                   TypedGroup& typed);
@@ -173,9 +173,9 @@ class ObservationForm {
   [[nodiscard]] bool is_far_from_hour(const std::string& hour, const std::string& minute) const;
   [[nodiscard]] bool pressure_accepted(Field field, std::string& value);
   [[nodiscard]] std::array<std::string, 2> named_bounds(Field field) const;
-  bool refuse(int message) const;
+  bool refuse(text::Id message) const;
   bool refuse_range(Field field) const;
-  [[nodiscard]] bool ask(int question) const;
+  [[nodiscard]] bool ask(text::Id question) const;
   void store(Field field, const std::string& value);
   void store_put(Field field, std::string_view text);
   void store_temperature(Field field, const std::string& value);

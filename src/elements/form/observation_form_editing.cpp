@@ -46,9 +46,9 @@ bool is_pppp_code(const std::string& value) {
 }
 
 // The notice shows the message's text; where a field has none, its check text.
-int range_message(Field field) {
+text::Id range_message(Field field) {
   const EditorRow& row = editor_of(field);
-  return row.message != 0 ? row.message : row.check_text;
+  return row.message ? row.message : row.check_text;
 }
 
 bool beyond(const std::string& degrees, const std::string& minutes, int limit) {
@@ -57,7 +57,7 @@ bool beyond(const std::string& degrees, const std::string& minutes, int limit) {
 
 }  // namespace
 
-bool ObservationForm::refuse(int message) const {
+bool ObservationForm::refuse(text::Id message) const {
   if (!messages_suppressed) messages_.error(message);
   return false;
 }
@@ -81,7 +81,7 @@ bool ObservationForm::refuse_range(Field field) const {
   return false;
 }
 
-bool ObservationForm::ask(int question) const {
+bool ObservationForm::ask(text::Id question) const {
   return messages_suppressed ||
          messages_.question(question, text::QuestionMode::kYesNo) == text::kYes;
 }

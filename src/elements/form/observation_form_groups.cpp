@@ -31,7 +31,7 @@ constexpr std::string_view kIceWord = "ICE ";
 struct SignRow {
   std::string W::*member;
   std::string_view allowed;
-  int message;
+  text::Id message;
 };
 constexpr SignRow kSigns[] = {
     {&W::SnT, "01", id::kSignRange},
@@ -233,7 +233,7 @@ bool ObservationForm::group_accepted(const observation::GroupRow& row, const Str
     if ((field == Field::kLaMin || field == Field::kLoMin) && impossible(field))
       return refuse_range(field);
   }
-  for (const int question : typed.questions) {
+  for (const text::Id question : typed.questions) {
     if (!ask(question)) return false;
   }
   for (const Field field : typed.taken) {

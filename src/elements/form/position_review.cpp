@@ -24,7 +24,7 @@ std::string on_one_line(std::string_view text) {
   return line.append("\r\n");
 }
 
-int movement_message(MovementWarning warning) {
+text::Id movement_message(MovementWarning warning) {
   switch (warning) {
     case MovementWarning::kLatitude:
       return id::kLatitudeChangeWarning;
@@ -33,7 +33,7 @@ int movement_message(MovementWarning warning) {
     case MovementWarning::kNone:
       break;
   }
-  return 0;
+  return {};
 }
 
 }  // namespace
@@ -78,8 +78,8 @@ std::string review_position(const Struct_Weather& record, const platform::Files&
         on_one_line(text::fill(texts.get(id::kEarlierReportUnreadable),
                                {earlier.report, texts.get(text::reason_of(earlier.unreadable))}));
   if (current && earlier.position) {
-    if (const int message = movement_message(check_movement(*current, *earlier.position));
-        message != 0)
+    if (const text::Id message = movement_message(check_movement(*current, *earlier.position));
+        message)
       warnings += on_one_line(texts.get(message));
   }
   return warnings;

@@ -25,9 +25,9 @@ struct Row {
   CardType only_for;    // kNotChosen: for every card
   CardField not_above;  // the value in ballast that bounds this one at full load, or kNone
   CardField not_below;  // the other way round
-  int missing;
-  int malformed;
-  int out_of_range;
+  text::Id missing;
+  text::Id malformed;
+  text::Id out_of_range;
 };
 
 namespace id = text::id;
@@ -98,13 +98,13 @@ std::optional<CardFault> text_fault(const std::string& value, const Row& row,
   return std::nullopt;
 }
 
-// The message's id, 0 when the number is accepted.
-int value_fault(const BarometerCard& card, const Row& row, bool compare_states) {
+// The message, none when the number is accepted.
+text::Id value_fault(const BarometerCard& card, const Row& row, bool compare_states) {
   const std::string& value = card.*row.value;
   if (value.empty()) return row.missing;
   if (!is_well_formed(value, row.form)) return row.malformed;
   if (!in_range(card, row, compare_states)) return row.out_of_range;
-  return decimals(value) > 1 ? id::kOneDecimalOnly : 0;
+  return decimals(value) > 1 ? id::kOneDecimalOnly : text::Id();
 }
 
 }  // namespace
@@ -129,8 +129,8 @@ std::optional<CardFault> card_field_fault(const BarometerCard& card, CardField f
   const Row& row = *row_of(field);
   if (row.only_for != CardType::kNotChosen && row.only_for != card.type) return std::nullopt;
   if (row.form == Form::kText) return text_fault(card.*row.value, row, code_page);
-  const int message = value_fault(card, row, compare_states);
-  if (message == 0) return std::nullopt;
+  const text::Id message = value_fault(card, row, compare_states);
+  if (!message) return std::nullopt;
   return CardFault{field, message, {}};
 }
 

@@ -10,6 +10,7 @@
 
 #include "platform/ports.h"
 #include "ship/data/ShipFixedData.h"
+#include "text/id.h"
 
 /// Bytes of code page 932 that the port of the check has in the file.
 inline constexpr std::size_t kCheckPortWidth = 24;
@@ -31,7 +32,7 @@ enum class CardField {
 /// What is wrong with a field: the text id of the message, its argument where it has one.
 struct CardFault {
   CardField field = CardField::kCheckDate;
-  int message = 0;
+  text::Id message;
   std::string argument;
 };
 

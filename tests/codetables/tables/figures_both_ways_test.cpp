@@ -72,7 +72,7 @@ struct Class {
   const char* code;
 };
 
-TEST(CloudBase, IsTheClassThatHoldsTheHeight) {
+TEST(CloudBaseClasses, IsTheClassThatHoldsTheHeight) {
   for (const Class& row :
        {Class{0, 50, "0"}, Class{50, 100, "1"}, Class{100, 200, "2"}, Class{200, 300, "3"},
         Class{300, 600, "4"}, Class{600, 1000, "5"}, Class{1000, 1500, "6"}, Class{1500, 2000, "7"},
@@ -84,7 +84,7 @@ TEST(CloudBase, IsTheClassThatHoldsTheHeight) {
   for (const char* kept : {"/", "", "x", "-1", "1.5"}) EXPECT_EQ(cloud_base_code(kept), kept);
 }
 
-TEST(Visibility, IsTheClassThatHoldsTheDistance) {
+TEST(VisibilityClasses, IsTheClassThatHoldsTheDistance) {
   for (const Class& row :
        {Class{0, 50, "90"}, Class{50, 200, "91"}, Class{200, 500, "92"}, Class{500, 1000, "93"},
         Class{1000, 2000, "94"}, Class{2000, 4000, "95"}, Class{4000, 10000, "96"},

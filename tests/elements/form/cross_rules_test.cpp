@@ -22,7 +22,7 @@ struct Entry {
 
 struct Row {
   std::vector<Entry> record;
-  int broken;  // message id, 0 for none
+  text::Id broken;  // 0 for none
 };
 
 const Row kRecords[] = {
@@ -121,7 +121,7 @@ struct Typed {
   std::vector<std::pair<Field, const char*>> first;
   Field field;
   const char* text;
-  int message;
+  text::Id message;
 };
 
 const Typed kTyped[] = {
@@ -195,7 +195,7 @@ TEST(CrossRules, DewPointAboveAirIsRefusedFromEitherField) {
 }
 
 TEST(CrossRules, GivenTextsAreToTheLetter) {
-  const std::pair<int, const char*> rows[] = {
+  const std::pair<text::Id, const char*> rows[] = {
       {id::kSteadyWithAmount,
        "Error: If Element(Type of tendency) equal 4\nElement(Amount of change) equal 000 "},
       {id::kLowestAboveTotal,

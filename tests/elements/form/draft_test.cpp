@@ -89,7 +89,7 @@ TEST(Draft, HoldsWhatTheRecordDoesNot) {
   form.form->items_changed();
   const std::string text = encoded(form);
   for (const char* const line :
-       {"draft=1\n", "\ncall_sign=JABC\n", "\ntext.reading=1010.8\n", "\ntext.dry_bulb=-1.0\n",
+       {"draft=1\n", "\ncall_sign=JXKV\n", "\ntext.reading=1010.8\n", "\ntext.dry_bulb=-1.0\n",
         "\ntext.wet_bulb=-2.0\n", "\ntext.apparent_speed=12.5\n", "\naside.VV=97\n", "\ntext.N=x\n",
         "\ntyped.N=\n", "\nwrong.N=1\n", "\nnorth_south=0\n", "\nmodified=1\n"})
     EXPECT_NE(text.find(line), std::string::npos) << line << "is not in\n" << text;
@@ -183,13 +183,13 @@ std::string with_checksum(const std::string& body) {
 
 TEST(Draft, WithTheRightChecksumIsStillTestedLineByLine) {
   EXPECT_EQ(with_checksum("123456789"), "123456789check=CBF43926\n") << "the sum that all agree on";
-  const std::string start = "draft=1\ncall_sign=JABC\n";
+  const std::string start = "draft=1\ncall_sign=JXKV\n";
   EXPECT_EQ(elements::decode_draft(with_checksum(start)).fault, DraftFault::kNone);
   for (const char* const line :
        {"x\n", "\n", "unknown=1\n", "record.YY=1*\n", "record.YY=%FF\n", "record.YY=%4\n",
         "record.YY=%31\n", "record.YY=\n", "north_south=2\n", "north_south=-1\n", "wet_bulb=7\n",
         "modified=0\n", "modified=1\nmodified=1\n", "modified=1\nrecord.YY=15\n", "modified=1",
-        "dew_point_method=01\n", "sea_temperature_method=9\n", "call_sign=JABC\n", "text.YY= 1\n"})
+        "dew_point_method=01\n", "sea_temperature_method=9\n", "call_sign=JXKV\n", "text.YY= 1\n"})
     EXPECT_EQ(elements::decode_draft(with_checksum(start + line)).fault, DraftFault::kDamaged)
         << line;
 }

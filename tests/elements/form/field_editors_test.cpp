@@ -390,9 +390,9 @@ TEST(FieldEditors, WildTextsAreRefusedInBothLanguagesAndChangeNothing) {
         // pressure.
         const bool is_reading =
             field == Field::kReading && (typed.starts_with("9999") || typed == "1.2.3");
-        f.world.windows.expect(is_reading         ? text::id::kSeaLevelPressureRange
-                               : row.message != 0 ? row.message
-                                                  : row.check_text);
+        f.world.windows.expect(is_reading    ? text::id::kSeaLevelPressureRange
+                               : row.message ? row.message
+                                             : row.check_text);
         EXPECT_FALSE(f.enter(field, typed));
         EXPECT_EQ(f.state(field), before);
         ASSERT_EQ(f.world.windows.boxes.size(), 1U);
@@ -400,7 +400,7 @@ TEST(FieldEditors, WildTextsAreRefusedInBothLanguagesAndChangeNothing) {
         EXPECT_FALSE(shown.empty());
         EXPECT_EQ(shown.find("/*E*/"), std::string::npos);
         EXPECT_EQ(shown.find("%d"), std::string::npos);
-        if (row.message != 0) {
+        if (row.message) {
           EXPECT_EQ(shown.starts_with("Error"), language == text::Language::kEnglish);
         }
       }

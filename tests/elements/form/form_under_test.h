@@ -8,24 +8,18 @@
 
 #include "elements/form/observation_form.h"
 #include "fakes/fake_ports.h"
+#include "fakes/sample_ship.h"
 
 namespace form_test {
 
-// A ship with a psychrometer and card type "2" without correction; the clock says 2014.
+// A form of the ship with a psychrometer; the clock says 2014.
 struct Form {
   fakes::World world;
-  ShipFixedData ship;
+  ShipFixedData ship = fakes::psychrometer_ship();
   KeyObservationItems items;
   std::unique_ptr<elements::ObservationForm> form;
 
-  Form() {
-    ship.call_sign = "JABC";
-    ship.card.type = CardType::kTotalCorrection;
-    ship.dew_point_method = DewPointMethod::kComputed;
-    ship.humidity_method = HumidityMethod::kComputed;
-    ship.humidity_unit = 1.0;
-    rebuild();
-  }
+  Form() { rebuild(); }
   void rebuild() {
     form = std::make_unique<elements::ObservationForm>(ship, items, world.texts, world.messages,
                                                        world.clock);

@@ -4,6 +4,7 @@
 
 #include "elements/form/observation_form.h"
 #include "fakes/fake_ports.h"
+#include "elements/form/form_under_test.h"
 #include "text/ids.h"
 
 namespace {
@@ -13,28 +14,14 @@ using elements::Field;
 using elements::WetBulbState;
 using observation::Group;
 
-// A ship with a psychrometer and a card of type "1".
-struct Form {
-  fakes::World world;
-  ShipFixedData ship;
-  KeyObservationItems items;
-  std::unique_ptr<elements::ObservationForm> form;
-
+// A ship with a psychrometer and a card of type "1", on which only the height in ballast counts.
+struct Form : form_test::Form {
   Form() {
     ship.card.type = CardType::kHeightAndTemperature;
     ship.card.loading_state = LoadingState::kFullLoad;
     ship.card.height_ballast = "200";
-    ship.dew_point_method = DewPointMethod::kComputed;
-    ship.humidity_method = HumidityMethod::kComputed;
-    ship.humidity_unit = 1.0;
-    form = std::make_unique<elements::ObservationForm>(ship, items, world.texts, world.messages,
-                                                       world.clock);
+    rebuild();
   }
-  bool enter(Field field, std::string_view text) const {
-    form->type(field, text);
-    return form->leave(field);
-  }
-  const Struct_Weather& record() const { return form->record(); }
   std::string dew_point() const { return record().SnTd + record().TdTdTd; }
 };
 
@@ -170,7 +157,7 @@ TEST(TendencyAmount, OfMinusZeroIsZero) {
 TEST(Reading, RefusesAsksAndTakesByThePressureAtSeaLevel) {
   struct Row {
     const char* reading;
-    int message;  // 0: taken silently
+    text::Id message;  // 0: taken silently
     const char* pppp;
   };
   for (const Row& row :
@@ -189,7 +176,7 @@ TEST(Reading, RefusesAsksAndTakesByThePressureAtSeaLevel) {
       EXPECT_EQ(no.record().PPPP, "");
     }
     Form f;
-    if (row.message != 0) f.world.windows.expect(row.message, asks ? "yes" : "ok");
+    if (row.message) f.world.windows.expect(row.message, asks ? "yes" : "ok");
     EXPECT_EQ(f.enter(Field::kReading, row.reading), *row.pppp != '\0');
     EXPECT_EQ(f.record().PPPP, row.pppp);
     Form quiet;

@@ -334,7 +334,7 @@ TEST(ObservationForm, NothingLiesBeyondThePoleAndTheDateLine) {
   struct Row {
     Field degrees, minutes;
     const char* limit;
-    int message;
+    text::Id message;
   };
   for (const Row& row : {Row{Field::kLaDeg, Field::kLaMin, "90", id::kLatitudeMinutesRange},
                          Row{Field::kLoDeg, Field::kLoMin, "180", id::kLongitudeMinutesRange}}) {
@@ -534,7 +534,7 @@ TEST(ObservationForm, ATypedGroupKeepsTheRulesOfItsFields) {
   struct Refused {
     Group group;
     const char* typed;
-    int message;
+    text::Id message;
   };
   for (const Refused& row : {Refused{Group::k4PPPP, "41013", id::kSeaLevelPressureRange},
                              {Group::k1SnTTT, "10401", id::kAirTemperatureRange},

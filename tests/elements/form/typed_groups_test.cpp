@@ -68,7 +68,7 @@ TEST(TypedGroup, AValueIsKnownWithItsSignAndDegreesOrNotAtAll) {
 TEST(TypedGroup, TheWindIsRefusedAsItsFieldsAre) {
   struct Row {
     const char* typed;
-    int message;  // 0: taken
+    text::Id message;  // 0: taken
   };
   for (const Row& row : {Row{"/0012", id::kCalmDirectionWithSpeed},
                          {"/5012", id::kTrueDirectionRange},
@@ -84,9 +84,9 @@ TEST(TypedGroup, TheWindIsRefusedAsItsFieldsAre) {
         ASSERT_TRUE(f.form->leave_group(Group::kNddff, "/2712"));
       }
       const std::string before = f.state(Field::kww);
-      if (row.message != 0) f.world.windows.expect(row.message);
-      EXPECT_EQ(f.form->leave_group(Group::kNddff, row.typed), row.message == 0);
-      if (row.message != 0) {
+      if (row.message) f.world.windows.expect(row.message);
+      EXPECT_EQ(f.form->leave_group(Group::kNddff, row.typed), !row.message);
+      if (row.message) {
         EXPECT_EQ(f.state(Field::kww), before);
       }
     }

@@ -3,19 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "elements/form/field_codes.h"
+#include "fakes/sample_ship.h"
 
 namespace {
 
 using codetables::PressureRange;
 using elements::ReadingParts;
 using elements::reduce_reading;
-
-BarometerCard fixed_card(const char* correction) {
-  BarometerCard card;
-  card.type = CardType::kTotalCorrection;
-  card.total_correction = correction;
-  return card;
-}
 
 TEST(BarometerReading, SplitsIntoWholeAndTenths) {
   struct Row {
@@ -75,7 +69,8 @@ TEST(SeaLevelPressure, GivesDisplayReadingAndFigures) {
       {"1013", "+2.4", "1013.0", "1015.4", "0154"},
   };
   for (const Row& row : rows) {
-    const auto result = reduce_reading(row.reading, fixed_card(row.correction), std::nullopt);
+    const auto result =
+        reduce_reading(row.reading, fakes::total_card(row.correction), std::nullopt);
     ASSERT_TRUE(result) << row.reading;
     EXPECT_EQ(result->reading, row.rewritten);
     EXPECT_EQ(result->display, row.display);
@@ -98,7 +93,7 @@ TEST(SeaLevelPressure, ReducesTheWorkedExample) {
 
 TEST(SeaLevelPressure, NoReadingNoPressure) {
   for (const char* bad : {"", "  ", "101325", "abc", ".5", "9 9", "1013.", "\xFF"})
-    EXPECT_FALSE(reduce_reading(bad, fixed_card("+0.0"), std::nullopt)) << bad;
+    EXPECT_FALSE(reduce_reading(bad, fakes::total_card("+0.0"), std::nullopt)) << bad;
 }
 
 TEST(SeaLevelPressure, WithoutACardIsDoubledAndRefused) {
@@ -128,7 +123,7 @@ TEST(SeaLevelPressure, RangeHasTwoRefusedTwoAskingAndOneAcceptedBand) {
 
 TEST(SeaLevelPressure, RangeWorksOnTheUnroundedSum) {
   // Shown as 1070.0, yet below it: the question, not the refusal.
-  const auto result = reduce_reading("1069.9", fixed_card("+0.06"), std::nullopt);
+  const auto result = reduce_reading("1069.9", fakes::total_card("+0.06"), std::nullopt);
   ASSERT_TRUE(result);
   EXPECT_EQ(result->display, "1070.0");
   EXPECT_EQ(result->range, PressureRange::kAsks);

@@ -8,6 +8,7 @@
 
 #include "fakes/fake_code_page.h"
 #include "ship/data/barometer_date.h"
+#include "ship/ship_data.h"
 #include "text/ids.h"
 
 namespace {
@@ -16,22 +17,9 @@ namespace id = text::id;
 const fakes::FakeCodePage kCodePage;
 constexpr platform::DateTime kToday{2014, 11, 15, 20, 50, 0};
 
-BarometerCard card_one() {
-  return {"2014/08/09", "YOKOHAMA", CardType::kHeightAndTemperature,
-          "+0.0",       "-0.3",     LoadingState::kFullLoad,
-          "10",         "+1.0",     "20",
-          "+2.0"};
-}
+using ship_test::card_one;
 
-BarometerCard card_two() {
-  BarometerCard card;
-  card.check_date = "2014/08/09";
-  card.check_port = "YOKOHAMA";
-  card.type = CardType::kTotalCorrection;
-  return card;
-}
-
-int message_of(const std::optional<CardFault>& fault) {
+text::Id message_of(const std::optional<CardFault>& fault) {
   return fault ? fault->message : 0;
 }
 
@@ -104,7 +92,7 @@ TEST(BarometerDate, IsMissingWhenBlankOrStillThePlaceholder) {
 struct ValueRow {
   CardField field;
   const char* value;
-  int message;  // 0 when accepted
+  text::Id message;  // 0 when accepted
 };
 
 // Card type "1" with 10 m and +1.0 at full load, 20 m and +2.0 in ballast.
@@ -178,7 +166,7 @@ TEST(BarometerCard, OfType2AcceptsAndRefuses) {
       {CardField::kHeightFullLoad, "not of this card", 0},
   };
   for (const ValueRow& row : rows) {
-    BarometerCard card = card_two();
+    BarometerCard card = fakes::total_card();
     card.*card_text(row.field) = row.value;
     EXPECT_EQ(message_of(card_field_fault(card, row.field, kToday, kCodePage)), row.message)
         << row.value;
@@ -219,14 +207,13 @@ TEST(BarometerCard, ChangedToType2LosesWhatOnlyType1Has) {
   BarometerCard card = card_one();
   card.total_correction = "+0.7";
   change_card_type(card, CardType::kTotalCorrection);
-  BarometerCard wanted = card_two();
-  wanted.total_correction = "+0.7";
+  BarometerCard wanted = fakes::total_card("+0.7");
+  wanted.check_date = "2014/08/09";
   EXPECT_EQ(card, wanted);
 }
 
 TEST(BarometerCard, ChangedToType1LosesTheSingleTotalCorrection) {
-  BarometerCard card = card_two();
-  card.total_correction = "+0.7";
+  BarometerCard card = fakes::total_card("+0.7");
   card.height_ballast = "15";
   card.loading_state = LoadingState::kInBallast;
   BarometerCard wanted = card;

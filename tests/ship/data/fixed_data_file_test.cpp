@@ -9,6 +9,7 @@
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
 #include "ship/data/ship_files.h"
+#include "ship/ship_data.h"
 
 namespace {
 
@@ -47,25 +48,19 @@ char any_byte_but_controls(std::mt19937& random) {
 
 // A ship with a card of type "1" and something in every field.
 ShipFixedData full_ship() {
-  ShipFixedData data;
-  data.call_sign = "JCCX";
-  data.card = {"2014/08/09", "YOKOHAMA", CardType::kHeightAndTemperature,
-               "+0.0",       "-0.3",     LoadingState::kInBallast,
-               "12",         "+1.5",     "105",
-               "+12.4"};
+  ShipFixedData data = ship_test::valid_ship();
+  data.card.height_full_load = "12";
+  data.card.total_correction_full_load = "+1.5";
+  data.card.height_ballast = "105";
+  data.card.total_correction_ballast = "+12.4";
   data.wind_input_method = WindInputMethod::kApparentWind;
-  data.wind_speed_method = WindSpeedMethod::kAnemometer;
   data.sea_temperature_method = SeaTemperatureMethod::kHullContactSensor;
   data.dew_point_method = DewPointMethod::kComputed;
   data.wave_recorder = true;
   data.vosclim = true;
   data.temperature_unit = 0.5;
-  data.vosclim_cargo_height = "07";
-  data.vosclim_load_line_departure = "-12";
-  data.imo_number = "9074729";
   data.humidity_method = HumidityMethod::kComputed;
   data.humidity_unit = 1.0;
-  data.aws_fitted = true;
   data.aws_manufacturer = "AWS CO., 2";
   return data;
 }
