@@ -17,12 +17,23 @@
 namespace cli {
 namespace {
 
-constexpr const char* kUsage = "kavrel-cli save --reports DIR --logbook DIR [--replace] [FILE]";
+constexpr const char* kUsage =
+    "kavrel-cli save [--root DIR] --reports DIR --logbook DIR [--replace] [FILE]\n"
+    "       --root: C: of the program whose interrupted save is to be found; its other drives\n"
+    "       are not known here, so a save into them is told and left to the program";
 
 struct Arguments {
-  std::string reports, logbook, file;
+  std::string root, reports, logbook, file;
   bool replace = false;
 };
+
+// Where the folder behind an option goes; null for a word that is no option with a folder.
+std::string* place_of(std::string_view option, Arguments& arguments) {
+  if (option == "--root") return &arguments.root;
+  if (option == "--reports") return &arguments.reports;
+  if (option == "--logbook") return &arguments.logbook;
+  return nullptr;
+}
 
 std::string date_reason(const observation::DateFault& fault) {
   const auto shown = [&](int number) {
@@ -37,7 +48,7 @@ std::string date_reason(const observation::DateFault& fault) {
 class Saver {
  public:
   explicit Saver(const Arguments& arguments)
-      : drives_(platform::posix::default_root()),
+      : drives_(platform::posix::root_of(arguments.root)),
         files_(drives_, calls_),
         reports_(folder(arguments.reports)),
         logbook_(folder(arguments.logbook)),
@@ -47,6 +58,11 @@ class Saver {
   [[nodiscard]] std::optional<std::string> problem(const Arguments& arguments) const {
     for (const auto& [path, given] :
          {std::pair(&reports_, &arguments.reports), std::pair(&logbook_, &arguments.logbook)}) {
+      // In a program path it would be the end of a name.
+      std::error_code error;
+      if (!*path &&
+          std::filesystem::absolute(*given, error).string().find('\\') != std::string::npos)
+        return *given + R"( cannot be used: a "\" stands in its path)";
       const platform::Look found = *path ? files_.look(**path) : platform::Look{};
       if (found.there == platform::There::kCannotTell)
         return *given + " cannot be used: " + std::string(reason_of(found.error));
@@ -94,9 +110,7 @@ class Saver {
       tell(shown(request.logbook_path) +
            " cannot be locked there; no other program may save at the same time");
     told_without_lock_ = told_without_lock_ || result.without_lock;
-    if (result.closed_line != 0)
-      tell(shown(request.logbook_path) + ": line " + std::to_string(result.closed_line) +
-           " had no end and is damaged; it has been closed");
+    tell_closed_line(result.closed_line);
     if (auto refused = refusal(result, request)) return refused;
     std::cout << "report " << shown(request.report_path) << "\n"
               << "logbook " << shown(request.logbook_path) << "\n";
@@ -115,7 +129,18 @@ class Saver {
 
   static void tell(const std::string& remark) { std::cerr << "kavrel-cli: " << remark << "\n"; }
 
+  void tell_closed_line(std::uint64_t line) const {
+    if (line == 0) return;
+    tell(shown(observation::logbook_path(*logbook_)) + ": line " + std::to_string(line) +
+         " had no end and is damaged; it has been closed");
+  }
+
   void tell(const observation::Recovery& recovery) const {
+    tell_outcome(recovery);
+    tell_closed_line(recovery.closed_line);
+  }
+
+  void tell_outcome(const observation::Recovery& recovery) const {
     using observation::Recovered;
     const std::string report = shown(*reports_ + recovery.report);
     const std::string line =
@@ -151,6 +176,14 @@ class Saver {
                                                    const observation::SaveRequest& request) const {
     using observation::SaveOutcome;
     const std::string why(reason_of(result.error));
+    if (const auto& left = result.recovered; left.unreachable)
+      return "the save of " + left.report +
+             " was interrupted and its folder cannot be reached: " + shown(left.failed) + ": " +
+             why + "; line " + std::to_string(left.line) + " of " + shown(request.logbook_path) +
+             " is its line, and nothing is saved until it is finished";
+    if (result.recovered.error != platform::FileError::kNone)
+      return "what an interrupted save has left cannot be put in order: " + shown(result.failed) +
+             ": " + why;
     switch (result.outcome) {
       case SaveOutcome::kSaved:
         return std::nullopt;
@@ -188,9 +221,9 @@ int save_command(const std::vector<std::string>& words) {
     const std::string& word = words[i];
     if (word == "--replace") {
       arguments.replace = true;
-    } else if (word == "--reports" || word == "--logbook") {
+    } else if (std::string* const place = place_of(word, arguments)) {
       if (++i == words.size()) return usage(word + " wants a folder", kUsage);
-      (word == "--reports" ? arguments.reports : arguments.logbook) = words[i];
+      *place = words[i];
     } else if (word.starts_with("--") || !arguments.file.empty()) {
       return usage("unknown argument " + word, kUsage);
     } else {

@@ -120,6 +120,10 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   // Drafts: entries that outlive the program.
   void offer_drafts();
   [[nodiscard]] bool wants(const Struct_Weather& record);
+  /// Both files hold all that this draft would save now: the program ended between the save and the
+  /// removal of the draft.
+  [[nodiscard]] bool is_saved(const std::string& path, const elements::Draft& draft) const;
+  void load(elements::ObservationForm& form, const elements::Draft& draft) const;
   void take_over(const elements::Draft& draft);
   void put_unusable_aside(const std::string& path, const elements::DraftRead& read);
   [[nodiscard]] std::string draft() const;
@@ -138,5 +142,4 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   bool command_in_progress_ = false;
   bool exiting_ = false;
   bool saved_once_ = false;
-  bool not_kept_told_ = false;  ///< the officer knows that the entries cannot be kept
 };

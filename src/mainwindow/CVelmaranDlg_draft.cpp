@@ -2,6 +2,11 @@
 // start.
 
 #include "mainwindow/CVelmaranDlg.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "mainwindow/save_flow.h"
 #include "observation/report_file.h"
 #include "text/ids.h"
 
@@ -36,6 +41,11 @@ std::string when(const Struct_Weather& record, const text::Texts& texts) {
   return lines.append("\n").append(text::fill(texts.get(id::kDraftMissing), {missing}));
 }
 
+// For comparing, from the year down.
+auto in_order(const platform::DateTime& when) {
+  return std::tie(when.year, when.month, when.day, when.hour, when.minute, when.second);
+}
+
 }  // namespace
 
 std::string CVelmaranDlg::draft() const {
@@ -51,17 +61,27 @@ void CVelmaranDlg::on_idle(bool undisturbed) {
     keeper_.drop({});
     return;
   }
+  const bool kept = keeper_.keep(draft());
   // Nobody who is typing is told; the news comes with the entry.
-  if (keeper_.keep(draft()) || not_kept_told_ || !undisturbed || typing_) return;
-  not_kept_told_ = true;
-  services().messages.error_filled(id::kDraftNotKept, {keeper_.own_path()});
+  if (!undisturbed || typing_) return;
+  if (kept && !keeper_.locked())
+    services().messages.error_filled_once(id::kDraftWithoutLock, {keeper_.own_path()});
+  if (!kept) services().messages.error_filled_once(id::kDraftNotKept, {keeper_.own_path()});
 }
 
 void CVelmaranDlg::offer_drafts() {
   while (const auto left = keeper_.next_left()) {
+    if (left->error != platform::FileError::kNone) {
+      services().messages.file_error(id::kDraftUnreadable, left->path, left->error);
+      continue;
+    }
+    // Told before the question, for it may be the draft of another copy that is still running.
+    if (!left->locked) services().messages.error_filled_once(id::kDraftWithoutLock, {left->path});
     const elements::DraftRead read = elements::decode_draft(left->text);
     if (read.fault != DraftFault::kNone || read.draft.call_sign != context_.ship.call_sign) {
       put_unusable_aside(left->path, read);
+    } else if (is_saved(left->path, read.draft)) {
+      keeper_.discard();
     } else if (const Struct_Weather& record = read.draft.form.entries.record;
                observation::report_file_name(record) == context_.folders.finished_report) {
       // Its save was under way when the program ended, and has been finished since.
@@ -83,11 +103,35 @@ bool CVelmaranDlg::wants(const Struct_Weather& record) {
          text::kYes;
 }
 
+bool CVelmaranDlg::is_saved(const std::string& path, const elements::Draft& draft) const {
+  // An entry that was made behind the save may be in neither file: a heading that still lacks its
+  // wind. Its draft is younger than the report.
+  const std::string report =
+      observation::report_path(context_.folders.reports, draft.form.entries.record);
+  const auto saved_at = services().files.modified(report);
+  const auto kept_at = services().files.modified(path);
+  if (!saved_at || !kept_at || in_order(*saved_at) < in_order(*kept_at)) return false;
+  // What is not accepted is in no report and no line, and the officer has not let it go.
+  const auto& typed = draft.form.entries.typed;
+  if (!draft.typing_in.empty() || std::find(typed.begin(), typed.end(), true) != typed.end())
+    return false;
+  ui::Services& all = services();
+  elements::ObservationForm form(context_.ship, context_.items, all.texts, all.messages, all.clock);
+  form.messages_suppressed = true;
+  load(form, draft);
+  return mainwindow::is_saved(all,
+                              {form.record(), context_.ship, context_.items, context_.folders, {}});
+}
+
 // Ship and items are read at each start; they may not be those that the draft was made with.
+void CVelmaranDlg::load(elements::ObservationForm& form, const elements::Draft& draft) const {
+  form.load(draft.form);
+  if (draft.ship_mark != elements::ship_mark(context_.ship)) form.ship_changed();
+  form.items_changed();
+}
+
 void CVelmaranDlg::take_over(const elements::Draft& draft) {
-  form_.load(draft.form);
-  if (draft.ship_mark != elements::ship_mark(context_.ship)) form_.ship_changed();
-  form_.items_changed();
+  load(form_, draft);
   refresh();
   ui::Control* const typing_in = find(draft.typing_in);
   if (typing_in == nullptr || !typing_in->can_focus()) return;

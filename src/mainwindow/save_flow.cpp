@@ -108,6 +108,17 @@ bool wants_retry(ui::Services& services, const std::string& logbook) {
   return services.messages.show(box) == text::kYes;
 }
 
+// True when the officer wants to save without waiting for the drive of an earlier report.
+bool wants_to_leave(ui::Services& services, const observation::Recovery& recovery) {
+  const text::Texts& texts = services.texts;
+  const std::string question =
+      text::fill(texts.get(id::kAskLeaveUnreachable),
+                 {recovery.report, std::to_string(recovery.line), recovery.failed,
+                  texts.get(text::reason_of(recovery.error))});
+  return services.messages.question(question, {}, text::QuestionMode::kYesNo,
+                                    id::kAskLeaveUnreachable) == text::kYes;
+}
+
 std::optional<observation::SaveResult> given_up(ui::Services& services) {
   services.messages.error(id::kSaveCancelled);
   return std::nullopt;
@@ -121,6 +132,9 @@ std::optional<observation::SaveResult> write(ui::Services& services, const Savin
   while (true) {
     // Asked before the disks: a report on a disk that is not in yet is asked about when it is.
     if (exists && !request.replace) {
+      // The Yes is for the report that is there now; one that cannot be read cannot be told from
+      // another.
+      request.replaces = services.files.read(request.report_path).value;
       if (!may_replace(services)) return std::nullopt;
       request.replace = true;
     }
@@ -128,23 +142,30 @@ std::optional<observation::SaveResult> write(ui::Services& services, const Savin
       if (!disk_is_ready(services, folder, bytes)) return given_up(services);
     const auto result = observation::save(services.files, request);
     tell_recovery(services, saving.folders, result.recovered);
-    if (result.error == platform::FileError::kLocked) {
+    if (result.recovered.unreachable) {
+      if (!wants_to_leave(services, result.recovered)) return given_up(services);
+      request.leave_unreachable = true;
+    } else if (result.error == platform::FileError::kLocked) {
       if (!wants_retry(services, request.logbook_path)) return given_up(services);
     } else if (result.outcome != SaveOutcome::kAlreadyExists) {
       return result;
     } else {
       exists = true;
+      request.replace = false;
     }
   }
+}
+
+void tell_closed_line(ui::Services& services, std::uint64_t line, const std::string& logbook) {
+  if (line == 0) return;
+  services.messages.error_filled(id::kLogbookLineClosed, {std::to_string(line), logbook});
 }
 
 // What the officer must know besides whether the save went well.
 void tell_remarks(ui::Services& services, const observation::SaveResult& result,
                   const std::string& logbook) {
   if (result.without_lock) services.messages.error_filled_once(id::kLogbookWithoutLock, {logbook});
-  if (result.closed_line != 0)
-    services.messages.error_filled(id::kLogbookLineClosed,
-                                   {std::to_string(result.closed_line), logbook});
+  tell_closed_line(services, result.closed_line, logbook);
   if (result.outcome == SaveOutcome::kLineLeft)
     services.messages.error_filled(id::kSaveLineLeft, {logbook});
 }
@@ -199,6 +220,13 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
   return SaveEnd::kNotSaved;
 }
 
+bool is_saved(ui::Services& services, const Saving& saving) {
+  if (!has_date(saving) || saving.folders.reports.empty() || saving.folders.logbook.empty())
+    return false;
+  return observation::is_saved(services.files,
+                               request_of(saving, encode(saving, services.texts.language).message));
+}
+
 void tell_recovery(ui::Services& services, const Folders& folders,
                    const observation::Recovery& recovery) {
   using observation::Recovered;
@@ -220,11 +248,18 @@ void tell_recovery(ui::Services& services, const Folders& folders,
                                      {observation::damaged_journal_path(folders.logbook)});
       break;
   }
+  tell_closed_line(services, recovery.closed_line, observation::logbook_path(folders.logbook));
 }
 
 std::string recover_save(ui::Services& services, const Folders& folders) {
   const auto recovery = observation::recover(services.files, folders.reports, folders.logbook);
   tell_recovery(services, folders, recovery);
+  if (recovery.unreachable)
+    services.messages.error_filled(id::kSaveUnreachable,
+                                   {recovery.report, std::to_string(recovery.line), recovery.failed,
+                                    services.texts.get(text::reason_of(recovery.error))});
+  else if (recovery.error != platform::FileError::kNone)
+    services.messages.file_error(id::kSaveNotRecovered, recovery.failed, recovery.error);
   return recovery.outcome == observation::Recovered::kFinished ? recovery.report : std::string();
 }
 

@@ -45,12 +45,16 @@ struct Saving {
 /// Runs the whole save with its messages and questions.
 SaveEnd save_observation(ui::Services& services, const Saving& saving);
 
+/// True when the report and the logbook hold already what a save would write now.
+[[nodiscard]] bool is_saved(ui::Services& services, const Saving& saving);
+
 /// Tells the officer what became of a save that had been interrupted, if there was one.
 void tell_recovery(ui::Services& services, const Folders& folders,
                    const observation::Recovery& recovery);
 
 /// For a start, once the folders are known: finishes or takes back an interrupted save and tells
-/// it. The name of the report whose saving was finished, empty when none was.
+/// it, or why it can be neither now. The name of the report whose saving was finished, empty when
+/// none was.
 std::string recover_save(ui::Services& services, const Folders& folders);
 
 }  // namespace mainwindow

@@ -51,11 +51,13 @@ std::string name_of(const std::string& path) {
 struct Folders {
   std::string reports, logbook;
   [[nodiscard]] std::string journal() const { return logbook + std::string(kJournalName); }
+  [[nodiscard]] std::string log() const { return logbook + std::string(kLogbookName); }
 };
 
-Recovery failed(FileError error) {
+Recovery failed(FileError error, const std::string& path) {
   Recovery recovery;
   recovery.error = error;
+  recovery.failed = path;
   return recovery;
 }
 
@@ -114,18 +116,20 @@ struct Repaired {
 
 class Repairing {
  public:
-  Repairing(platform::Files& files, platform::LockedLog& log, const Folders& folders)
-      : files_(files), log_(log), folders_(folders) {}
+  Repairing(platform::Files& files, platform::LockedLog& log, const Folders& folders,
+            bool leave_unreachable)
+      : files_(files), log_(log), folders_(folders), leave_unreachable_(leave_unreachable) {}
 
   Repaired run() {
     const platform::Look found = files_.look(folders_.journal());
     if (found.there == There::kNo) return {};
-    if (found.there == There::kCannotTell) return {failed(found.error), std::nullopt};
+    if (found.there == There::kCannotTell)
+      return {failed(found.error, folders_.journal()), std::nullopt};
     constexpr std::uint64_t kLargest = 1U << 20U;
     if (found.there == There::kFile && found.size <= kLargest) {
       const auto text = files_.read(folders_.journal());
-      if (!text.ok()) return {failed(text.error), std::nullopt};
-      if (auto journal = read_journal(*text.value); journal && can_be_reached(*journal)) {
+      if (!text.ok()) return {failed(text.error, folders_.journal()), std::nullopt};
+      if (auto journal = read_journal(*text.value)) {
         // Without locks the save that noted this may still be under way.
         if (const auto saver = platform::staged_by(journal->staged);
             !log_.is_locked() && saver && files_.is_running(*saver))
@@ -138,46 +142,77 @@ class Repairing {
   }
 
  private:
-  /// Also the reports of a save into another folder than this one's belong to a line of this
-  /// logbook. What may be renamed or removed there are a report's name and a staged one's, with the
-  /// content that was noted.
-  [[nodiscard]] bool can_be_reached(const Journal& journal) const {
-    return files_.same(journal.folder, folders_.reports) ||
-           files_.look(journal.folder).there == There::kFolder;
+  struct Reports {
+    std::string folder;
+    FileError error = FileError::kNone;  ///< why it cannot be reached
+  };
+  /// Where that save's report belongs. Also the reports of a save into another folder than this
+  /// one's belong to a line of this logbook. What may be renamed or removed there are a report's
+  /// name and a staged one's, with the content that was noted.
+  [[nodiscard]] Reports reports_of(const Journal& journal) const {
+    // A folder that another program calls by another name is known by what was staged in it.
+    const bool here = files_.same(journal.folder, folders_.reports) ||
+                      holds(folders_.reports + journal.staged, journal);
+    const std::string folder = here ? folders_.reports : platform::join(journal.folder, "");
+    const platform::Look found = files_.look(folder);
+    if (found.there == There::kFolder) return {folder};
+    if (!here && holds(folders_.reports + journal.report, journal)) return {folders_.reports};
+    if (found.there == There::kCannotTell) return {folder, found.error};
+    return {folder, found.there == There::kNo ? FileError::kNotFound : FileError::kNotAFile};
+  }
+
+  [[nodiscard]] bool holds(const std::string& path, const Journal& journal) const {
+    return has_content(files_, path, journal.content).value.value_or(false);
+  }
+
+  /// Which of the two files are there, in a folder that can be reached.
+  [[nodiscard]] Recovery find_report(const std::string& report, const std::string& staged,
+                                     const Journal& journal, Found& found) const {
+    const auto report_is_it = has_content(files_, report, journal.content);
+    if (!report_is_it.ok()) return failed(report_is_it.error, report);
+    const auto staged_is_it = has_content(files_, staged, journal.content);
+    if (!staged_is_it.ok()) return failed(staged_is_it.error, staged);
+    found.report_is_it = *report_is_it.value;
+    found.staged_is_it = *staged_is_it.value;
+    return {};
   }
 
   Recovery repair(const Journal& journal) {
-    const bool here = files_.same(journal.folder, folders_.reports);
-    const std::string reports = here ? folders_.reports : platform::join(journal.folder, "");
-    const std::string report = reports + journal.report;
-    const std::string staged = reports + journal.staged;
+    const Reports reports = reports_of(journal);
+    const bool unreachable = reports.error != FileError::kNone;
+    const std::string report = reports.folder + journal.report;
+    const std::string staged = reports.folder + journal.staged;
     const bool line_begins = journal.appended.front() == '\n';
     Found found;
     if (log_.size() > journal.log_size) {
       const auto behind = log_.read(journal.log_size, journal.appended.size());
-      if (!behind.ok()) return failed(behind.error);
+      if (!behind.ok()) return failed(behind.error, folders_.log());
       found.line = line_found(journal, log_.size(), *behind.value);
     } else {
       found.line = line_found(journal, log_.size(), {});
     }
-    const auto report_is_it = has_content(files_, report, journal.content);
-    if (!report_is_it.ok()) return failed(report_is_it.error);
-    const auto staged_is_it = has_content(files_, staged, journal.content);
-    if (!staged_is_it.ok()) return failed(staged_is_it.error);
-    found.report_is_it = *report_is_it.value;
-    found.staged_is_it = *staged_is_it.value;
+    if (!unreachable) {
+      Recovery trouble = find_report(report, staged, journal, found);
+      if (trouble.error != FileError::kNone) return trouble;
+    }
 
     Repair what = decide(found);
     if (what == Repair::kDoNotTrust) return put_aside();
     Recovery told;
     told.report = journal.report;
     const auto line = line_number(log_, journal.log_size);
-    if (!line.ok()) return failed(line.error);
+    if (!line.ok()) return failed(line.error, folders_.log());
     told.line = *line.value + (line_begins ? 1 : 0);
+    if (unreachable && what == Repair::kLeaveLine && !leave_unreachable_) {
+      told.error = reports.error;
+      told.failed = reports.folder;
+      told.unreachable = true;
+      return told;
+    }
     if (what == Repair::kFinish) {
       const FileError error =
           files_.commit({report, staged}, journal.replace ? Over::kReplace : Over::kRefuse);
-      if (error != FileError::kNone && error != FileError::kExists) return failed(error);
+      if (error != FileError::kNone && error != FileError::kExists) return failed(error, report);
       if (error == FileError::kExists) {
         // Somebody else's report has come into the place, which this save was not to replace.
         found.staged_is_it = false;
@@ -190,7 +225,7 @@ class Repairing {
     switch (what) {
       case Repair::kTakeBack:
         if (const FileError error = take_back(journal); error != FileError::kNone)
-          return failed(error);
+          return failed(error, folders_.log());
         if (found.staged_is_it) files_.discard({report, staged});
         told.outcome = Recovered::kTakenBack;
         break;
@@ -200,6 +235,8 @@ class Repairing {
       default:
         told.outcome = Recovered::kFinished;
     }
+    // The save did not live to tell which line it had closed.
+    if (line_begins && what != Repair::kTakeBack) told.closed_line = told.line - 1;
     // Should it stay, it is found again, and nothing is left to do for it.
     (void)files_.remove(folders_.journal());
     return told;
@@ -213,8 +250,10 @@ class Repairing {
   Recovery put_aside() {
     const std::string aside = damaged_journal_path(folders_.logbook);
     if (const FileError error = files_.commit({aside, folders_.journal()});
-        error != FileError::kNone)
-      return failed(error);
+        error != FileError::kNone) {
+      const bool is_file = files_.look(folders_.journal()).there == There::kFile;
+      return failed(is_file ? error : FileError::kNotAFile, folders_.journal());
+    }
     Recovery told;
     told.outcome = Recovered::kPutAside;
     return told;
@@ -223,10 +262,12 @@ class Repairing {
   platform::Files& files_;
   platform::LockedLog& log_;
   const Folders& folders_;
+  bool leave_unreachable_;
 };
 
-Repaired repair(platform::Files& files, platform::LockedLog& log, const Folders& folders) {
-  auto repaired = Repairing(files, log, folders).run();
+Repaired repair(platform::Files& files, platform::LockedLog& log, const Folders& folders,
+                bool leave_unreachable) {
+  auto repaired = Repairing(files, log, folders, leave_unreachable).run();
   if (repaired.told.error == FileError::kNone) clear_staged(files, folders);
   return repaired;
 }
@@ -242,7 +283,6 @@ class Save {
         content_(report_file_content(request.message)) {
     journal_.folder = folders_.reports;
     journal_.report = name_of(request.report_path);
-    journal_.replace = request.replace;
     journal_.content = mark_of(content_);
     result_.without_lock = !log.is_locked();
   }
@@ -252,13 +292,9 @@ class Save {
       return end(SaveOutcome::kReportFailed, FileError::kBadName);
     if (repaired_the_same()) return result_;
     if (result_.recovered.error != FileError::kNone)
-      return end(SaveOutcome::kLogbookFailed, result_.recovered.error, folders_.journal());
+      return end(SaveOutcome::kLogbookFailed, result_.recovered.error, result_.recovered.failed);
 
-    const platform::Look found = files_.look(request_.report_path);
-    if (found.there == There::kCannotTell) return end(SaveOutcome::kReportFailed, found.error);
-    if (found.there == There::kFile && !request_.replace)
-      return end(SaveOutcome::kAlreadyExists, FileError::kNone);
-
+    if (const auto refused = report_in_the_way()) return *refused;
     if (const FileError error = plan_line(); error != FileError::kNone)
       return end(SaveOutcome::kLogbookFailed, error);
     const auto staged = files_.stage(request_.report_path, content_);
@@ -272,7 +308,7 @@ class Save {
     if (const FileError error = log_.append(journal_.appended); error != FileError::kNone)
       return take_back(*staged.value, SaveOutcome::kLogbookFailed, error);
     const FileError error =
-        files_.commit(*staged.value, request_.replace ? Over::kReplace : Over::kRefuse);
+        files_.commit(*staged.value, journal_.replace ? Over::kReplace : Over::kRefuse);
     if (error == FileError::kExists)
       return take_back(*staged.value, SaveOutcome::kAlreadyExists, FileError::kNone);
     if (error != FileError::kNone)
@@ -284,7 +320,7 @@ class Save {
  private:
   /// True when the interrupted save was this very one and is finished now.
   bool repaired_the_same() {
-    const Repaired repaired = repair(files_, log_, folders_);
+    const Repaired repaired = repair(files_, log_, folders_, request_.leave_unreachable);
     result_.recovered = repaired.told;
     if (repaired.told.outcome != Recovered::kFinished || !repaired.journal) return false;
     const Journal& before = *repaired.journal;
@@ -293,8 +329,27 @@ class Save {
     if (before.report != journal_.report || before.content != journal_.content ||
         line != request_.logbook_line + std::string(kLineEnd))
       return false;
+    result_.closed_line = result_.recovered.closed_line;
     result_.recovered = {};
     return true;
+  }
+
+  /// How the save ends for the report that is there already; nothing when none is in the way.
+  std::optional<SaveResult> report_in_the_way() {
+    const platform::Look found = files_.look(request_.report_path);
+    if (found.there == There::kCannotTell) return end(SaveOutcome::kReportFailed, found.error);
+    journal_.replace = request_.replace;
+    if (found.there == There::kFile && request_.replace && request_.replaces) {
+      const auto content = files_.read(request_.report_path);
+      if (!content.ok()) return end(SaveOutcome::kReportFailed, content.error);
+      journal_.replace = *content.value == *request_.replaces;
+    } else if (request_.replaces) {
+      // It has gone; one that comes meanwhile is another one.
+      journal_.replace = false;
+    }
+    if (found.there == There::kFile && !journal_.replace)
+      return end(SaveOutcome::kAlreadyExists, FileError::kNone);
+    return std::nullopt;
   }
 
   /// A last line without its end is closed in the same write: the new one must not stick to it.
@@ -442,12 +497,20 @@ Recovery recover(platform::Files& files, const std::string& reports_folder,
   if (reports_folder.empty() || logbook_folder.empty()) return {};
   const Folders folders{platform::join(reports_folder, ""), platform::join(logbook_folder, "")};
   // What a living save has staged is cleared by nobody else who holds the lock.
-  const bool noted = files.look(folders.journal()).there != There::kNo;
+  const platform::Look note = files.look(folders.journal());
+  // Whoever saves is asked for the disk; without it nobody can tell whether anything was noted.
+  if (note.error == FileError::kMediumMissing) return {};
+  if (note.there == There::kCannotTell) return failed(note.error, folders.journal());
+  const bool noted = note.there != There::kNo;
   const bool logbook = files.look(logbook_path(logbook_folder)).there == There::kFile;
   if (!noted && (!logbook || !anything_staged(files, folders))) return {};
   const auto log = files.lock_log(logbook_path(logbook_folder));
-  if (!log.ok()) return failed(log.error);
-  return repair(files, **log.value, folders).told;
+  if (!log.ok()) {
+    // Staged files alone can wait, and whoever holds the logbook sees to what was noted.
+    if (!noted || log.error == FileError::kLocked) return {};
+    return failed(log.error, folders.log());
+  }
+  return repair(files, **log.value, folders, false).told;
 }
 
 std::uint64_t room_for(const SaveRequest& request) {
@@ -460,6 +523,14 @@ std::uint64_t room_for(const SaveRequest& request) {
   journal.appended = std::string(kLineEnd) + request.logbook_line + std::string(kLineEnd);
   journal.content = {kMost, kMost};
   return request.message.size() + journal.appended.size() + write_journal(journal).size();
+}
+
+bool is_saved(const platform::Files& files, const SaveRequest& request) {
+  const auto report = files.read(request.report_path);
+  if (!report.ok() || *report.value != report_file_content(request.message)) return false;
+  const auto log = files.read(request.logbook_path);
+  const std::string line = "\n" + request.logbook_line + std::string(kLineEnd);
+  return log.ok() && ("\n" + *log.value).find(line) != std::string::npos;
 }
 
 SaveResult save(platform::Files& files, const SaveRequest& request) {

@@ -19,7 +19,19 @@
 //   When 6 fails, the line is cut off again, the staged report and then the journal are removed;
 //   killed between these: as behind 4. When the cutting fails (kLineLeft), staged report and
 //   journal stay, as behind 5, and the next start or save goes on from there. A line whose report
-//   is neither in its place nor staged is never cut off: it was moved, or its drive is away.
+//   is neither in its place nor staged is never cut off: it was moved.
+//
+// Where the folder of that report cannot be reached now (its drive is away):
+//
+//   the logbook holds the whole line            the journal stays, with the line and whatever is
+//                                               staged there; each start tells it and tries again.
+//                                               A save writes nothing and says so, or goes on when
+//                                               it is asked to (leave_unreachable): the line then
+//                                               stays without its report, and the journal goes
+//   it holds a part of the line, or nothing     takes back: the report was never renamed, and what
+//                                               is staged there is cleared when it is back
+//
+// A journal that cannot be read stays as it is: a start tells it, and a save writes nothing.
 //
 // What a person sees as a save that failed and whose disk then came back is never saved twice: when
 // the repair finishes the very save that is asked for, save() has nothing more to do.
@@ -86,11 +98,16 @@ struct SaveRequest {
   std::string message;       ///< of encode_report()
   std::string logbook_line;  ///< of encode_logbook(), without line end
   bool replace = false;      ///< an existing report may be replaced
+  /// What that report held when somebody allowed it; when set, no other one is replaced (but for
+  /// one that a program without our lock puts there in the very moment of the rename).
+  std::optional<std::string> replaces = {};
+  /// An interrupted save whose report cannot be reached now is left with its line alone.
+  bool leave_unreachable = false;
 };
 
 enum class SaveOutcome {
   kSaved,
-  kAlreadyExists,  ///< the report exists and `replace` was not set; nothing was written
+  kAlreadyExists,  ///< the report exists and may not be replaced; nothing was written
   kReportFailed,   ///< the report could not be written; both files are as they were
   kLogbookFailed,  ///< the line could not be appended; both files are as they were
   kLineLeft,       ///< the save failed and the line, or a part of it, could not be taken back: the
@@ -111,14 +128,20 @@ struct Recovery {
   std::uint64_t line = 0;  ///< number of its line in the logbook, from 1
   /// Why it could be neither finished nor taken back now: everything is as it was found.
   platform::FileError error = platform::FileError::kNone;
+  std::string failed = {};  ///< the file or folder that it was; empty when none failed
+  /// With an error: all that is missing is the folder of its report; `report` and `line` are set.
+  bool unreachable = false;
+  std::uint64_t closed_line = 0;  ///< as in SaveResult, of the line that stands there now
 };
 
 /// Where recover() and save() put a journal that they do not trust.
 [[nodiscard]] std::string damaged_journal_path(const std::string& logbook_folder);
 
 /// Finishes or takes back what an interrupted save left in the two folders, and clears what dead
-/// processes staged there. Nothing happens where a folder is empty. Touches nothing but the
-/// logbook, the journal, staged files, and the report that the journal names in `reports_folder`.
+/// processes staged there. Nothing happens where a folder is empty, where the logbook's medium is
+/// missing, or while another program holds the logbook: the save of that program sees to it.
+/// Touches nothing but the logbook, the journal, staged files, and the report that the journal
+/// names, in `reports_folder` or in the folder of the journal.
 [[nodiscard]] Recovery recover(platform::Files& files, const std::string& reports_folder,
                                const std::string& logbook_folder);
 
@@ -135,7 +158,12 @@ struct SaveResult {
 /// Bytes that a save may need on one disk: both files' and what it notes beside the logbook.
 [[nodiscard]] std::uint64_t room_for(const SaveRequest& request);
 
-/// Writes both files, or neither. kLogbookFailed with kLocked: another program holds the logbook.
+/// True when both files hold already what such a save would write: the report in its place, and the
+/// line as a whole one anywhere in the logbook. False also when one cannot tell.
+[[nodiscard]] bool is_saved(const platform::Files& files, const SaveRequest& request);
+
+/// Writes both files, or neither. kLogbookFailed with kLocked: another program holds the logbook;
+/// with an error of `recovered`: what an interrupted save left is in the way.
 [[nodiscard]] SaveResult save(platform::Files& files, const SaveRequest& request);
 
 }  // namespace observation

@@ -198,6 +198,9 @@ class Claim {
   virtual ~Claim() = default;
   Claim(const Claim&) = delete;
   Claim& operator=(const Claim&) = delete;
+
+  /// False where the file system knows no locks: then nobody is kept out.
+  [[nodiscard]] virtual bool is_locked() const = 0;
 };
 
 class Files {
@@ -224,10 +227,10 @@ class Files {
   /// whole if it is there, and whose loss in a power failure does no harm. Costs one flush.
   [[nodiscard]] virtual FileError note(const std::string& path, std::string_view content) = 0;
 
-  /// Claims a place by the path of a file that says so and holds nothing. Null while another copy
-  /// of the program has it (or this one), or when no claim can be made there. However the program
-  /// ends, its claims end with it.
-  [[nodiscard]] virtual std::unique_ptr<Claim> claim(const std::string& path) = 0;
+  /// Claims a place by the path of a file that says so and holds nothing. kLocked while another
+  /// copy of the program has it (or this one), else why no claim can be made there. However the
+  /// program ends, its claims end with it.
+  [[nodiscard]] virtual Result<std::unique_ptr<Claim>> claim(const std::string& path) = 0;
 
   /// Takes the lock that every copy of the program respects, creating the file when there is none.
   /// Tried for a few seconds, then kLocked.

@@ -1,5 +1,6 @@
 #pragma once
-// Id of a text in the string table. A type of its own: a width or a bound is never taken for a text.
+// Id of a text in the string table. A type of its own: a width or a bound is never taken for a
+// text.
 
 #include <compare>
 #include <cstddef>

@@ -2,7 +2,7 @@
 // Names of the string table's ids, grouped as the table is. A name without a text stops the build.
 // Numbers from 33000 to 39999 and the label blocks of the main form and the observation items are
 // the program's historic ones; other blocks: 12xxx-14xxx labels by dialog, 15xxx menus, 40xxx-41xxx
-// messages.
+// messages, 43xxx code tables and the dialogs that show them.
 
 #include "text/id.h"
 
@@ -529,6 +529,430 @@ inline constexpr Id kVisibility200m{13418};
 inline constexpr Id kVisibility50m{13419};
 inline constexpr Id kVisibilityBelow{13420};
 
+// Code table 4677, ww: present weather. The lines of the dialog, each with its figures.
+inline constexpr Id kPresentWeather00{43000};
+inline constexpr Id kPresentWeather01{43001};
+inline constexpr Id kPresentWeather02{43002};
+inline constexpr Id kPresentWeather03{43003};
+inline constexpr Id kPresentWeather04{43004};
+inline constexpr Id kPresentWeather05{43005};
+inline constexpr Id kPresentWeather06{43006};
+inline constexpr Id kPresentWeather07{43007};
+inline constexpr Id kPresentWeather08{43008};
+inline constexpr Id kPresentWeather09{43009};
+inline constexpr Id kPresentWeather10{43010};
+inline constexpr Id kPresentWeather11{43011};
+inline constexpr Id kPresentWeather12{43012};
+inline constexpr Id kPresentWeather13{43013};
+inline constexpr Id kPresentWeather14{43014};
+inline constexpr Id kPresentWeather15{43015};
+inline constexpr Id kPresentWeather16{43016};
+inline constexpr Id kPresentWeather17{43017};
+inline constexpr Id kPresentWeather18{43018};
+inline constexpr Id kPresentWeather19{43019};
+inline constexpr Id kPresentWeather20{43020};
+inline constexpr Id kPresentWeather21{43021};
+inline constexpr Id kPresentWeather22{43022};
+inline constexpr Id kPresentWeather23{43023};
+inline constexpr Id kPresentWeather24{43024};
+inline constexpr Id kPresentWeather25{43025};
+inline constexpr Id kPresentWeather26{43026};
+inline constexpr Id kPresentWeather27{43027};
+inline constexpr Id kPresentWeather28{43028};
+inline constexpr Id kPresentWeather29{43029};
+inline constexpr Id kPresentWeather30{43030};
+inline constexpr Id kPresentWeather31{43031};
+inline constexpr Id kPresentWeather32{43032};
+inline constexpr Id kPresentWeather33{43033};
+inline constexpr Id kPresentWeather34{43034};
+inline constexpr Id kPresentWeather35{43035};
+inline constexpr Id kPresentWeather36{43036};
+inline constexpr Id kPresentWeather37{43037};
+inline constexpr Id kPresentWeather38{43038};
+inline constexpr Id kPresentWeather39{43039};
+inline constexpr Id kPresentWeather40{43040};
+inline constexpr Id kPresentWeather41{43041};
+inline constexpr Id kPresentWeather42{43042};
+inline constexpr Id kPresentWeather43{43043};
+inline constexpr Id kPresentWeather44{43044};
+inline constexpr Id kPresentWeather45{43045};
+inline constexpr Id kPresentWeather46{43046};
+inline constexpr Id kPresentWeather47{43047};
+inline constexpr Id kPresentWeather48{43048};
+inline constexpr Id kPresentWeather49{43049};
+inline constexpr Id kPresentWeather50{43050};
+inline constexpr Id kPresentWeather51{43051};
+inline constexpr Id kPresentWeather52{43052};
+inline constexpr Id kPresentWeather53{43053};
+inline constexpr Id kPresentWeather54{43054};
+inline constexpr Id kPresentWeather55{43055};
+inline constexpr Id kPresentWeather56{43056};
+inline constexpr Id kPresentWeather57{43057};
+inline constexpr Id kPresentWeather58{43058};
+inline constexpr Id kPresentWeather59{43059};
+inline constexpr Id kPresentWeather60{43060};
+inline constexpr Id kPresentWeather61{43061};
+inline constexpr Id kPresentWeather62{43062};
+inline constexpr Id kPresentWeather63{43063};
+inline constexpr Id kPresentWeather64{43064};
+inline constexpr Id kPresentWeather65{43065};
+inline constexpr Id kPresentWeather66{43066};
+inline constexpr Id kPresentWeather67{43067};
+inline constexpr Id kPresentWeather68{43068};
+inline constexpr Id kPresentWeather69{43069};
+inline constexpr Id kPresentWeather70{43070};
+inline constexpr Id kPresentWeather71{43071};
+inline constexpr Id kPresentWeather72{43072};
+inline constexpr Id kPresentWeather73{43073};
+inline constexpr Id kPresentWeather74{43074};
+inline constexpr Id kPresentWeather75{43075};
+inline constexpr Id kPresentWeather76{43076};
+inline constexpr Id kPresentWeather77{43077};
+inline constexpr Id kPresentWeather78{43078};
+inline constexpr Id kPresentWeather79{43079};
+inline constexpr Id kPresentWeather80{43080};
+inline constexpr Id kPresentWeather81{43081};
+inline constexpr Id kPresentWeather82{43082};
+inline constexpr Id kPresentWeather83{43083};
+inline constexpr Id kPresentWeather84{43084};
+inline constexpr Id kPresentWeather85{43085};
+inline constexpr Id kPresentWeather86{43086};
+inline constexpr Id kPresentWeather87{43087};
+inline constexpr Id kPresentWeather88{43088};
+inline constexpr Id kPresentWeather89{43089};
+inline constexpr Id kPresentWeather90{43090};
+inline constexpr Id kPresentWeather91{43091};
+inline constexpr Id kPresentWeather92{43092};
+inline constexpr Id kPresentWeather93{43093};
+inline constexpr Id kPresentWeather94{43094};
+inline constexpr Id kPresentWeather95{43095};
+inline constexpr Id kPresentWeather96{43096};
+inline constexpr Id kPresentWeather97{43097};
+inline constexpr Id kPresentWeather98{43098};
+inline constexpr Id kPresentWeather99{43099};
+
+// Code table 4561, W1W2: past weather
+inline constexpr Id kPastWeather0{43110};
+inline constexpr Id kPastWeather1{43111};
+inline constexpr Id kPastWeather2{43112};
+inline constexpr Id kPastWeather3{43113};
+inline constexpr Id kPastWeather4{43114};
+inline constexpr Id kPastWeather5{43115};
+inline constexpr Id kPastWeather6{43116};
+inline constexpr Id kPastWeather7{43117};
+inline constexpr Id kPastWeather8{43118};
+inline constexpr Id kPastWeather9{43119};
+inline constexpr Id kPastWeatherNotObserved{43120};
+
+// Code table 2700, N and Nh: cloud amount
+inline constexpr Id kCloudAmount0{43130};
+inline constexpr Id kCloudAmount1{43131};
+inline constexpr Id kCloudAmount2{43132};
+inline constexpr Id kCloudAmount3{43133};
+inline constexpr Id kCloudAmount4{43134};
+inline constexpr Id kCloudAmount5{43135};
+inline constexpr Id kCloudAmount6{43136};
+inline constexpr Id kCloudAmount7{43137};
+inline constexpr Id kCloudAmount8{43138};
+inline constexpr Id kCloudAmount9{43139};
+inline constexpr Id kCloudAmountUnknown{43140};
+inline constexpr Id kLowestCloudAmount2{43142};
+inline constexpr Id kLowestCloudAmount6{43146};
+
+// Code table 1600, h: height of the base of the lowest cloud
+inline constexpr Id kCloudBase0{43150};
+inline constexpr Id kCloudBase1{43151};
+inline constexpr Id kCloudBase2{43152};
+inline constexpr Id kCloudBase3{43153};
+inline constexpr Id kCloudBase4{43154};
+inline constexpr Id kCloudBase5{43155};
+inline constexpr Id kCloudBase6{43156};
+inline constexpr Id kCloudBase7{43157};
+inline constexpr Id kCloudBase8{43158};
+inline constexpr Id kCloudBase9{43159};
+inline constexpr Id kCloudBaseUnknown{43160};
+
+// Code table 0513, CL: low clouds
+inline constexpr Id kLowCloud0{43170};
+inline constexpr Id kLowCloud1{43171};
+inline constexpr Id kLowCloud2{43172};
+inline constexpr Id kLowCloud3{43173};
+inline constexpr Id kLowCloud4{43174};
+inline constexpr Id kLowCloud5{43175};
+inline constexpr Id kLowCloud6{43176};
+inline constexpr Id kLowCloud7{43177};
+inline constexpr Id kLowCloud8{43178};
+inline constexpr Id kLowCloud9{43179};
+inline constexpr Id kLowCloudUnknown{43180};
+
+// Code table 0515, CM: medium clouds
+inline constexpr Id kMiddleCloud0{43190};
+inline constexpr Id kMiddleCloud1{43191};
+inline constexpr Id kMiddleCloud2{43192};
+inline constexpr Id kMiddleCloud3{43193};
+inline constexpr Id kMiddleCloud4{43194};
+inline constexpr Id kMiddleCloud5{43195};
+inline constexpr Id kMiddleCloud6{43196};
+inline constexpr Id kMiddleCloud7{43197};
+inline constexpr Id kMiddleCloud8{43198};
+inline constexpr Id kMiddleCloud9{43199};
+inline constexpr Id kMiddleCloudUnknown{43200};
+
+// Code table 0509, CH: high clouds
+inline constexpr Id kHighCloud0{43210};
+inline constexpr Id kHighCloud1{43211};
+inline constexpr Id kHighCloud2{43212};
+inline constexpr Id kHighCloud3{43213};
+inline constexpr Id kHighCloud4{43214};
+inline constexpr Id kHighCloud5{43215};
+inline constexpr Id kHighCloud6{43216};
+inline constexpr Id kHighCloud7{43217};
+inline constexpr Id kHighCloud8{43218};
+inline constexpr Id kHighCloud9{43219};
+inline constexpr Id kHighCloudUnknown{43220};
+
+// Code table 1751, Is: cause of ice accretion
+inline constexpr Id kIcingCause1{43231};
+inline constexpr Id kIcingCause2{43232};
+inline constexpr Id kIcingCause3{43233};
+inline constexpr Id kIcingCause4{43234};
+inline constexpr Id kIcingCause5{43235};
+
+// Code table 3551, Rs: rate of ice accretion
+inline constexpr Id kIcingRate0{43240};
+inline constexpr Id kIcingRate1{43241};
+inline constexpr Id kIcingRate2{43242};
+inline constexpr Id kIcingRate3{43243};
+inline constexpr Id kIcingRate4{43244};
+
+// Code table 0639, ci: concentration or arrangement of sea ice
+inline constexpr Id kIceConcentration0{43250};
+inline constexpr Id kIceConcentration1{43251};
+inline constexpr Id kIceConcentration2{43252};
+inline constexpr Id kIceConcentration3{43253};
+inline constexpr Id kIceConcentration4{43254};
+inline constexpr Id kIceConcentration5{43255};
+inline constexpr Id kIceConcentration6{43256};
+inline constexpr Id kIceConcentration7{43257};
+inline constexpr Id kIceConcentration8{43258};
+inline constexpr Id kIceConcentration9{43259};
+inline constexpr Id kIceConcentrationNotReported{43260};
+
+// Code table 3739, Si: stage of development of sea ice
+inline constexpr Id kIceStage0{43270};
+inline constexpr Id kIceStage1{43271};
+inline constexpr Id kIceStage2{43272};
+inline constexpr Id kIceStage3{43273};
+inline constexpr Id kIceStage4{43274};
+inline constexpr Id kIceStage5{43275};
+inline constexpr Id kIceStage6{43276};
+inline constexpr Id kIceStage7{43277};
+inline constexpr Id kIceStage8{43278};
+inline constexpr Id kIceStage9{43279};
+inline constexpr Id kIceStageNotReported{43280};
+
+// Code table 0439, bi: ice of land origin
+inline constexpr Id kLandIce0{43290};
+inline constexpr Id kLandIce1{43291};
+inline constexpr Id kLandIce2{43292};
+inline constexpr Id kLandIce3{43293};
+inline constexpr Id kLandIce4{43294};
+inline constexpr Id kLandIce5{43295};
+inline constexpr Id kLandIce6{43296};
+inline constexpr Id kLandIce7{43297};
+inline constexpr Id kLandIce8{43298};
+inline constexpr Id kLandIce9{43299};
+inline constexpr Id kLandIceNotReported{43300};
+
+// Code table 0739, Di: bearing of the principal ice edge
+inline constexpr Id kIceEdge0{43310};
+inline constexpr Id kIceEdge1{43311};
+inline constexpr Id kIceEdge2{43312};
+inline constexpr Id kIceEdge3{43313};
+inline constexpr Id kIceEdge4{43314};
+inline constexpr Id kIceEdge5{43315};
+inline constexpr Id kIceEdge6{43316};
+inline constexpr Id kIceEdge7{43317};
+inline constexpr Id kIceEdge8{43318};
+inline constexpr Id kIceEdge9{43319};
+inline constexpr Id kIceEdgeNotReported{43320};
+
+// Code table 5239, zi: ice situation and trend
+inline constexpr Id kIceTrend0{43330};
+inline constexpr Id kIceTrend1{43331};
+inline constexpr Id kIceTrend2{43332};
+inline constexpr Id kIceTrend3{43333};
+inline constexpr Id kIceTrend4{43334};
+inline constexpr Id kIceTrend5{43335};
+inline constexpr Id kIceTrend6{43336};
+inline constexpr Id kIceTrend7{43337};
+inline constexpr Id kIceTrend8{43338};
+inline constexpr Id kIceTrend9{43339};
+inline constexpr Id kIceTrendNotReported{43340};
+
+// Code table 1855, iw: source and unit of the wind speed
+inline constexpr Id kWindSource0{43350};
+inline constexpr Id kWindSource1{43351};
+inline constexpr Id kWindSource3{43353};
+inline constexpr Id kWindSource4{43354};
+
+// Code table 3333, Qc: quadrant of the globe
+inline constexpr Id kQuadrant1{43361};
+inline constexpr Id kQuadrant3{43363};
+inline constexpr Id kQuadrant5{43365};
+inline constexpr Id kQuadrant7{43367};
+
+// Code table 3845, sn: sign of the air temperature and the dew point
+inline constexpr Id kTemperatureSign0{43370};
+inline constexpr Id kTemperatureSign1{43371};
+inline constexpr Id kTemperatureSign9{43379};
+
+// Code table 3850, ss: sign and type of measurement of the sea temperature
+inline constexpr Id kSeaTemperatureSign0{43380};
+inline constexpr Id kSeaTemperatureSign1{43381};
+inline constexpr Id kSeaTemperatureSign2{43382};
+inline constexpr Id kSeaTemperatureSign3{43383};
+inline constexpr Id kSeaTemperatureSign4{43384};
+inline constexpr Id kSeaTemperatureSign5{43385};
+inline constexpr Id kSeaTemperatureSign6{43386};
+inline constexpr Id kSeaTemperatureSign7{43387};
+
+// Code table 3855, sw: sign and type of the wet-bulb temperature
+inline constexpr Id kWetBulbSign0{43390};
+inline constexpr Id kWetBulbSign1{43391};
+inline constexpr Id kWetBulbSign2{43392};
+inline constexpr Id kWetBulbSign5{43395};
+inline constexpr Id kWetBulbSign6{43396};
+inline constexpr Id kWetBulbSign7{43397};
+
+// Code table 0877, dd, dw1dw1 and dw2dw2: directions in tens of degrees
+inline constexpr Id kDirectionCalm{43400};
+inline constexpr Id kDirectionDegrees{43401};
+inline constexpr Id kDirectionVariable{43402};
+inline constexpr Id kSwellDirectionNotObserved{43403};
+
+// Code table 4377, VV: the visibilities that the dialog does not offer
+inline constexpr Id kVisibilityUnder100m{43410};
+inline constexpr Id kVisibilityKilometres{43411};
+inline constexpr Id kVisibilityOver70km{43412};
+
+// Code table 1819, iR: where the amount of precipitation is
+inline constexpr Id kPrecipitationData0{43420};
+inline constexpr Id kPrecipitationData1{43421};
+inline constexpr Id kPrecipitationData2{43422};
+inline constexpr Id kPrecipitationData3{43423};
+inline constexpr Id kPrecipitationData4{43424};
+
+// Code table 1860, iX: kind of station, and whether present and past weather are reported
+inline constexpr Id kWeatherData1{43430};
+inline constexpr Id kWeatherData2{43431};
+inline constexpr Id kWeatherData3{43432};
+inline constexpr Id kWeatherData4{43433};
+inline constexpr Id kWeatherData5{43434};
+inline constexpr Id kWeatherData6{43435};
+inline constexpr Id kWeatherData7{43436};
+
+// CNowWeatherDlg
+inline constexpr Id kPresentWeatherTitle{43500};
+inline constexpr Id kPrecipitationNow{43501};
+inline constexpr Id kNoPrecipitationNow{43502};
+inline constexpr Id kPresentWeatherNotObserved{43503};
+inline constexpr Id kPresentWeatherGroup95{43510};
+inline constexpr Id kPresentWeatherGroup91{43511};
+inline constexpr Id kPresentWeatherGroup85{43512};
+inline constexpr Id kPresentWeatherGroup80{43513};
+inline constexpr Id kPresentWeatherGroup70{43514};
+inline constexpr Id kPresentWeatherGroup60{43515};
+inline constexpr Id kPresentWeatherGroup50{43516};
+inline constexpr Id kPresentWeatherGroup40{43517};
+inline constexpr Id kPresentWeatherGroup30{43518};
+inline constexpr Id kPresentWeatherGroup20{43519};
+inline constexpr Id kPresentWeatherGroup18{43520};
+inline constexpr Id kPresentWeatherGroup17{43521};
+inline constexpr Id kPresentWeatherGroup13{43522};
+inline constexpr Id kPresentWeatherGroup10{43523};
+inline constexpr Id kPresentWeatherGroup04{43524};
+inline constexpr Id kPresentWeatherGroup00{43525};
+
+// CPastWeatherDlg1
+inline constexpr Id kPastWeatherTitle{43530};
+inline constexpr Id kPastWeatherHint{43531};
+inline constexpr Id kPastWeatherHeading{43532};
+inline constexpr Id kPastWeatherGroup{43533};
+
+// CCloudAgeDlg
+inline constexpr Id kTotalCloudTitle{43540};
+inline constexpr Id kTotalCloudHeading{43541};
+inline constexpr Id kTotalCloudGroup{43542};
+
+// CBottomLayerCloudDlg
+inline constexpr Id kLowestCloudTitle{43545};
+inline constexpr Id kLowestCloudHeading{43546};
+
+// CCloudHeightDlg
+inline constexpr Id kCloudBaseTitle{43550};
+inline constexpr Id kCloudBaseHeading{43551};
+inline constexpr Id kCloudBaseGroup{43552};
+
+// CBottomCloudDlg, CMidCloudDlg, CTopCloudDlg
+inline constexpr Id kLowCloudTitle{43555};
+inline constexpr Id kMiddleCloudTitle{43556};
+inline constexpr Id kHighCloudTitle{43557};
+
+// CWindDlg (wind waves)
+inline constexpr Id kWindWaveTitle{43560};
+inline constexpr Id kWindWaveObservation{43561};
+inline constexpr Id kNoWindWave{43562};
+inline constexpr Id kWavesNotObserved{43563};
+inline constexpr Id kWindWave{43564};
+inline constexpr Id kWavePeriod{43565};
+inline constexpr Id kWindWaveHeight{43566};
+inline constexpr Id kReferenceWave{43567};
+inline constexpr Id kReferenceWaveHeight{43568};
+inline constexpr Id kWavePeriodUnknown{43569};
+inline constexpr Id kWavePeriodConfused{43570};
+inline constexpr Id kWindWaveHeightUnknown{43571};
+inline constexpr Id kWindWaveHeightSmallest{43572};
+inline constexpr Id kWaveNumberCaption{43573};
+
+// CSwellWaveDlg
+inline constexpr Id kSwellTitle{43580};
+inline constexpr Id kTwoSwells{43581};
+inline constexpr Id kOneSwell{43582};
+inline constexpr Id kNoSwell{43583};
+inline constexpr Id kSwellObservation{43584};
+inline constexpr Id kSwell1{43585};
+inline constexpr Id kSwell2{43586};
+inline constexpr Id kSwellDirection{43587};
+inline constexpr Id kSwellHeight{43588};
+inline constexpr Id kSwellDirectionIsUnknown{43589};
+inline constexpr Id kSwellHeightUnknown{43590};
+inline constexpr Id kSwellDirectionGroup{43591};
+inline constexpr Id kSwellPeriodFromLength{43592};
+inline constexpr Id kSwellHeightSmallest{43593};
+inline constexpr Id kSwellNumberNeededCaption{43594};
+inline constexpr Id kSwellRangeCaption{43595};
+inline constexpr Id kSwellPairCaption{43596};
+inline constexpr Id kSwell2DirectionMustBeUnknown{43597};
+
+// CSeaIceDialog (ice accretion)
+inline constexpr Id kIcingTitle{43600};
+inline constexpr Id kIcingCauseGroup{43601};
+inline constexpr Id kIcingThickness{43602};
+inline constexpr Id kIcingRateHeading{43603};
+inline constexpr Id kIcingRateGroup{43604};
+
+// CICECiDlg, CICESiBiDlg, CICEDiDlg, CNewZiDlg (sea ice)
+inline constexpr Id kIceConcentrationTitle{43610};
+inline constexpr Id kIceBeyondHalfMile{43611};
+inline constexpr Id kIceWithinHalfMile{43612};
+inline constexpr Id kIceUniform{43613};
+inline constexpr Id kIceNotUniform{43614};
+inline constexpr Id kIceConcentrationList{43615};
+inline constexpr Id kIceStageTitle{43620};
+inline constexpr Id kIceEdgeTitle{43621};
+inline constexpr Id kIceTrendTitle{43622};
+
 // CSeaSurfacePressureDlg
 inline constexpr Id kPressureTitle{13500};
 inline constexpr Id kPressureReadingGroup{13501};
@@ -652,6 +1076,9 @@ inline constexpr Id kSaveLineWithoutReport{42506};
 inline constexpr Id kSaveNoteDamaged{42507};
 inline constexpr Id kSaveLineLeft{42508};
 inline constexpr Id kLogbookLineClosed{42509};
+inline constexpr Id kSaveNotRecovered{42635};
+inline constexpr Id kSaveUnreachable{42636};
+inline constexpr Id kAskLeaveUnreachable{42637};
 
 // Entries that outlive the program
 inline constexpr Id kDraftFound{42580};
@@ -668,5 +1095,7 @@ inline constexpr Id kDraftOtherShip{42590};
 inline constexpr Id kDraftAside{42591};
 inline constexpr Id kDraftStays{42592};
 inline constexpr Id kDraftNotKept{42593};
+inline constexpr Id kDraftUnreadable{42630};
+inline constexpr Id kDraftWithoutLock{42631};
 
 }  // namespace text::id

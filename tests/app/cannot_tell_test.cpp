@@ -12,8 +12,8 @@
 #include "app/CVelmaranApp.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
-#include "ship/data/ship_files.h"
 #include "fakes/sample_ship.h"
+#include "ship/data/ship_files.h"
 #include "text/ids.h"
 
 namespace {

@@ -266,19 +266,27 @@ FileError FakeFiles::note(const std::string& path, std::string_view content) {
   return end(error);
 }
 
-std::unique_ptr<platform::Claim> FakeFiles::claim(const std::string& path) {
+platform::Result<std::unique_ptr<platform::Claim>> FakeFiles::claim(const std::string& path) {
   struct Claimed : platform::Claim {
-    Claimed(std::set<std::string>& all, std::string claimed)
-        : all_(all), key_(std::move(claimed)) {}
-    ~Claimed() override { all_.erase(key_); }
+    Claimed(std::set<std::string>& all, std::string claimed, bool locked)
+        : all_(all), key_(std::move(claimed)), locked_(locked) {}
+    ~Claimed() override {
+      if (locked_) all_.erase(key_);
+    }
     Claimed(const Claimed&) = delete;
     Claimed& operator=(const Claimed&) = delete;
+    [[nodiscard]] bool is_locked() const override { return locked_; }
     std::set<std::string>& all_;
     std::string key_;
+    bool locked_;
   };
+  if (const auto at = path_errors_.find(key(path)); at != path_errors_.end()) return at->second;
   const Node* const folder = find(parent(key(path)));
-  if (folder == nullptr || folder->read_only || !claimed_.insert(key(path)).second) return nullptr;
-  return std::make_unique<Claimed>(claimed_, key(path));
+  if (folder == nullptr) return FileError::kNotFound;
+  if (folder->read_only) return FileError::kAccessDenied;
+  if (!lockless_ && !claimed_.insert(key(path)).second) return FileError::kLocked;
+  return platform::Result<std::unique_ptr<platform::Claim>>(
+      std::make_unique<Claimed>(claimed_, key(path), !lockless_));
 }
 
 /// The logbook as it lies in the fake.

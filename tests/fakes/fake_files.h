@@ -113,8 +113,9 @@ class FakeFiles : public platform::Files {
     return process == process_;
   }
   [[nodiscard]] platform::Look look(const std::string& path) const override;
-  /// Null in a folder that is read-only or not there. A claim leaves no file.
-  [[nodiscard]] std::unique_ptr<platform::Claim> claim(const std::string& path) override;
+  /// An error in a folder that is read-only or not there. A claim leaves no file.
+  [[nodiscard]] platform::Result<std::unique_ptr<platform::Claim>> claim(
+      const std::string& path) override;
   [[nodiscard]] std::optional<platform::DateTime> modified(const std::string& path) const override;
   [[nodiscard]] platform::Result<std::vector<platform::FolderEntry>> list(
       const std::string& folder) const override;

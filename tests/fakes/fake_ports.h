@@ -147,8 +147,9 @@ class NoFiles : public platform::Files {
       const std::string&) override {
     return platform::FileError::kAccessDenied;
   }
-  [[nodiscard]] std::unique_ptr<platform::Claim> claim(const std::string&) override {
-    return nullptr;
+  [[nodiscard]] platform::Result<std::unique_ptr<platform::Claim>> claim(
+      const std::string&) override {
+    return platform::FileError::kAccessDenied;
   }
   [[nodiscard]] bool is_running(std::uint64_t) const override { return true; }
   [[nodiscard]] platform::Look look(const std::string&) const override { return {}; }

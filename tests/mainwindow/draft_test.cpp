@@ -10,6 +10,7 @@
 
 #include "elements/form/field_editors.h"
 #include "mainwindow/draft_keeper.h"
+#include "text/reasons.h"
 #include "window.h"
 
 namespace {
@@ -417,7 +418,10 @@ TEST(KeptEntries, ThatCannotBeKeptAreToldOfOnce) {
       [](Computer& c) { c.files.set_free_space('C', 100); },
       [](Computer& c) { c.files.set_read_only("C:\\kavrel\\file"); },
       [](Computer& c) { c.folders.drafts = "C:\\nowhere"; },
-      [](Computer& c) { c.files.add_folder(kDraft); },
+      [](Computer& c) {
+        for (char number = '1'; number <= '9'; ++number)
+          c.files.add_folder(std::string("C:\\kavrel\\file\\DRAFT") + number + ".DAT");
+      },
   };
   for (const auto& harm : obstacles) {
     SCOPED_TRACE(&harm - obstacles);
@@ -433,6 +437,115 @@ TEST(KeptEntries, ThatCannotBeKeptAreToldOfOnce) {
     copy.window.idle();
     copy.window.idle();
     EXPECT_EQ(copy.world.windows.boxes.size(), 1U);
+  }
+}
+
+TEST(KeptEntries, PassOverANumberThatIsNoFile) {
+  const std::function<void(Computer&)> in_the_way[] = {
+      [](Computer& c) { c.files.add_folder(kDraft); },
+      [](Computer& c) { c.files.add_other(kDraft); },
+  };
+  for (const auto& put : in_the_way) {
+    SCOPED_TRACE(&put - in_the_way);
+    Computer computer;
+    put(computer);
+    const auto before = computer.files.look(kDraft).there;
+    {
+      Copy copy(computer);
+      copy.start();  // the fake windows fail on any message
+      copy.type("VV", "97");
+      copy.window.idle();
+    }
+    EXPECT_EQ(computer.files.look(kDraft).there, before);
+    EXPECT_EQ(computer.files.look(kBad).there, platform::There::kNo);
+    Copy next(computer);
+    next.world.windows.expect(id::kDraftFound, "yes");
+    next.start();
+    EXPECT_EQ(next.shown("VV"), "97");
+  }
+}
+
+// What cannot be read now is not damaged: a later start may be able to.
+TEST(KeptEntries, ThatCannotBeReadAreNamedWithTheReasonAndStayForALaterStart) {
+  struct Case {
+    const char* what;
+    std::function<void(Computer&)> harm;
+    FileError reason;
+  };
+  constexpr const char* kClaim = "C:\\kavrel\\file\\DRAFT1.LCK";
+  const Case cases[] = {
+      {"read", [](Computer& c) { c.files.fail_path(kDraft, FileError::kOther); },
+       FileError::kOther},
+      {"rights", [](Computer& c) { c.files.fail_path(kDraft, FileError::kAccessDenied); },
+       FileError::kAccessDenied},
+      {"look", [](Computer& c) { c.files.fail_look(kDraft, FileError::kBadLink); },
+       FileError::kBadLink},
+      {"claim", [](Computer& c) { c.files.fail_path(kClaim, FileError::kAccessDenied); },
+       FileError::kAccessDenied},
+  };
+  for (const Case& c : cases) {
+    for (const bool japanese : {false, true}) {
+      SCOPED_TRACE(c.what);
+      Computer computer;
+      leave_behind(computer);
+      const auto draft = computer.files.content(kDraft);
+      c.harm(computer);
+      {
+        Copy next(computer);
+        if (japanese) next.world.japanese();
+        next.world.windows.expect(id::kDraftUnreadable);
+        next.start();
+        const std::string& text = next.world.windows.boxes.at(0).text;
+        EXPECT_NE(text.find(kDraft), std::string::npos) << text;
+        EXPECT_NE(text.find(next.world.texts.get(text::reason_of(c.reason))), std::string::npos)
+            << text;
+        EXPECT_EQ(next.shown("YY"), "");
+        next.type("VV", "97");
+        next.window.idle();
+        next.window.idle();
+      }
+      computer.files.heal();
+      EXPECT_EQ(computer.files.content(kDraft), draft) << "neither renamed nor written over";
+      EXPECT_EQ(computer.files.content(kBad), std::nullopt);
+      EXPECT_NE(computer.files.content(kSecond).value_or("").find("record.VV=97\n"),
+                std::string::npos);
+      Copy later(computer);
+      later.world.windows.expect(id::kDraftFound, "yes");
+      later.start();
+      EXPECT_EQ(later.shown("reading"), "1010.8");
+    }
+  }
+}
+
+TEST(KeptEntries, OnADriveWithoutLocksAreKeptAndOffered) {
+  for (const bool japanese : {false, true}) {
+    Computer computer;
+    computer.files.set_lockless();
+    {
+      Copy copy(computer);
+      if (japanese) copy.world.japanese();
+      copy.start();
+      copy.type("VV", "97");
+      copy.world.windows.expect(id::kDraftWithoutLock);
+      copy.window.idle();
+      EXPECT_NE(copy.world.windows.boxes.at(0).text.find(kDraft), std::string::npos);
+      copy.type("N", "5");
+      copy.window.idle();
+      EXPECT_EQ(copy.world.windows.boxes.size(), 1U) << "told once";
+    }
+    EXPECT_NE(computer.files.content(kDraft), std::nullopt);
+    Copy next(computer);
+    if (japanese) next.world.japanese();
+    next.world.windows.expect(id::kDraftWithoutLock);
+    next.world.windows.expect(id::kDraftFound, "yes");
+    next.start();
+    EXPECT_EQ(next.shown("VV"), "97");
+    EXPECT_EQ(next.shown("N"), "5");
+    next.type("VV", "98");
+    next.window.idle();
+    EXPECT_EQ(next.world.windows.boxes.size(), 2U) << "told once";
+    EXPECT_NE(computer.files.content(kDraft).value_or("").find("record.VV=98\n"),
+              std::string::npos);
   }
 }
 
@@ -506,6 +619,142 @@ TEST(KeptEntries, OfASaveThatTheStartHasFinishedAreNotOfferedAgain) {
   next.world.windows.verify();
   EXPECT_EQ(next.shown("YY"), "");
   EXPECT_TRUE(computer.files.content(kOld)) << "put aside, not lost";
+}
+
+// ---- The program ended between the save and the removal of the draft
+
+constexpr const char* kReportFile = "C:\\out\\14111512.tlx";
+constexpr const char* kLogbookFile = "C:\\log\\immt5.log";
+
+/// Saves with whatever is missing, to leave the program.
+void save(Copy& copy, bool told) {
+  copy.world.windows.expect(id::kAskSaveOnExit, "yes");
+  copy.world.windows.expect_screen("CSaveErrorInfoDlg",
+                                   [](ui::Screen& list) { list.press(*list.find("save_as")); });
+  if (told) copy.world.windows.expect(id::kSaved);
+  copy.window.close_box();
+}
+
+/// An observation of 2014-11-15 12 UTC, saved by a copy that was killed before it removed the
+/// draft.
+void kill_behind_the_save(Computer& computer) {
+  int removal = 0;
+  for (const bool kill : {false, true}) {
+    FakeFiles before = computer.files;
+    Copy copy(computer);
+    copy.start();
+    for (const auto& [name, text] : {std::pair{"Year", "2014"},
+                                     {"Month", "11"},
+                                     {"YY", "15"},
+                                     {"GG", "12"},
+                                     {"VV", "97"},
+                                     {"relative_humidity", "53"}})
+      copy.type(name, text);
+    copy.window.idle();
+    if (kill) {
+      computer.files.kill_before(removal);
+      EXPECT_THROW(save(copy, false), FakeFiles::Killed);
+      computer.files.heal();
+      computer.files.restart();
+      return;
+    }
+    const int done = computer.files.operations();
+    save(copy, true);
+    const auto& log = computer.files.log();
+    for (int n = done; n < computer.files.operations(); ++n)
+      if (log[static_cast<std::size_t>(n)] == std::string("remove ") + kDraft)
+        removal = n - done + 1;
+    EXPECT_GT(removal, 0);
+    computer.files = before;
+  }
+}
+
+TEST(SavedEntries, WhoseDraftAKillLeftAreNotOfferedAsUnsaved) {
+  Computer computer;
+  kill_behind_the_save(computer);
+  ASSERT_TRUE(computer.files.content(kReportFile));
+  ASSERT_TRUE(computer.files.content(kDraft));
+  const auto report = computer.files.content(kReportFile);
+  const auto logbook = computer.files.content(kLogbookFile);
+  Copy next(computer);
+  next.start();  // the fake windows fail on any question
+  EXPECT_FALSE(next.window.unsaved());
+  EXPECT_EQ(computer.files.content(kDraft), std::nullopt);
+  EXPECT_EQ(computer.files.content(kOld), std::nullopt);
+  EXPECT_EQ(computer.files.content(kReportFile), report);
+  EXPECT_EQ(computer.files.content(kLogbookFile), logbook);
+  next.type("N", "5");
+  next.window.idle();
+  EXPECT_NE(computer.files.content(kDraft), std::nullopt) << "its number is used again";
+}
+
+TEST(SavedEntries, AreOfferedWhenAnythingOfThemIsNotWrittenAsItWouldBeNow) {
+  // Changes a draft that is taken over again before the copy is killed once more.
+  const auto changed = [](const char* name, const char* text, bool leave) {
+    return [=](Computer& c) {
+      const auto saved = c.files.content(kReportFile);
+      c.files.add_file(kReportFile, "BBXX OTHER");
+      {
+        Copy copy(c);
+        copy.world.windows.expect(id::kDraftFound, "yes");
+        copy.start();
+        ASSERT_TRUE(fakes::enter(copy.window, *copy.window.find(name), text));
+        if (leave) copy.window.key(ui::Key::kTab);
+        copy.window.idle();
+      }
+      c.files.add_file(kReportFile, *saved);
+    };
+  };
+  const struct {
+    const char* what;
+    std::function<void(Computer&)> change;
+  } rows[] = {
+      {"no report", [](Computer& c) { (void)c.files.remove(kReportFile); }},
+      {"another report", [](Computer& c) { c.files.add_file(kReportFile, "BBXX OTHER"); }},
+      {"unreadable report", [](Computer& c) { c.files.fail_path(kReportFile, FileError::kOther); }},
+      {"no logbook", [](Computer& c) { (void)c.files.remove(kLogbookFile); }},
+      {"another line", [](Computer& c) { c.files.add_file(kLogbookFile, "LINE\n"); }},
+      {"a line without its end",
+       [](Computer& c) {
+         std::string log = *c.files.content(kLogbookFile);
+         log.pop_back();
+         c.files.add_file(kLogbookFile, log);
+       }},
+      {"no folder", [](Computer& c) { c.folders.logbook.clear(); }},
+      {"an entry of the report", changed("VV", "98", true)},
+      {"an entry of the logbook alone", changed("relative_humidity", "60", true)},
+      {"an entry that is in neither file yet",
+       [](Computer& c) {
+         c.files.set_modified(kDraft, {2014, 11, 15, 12, 0, 1});
+       }},
+      {"an entry that is being typed", changed("N", "5", false)},
+      {"another ship's data", [](Computer& c) { c.ship.imo_number = "7654321"; }},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.what);
+    Computer computer;
+    kill_behind_the_save(computer);
+    row.change(computer);
+    Copy next(computer);
+    next.world.windows.expect(id::kDraftFound, "yes");
+    next.start();
+    next.world.windows.verify();
+    EXPECT_TRUE(next.window.unsaved());
+    EXPECT_NE(computer.files.content(kDraft), std::nullopt);
+  }
+}
+
+TEST(SavedEntries, WhoseDraftCannotBeRemovedStayAndStopNothing) {
+  Computer computer;
+  kill_behind_the_save(computer);
+  computer.files.set_read_only(kDraft);
+  const auto draft = computer.files.content(kDraft);
+  Copy next(computer);
+  next.start();
+  next.type("N", "5");
+  next.window.idle();
+  EXPECT_EQ(computer.files.content(kDraft), draft);
+  EXPECT_NE(computer.files.content(kSecond), std::nullopt);
 }
 
 // A text that was changed by hand cannot give the observation another ship.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 #include "elements/CSaveErrorInfoDlg.h"
@@ -442,6 +443,120 @@ TEST(SaveFlow, AReportThatAppearsMeanwhileIsAskedAbout) {
   no.files.fail_next(FakeFiles::Operation::kCommit, FileError::kExists);
   no.world.windows.expect(id::kAskReplaceReport, "no");
   no.expect_nothing_written(SaveEnd::kNotSaved);
+}
+
+// A report that another program has put there since is never replaced unasked.
+TEST(SaveFlow, AYesIsForTheReportThatWasAskedAbout) {
+  for (const char* const answer : {"yes", "no"}) {
+    Save s;
+    s.files.add_file(kReport, "BBXX FIRST");
+    s.files.fail_next(FakeFiles::Operation::kLock, FileError::kLocked);
+    s.world.windows.expect(id::kAskReplaceReport, "yes");
+    s.world.windows.expect(id::kLogbookLocked, "retry");
+    s.world.windows.while_open = [&] {
+      if (s.world.windows.boxes.back().text_id == id::kLogbookLocked)
+        s.files.add_file(kReport, "BBXX OF ANOTHER");
+    };
+    s.world.windows.expect(id::kAskReplaceReport, answer);
+    const bool yes = answer == std::string_view("yes");
+    if (yes) s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), yes ? SaveEnd::kSaved : SaveEnd::kNotSaved);
+    s.world.windows.verify();
+    EXPECT_EQ(s.files.content(kReport), yes ? s.message() : "BBXX OF ANOTHER");
+    EXPECT_EQ(s.logbook(), yes ? s.line() : "none");
+  }
+}
+
+/// Leaves a save of a report on drive E: that was killed before its last rename, and takes the
+/// drive away.
+void interrupt_on_a_drive(Save& s) {
+  s.files.add_folder("E:\\out");
+  const observation::SaveRequest request = {"E:\\out\\14111506.tlx", kLogbook, "BBXX", "LINE"};
+  FakeFiles trial = s.files;
+  (void)observation::save(trial, request);
+  const auto at = std::find_if(trial.log().begin(), trial.log().end(),
+                               [](const auto& done) { return done.starts_with("commit"); });
+  s.files.kill_before(static_cast<int>(at - trial.log().begin()) + 1);
+  EXPECT_THROW((void)observation::save(s.files, request), FakeFiles::Killed);
+  s.files.heal();
+  s.files.restart();
+  s.files.set_medium_missing('E');
+}
+
+TEST(SaveFlow, AnInterruptedSaveWhoseDriveIsAwayIsToldAtTheStartAndAskedAboutBeforeASave) {
+  for (const text::Language language : kLanguages) {
+    Save s;
+    s.world.texts.language = language;
+    interrupt_on_a_drive(s);
+    const std::string reason(s.world.texts.get(text::reason_of(FileError::kMediumMissing)));
+    const auto before = s.files.snapshot();
+    s.world.windows.expect(id::kSaveUnreachable);
+    EXPECT_EQ(mainwindow::recover_save(s.world.services, s.folders), "");
+    EXPECT_EQ(s.files.snapshot(), before);
+    for (const char* const answer : {"no", "close"}) {
+      s.world.windows.expect(id::kAskLeaveUnreachable, answer);
+      s.world.windows.expect(id::kSaveCancelled);
+      s.expect_nothing_written(SaveEnd::kNotSaved);
+    }
+    s.world.windows.expect(id::kAskLeaveUnreachable, "yes");
+    s.world.windows.expect(id::kSaveLineWithoutReport);
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), SaveEnd::kSaved);
+    s.world.windows.verify();
+    EXPECT_EQ(s.logbook(), "LINE\n" + s.line());
+    EXPECT_EQ(s.files.content(kReport), s.message());
+    for (const platform::MessageBox& box : s.world.windows.boxes)
+      if (box.text_id == id::kSaveUnreachable || box.text_id == id::kAskLeaveUnreachable)
+        expect_words(box, box.text_id, language, {"14111506.tlx", "1", "E:\\out\\", reason});
+  }
+}
+
+TEST(SaveFlow, AJournalThatCannotBeReadIsToldAtTheStartWithFileAndReason) {
+  constexpr const char* kJournal = "C:\\log\\.kavrel-save";
+  const std::function<FileError(Save&)> troubles[] = {
+      [](Save& s) {
+        s.files.fail_look(kJournal, FileError::kBadLink);
+        return FileError::kBadLink;
+      },
+      [](Save& s) {
+        s.files.fail_path(kJournal, FileError::kAccessDenied);
+        return FileError::kAccessDenied;
+      },
+      [](Save& s) {
+        s.files.fail_path(kJournal, FileError::kOther);
+        return FileError::kOther;
+      },
+  };
+  for (const text::Language language : kLanguages) {
+    for (const auto& harm : troubles) {
+      Save s;
+      s.world.texts.language = language;
+      s.files.add_file(kJournal, "note");
+      const FileError why = harm(s);
+      const auto before = s.files.snapshot();
+      s.world.windows.expect(id::kSaveNotRecovered);
+      EXPECT_EQ(mainwindow::recover_save(s.world.services, s.folders), "");
+      expect_words(s.world.windows.boxes.back(), id::kSaveNotRecovered, language,
+                   {kJournal, s.world.texts.get(text::reason_of(why))});
+      EXPECT_EQ(s.files.snapshot(), before);
+    }
+    Save folder;
+    folder.world.texts.language = language;
+    folder.files.add_folder(kJournal);
+    folder.world.windows.expect(id::kSaveNoteDamaged);
+    EXPECT_EQ(mainwindow::recover_save(folder.world.services, folder.folders), "");
+  }
+}
+
+TEST(SaveFlow, TheLineThatAnInterruptedSaveHadClosedIsTold) {
+  Save s;
+  observation::Recovery recovery{observation::Recovered::kFinished, "14111512.tlx", 3};
+  recovery.closed_line = 2;
+  s.world.windows.expect(id::kSaveFinished);
+  s.world.windows.expect(id::kLogbookLineClosed);
+  mainwindow::tell_recovery(s.world.services, s.folders, recovery);
+  expect_words(s.world.windows.boxes.back(), id::kLogbookLineClosed, text::Language::kEnglish,
+               {"2", kLogbook});
 }
 
 TEST(SaveFlow, EveryEndOfAnInterruptedSaveIsToldInBothLanguages) {

@@ -14,6 +14,8 @@
 #include <sstream>
 #include <vector>
 
+#include "observation/save_journal.h"
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -201,8 +203,8 @@ TEST_F(Cli, FilesThatCannotBeReadAreTold) {
 TEST_F(Cli, WrongArgumentsAreToldWithTheUsage) {
   for (const char* arguments :
        {"", "unknown", "encode --language", "encode --language fr", "encode --quick", "encode a b",
-        "read --all", "read a b", "save", "save --reports reports", "save --logbook", "save --x",
-        "save --reports reports --logbook logbook a b"}) {
+        "read --all", "read a b", "save", "save --reports reports", "save --logbook", "save --root",
+        "save --x", "save --reports reports --logbook logbook a b"}) {
     const Outcome outcome = run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_EQ(outcome.out, "") << arguments;
@@ -530,6 +532,76 @@ TEST_F(Cli, SavePutsADamagedNoteAsideAndSaysSo) {
   EXPECT_EQ(slurp(folder_ / "logbook/.kavrel-save-damaged"), "damaged");
   EXPECT_EQ(run("save --reports reports --logbook logbook --replace " + name).error, "")
       << "told once";
+}
+
+TEST_F(Cli, SaveSaysThatAFolderWithABackslashInItsPathCannotBeUsed) {
+  fs::create_directories(folder_ / "a\\b" / "c");
+  const std::string name = file("a.obs", kObservation);
+  for (const char* const given : {"'a\\b'", "'a\\b/c'"}) {
+    const Outcome outcome =
+        run(std::string("save --reports ") + given + " --logbook logbook " + name);
+    EXPECT_EQ(outcome.status, 2);
+    const std::string bare(given + 1, std::string_view(given).size() - 2);
+    EXPECT_EQ(outcome.error,
+              "kavrel-cli: " + bare + " cannot be used: a \"\\\" stands in its path\n");
+  }
+  EXPECT_TRUE(saved().empty());
+}
+
+/// What a program with its C: in "root" left of a save of reports in C:\out.
+void interrupt(const fs::path& folder) {
+  const std::string staged = ".kavrel-999999999-0.part";
+  const std::string content = "BBXX INTERRUPTED";
+  observation::Journal journal;
+  journal.folder = "C:\\out\\";
+  journal.report = "14111506.tlx";
+  journal.staged = staged;
+  journal.log_existed = false;
+  journal.appended = "LINE\n";
+  journal.content = observation::mark_of(content);
+  fs::create_directories(folder / "root/out");
+  for (const auto& [name, text] : {std::pair("root/out/" + staged, content),
+                                   {"logbook/immt5.log", journal.appended},
+                                   {"logbook/.kavrel-save", observation::write_journal(journal)}})
+    std::ofstream(folder / name, std::ios::binary) << text;
+}
+
+TEST_F(Cli, SaveFinishesWhatTheProgramOfThatRootLeft) {
+  interrupt(folder_);
+  const std::string name = file("a.obs", kObservation);
+  const Outcome outcome = run("save --root root --reports reports --logbook logbook " + name);
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.error.find("14111506.tlx: its interrupted save has been finished"),
+            std::string::npos)
+      << outcome.error;
+  EXPECT_EQ(slurp(folder_ / "root/out/14111506.tlx"), "BBXX INTERRUPTED");
+  EXPECT_TRUE(slurp(folder_ / "logbook/immt5.log").starts_with("LINE\n3"));
+  EXPECT_FALSE(fs::exists(folder_ / "logbook/.kavrel-save"));
+}
+
+TEST_F(Cli, SaveFinishesWhatWasLeftInItsOwnFolderWhateverThatWasCalled) {
+  interrupt(folder_);
+  const Outcome outcome =
+      run("save --reports root/out --logbook logbook " + file("a.obs", kObservation));
+  EXPECT_EQ(outcome.status, 0) << outcome.error;
+  EXPECT_EQ(slurp(folder_ / "root/out/14111506.tlx"), "BBXX INTERRUPTED");
+}
+
+TEST_F(Cli, SaveLeavesWhatItCannotReachToTheProgram) {
+  interrupt(folder_);
+  const std::string note = slurp(folder_ / "logbook/.kavrel-save");
+  const Outcome outcome =
+      run("save --root none --reports reports --logbook logbook " + file("a.obs", kObservation));
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_NE(outcome.error.find("the save of 14111506.tlx was interrupted and its folder cannot be "
+                               "reached: C:\\out\\: no such drive or no medium in it; line 1 of " +
+                               (folder_ / "logbook/immt5.log").string()),
+            std::string::npos)
+      << outcome.error;
+  EXPECT_EQ(slurp(folder_ / "logbook/.kavrel-save"), note);
+  EXPECT_EQ(slurp(folder_ / "logbook/immt5.log"), "LINE\n");
+  EXPECT_TRUE(fs::is_empty(folder_ / "reports"));
 }
 
 TEST_F(Cli, SaveTellsADamagedLastLine) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <map>
 
 #include "fakes/fake_files.h"
@@ -181,6 +182,43 @@ TEST(Save, ExistingReportIsReplacedOnlyWhenAllowed) {
   EXPECT_EQ(files.snapshot(), kNew);
 }
 
+TEST(Save, ReplacesOnlyTheReportThatWasAllowedToGo) {
+  SaveRequest allowed = request();
+  allowed.replaces = kOld.at(kReport);
+  {
+    FakeFiles files = with_old_files();
+    EXPECT_EQ(observation::save(files, allowed).outcome, SaveOutcome::kSaved);
+    EXPECT_EQ(files.snapshot(), kNew);
+  }
+  {
+    FakeFiles files = with_old_files();
+    files.add_file(kReport, "BBXX OF ANOTHER");
+    const auto before = files.snapshot();
+    EXPECT_EQ(observation::save(files, allowed).outcome, SaveOutcome::kAlreadyExists);
+    EXPECT_EQ(files.snapshot(), before);
+  }
+  {
+    // It has gone, and another one comes while the save is under way.
+    struct Shared : FakeFiles {
+      FileError commit(const platform::StagedFile& staged, platform::Over over) override {
+        add_file(kReport, "BBXX OF ANOTHER");
+        return FakeFiles::commit(staged, over);
+      }
+    } files;
+    static_cast<FakeFiles&>(files) = with_old_files();
+    ASSERT_EQ(files.remove(kReport), FileError::kNone);
+    EXPECT_EQ(observation::save(files, allowed).outcome, SaveOutcome::kAlreadyExists);
+    EXPECT_EQ(files.content(kReport), "BBXX OF ANOTHER");
+    EXPECT_EQ(files.content(kLogbook), kOld.at(kLogbook));
+  }
+  FakeFiles files = with_old_files();
+  files.fail_path(kReport, FileError::kOther);
+  const auto result = observation::save(files, allowed);
+  EXPECT_EQ(result.outcome, SaveOutcome::kReportFailed);
+  EXPECT_EQ(result.error, FileError::kOther);
+  EXPECT_EQ(files.snapshot(), kOld);
+}
+
 TEST(Save, TheSameObservationTwiceLeavesTwoLines) {
   FakeFiles files = folders();
   EXPECT_EQ(observation::save(files, request(false)).outcome, SaveOutcome::kSaved);
@@ -333,19 +371,22 @@ TEST(Save, AKillBetweenAnyTwoStepsIsRepairedByTheNextStart) {
 
 // ---- What an interrupted save left
 
-/// Old files and what a save leaves that is killed before its last rename.
-FakeFiles interrupted(bool existed = true, bool replace = true) {
-  FakeFiles files = existed ? with_old_files() : folders();
+/// These files and what a save leaves there that is killed before its last rename.
+FakeFiles killed_before_rename(FakeFiles files, const SaveRequest& request) {
   FakeFiles trial = files;
-  (void)observation::save(trial, request(replace));
+  (void)observation::save(trial, request);
   int commit = 1;
   while (!trial.log()[static_cast<std::size_t>(commit) - 1].starts_with("commit")) ++commit;
   files.kill_before(commit);
-  EXPECT_THROW((void)observation::save(files, request(replace)), FakeFiles::Killed);
+  EXPECT_THROW((void)observation::save(files, request), FakeFiles::Killed);
   files.heal();
   files.restart();
   files.clear_log();
   return files;
+}
+
+FakeFiles interrupted(bool existed = true, bool replace = true) {
+  return killed_before_rename(existed ? with_old_files() : folders(), request(replace));
 }
 
 observation::Recovery recover(FakeFiles& files) {
@@ -423,13 +464,6 @@ TEST(Recover, PutsAsideWhatIsNoJournalOfTheseFiles) {
     EXPECT_EQ(files.content(kReport), kOld.at(kReport));
     EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook)) << "nothing is cut off on its word";
   }
-  // The reports' folder that it names is not there.
-  FakeFiles files = with_old_files();
-  observation::Journal gone = *observation::read_journal(whole);
-  gone.folder = "C:\\gone\\";
-  files.add_file(kJournal, observation::write_journal(gone));
-  EXPECT_EQ(recover(files).outcome, observation::Recovered::kPutAside);
-  EXPECT_EQ(files.content(kLogbook), kOld.at(kLogbook));
   // The logbook is not the one any more.
   FakeFiles shorter = interrupted();
   shorter.add_file(kLogbook, "L\n");
@@ -445,6 +479,192 @@ TEST(Recover, FinishesASaveOfAnotherReportFolder) {
   EXPECT_EQ(recovery.outcome, observation::Recovered::kFinished);
   EXPECT_EQ(recovery.report, "14111512.tlx");
   EXPECT_EQ(files.snapshot(), kNew);
+}
+
+// ---- The folder of the report is away
+
+constexpr const char* kAwayReport = "E:\\out\\14111512.tlx";
+
+/// A save of reports on drive E: that was killed before its last rename; the drive is away now.
+FakeFiles interrupted_on_a_drive() {
+  FakeFiles files = with_old_files();
+  files.add_folder("E:\\out");
+  SaveRequest there = request(false);
+  there.report_path = kAwayReport;
+  files = killed_before_rename(files, there);
+  files.set_medium_missing('E');
+  return files;
+}
+
+TEST(RecoverAway, TellsKeepsEverythingAndFinishesWhenTheFolderIsBack) {
+  for (const char* const reports : {"C:\\out\\", "E:\\out\\"}) {
+    FakeFiles files = interrupted_on_a_drive();
+    const auto before = files.snapshot();
+    for (int start = 1; start <= 2; ++start) {
+      const auto told = observation::recover(files, reports, "C:\\log\\");
+      EXPECT_EQ(told.outcome, observation::Recovered::kNothing);
+      EXPECT_TRUE(told.unreachable);
+      EXPECT_EQ(told.error, FileError::kMediumMissing);
+      EXPECT_EQ(told.failed, "E:\\out\\");
+      EXPECT_EQ(told.report, "14111512.tlx");
+      EXPECT_EQ(told.line, 2U);
+      EXPECT_EQ(files.snapshot(), before);
+    }
+    files.set_medium_missing('E', false);
+    EXPECT_EQ(observation::recover(files, reports, "C:\\log\\").outcome,
+              observation::Recovered::kFinished);
+    EXPECT_EQ(files.content(kAwayReport), kNew.at(kReport));
+    EXPECT_EQ(files.content(kLogbook), kNew.at(kLogbook));
+    EXPECT_FALSE(files.content(kJournal));
+  }
+}
+
+// A stick that is mounted below another drive leaves nothing at all behind.
+TEST(RecoverAway, TakesAFolderThatIsNotThereForOneThatIsAway) {
+  FakeFiles files = with_old_files();
+  files.add_file(kLogbook, kNew.at(kLogbook));
+  observation::Journal gone = *observation::read_journal(*interrupted().content(kJournal));
+  gone.folder = "C:\\gone\\";
+  files.add_file(kJournal, observation::write_journal(gone));
+  const auto before = files.snapshot();
+  const auto told = recover(files);
+  EXPECT_TRUE(told.unreachable);
+  EXPECT_EQ(told.error, FileError::kNotFound);
+  EXPECT_EQ(files.snapshot(), before);
+}
+
+TEST(RecoverAway, ASaveMeanwhileWritesNothingUnlessItIsToGoOnWithoutThatReport) {
+  FakeFiles files = interrupted_on_a_drive();
+  const auto before = files.snapshot();
+  SaveRequest another = {"C:\\out\\14111518.tlx", kLogbook, "BBXX LATER", "LINE3", false};
+  auto result = observation::save(files, another);
+  EXPECT_EQ(result.outcome, SaveOutcome::kLogbookFailed);
+  EXPECT_EQ(result.error, FileError::kMediumMissing);
+  EXPECT_EQ(result.failed, "E:\\out\\");
+  EXPECT_TRUE(result.recovered.unreachable);
+  EXPECT_EQ(files.snapshot(), before);
+  another.leave_unreachable = true;
+  result = observation::save(files, another);
+  EXPECT_EQ(result.outcome, SaveOutcome::kSaved);
+  EXPECT_EQ(result.recovered.outcome, observation::Recovered::kLineLeft);
+  EXPECT_EQ(result.recovered.line, 2U);
+  EXPECT_EQ(files.content(kLogbook), "LINE1\nLINE2\nLINE3\n");
+  EXPECT_EQ(files.content("C:\\out\\14111518.tlx"), "BBXX LATER");
+  EXPECT_FALSE(files.content(kJournal));
+}
+
+// The report is renamed behind its line: without the whole line it never was.
+TEST(RecoverAway, TakesALineBackThatIsNotWhole) {
+  for (const char* const behind : {"", "LI", "LINE2"}) {
+    FakeFiles files = interrupted_on_a_drive();
+    files.add_file(kLogbook, std::string("LINE1\n") + behind);
+    const auto told = recover(files);
+    EXPECT_EQ(told.outcome, observation::Recovered::kTakenBack) << behind;
+    EXPECT_EQ(files.content(kLogbook), kOld.at(kLogbook)) << behind;
+    EXPECT_FALSE(files.content(kJournal));
+  }
+}
+
+// Another program may call the same folder by another name.
+TEST(RecoverAway, KnowsAFolderOfAnotherNameByWhatWasStagedOrSavedInIt) {
+  for (const bool renamed : {false, true}) {
+    FakeFiles files = interrupted();
+    observation::Journal journal = *observation::read_journal(*files.content(kJournal));
+    journal.folder = "E:\\elsewhere\\";
+    files.add_file(kJournal, observation::write_journal(journal));
+    files.set_medium_missing('E');
+    const std::string staged = "C:\\out\\" + journal.staged;
+    if (renamed) {
+      ASSERT_EQ(files.commit({kReport, staged}), FileError::kNone);
+    }
+    EXPECT_EQ(recover(files).outcome, observation::Recovered::kFinished);
+    EXPECT_EQ(files.snapshot(), kNew);
+  }
+}
+
+TEST(Recover, TellsTheLineThatTheInterruptedSaveHadClosed) {
+  const std::string closed = "LINE1\nLIN";
+  for (const bool lost : {false, true}) {
+    FakeFiles files = with_old_files();
+    files.add_file(kLogbook, closed);
+    files = killed_before_rename(files, request());
+    ASSERT_EQ(files.content(kLogbook), closed + "\nLINE2\n") << "killed behind the line";
+    if (lost)
+      for (const auto& [path, content] : files.snapshot())
+        if (path.ends_with(".part")) files.discard({path, path});
+    FakeFiles later = files;
+    const auto told = recover(files);
+    EXPECT_EQ(told.outcome,
+              lost ? observation::Recovered::kLineLeft : observation::Recovered::kFinished);
+    EXPECT_EQ(told.line, 3U);
+    EXPECT_EQ(told.closed_line, 2U);
+    EXPECT_EQ(recover(files).closed_line, 0U) << "told once";
+    // The very same save again finishes it and tells it as its own.
+    if (!lost) {
+      EXPECT_EQ(observation::save(later, request()).closed_line, 2U);
+    }
+  }
+  FakeFiles part = with_old_files();
+  part.add_file(kLogbook, closed);
+  part = killed_before_rename(part, request());
+  part.add_file(kLogbook, closed + "\nLI");
+  const auto told = recover(part);
+  EXPECT_EQ(told.outcome, observation::Recovered::kTakenBack);
+  EXPECT_EQ(told.closed_line, 0U) << "it is as it was";
+  EXPECT_EQ(part.content(kLogbook), closed);
+}
+
+TEST(Recover, NamesTheFileThatIsInTheWay) {
+  const struct {
+    const char* what;
+    std::function<void(FakeFiles&)> harm;
+    std::string failed;
+    FileError error;
+  } rows[] = {
+      {"look", [](FakeFiles& f) { f.fail_look(kJournal, FileError::kBadLink); }, kJournal,
+       FileError::kBadLink},
+      {"read", [](FakeFiles& f) { f.fail_path(kJournal, FileError::kAccessDenied); }, kJournal,
+       FileError::kAccessDenied},
+      {"report", [](FakeFiles& f) { f.fail_look(kReport, FileError::kOther); }, kReport,
+       FileError::kOther},
+      {"rename", [](FakeFiles& f) { f.fail_path(kReport, FileError::kNoSpace); }, kReport,
+       FileError::kNoSpace},
+      {"logbook", [](FakeFiles& f) { f.set_read_only(kLogbook); }, kLogbook,
+       FileError::kAccessDenied},
+      {"aside",
+       [](FakeFiles& f) {
+         f.add_file(kJournal, "damaged");
+         f.fail_path(kPutAside, FileError::kNoSpace);
+       },
+       kJournal, FileError::kNoSpace},
+      {"a folder that cannot be put aside",
+       [](FakeFiles& f) {
+         (void)f.remove(kJournal);
+         f.add_folder(kJournal);
+         f.fail_path(kPutAside, FileError::kNotFound);
+       },
+       kJournal, FileError::kNotAFile},
+  };
+  for (const auto& row : rows) {
+    FakeFiles files = interrupted();
+    row.harm(files);
+    const auto before = files.snapshot();
+    const auto told = recover(files);
+    EXPECT_EQ(told.outcome, observation::Recovered::kNothing) << row.what;
+    EXPECT_EQ(told.error, row.error) << row.what;
+    EXPECT_EQ(told.failed, row.failed) << row.what;
+    const auto result = observation::save(files, request());
+    EXPECT_EQ(result.outcome, SaveOutcome::kLogbookFailed) << row.what;
+    EXPECT_EQ(result.failed, row.failed) << row.what;
+    EXPECT_EQ(files.snapshot(), before) << row.what;
+  }
+  // Whoever holds the logbook sees to it; without its disk nobody can tell.
+  FakeFiles held = interrupted();
+  held.set_held(kLogbook);
+  EXPECT_EQ(recover(held).error, FileError::kNone);
+  FakeFiles away = interrupted();
+  away.set_medium_missing('C');
+  EXPECT_EQ(recover(away).error, FileError::kNone);
 }
 
 TEST(Recover, ClearsWhatDeadProcessesStagedAndNothingElse) {

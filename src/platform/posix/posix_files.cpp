@@ -38,6 +38,12 @@ std::string name_of(const std::string& os_path) {
   return os_path.substr(os_path.rfind('/') + 1);
 }
 
+/// What a lock says where the file system has none to give.
+bool knows_no_locks(int error_number) {
+  return error_number == ENOLCK || error_number == EOPNOTSUPP || error_number == ENOSYS ||
+         error_number == EINVAL;
+}
+
 bool same_file(const struct stat& a, const struct stat& b) {
   return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
@@ -216,7 +222,7 @@ class PosixFiles::Log : public LockedLog {
     // another copy of the program has begun to write into it.
     for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
       if (unbroken([&] { return calls_.lock(open_->file()); }) == 0) break;
-      if (errno == ENOLCK || errno == EOPNOTSUPP || errno == ENOSYS || errno == EINVAL) {
+      if (knows_no_locks(errno)) {
         is_locked_ = false;
         break;
       }
@@ -482,36 +488,49 @@ class PosixFiles::LockClaim : public Claim {
       : calls_(calls),
         os_path_(std::move(os_path)),
         open_(calls, os_path_, O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW) {
-    held_ = open_.ok() && unbroken([&] { return calls_.try_lock(open_.file()); }) == 0;
+    error_ = make();
   }
   ~LockClaim() override {
-    if (held_) (void)unbroken([&] { return calls_.unlink(os_path_.c_str()); });
+    if (error_ == FileError::kNone) (void)unbroken([&] { return calls_.unlink(os_path_.c_str()); });
   }
   LockClaim(const LockClaim&) = delete;
   LockClaim& operator=(const LockClaim&) = delete;
 
-  /// False when the lock was not had, or when another copy gave up its claim between our opening
-  /// the file and locking it: what we hold is no longer what the path names then.
-  [[nodiscard]] bool valid() {
-    struct stat opened {};
-    struct stat named {};
-    held_ = held_ && calls_.fstat(open_.file(), &opened) == 0 &&
-            calls_.stat(os_path_.c_str(), &named) == 0 && same_file(opened, named);
-    return held_;
-  }
+  [[nodiscard]] FileError error() const { return error_; }
+  [[nodiscard]] bool is_locked() const override { return is_locked_; }
 
  private:
+  [[nodiscard]] FileError make() {
+    if (!open_.ok()) return open_.error();
+    if (unbroken([&] { return calls_.try_lock(open_.file()); }) != 0) {
+      if (!knows_no_locks(errno)) return file_error(errno);
+      is_locked_ = false;
+    }
+    struct stat opened {};
+    struct stat named {};
+    if (unbroken([&] { return calls_.fstat(open_.file(), &opened); }) == -1)
+      return file_error(errno);
+    const int found = unbroken([&] { return calls_.stat(os_path_.c_str(), &named); });
+    if (found == -1 && errno != ENOENT) return file_error(errno);
+    // Between our opening the file and locking it another copy gave up its claim: what we hold is
+    // no longer what the path names.
+    return found == 0 && same_file(opened, named) ? FileError::kNone : FileError::kLocked;
+  }
+
   SystemCalls& calls_;
   std::string os_path_;
   Open open_;
-  bool held_ = false;
+  bool is_locked_ = true;
+  FileError error_ = FileError::kNone;
 };
 
-std::unique_ptr<Claim> PosixFiles::claim(const std::string& path) {
+Result<std::unique_ptr<Claim>> PosixFiles::claim(const std::string& path) {
   const auto os_path = os(path);
-  if (!os_path.ok() || folder_writable(*os_path.value) != FileError::kNone) return nullptr;
+  if (!os_path.ok()) return os_path.error;
+  if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
   auto claim = std::make_unique<LockClaim>(calls_, *os_path.value);
-  return claim->valid() ? std::move(claim) : nullptr;
+  if (claim->error() != FileError::kNone) return claim->error();
+  return {std::move(claim)};
 }
 
 // ---- What is there

@@ -53,7 +53,7 @@ class PosixFiles : public Files {
   [[nodiscard]] Look look(const std::string& path) const override;
   /// The lock on the file is the claim; the system takes it off when the process ends. The file
   /// goes with a claim that is given up, and stays after a crash.
-  [[nodiscard]] std::unique_ptr<Claim> claim(const std::string& path) override;
+  [[nodiscard]] Result<std::unique_ptr<Claim>> claim(const std::string& path) override;
   [[nodiscard]] std::optional<DateTime> modified(const std::string& path) const override;
   /// A name that holds a "\" cannot be said in a program path and is left out.
   [[nodiscard]] Result<std::vector<FolderEntry>> list(const std::string& folder) const override;

@@ -67,6 +67,12 @@ std::string default_root() {
   return data + "/kavrel/drive_c";
 }
 
+std::string root_of(const std::string& given) {
+  std::string root = given.empty() ? environment("KAVREL_ROOT") : given;
+  if (root.empty()) root = default_root();
+  return absolute(root);
+}
+
 System::System(const SystemOptions& options) {
   choose_root(options);
   choose_clock(options);
@@ -80,9 +86,7 @@ System::System(const SystemOptions& options) {
 }
 
 void System::choose_root(const SystemOptions& options) {
-  root_ = options.root.empty() ? environment("KAVREL_ROOT") : options.root;
-  if (root_.empty()) root_ = default_root();
-  root_ = absolute(root_);
+  root_ = root_of(options.root);
   std::error_code error;
   fs::create_directories(root_, error);
   if (!fs::is_directory(root_, error))

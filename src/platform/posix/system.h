@@ -70,5 +70,8 @@ class System {
 /// The folder that is C: when nothing else is said: $XDG_DATA_HOME/kavrel/drive_c, or
 /// ~/.local/share/kavrel/drive_c.
 [[nodiscard]] std::string default_root();
+/// The folder that is C:: the given one, else that of the environment (KAVREL_ROOT), else
+/// default_root(). Absolute.
+[[nodiscard]] std::string root_of(const std::string& given);
 
 }  // namespace platform::posix

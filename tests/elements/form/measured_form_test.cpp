@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "elements/form/form_under_test.h"
 #include "elements/form/observation_form.h"
 #include "fakes/fake_ports.h"
-#include "elements/form/form_under_test.h"
 #include "text/ids.h"
 
 namespace {
