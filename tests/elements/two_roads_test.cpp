@@ -108,11 +108,10 @@ std::vector<ShipFixedData> ships() {
 
 // Where OK itself is an entry: the time dialog offers the clock's date and hour, and the pressure
 // dialog asks whether there is an actual time; half a time is none, and goes with "under 10
-// minutes". The tendency dialog offers a characteristic where there is none.
+// minutes".
 bool ok_is_an_entry(const mainwindow::ElementRow& row, const Struct_Weather& record) {
   if (row.element == mainwindow::kObservationTime)
     return record.Year.empty() || record.Month.empty() || record.YY.empty() || record.GG.empty();
-  if (row.element == mainwindow::kPressureTendency) return record.a.empty();
   return row.element == mainwindow::kPressure && record.gg.empty() != record.GGExact.empty();
 }
 

@@ -43,9 +43,7 @@ std::string_view characteristics(TendencyKind kind) {
 
 int characteristic_line(TendencyKind kind, std::string_view a) {
   const std::string_view codes = characteristics(kind);
-  // An empty characteristic counts as 0, as its number does.
-  const char code = a.empty() ? '0' : a.front();
-  const auto at = a.size() > 1 ? std::string_view::npos : codes.find(code);
+  const auto at = a.size() == 1 ? codes.find(a) : std::string_view::npos;
   return at == std::string_view::npos ? -1 : static_cast<int>(at);
 }
 

@@ -19,7 +19,9 @@ enum class TendencyKind { kRisen = 0, kSame = 1, kDescended = 2, kUnknown = 3 };
 /// "045", "5678", or "/".
 [[nodiscard]] std::string_view characteristics(TendencyKind kind);
 
-/// Line of the second list that holds the characteristic, -1 when none does.
+/// Line of the second list that holds the characteristic, -1 when none does. One that is not
+/// entered yet has no line, though the first list then stands on "the same": what nobody chose is
+/// not stored.
 [[nodiscard]] int characteristic_line(TendencyKind kind, std::string_view a);
 
 /// Characteristic of the two lists' lines. `otherwise` is what comes back when no line of the
