@@ -9,12 +9,13 @@
 #include "elements/form/observation_form.h"
 #include "fakes/sample_ship.h"
 #include "fuzz.h"
+#include "ui/messages.h"
 
 namespace {
 
-class NoWindows : public platform::Windows {
+class NoWindows : public ui::Windows {
  public:
-  int show_message(const platform::MessageBox& box) override { return box.close_result; }
+  int show_message(const ui::MessageBox& box) override { return box.close_result; }
   int run_modal(ui::Screen& /*screen*/) override { return 0; }
   void show_notice(ui::Screen& /*screen*/) override {}
   void hide_notice(ui::Screen& /*screen*/) override {}
@@ -48,7 +49,7 @@ void take_over(const elements::Draft& draft) {
   const KeyObservationItems items;
   text::Texts texts;
   NoWindows windows;
-  text::Messages messages(texts, windows);
+  ui::Messages messages(texts, windows);
   const StoppedClock clock;
   elements::ObservationForm form(ship, items, texts, messages, clock);
   form.load(draft.form);

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Fails when a room includes one that it must not know, or the core includes Qt or an operating-system header.
+"""Fails when a room includes or declares what belongs to one that it must not know, or the core includes Qt or an
+operating-system header.
 
 A room is a folder of src/; what it may know besides itself stands in the table below, and nowhere else. Folders of data
 and formulas have no screens in their row, so no file of theirs can include one.
@@ -12,7 +13,7 @@ import sys
 # the linker says so too (tests/CMakeLists.txt links it alone).
 DATA = {
     "text": {"platform"},
-    "platform": {"text"},  # the type of a text's id
+    "platform": set(),
     "codetables/tables": {"text"},
     "ship/data": {"text", "platform", "codetables/tables"},
     "elements/formulas": {"text", "codetables/tables", "ship/data"},
@@ -46,6 +47,11 @@ OUTSIDE_CORE = {"platform/posix", "desktop", "cli"}
 NOT_IN_CORE = {"filesystem", "fstream", "iostream", "cstdio", "chrono", "thread", "mutex"}
 
 
+def may_name(room, other):
+    """A room opens its own namespace and those of rooms that it may include; a room within another shares its namespace."""
+    return any(known == other or known.startswith(other + "/") for known in KNOWS[room] | {room})
+
+
 def main():
     src = sys.argv[1]
     wrong = []
@@ -60,6 +66,9 @@ def main():
                 continue
             with open(os.path.join(src, path), encoding="utf-8") as source:
                 for number, line in enumerate(source, 1):
+                    opened = re.match(r"namespace (\w+)\b", line)
+                    if opened and opened.group(1) in KNOWS and not may_name(room, opened.group(1)):
+                        wrong.append(f"{path}:{number}: {room} must not declare what belongs to {opened.group(1)}")
                     found = re.match(r'\s*#\s*include\s*([<"])([^>"]+)[>"]', line)
                     if not found:
                         continue

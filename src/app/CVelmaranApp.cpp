@@ -92,8 +92,8 @@ void CVelmaranApp::check_folder(WorkingFolder which) {
 bool CVelmaranApp::may_be_used(const std::string& folder, FileError why) {
   const std::string question =
       text::fill(texts_.get(text::id::kAskUseFolder), {folder, texts_.get(text::reason_of(why))});
-  return messages_.question(question, {}, text::QuestionMode::kYesNo, text::id::kAskUseFolder) ==
-         text::kYes;
+  return messages_.question(question, {}, ui::QuestionMode::kYesNo, text::id::kAskUseFolder) ==
+         ui::kYes;
 }
 
 void CVelmaranApp::ask_fixed_data() {
@@ -122,9 +122,7 @@ void CVelmaranApp::ask_key_items() {
 }
 
 void CVelmaranApp::show_main_window() {
-  dialogs_.main_window(
-      services_,
-      {ship_, items_, settings_.folders, [this] { save_ship(); }, {}, [this] { keep_folders(); }});
+  dialogs_.main_window(services_, {ship_, items_, settings_.folders, [this] { save_ship(); }});
 }
 
 void CVelmaranApp::keep(const std::function<bool(CIniEx&)>& set) {
@@ -133,22 +131,6 @@ void CVelmaranApp::keep(const std::function<bool(CIniEx&)>& set) {
   if (error == FileError::kNone) error = set(ini) ? ini.save() : FileError::kBadName;
   if (error != FileError::kNone)
     messages_.file_error(text::id::kSettingsNotSaved, places_.live, error);
-}
-
-void CVelmaranApp::keep_folders() {
-  const mainwindow::Folders& folders = settings_.folders;
-  keep([&](CIniEx& ini) {
-    bool kept = true;
-    // An empty folder was never chosen, or was not found at this start: what the file has stays.
-    const auto keep_one = [&](std::string_view key, const std::string& folder) {
-      if (!folder.empty()) kept = ini.set_value(kSection, key, folder) && kept;
-    };
-    keep_one(kReportKey, folders.reports);
-    keep_one(kLogbookKey, folders.logbook);
-    keep_one(kReportCopyKey, folders.report_copies);
-    keep_one(kLogbookCopyKey, folders.logbook_copies);
-    return kept;
-  });
 }
 
 void CVelmaranApp::write_settings() {

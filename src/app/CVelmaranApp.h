@@ -9,8 +9,8 @@
 #include "app/dialogs.h"
 #include "platform/ports.h"
 #include "text/help.h"
-#include "text/messages.h"
 #include "text/texts.h"
+#include "ui/messages.h"
 #include "ui/services.h"
 
 namespace app {
@@ -23,7 +23,7 @@ struct Ports {
   platform::Files& files;
   platform::CodePage& code_page;
   platform::Printer& printer;
-  platform::Windows& windows;
+  ui::Windows& windows;
   platform::HelpViewer& help;
 };
 
@@ -69,10 +69,9 @@ class CVelmaranApp {
   void save_ship();
   /// Sets values in the file and saves it; the officer is told when that fails.
   void keep(const std::function<bool(CIniEx&)>& set);
-  void keep_folders();
 
   text::Texts texts_;
-  text::Messages messages_;
+  ui::Messages messages_;
   text::HelpLauncher help_;
   ui::Services services_;
   Dialogs dialogs_;

@@ -4,7 +4,7 @@
 #include "media/CLogDiskSavePathDlg.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CKeyObserveDlg.h"
-#include "text/messages.h"
+#include "ui/messages.h"
 
 namespace app {
 
@@ -17,20 +17,20 @@ std::optional<std::string> ask_working_folder(ui::Services& services, WorkingFol
                                                      : CLogDiskSavePathDlg::Mode::kLogbook;
   CLogDiskSavePathDlg screen(services, mode, {.current = {}, .proposed = proposed, .source = {}},
                              write);
-  if (services.windows.run_modal(screen) != text::kOk) return std::nullopt;
+  if (services.windows.run_modal(screen) != ui::kOk) return std::nullopt;
   return screen.folder();
 }
 
 Answer<ShipFixedData> ask_fixed_data(ui::Services& services, const FixedDataQuestion& question) {
   CFixDataDlg screen(services, question.path, question.exists, question.reports, question.logbook);
-  const bool confirmed = services.windows.run_modal(screen) == text::kOk;
+  const bool confirmed = services.windows.run_modal(screen) == ui::kOk;
   return {confirmed, screen.values()};
 }
 
 Answer<KeyObservationItems> ask_key_items(ui::Services& services, const std::string& path,
                                           bool exists) {
   CKeyObserveDlg screen(services, path, exists);
-  const bool confirmed = services.windows.run_modal(screen) == text::kOk;
+  const bool confirmed = services.windows.run_modal(screen) == ui::kOk;
   return {confirmed, screen.values()};
 }
 

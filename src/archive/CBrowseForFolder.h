@@ -5,11 +5,11 @@
 #include <string>
 #include <utility>
 
-#include "platform/ports.h"
+#include "ui/windows.h"
 
 class CBrowseForFolder {
  public:
-  CBrowseForFolder(platform::Windows& windows, std::string caption, std::string initial)
+  CBrowseForFolder(ui::Windows& windows, std::string caption, std::string initial)
       : windows_(windows), caption_(std::move(caption)), initial_(std::move(initial)) {}
 
   /// The folder chosen, without "\" at its end except that of a drive; nothing when it was
@@ -17,7 +17,7 @@ class CBrowseForFolder {
   [[nodiscard]] std::optional<std::string> show() const;
 
  private:
-  platform::Windows& windows_;
+  ui::Windows& windows_;
   std::string caption_;
   std::string initial_;
 };

@@ -19,10 +19,8 @@ bool archive::is_folder_name(std::string_view name) {
 }
 
 CCreateDir::CCreateDir(ui::Services& services, std::string parent)
-    : Screen(services, "CCreateDir", {id::kCreateFolderTitle}),
+    : OkCancelDialog(services, "CCreateDir", {id::kCreateFolderTitle}),
       folder_name(*this, "folder_name", {id::kNewFolderName}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
       parent_(std::move(parent)) {}
 
 void CCreateDir::on_open() {
@@ -31,8 +29,10 @@ void CCreateDir::on_open() {
 
 void CCreateDir::on_ok() {
   const std::string_view name = text::trim(folder_name.content);
-  if (name.empty()) return refuse(id::kNoValueInput);
-  if (!archive::is_folder_name(name)) return refuse(id::kBadFolderName);
+  if (name.empty() || !archive::is_folder_name(name)) {
+    refuse(folder_name, name.empty() ? id::kNoValueInput : id::kBadFolderName);
+    return;
+  }
   std::string path = platform::join(parent_, name);
   platform::Files& files = services().files;
   const FileError error = files.is_folder(path) ? FileError::kNone : files.create_folder(path);
@@ -42,10 +42,5 @@ void CCreateDir::on_ok() {
     return;
   }
   path_ = std::move(path);
-  close(text::kOk);
-}
-
-void CCreateDir::refuse(text::Id message) {
-  services().messages.error(message);
-  focus(folder_name);
+  close(ui::kOk);
 }

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CCreateDir : public ui::Screen {
+class CCreateDir : public ui::OkCancelDialog {
  public:
   /// `parent` is the folder beneath which it is created, with or without "\" at its end.
   CCreateDir(ui::Services& services, std::string parent);
@@ -14,16 +14,12 @@ class CCreateDir : public ui::Screen {
   [[nodiscard]] const std::string& path() const { return path_; }
 
   ui::Edit folder_name;
-  ui::Button ok;
-  ui::Button cancel;
 
  protected:
   void on_open() override;
   void on_ok() override;
 
  private:
-  void refuse(text::Id message);
-
   std::string parent_;
   std::string path_;
 };

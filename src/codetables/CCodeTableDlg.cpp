@@ -19,13 +19,10 @@ std::vector<text::Ref> lines_of(const CodeTable& table) {
 }  // namespace
 
 CCodeTableDlg::CCodeTableDlg(ui::Services& services, const CodeTable& table, std::string code)
-    : Screen(services, table.class_name, {table.title}),
+    : OkCancelHelpDialog(services, table.class_name, {table.title}),
       heading(*this, "heading", {table.heading}),
       group(*this, "group", {table.group}),
       choice(*this, "choice", {}, lines_of(table)),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       table_(table),
       code_(std::move(code)) {
   for (const CodeTableRow& row : table.rows) choice.item_codes.emplace_back(row.code);
@@ -44,5 +41,5 @@ void CCodeTableDlg::on_open() {
 
 void CCodeTableDlg::on_ok() {
   if (choice.selected >= 0) code_ = table_.rows[static_cast<std::size_t>(choice.selected)].code;
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
 /// A line of a code table.
 struct CodeTableRow {
@@ -23,7 +23,7 @@ struct CodeTable {
   std::span<const CodeTableRow> rows;
 };
 
-class CCodeTableDlg : public ui::Screen {
+class CCodeTableDlg : public ui::OkCancelHelpDialog {
  public:
   /// `code` is the record's current code; a code that the table does not have chooses no line.
   CCodeTableDlg(ui::Services& services, const CodeTable& table, std::string code);
@@ -34,9 +34,6 @@ class CCodeTableDlg : public ui::Screen {
   ui::Label heading;
   ui::Label group;
   ui::Choice choice;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

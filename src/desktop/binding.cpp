@@ -9,7 +9,6 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -18,6 +17,8 @@
 #include <QTreeWidget>
 #include <algorithm>
 #include <array>
+
+#include "desktop/picture_label.h"
 
 namespace desktop {
 namespace {
@@ -39,28 +40,16 @@ int width_for(const QWidget& widget, int characters) {
          widget.fontMetrics().height();
 }
 
-// No wider than so many characters; what room is left goes behind the field, not around it.
-void keep_to(QWidget& widget, int characters) {
-  widget.setMaximumWidth(width_for(widget, characters));
-  widget.setSizePolicy(QSizePolicy::Preferred, widget.sizePolicy().verticalPolicy());
-}
-
 // What the widget itself cuts at; 0 for nothing. A field that goes on in another must see its
 // point.
 int largest_length(const ui::Control& control) {
   return control.continues_in == nullptr ? control.max_length : 0;
 }
 
-constexpr int kWideField = 24;    // characters; longer fields grow with the window
-constexpr int kDefaultField = 8;  // where no largest length is given
-
 class LineBinding : public Binding {
  public:
   LineBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), edit_(new QLineEdit(parent)) {
-    const int characters = c.max_length > 0 ? c.max_length : kDefaultField;
-    edit_->setMinimumWidth(width_for(*edit_, std::min(characters, kWideField)));
-    if (c.max_length > 0 && characters <= kWideField) keep_to(*edit_, characters + 1);
     connect(edit_, &QLineEdit::textEdited, this, [this](const QString& typed) {
       tell([&] { screen().type(control(), typed.toStdString()); });
     });
@@ -85,12 +74,8 @@ class LineBinding : public Binding {
       edit_->setText(wanted);
       // A long text that nobody is typing shows its beginning.
       if (!edit_->hasFocus()) edit_->setCursorPosition(0);
-      if (control().max_length == 0) {
-        const int characters = static_cast<int>(wanted.size());
-        edit_->setMinimumWidth(
-            width_for(*edit_, std::clamp(characters + 1, kDefaultField, kWideField)));
-      }
     }
+    make_room();
     if (edit_->isReadOnly() != control().read_only) edit_->setReadOnly(control().read_only);
   }
 
@@ -105,7 +90,6 @@ class ReadOnlyBinding : public Binding {
       : Binding(s, c, std::move(hand)), edit_(new QLineEdit(parent)) {
     edit_->setReadOnly(true);
     edit_->setFocusPolicy(Qt::NoFocus);
-    if (c.max_length > 0) keep_to(*edit_, c.max_length + 1);
   }
   [[nodiscard]] QWidget* widget() const override { return edit_; }
   [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
@@ -113,13 +97,11 @@ class ReadOnlyBinding : public Binding {
 
  protected:
   void show_state() override {
+    make_room();
     const QString wanted = text_of(control().content);
     if (edit_->text() == wanted) return;
     edit_->setText(wanted);
     edit_->setCursorPosition(0);
-    const int characters =
-        control().max_length > 0 ? control().max_length : static_cast<int>(wanted.size());
-    edit_->setMinimumWidth(width_for(*edit_, std::clamp(characters, 4, 40)));
   }
 
  private:
@@ -132,7 +114,6 @@ class MemoBinding : public Binding {
       : Binding(s, c, std::move(hand)), edit_(new QPlainTextEdit(parent)) {
     edit_->setReadOnly(true);
     edit_->setTabChangesFocus(true);
-    edit_->setMinimumSize(width_for(*edit_, 60), edit_->fontMetrics().lineSpacing() * 8);
   }
   [[nodiscard]] QWidget* widget() const override { return edit_; }
   [[nodiscard]] Shown shown() const override { return {edit_->toPlainText(), {}, {}, -1, false}; }
@@ -142,6 +123,7 @@ class MemoBinding : public Binding {
     QString wanted = text_of(control().content);
     wanted.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (edit_->toPlainText() != wanted) edit_->setPlainText(wanted);
+    make_room();
   }
 
  private:
@@ -163,11 +145,8 @@ class ComboBinding : public Binding {
         tell([&] { screen().type(control(), typed.toStdString()); });
       });
     }
-    if (c.max_length > 0) {
-      box_->setMinimumWidth(width_for(*box_, c.max_length) + box_->fontMetrics().height() * 2);
-    } else {
+    if (ui::extent_of(c).least_characters == 0)
       box_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    }
     connect(box_, &QComboBox::activated, this,
             [this](int index) { tell([&] { screen().choose(control(), index); }); });
   }
@@ -191,6 +170,7 @@ class ComboBinding : public Binding {
 
  protected:
   void show_state() override {
+    make_room(box_->fontMetrics().height() * 2);  // the arrow
     if (const QStringList wanted = lines_of(control().items); wanted != lines_) {
       lines_ = wanted;
       box_->clear();
@@ -221,16 +201,14 @@ class ComboBinding : public Binding {
   QStringList lines_;
 };
 
-// A list as high as its lines, within reason; an empty one still looks like a list.
+// A list as high as it has room for lines.
 class ShortList : public QListWidget {
  public:
   using QListWidget::QListWidget;
+  int lines = 0;
   [[nodiscard]] QSize sizeHint() const override {
-    constexpr int kFewest = 4;
-    constexpr int kMost = 14;
     const int line = count() > 0 ? sizeHintForRow(0) : fontMetrics().lineSpacing();
-    return {sizeHintForColumn(0) + fontMetrics().height() * 2,
-            line * std::clamp(count(), kFewest, kMost) + line / 2};
+    return {sizeHintForColumn(0) + fontMetrics().height() * 2, line * lines + line / 2};
   }
   [[nodiscard]] QSize minimumSizeHint() const override {
     constexpr int kWidest = 900;
@@ -257,6 +235,7 @@ class ListBinding : public Binding {
   void show_state() override {
     // A list's selection signal also fires for the program's own changes.
     const QSignalBlocker quiet(list_);
+    list_->lines = ui::extent_of(control()).least_lines;
     if (const QStringList wanted = lines_of(control().items); wanted != lines_) {
       lines_ = wanted;
       list_->clear();
@@ -342,10 +321,10 @@ class ChoiceBinding : public Binding {
     delete box_->layout();
     lines_ = wanted;
     codes_ = lines_of(control().item_codes);
-    if (codes_.isEmpty()) {
-      place_plain();
-    } else {
+    if (const ui::ChoiceLook look = ui::look_of(control()); look == ui::ChoiceLook::kBehindCodes) {
       place_behind_codes();
+    } else {
+      place_plain(look == ui::ChoiceLook::kSideBySide);
     }
   }
 
@@ -355,12 +334,7 @@ class ChoiceBinding : public Binding {
     return button;
   }
 
-  // Short choices stand side by side, long ones below each other.
-  void place_plain() {
-    int letters = 0;
-    for (const QString& line : lines_) letters += static_cast<int>(line.size());
-    constexpr int kOneLine = 48;
-    const bool side_by_side = letters <= kOneLine;
+  void place_plain(bool side_by_side) {
     auto* const layout =
         new QBoxLayout(side_by_side ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, box_);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -399,7 +373,6 @@ class TickBinding : public Binding {
             [this](bool on) { tell([&] { screen().tick(control(), on); }); });
   }
   [[nodiscard]] QWidget* widget() const override { return box_; }
-  [[nodiscard]] bool shows_own_caption() const override { return true; }
   [[nodiscard]] Shown shown() const override { return {{}, {}, {}, -1, box_->isChecked()}; }
 
  protected:
@@ -421,12 +394,11 @@ class ButtonBinding : public Binding {
             [this] { tell([&] { screen().press(control()); }); });
   }
   [[nodiscard]] QWidget* widget() const override { return button_; }
-  [[nodiscard]] bool shows_own_caption() const override { return true; }
 
  protected:
   void show_state() override {
     if (button_->text() != caption()) button_->setText(caption());
-    button_->setDefault(control().role == ui::Role::kOk);
+    button_->setDefault(control().role == ui::Role::kAccept);
   }
 
  private:
@@ -442,7 +414,6 @@ class LabelBinding : public Binding {
   }
   [[nodiscard]] QWidget* widget() const override { return label_; }
   [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
-  [[nodiscard]] bool shows_own_caption() const override { return true; }
   [[nodiscard]] Shown shown() const override { return {label_->text(), {}, {}, -1, false}; }
 
  protected:
@@ -457,13 +428,52 @@ class LabelBinding : public Binding {
   ClickableLabel* label_;
 };
 
+// A drawing, or the picture of a file; the caption where that is missing.
+class PictureBinding : public Binding {
+ public:
+  PictureBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
+      : Binding(s, c, std::move(hand)), label_(new PictureLabel(parent)) {
+    connect(label_, &ClickableLabel::clicked, this, [this](QPointF position) {
+      if (const auto place = label_->point_at(position)) {
+        tell([&] { screen().press_at(control(), *place); });
+      } else if (!label_->text().isEmpty()) {
+        tell([&] { screen().press(control()); });
+      }
+    });
+  }
+  [[nodiscard]] QWidget* widget() const override { return label_; }
+  [[nodiscard]] QWidget* focus_widget() const override { return nullptr; }
+  [[nodiscard]] Shown shown() const override { return {file_, {}, {}, -1, false}; }
+
+ protected:
+  void show_state() override {
+    label_->show_drawing(control().drawing);
+    if (const QString wanted = text_of(control().content); wanted != file_ || !looked_) {
+      looked_ = true;
+      file_ = wanted;
+      found_ = label_->show_file(file_);
+    }
+    if (!found_) {
+      const QString wanted = control().drawing == nullptr ? caption() : QString();
+      if (label_->text() != wanted) label_->setText(wanted);
+    }
+    label_->set_clickable(control().on_press || control().on_point);
+    make_room();
+  }
+
+ private:
+  PictureLabel* label_;
+  QString file_;
+  bool looked_ = false;
+  bool found_ = false;
+};
+
 class TreeBinding : public Binding {
  public:
   TreeBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), tree_(new QTreeWidget(parent)) {
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
-    tree_->setMinimumSize(width_for(*tree_, 44), tree_->fontMetrics().lineSpacing() * 12);
     connect(tree_, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
       tell([&] { screen().expand(control(), static_cast<std::size_t>(row_of(item))); });
     });
@@ -485,6 +495,7 @@ class TreeBinding : public Binding {
  protected:
   void show_state() override {
     const QSignalBlocker quiet(tree_);
+    make_room();
     const auto same = [](const ui::TreeRow& a, const ui::TreeRow& b) {
       return a.text == b.text && a.path == b.path && a.depth == b.depth &&
              a.can_expand == b.can_expand && a.expanded == b.expanded && a.marked == b.marked;
@@ -560,24 +571,12 @@ using Maker = std::unique_ptr<Binding> (*)(ui::Screen&, ui::Control&, QWidget*, 
 
 // One row per ui::Kind, in its order.
 constexpr std::array<Maker, 12> kMakers = {
-    make<LabelBinding>, make<ReadOnlyBinding>, make<LineBinding>,  make<MemoBinding>,
-    make<ComboBinding>, make<ComboBinding>,    make<ListBinding>,  make<ChoiceBinding>,
-    make<TickBinding>,  make<ButtonBinding>,   make<LabelBinding>, make<TreeBinding>,
+    make<LabelBinding>, make<ReadOnlyBinding>, make<LineBinding>,    make<MemoBinding>,
+    make<ComboBinding>, make<ComboBinding>,    make<ListBinding>,    make<ChoiceBinding>,
+    make<TickBinding>,  make<ButtonBinding>,   make<PictureBinding>, make<TreeBinding>,
 };
 
 }  // namespace
-
-void ClickableLabel::set_clickable(bool on) {
-  if (clickable_ == on) return;
-  clickable_ = on;
-  setCursor(on ? Qt::PointingHandCursor : Qt::ArrowCursor);
-  setProperty("clickable", on);
-}
-
-void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {
-  if (clickable_ && event->button() == Qt::LeftButton && rect().contains(event->pos()))
-    Q_EMIT clicked();
-}
 
 Binding::Binding(ui::Screen& screen, ui::Control& control, Hand hand)
     : screen_(screen), control_(control), hand_(std::move(hand)) {}
@@ -587,6 +586,21 @@ bool Binding::owns(const QWidget* candidate) const {
 }
 
 void Binding::select(int /*length*/) {}
+
+void Binding::make_room(int besides) {
+  const ui::Extent extent = ui::extent_of(control_);
+  if (extent == room_) return;
+  room_ = extent;
+  QWidget& shown_widget = *widget();
+  if (extent.least_characters > 0)
+    shown_widget.setMinimumWidth(width_for(shown_widget, extent.least_characters) + besides);
+  if (extent.least_lines > 1)
+    shown_widget.setMinimumHeight(shown_widget.fontMetrics().lineSpacing() * extent.least_lines);
+  if (extent.most_characters == 0) return;
+  // What room is left goes behind the field, not around it.
+  shown_widget.setMaximumWidth(width_for(shown_widget, extent.most_characters) + besides);
+  shown_widget.setSizePolicy(QSizePolicy::Preferred, shown_widget.sizePolicy().verticalPolicy());
+}
 
 void Binding::show_property(const char* name, const QVariant& value) {
   QWidget* const shown_widget = widget();

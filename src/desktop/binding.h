@@ -10,32 +10,14 @@
 #include <functional>
 #include <memory>
 
-#include "ui/screen.h"
+#include "desktop/clickable_label.h"
+#include "ui/plan.h"
 
 namespace desktop {
 
 /// How a binding tells its window what the person did: the window hands the event to the screen and
 /// then shows everything.
 using Hand = std::function<void(const std::function<void()>& event)>;
-
-/// A label that can be clicked; used for captions, group titles and pictures that open something.
-class ClickableLabel : public QLabel {
-  Q_OBJECT
- public:
-  explicit ClickableLabel(QWidget* parent = nullptr) : QLabel(parent) {
-    setTextFormat(Qt::PlainText);
-  }
-  void set_clickable(bool on);
-
- Q_SIGNALS:
-  void clicked();
-
- protected:
-  void mouseReleaseEvent(QMouseEvent* event) override;
-
- private:
-  bool clickable_ = false;
-};
 
 class Binding : public QObject {
   Q_OBJECT
@@ -66,11 +48,12 @@ class Binding : public QObject {
   /// The labels beside the widget; the window places them. They stay empty until there is a text.
   ClickableLabel* caption_label = nullptr;
   QLabel* unit_label = nullptr;
-  /// True when the widget shows the caption itself (buttons, tick boxes, labels).
-  [[nodiscard]] virtual bool shows_own_caption() const { return false; }
 
  protected:
   virtual void show_state() = 0;
+  /// The room that the control wants now (ui::extent_of), in characters and lines of the widget's
+  /// font, and `besides` pixels beside the characters.
+  void make_room(int besides = 0);
   /// A property of the widget that the style sheet asks for.
   void show_property(const char* name, const QVariant& value);
   [[nodiscard]] ui::Screen& screen() const { return screen_; }
@@ -87,6 +70,7 @@ class Binding : public QObject {
   ui::Screen& screen_;
   ui::Control& control_;
   Hand hand_;
+  ui::Extent room_;  ///< made last
 };
 
 /// The binding for the control's kind, its widget a child of `parent`.

@@ -43,7 +43,7 @@ DesktopWindows::DesktopWindows(PathMap paths)
 
 DesktopWindows::~DesktopWindows() = default;
 
-int DesktopWindows::show_message(const platform::MessageBox& box) {
+int DesktopWindows::show_message(const ui::MessageBox& box) {
   QMessageBox window(QApplication::activeWindow());
   window.setWindowTitle(text_of(box.title));
   window.setTextFormat(Qt::PlainText);
@@ -53,7 +53,7 @@ int DesktopWindows::show_message(const platform::MessageBox& box) {
   window.setIcon(box.buttons.size() > 1 ? QMessageBox::Question : QMessageBox::Warning);
   // One role for all: the buttons stay in the given order on every platform.
   std::map<QAbstractButton*, int> results;
-  for (const platform::BoxButton& button : box.buttons) {
+  for (const ui::BoxButton& button : box.buttons) {
     QPushButton* const made = window.addButton(text_of(button.label), QMessageBox::ActionRole);
     results[made] = button.result;
     if (results.size() == 1) window.setDefaultButton(made);
@@ -72,7 +72,7 @@ int DesktopWindows::run_modal(ui::Screen& screen) {
   open_.push_back(&screen);
   const auto closed = qScopeGuard([this] { open_.pop_back(); });
   window.exec();
-  return screen.result().value_or(text::kCancel);
+  return screen.result().value_or(ui::kCancel);
 }
 
 void DesktopWindows::show_notice(ui::Screen& screen) {

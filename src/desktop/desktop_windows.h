@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "desktop/idle_timer.h"
-#include "platform/ports.h"
+#include "ui/windows.h"
 
 class QWidget;
 
@@ -24,7 +24,7 @@ struct PathMap {
   std::function<std::string(const std::string&)> from_system;
 };
 
-class DesktopWindows : public platform::Windows {
+class DesktopWindows : public ui::Windows {
  public:
   /// There must be a QApplication.
   explicit DesktopWindows(PathMap paths);
@@ -32,7 +32,7 @@ class DesktopWindows : public platform::Windows {
   DesktopWindows(const DesktopWindows&) = delete;
   DesktopWindows& operator=(const DesktopWindows&) = delete;
 
-  int show_message(const platform::MessageBox& box) override;
+  int show_message(const ui::MessageBox& box) override;
   int run_modal(ui::Screen& screen) override;
   void show_notice(ui::Screen& screen) override;
   void hide_notice(ui::Screen& screen) override;

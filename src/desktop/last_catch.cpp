@@ -7,7 +7,7 @@
 
 namespace desktop {
 
-int told_when_it_fails(const std::function<int()>& run, text::Messages& messages,
+int told_when_it_fails(const std::function<int()>& run, ui::Messages& messages,
                        const text::Texts& texts) {
   try {
     return run();

@@ -12,7 +12,7 @@ namespace desktop {
 inline constexpr int kHadToEnd = 2;
 
 /// The status of the run, or kHadToEnd once the person has been told why.
-int told_when_it_fails(const std::function<int()>& run, text::Messages& messages,
+int told_when_it_fails(const std::function<int()>& run, ui::Messages& messages,
                        const text::Texts& texts);
 
 int run_program(app::CVelmaranApp& program);

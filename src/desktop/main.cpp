@@ -5,11 +5,13 @@
 #include <QCommandLineParser>
 #include <cstdio>
 
+#include "app/CAssistantClass.h"
 #include "app/CVelmaranApp.h"
 #include "desktop/desktop_help.h"
 #include "desktop/desktop_printer.h"
 #include "desktop/desktop_windows.h"
 #include "desktop/last_catch.h"
+#include "desktop/picture_label.h"
 #include "platform/posix/system.h"
 #include "platform/posix/system_calls.h"
 #include "text/reasons.h"
@@ -42,7 +44,11 @@ int start(const QApplication& application) {
     std::fprintf(stderr, "kavrel: %s\n", problem.c_str());
   if (!system.problems().empty()) return 2;
 
-  desktop::DesktopWindows windows(path_map(system));
+  const desktop::PathMap paths = path_map(system);
+  const app::CAssistantClass program_files(system.drives(), system.files());
+  desktop::set_picture_folder(
+      QString::fromStdString(paths.to_system(program_files.program_folder() + "\\pictures")));
+  desktop::DesktopWindows windows(paths);
   desktop::DesktopPrinter printer;
   desktop::DesktopHelp help(
       [&system](const std::string& path) { return system.help().page(path); });

@@ -90,28 +90,6 @@ void show_shortcut(QAction& action, std::string_view keys) {
   action.setStatusTip(tip);
 }
 
-// A layout for a screen that has none: its controls in order, the buttons in one line at the end.
-ui::LayoutNode stacked(const ui::Screen& screen) {
-  ui::LayoutNode root;
-  ui::LayoutNode buttons;
-  buttons.type = ui::LayoutNode::Type::kButtons;
-  for (const ui::Control* const control : screen.controls()) {
-    ui::LayoutNode leaf;
-    leaf.type = ui::LayoutNode::Type::kControl;
-    leaf.name = control->name;
-    if (control->role != ui::Role::kNone) {
-      buttons.children.push_back(leaf);
-      continue;
-    }
-    ui::LayoutNode row;
-    row.type = ui::LayoutNode::Type::kRow;
-    row.children.push_back(leaf);
-    root.children.push_back(row);
-  }
-  if (!buttons.children.empty()) root.children.push_back(buttons);
-  return root;
-}
-
 }  // namespace
 
 ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent), screen_(screen) {
@@ -156,20 +134,15 @@ void ScreenWindow::build() {
   }
   // Texts go in before the layouts are made, which remember the sizes they find.
   for (const auto& binding : bindings_) binding->show();
-  ui::LayoutResult layout = ui::parse_layout(ui::layout_source(screen_.class_name()));
-  if (layout.root.children.empty() || !layout.error.empty()) layout.root = stacked(screen_);
+  const ui::Plan plan = ui::plan_of(screen_);
+  compact_ = plan.has_menu;
   auto* const column = new QVBoxLayout(content_);
-  const int margin = screen_.menu().empty() ? 10 : 6;
+  const int margin = compact_ ? 6 : 10;
   column->setContentsMargins(margin, margin, margin, margin);
-  column->setSpacing(screen_.menu().empty() ? 8 : 4);
-  for (const ui::LayoutNode& child : layout.root.children) build_node(child, *column);
-  // What no layout places is still there, but seen only when it has a place.
-  for (const auto& binding : bindings_) {
-    if (binding->widget()->property("placed").toBool()) continue;
-    column->addWidget(binding->widget());
-  }
+  column->setSpacing(compact_ ? 4 : 8);
+  for (const ui::PlanNode& child : plan.body.children) build_node(child, *column);
   scroll_->setWidget(content_);
-  if (!screen_.menu().empty()) {
+  if (plan.has_menu) {
     menu_bar_ = new QMenuBar(this);
     outer->setMenuBar(menu_bar_);
   }
@@ -208,137 +181,116 @@ ClickableLabel* ScreenWindow::caption_of(Binding& binding) {
   return label;
 }
 
-QWidget* ScreenWindow::placed(const ui::LayoutNode& node, bool caption_apart) {
-  Binding* const found = binding(node.name);
-  if (found == nullptr) return nullptr;
-  found->widget()->setProperty("placed", true);
-  const bool has_unit = found->control().unit.id.number != 0;
-  const bool captioned = !caption_apart && !found->shows_own_caption() &&
-                         node.caption != ui::LayoutNode::Caption::kNone &&
-                         !screen_.english_caption(found->control()).empty();
-  if (!has_unit && !captioned) return found->widget();
-  const bool above = node.caption == ui::LayoutNode::Caption::kAbove;
+QWidget* ScreenWindow::placed(const ui::PlanNode& node) {
+  Binding& found = *binding(node.name);
+  const bool above = node.caption == ui::CaptionPlace::kAbove;
+  const bool captioned = above || node.caption == ui::CaptionPlace::kBeside;
+  if (!node.has_unit && !captioned) return found.widget();
   auto* const box = new QWidget(content_);
   auto* const outer =
       new QBoxLayout(above ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, box);
   outer->setContentsMargins(0, 0, 0, 0);
   outer->setSpacing(above ? 1 : 6);
-  if (captioned) outer->addWidget(caption_of(*found));
-  if (!has_unit) {
-    outer->addWidget(found->widget());
+  if (captioned) outer->addWidget(caption_of(found));
+  if (!node.has_unit) {
+    outer->addWidget(found.widget());
     return box;
   }
   auto* const line = new QHBoxLayout;
   line->setSpacing(4);
-  line->addWidget(found->widget());
-  found->unit_label = new QLabel(content_);
-  found->unit_label->setTextFormat(Qt::PlainText);
-  found->unit_label->setText(QString::fromStdString(screen_.unit(found->control())));
-  line->addWidget(found->unit_label);
-  if (above || caption_apart) line->addStretch();
+  line->addWidget(found.widget());
+  found.unit_label = new QLabel(content_);
+  found.unit_label->setTextFormat(Qt::PlainText);
+  found.unit_label->setText(QString::fromStdString(screen_.unit(found.control())));
+  line->addWidget(found.unit_label);
+  if (node.room_behind_unit) line->addStretch();
   outer->addLayout(line);
   return box;
 }
 
-void ScreenWindow::build_node(const ui::LayoutNode& node, QBoxLayout& into) {
-  using Type = ui::LayoutNode::Type;
+void ScreenWindow::build_node(const ui::PlanNode& node, QBoxLayout& into) {
+  using Type = ui::PlanNode::Type;
   switch (node.type) {
     case Type::kRows:
-    case Type::kColumns: {
-      auto* const box = new QBoxLayout(node.type == Type::kRows ? QBoxLayout::TopToBottom
-                                                                : QBoxLayout::LeftToRight);
-      box->setSpacing(into.spacing());
-      into.addLayout(box);
-      for (const ui::LayoutNode& child : node.children) build_node(child, *box);
-      if (node.type == Type::kRows && into.direction() == QBoxLayout::LeftToRight)
-        box->addStretch();
+      build_box(node, QBoxLayout::TopToBottom, into.spacing(), into);
       break;
-    }
+    case Type::kColumns:
+      build_box(node, QBoxLayout::LeftToRight, into.spacing(), into);
+      break;
+    case Type::kLine:
+      build_box(node, QBoxLayout::LeftToRight, 10, into);
+      break;
+    case Type::kButtons:
+      build_box(node, QBoxLayout::LeftToRight, 8, into);
+      break;
     case Type::kGroup:
       into.addWidget(build_group(node));
       break;
     case Type::kGrid:
       build_grid(node, into);
       break;
-    case Type::kRow:
-    case Type::kButtons: {
-      auto* const line = new QHBoxLayout;
-      line->setSpacing(node.type == Type::kButtons ? 8 : 10);
-      into.addLayout(line);
-      if (node.type == Type::kButtons) line->addStretch();
-      for (const ui::LayoutNode& child : node.children) build_node(child, *line);
-      const bool grows = std::any_of(
-          node.children.begin(), node.children.end(), [this](const ui::LayoutNode& child) {
-            const Binding* const found = binding(child.name);
-            return found != nullptr &&
-                   (found->widget()->sizePolicy().expandingDirections() & Qt::Horizontal) &&
-                   found->widget()->maximumWidth() == QWIDGETSIZE_MAX;
-          });
-      if (node.type == Type::kRow && !grows) line->addStretch();
-      break;
-    }
     case Type::kSpace:
       into.addStretch();
       break;
     case Type::kControl:
-      if (QWidget* const widget = placed(node, false)) into.addWidget(widget);
+      into.addWidget(placed(node));
       break;
   }
 }
 
-// Cells are filled in order; a captioned control takes two, caption and value, so that both line
-// up.
-void ScreenWindow::build_grid(const ui::LayoutNode& node, QBoxLayout& into) {
+void ScreenWindow::build_box(const ui::PlanNode& node, QBoxLayout::Direction direction, int spacing,
+                             QBoxLayout& into) {
+  auto* const box = new QBoxLayout(direction);
+  box->setSpacing(spacing);
+  into.addLayout(box);
+  for (const ui::PlanNode& child : node.children) build_node(child, *box);
+}
+
+// Each control has two of the grid's columns, so that captions and values line up; without a
+// caption in a column of its own it takes both.
+void ScreenWindow::build_grid(const ui::PlanNode& node, QBoxLayout& into) {
   auto* const grid = new QGridLayout;
   grid->setHorizontalSpacing(8);
-  grid->setVerticalSpacing(screen_.menu().empty() ? 6 : 3);
+  grid->setVerticalSpacing(compact_ ? 3 : 6);
   into.addLayout(grid);
   int row = 0;
-  for (const ui::LayoutNode& line : node.children) {
-    int column = 0;
-    if (line.type != ui::LayoutNode::Type::kRow) {
+  for (const ui::PlanNode& line : node.children) {
+    if (line.type != ui::PlanNode::Type::kLine) {
       auto* const box = new QVBoxLayout;
-      grid->addLayout(box, row++, 0, 1, node.grid_columns * 2);
+      grid->addLayout(box, row++, 0, 1, node.columns * 2);
       build_node(line, *box);
       continue;
     }
-    for (const ui::LayoutNode& child : line.children) {
-      if (column >= node.grid_columns * 2) {
-        column = 0;
-        ++row;
-      }
-      Binding* const found = binding(child.name);
-      if (found == nullptr) continue;
-      const bool left = child.caption == ui::LayoutNode::Caption::kLeft &&
-                        !found->shows_own_caption() &&
-                        !screen_.english_caption(found->control()).empty();
-      if (left) {
-        grid->addWidget(caption_of(*found), row, column, Qt::AlignLeft | Qt::AlignVCenter);
-        grid->addWidget(placed(child, true), row, column + 1);
+    int column = 0;
+    for (const ui::PlanNode& cell : line.children) {
+      if (cell.caption == ui::CaptionPlace::kColumn) {
+        grid->addWidget(caption_of(*binding(cell.name)), row, column,
+                        Qt::AlignLeft | Qt::AlignVCenter);
+        grid->addWidget(placed(cell), row, column + 1);
       } else {
-        grid->addWidget(placed(child, false), row, column, 1, 2);
+        grid->addWidget(placed(cell), row, column, 1, 2);
       }
       column += 2;
     }
     ++row;
   }
-  grid->setColumnStretch(node.grid_columns * 2, 1);
+  grid->setColumnStretch(node.columns * 2, 1);
 }
 
-QWidget* ScreenWindow::build_group(const ui::LayoutNode& node) {
+QWidget* ScreenWindow::build_group(const ui::PlanNode& node) {
   auto* const frame = new QFrame(content_);
   frame->setObjectName(QStringLiteral("group"));
   frame->setFrameShape(QFrame::StyledPanel);
   auto* const column = new QVBoxLayout(frame);
-  const bool compact = !screen_.menu().empty();
-  column->setContentsMargins(compact ? 6 : 10, compact ? 3 : 6, compact ? 6 : 10, compact ? 4 : 8);
-  column->setSpacing(compact ? 2 : 6);
-  if (Binding* const title = binding(node.name)) {
-    title->widget()->setProperty("placed", true);
-    title->widget()->setProperty("title", true);
-    column->addWidget(title->widget());
+  const int side = compact_ ? 6 : 10;
+  column->setContentsMargins(side, compact_ ? 3 : 6, side, compact_ ? 4 : 8);
+  column->setSpacing(compact_ ? 2 : 6);
+  if (!node.name.empty()) {
+    QWidget* const title = binding(node.name)->widget();
+    title->setProperty("title", true);
+    column->addWidget(title);
   }
-  for (const ui::LayoutNode& child : node.children) build_node(child, *column);
+  for (const ui::PlanNode& child : node.children) build_node(child, *column);
   return frame;
 }
 

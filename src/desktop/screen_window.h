@@ -1,7 +1,8 @@
 #pragma once
-// Renders any screen: widgets from its controls, their places from its layout. It contains no rule
-// of the program.
+// Draws any screen: widgets from its controls, their places from its plan. It contains no rule of
+// the program, and of the look only fonts, colours and gaps.
 
+#include <QBoxLayout>
 #include <QDialog>
 #include <functional>
 #include <memory>
@@ -10,9 +11,8 @@
 
 #include "desktop/binding.h"
 #include "desktop/style.h"
-#include "ui/layout.h"
+#include "ui/plan.h"
 
-class QBoxLayout;
 class QMenuBar;
 class QScrollArea;
 
@@ -44,10 +44,13 @@ class ScreenWindow : public QDialog {
 
  private:
   void build();
-  void build_node(const ui::LayoutNode& node, QBoxLayout& into);
-  void build_grid(const ui::LayoutNode& node, QBoxLayout& into);
-  QWidget* build_group(const ui::LayoutNode& node);
-  QWidget* placed(const ui::LayoutNode& node, bool caption_apart);
+  void build_node(const ui::PlanNode& node, QBoxLayout& into);
+  void build_box(const ui::PlanNode& node, QBoxLayout::Direction direction, int spacing,
+                 QBoxLayout& into);
+  void build_grid(const ui::PlanNode& node, QBoxLayout& into);
+  QWidget* build_group(const ui::PlanNode& node);
+  /// The control with its unit, and its caption where that stands beside it or above.
+  QWidget* placed(const ui::PlanNode& node);
   ClickableLabel* caption_of(Binding& binding);
   void set_tab_order();
   void show_menu();
@@ -77,6 +80,7 @@ class ScreenWindow : public QDialog {
   FocusFrame* focus_frame_ = nullptr;
   unsigned focus_serial_ = 0;
   unsigned menu_serial_ = 0;
+  bool compact_ = false;  ///< a form of many fields has small gaps
   bool built_ = false;
   text::Language menu_language_ = text::Language::kEnglish;
 };

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QPainter>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace desktop {
@@ -18,12 +19,23 @@ struct Colours {
   const char* wrong_frame;
   const char* selected;  ///< paper of selected lines and texts
   const char* selected_text;
+  /// Of a drawing, as ui::Ink has them; no name is the palette's own.
+  std::array<const char*, ui::kInks> inks;
 };
 
-constexpr Colours kLight = {"#1565c0", "#0b4a8f", "#fff4cc", "#000000", "#ffdcdc",
-                            "#000000", "#c00000", "#1565c0", "#ffffff"};
-constexpr Colours kDark = {"#64b5f6", "#8ec7ff", "#4d431c", "#fff4cc", "#5c1a1a",
-                           "#ffffff", "#ff6b6b", "#1565c0", "#ffffff"};
+// Lines, signs and texts of a drawing are read on its paper, land and water alike.
+constexpr Colours kLight = {
+    "#1565c0", "#0b4a8f",
+    "#fff4cc", "#000000",
+    "#ffdcdc", "#000000",
+    "#c00000", "#1565c0",
+    "#ffffff", {"", "#b0b0b0", "#0b4a8f", "#efe4c4", "#d8ebf8", "#7a4a00", "#b00000"}};
+constexpr Colours kDark = {
+    "#64b5f6", "#8ec7ff",
+    "#4d431c", "#fff4cc",
+    "#5c1a1a", "#ffffff",
+    "#ff6b6b", "#1565c0",
+    "#ffffff", {"", "#6a6a6a", "#8ec7ff", "#4a4530", "#1c3448", "#ffd27f", "#ff9c9c"}};
 
 // What has the focus is framed by FocusFrame. A drop-down gets no frame here: a style sheet that
 // frames one draws it anew, and its text moves.
@@ -53,6 +65,11 @@ double brightness(const QColor& colour) {
 }
 
 }  // namespace
+
+QColor colour_of(ui::Ink ink, const QPalette& palette) {
+  const QLatin1String name(colours_for(palette).inks[static_cast<std::size_t>(ink)]);
+  return name.isEmpty() ? palette.color(QPalette::Text) : QColor(name);
+}
 
 double contrast(const QColor& a, const QColor& b) {
   const double first = brightness(a);

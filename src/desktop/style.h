@@ -6,6 +6,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "ui/drawing.h"
+
 namespace desktop {
 
 /// The style sheet of the application for a light or dark palette.
@@ -13,6 +15,9 @@ namespace desktop {
 
 /// The palette with selected lines and texts that can be read: its own when they can, else ours.
 [[nodiscard]] QPalette readable(QPalette palette);
+
+/// The colour of what a drawing says with this ink, on paper of this palette (QPalette::Base).
+[[nodiscard]] QColor colour_of(ui::Ink ink, const QPalette& palette);
 
 /// Contrast of a text's colour with its paper's, from 1 (none) to 21 (black and white).
 [[nodiscard]] double contrast(const QColor& a, const QColor& b);

@@ -18,7 +18,7 @@ constexpr WetBulbState kStates[] = {WetBulbState::kNotIced, WetBulbState::kIced,
 }  // namespace
 
 CCountDewDlg::CCountDewDlg(ui::Services& services, Values values)
-    : Screen(services, "CCountDewDlg", {id::kPsychrometerTitle}),
+    : OkCancelHelpDialog(services, "CCountDewDlg", {id::kPsychrometerTitle}),
       dry(*this, services,
           {"dry_group", "dry_whole", "dry_tenths", id::kDryBulbGroup, id::kDryBulbWhole,
            id::kAirTemperatureHighQuestion, id::kAirTemperatureLowQuestion}),
@@ -30,9 +30,6 @@ CCountDewDlg::CCountDewDlg(ui::Services& services, Values values)
       computed_group(*this, "computed_group", {id::kComputedGroup}),
       dew_point(*this, "dew_point", {id::kComputedDewPoint}),
       humidity(*this, "humidity", {id::kComputedHumidity}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)),
       state_before_(values_.state) {
   dew_point.unit = {id::kUnitCelsius};
@@ -95,17 +92,15 @@ void CCountDewDlg::on_ok() {
     }
   }
   if (!dry.empty() && !wet.empty() && wet.value() > dry.value()) {
-    services().messages.error(id::kWetBulbAboveDryBulb);
-    focus(wet.whole);
+    refuse(wet.whole, id::kWetBulbAboveDryBulb);
     return;
   }
   if (iced_but_warm()) {
-    services().messages.error(id::kIcedWetBulbTooWarm);
-    focus(wet.whole);
+    refuse(wet.whole, id::kIcedWetBulbTooWarm);
     return;
   }
   values_.dry = dry.text();
   values_.wet = wet.text();
   values_.state = chosen_state();
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -6,9 +6,9 @@
 #include "elements/CTemperatureEntry.h"
 #include "elements/formulas/psychrometer.h"
 #include "ship/data/ShipFixedData.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CCountDewDlg : public ui::Screen {
+class CCountDewDlg : public ui::OkCancelHelpDialog {
  public:
   struct Values {
     std::string dry;  ///< degrees with one decimal ("-1.8"), or empty
@@ -29,9 +29,6 @@ class CCountDewDlg : public ui::Screen {
   ui::Label computed_group;
   ui::ReadOnly dew_point;  ///< while typing; empty when it cannot be computed
   ui::ReadOnly humidity;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

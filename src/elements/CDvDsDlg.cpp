@@ -55,12 +55,9 @@ void take(std::span<const CodeRow> table, const ui::Choice& choice, std::string&
 }  // namespace
 
 CDvDsDlg::CDvDsDlg(ui::Services& services, Values values)
-    : Screen(services, "CDvDsDlg", {id::kMovementTitle}),
+    : OkCancelHelpDialog(services, "CDvDsDlg", {id::kMovementTitle}),
       course(*this, "course", {id::kMovementCourse}, lines_of(kTable0700)),
       speed(*this, "speed", {id::kMovementSpeed}, lines_of(kTable4451)),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)) {
   course.item_codes = codes_of(kTable0700);
   speed.item_codes = codes_of(kTable4451);
@@ -74,5 +71,5 @@ void CDvDsDlg::on_open() {
 void CDvDsDlg::on_ok() {
   take(kTable0700, course, values_.Ds);
   take(kTable4451, speed, values_.Vs);
-  close(text::kOk);
+  close(ui::kOk);
 }

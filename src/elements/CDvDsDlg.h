@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CDvDsDlg : public ui::Screen {
+class CDvDsDlg : public ui::OkCancelHelpDialog {
  public:
   /// The record's fields Ds (code table 0700) and Vs (code table 4451).
   struct Values {
@@ -20,9 +20,6 @@ class CDvDsDlg : public ui::Screen {
 
   ui::Choice course;
   ui::Choice speed;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

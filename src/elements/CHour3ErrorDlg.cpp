@@ -5,9 +5,8 @@
 namespace id = text::id;
 
 CHour3ErrorDlg::CHour3ErrorDlg(ui::Services& services, const std::string& warnings_found)
-    : Screen(services, "CHour3ErrorDlg", {id::kPositionWarningTitle}),
-      warnings(*this, "warnings"),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk) {
+    : OkDialog(services, "CHour3ErrorDlg", {id::kPositionWarningTitle}),
+      warnings(*this, "warnings") {
   warnings.set(warnings_found);
 }
 

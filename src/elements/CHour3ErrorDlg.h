@@ -4,9 +4,9 @@
 #include <functional>
 #include <string>
 
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CHour3ErrorDlg : public ui::Screen {
+class CHour3ErrorDlg : public ui::OkDialog {
  public:
   CHour3ErrorDlg(ui::Services& services, const std::string& warnings);
 
@@ -17,5 +17,4 @@ class CHour3ErrorDlg : public ui::Screen {
                    const std::function<void()>& hide_busy_notice = {});
 
   ui::Memo warnings;
-  ui::Button ok;
 };

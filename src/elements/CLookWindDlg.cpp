@@ -29,7 +29,7 @@ const CLookWindDlg::SpeedField CLookWindDlg::kSpeedFields[] = {
 };
 
 CLookWindDlg::CLookWindDlg(ui::Services& services, elements::ApparentWindTexts values)
-    : Screen(services, "CLookWindDlg", {id::kApparentWindTitle}),
+    : OkCancelHelpDialog(services, "CLookWindDlg", {id::kApparentWindTitle}),
       ship_group(*this, "ship_group", {id::kShipMovementGroup}),
       heading(*this, "heading", {id::kHeading}, 3),
       course(*this, "course", {id::kCourse}, 3),
@@ -41,9 +41,6 @@ CLookWindDlg::CLookWindDlg(ui::Services& services, elements::ApparentWindTexts v
       true_group(*this, "true_group", {id::kTrueWindGroup}),
       true_direction(*this, "true_direction", {id::kComputedDirection}),
       true_speed(*this, "true_speed", {id::kComputedSpeed}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)) {
   true_direction.unit = {id::kUnitTensOfDegrees};
   true_speed.unit = {id::kUnitKnots};
@@ -131,5 +128,5 @@ void CLookWindDlg::on_ok() {
     return;
   }
   values_ = entered();
-  close(text::kOk);
+  close(ui::kOk);
 }

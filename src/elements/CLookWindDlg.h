@@ -4,9 +4,9 @@
 #include <string>
 
 #include "elements/formulas/true_wind.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CLookWindDlg : public ui::Screen {
+class CLookWindDlg : public ui::OkCancelHelpDialog {
  public:
   CLookWindDlg(ui::Services& services, elements::ApparentWindTexts values);
 
@@ -25,9 +25,6 @@ class CLookWindDlg : public ui::Screen {
   ui::Label true_group;
   ui::ReadOnly true_direction;  ///< while typing; empty while an input is missing
   ui::ReadOnly true_speed;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

@@ -21,7 +21,7 @@ CPositionDlg::Sides sides_of(const std::string& quadrant) {
 
 CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string last_quadrant,
                            LandTest is_on_land, Sides chosen)
-    : Screen(services, "CPositionDlg", {id::kPositionTitle}),
+    : OkCancelHelpDialog(services, "CPositionDlg", {id::kPositionTitle}),
       last_report_hint(*this, "last_report_hint", {id::kLastReportHint}),
       latitude_degrees(*this, "latitude_degrees", {id::kPositionLatitude}, 2),
       latitude_minutes(*this, "latitude_minutes", {}, 2),
@@ -29,9 +29,6 @@ CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string la
       longitude_degrees(*this, "longitude_degrees", {id::kPositionLongitude}, 3),
       longitude_minutes(*this, "longitude_minutes", {}, 2),
       longitude_side(*this, "longitude_side", {}, {{id::kEast}, {id::kWest}}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)),
       last_quadrant_(std::move(last_quadrant)),
       is_on_land_(std::move(is_on_land)),
@@ -85,14 +82,14 @@ void CPositionDlg::show_hint() {
 
 bool CPositionDlg::complete() {
   for (const CFigureField* const part : {&la_deg_, &la_min_, &lo_deg_, &lo_min_}) {
-    if (!part->number()) return refuse(part->message(), part->field());
+    if (!part->number()) return refuse(part->field(), part->message());
   }
   if (*la_deg_.number() == 90 && *la_min_.number() > 0)
-    return refuse(id::kBeyondThePole, latitude_minutes);
+    return refuse(latitude_minutes, id::kBeyondThePole);
   if (*lo_deg_.number() == 180 && *lo_min_.number() > 0)
-    return refuse(id::kBeyondTheDateLine, longitude_minutes);
-  if (latitude_side.selected < 0) return refuse(id::kNoLatitudeSide, latitude_side);
-  if (longitude_side.selected < 0) return refuse(id::kNoLongitudeSide, longitude_side);
+    return refuse(longitude_minutes, id::kBeyondTheDateLine);
+  if (latitude_side.selected < 0) return refuse(latitude_side, id::kNoLatitudeSide);
+  if (longitude_side.selected < 0) return refuse(longitude_side, id::kNoLongitudeSide);
   return true;
 }
 
@@ -107,17 +104,11 @@ bool CPositionDlg::is_on_land() const {
 void CPositionDlg::on_ok() {
   if (!complete()) return;
   if (is_on_land() &&
-      services().messages.question(id::kOnLandQuestion, text::QuestionMode::kYesNo) != text::kYes) {
+      services().messages.question(id::kOnLandQuestion, ui::QuestionMode::kYesNo) != ui::kYes) {
     focus(latitude_degrees);
     return;
   }
   values_ = {la_deg_.figures(), la_min_.figures(), lo_deg_.figures(), lo_min_.figures(),
              codetables::quadrant_of(latitude_side.selected, longitude_side.selected)};
-  close(text::kOk);
-}
-
-bool CPositionDlg::refuse(text::Id message, ui::Control& field) {
-  services().messages.error(message);
-  focus(field);
-  return false;
+  close(ui::kOk);
 }

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "elements/CFigureField.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CPositionDlg : public ui::Screen {
+class CPositionDlg : public ui::OkCancelHelpDialog {
  public:
   /// The record's fields LaDeg, LaMin, LoDeg, LoMin and Qc.
   struct Values {
@@ -41,9 +41,6 @@ class CPositionDlg : public ui::Screen {
   ui::Edit longitude_degrees;
   ui::Combo longitude_minutes;
   ui::Choice longitude_side;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;
@@ -55,7 +52,6 @@ class CPositionDlg : public ui::Screen {
   void show_hint();
   /// True when all is there and in range; else the refusal was shown.
   bool complete();
-  bool refuse(text::Id message, ui::Control& field);
   [[nodiscard]] bool is_on_land() const;
 
   Values values_;

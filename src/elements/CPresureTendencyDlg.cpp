@@ -23,7 +23,7 @@ text::Id line_of(char code) {
 }  // namespace
 
 CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, std::string ppp)
-    : Screen(services, "CPresureTendencyDlg", {id::kTendencyTitle}),
+    : OkCancelHelpDialog(services, "CPresureTendencyDlg", {id::kTendencyTitle}),
       choice(*this, "choice"),
       kind_group(*this, "kind_group", {id::kTendencyKindGroup}),
       kind(*this, "kind"),
@@ -31,9 +31,6 @@ CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, 
       characteristic(*this, "characteristic"),
       amount(*this, "amount", {id::kTendencyAmount}, 6),
       code(*this, "code", {id::kTendencyCode}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       a_(std::move(a)),
       ppp_(std::move(ppp)) {
   kind.item_refs = {
@@ -115,8 +112,8 @@ bool CPresureTendencyDlg::check_amount(const std::string& characteristic_code,
   }
   const std::string stored = codetables::tendency_stored(typed);
   if (stored == confirmed_) return true;
-  if (services().messages.question(id::kTendencyAmountQuestion, text::QuestionMode::kYesNo) !=
-      text::kYes)
+  if (services().messages.question(id::kTendencyAmountQuestion, ui::QuestionMode::kYesNo) !=
+      ui::kYes)
     return false;
   confirmed_ = stored;
   return true;
@@ -131,5 +128,5 @@ void CPresureTendencyDlg::on_ok() {
   }
   a_ = new_a;
   ppp_ = codetables::tendency_stored(typed);
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "codetables/tables/pressure_tendency.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CPresureTendencyDlg : public ui::Screen {
+class CPresureTendencyDlg : public ui::OkCancelHelpDialog {
  public:
   /// The record's figures: a ("0"-"8", "/" or empty) and ppp ("052" is 5.2 hPa).
   CPresureTendencyDlg(ui::Services& services, std::string a, std::string ppp);
@@ -22,9 +22,6 @@ class CPresureTendencyDlg : public ui::Screen {
   ui::List characteristic;
   ui::Edit amount;
   ui::ReadOnly code;  ///< the characteristic that OK would store
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

@@ -19,7 +19,7 @@ constexpr int kHighestWhole = codetables::kBeyondPressures - 1;
 
 CSeaSurfacePressureDlg::CSeaSurfacePressureDlg(ui::Services& services, Values values,
                                                CardActions actions)
-    : Screen(services, "CSeaSurfacePressureDlg", {id::kPressureTitle}),
+    : OkCancelHelpDialog(services, "CSeaSurfacePressureDlg", {id::kPressureTitle}),
       reading_group(*this, "reading_group", {id::kPressureReadingGroup}),
       reading_whole(*this, "reading_whole", {id::kPressureWhole}, 4),
       reading_tenths(*this, "reading_tenths", {id::kPressureTenths}, 1),
@@ -35,9 +35,6 @@ CSeaSurfacePressureDlg::CSeaSurfacePressureDlg(ui::Services& services, Values va
       check_date(*this, "check_date", {id::kPressureCheckDate}),
       check_place(*this, "check_place", {id::kPressureCheckPlace}),
       renew(*this, "renew", {id::kPressureRenew}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)),
       actions_(std::move(actions)),
       card_(values_.card) {
@@ -135,12 +132,6 @@ void CSeaSurfacePressureDlg::recalculate() {
   sea_level_pressure.content = text::format_fixed(read.value + correction.value, 1);
 }
 
-bool CSeaSurfacePressureDlg::refuse(ui::Control& field, text::Id message) {
-  services().messages.error(message);
-  focus(field);
-  return false;
-}
-
 bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, text::Id message) {
   if (!field.content.empty() && !text::is_all_digits(field.content)) {
     services().messages.error(message);
@@ -193,5 +184,5 @@ void CSeaSurfacePressureDlg::on_ok() {
   values_.hour = hour.content;
   values_.minute = minute.content;
   values_.time_choice = far ? TimeChoice::kMoreThan10Minutes : TimeChoice::kUnder10Minutes;
-  close(text::kOk);
+  close(ui::kOk);
 }

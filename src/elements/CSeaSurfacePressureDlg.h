@@ -5,9 +5,9 @@
 #include <string>
 
 #include "ship/data/ShipFixedData.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CSeaSurfacePressureDlg : public ui::Screen {
+class CSeaSurfacePressureDlg : public ui::OkCancelHelpDialog {
  public:
   enum class TimeChoice { kUnder10Minutes = 0, kMoreThan10Minutes = 1 };
 
@@ -54,9 +54,6 @@ class CSeaSurfacePressureDlg : public ui::Screen {
   ui::ReadOnly check_date;
   ui::ReadOnly check_place;
   ui::Button renew;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;
@@ -71,7 +68,6 @@ class CSeaSurfacePressureDlg : public ui::Screen {
   void recalculate();
   bool check_digits(const ui::Control& field, text::Id message);
   bool check_time(ui::Control& field, int largest);
-  bool refuse(ui::Control& field, text::Id message);
   bool validate();
 
   Values values_;

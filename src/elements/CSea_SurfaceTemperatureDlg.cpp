@@ -10,13 +10,10 @@ namespace id = text::id;
 
 CSea_SurfaceTemperatureDlg::CSea_SurfaceTemperatureDlg(ui::Services& services, Values values,
                                                        SeaTemperatureMethod of_ship)
-    : Screen(services, "CSea_SurfaceTemperatureDlg", {id::kSeaTemperatureTitle}),
+    : OkCancelHelpDialog(services, "CSea_SurfaceTemperatureDlg", {id::kSeaTemperatureTitle}),
       temperature(*this, "temperature", {id::kSeaTemperatureField}, 5),
       method(*this, "method", {id::kSeaTemperatureMethod},
              {{id::kSeaIntake}, {id::kSeaBucket}, {id::kSeaHullSensor}, {id::kSeaOther}}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)),
       of_ship_(of_ship) {
   temperature.unit = {id::kSeaTemperatureUnit};
@@ -46,17 +43,16 @@ void CSea_SurfaceTemperatureDlg::on_ok() {
   if (text::trim(temperature.content).empty()) {
     // Nothing was shown of a temperature that was coded as not observed, and nothing is changed.
     if (!opened_with_.empty()) values_ = {};
-    close(text::kOk);
+    close(ui::kOk);
     return;
   }
   const auto value = codetables::sea_temperature(temperature.content);
   if (!value) {
-    services().messages.error(id::kSeaTemperatureRange);
-    focus(temperature);
+    refuse(temperature, id::kSeaTemperatureRange);
     return;
   }
   const auto figures = codetables::sea_temperature_figures(
       *value, static_cast<SeaTemperatureMethod>(method.selected));
   values_ = {figures.Ss, figures.TwTwTw};
-  close(text::kOk);
+  close(ui::kOk);
 }

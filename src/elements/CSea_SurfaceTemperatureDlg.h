@@ -4,9 +4,9 @@
 #include <string>
 
 #include "ship/data/ShipFixedData.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CSea_SurfaceTemperatureDlg : public ui::Screen {
+class CSea_SurfaceTemperatureDlg : public ui::OkCancelHelpDialog {
  public:
   /// The record's fields Ss and TwTwTw.
   struct Values {
@@ -23,9 +23,6 @@ class CSea_SurfaceTemperatureDlg : public ui::Screen {
 
   ui::Edit temperature;  ///< degrees and tenths
   ui::Choice method;     ///< in the order of SeaTemperatureMethod, for this observation only
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

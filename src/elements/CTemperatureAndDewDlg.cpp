@@ -8,7 +8,7 @@
 namespace id = text::id;
 
 CTemperatureAndDewDlg::CTemperatureAndDewDlg(ui::Services& services, Values values)
-    : Screen(services, "CTemperatureAndDewDlg", {id::kAirAndDewTitle}),
+    : OkCancelHelpDialog(services, "CTemperatureAndDewDlg", {id::kAirAndDewTitle}),
       air(*this, services,
           {"air_group", "air_whole", "air_tenths", id::kAirGroup, id::kAirWhole,
            id::kAirTemperatureHighQuestion, id::kAirTemperatureLowQuestion}),
@@ -17,9 +17,6 @@ CTemperatureAndDewDlg::CTemperatureAndDewDlg(ui::Services& services, Values valu
            id::kDewPointHighQuestion, id::kDewPointLowQuestion}),
       computed_group(*this, "computed_group", {id::kComputedGroup}),
       humidity(*this, "humidity", {id::kComputedHumidity}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)) {
   humidity.unit = {id::kUnitPercent};
   air.on_change = [this] { recompute(); };
@@ -47,10 +44,9 @@ void CTemperatureAndDewDlg::on_ok() {
     }
   }
   if (!air.empty() && !dew.empty() && dew.value() > air.value()) {
-    services().messages.error(id::kDewPointAboveAir);
-    focus(dew.whole);
+    refuse(dew.whole, id::kDewPointAboveAir);
     return;
   }
   values_ = {air.text(), dew.text()};
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "elements/CTemperatureEntry.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CTemperatureAndDewDlg : public ui::Screen {
+class CTemperatureAndDewDlg : public ui::OkCancelHelpDialog {
  public:
   struct Values {
     std::string air;  ///< degrees with one decimal ("-1.8"), or empty
@@ -22,9 +22,6 @@ class CTemperatureAndDewDlg : public ui::Screen {
   CTemperatureEntry dew;
   ui::Label computed_group;
   ui::ReadOnly humidity;  ///< while typing; empty when it cannot be computed
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

@@ -81,8 +81,7 @@ bool CTemperatureEntry::check_whole() {
   if (range != codetables::TemperatureRange::kUsual && degrees != confirmed_) {
     const text::Id question =
         range == codetables::TemperatureRange::kAbove ? texts_.high_question : texts_.low_question;
-    if (services_.messages.question(question, text::QuestionMode::kYesNo) != text::kYes)
-      return false;
+    if (services_.messages.question(question, ui::QuestionMode::kYesNo) != ui::kYes) return false;
     confirmed_ = degrees;
   }
   if (on_change) on_change();  // full-width figures are figures only now

@@ -10,11 +10,8 @@
 namespace id = text::id;
 
 CThumidityDlg::CThumidityDlg(ui::Services& services, std::string humidity, double unit)
-    : Screen(services, "CThumidityDlg", {id::kHumidityTitle}),
+    : OkCancelHelpDialog(services, "CThumidityDlg", {id::kHumidityTitle}),
       value(*this, "value", {id::kHumidityValue}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       humidity_(std::move(humidity)),
       whole_percent_(unit >= 1.0) {
   value.max_length = 5;
@@ -49,5 +46,5 @@ void CThumidityDlg::on_ok() {
     return;
   }
   humidity_ = text::trim(value.content);
-  close(text::kOk);
+  close(ui::kOk);
 }

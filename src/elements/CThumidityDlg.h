@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CThumidityDlg : public ui::Screen {
+class CThumidityDlg : public ui::OkCancelHelpDialog {
  public:
   /// `unit` is the ship's: 1.0 percent, or 0.1.
   CThumidityDlg(ui::Services& services, std::string humidity, double unit);
@@ -15,9 +15,6 @@ class CThumidityDlg : public ui::Screen {
   [[nodiscard]] const std::string& humidity() const { return humidity_; }
 
   ui::Edit value;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

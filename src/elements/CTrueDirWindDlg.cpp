@@ -32,14 +32,11 @@ text::Id message_of(TrueWindRule rule) {
 }  // namespace
 
 CTrueDirWindDlg::CTrueDirWindDlg(ui::Services& services, std::string direction, std::string speed)
-    : Screen(services, "CTrueDirWindDlg", {id::kTrueWindTitle}),
+    : OkCancelHelpDialog(services, "CTrueDirWindDlg", {id::kTrueWindTitle}),
       direction_field(*this, "direction", {id::kTrueDirection}, 2),
       speed_field(*this, "speed", {id::kTrueSpeed}, 5),
       direction_unknown(*this, "direction_unknown", {id::kTrueDirectionUnknown}),
       speed_unknown(*this, "speed_unknown", {id::kTrueSpeedUnknown}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       direction_(std::move(direction)),
       speed_(std::move(speed)) {
   direction_field.unit = {id::kUnitTensOfDegrees};
@@ -104,11 +101,10 @@ void CTrueDirWindDlg::on_ok() {
   // The rules tell blanks from nothing, so they see the fields as they are.
   const TrueWindRule rule = elements::check_true_wind(direction_field.content, speed_field.content);
   if (rule != TrueWindRule::kKept) {
-    services().messages.error(message_of(rule));
-    focus(direction_field);
+    refuse(direction_field, message_of(rule));
     return;
   }
   direction_ = elements::true_wind_direction(text::trim(direction_field.content));
   speed_ = text::trim(speed_field.content);
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CTrueDirWindDlg : public ui::Screen {
+class CTrueDirWindDlg : public ui::OkCancelHelpDialog {
  public:
   /// Direction in tens of degrees ("18", "00" calm, "99" variable, "//") and speed ("12", "//").
   CTrueDirWindDlg(ui::Services& services, std::string direction, std::string speed);
@@ -20,9 +20,6 @@ class CTrueDirWindDlg : public ui::Screen {
   ui::Edit speed_field;
   ui::Tick direction_unknown;
   ui::Tick speed_unknown;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

@@ -20,15 +20,12 @@ std::string or_clock(const std::string& value, int clock) {
 }  // namespace
 
 CUTCTimeDlg1::CUTCTimeDlg1(ui::Services& services, Values values)
-    : Screen(services, "CUTCTimeDlg1", {id::kUtcTimeTitle}),
+    : OkCancelHelpDialog(services, "CUTCTimeDlg1", {id::kUtcTimeTitle}),
       hint(*this, "hint", {id::kUtcTimeHint}),
       year(*this, "year", {id::kUtcYear}, 4),
       month(*this, "month", {id::kUtcMonth}, 2),
       day(*this, "day", {id::kUtcDay}, 2),
       hour(*this, "hour", {id::kUtcHour}, 2),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       values_(std::move(values)),
       years_(elements::observation_years(services.clock.utc().year)),
       year_(services, year, years_.first, years_.last, 1, id::kInvalidYear),
@@ -56,20 +53,20 @@ text::Id CUTCTimeDlg1::hour_fault() const {
   return *hour_.number() % kHoursBetweenReports == 0 ? text::Id() : id::kNotSynopticHour;
 }
 
-void CUTCTimeDlg1::on_ok() {
+bool CUTCTimeDlg1::complete() {
   if (!year_.number())
     return refuse(
-        text::is_all_digits(text::trim(year.content)) ? id::kInvalidYear : id::kInvalidDay, year);
-  if (!month_.number()) return refuse(id::kInvalidDay, month);
+        year, text::is_all_digits(text::trim(year.content)) ? id::kInvalidYear : id::kInvalidDay);
+  if (!month_.number()) return refuse(month, id::kInvalidDay);
   if (!day_.number() ||
       !platform::is_calendar_date(*year_.number(), *month_.number(), *day_.number()))
-    return refuse(id::kInvalidDay, day);
-  if (const text::Id fault = hour_fault(); fault) return refuse(fault, hour);
-  values_ = {year_.figures(), month_.figures(), day_.figures(), hour_.figures()};
-  close(text::kOk);
+    return refuse(day, id::kInvalidDay);
+  const text::Id fault = hour_fault();
+  return !fault || refuse(hour, fault);
 }
 
-void CUTCTimeDlg1::refuse(text::Id message, ui::Control& field) {
-  services().messages.error(message);
-  focus(field);
+void CUTCTimeDlg1::on_ok() {
+  if (!complete()) return;
+  values_ = {year_.figures(), month_.figures(), day_.figures(), hour_.figures()};
+  close(ui::kOk);
 }

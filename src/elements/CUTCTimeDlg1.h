@@ -5,9 +5,9 @@
 
 #include "elements/CFigureField.h"
 #include "elements/formulas/observation_years.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CUTCTimeDlg1 : public ui::Screen {
+class CUTCTimeDlg1 : public ui::OkCancelHelpDialog {
  public:
   /// The record's fields Year, Month, YY and GG.
   struct Values {
@@ -26,9 +26,6 @@ class CUTCTimeDlg1 : public ui::Screen {
   ui::Combo month;
   ui::Combo day;
   ui::Combo hour;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   /// Empty fields are filled from the clock, read as UTC. An hour that OK would refuse has the
@@ -38,9 +35,10 @@ class CUTCTimeDlg1 : public ui::Screen {
   void on_ok() override;
 
  private:
+  /// True when every part is there and the date exists; else the first fault was told.
+  bool complete();
   /// Text id of the message that refuses the hour shown, 0 when OK takes it.
   [[nodiscard]] text::Id hour_fault() const;
-  void refuse(text::Id message, ui::Control& field);
 
   Values values_;
   elements::Years years_;

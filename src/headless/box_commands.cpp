@@ -6,14 +6,14 @@
 namespace headless {
 namespace {
 
-std::string buttons_of(const platform::MessageBox& box) {
+std::string buttons_of(const ui::MessageBox& box) {
   std::string result;
-  for (const platform::BoxButton& button : box.buttons) result += " [" + button.label + "]";
+  for (const ui::BoxButton& button : box.buttons) result += " [" + button.label + "]";
   return result;
 }
 
-const platform::BoxButton* button_named(const platform::MessageBox& box, std::string_view answer) {
-  for (const platform::BoxButton& button : box.buttons) {
+const ui::BoxButton* button_named(const ui::MessageBox& box, std::string_view answer) {
+  for (const ui::BoxButton& button : box.buttons) {
     if (same_word(answer, button.name) || answer == button.label ||
         same_word(answer, ui::without_access_key(button.label)))
       return &button;
@@ -23,16 +23,15 @@ const platform::BoxButton* button_named(const platform::MessageBox& box, std::st
 
 }  // namespace
 
-std::string describe(const platform::MessageBox& box) {
+std::string describe(const ui::MessageBox& box) {
   return ui::quoted(box.title) + ": " + ui::quoted(box.text) + buttons_of(box);
 }
 
-std::optional<int> answer_box(ScriptWindows& windows, const platform::MessageBox& box,
-                              const Line& line) {
+std::optional<int> answer_box(ScriptWindows& windows, const ui::MessageBox& box, const Line& line) {
   const std::string_view verb = line.verb();
   if (verb == "answer") {
     const std::string answer = plain_text(text::trim(line.rest()));
-    const platform::BoxButton* const button = button_named(box, answer);
+    const ui::BoxButton* const button = button_named(box, answer);
     if (button == nullptr) {
       windows.stop(line, Status::kCannot,
                    "no button " + ui::quoted(answer) + "; there are" + buttons_of(box));

@@ -5,6 +5,7 @@
 
 #include "headless/line_choice.h"
 #include "headless/script_windows.h"
+#include "text/numbers.h"
 #include "text/strings.h"
 #include "ui/observation_view.h"
 
@@ -40,7 +41,7 @@ const ScreenCommands::Row ScreenCommands::kRows[] = {
     {"start", &ScreenCommands::start},   {"show", &ScreenCommands::show},
     {"set", &ScreenCommands::set},       {"focus", &ScreenCommands::focus},
     {"choose", &ScreenCommands::choose}, {"tick", &ScreenCommands::tick},
-    {"press", &ScreenCommands::press},   {"click", &ScreenCommands::press},
+    {"press", &ScreenCommands::press},   {"click", &ScreenCommands::click},
     {"menu", &ScreenCommands::menu},     {"key", &ScreenCommands::key},
     {"answer", &ScreenCommands::answer}, {"close", &ScreenCommands::close},
     {"expect", &ScreenCommands::expect}, {"expect-message", &ScreenCommands::expect_message},
@@ -224,6 +225,25 @@ void ScreenCommands::press() {
     return;
   }
   screen_.press(control);
+}
+
+// "click NAME" is a press; a picture may be clicked at a place of its coordinates.
+void ScreenCommands::click() {
+  const NameAndText args = arguments();
+  ui::Control& control = usable(args);
+  const std::string_view place = text::trim(args.text);
+  if (control.kind != ui::Kind::kPicture || (place.empty() && !control.on_point)) return press();
+  if (!control.on_point) cannot(a_kind(control) + " that has no places");
+  const auto cut = place.find(' ');
+  const auto across = text::strict_number(place.substr(0, cut));
+  const auto up = cut == std::string_view::npos
+                      ? std::nullopt
+                      : text::strict_number(text::trim(place.substr(cut)));
+  if (!across || !up) cannot(control.name + " wants a place: click " + control.name + " ACROSS UP");
+  const ui::Drawing file;
+  if (!ui::is_inside(control.drawing == nullptr ? file : *control.drawing, {*across, *up}))
+    cannot(control.name + " has no place " + std::string(text::first(place, 40)));
+  screen_.press_at(control, {*across, *up});
 }
 
 void ScreenCommands::menu() {

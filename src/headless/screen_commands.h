@@ -32,6 +32,7 @@ class ScreenCommands {
   void choose();
   void tick();
   void press();
+  void click();
   void menu();
   void key();
   void close();

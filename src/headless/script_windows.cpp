@@ -11,13 +11,13 @@ namespace {
 
 std::string result_name(int result) {
   switch (result) {
-    case text::kOk:
+    case ui::kOk:
       return "ok";
-    case text::kCancel:
+    case ui::kCancel:
       return "cancel";
-    case text::kYes:
+    case ui::kYes:
       return "yes";
-    case text::kNo:
+    case ui::kNo:
       return "no";
     default:
       return std::to_string(result);
@@ -116,13 +116,13 @@ void ScriptWindows::stop(const Line& line, Status status, const std::string& rea
   end(status);
 }
 
-int ScriptWindows::show_message(const platform::MessageBox& box) {
+int ScriptWindows::show_message(const ui::MessageBox& box) {
   if (ended_) return box.close_result;
   say_changes_so_far();
   return ask(box, box.buttons.size() > 1 ? "question" : "message");
 }
 
-int ScriptWindows::ask(const platform::MessageBox& box, std::string_view what) {
+int ScriptWindows::ask(const ui::MessageBox& box, std::string_view what) {
   say(std::string(what) + " " + describe(box));
   for (;;) {
     if (const std::optional<int> answer = answer_box(*this, box, next_command())) return *answer;
@@ -130,7 +130,7 @@ int ScriptWindows::ask(const platform::MessageBox& box, std::string_view what) {
 }
 
 int ScriptWindows::run_modal(ui::Screen& screen) {
-  if (ended_) return text::kCancel;
+  if (ended_) return ui::kCancel;
   say_changes_so_far();
   screen.open();
   // A screen may accept itself while it opens and is then never seen.
@@ -192,13 +192,12 @@ platform::PrintResult ScriptWindows::print(const std::string& document,
                                            const std::vector<std::string>& lines) {
   if (ended_) return platform::PrintResult::kCancelled;
   say_changes_so_far();
-  const platform::MessageBox dialog{
-      "print",
-      document,
-      {{"Print", "print", text::kOk}, {"Cancel", "cancel", text::kCancel}},
-      text::kCancel,
-      0};
-  if (ask(dialog, "printing") != text::kOk) return platform::PrintResult::kCancelled;
+  const ui::MessageBox dialog{"print",
+                              document,
+                              {{"Print", "print", ui::kOk}, {"Cancel", "cancel", ui::kCancel}},
+                              ui::kCancel,
+                              0};
+  if (ask(dialog, "printing") != ui::kOk) return platform::PrintResult::kCancelled;
   for (const std::string& line : lines) say("printed " + ui::quoted(line));
   return platform::PrintResult::kSuccess;
 }

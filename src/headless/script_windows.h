@@ -16,9 +16,7 @@ struct EndOfRun {
   Status status = Status::kDone;
 };
 
-class ScriptWindows : public platform::Windows,
-                      public platform::HelpViewer,
-                      public platform::Printer {
+class ScriptWindows : public ui::Windows, public platform::HelpViewer, public platform::Printer {
  public:
   ScriptWindows(std::istream& script, std::ostream& transcript, std::ostream& error,
                 const Options& options)
@@ -33,7 +31,7 @@ class ScriptWindows : public platform::Windows,
   /// Ends the run: the command of this line failed or cannot be carried out.
   [[noreturn]] void stop(const Line& line, Status status, const std::string& reason);
 
-  int show_message(const platform::MessageBox& box) override;
+  int show_message(const ui::MessageBox& box) override;
   int run_modal(ui::Screen& screen) override;
   void show_notice(ui::Screen& screen) override;
   void hide_notice(ui::Screen& screen) override;
@@ -55,7 +53,7 @@ class ScriptWindows : public platform::Windows,
 
   void say_changes_so_far();
   /// A box with buttons: reads commands until it is answered.
-  int ask(const platform::MessageBox& box, std::string_view what);
+  int ask(const ui::MessageBox& box, std::string_view what);
   [[noreturn]] void end(Status status);
 
   ScriptReader reader_;

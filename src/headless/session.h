@@ -11,12 +11,13 @@
 #include <ostream>
 
 #include "platform/ports.h"
+#include "ui/windows.h"
 
 namespace headless {
 
 /// The doors to a person; everything else of the program's world is the caller's.
 struct Doors {
-  platform::Windows& windows;
+  ui::Windows& windows;
   platform::HelpViewer& help;
   platform::Printer& printer;
 };

@@ -197,9 +197,9 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
 void CVelmaranDlg::correct_reports() {
   if (unsaved()) {
     const int answer =
-        services().messages.question(id::kAskSaveBeforeCorrecting, text::QuestionMode::kYesNoCancel,
+        services().messages.question(id::kAskSaveBeforeCorrecting, ui::QuestionMode::kYesNoCancel,
                                      services().texts.get(id::kExitQuestionTitle));
-    if (answer == text::kCancel || (answer == text::kOk && !save())) return;
+    if (answer == ui::kCancel || (answer == ui::kOk && !save())) return;
   }
   services().messages.error(id::kNotInThisVersion);
 }
@@ -207,7 +207,7 @@ void CVelmaranDlg::correct_reports() {
 void CVelmaranDlg::edit_fixed_data() {
   CFixDataDlg dialog(services(), context_.folders.fixed_data, false, context_.folders.reports,
                      context_.folders.logbook, context_.ship);
-  if (services().windows.run_modal(dialog) != text::kOk) return;
+  if (services().windows.run_modal(dialog) != ui::kOk) return;
   context_.ship = dialog.values();
   if (context_.save_fixed_data) context_.save_fixed_data();
   form_.ship_changed();
@@ -218,7 +218,7 @@ void CVelmaranDlg::edit_fixed_data() {
 
 void CVelmaranDlg::edit_observation_items() {
   CKeyObserveDlg dialog(services(), context_.folders.key_items, false, context_.items);
-  if (services().windows.run_modal(dialog) != text::kOk) return;
+  if (services().windows.run_modal(dialog) != ui::kOk) return;
   context_.items = dialog.values();
   form_.items_changed();
   refresh();
@@ -227,7 +227,6 @@ void CVelmaranDlg::edit_observation_items() {
 
 void CVelmaranDlg::switch_language(text::Language language) {
   services().texts.language = language;
-  if (context_.language_changed) context_.language_changed(language);
   show_menu();
   relabel();
   refresh();
@@ -236,18 +235,18 @@ void CVelmaranDlg::switch_language(text::Language language) {
 void CVelmaranDlg::exit() {
   const Raised leaving(exiting_);
   const std::string_view title = services().texts.get(id::kExitQuestionTitle);
-  text::Messages& messages = services().messages;
+  ui::Messages& messages = services().messages;
   if (!unsaved()) {
-    if (messages.question(id::kAskExit, text::QuestionMode::kYesNo, title) == text::kYes) end();
+    if (messages.question(id::kAskExit, ui::QuestionMode::kYesNo, title) == ui::kYes) end();
     return;
   }
-  const int answer = messages.question(id::kAskSaveOnExit, text::QuestionMode::kYesNoCancel, title);
-  if (answer == text::kNo || (answer == text::kOk && save())) end();
+  const int answer = messages.question(id::kAskSaveOnExit, ui::QuestionMode::kYesNoCancel, title);
+  if (answer == ui::kNo || (answer == ui::kOk && save())) end();
 }
 
 void CVelmaranDlg::end() {
   keeper_.drop({});
-  close(text::kOk);
+  close(ui::kOk);
 }
 
 bool CVelmaranDlg::save() {

@@ -99,8 +99,8 @@ void CVelmaranDlg::offer_drafts() {
 bool CVelmaranDlg::wants(const Struct_Weather& record) {
   const std::string question =
       text::fill(services().texts.get(id::kDraftFound), {when(record, services().texts)});
-  return services().messages.question(question, {}, text::QuestionMode::kYesNo, id::kDraftFound) ==
-         text::kYes;
+  return services().messages.question(question, {}, ui::QuestionMode::kYesNo, id::kDraftFound) ==
+         ui::kYes;
 }
 
 bool CVelmaranDlg::is_saved(const std::string& path, const elements::Draft& draft) const {

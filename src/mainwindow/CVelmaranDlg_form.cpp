@@ -241,8 +241,7 @@ void CVelmaranDlg::loading_state_chosen() {
   const auto chosen = static_cast<LoadingState>(control_of("loading_state")->selected);
   BarometerCard& card = context_.ship.card;
   if (chosen == card.loading_state) return;
-  if (services().messages.question(id::kAskLoadingState, text::QuestionMode::kYesNo) ==
-      text::kYes) {
+  if (services().messages.question(id::kAskLoadingState, ui::QuestionMode::kYesNo) == ui::kYes) {
     card.loading_state = chosen;
     if (context_.save_fixed_data) context_.save_fixed_data();
     form_.card_changed();

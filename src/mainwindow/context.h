@@ -6,7 +6,6 @@
 
 #include "ship/data/KeyObservationItems.h"
 #include "ship/data/ShipFixedData.h"
-#include "text/texts.h"
 
 namespace mainwindow {
 
@@ -32,9 +31,6 @@ struct MainWindowContext {
   KeyObservationItems& items;
   Folders& folders;
   std::function<void()> save_fixed_data;  ///< writes `ship` to FIXDATA.DAT
-  std::function<void(text::Language)>
-      language_changed;                   ///< after the language of the texts was switched
-  std::function<void()> folders_changed;  ///< after a menu command changed `folders`
   /// True when a position lies on land or in a coastal region; degrees, north and east positive.
   /// Not set: no land is known.
   std::function<bool(double latitude, double longitude)> is_on_land = {};

@@ -57,7 +57,7 @@ Use wind_by(const MainWindowContext& context) {
 using elements::Field;
 
 bool confirmed(Opening& opening, ui::Screen& dialog) {
-  return opening.services.windows.run_modal(dialog) == text::kOk;
+  return opening.services.windows.run_modal(dialog) == ui::kOk;
 }
 
 // A dialog that is confirmed as it opened changes nothing: what stands in its fields is not entered

@@ -73,7 +73,7 @@ bool disk_is_ready(ui::Services& services, const std::string& folder, std::uint6
     } else {
       return true;
     }
-    if (services.messages.question(asked, text::QuestionMode::kOkCancel) != text::kOk) return false;
+    if (services.messages.question(asked, ui::QuestionMode::kOkCancel) != ui::kOk) return false;
   }
 }
 
@@ -83,8 +83,8 @@ SaveEnd end_with(ui::Services& services, text::Id message, SaveEnd end) {
 }
 
 bool may_replace(ui::Services& services) {
-  return services.messages.question(id::kAskReplaceReport, text::QuestionMode::kYesNo,
-                                    services.texts.get(id::kExitQuestionTitle)) == text::kYes;
+  return services.messages.question(id::kAskReplaceReport, ui::QuestionMode::kYesNo,
+                                    services.texts.get(id::kExitQuestionTitle)) == ui::kYes;
 }
 
 observation::SaveRequest request_of(const Saving& saving, const std::string& message) {
@@ -99,13 +99,13 @@ observation::SaveRequest request_of(const Saving& saving, const std::string& mes
 // True when the officer wants the logbook to be tried again.
 bool wants_retry(ui::Services& services, const std::string& logbook) {
   const text::Texts& texts = services.texts;
-  text::CMessageBox1 box(text::fill(texts.get(id::kLogbookLocked), {logbook}),
-                         std::string(texts.get(id::kButtonRetry)),
-                         std::string(texts.get(id::kButtonGiveUp)));
+  ui::CMessageBox1 box(text::fill(texts.get(id::kLogbookLocked), {logbook}),
+                       std::string(texts.get(id::kButtonRetry)),
+                       std::string(texts.get(id::kButtonGiveUp)));
   box.box().buttons[0].name = "retry";
   box.box().buttons[1].name = "cancel";
   box.box().text_id = id::kLogbookLocked;
-  return services.messages.show(box) == text::kYes;
+  return services.messages.show(box) == ui::kYes;
 }
 
 // True when the officer wants to save without waiting for the drive of an earlier report.
@@ -115,8 +115,8 @@ bool wants_to_leave(ui::Services& services, const observation::Recovery& recover
       text::fill(texts.get(id::kAskLeaveUnreachable),
                  {recovery.report, std::to_string(recovery.line), recovery.failed,
                   texts.get(text::reason_of(recovery.error))});
-  return services.messages.question(question, {}, text::QuestionMode::kYesNo,
-                                    id::kAskLeaveUnreachable) == text::kYes;
+  return services.messages.question(question, {}, ui::QuestionMode::kYesNo,
+                                    id::kAskLeaveUnreachable) == ui::kYes;
 }
 
 std::optional<observation::SaveResult> given_up(ui::Services& services) {

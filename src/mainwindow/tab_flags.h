@@ -1,5 +1,9 @@
 #pragma once
 // Which way the officer left a field: two small counters that Tab advances.
+//
+// They stand right before the check of the field that is being left runs, so that a check may ask
+// which way the officer went. None does in this version: a refused group keeps the focus whichever
+// way it was left, and where the focus goes after a group is settled by the screen (ui::Screen).
 
 namespace mainwindow {
 

@@ -37,15 +37,13 @@ const ModeRow& row_of(CLogDiskSavePathDlg::Mode mode) {
 
 CLogDiskSavePathDlg::CLogDiskSavePathDlg(ui::Services& services, Mode mode, Folders folders,
                                          Write write)
-    : Screen(services, "CLogDiskSavePathDlg", {row_of(mode).title}),
+    : OkCancelDialog(services, "CLogDiskSavePathDlg", {row_of(mode).title}),
       prompt(*this, "prompt", {row_of(mode).prompt}),
       current(*this, "current", {row_of(mode).current}),
       drives(*this, "drives", {id::kDriveList}),
       tree(*this, "tree", {id::kFolderTree}),
       create_folder(*this, "create_folder", {id::kCreateFolder}),
       chosen(*this, "chosen", {id::kChosenFolder}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
       mode_(mode),
       folders_(std::move(folders)),
       write_(std::move(write)),
@@ -82,9 +80,12 @@ void CLogDiskSavePathDlg::drive_chosen() {
 
 void CLogDiskSavePathDlg::create() {
   const std::string parent = directory_.folder();
-  if (parent.empty()) return refuse(id::kNoFolderChosen);
+  if (parent.empty()) {
+    refuse(tree, id::kNoFolderChosen);
+    return;
+  }
   CCreateDir dialog(services(), parent);
-  if (services().windows.run_modal(dialog) != text::kOk) return;
+  if (services().windows.run_modal(dialog) != ui::kOk) return;
   directory_.read_again(parent);
   directory_.reveal(dialog.path());
   show_chosen();
@@ -93,17 +94,23 @@ void CLogDiskSavePathDlg::create() {
 
 void CLogDiskSavePathDlg::on_ok() {
   std::string folder = platform::with_backslash(directory_.folder());
-  if (const text::Id message = refusal(folder); message) return refuse(message);
+  if (const text::Id message = refusal(folder); message) {
+    refuse(tree, message);
+    return;
+  }
   const platform::Look found = services().files.look(folder);
   if (found.there != There::kFolder && !is_on_removable_drive(folder)) {
-    if (found.there != There::kCannotTell) return refuse(id::kFolderGone);
+    if (found.there != There::kCannotTell) {
+      refuse(tree, id::kFolderGone);
+      return;
+    }
     services().messages.file_error(id::kFolderUncertain, folder, platform::why_no_file(found));
     focus(tree);
     return;
   }
   folder_ = std::move(folder);
   if (write_) write_(row_of(mode_).key, folder_);
-  close(text::kOk);
+  close(ui::kOk);
 }
 
 text::Id CLogDiskSavePathDlg::refusal(const std::string& folder) const {
@@ -125,9 +132,4 @@ bool CLogDiskSavePathDlg::is_on_removable_drive(const std::string& folder) const
   return std::any_of(all.begin(), all.end(), [&](const platform::Drive& drive) {
     return drive.type == platform::DriveType::kRemovable && drive.letter == folder.front();
   });
-}
-
-void CLogDiskSavePathDlg::refuse(text::Id message) {
-  services().messages.error(message);
-  focus(tree);
 }

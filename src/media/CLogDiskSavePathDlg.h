@@ -8,9 +8,9 @@
 
 #include "archive/CDirectoryDrawList.h"
 #include "archive/CDrvListBox.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CLogDiskSavePathDlg : public ui::Screen {
+class CLogDiskSavePathDlg : public ui::OkCancelDialog {
  public:
   enum class Mode { kReport = 0, kLogbook = 1, kReportCopy = 2, kLogbookCopy = 3 };
 
@@ -34,8 +34,6 @@ class CLogDiskSavePathDlg : public ui::Screen {
   ui::Tree tree;
   ui::Button create_folder;
   ui::ReadOnly chosen;
-  ui::Button ok;
-  ui::Button cancel;
 
  protected:
   void on_open() override;
@@ -48,7 +46,6 @@ class CLogDiskSavePathDlg : public ui::Screen {
   void show_chosen();
   void drive_chosen();
   void create();
-  void refuse(text::Id message);
   /// Message that refuses the folder, 0 when it is taken.
   [[nodiscard]] text::Id refusal(const std::string& folder) const;
   [[nodiscard]] bool is_source(const std::string& folder) const;

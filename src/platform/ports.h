@@ -11,12 +11,6 @@
 #include <utility>
 #include <vector>
 
-#include "text/id.h"
-
-namespace ui {
-class Screen;
-}
-
 namespace platform {
 
 struct DateTime {
@@ -282,37 +276,6 @@ class HelpViewer {
   /// Full path of a help file, with "::/" and the topic when there is one. True when a help window
   /// was opened.
   virtual bool show(const std::string& path) = 0;
-};
-
-struct BoxButton {
-  std::string label;  ///< with its access key: "はい(&Y)"
-  std::string name;   ///< what a script answers: "yes", "no", "cancel", "ok"
-  int result = 0;
-};
-
-/// A message or question as the person will see it.
-struct MessageBox {
-  std::string title;
-  std::string text;
-  std::vector<BoxButton> buttons;
-  int close_result = 0;  ///< result of the close box and of Escape
-  text::Id text_id;      ///< in the string table, none for a literal text; for tests
-};
-
-/// Everything that opens a window. Each call returns when the window is closed.
-class Windows {
- public:
-  virtual ~Windows() = default;
-  virtual int show_message(const MessageBox& box) = 0;
-  /// Runs the screen until it has a result and returns that.
-  virtual int run_modal(ui::Screen& screen) = 0;
-  /// A notice that stays while something longer runs; the program goes on.
-  virtual void show_notice(ui::Screen& screen) = 0;
-  virtual void hide_notice(ui::Screen& screen) = 0;
-  virtual void pause(int milliseconds) = 0;
-  /// Folder chosen in the system's own folder browser, or nothing when it was cancelled.
-  virtual std::optional<std::string> browse_for_folder(const std::string& caption,
-                                                       const std::string& initial) = 0;
 };
 
 }  // namespace platform

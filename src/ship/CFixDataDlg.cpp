@@ -55,7 +55,7 @@ Method method_of(const ui::Choice& choice) {
 CFixDataDlg::CFixDataDlg(ui::Services& services, std::string path, bool auto_accept,
                          const std::string& reports, const std::string& logbook,
                          std::optional<ShipFixedData> in_force)
-    : Screen(services, "CFixDataDlg", {id::kFixTitle}),
+    : OkCancelHelpDialog(services, "CFixDataDlg", {id::kFixTitle}),
       ship(*this, "ship", {id::kFixShip}),
       call_sign(*this, "call_sign", {id::kFixCallSign}),
       imo_number(*this, "imo_number", {id::kFixImoNumber}),
@@ -102,9 +102,6 @@ CFixDataDlg::CFixDataDlg(ui::Services& services, std::string path, bool auto_acc
       folders(*this, "folders", {id::kFixFolders}),
       report_folder(*this, "report_folder", {id::kFixReportFolder}),
       logbook_folder(*this, "logbook_folder", {id::kFixLogbookFolder}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       path_(std::move(path)),
       auto_accept_(auto_accept),
       in_force_(std::move(in_force)) {
@@ -168,7 +165,7 @@ void CFixDataDlg::on_open() {
   draft_ = accepted_;
   show_values();
   if (auto_accept_ && (file_read_ == FileRead::kRead || file_read_ == FileRead::kMissing))
-    close(text::kOk);
+    close(ui::kOk);
 }
 
 void CFixDataDlg::show_values() {
@@ -221,12 +218,6 @@ void CFixDataDlg::read_values() {
   draft_.aws_fitted = aws_fitted.selected == 1;
   draft_.aws_manufacturer = draft_.aws_fitted ? aws_manufacturer.content : std::string();
   draft_.vosclim = vosclim.selected == 0;
-}
-
-bool CFixDataDlg::refuse(ui::Control& control, text::Id message) {
-  services().messages.error(message);
-  focus(control);
-  return false;
 }
 
 // The placeholder counts as not entered, and so as empty, until OK asks for a call sign.
@@ -284,7 +275,7 @@ void CFixDataDlg::apply_vosclim() {
 
 void CFixDataDlg::edit_card() {
   CKataSelectDlg select(services(), draft_.card.type);
-  if (services().windows.run_modal(select) != text::kOk) return;
+  if (services().windows.run_modal(select) != ui::kOk) return;
   BarometerCard copy = draft_.card;
   copy.type = select.type();
   if (!renew_card(services(), copy)) return;
@@ -297,14 +288,7 @@ void CFixDataDlg::edit_card() {
 bool CFixDataDlg::check_card() {
   const auto fault =
       first_card_fault(draft_.card, services().clock.local(), services().code_page, kOkOrder);
-  if (!fault) return true;
-  if (fault->argument.empty()) {
-    services().messages.error(fault->message);
-  } else {
-    services().messages.error_filled(fault->message, {fault->argument});
-  }
-  focus(card_button);
-  return false;
+  return !fault || refuse(card_button, fault->message, fault->argument);
 }
 
 // The texts' forms are checked again, because Help lets a field go unchecked, and the wind, because
@@ -312,7 +296,7 @@ bool CFixDataDlg::check_card() {
 void CFixDataDlg::on_ok() {
   call_sign.set(tidy_identifier(call_sign.content));
   if (call_sign.content.empty() || call_sign.content == kCallSignPlaceholder) {
-    (void)refuse(call_sign, id::kCallSignMissing);
+    refuse(call_sign, id::kCallSignMissing);
     return;
   }
   if (!check_call_sign() || !check_card() || !check_imo_number()) return;
@@ -323,5 +307,5 @@ void CFixDataDlg::on_ok() {
   }
   read_values();
   accepted_ = draft_;
-  close(text::kOk);
+  close(ui::kOk);
 }

@@ -7,9 +7,9 @@
 #include "ship/data/ShipFixedData.h"
 #include "ship/data/barometer_card.h"
 #include "ship/data/ship_files.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CFixDataDlg : public ui::Screen {
+class CFixDataDlg : public ui::OkCancelHelpDialog {
  public:
   /// `path` is that of FIXDATA.DAT, read when the screen opens. With `auto_accept` the screen
   /// closes at once with OK, unchecked, when the file was read or there is none. A file of a wrong
@@ -63,9 +63,6 @@ class CFixDataDlg : public ui::Screen {
   ui::Label folders;
   ui::ReadOnly report_folder;
   ui::ReadOnly logbook_folder;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;
@@ -84,7 +81,6 @@ class CFixDataDlg : public ui::Screen {
   bool check_imo_number();
   bool check_manufacturer();
   bool check_wind();
-  [[nodiscard]] bool refuse(ui::Control& control, text::Id message);
 
   void apply_aws();
   void apply_humidity_method();

@@ -5,12 +5,10 @@
 namespace id = text::id;
 
 CFullEmptySelect::CFullEmptySelect(ui::Services& services)
-    : Screen(services, "CFullEmptySelect", {id::kLoadingTitle}),
+    : OkCancelDialog(services, "CFullEmptySelect", {id::kLoadingTitle}),
       prompt(*this, "prompt", {id::kLoadingPrompt}),
       loading_state(*this, "loading_state", {id::kCardLoading},
-                    {{id::kCardFullLoad}, {id::kCardBallast}}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel) {}
+                    {{id::kCardFullLoad}, {id::kCardBallast}}) {}
 
 LoadingState CFullEmptySelect::state() const {
   return loading_state.selected == 0   ? LoadingState::kFullLoad
@@ -19,12 +17,11 @@ LoadingState CFullEmptySelect::state() const {
 }
 
 void CFullEmptySelect::on_ok() {
-  if (state() != LoadingState::kNotChosen) {
-    close(text::kOk);
+  if (state() == LoadingState::kNotChosen) {
+    refuse(loading_state, id::kLoadingStateMissing);
     return;
   }
-  services().messages.error(id::kLoadingStateMissing);
-  focus(loading_state);
+  close(ui::kOk);
 }
 
 // The loading state is explained in the topic of the ship fixed data.

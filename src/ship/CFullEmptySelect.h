@@ -2,9 +2,9 @@
 // At full load or in ballast: asked when a card of type "1" was entered without it.
 
 #include "ship/data/ShipFixedData.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CFullEmptySelect : public ui::Screen {
+class CFullEmptySelect : public ui::OkCancelDialog {
  public:
   explicit CFullEmptySelect(ui::Services& services);
 
@@ -13,8 +13,6 @@ class CFullEmptySelect : public ui::Screen {
 
   ui::Label prompt;
   ui::Choice loading_state;
-  ui::Button ok;
-  ui::Button cancel;
 
  protected:
   void on_ok() override;

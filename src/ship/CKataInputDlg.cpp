@@ -38,7 +38,7 @@ std::string BarometerCard::*member(CardField field) {
 }  // namespace
 
 CKataInputDlg::CKataInputDlg(ui::Services& services, BarometerCard card)
-    : Screen(services, "CKataInputDlg", {id::kCardTitle}),
+    : OkCancelHelpDialog(services, "CKataInputDlg", {id::kCardTitle}),
       prompt(*this, "prompt", {id::kCardPrompt}),
       barometer_check_date(*this, "barometer_check_date", {id::kCardDate}),
       barometer_check_port(*this, "barometer_check_port", {id::kCardPort}, kPortLength),
@@ -57,9 +57,6 @@ CKataInputDlg::CKataInputDlg(ui::Services& services, BarometerCard card)
                                kCorrectionLength),
       loading_state(*this, "loading_state", {id::kCardLoading},
                     {{id::kCardFullLoad}, {id::kCardBallast}}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       accepted_(card),
       draft_(std::move(card)),
       fields_{{{CardField::kCheckDate, &barometer_check_date},
@@ -136,9 +133,7 @@ bool CKataInputDlg::leave(const TypedField& left) {
   const auto partner = compared_field(left.field);
   const auto fault = card_field_fault(draft_, left.field, services().clock.local(),
                                       services().code_page, partner && is_filled(*partner));
-  if (!fault) return true;
-  refuse(*fault);
-  return false;
+  return !fault || refuse_fault(*fault);
 }
 
 // A new card starts with zeros. While nobody typed in the partner its zero is no value to compare
@@ -149,21 +144,18 @@ bool CKataInputDlg::is_filled(CardField field) const {
   return at != fields_.end() && (at->typed || draft_.*member(field) != card_default(field));
 }
 
-void CKataInputDlg::refuse(const CardFault& fault) {
-  if (fault.argument.empty()) {
-    services().messages.error(fault.message);
-  } else {
-    services().messages.error_filled(fault.message, {fault.argument});
-  }
-  for (const TypedField& field : fields_) {
-    if (field.field == fault.field) focus(*field.edit);
-  }
-  if (fault.field == CardField::kType) focus(change_type);
+// The type is the one field that is not typed.
+bool CKataInputDlg::refuse_fault(const CardFault& fault) {
+  const auto* const at = std::find_if(fields_.begin(), fields_.end(),
+                                      [&](const TypedField& f) { return f.field == fault.field; });
+  ui::Control* const control =
+      at == fields_.end() ? &change_type : static_cast<ui::Control*>(at->edit);
+  return refuse(*control, fault.message, fault.argument);
 }
 
 void CKataInputDlg::on_change_type() {
   CKataSelectDlg select(services(), draft_.type);
-  if (services().windows.run_modal(select) != text::kOk || select.type() == draft_.type) return;
+  if (services().windows.run_modal(select) != ui::kOk || select.type() == draft_.type) return;
   read_fields();
   change_card_type(draft_, select.type());
   show_card();
@@ -171,7 +163,7 @@ void CKataInputDlg::on_change_type() {
 
 bool CKataInputDlg::ask_loading_state() {
   CFullEmptySelect select(services());
-  if (services().windows.run_modal(select) != text::kOk) return false;
+  if (services().windows.run_modal(select) != ui::kOk) return false;
   draft_.loading_state = select.state();
   loading_state.selected = static_cast<int>(draft_.loading_state);
   return true;
@@ -181,7 +173,7 @@ void CKataInputDlg::on_ok() {
   read_fields();
   if (const auto fault =
           first_card_fault(draft_, services().clock.local(), services().code_page, kOkOrder)) {
-    refuse(*fault);
+    refuse_fault(*fault);
     return;
   }
   const bool state_missing = draft_.type == CardType::kHeightAndTemperature &&
@@ -191,7 +183,7 @@ void CKataInputDlg::on_ok() {
     return;
   }
   accepted_ = draft_;
-  close(text::kOk);
+  close(ui::kOk);
 }
 
 // The card is explained in the topic of the ship fixed data.
@@ -201,7 +193,7 @@ void CKataInputDlg::on_help() {
 
 bool renew_card(ui::Services& services, BarometerCard& card) {
   CKataInputDlg input(services, card);
-  if (services.windows.run_modal(input) != text::kOk) return false;
+  if (services.windows.run_modal(input) != ui::kOk) return false;
   card = input.card();
   return true;
 }

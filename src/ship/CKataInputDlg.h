@@ -5,9 +5,9 @@
 
 #include "ship/data/ShipFixedData.h"
 #include "ship/data/barometer_card.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CKataInputDlg : public ui::Screen {
+class CKataInputDlg : public ui::OkCancelHelpDialog {
  public:
   /// Works on a copy; `card.type` is the type that was chosen.
   CKataInputDlg(ui::Services& services, BarometerCard card);
@@ -29,9 +29,6 @@ class CKataInputDlg : public ui::Screen {
   ui::Edit height_ballast;
   ui::Edit total_correction_ballast;
   ui::Choice loading_state;
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;
@@ -51,7 +48,7 @@ class CKataInputDlg : public ui::Screen {
   void read_fields();
   bool leave(const TypedField& left);
   [[nodiscard]] bool is_filled(CardField field) const;
-  void refuse(const CardFault& fault);
+  bool refuse_fault(const CardFault& fault);
   void on_change_type();
   bool ask_loading_state();
 

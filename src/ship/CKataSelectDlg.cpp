@@ -5,11 +5,9 @@
 namespace id = text::id;
 
 CKataSelectDlg::CKataSelectDlg(ui::Services& services, CardType current)
-    : Screen(services, "CKataSelectDlg", {id::kCardSelectTitle}),
+    : OkCancelDialog(services, "CKataSelectDlg", {id::kCardSelectTitle}),
       prompt(*this, "prompt", {id::kCardSelectPrompt}),
-      card_type(*this, "card_type", {id::kCardType}, {{id::kCardTypeOne}, {id::kCardTypeTwo}}),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel) {
+      card_type(*this, "card_type", {id::kCardType}, {{id::kCardTypeOne}, {id::kCardTypeTwo}}) {
   card_type.selected = static_cast<int>(current);
 }
 
@@ -20,12 +18,11 @@ CardType CKataSelectDlg::type() const {
 }
 
 void CKataSelectDlg::on_ok() {
-  if (type() != CardType::kNotChosen) {
-    close(text::kOk);
+  if (type() == CardType::kNotChosen) {
+    refuse(card_type, id::kCardTypeMissing);
     return;
   }
-  services().messages.error(id::kCardTypeMissing);
-  focus(card_type);
+  close(ui::kOk);
 }
 
 // The card is explained in the topic of the ship fixed data.

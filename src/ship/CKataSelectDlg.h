@@ -2,9 +2,9 @@
 // Which of the two kinds of barometer correction card the ship has.
 
 #include "ship/data/ShipFixedData.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CKataSelectDlg : public ui::Screen {
+class CKataSelectDlg : public ui::OkCancelDialog {
  public:
   CKataSelectDlg(ui::Services& services, CardType current);
 
@@ -13,8 +13,6 @@ class CKataSelectDlg : public ui::Screen {
 
   ui::Label prompt;
   ui::Choice card_type;
-  ui::Button ok;
-  ui::Button cancel;
 
  protected:
   void on_ok() override;

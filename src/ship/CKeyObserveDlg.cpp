@@ -51,12 +51,9 @@ std::deque<ui::Choice> CKeyObserveDlg::choices(ui::Screen& owner) {
 
 CKeyObserveDlg::CKeyObserveDlg(ui::Services& services, std::string path, bool auto_accept,
                                std::optional<KeyObservationItems> in_force)
-    : Screen(services, "CKeyObserveDlg", label(id::kItemsTitle)),
+    : OkCancelHelpDialog(services, "CKeyObserveDlg", label(id::kItemsTitle)),
       prompt(*this, "prompt", label(id::kItemsPrompt)),
       items(choices(*this)),
-      ok(*this, "ok", {id::kOkLabel}, ui::Role::kOk),
-      cancel(*this, "cancel", {id::kCancelLabel}, ui::Role::kCancel),
-      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       path_(std::move(path)),
       auto_accept_(auto_accept),
       in_force_(in_force) {}
@@ -72,7 +69,7 @@ void CKeyObserveDlg::on_open() {
   for (std::size_t i = 0; i < kObservationItems; ++i)
     items[i].selected = accepted_.not_observed[i] ? 1 : 0;
   if (auto_accept_ && (file_read_ == FileRead::kRead || file_read_ == FileRead::kMissing))
-    close(text::kOk);
+    close(ui::kOk);
 }
 
 void CKeyObserveDlg::on_ok() {
@@ -81,5 +78,5 @@ void CKeyObserveDlg::on_ok() {
   if (const auto error = save_key_items(services().files, path_, accepted_);
       error != platform::FileError::kNone)
     services().messages.file_error(id::kFileNotSaved, path_, error);
-  close(text::kOk);
+  close(ui::kOk);
 }

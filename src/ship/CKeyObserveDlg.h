@@ -7,9 +7,9 @@
 
 #include "ship/data/KeyObservationItems.h"
 #include "ship/data/ship_files.h"
-#include "ui/screen.h"
+#include "ui/dialog.h"
 
-class CKeyObserveDlg : public ui::Screen {
+class CKeyObserveDlg : public ui::OkCancelHelpDialog {
  public:
   /// `path` is that of MOKSDATA.DAT. With `auto_accept` the screen closes at once with OK when the
   /// file was read or there is none; one of a wrong size or unreadable is shown with the defaults.
@@ -25,9 +25,6 @@ class CKeyObserveDlg : public ui::Screen {
 
   ui::Label prompt;
   std::deque<ui::Choice> items;  ///< one for each switch, in their order
-  ui::Button ok;
-  ui::Button cancel;
-  ui::Button help;
 
  protected:
   void on_open() override;

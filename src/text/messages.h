@@ -1,103 +1,26 @@
 #pragma once
-// Message services: every notice and question of the program goes through here.
+// What the form asks and tells by itself. ui::Messages does it; when the form hands its answers to
+// the window instead, this goes.
 
 #include <initializer_list>
-#include <set>
-#include <string>
 #include <string_view>
 
-#include "platform/ports.h"
 #include "text/texts.h"
 
 namespace text {
 
-// Results of the message boxes, and of screens.
-inline constexpr int kOk = 1;
-inline constexpr int kCancel = 2;
 inline constexpr int kYes = 6;
-inline constexpr int kNo = 7;
 
 /// Which buttons a question has.
 enum class QuestionMode { kOkCancel = 1, kYesNoCancel = 3, kYesNo = 4 };
 
-/// Two buttons in the order Yes, No: kYes, or kNo for No and for closing.
-class CMessageBox1 {
- public:
-  /// Empty labels mean "&YES" and "&NO"; an empty title the program's.
-  explicit CMessageBox1(std::string text, std::string yes = {}, std::string no = {},
-                        std::string title = {});
-  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
-  [[nodiscard]] platform::MessageBox& box() { return box_; }
-
- private:
-  platform::MessageBox box_;
-};
-
-/// Three buttons with the caller's labels: kOk for Yes, kNo, or kCancel for Cancel and for closing.
-class CMessageBox2 {
- public:
-  CMessageBox2(std::string text, std::string yes, std::string no, std::string cancel,
-               std::string title = {});
-  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
-  [[nodiscard]] platform::MessageBox& box() { return box_; }
-
- private:
-  platform::MessageBox box_;
-};
-
-/// CMessageBox1 with the buttons in the order No, Yes. Its title is capitalised differently, on
-/// purpose.
-class CMessageBox3 {
- public:
-  explicit CMessageBox3(std::string text, std::string yes = {}, std::string no = {},
-                        std::string title = {});
-  [[nodiscard]] const platform::MessageBox& box() const { return box_; }
-  [[nodiscard]] platform::MessageBox& box() { return box_; }
-
- private:
-  platform::MessageBox box_;
-};
-
 class Messages {
  public:
-  Messages(Texts& texts, platform::Windows& windows) : texts_(texts), windows_(windows) {}
-
-  bool quiet = false;             ///< while set, error notices are not shown
-  bool question_open = false;     ///< a question is on the screen
-  bool message_box_open = false;  ///< a CMessageBox1 is on the screen
-
-  /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
-  /// "Check Error".
-  void error(Id id, std::string_view literal = {});
-  /// Error notice of a text whose "%s" and "%d" are filled in; `below`, when there is one, stands
-  /// on a line of its own below it.
-  void error_filled(Id id, std::initializer_list<std::string_view> arguments,
-                    std::string_view below = {});
-
-  /// error_filled(), but the first time of the run only.
-  void error_filled_once(Id id, std::initializer_list<std::string_view> arguments);
-  /// Error notice of a text with two places: the path of a file or folder, and why it could not be
-  /// used, in the language of the moment.
-  void file_error(Id id, std::string_view path, platform::FileError why);
-
-  /// A question; the result is one of the four codes above (mode kOkCancel gives kOk or kCancel).
-  /// Any other mode shows nothing and returns 0. An empty title means the program's. `text_id` only
-  /// tells tests which text it is.
-  int question(std::string_view text, std::string_view title, QuestionMode mode, Id text_id = {});
-  /// The same for a text of the table.
-  int question(Id id, QuestionMode mode, std::string_view title = {}) {
-    return question(texts_.get(id), title, mode, id);
-  }
-
-  /// Shows one of the three message boxes; message_box_open is set while a CMessageBox1 is shown.
-  int show(const CMessageBox1& box);
-  int show(const CMessageBox2& box);
-  int show(const CMessageBox3& box);
-
- private:
-  Texts& texts_;
-  platform::Windows& windows_;
-  std::set<Id> told_once_;
+  virtual ~Messages() = default;
+  virtual void error(Id id, std::string_view literal = {}) = 0;
+  virtual void error_filled(Id id, std::initializer_list<std::string_view> arguments,
+                            std::string_view below = {}) = 0;
+  virtual int question(Id id, QuestionMode mode, std::string_view title = {}) = 0;
 };
 
 }  // namespace text

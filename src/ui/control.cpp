@@ -14,9 +14,14 @@ std::string_view name_of(Kind kind) {
   return kNames[static_cast<std::size_t>(kind)];
 }
 
-Control::Control(Screen& owner, Kind control_kind, std::string_view control_name, text::Ref text)
-    : name(control_name), kind(control_kind), caption(text) {
-  owner.controls_.push_back(this);
+Control::Control(Screen& owner, Kind control_kind, std::string_view control_name, text::Ref text,
+                 Role closing_role)
+    : name(control_name), kind(control_kind), role(closing_role), caption(text) {
+  auto at = owner.controls_.end();
+  if (role == Role::kNone) {
+    while (at != owner.controls_.begin() && (*(at - 1))->role != Role::kNone) --at;
+  }
+  owner.controls_.insert(at, this);
 }
 
 bool Control::can_focus() const {

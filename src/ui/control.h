@@ -3,11 +3,13 @@
 // did.
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "text/texts.h"
+#include "ui/drawing.h"
 
 namespace ui {
 
@@ -24,7 +26,7 @@ enum class Kind {
   kChoice,    ///< one of several (radio buttons); the items are their texts
   kTick,      ///< tick box
   kButton,
-  kPicture,  ///< clickable when on_press is set
+  kPicture,  ///< a file's picture or a drawing; clickable when on_press or on_point is set
   kTree,
 };
 
@@ -41,43 +43,49 @@ struct TreeRow {
   bool marked = false;  ///< set apart (remote and CD-ROM drives)
 };
 
-/// What a button is for; the shared behaviours follow from it.
-enum class Role { kNone, kOk, kCancel, kHelp };
+/// What a button is for (OK, Cancel, Help); the shared behaviours follow from it.
+enum class Role { kNone, kAccept, kDismiss, kHelp };
 
 /// State of one control. Screens declare the kinds below as members, in reading order.
 class Control {
  public:
-  Control(Screen& owner, Kind control_kind, std::string_view control_name, text::Ref text = {});
+  /// One with a role closes the screen and stands behind all others that have none, whichever was
+  /// declared first.
+  Control(Screen& owner, Kind control_kind, std::string_view control_name, text::Ref text = {},
+          Role closing_role = Role::kNone);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
   ~Control() = default;
 
   const std::string name;  ///< stable: layouts, scripts and tests use it
   const Kind kind;
+  const Role role;  ///< of a button
 
-  text::Ref caption;            ///< on a label, button or tick box; beside (or above) anything else
-  std::string literal_caption;  ///< instead of `caption` where the text is not in the table (a
-                                ///< report group, a date)
-  text::Ref unit;               ///< behind the value
-  std::string
-      content;  ///< what an edit, combo, memo, read-only text or picture (its file name) holds
+  /// On a label, button or tick box; beside (or above) anything else.
+  text::Ref caption;
+  /// Instead of `caption` where the text is not in the table (a report group, a date).
+  std::string literal_caption;
+  text::Ref unit;  ///< behind the value
+  /// What an edit, combo, memo, read-only text or picture (its file name) holds.
+  std::string content;
   std::vector<std::string> items;  ///< lines of a combo, drop-down, list or choice
-  std::vector<text::Ref>
-      item_refs;  ///< when set, `items` is made of these in the language of the moment
+  /// When set, `items` is made of these in the language of the moment.
+  std::vector<text::Ref> item_refs;
   std::vector<bool> item_disabled;      ///< choice only; empty means all enabled
   std::vector<std::string> item_codes;  ///< choice only: the code shown in front of each line
-  std::vector<bool> item_marked;  ///< lines of a list or drop-down set apart; empty means none
-  std::vector<TreeRow> rows;      ///< tree only
-  int selected = -1;              ///< line of a drop-down, list, choice or tree
+  std::vector<bool> item_marked;        ///< lines of a list or drop-down set apart; empty: none
+  std::vector<TreeRow> rows;            ///< tree only
+  /// Picture only: what is drawn, instead of a file. Another drawing is another object.
+  std::shared_ptr<const Drawing> drawing;
+  int selected = -1;  ///< line of a drop-down, list, choice or tree
   bool checked = false;
   bool enabled = true;
   bool visible = true;
   bool read_only = false;  ///< an edit that is shown but locked; it can have the focus
   int max_length = 0;      ///< in characters; 0 is no limit
-  Role role = Role::kNone;
-  std::string font;    ///< font family asked for; empty is the usual one
-  bool narrow = true;  ///< full-width characters are narrowed before checks
-  std::string mark;    ///< state that a front end may show ("missing", "wrong"); empty for none
+  std::string font;        ///< font family asked for; empty is the usual one
+  bool narrow = true;      ///< full-width characters are narrowed before checks
+  std::string mark;        ///< state that a front end may show ("missing", "wrong"); empty for none
   Control* continues_in = nullptr;  ///< the field of the decimals: a point goes on to it
   bool unchecked = false;  ///< typed into, or left, without its check since; kept by the screen
   std::string why_locked;  ///< why it is locked or disabled, for the person; empty when it is not
@@ -89,6 +97,9 @@ class Control {
   std::function<void()> on_change;
   /// Button pressed, label or picture clicked, tree or list line double-clicked.
   std::function<void()> on_press;
+  /// Picture clicked at a place: in the coordinates of its drawing; those of a file's picture go
+  /// from 0 to 1, from the left and from the bottom.
+  std::function<void(Point)> on_point;
   /// Before the focus enters.
   std::function<void()> on_enter;
   /// Tree: a row is about to be opened; insert its children behind it.
@@ -147,10 +158,8 @@ class Choice : public Control {
 class Button : public Control {
  public:
   Button(Screen& owner, std::string_view control_name, text::Ref text,
-         Role button_role = Role::kNone)
-      : Control(owner, Kind::kButton, control_name, text) {
-    role = button_role;
-  }
+         Role closing_role = Role::kNone)
+      : Control(owner, Kind::kButton, control_name, text, closing_role) {}
 };
 
 }  // namespace ui

@@ -116,6 +116,12 @@ std::string tree_rows(const ControlView& view) {
   return result;
 }
 
+std::string drawn_shapes(const ControlView& view) {
+  std::string result;
+  for (std::size_t i = 1; i < view.drawing.size(); ++i) result += "\n    " + view.drawing[i];
+  return result;
+}
+
 void add_menu_lines(std::vector<std::string>& lines, std::span<const MenuItem> items,
                     const std::string& path, text::Language language) {
   for (const MenuItem& item : items) {
@@ -162,6 +168,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   view.lines = control.items;
   for (const TreeRow& row : control.rows) view.lines.push_back(row_line(row));
   view.line_codes = control.item_codes;
+  if (control.drawing != nullptr) view.drawing = describe(*control.drawing);
   const auto& disabled = control.item_disabled;
   if (std::find(disabled.begin(), disabled.end(), true) != disabled.end())
     view.line_disabled = disabled;
@@ -203,12 +210,16 @@ std::string describe_lines(const ControlView& view) {
 std::string describe(const ControlView& view) {
   std::string line = view.name + " " + std::string(name_of(view.kind));
   if (!view.caption.empty()) line.append(" ").append(quoted(view.caption));
-  if (shows_value(view.kind)) line.append(" = ").append(quoted(view.text));
+  if (!view.drawing.empty()) {
+    line.append(" of ").append(view.drawing.front());
+  } else if (shows_value(view.kind)) {
+    line.append(" = ").append(quoted(view.text));
+  }
   if (!view.unit.empty()) line.append(" unit ").append(quoted(view.unit));
   if (view.kind != Kind::kTree && !view.lines.empty()) line += " of " + describe_lines(view);
   if (const std::string flags = flags_of(view); !flags.empty()) line += " [" + flags + "]";
   if (view.kind == Kind::kTree) line += tree_rows(view);
-  return line;
+  return line + drawn_shapes(view);
 }
 
 std::vector<std::string> menu_lines(const Screen& screen) {

@@ -5,8 +5,8 @@
 //   rows                 children one below the other …
 //   columns              … or side by side
 //   group NAME           a frame titled by the label NAME (its caption is the frame's title; a
-//   label with on_press makes
-//                        the title clickable); children one below the other
+//                        label with on_press makes the title clickable); children one below the
+//                        other
 //   grid N               N cells a line, filled in order, so that captions and values line up
 //   row NAME NAME …      controls on one line; a line of names alone is a row too
 //   buttons NAME …       the line of buttons at the bottom, right-aligned

@@ -175,17 +175,30 @@ void Screen::press(Control& control) {
   press_inside(control);
 }
 
+void Screen::press_at(Control& picture, Point place) {
+  const Handling handling(*this);
+  if (!handling || !picture.enabled || !picture.visible || picture.kind != Kind::kPicture) return;
+  static const Drawing kFile;  // has the coordinates of a file's picture
+  if (!is_inside(picture.drawing == nullptr ? kFile : *picture.drawing, place)) return;
+  if (!leave_focused(picture)) return;
+  if (picture.on_point) {
+    picture.on_point(place);
+  } else {
+    press_inside(picture);
+  }
+}
+
 void Screen::press_inside(Control& button) {
-  if (button.role == Role::kOk && !check_skipped_fields()) return;
+  if (button.role == Role::kAccept && !check_skipped_fields()) return;
   if (button.on_press) {
     button.on_press();
     return;
   }
   switch (button.role) {
-    case Role::kOk:
+    case Role::kAccept:
       on_ok();
       break;
-    case Role::kCancel:
+    case Role::kDismiss:
       on_cancel();
       break;
     case Role::kHelp:
@@ -219,7 +232,7 @@ bool Screen::move_focus_inside(Control& to) {
 bool Screen::leave_focused(const Control& to) {
   Control* const from = focused_;
   if (from == nullptr || from == &to) return true;
-  if (to.role == Role::kCancel || to.role == Role::kHelp) {
+  if (to.role == Role::kDismiss || to.role == Role::kHelp) {
     from->unchecked = true;
     return true;
   }
@@ -293,7 +306,7 @@ void Screen::key(Key key) {
   Control* target = focused_;
   if (target == nullptr || target->kind != Kind::kButton) {
     const auto ok = std::find_if(controls_.begin(), controls_.end(), [](const Control* c) {
-      return c->role == Role::kOk && c->can_focus();
+      return c->role == Role::kAccept && c->can_focus();
     });
     if (ok == controls_.end()) return;
     target = *ok;
@@ -401,6 +414,16 @@ void Screen::focus(Control& control) {
   focused_ = &control;
   selection_length_ = -1;
   ++focus_serial_;
+}
+
+bool Screen::refuse(Control& control, text::Id message, std::string_view argument) {
+  if (argument.empty()) {
+    services_.messages.error(message);
+  } else {
+    services_.messages.error_filled(message, {argument});
+  }
+  focus(control);
+  return false;
 }
 
 Control* Screen::neighbour(const Control* from, bool forward) const {

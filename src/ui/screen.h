@@ -2,6 +2,16 @@
 // A screen is a list of controls with handlers. A front end tells it what the person did through
 // the functions under "What the person did" and after each copies the controls' state to its
 // widgets: one event in, one refresh out.
+//
+// The whole contract of the program with its front ends stands in this room:
+//   windows.h    what the program asks a front end to do: show a message, run a screen
+//   screen.h     what a front end tells a screen, and what it reads of it
+//   control.h    the values that it shows, one kind of widget for each kind of control
+//   plan.h       where everything stands and how much room it has
+//   drawing.h    what is drawn in a picture, and which point was clicked
+//   menu.h       the menu bar
+//   line_keys.h  which keys choose a line: handed to Screen::key and Screen::find_line
+//   dump.h       a screen as a text; what a front end shows, read back, gives the same text
 
 #include <exception>
 #include <optional>
@@ -62,6 +72,9 @@ class Screen {
   /// moves first (labels and pictures do not take it, but the field that has it is checked), so
   /// that a refused field keeps it and nothing is pressed.
   void press(Control& control);
+  /// Clicked a picture at a place (Control::on_point); without a handler for places it is pressed.
+  /// A place outside the picture is none.
+  void press_at(Control& picture, Point place);
   /// Moves the focus. False when the field that has it refused to let go.
   bool move_focus(Control& to);
   /// The arrows, Home and End choose a line where the focused control has lines (ui/line_keys.h).
@@ -92,9 +105,9 @@ class Screen {
   virtual void on_open() {}
   /// The OK button (and Enter), once every field that was changed or left without its check has
   /// passed it. The default closes with kOk.
-  virtual void on_ok() { close(text::kOk); }
+  virtual void on_ok() { close(ui::kOk); }
   /// The Cancel button, Escape and the close box. The default closes with kCancel.
-  virtual void on_cancel() { close(text::kCancel); }
+  virtual void on_cancel() { close(ui::kCancel); }
   /// F1. The default opens the help topic.
   virtual void on_f1(Control* focused);
   /// Returns true when Enter or Escape was dealt with; the default is false: OK and Cancel follow.
@@ -111,6 +124,10 @@ class Screen {
   void close(int result);
   /// Gives the focus without a check, its text selected.
   void focus(Control& control);
+  /// Refuses what a control holds: the message, then the focus on the control. Always false. Where
+  /// the text of the table has a place for it, `argument` is filled in. A check that refuses the
+  /// field being left (Control::on_leave) only shows its message: the focus stays by itself.
+  bool refuse(Control& control, text::Id message, std::string_view argument = {});
   /// The control after (or before) this one in tab order that can have the focus; the same one when
   /// there is no other.
   [[nodiscard]] Control* neighbour(const Control* from, bool forward) const;

@@ -3,8 +3,9 @@
 
 #include "platform/ports.h"
 #include "text/help.h"
-#include "text/messages.h"
 #include "text/texts.h"
+#include "ui/messages.h"
+#include "ui/windows.h"
 
 namespace ui {
 
@@ -15,9 +16,9 @@ struct Services {
   platform::Files& files;
   platform::CodePage& code_page;
   platform::Printer& printer;
-  platform::Windows& windows;
+  ui::Windows& windows;
   text::Texts& texts;
-  text::Messages& messages;
+  ui::Messages& messages;
   text::HelpLauncher& help;
 };
 

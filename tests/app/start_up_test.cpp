@@ -338,21 +338,17 @@ TEST_F(StartUp, ShipFileThatCannotBeWrittenIsNotReported) {
   EXPECT_TRUE(world.windows.boxes.empty());
 }
 
-TEST_F(StartUp, MainWindowSavesShipDataAndFoldersThroughTheApplication) {
+TEST_F(StartUp, MainWindowSavesShipDataThroughTheApplication) {
   settle();
   files.add_file(kFixed, "x");
   in_main_window = [&](ui::Services&, const mainwindow::MainWindowContext& context) {
     context.ship.call_sign = "NEW";
     context.save_fixed_data();
-    context.folders.report_copies = "A:\\copies\\";
-    context.folders.logbook = "";
-    context.folders_changed();
   };
   EXPECT_EQ(run(), 0);
   ship.call_sign = "NEW";
   EXPECT_EQ(files.content(kFixed),
             encode_fixed_data(ship, world.clock.local_time, world.code_page));
-  EXPECT_EQ(live(), ini("ENG", "C:\\tlx\\", "C:\\log\\") + "TLXC=A:\\copies\\\nFD=\n");
 }
 
 TEST_F(StartUp, OfficerIsToldWhenTheMainWindowCannotSaveTheShipData) {

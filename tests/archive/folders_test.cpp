@@ -327,7 +327,7 @@ TEST_F(Folders, NewFolderIsCreatedBeneathTheChosenOne) {
     EXPECT_EQ(dialog.focused(), &dialog.folder_name);
     fakes::enter(dialog, dialog.folder_name, " log ");
     dialog.press(dialog.ok);
-    EXPECT_EQ(dialog.result(), text::kOk);
+    EXPECT_EQ(dialog.result(), ui::kOk);
     EXPECT_EQ(dialog.path(), platform::join(parent, "log"));
     EXPECT_TRUE(files.is_folder(dialog.path()));
   }
@@ -341,7 +341,7 @@ TEST_F(Folders, ExistingFolderIsNotCreatedAgain) {
   fakes::enter(dialog, dialog.folder_name, "log");
   files.clear_log();
   dialog.key(ui::Key::kEnter);
-  EXPECT_EQ(dialog.result(), text::kOk);
+  EXPECT_EQ(dialog.result(), ui::kOk);
   EXPECT_EQ(dialog.path(), "C:\\out\\log");
   EXPECT_TRUE(files.log().empty());
 }
@@ -377,7 +377,7 @@ TEST_F(Folders, NewFolderWithoutAGoodNameIsRefusedAndNothingIsCreated) {
       EXPECT_EQ(world.windows.boxes.back().text,
                 text::fill(world.texts.get(row.message), {"C:\\out\\" + row.name, reason}));
       dialog.press(dialog.cancel);
-      EXPECT_EQ(dialog.result(), text::kCancel);
+      EXPECT_EQ(dialog.result(), ui::kCancel);
     }
   }
 }

@@ -66,7 +66,7 @@ TEST_F(Visibility, EveryBandReopensSelectedAndEveryChoiceGivesItsCode) {
     fakes::choose_text(dialog, dialog.choice, kBands[i].english);
     EXPECT_EQ(dialog.code(), "");
     dialog.press(dialog.ok);
-    EXPECT_EQ(dialog.result(), text::kOk);
+    EXPECT_EQ(dialog.result(), ui::kOk);
     EXPECT_EQ(dialog.code(), kBands[i].code);
   }
 }
@@ -77,7 +77,7 @@ TEST_F(Visibility, CodeOutsideTheSeaScaleChoosesNothingAndOkKeepsIt) {
     dialog.open();
     EXPECT_EQ(dialog.choice.selected, -1) << vv;
     dialog.press(dialog.ok);
-    EXPECT_EQ(dialog.result(), text::kOk);
+    EXPECT_EQ(dialog.result(), ui::kOk);
     EXPECT_EQ(dialog.code(), vv);
   }
 }
@@ -98,7 +98,7 @@ TEST_F(Visibility, CancelKeepsTheCode) {
     if (way == 0) dialog.press(dialog.cancel);
     if (way == 1) dialog.key(ui::Key::kEscape);
     if (way == 2) dialog.close_box();
-    EXPECT_EQ(dialog.result(), text::kCancel);
+    EXPECT_EQ(dialog.result(), ui::kCancel);
     EXPECT_EQ(dialog.code(), "95");
   }
 }

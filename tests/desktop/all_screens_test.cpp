@@ -14,10 +14,10 @@
 namespace {
 
 // Answers everything, asks nothing: a walk through a screen may meet any message.
-class Patient : public platform::Windows {
+class Patient : public ui::Windows {
  public:
-  int show_message(const platform::MessageBox& box) override { return box.close_result; }
-  int run_modal(ui::Screen&) override { return text::kCancel; }
+  int show_message(const ui::MessageBox& box) override { return box.close_result; }
+  int run_modal(ui::Screen&) override { return ui::kCancel; }
   void show_notice(ui::Screen&) override {}
   void hide_notice(ui::Screen&) override {}
   void pause(int) override {}
@@ -55,7 +55,7 @@ class EveryScreen : public testing::TestWithParam<std::tuple<std::size_t, text::
   fakes::FakeHelp help_viewer;
   Patient windows;
   text::Texts texts;
-  text::Messages messages{texts, windows};
+  ui::Messages messages{texts, windows};
   text::HelpLauncher help{texts, help_viewer, "C:\\program"};
   ui::Services services{clock,   locale,  drives, files,    code_page,
                         printer, windows, texts,  messages, help};

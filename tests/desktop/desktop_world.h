@@ -14,7 +14,7 @@ namespace tests {
 struct DesktopWorld {
   desktop::DesktopWindows windows{{}};
   fakes::World fake;
-  text::Messages messages{fake.texts, windows};
+  ui::Messages messages{fake.texts, windows};
   ui::Services services{fake.clock,   fake.locale, fake.drives, fake.no_files, fake.code_page,
                         fake.printer, windows,     fake.texts,  messages,      fake.help};
 };

@@ -43,7 +43,7 @@ void run(Computer& computer, const std::function<void(CVelmaranDlg&)>& act) {
                            computer.files,   world.fake.code_page, world.fake.printer,
                            world.windows,    world.fake.texts,     world.messages,
                            world.fake.help};
-  CVelmaranDlg screen(services, {computer.ship, computer.items, computer.folders, {}, {}, {}});
+  CVelmaranDlg screen(services, {computer.ship, computer.items, computer.folders, {}});
   bool seen = false;
   world.windows.on_shown = [&](desktop::ScreenWindow& window) {
     seen = true;

@@ -70,7 +70,7 @@ class CFailingDlg : public ui::Screen {
   void on_f1(ui::Control*) override { on_f1_fails(); }
   void on_cancel() override {
     on_f1_fails();
-    close(text::kCancel);
+    close(ui::kCancel);
   }
 };
 

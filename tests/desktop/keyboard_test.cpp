@@ -79,7 +79,7 @@ class LinesScreen : public ui::Screen {
   ui::Combo combo{*this, "combo"};
   ui::Tree tree{*this, "tree"};
   ui::Edit after{*this, "after"};
-  ui::Button ok{*this, "ok", {text::id::kOkLabel}, ui::Role::kOk};
+  ui::Button ok{*this, "ok", {text::id::kOkLabel}, ui::Role::kAccept};
   int changes = 0;
 };
 
@@ -254,7 +254,7 @@ TEST(Visibility, IsChosenByKeysAndTakenByEnter) {
       keys += std::to_string(key) + " ";
     }
     press(Qt::Key_Return);
-    EXPECT_EQ(text::kOk, s.screen->result()) << keys;
+    EXPECT_EQ(ui::kOk, s.screen->result()) << keys;
     EXPECT_EQ(row.code, s.screen->code()) << keys;
   }
 }

@@ -19,7 +19,7 @@ struct MainWindow {
   ShipFixedData ship;
   KeyObservationItems items;
   mainwindow::Folders folders;
-  CVelmaranDlg screen{world.services, {ship, items, folders, {}, {}, {}}};
+  CVelmaranDlg screen{world.services, {ship, items, folders, {}}};
   std::unique_ptr<desktop::ScreenWindow> window;
 
   MainWindow() {

@@ -442,7 +442,7 @@ TEST(LoadingState, AsksWhenItIsChosenNotWhenItIsPassed) {
   KeyObservationItems items;
   mainwindow::Folders folders;
   ship.card.type = CardType::kHeightAndTemperature;
-  CVelmaranDlg screen(world.services, {ship, items, folders, {}, {}, {}});
+  CVelmaranDlg screen(world.services, {ship, items, folders, {}});
   screen.open();
   desktop::ScreenWindow window(screen, nullptr);
   tests::show(window);

@@ -58,47 +58,47 @@ const auto kClose = [](QMessageBox& box) { box.close(); };
 TEST(MessageBoxes, AskYesAndNoInThatOrder) {
   DesktopWorld world;
   Seen seen;
-  const text::CMessageBox1 box("Save?", {}, {}, "Question");
+  const ui::CMessageBox1 box("Save?", {}, {}, "Question");
   const auto ask = [&] { return world.messages.show(box); };
-  EXPECT_EQ(text::kYes, answered(ask, click("&YES"), &seen));
+  EXPECT_EQ(ui::kYes, answered(ask, click("&YES"), &seen));
   EXPECT_EQ("Question", seen.title);
   EXPECT_EQ("Save?", seen.text);
   EXPECT_EQ((std::vector<std::string>{"&YES", "&NO"}), seen.buttons);
-  EXPECT_EQ(text::kNo, answered(ask, click("&NO")));
-  EXPECT_EQ(text::kNo, answered(ask, kEscape));
-  EXPECT_EQ(text::kNo, answered(ask, kClose));
+  EXPECT_EQ(ui::kNo, answered(ask, click("&NO")));
+  EXPECT_EQ(ui::kNo, answered(ask, kEscape));
+  EXPECT_EQ(ui::kNo, answered(ask, kClose));
 }
 
 TEST(MessageBoxes, GiveThreeButtonsTheCallersLabels) {
   DesktopWorld world;
   Seen seen;
-  const text::CMessageBox2 box("終了しますか？", "はい(&Y)", "いいえ(&N)", "ｷｬﾝｾﾙ(&C)", "確認");
+  const ui::CMessageBox2 box("終了しますか？", "はい(&Y)", "いいえ(&N)", "ｷｬﾝｾﾙ(&C)", "確認");
   const auto ask = [&] { return world.messages.show(box); };
-  EXPECT_EQ(text::kOk, answered(ask, click("はい(&Y)"), &seen));
+  EXPECT_EQ(ui::kOk, answered(ask, click("はい(&Y)"), &seen));
   EXPECT_EQ("確認", seen.title);
   EXPECT_EQ("終了しますか？", seen.text);
   EXPECT_EQ((std::vector<std::string>{"はい(&Y)", "いいえ(&N)", "ｷｬﾝｾﾙ(&C)"}), seen.buttons);
-  EXPECT_EQ(text::kNo, answered(ask, click("いいえ(&N)")));
-  EXPECT_EQ(text::kCancel, answered(ask, click("ｷｬﾝｾﾙ(&C)")));
-  EXPECT_EQ(text::kCancel, answered(ask, kEscape));
-  EXPECT_EQ(text::kCancel, answered(ask, kClose));
+  EXPECT_EQ(ui::kNo, answered(ask, click("いいえ(&N)")));
+  EXPECT_EQ(ui::kCancel, answered(ask, click("ｷｬﾝｾﾙ(&C)")));
+  EXPECT_EQ(ui::kCancel, answered(ask, kEscape));
+  EXPECT_EQ(ui::kCancel, answered(ask, kClose));
 }
 
 TEST(MessageBoxes, TurnTheOrderRoundInTheThirdBox) {
   DesktopWorld world;
   Seen seen;
-  const text::CMessageBox3 box("Overwrite?");
+  const ui::CMessageBox3 box("Overwrite?");
   const auto ask = [&] { return world.messages.show(box); };
-  EXPECT_EQ(text::kNo, answered(ask, click("&NO"), &seen));
+  EXPECT_EQ(ui::kNo, answered(ask, click("&NO"), &seen));
   EXPECT_EQ(box.box().title, seen.title);
   EXPECT_EQ((std::vector<std::string>{"&NO", "&YES"}), seen.buttons);
-  EXPECT_EQ(text::kYes, answered(ask, click("&YES")));
-  EXPECT_EQ(text::kNo, answered(ask, kEscape));
+  EXPECT_EQ(ui::kYes, answered(ask, click("&YES")));
+  EXPECT_EQ(ui::kNo, answered(ask, kEscape));
 }
 
 TEST(MessageBoxes, TakeAnAccessKeyBehindJapaneseText) {
   DesktopWorld world;
-  const text::CMessageBox1 box("保存しますか？", "はい(&Y)", "いいえ(&N)");
+  const ui::CMessageBox1 box("保存しますか？", "はい(&Y)", "いいえ(&N)");
   const auto ask = [&] { return world.messages.show(box); };
   const auto key = [](Qt::Key letter) {
     return [letter](QMessageBox& open) {
@@ -110,7 +110,7 @@ TEST(MessageBoxes, TakeAnAccessKeyBehindJapaneseText) {
       QTimer::singleShot(2000, &open, &QMessageBox::reject);
     };
   };
-  EXPECT_EQ(text::kYes, answered(ask, key(Qt::Key_Y)));
+  EXPECT_EQ(ui::kYes, answered(ask, key(Qt::Key_Y)));
 }
 
 TEST(MessageBoxes, ShowANoticeWithOneButtonAndItsTextAsItIs) {

@@ -38,8 +38,8 @@ class SampleScreen : public ui::Screen {
   ui::Choice choice{*this, "choice", {}, {{text::id::kOkLabel}, {text::id::kCancelLabel}}};
   ui::Tick tick_box{*this, "tick", {text::id::kHelpLabel}};
   ui::Button apply{*this, "apply", {text::id::kOkLabel}};
-  ui::Button ok{*this, "ok", {text::id::kOkLabel}, ui::Role::kOk};
-  ui::Button cancel{*this, "cancel", {text::id::kCancelLabel}, ui::Role::kCancel};
+  ui::Button ok{*this, "ok", {text::id::kOkLabel}, ui::Role::kAccept};
+  ui::Button cancel{*this, "cancel", {text::id::kCancelLabel}, ui::Role::kDismiss};
   int checks = 0;
   int applied = 0;
 };
@@ -116,23 +116,23 @@ TEST(ScreenWindow, CancelIsPressedOverARefusedField) {
   Shown s;
   QTest::keyClicks(s.widget<QLineEdit>("first"), "bad");
   QTest::mouseClick(s.widget<QPushButton>("cancel"), Qt::LeftButton);
-  EXPECT_EQ(s.screen.result(), text::kCancel);
+  EXPECT_EQ(s.screen.result(), ui::kCancel);
   EXPECT_EQ(s.screen.checks, 0);
 }
 
 TEST(ScreenWindow, EnterIsOkAndEscapeIsCancel) {
   Shown ok;
   QTest::keyClick(ok.widget<QLineEdit>("first"), Qt::Key_Return);
-  EXPECT_EQ(ok.screen.result(), text::kOk);
+  EXPECT_EQ(ok.screen.result(), ui::kOk);
   Shown cancel;
   QTest::keyClick(cancel.widget<QLineEdit>("first"), Qt::Key_Escape);
-  EXPECT_EQ(cancel.screen.result(), text::kCancel);
+  EXPECT_EQ(cancel.screen.result(), ui::kCancel);
 }
 
 TEST(ScreenWindow, TheCloseBoxIsCancel) {
   Shown s;
   s.window->close();
-  EXPECT_EQ(s.screen.result(), text::kCancel);
+  EXPECT_EQ(s.screen.result(), ui::kCancel);
 }
 
 TEST(ScreenWindow, AnEditableDropDownTakesWhatIsTypedAndCompletesNothing) {

@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 
+#include "desktop/picture_label.h"
 #include "text/strings.h"
 
 namespace tests {
@@ -16,6 +17,8 @@ std::string caption_on(const desktop::Binding& binding) {
   const QWidget* const widget = binding.widget();
   if (const auto* const button = qobject_cast<const QAbstractButton*>(widget))
     return button->text().toStdString();
+  // A picture says its caption only where its file is missing; screen readers always do.
+  if (binding.control().kind == ui::Kind::kPicture) return widget->accessibleName().toStdString();
   if (const auto* const label = qobject_cast<const QLabel*>(widget))
     return label->text().toStdString();
   // A layout may leave a caption out where a group's title says it; screen readers still say it.
@@ -64,6 +67,9 @@ std::vector<ui::ControlView> widget_views(const desktop::ScreenWindow& window) {
     view.caption = caption_on(*binding);
     if (binding->unit_label != nullptr) view.unit = binding->unit_label->text().toStdString();
     view.text = text_on(*binding, view);
+    if (const auto* const picture = qobject_cast<desktop::PictureLabel*>(binding->widget());
+        picture != nullptr && picture->drawing() != nullptr)
+      view.drawing = ui::describe(*picture->drawing());
     for (const QString& line : binding->shown().items) view.lines.push_back(line.toStdString());
     for (const QString& code : binding->shown().codes)
       view.line_codes.push_back(code.toStdString());

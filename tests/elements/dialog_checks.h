@@ -26,7 +26,7 @@ inline void refused(fakes::World& world, ui::Screen& screen, const std::function
   EXPECT_EQ(fakes::dump(screen), before) << text_id;
   EXPECT_FALSE(screen.result()) << text_id;
   ASSERT_EQ(world.windows.boxes.size(), boxes + 1) << text_id;
-  const platform::MessageBox& box = world.windows.boxes.back();
+  const ui::MessageBox& box = world.windows.boxes.back();
   EXPECT_EQ(box.text, text::bilingual(text_id, world.texts.language));
   EXPECT_FALSE(box.text.empty());
   EXPECT_EQ(box.text.find("/*E*/"), std::string::npos);

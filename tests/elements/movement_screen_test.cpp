@@ -75,7 +75,7 @@ TEST_F(MovementScreen, ChosenFiguresGoToDsAndVs) {
   dialog.choose(dialog.speed, 9);
   EXPECT_EQ(dialog.values(), (Values{"1", "2"}));
   dialog.key(ui::Key::kEnter);
-  EXPECT_EQ(dialog.result(), text::kOk);
+  EXPECT_EQ(dialog.result(), ui::kOk);
   EXPECT_EQ(dialog.values(), (Values{"/", "9"}));
 }
 
@@ -95,7 +95,7 @@ TEST_F(MovementScreen, CancelHandsBackWhatWasHandedIn) {
   dialog.open();
   dialog.choose(dialog.course, 0);
   dialog.press(dialog.cancel);
-  EXPECT_EQ(dialog.result(), text::kCancel);
+  EXPECT_EQ(dialog.result(), ui::kCancel);
   EXPECT_EQ(dialog.values(), (Values{"1", "2"}));
 }
 

@@ -67,7 +67,7 @@ TEST_F(PositionScreen, QuadrantFollowsTheHemispheresAlsoOnEquatorAndMeridians) {
       dialog.choose(dialog.latitude_side, row.latitude);
       dialog.choose(dialog.longitude_side, row.longitude);
       dialog.press(dialog.ok);
-      EXPECT_EQ(dialog.result(), text::kOk);
+      EXPECT_EQ(dialog.result(), ui::kOk);
       EXPECT_EQ(dialog.values().Qc, row.quadrant) << p[0] << p[2];
     }
   }
@@ -278,7 +278,7 @@ TEST_F(PositionScreen, PositionOnLandIsKeptOnYesOnly) {
       world.windows.expect(text::Id{37011}, answer);
       dialog.press(dialog.ok);
       if (answer == "yes") {
-        EXPECT_EQ(dialog.result(), text::kOk);
+        EXPECT_EQ(dialog.result(), ui::kOk);
         EXPECT_EQ(dialog.values(), (Values{"35", "00", "139", "00", "1"}));
       } else {
         EXPECT_FALSE(dialog.result());
@@ -298,7 +298,7 @@ TEST_F(PositionScreen, LandTestGetsSignedDegreesAndAPositionAtSeaIsNotAsked) {
                         land_test());
     dialog.open();
     dialog.press(dialog.ok);
-    EXPECT_EQ(dialog.result(), text::kOk);
+    EXPECT_EQ(dialog.result(), ui::kOk);
     ASSERT_EQ(asked.size(), i + 1);
     EXPECT_DOUBLE_EQ(asked.back().first, latitudes[i]);
     EXPECT_DOUBLE_EQ(asked.back().second, longitudes[i]);
@@ -311,7 +311,7 @@ TEST_F(PositionScreen, CancelHandsBackWhatWasHandedIn) {
   dialog.open();
   fakes::enter(dialog, dialog.latitude_degrees, "99");
   dialog.press(dialog.cancel);
-  EXPECT_EQ(dialog.result(), text::kCancel);
+  EXPECT_EQ(dialog.result(), ui::kCancel);
   EXPECT_EQ(dialog.values(), in);
   EXPECT_TRUE(asked.empty());
 }

@@ -98,7 +98,7 @@ TEST(PressureScreen, FullWidthDigitsAreNarrowed) {
   p.type(p.screen.reading_whole, "１０１３");
   p.type(p.screen.reading_tenths, "２");
   p.press_ok();
-  EXPECT_EQ(p.screen.result(), text::kOk);
+  EXPECT_EQ(p.screen.result(), ui::kOk);
   EXPECT_EQ(p.screen.values().reading, "1013.2");
 }
 
@@ -117,7 +117,7 @@ TEST(PressureScreen, RefusesWrongCharactersWhenAFieldIsLeft) {
         p.world, p.screen, [&] { p.press_ok(); }, id::kInvalidValue, p.screen.reading_tenths);
     EXPECT_TRUE(p.stored.empty());  // OK was never pressed
     p.screen.press(p.screen.cancel);
-    EXPECT_EQ(p.screen.result(), text::kCancel);
+    EXPECT_EQ(p.screen.result(), ui::kCancel);
     EXPECT_EQ(p.screen.values().reading, "1013.2");
   }
 }
@@ -126,7 +126,7 @@ TEST(PressureScreen, ClosesWithoutAReadingAndStillStoresTheCard) {
   Pressure p(with("1013.2"));
   p.type(p.screen.reading_whole, "");
   p.press_ok();
-  EXPECT_EQ(p.screen.result(), text::kOk);
+  EXPECT_EQ(p.screen.result(), ui::kOk);
   EXPECT_EQ(p.screen.values().reading, "");
   ASSERT_EQ(p.stored.size(), 1U);
   EXPECT_EQ(p.stored[0], height_card());
@@ -200,7 +200,7 @@ TEST(PressureScreen, RefusesAPressureOutsideTheRangeOfWhatItShows) {
       Pressure p(with(row.reading, card), language);
       if (row.accepted) {
         p.press_ok();
-        EXPECT_EQ(p.screen.result(), text::kOk) << row.reading;
+        EXPECT_EQ(p.screen.result(), ui::kOk) << row.reading;
       } else {
         checks::refused(
             p.world, p.screen, [&] { p.press_ok(); }, id::kBarometerReadingRange,
@@ -221,7 +221,7 @@ TEST(PressureScreen, EmptyTenthsCountAsZero) {
   Pressure p(with(""));
   p.type(p.screen.reading_whole, "1013");
   p.press_ok();
-  EXPECT_EQ(p.screen.result(), text::kOk);
+  EXPECT_EQ(p.screen.result(), ui::kOk);
   EXPECT_EQ(p.screen.values().reading, "1013.0");
   EXPECT_EQ(p.screen.sea_level_pressure.content, "1015.4");
 }
@@ -250,7 +250,7 @@ TEST(PressureScreen, CancelStoresNoCard) {
   p.renewed = height_card();
   p.screen.press(p.screen.renew);
   p.screen.key(ui::Key::kEscape);
-  EXPECT_EQ(p.screen.result(), text::kCancel);
+  EXPECT_EQ(p.screen.result(), ui::kCancel);
   EXPECT_TRUE(p.stored.empty());
   EXPECT_EQ(p.screen.values().card, BarometerCard{});
 }
@@ -466,7 +466,7 @@ TEST(TendencyScreen, EveryCharacteristicWithEveryAmount) {
               t.world, t.screen, [&] { t.press_ok(); }, id::kSteadyWithAmount, t.screen.amount);
         } else {
           t.press_ok();
-          EXPECT_EQ(t.screen.result(), text::kOk);
+          EXPECT_EQ(t.screen.result(), ui::kOk);
           EXPECT_EQ(t.stored(), std::string(code.a) + "|" + amount.stored);
         }
       }
@@ -491,7 +491,7 @@ TEST(TendencyScreen, RefusesAnAmountThatIsNoNumber) {
           t.screen.amount);
       EXPECT_EQ(t.stored(), "2|012");
       t.screen.close_box();
-      EXPECT_EQ(t.screen.result(), text::kCancel);
+      EXPECT_EQ(t.screen.result(), ui::kCancel);
     }
   }
 }

@@ -115,7 +115,7 @@ TEST_F(SeaScreen, MethodCanBeChangedForThisObservation) {
     fakes::enter(dialog, dialog.temperature, row.typed);
     dialog.choose(dialog.method, row.method);
     dialog.key(ui::Key::kEnter);
-    EXPECT_EQ(dialog.result(), text::kOk) << row.typed;
+    EXPECT_EQ(dialog.result(), ui::kOk) << row.typed;
     EXPECT_EQ(dialog.values(), row.out) << row.typed << " " << row.method;
   }
 }
@@ -168,7 +168,7 @@ TEST_F(SeaScreen, EmptyTemperatureClearsBothFields) {
   dialog.open();
   fakes::enter(dialog, dialog.temperature, "");
   dialog.press(dialog.ok);
-  EXPECT_EQ(dialog.result(), text::kOk);
+  EXPECT_EQ(dialog.result(), ui::kOk);
   EXPECT_EQ(dialog.values(), Values{});
 }
 

@@ -151,7 +151,7 @@ TEST_P(SplitFields, LetTheTenthsOfAnEarlierValueGoWithItsWholePart) {
   EXPECT_NE(tenths->content, "");
   fakes::enter(*screen, *whole, "");
   screen->press(*screen->find("ok"));
-  EXPECT_EQ(screen->result(), text::kOk);
+  EXPECT_EQ(screen->result(), ui::kOk);
 }
 
 INSTANTIATE_TEST_SUITE_P(Pairs, SplitFields, testing::ValuesIn(kPairs), [](const auto& row) {

@@ -225,7 +225,7 @@ TEST(PsychrometerScreen, CancelKeepsWhatWasHandedIn) {
   Psychrometer p("10.0", "5.0");
   p.type(p.screen.dry.whole, "x");
   p.screen.press(p.screen.cancel);
-  EXPECT_EQ(p.screen.result(), text::kCancel);
+  EXPECT_EQ(p.screen.result(), ui::kCancel);
   EXPECT_EQ(p.result(), "10.0|5.0|-1");
 }
 
@@ -333,7 +333,7 @@ TEST(HumidityScreen, ShowsWholePercentWithTwoFigures) {
     Humidity h("", row.unit);
     ASSERT_TRUE(fakes::enter(h.screen, h.screen.value, row.typed));
     h.press_ok();
-    EXPECT_EQ(h.screen.result(), text::kOk) << row.typed;
+    EXPECT_EQ(h.screen.result(), ui::kOk) << row.typed;
     EXPECT_EQ(h.screen.humidity(), row.shown) << row.typed;
     EXPECT_EQ(codetables::humidity_texts({std::stod(h.screen.humidity())}).logbook, row.logbook);
     EXPECT_EQ(Humidity(row.shown, row.unit).screen.value.content, row.shown);

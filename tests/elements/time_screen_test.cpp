@@ -40,7 +40,7 @@ TEST_F(TimeScreen, HasItsTextsInBothLanguages) {
   world.japanese();
   EXPECT_EQ(dialog.title(), "観測日時(UTC)");
   for (const ui::Control* const control : dialog.controls()) {
-    if (control->role == ui::Role::kOk) continue;
+    if (control->role == ui::Role::kAccept) continue;
     EXPECT_NE(dialog.caption(*control), dialog.english_caption(*control)) << control->name;
   }
 }
@@ -94,7 +94,7 @@ TEST_F(TimeScreen, FillsEmptyFieldsFromTheClockReadAsUtc) {
     // The clock's hour is an offer; the officer chooses the synoptic one.
     fakes::choose_text(dialog, dialog.hour, "18");
     dialog.press(dialog.ok);
-    EXPECT_EQ(dialog.result(), text::kOk);
+    EXPECT_EQ(dialog.result(), ui::kOk);
     EXPECT_EQ(dialog.values(), (Values{row.shown.Year, row.shown.Month, row.shown.YY, "18"}));
   }
 }
@@ -107,7 +107,7 @@ TEST_F(TimeScreen, CancelHandsBackWhatWasHandedIn) {
     if (way == 0) dialog.press(dialog.cancel);
     if (way == 1) dialog.key(ui::Key::kEscape);
     if (way == 2) dialog.close_box();
-    EXPECT_EQ(dialog.result(), text::kCancel);
+    EXPECT_EQ(dialog.result(), ui::kCancel);
     EXPECT_EQ(dialog.values(), (Values{"2014", "", "", ""}));
   }
 }
@@ -121,7 +121,7 @@ TEST_F(TimeScreen, TypedAndPickedPartsComeBackInTwoFigures) {
   fakes::choose_text(dialog, dialog.hour, "21");
   EXPECT_EQ(dialog.month.content, "02");
   dialog.key(ui::Key::kEnter);
-  EXPECT_EQ(dialog.result(), text::kOk);
+  EXPECT_EQ(dialog.result(), ui::kOk);
   EXPECT_EQ(dialog.values(), (Values{"2012", "02", "29", "21"}));
 }
 
@@ -132,7 +132,7 @@ TEST_F(TimeScreen, MainAndIntermediateHoursAreTakenAndAnEmptyOneToo) {
     fakes::enter(dialog, dialog.hour, hour);
     dialog.press(dialog.ok);
     EXPECT_EQ(dialog.values().GG, hour);
-    EXPECT_EQ(dialog.result(), text::kOk);
+    EXPECT_EQ(dialog.result(), ui::kOk);
   }
 }
 
@@ -229,7 +229,7 @@ TEST_F(TimeScreen, LeavingATypedPartThatCannotBeRefusesItWithItsOwnMessage) {
       // Cancel and Help are never in the way of the check.
       dialog.press(dialog.help);
       dialog.press(dialog.cancel);
-      EXPECT_EQ(dialog.result(), text::kCancel);
+      EXPECT_EQ(dialog.result(), ui::kCancel);
     }
   }
   EXPECT_EQ(text::bilingual(text::Id{35003}, text::Language::kEnglish), "Invalid month");
@@ -247,7 +247,7 @@ TEST_F(TimeScreen, TakesTheYearsOfObservationsUpToTheNextOfTheClock) {
       dialog.open();
       fakes::enter(dialog, dialog.year, std::to_string(year));
       dialog.press(dialog.ok);
-      EXPECT_EQ(dialog.result(), text::kOk) << year;
+      EXPECT_EQ(dialog.result(), ui::kOk) << year;
       EXPECT_EQ(dialog.values().Year, std::to_string(year));
     }
   }

@@ -47,7 +47,7 @@ class Officer : public platform::Windows {
 // A form with its element dialogs.
 struct Roads : Form {
   Officer officer;
-  text::Messages dialog_messages{world.texts, officer};
+  ui::Messages dialog_messages{world.texts, officer};
   ui::Services services{world.clock,   world.locale, world.drives, world.no_files,  world.code_page,
                         world.printer, officer,      world.texts,  dialog_messages, world.help};
   mainwindow::Folders folders;

@@ -118,7 +118,7 @@ TEST(ApparentWindScreen, FieldsAcceptTheirRangesAndRefuseWhatLiesOutside) {
       a.type(field, row.typed);
       if (!row.message) {
         a.press_ok();
-        EXPECT_EQ(a.screen.result(), text::kOk);
+        EXPECT_EQ(a.screen.result(), ui::kOk);
       } else {
         checks::refused(
             a.world, a.screen, [&] { a.press_ok(); }, row.message, field);
@@ -147,7 +147,7 @@ TEST(ApparentWindScreen, OkChecksValuesItOpenedWith) {
 TEST(ApparentWindScreen, EveryFieldMayBeEmpty) {
   Apparent a({});
   a.press_ok();
-  EXPECT_EQ(a.screen.result(), text::kOk);
+  EXPECT_EQ(a.screen.result(), ui::kOk);
   EXPECT_EQ(a.screen.values(), ApparentWindTexts{});
 }
 
@@ -225,7 +225,7 @@ TEST(TrueWindScreen, ChecksDirectionAgainstSpeedOnOk) {
       ASSERT_TRUE(fakes::enter(t.screen, t.screen.speed_field, row.speed));
       if (!row.message) {
         t.press_ok();
-        EXPECT_EQ(t.screen.result(), text::kOk);
+        EXPECT_EQ(t.screen.result(), ui::kOk);
         EXPECT_EQ(t.result(), row.result);
       } else {
         checks::refused(
@@ -285,7 +285,7 @@ TEST(TrueWindScreen, RefusesWildTexts) {
           t.world, t.screen, [&] { t.press_ok(); }, row.message, t.screen.*row.field);
       EXPECT_EQ(t.result(), "27|8");
       t.screen.key(ui::Key::kEscape);
-      EXPECT_EQ(t.screen.result(), text::kCancel);
+      EXPECT_EQ(t.screen.result(), ui::kCancel);
     }
   }
 }

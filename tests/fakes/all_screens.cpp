@@ -51,7 +51,7 @@ struct Owned {
 class MainWindow : private Owned, public CVelmaranDlg {
  public:
   explicit MainWindow(ui::Services& services)
-      : CVelmaranDlg(services, {ship, items, folders, {}, {}, {}}) {}
+      : CVelmaranDlg(services, {ship, items, folders, {}}) {}
 };
 
 std::vector<ScreenCase> make_table() {

@@ -38,13 +38,13 @@ void FakeWindows::verify() {
   expected_.clear();
 }
 
-int FakeWindows::show_message(const platform::MessageBox& box) {
+int FakeWindows::show_message(const ui::MessageBox& box) {
   boxes.push_back(box);
   if (while_open) while_open();
   if (answer_to_all_) {
     const auto all =
         std::find_if(box.buttons.begin(), box.buttons.end(),
-                     [&](const platform::BoxButton& b) { return b.name == *answer_to_all_; });
+                     [&](const ui::BoxButton& b) { return b.name == *answer_to_all_; });
     return all == box.buttons.end() ? box.close_result : all->result;
   }
   if (expected_.empty()) {
@@ -61,9 +61,8 @@ int FakeWindows::show_message(const platform::MessageBox& box) {
     EXPECT_EQ(next.text, box.text);
   }
   if (next.answer == "close") return box.close_result;
-  const auto button =
-      std::find_if(box.buttons.begin(), box.buttons.end(),
-                   [&](const platform::BoxButton& b) { return b.name == next.answer; });
+  const auto button = std::find_if(box.buttons.begin(), box.buttons.end(),
+                                   [&](const ui::BoxButton& b) { return b.name == next.answer; });
   if (button == box.buttons.end()) {
     ADD_FAILURE() << "no button " << next.answer << " in: " << box.text;
     return box.close_result;
@@ -77,18 +76,18 @@ int FakeWindows::run_modal(ui::Screen& screen) {
   if (answer_to_all_) {
     notices.push_back("modal " + screen.class_name());
     screen.close_box();
-    return screen.result().value_or(text::kCancel);
+    return screen.result().value_or(ui::kCancel);
   }
   if (expected_.empty() || expected_.front().screen != screen.class_name()) {
     ADD_FAILURE() << "unexpected screen " << screen.class_name();
-    return text::kCancel;
+    return ui::kCancel;
   }
   const Expected next = std::move(expected_.front());
   expected_.pop_front();
   if (next.act) next.act(screen);
   if (!screen.result()) {
     ADD_FAILURE() << screen.class_name() << " was left open";
-    return text::kCancel;
+    return ui::kCancel;
   }
   return *screen.result();
 }

@@ -80,7 +80,7 @@ class FakeHelp : public platform::HelpViewer {
   }
 };
 
-class FakeWindows : public platform::Windows {
+class FakeWindows : public ui::Windows {
  public:
   ~FakeWindows() override;
 
@@ -98,14 +98,14 @@ class FakeWindows : public platform::Windows {
   void verify();
 
   /// Every box that was shown, in order.
-  std::vector<platform::MessageBox> boxes;
+  std::vector<ui::MessageBox> boxes;
   /// "show CLASS", "hide CLASS", "pause 1000", and "modal CLASS" under answer_all(), in order.
   std::vector<std::string> notices;
   std::optional<std::string> browse_answer;
   /// Called with each box that is open, before it is answered.
   std::function<void()> while_open;
 
-  int show_message(const platform::MessageBox& box) override;
+  int show_message(const ui::MessageBox& box) override;
   int run_modal(ui::Screen& screen) override;
   void show_notice(ui::Screen& screen) override;
   void hide_notice(ui::Screen& screen) override;
@@ -197,7 +197,7 @@ class World {
   FakeHelp help_viewer;
   FakeWindows windows;
   text::Texts texts;
-  text::Messages messages;
+  ui::Messages messages;
   text::HelpLauncher help;
   ui::Services services;
 

@@ -33,7 +33,7 @@ class CFailingDlg : public ui::Screen {
       : Screen(services, "CFailingDlg", {text::id::kHelpLabel}) {
     fail.on_press = [thrown] { thrown.raise(); };
     ask.on_press = [this] {
-      (void)this->services().messages.question(text::id::kNoValueInput, text::QuestionMode::kYesNo);
+      (void)this->services().messages.question(text::id::kNoValueInput, ui::QuestionMode::kYesNo);
     };
   }
   ui::Edit entry{*this, "entry", {}, 20};
@@ -55,7 +55,7 @@ Played play(const std::string& script, const Thrown& thrown, bool japanese, bool
     if (at_start) thrown.raise();
     fakes::World world;
     if (japanese) world.japanese();
-    text::Messages messages(world.texts, doors.windows);
+    ui::Messages messages(world.texts, doors.windows);
     text::HelpLauncher help(world.texts, doors.help, "C:\\program");
     ui::Services services{world.clock,     world.locale,  world.drives,  world.no_files,
                           world.code_page, doors.printer, doors.windows, world.texts,

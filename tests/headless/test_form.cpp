@@ -11,7 +11,7 @@ class CInnerDlg : public ui::Screen {
   explicit CInnerDlg(ui::Services& services)
       : Screen(services, "CInnerDlg", {text::id::kOkLabel, 0}) {}
   ui::Edit inner{*this, "inner"};
-  ui::Button ok{*this, "ok", {text::id::kOkLabel, 0}, ui::Role::kOk};
+  ui::Button ok{*this, "ok", {text::id::kOkLabel, 0}, ui::Role::kAccept};
 };
 
 class CNoticeDlg : public ui::Screen {
@@ -51,10 +51,10 @@ void CFormDlg::set_up_handlers() {
   code.on_change = [this] { doubled.content = code.content + code.content; };
   ask.on_press = [this] {
     note.content = "asked";
-    if (services().messages.question(text::id::kNoValueInput, text::QuestionMode::kYesNo) ==
-        text::kYes) {
+    if (services().messages.question(text::id::kNoValueInput, ui::QuestionMode::kYesNo) ==
+        ui::kYes) {
       CInnerDlg inner(services());
-      if (services().windows.run_modal(inner) == text::kOk) note.content = inner.inner.content;
+      if (services().windows.run_modal(inner) == ui::kOk) note.content = inner.inner.content;
     } else {
       dead.enabled = true;
       hidden.visible = true;
@@ -118,7 +118,7 @@ Played play(std::string_view script, const headless::Options& options) {
   std::ostringstream error;
   const auto program = [](const headless::Doors& doors) {
     fakes::World world;
-    text::Messages messages(world.texts, doors.windows);
+    ui::Messages messages(world.texts, doors.windows);
     text::HelpLauncher help(world.texts, doors.help, "C:\\program");
     ui::Services services{world.clock,     world.locale,  world.drives,  world.no_files,
                           world.code_page, doors.printer, doors.windows, world.texts,

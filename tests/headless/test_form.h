@@ -35,8 +35,8 @@ class CFormDlg : public ui::Screen, public ui::ObservationView {
   ui::Button dead{*this, "dead", {}};
   ui::Label link{*this, "link"};
   ui::Button japanese{*this, "japanese", {}};
-  ui::Button ok{*this, "ok", {text::id::kOkLabel, 0}, ui::Role::kOk};
-  ui::Button cancel{*this, "cancel", {text::id::kCancelLabel, 0}, ui::Role::kCancel};
+  ui::Button ok{*this, "ok", {text::id::kOkLabel, 0}, ui::Role::kAccept};
+  ui::Button cancel{*this, "cancel", {text::id::kCancelLabel, 0}, ui::Role::kDismiss};
   ui::Button help{*this, "help", {text::id::kHelpLabel, 0}, ui::Role::kHelp};
 
   [[nodiscard]] std::vector<std::pair<std::string, std::string>> record_fields() const override {

@@ -112,7 +112,7 @@ TEST(MainWindowMenu, RunsNoCommandInsideAnother) {
   ShipFixedData ship = main_window::sample_ship();
   KeyObservationItems items;
   mainwindow::Folders folders;
-  CVelmaranDlg window(services, {ship, items, folders, {}, {}, {}});
+  CVelmaranDlg window(services, {ship, items, folders, {}});
   window.open();
   viewer.window = &window;
   window.run(mainwindow::kFaxHelp);
@@ -194,7 +194,7 @@ TEST(MainWindowLanguage, ChangesMenuLabelsAndTitleThereAndBack) {
   opened->menu("Language/English（英語）");
   EXPECT_EQ("Observation date and time (UTC)", label("label_time"));
   EXPECT_EQ("At full load", opened->control("loading_state").items[0]);
-  EXPECT_EQ((std::vector<std::string>{"Japanese", "English"}), opened->told);
+  EXPECT_TRUE(opened->told.empty());
 }
 
 TEST(MainWindowLanguage, EveryLabelHasATextInBothLanguages) {

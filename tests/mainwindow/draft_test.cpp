@@ -66,7 +66,7 @@ struct Copy {
   fakes::World world{computer.files};
   ShipFixedData ship;
   KeyObservationItems items;
-  CVelmaranDlg window{world.services, {ship, items, computer.folders, {}, {}, {}}};
+  CVelmaranDlg window{world.services, {ship, items, computer.folders, {}}};
 };
 
 /// What a copy that was killed after these entries left behind.
@@ -249,7 +249,7 @@ TEST(KeptEntries, GoWhenTheObservationIsSavedOrGivenUp) {
               !computer.files.content(kDraft).has_value());
   };
   copy.window.close_box();
-  EXPECT_EQ(copy.window.result(), text::kOk);
+  EXPECT_EQ(copy.window.result(), ui::kOk);
   EXPECT_NE(computer.files.content("C:\\out\\14111512.tlx"), std::nullopt);
   EXPECT_EQ(computer.files.content(kDraft), std::nullopt);
 }

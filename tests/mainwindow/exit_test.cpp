@@ -29,7 +29,7 @@ TEST(Exit, AsksWhetherToEndWhenNothingIsUnsaved) {
       const std::string before = opened->state();
       opened->world.windows.expect(id::kAskExit, answer);
       road.leave(*opened);
-      const platform::MessageBox& box = opened->world.windows.boxes.at(0);
+      const ui::MessageBox& box = opened->world.windows.boxes.at(0);
       EXPECT_EQ("Brenmoor", box.title);
       EXPECT_EQ("Exit KAVREL for WIN ", box.text);
       EXPECT_EQ(2U, box.buttons.size());

@@ -188,12 +188,12 @@ TEST(Fields, SetByADialogAreNotRefusedWhenTheFocusPassesThrough) {
 // ---- Whatever is done
 
 // An officer who answers anything, types anything into any dialog and closes it one way or another.
-class RandomOfficer : public platform::Windows {
+class RandomOfficer : public ui::Windows {
  public:
   explicit RandomOfficer(std::mt19937& random) : random_(random) {}
   int confirmed = 0;
 
-  int show_message(const platform::MessageBox& box) override {
+  int show_message(const ui::MessageBox& box) override {
     return box.buttons[pick(box.buttons.size())].result;
   }
   int run_modal(ui::Screen& screen) override {
@@ -219,8 +219,8 @@ class RandomOfficer : public platform::Windows {
     }
     if (!screen.result() && pick(3) > 0) screen.press(*screen.find("ok"));
     if (!screen.result()) screen.press(*screen.find("cancel"));
-    if (screen.result() == text::kOk) ++confirmed;
-    return screen.result().value_or(text::kCancel);
+    if (screen.result() == ui::kOk) ++confirmed;
+    return screen.result().value_or(ui::kCancel);
   }
   void show_notice(ui::Screen&) override {}
   void hide_notice(ui::Screen&) override {}
@@ -366,14 +366,14 @@ struct Play {
   fakes::FakePrinter printer;
   fakes::FakeHelp viewer;
   text::Texts texts;
-  text::Messages messages{texts, officer};
+  ui::Messages messages{texts, officer};
   text::HelpLauncher help{texts, viewer, "C:\\program"};
   ui::Services services{clock,   locale,  drives, files,    code_page,
                         printer, officer, texts,  messages, help};
   ShipFixedData ship;
   KeyObservationItems items;
   mainwindow::Folders folders;
-  CVelmaranDlg window{services, {ship, items, folders, {}, {}, {}}};
+  CVelmaranDlg window{services, {ship, items, folders, {}}};
 };
 
 TEST(Property, ShownGroupsAreTheEncodersAndNoEntryIsLost) {

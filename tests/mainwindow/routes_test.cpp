@@ -385,9 +385,9 @@ TEST(Methods, ChooseTheTemperatureDialogs) {
       if (dialog.element != 5 && dialog.element != 6 && dialog.element != 26) continue;
       bool shown = false;
       ui::Control& label = opened->control(dialog.label);
-      const bool in_use = mainwindow::find_element(dialog.element)
-                              ->use({opened->ship, opened->items, opened->folders, {}, {}, {}}) ==
-                          mainwindow::Use::kInUse;
+      const bool in_use =
+          mainwindow::find_element(dialog.element)
+              ->use({opened->ship, opened->items, opened->folders, {}}) == mainwindow::Use::kInUse;
       if (in_use) {
         opened->world.windows.expect_screen(dialog.class_name, [&](ui::Screen& screen) {
           shown = true;
@@ -438,7 +438,7 @@ TEST(PositionDialog, OpensOnTheHemispheresOfTheLastReport) {
   opened->files.add_file("C:\\out\\14111512.tlx", "BBXX JXKV 15124 99353 31400 41498 .....");
   ShipFixedData ship = main_window::sample_ship();
   KeyObservationItems items;
-  CVelmaranDlg window(opened->world.services, {ship, items, opened->folders, {}, {}, {}});
+  CVelmaranDlg window(opened->world.services, {ship, items, opened->folders, {}});
   window.open();
   EXPECT_EQ(-1, window.find("north_south")->selected);  // on the form nobody has chosen
   opened->world.windows.expect_screen("CPositionDlg", [](ui::Screen& screen) {

@@ -109,7 +109,7 @@ void in_both_languages(const std::function<void(Save&)>& check) {
     Save save;
     save.world.texts.language = language;
     check(save);
-    for (const platform::MessageBox& box : save.world.windows.boxes) {
+    for (const ui::MessageBox& box : save.world.windows.boxes) {
       EXPECT_FALSE(box.text.empty());
       // Below a failed save stand the file and the cause.
       const std::string notice =
@@ -192,7 +192,7 @@ TEST(SaveFlow, TheNoticeSaysThatItIsSavingAndStaysWhileItAsks) {
   s.files.add_file(kReport, "old");
   s.world.windows.expect(id::kAskReplaceReport, "no");
   EXPECT_EQ(s.save(), SaveEnd::kNotSaved);
-  const platform::MessageBox& box = s.world.windows.boxes.back();
+  const ui::MessageBox& box = s.world.windows.boxes.back();
   EXPECT_EQ(box.title, "Brenmoor");
   EXPECT_EQ(box.buttons.size(), 2U);
   EXPECT_EQ(s.world.windows.notices.front(), "show CShowStatusDlg");
@@ -355,7 +355,7 @@ TEST(SaveFlow, EveryFailedWriteLeavesBothFilesAndSaysSo) {
 }
 
 // The box shows the text of the id with these words in its places.
-void expect_words(const platform::MessageBox& box, text::Id id, text::Language language,
+void expect_words(const ui::MessageBox& box, text::Id id, text::Language language,
                   std::initializer_list<std::string_view> words) {
   EXPECT_EQ(box.text_id, id);
   EXPECT_EQ(box.text, text::fill(text::bilingual(id, language), words));
@@ -371,7 +371,7 @@ TEST(SaveFlow, AHeldLogbookIsTriedAgainOrLeft) {
     s.world.windows.expect(id::kLogbookLocked, "cancel");
     s.world.windows.expect(id::kSaveCancelled);
     s.expect_nothing_written(SaveEnd::kNotSaved);
-    const platform::MessageBox& box = s.world.windows.boxes.front();
+    const ui::MessageBox& box = s.world.windows.boxes.front();
     expect_words(box, id::kLogbookLocked, language, {kLogbook});
     const bool english = language == text::Language::kEnglish;
     EXPECT_EQ(box.buttons.at(0).label, english ? "Retry" : "再試行");
@@ -505,7 +505,7 @@ TEST(SaveFlow, AnInterruptedSaveWhoseDriveIsAwayIsToldAtTheStartAndAskedAboutBef
     s.world.windows.verify();
     EXPECT_EQ(s.logbook(), "LINE\n" + s.line());
     EXPECT_EQ(s.files.content(kReport), s.message());
-    for (const platform::MessageBox& box : s.world.windows.boxes)
+    for (const ui::MessageBox& box : s.world.windows.boxes)
       if (box.text_id == id::kSaveUnreachable || box.text_id == id::kAskLeaveUnreachable)
         expect_words(box, box.text_id, language, {"14111506.tlx", "1", "E:\\out\\", reason});
   }

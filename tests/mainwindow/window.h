@@ -66,13 +66,8 @@ struct Opened {
   KeyObservationItems items;
   mainwindow::Folders folders;
   std::vector<std::string> told;  ///< the callbacks that were called
-  CVelmaranDlg window{
-      world.services,
-      {ship, items, folders, [this] { told.emplace_back("fixed data"); },
-       [this](text::Language language) {
-         told.emplace_back(language == text::Language::kJapanese ? "Japanese" : "English");
-       },
-       [this] { told.emplace_back("folders"); }}};
+  CVelmaranDlg window{world.services,
+                      {ship, items, folders, [this] { told.emplace_back("fixed data"); }}};
 };
 
 inline void Opened::menu(std::string_view path) {

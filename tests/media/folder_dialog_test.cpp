@@ -81,7 +81,7 @@ TEST_F(FolderDialog, OkWritesTheFolderUnderTheKeyOfTheMode) {
     dialog.open();
     ASSERT_TRUE(dialog.reveal(dialog.tree, "C:\\out\\old"));
     dialog.press(dialog.ok);
-    EXPECT_EQ(dialog.result(), text::kOk);
+    EXPECT_EQ(dialog.result(), ui::kOk);
     EXPECT_EQ(dialog.folder(), "C:\\out\\old\\");
     EXPECT_EQ(written, Names{std::string(key) + "=C:\\out\\old\\"});
   }
@@ -110,7 +110,7 @@ TEST_F(FolderDialog, CancelAndTheCloseBoxWriteNothing) {
     if (way == 0) dialog.press(dialog.cancel);
     if (way == 1) dialog.close_box();
     if (way == 2) dialog.key(ui::Key::kEscape);
-    EXPECT_EQ(dialog.result(), text::kCancel);
+    EXPECT_EQ(dialog.result(), ui::kCancel);
     EXPECT_EQ(dialog.folder(), "");
   }
   EXPECT_TRUE(written.empty());
@@ -210,7 +210,7 @@ TEST_F(FolderDialog, SourceIsTakenWhereNothingIsCopied) {
     CLogDiskSavePathDlg dialog(world.services, mode, {"", "C:\\out", "C:\\out"}, write());
     dialog.open();
     dialog.press(dialog.ok);
-    EXPECT_EQ(dialog.result(), text::kOk);
+    EXPECT_EQ(dialog.result(), ui::kOk);
   }
 }
 

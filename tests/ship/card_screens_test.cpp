@@ -56,7 +56,7 @@ TEST(CardTypeScreen, RefusesOkWithoutAChoice) {
     EXPECT_EQ(screen.focused(), &screen.card_type);
     screen.choose(screen.card_type, 1);
     press(screen, "ok");
-    EXPECT_EQ(screen.result(), text::kOk);
+    EXPECT_EQ(screen.result(), ui::kOk);
     EXPECT_EQ(screen.type(), CardType::kTotalCorrection);
   }
 }
@@ -91,7 +91,7 @@ TEST(LoadingStateScreen, RefusesOkWithoutAChoice) {
     EXPECT_EQ(dump(screen), before);
     screen.choose(screen.loading_state, 1);
     press(screen, "ok");
-    EXPECT_EQ(screen.result(), text::kOk);
+    EXPECT_EQ(screen.result(), ui::kOk);
     EXPECT_EQ(screen.state(), LoadingState::kInBallast);
   }
 }
@@ -189,7 +189,7 @@ void expect_refused(const LeaveRow& row, Language language, const BarometerCard&
   EXPECT_TRUE(screen.move_focus(screen.help));
   EXPECT_TRUE(screen.move_focus(field));
   screen.press(screen.cancel);
-  EXPECT_EQ(screen.result(), text::kCancel);
+  EXPECT_EQ(screen.result(), ui::kCancel);
   EXPECT_EQ(screen.card(), card);
 }
 
@@ -299,7 +299,7 @@ TEST(CardScreen, TakesANewCardInReadingOrder) {
     ASSERT_TRUE(enter(screen, *screen.find(name), value)) << name;
   screen.choose(screen.loading_state, 0);
   press(screen, "ok");
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
   const BarometerCard wanted{"2014/01/05", "KOBE", CardType::kHeightAndTemperature,
                              "+0.0",       "-0.2", LoadingState::kFullLoad,
                              "15",         "+1.5", "25",
@@ -438,7 +438,7 @@ TEST(CardScreen, AcceptsTheLimits) {
   CKataInputDlg screen(world.services, card);
   screen.open();
   press(screen, "ok");
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
   EXPECT_EQ(screen.card(), card);
 }
 
@@ -473,7 +473,7 @@ TEST(CardScreen, AsksForTheLoadingStateLast) {
     press(s, "ok");
   });
   press(screen, "ok");
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
   card.loading_state = LoadingState::kInBallast;
   EXPECT_EQ(screen.card(), card);
 }
@@ -483,7 +483,7 @@ TEST(CardScreen, DoesNotAskForTheLoadingStateOfACardOfType2) {
   CKataInputDlg screen(world.services, fakes::total_card("+0.5"));
   screen.open();
   press(screen, "ok");
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
 }
 
 // ---- Card input: another type
@@ -542,7 +542,7 @@ TEST(CardScreen, TakesAPortOfTwelveJapaneseCharacters) {
     ASSERT_TRUE(enter(screen, screen.barometer_check_port, port));
     EXPECT_EQ(screen.barometer_check_port.content, port) << "not cut";
     press(screen, "ok");
-    EXPECT_EQ(screen.result(), text::kOk) << port;
+    EXPECT_EQ(screen.result(), ui::kOk) << port;
     EXPECT_EQ(screen.card().check_port, port);
   }
 }
@@ -603,7 +603,7 @@ TEST(CardScreen, TakesTheLongestPortThatFits) {
     CKataInputDlg screen(world.services, card);
     screen.open();
     press(screen, "ok");
-    EXPECT_EQ(screen.result(), text::kOk) << port;
+    EXPECT_EQ(screen.result(), ui::kOk) << port;
   }
 }
 

@@ -42,7 +42,7 @@ TEST(FixedDataScreen, AcceptsItselfWhenTheFileIsThere) {
   data.card.check_date = "9999/99/99";  // taken as it stands
   bench.put(data);
   CFixDataDlg screen(bench.world.services, kPath, true);
-  EXPECT_EQ(bench.world.windows.run_modal(screen), text::kOk);
+  EXPECT_EQ(bench.world.windows.run_modal(screen), ui::kOk);
   EXPECT_EQ(screen.values(), data);
   EXPECT_EQ(screen.file_read(), FileRead::kRead);
 }
@@ -50,7 +50,7 @@ TEST(FixedDataScreen, AcceptsItselfWhenTheFileIsThere) {
 TEST(FixedDataScreen, AcceptsItselfWhenItWasToldOfAFileThatIsMissing) {
   Bench bench;
   CFixDataDlg screen(bench.world.services, kPath, true);
-  EXPECT_EQ(bench.world.windows.run_modal(screen), text::kOk);
+  EXPECT_EQ(bench.world.windows.run_modal(screen), ui::kOk);
   EXPECT_EQ(screen.values(), ShipFixedData{});
 }
 
@@ -359,7 +359,7 @@ TEST(FixedDataScreen, TidiesAndChecksAFieldWhenItIsLeft) {
       press(screen, "help");  // neither Help nor Cancel checks
       EXPECT_TRUE(screen.move_focus(field));
       press(screen, "cancel");
-      EXPECT_EQ(screen.result(), text::kCancel);
+      EXPECT_EQ(screen.result(), ui::kCancel);
       EXPECT_EQ(screen.values(), valid_ship());
     }
   }
@@ -666,7 +666,7 @@ TEST(FixedDataScreen, AsksAFirstTimeOfficerForTheCallSignThenTheCard) {
   });
   press(screen, "card_button");
   screen.key(ui::Key::kEnter);  // the focus went on, so Enter is OK and not the card again
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
   EXPECT_EQ(screen.values().call_sign, "JCCX");
   EXPECT_EQ(screen.values().card.check_date, "2014/01/05");
 }
@@ -692,7 +692,7 @@ TEST(FixedDataScreen, GivesBackTheFileAfterCancel) {
   ASSERT_TRUE(enter(screen, screen.call_sign, "OTHER"));
   screen.choose(screen.vosclim, 0);
   screen.close_box();
-  EXPECT_EQ(screen.result(), text::kCancel);
+  EXPECT_EQ(screen.result(), ui::kCancel);
   EXPECT_EQ(screen.values(), valid_ship());
 }
 

@@ -27,7 +27,7 @@ TEST(ItemsScreen, AcceptsItselfWhenTheFileIsThere) {
   Bench bench;
   bench.files.add_file(kPath, "010000000001");
   CKeyObserveDlg screen(bench.world.services, kPath, true);
-  EXPECT_EQ(bench.world.windows.run_modal(screen), text::kOk);
+  EXPECT_EQ(bench.world.windows.run_modal(screen), ui::kOk);
   EXPECT_FALSE(screen.values().observed(ObservationItem::VV));
   EXPECT_FALSE(screen.values().observed(ObservationItem::ciSibiDizi));
   EXPECT_TRUE(screen.values().observed(ObservationItem::h));
@@ -37,7 +37,7 @@ TEST(ItemsScreen, AcceptsItselfWhenTheFileIsThere) {
 TEST(ItemsScreen, AcceptsItselfWhenItWasToldOfAFileThatIsMissing) {
   Bench bench;
   CKeyObserveDlg screen(bench.world.services, kPath, true);
-  EXPECT_EQ(bench.world.windows.run_modal(screen), text::kOk);
+  EXPECT_EQ(bench.world.windows.run_modal(screen), ui::kOk);
   EXPECT_EQ(screen.values(), KeyObservationItems{});
   EXPECT_FALSE(bench.files.content(kPath));
 }
@@ -79,7 +79,7 @@ TEST(ItemsScreen, WritesTheTwelveDigitsOnOk) {
     ASSERT_NE(screen.find(names[i]), nullptr) << names[i];
     screen.choose(*screen.find(names[i]), 1);
     screen.press(screen.ok);
-    EXPECT_EQ(screen.result(), text::kOk);
+    EXPECT_EQ(screen.result(), ui::kOk);
     std::string digits(12, '0');
     digits[i] = '1';
     EXPECT_EQ(bench.files.content(kPath), digits) << names[i];
@@ -94,7 +94,7 @@ TEST(ItemsScreen, WritesNothingOnCancel) {
   screen.open();
   screen.choose(screen.items[0], 1);
   screen.key(ui::Key::kEscape);
-  EXPECT_EQ(screen.result(), text::kCancel);
+  EXPECT_EQ(screen.result(), ui::kCancel);
   EXPECT_EQ(bench.files.content(kPath), "000000000001");
   EXPECT_TRUE(screen.values().observed(ObservationItem::h));
   EXPECT_FALSE(screen.values().observed(ObservationItem::ciSibiDizi));
@@ -110,7 +110,7 @@ TEST(ItemsScreen, SaysSoWhenTheFileCannotBeWrittenAndKeepsTheChoiceForThisRun) {
     bench.files.fail_next(fakes::FakeFiles::Operation::kStage, platform::FileError::kNoSpace);
     bench.world.windows.expect(id::kFileNotSaved);
     screen.press(screen.ok);
-    EXPECT_EQ(screen.result(), text::kOk);
+    EXPECT_EQ(screen.result(), ui::kOk);
     EXPECT_EQ(bench.files.content(kPath), "000000000000");
     EXPECT_FALSE(screen.values().observed(ObservationItem::h));
   }

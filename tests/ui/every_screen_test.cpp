@@ -8,6 +8,7 @@
 
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
+#include "text/ids.h"
 #include "ui/dump.h"
 #include "ui/layout.h"
 
@@ -138,6 +139,38 @@ TEST_P(EveryScreen, GivesNoAccessKeyTwice) {
       const auto caption = text::resolve(item.text, language);
       take("menu " + std::string(caption), caption);
     }
+  }
+}
+
+// A person finds OK, Cancel and Help at the same place, with the same words, in all of them.
+TEST_P(EveryScreen, ClosesWithTheButtonsThatAllScreensShare) {
+  struct Row {
+    std::string_view name;
+    ui::Role role;
+    text::Ref caption;
+  };
+  static const Row kRows[] = {{"ok", ui::Role::kAccept, {text::id::kOkLabel}},
+                              {"cancel", ui::Role::kDismiss, {text::id::kCancelLabel}},
+                              {"help", ui::Role::kHelp, {text::id::kHelpLabel}}};
+  in(text::Language::kEnglish);
+  const auto role_before = [](const ui::Control* a, const ui::Control* b) {
+    return (a->role == ui::Role::kNone && b->role != ui::Role::kNone) ||
+           (a->role != ui::Role::kNone && b->role > a->role);
+  };
+  const auto controls = screen_->controls();
+  for (std::size_t i = 1; i < controls.size(); ++i) {
+    if (controls[i - 1]->role != ui::Role::kNone || controls[i]->role != ui::Role::kNone) {
+      EXPECT_TRUE(role_before(controls[i - 1], controls[i])) << controls[i]->name;
+    }
+  }
+  for (const ui::Control* const control : controls) {
+    const auto* const row = std::find_if(std::begin(kRows), std::end(kRows), [&](const Row& r) {
+      return r.role == control->role || r.name == control->name;
+    });
+    if (row == std::end(kRows)) continue;
+    EXPECT_EQ(control->name, row->name);
+    EXPECT_EQ(control->role, row->role) << control->name;
+    EXPECT_EQ(control->caption.id, row->caption.id) << control->name;
   }
 }
 

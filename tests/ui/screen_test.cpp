@@ -42,8 +42,8 @@ class CSampleDlg : public ui::Screen {
   ui::Label link{*this, "link"};
   ui::Label plain{*this, "plain"};
   ui::Button act{*this, "act", {}};
-  ui::Button ok{*this, "ok", {}, ui::Role::kOk};
-  ui::Button cancel{*this, "cancel", {}, ui::Role::kCancel};
+  ui::Button ok{*this, "ok", {}, ui::Role::kAccept};
+  ui::Button cancel{*this, "cancel", {}, ui::Role::kDismiss};
   ui::Button help{*this, "help", {}, ui::Role::kHelp};
 
   std::string log;
@@ -125,7 +125,7 @@ TEST_F(AScreen, SkipsTheCheckForCancelAndHelp) {
   EXPECT_TRUE(screen.move_focus(screen.first));
   screen.press(screen.cancel);
   EXPECT_EQ(take_log(), "");
-  EXPECT_EQ(screen.result(), text::kCancel);
+  EXPECT_EQ(screen.result(), ui::kCancel);
 }
 
 TEST_F(AScreen, ClosesWithCancelOnEscapeAndOnItsCloseBoxWithoutACheck) {
@@ -133,7 +133,7 @@ TEST_F(AScreen, ClosesWithCancelOnEscapeAndOnItsCloseBoxWithoutACheck) {
   take_log();
   screen.key(Key::kEscape);
   EXPECT_EQ(take_log(), "");
-  EXPECT_EQ(screen.result(), text::kCancel);
+  EXPECT_EQ(screen.result(), ui::kCancel);
 
   CSampleDlg other(world.services);
   other.open();
@@ -141,12 +141,12 @@ TEST_F(AScreen, ClosesWithCancelOnEscapeAndOnItsCloseBoxWithoutACheck) {
   other.log.clear();
   other.close_box();
   EXPECT_EQ(other.log, "");
-  EXPECT_EQ(other.result(), text::kCancel);
+  EXPECT_EQ(other.result(), ui::kCancel);
 }
 
 TEST_F(AScreen, TakesEnterForOkFromAField) {
   screen.key(Key::kEnter);
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
 }
 
 TEST_F(AScreen, TakesEnterForTheButtonThatHasTheFocus) {
@@ -157,7 +157,7 @@ TEST_F(AScreen, TakesEnterForTheButtonThatHasTheFocus) {
   EXPECT_FALSE(screen.result());
   ASSERT_TRUE(screen.move_focus(screen.cancel));
   screen.key(Key::kEnter);
-  EXPECT_EQ(screen.result(), text::kCancel);
+  EXPECT_EQ(screen.result(), ui::kCancel);
 }
 
 TEST_F(AScreen, DoesNothingOnEnterWhenOkIsDisabled) {
@@ -241,13 +241,13 @@ TEST_F(AScreen, RefusesWhatIsTooLongForTwoFieldsOnLeaving) {
   screen.type(screen.first, "1009.3");
   EXPECT_EQ(screen.first.content, "1009");
   screen.press(screen.ok);
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
 }
 
 TEST_F(AScreen, RefusesNoLongTextThatNobodyTyped) {
   screen.first.set("123456");
   screen.press(screen.ok);
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
 }
 
 // ---- OK makes up for what was skipped
@@ -280,7 +280,7 @@ TEST_F(AScreen, ForgetsWhatWasSkippedOnceTheFieldWasLeftAsUsual) {
   take_log();
   screen.press(screen.ok);
   EXPECT_EQ(take_log(), "");
-  EXPECT_EQ(screen.result(), text::kOk);
+  EXPECT_EQ(screen.result(), ui::kOk);
 }
 
 TEST_F(AScreen, MakesUpForNoCheckOfWhatWasSwitchedOffHiddenOrLockedMeanwhile) {
@@ -293,7 +293,7 @@ TEST_F(AScreen, MakesUpForNoCheckOfWhatWasSwitchedOffHiddenOrLockedMeanwhile) {
     other.log.clear();
     other.press(other.ok);
     EXPECT_EQ(other.log, "") << way;
-    EXPECT_EQ(other.result(), text::kOk) << way;
+    EXPECT_EQ(other.result(), ui::kOk) << way;
   }
 }
 
@@ -458,7 +458,7 @@ TEST_F(AScreen, TakesNoEventOnceItIsClosed) {
   screen.type(screen.first, "x");
   screen.key(Key::kEnter);
   EXPECT_EQ(screen.first.content, "");
-  EXPECT_EQ(screen.result(), text::kCancel);
+  EXPECT_EQ(screen.result(), ui::kCancel);
 }
 
 TEST_F(AScreen, LetsACheckMoveTheFocusElsewhere) {
@@ -481,11 +481,11 @@ TEST_F(AScreen, LetsACheckSwitchOffTheFieldThatWasToHaveTheFocus) {
 
 TEST_F(AScreen, LetsACheckCloseIt) {
   screen.first.on_leave = [this] {
-    screen.close(text::kYes);
+    screen.close(ui::kYes);
     return true;
   };
   screen.press(screen.act);
-  EXPECT_EQ(screen.result(), text::kYes);
+  EXPECT_EQ(screen.result(), ui::kYes);
   EXPECT_EQ(take_log(), "");
 }
 

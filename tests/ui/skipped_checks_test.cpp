@@ -183,7 +183,7 @@ class SkippedChecks : public testing::TestWithParam<fakes::ScreenCase> {
     screen->open();
     carry_out(*screen, play.opened);
     ui::Control& control = *screen->find(play.control);
-    ui::Control& ok = *with_role(*screen, ui::Role::kOk);
+    ui::Control& ok = *with_role(*screen, ui::Role::kAccept);
     EXPECT_TRUE(screen->move_focus(way == Way::kWithoutFocus ? ok : control));
     if (play.typed) {
       screen->type(control, *play.typed);
@@ -205,8 +205,7 @@ class SkippedChecks : public testing::TestWithParam<fakes::ScreenCase> {
     }
     Outcome outcome;
     outcome.result = screen->result();
-    for (const platform::MessageBox& box : world.windows.boxes)
-      outcome.messages.push_back(box.text);
+    for (const ui::MessageBox& box : world.windows.boxes) outcome.messages.push_back(box.text);
     outcome.opened = world.windows.notices;
     outcome.focus = screen->focused()->name;
     outcome.dump = fakes::dump(*screen);
@@ -322,7 +321,7 @@ std::vector<fakes::ScreenCase> typed_into() {
     const bool has_fields = std::any_of(controls.begin(), controls.end(), [](const ui::Control* c) {
       return c->kind == ui::Kind::kEdit || c->kind == ui::Kind::kCombo;
     });
-    if (has_fields && with_role(*screen, ui::Role::kOk) != nullptr) found.push_back(row);
+    if (has_fields && with_role(*screen, ui::Role::kAccept) != nullptr) found.push_back(row);
   }
   return found;
 }

@@ -244,9 +244,9 @@ TEST(Draft, KeepsNothingOfAGroupThatIsBeingTried) {
   EXPECT_TRUE(form.enter(Field::kVV, "97"));
   const std::string before = encoded(form);
   std::string during;
-  struct Looking : platform::Windows {
+  struct Looking : ui::Windows {
     std::function<void()> look;
-    int show_message(const platform::MessageBox& box) override {
+    int show_message(const ui::MessageBox& box) override {
       look();
       return box.close_result;
     }
@@ -258,7 +258,7 @@ TEST(Draft, KeepsNothingOfAGroupThatIsBeingTried) {
       return std::nullopt;
     }
   } windows;
-  text::Messages messages(form.world.texts, windows);
+  ui::Messages messages(form.world.texts, windows);
   elements::ObservationForm watched(form.ship, form.items, form.world.texts, messages,
                                     form.world.clock);
   watched.load(form.form->state());

@@ -50,7 +50,7 @@ TEST(MinusZero, OfBothBulbsIsZero) {
     type(screen, screen.dry, row);
     type(screen, screen.wet, row);
     screen.press(screen.ok);
-    ASSERT_EQ(screen.result(), text::kOk);
+    ASSERT_EQ(screen.result(), ui::kOk);
     EXPECT_EQ(screen.values().dry, row.text);
     EXPECT_EQ(screen.values().wet, row.text);
     roads.psychrometer.form->put_bulbs(screen.values().dry, screen.values().wet,
@@ -69,7 +69,7 @@ TEST(MinusZero, OfAirAndDewPointIsZero) {
     type(screen, screen.air, row);
     type(screen, screen.dew, row);
     screen.press(screen.ok);
-    ASSERT_EQ(screen.result(), text::kOk);
+    ASSERT_EQ(screen.result(), ui::kOk);
     EXPECT_EQ(screen.values().air, row.text);
     EXPECT_EQ(screen.values().dew, row.text);
     roads.direct.form->put(Field::kAirTemperature, screen.values().air);

@@ -192,7 +192,7 @@ TEST(PositionWarnings, AreShownInAReadOnlyBoxAndClosedByOk) {
     EXPECT_EQ(screen.find("warnings")->kind, ui::Kind::kMemo);
     shown = screen.find("warnings")->content;
     screen.press(*screen.find("ok"));
-    EXPECT_EQ(screen.result(), text::kOk);
+    EXPECT_EQ(screen.result(), ui::kOk);
   });
   CHour3ErrorDlg::show(world.services, "one\r\ntwo\r\n");
   EXPECT_EQ(shown, "one\r\ntwo\r\n");

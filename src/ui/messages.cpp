@@ -1,11 +1,13 @@
-#include "text/messages.h"
+#include "ui/messages.h"
 
 #include <utility>
 
 #include "text/ids.h"
 #include "text/reasons.h"
 
-namespace text {
+namespace id = text::id;
+
+namespace ui {
 namespace {
 
 constexpr std::string_view kTitle = "KAVREL for WIN";
@@ -36,7 +38,7 @@ CMessageBox1::CMessageBox1(std::string text, std::string yes, std::string no, st
            {{or_default(std::move(yes), "&YES"), "yes", kYes},
             {or_default(std::move(no), "&NO"), "no", kNo}},
            kNo,
-           0} {}
+           {}} {}
 
 CMessageBox2::CMessageBox2(std::string text, std::string yes, std::string no, std::string cancel,
                            std::string title)
@@ -46,7 +48,7 @@ CMessageBox2::CMessageBox2(std::string text, std::string yes, std::string no, st
             {std::move(no), "no", kNo},
             {std::move(cancel), "cancel", kCancel}},
            kCancel,
-           0} {}
+           {}} {}
 
 CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, std::string title)
     : box_{or_default(std::move(title), kTitle3),
@@ -54,35 +56,35 @@ CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, st
            {{or_default(std::move(no), "&NO"), "no", kNo},
             {or_default(std::move(yes), "&YES"), "yes", kYes}},
            kNo,
-           0} {}
+           {}} {}
 
-void Messages::error(Id id, std::string_view literal) {
+void Messages::error(text::Id id, std::string_view literal) {
   if (quiet) return;
   std::string shown(id ? texts_.get(id) : literal);
   if (shown.empty() && !id) shown = texts_.get(id::kCheckError);
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
-void Messages::error_filled(Id id, std::initializer_list<std::string_view> arguments,
+void Messages::error_filled(text::Id id, std::initializer_list<std::string_view> arguments,
                             std::string_view below) {
   if (quiet) return;
-  std::string shown = fill(texts_.get(id), arguments);
+  std::string shown = text::fill(texts_.get(id), arguments);
   if (!below.empty()) shown.append("\n").append(below);
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
-void Messages::error_filled_once(Id id, std::initializer_list<std::string_view> arguments) {
+void Messages::error_filled_once(text::Id id, std::initializer_list<std::string_view> arguments) {
   if (!quiet && told_once_.insert(id).second) error_filled(id, arguments);
 }
 
-void Messages::file_error(Id id, std::string_view path, platform::FileError why) {
-  error_filled(id, {path, texts_.get(reason_of(why))});
+void Messages::file_error(text::Id id, std::string_view path, platform::FileError why) {
+  error_filled(id, {path, texts_.get(text::reason_of(why))});
 }
 
 int Messages::question(std::string_view text, std::string_view title, QuestionMode mode,
-                       Id text_id) {
-  const bool english = texts_.language == Language::kEnglish;
-  const auto label = [&](Id id) { return std::string(texts_.get(id)); };
+                       text::Id text_id) {
+  const bool english = texts_.language == text::Language::kEnglish;
+  const auto label = [&](text::Id id) { return std::string(texts_.get(id)); };
   const Raised open(question_open);
   switch (mode) {
     case QuestionMode::kOkCancel: {
@@ -122,4 +124,4 @@ int Messages::show(const CMessageBox3& box) {
   return windows_.show_message(box.box());
 }
 
-}  // namespace text
+}  // namespace ui

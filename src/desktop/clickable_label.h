@@ -1,0 +1,26 @@
+#pragma once
+// A label that can be clicked; used for captions, group titles and pictures that open something.
+
+#include <QLabel>
+
+namespace desktop {
+
+class ClickableLabel : public QLabel {
+  Q_OBJECT
+ public:
+  explicit ClickableLabel(QWidget* parent = nullptr) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+  }
+  void set_clickable(bool on);
+
+ Q_SIGNALS:
+  void clicked(QPointF position);
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  bool clickable_ = false;
+};
+
+}  // namespace desktop

@@ -1,0 +1,130 @@
+#include "ui/drawing.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "text/numbers.h"
+#include "ui/dump.h"
+
+namespace ui {
+namespace {
+
+constexpr std::size_t kShapesShown = 60;
+constexpr std::size_t kPointsShown = 8;
+
+// At most four decimals, none that says nothing.
+std::string number(double value) {
+  std::string written = text::format_fixed(value, 4);
+  if (written.find('.') == std::string::npos) return written;
+  written.erase(written.find_last_not_of('0') + 1);
+  if (written.ends_with('.')) written.pop_back();
+  return written == "-0" ? "0" : written;
+}
+
+std::string written(Point point) {
+  return "(" + number(point.x) + " " + number(point.y) + ")";
+}
+
+std::string written(const std::vector<Point>& points) {
+  std::string out;
+  const bool cut = points.size() > kPointsShown;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    if (cut && i == kPointsShown - 1) {
+      out += " …";
+      i = points.size() - 1;
+    }
+    out += " " + written(points[i]);
+  }
+  return cut ? out + " (" + std::to_string(points.size()) + " points)" : out;
+}
+
+std::string written(const Axis& axis) {
+  return axis.name + (axis.name.empty() ? "" : " ") + number(axis.first) + " to " +
+         number(axis.last);
+}
+
+std::string_view name_of(Marker::Sign sign) {
+  static constexpr std::array<std::string_view, 3> kNames = {"dot", "ring", "cross"};
+  return kNames[static_cast<std::size_t>(sign)];
+}
+
+std::string_view name_of(ShortText::Side side) {
+  static constexpr std::array<std::string_view, 5> kNames = {"", " left", " right", " above",
+                                                             " below"};
+  return kNames[static_cast<std::size_t>(side)];
+}
+
+struct Describe {
+  std::string operator()(const Area& area) const {
+    return "area " + std::string(ui::name_of(area.ink)) + written(area.outline);
+  }
+  std::string operator()(const Polyline& line) const {
+    return std::string(line.thick ? "thick " : "") + (line.dashed ? "dashed " : "") + "line " +
+           std::string(ui::name_of(line.ink)) + written(line.points);
+  }
+  std::string operator()(const Marker& marker) const {
+    return std::string(name_of(marker.sign)) + " " + std::string(ui::name_of(marker.ink)) + " " +
+           written(marker.at);
+  }
+  std::string operator()(const ShortText& text) const {
+    return "text " + std::string(ui::name_of(text.ink)) + " " + quoted(text.text) +
+           std::string(name_of(text.side)) + " " + written(text.at);
+  }
+};
+
+bool is_within(const Axis& axis, double value) {
+  return value >= std::min(axis.first, axis.last) && value <= std::max(axis.first, axis.last);
+}
+
+// How far along the axis a value lies, 0 to 1 within it.
+double share(const Axis& axis, double value) {
+  return (value - axis.first) / (axis.last - axis.first);
+}
+
+}  // namespace
+
+std::string_view name_of(Ink ink) {
+  static constexpr std::array<std::string_view, kInks> kNames = {"text",  "faint",   "mark", "land",
+                                                                 "water", "caution", "alarm"};
+  return kNames[static_cast<std::size_t>(ink)];
+}
+
+bool is_inside(const Drawing& drawing, Point point) {
+  return is_within(drawing.x, point.x) && is_within(drawing.y, point.y);
+}
+
+std::vector<std::string> describe(const Drawing& drawing) {
+  std::vector<std::string> lines{written(drawing.x) + ", " + written(drawing.y)};
+  const std::size_t shown = std::min(drawing.shapes.size(), kShapesShown);
+  for (std::size_t i = 0; i < shown; ++i)
+    lines.push_back(std::visit(Describe{}, drawing.shapes[i]));
+  if (shown < drawing.shapes.size())
+    lines.push_back("… (" + std::to_string(drawing.shapes.size()) + " shapes)");
+  return lines;
+}
+
+DrawingPlace::DrawingPlace(const Drawing& drawing, double width, double height)
+    : x_(drawing.x), y_(drawing.y), width_(std::max(width, 0.0)), height_(std::max(height, 0.0)) {
+  if (!drawing.same_scale) return;
+  const double across = std::abs(x_.last - x_.first);
+  const double up = std::abs(y_.last - y_.first);
+  const double scale = std::min(width_ / across, height_ / up);
+  corner_ = {(width_ - across * scale) / 2, (height_ - up * scale) / 2};
+  width_ = across * scale;
+  height_ = up * scale;
+}
+
+Point DrawingPlace::pixel_of(Point point) const {
+  return {corner_.x + share(x_, point.x) * width_, corner_.y + (1 - share(y_, point.y)) * height_};
+}
+
+std::optional<Point> DrawingPlace::point_at(Point pixel) const {
+  const double right = (pixel.x - corner_.x) / width_;
+  const double up = 1 - (pixel.y - corner_.y) / height_;
+  // A room of no size gives no numbers, and so no point.
+  if (!(right >= 0 && right <= 1 && up >= 0 && up <= 1)) return std::nullopt;
+  return Point{x_.first + right * (x_.last - x_.first), y_.first + up * (y_.last - y_.first)};
+}
+
+}  // namespace ui

@@ -1,0 +1,123 @@
+#pragma once
+// A drawing as a value: lines, areas, markers and short texts in a range of coordinates. Maps,
+// curves and pictures of waves are drawings; every front end paints them in its own colours and
+// size, a printer prints them, and a script reads what is on them.
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace ui {
+
+struct Point {
+  double x = 0;
+  double y = 0;
+  bool operator==(const Point&) const = default;
+};
+
+/// What a colour stands for. A front end takes it from its palette, light or dark.
+enum class Ink {
+  kText,
+  kFaint,    ///< grids and other things that only help
+  kMark,     ///< what the drawing is about: the ship, the curve
+  kLand,     ///< for areas
+  kWater,    ///< for areas
+  kCaution,  ///< what is to be looked at
+  kAlarm,    ///< what is wrong
+};
+inline constexpr int kInks = 7;
+
+/// "text", "faint" … as `show` prints it.
+[[nodiscard]] std::string_view name_of(Ink ink);
+
+struct Polyline {
+  std::vector<Point> points;
+  Ink ink = Ink::kText;
+  bool thick = false;
+  bool dashed = false;
+  bool operator==(const Polyline&) const = default;
+};
+
+/// Filled; its last point is joined with its first one.
+struct Area {
+  std::vector<Point> outline;
+  Ink ink = Ink::kLand;
+  bool operator==(const Area&) const = default;
+};
+
+/// A sign of the size of a letter, whatever the scale.
+struct Marker {
+  enum class Sign { kDot, kRing, kCross };
+  Point at;
+  Sign sign = Sign::kDot;
+  Ink ink = Ink::kMark;
+  bool operator==(const Marker&) const = default;
+};
+
+/// A text of the size of other texts, in the language of the moment.
+struct ShortText {
+  enum class Side { kCentre, kLeft, kRight, kAbove, kBelow };
+  Point at;
+  std::string text;
+  Side side = Side::kCentre;  ///< where it stands, seen from the point
+  Ink ink = Ink::kText;
+  bool operator==(const ShortText&) const = default;
+};
+
+using Shape = std::variant<Area, Polyline, Marker, ShortText>;
+
+/// One direction of a drawing, from left to right or from the bottom up.
+struct Axis {
+  std::string name = {};  ///< for scripts: "longitude"
+  double first = 0;       ///< at the left edge or the bottom
+  double last = 1;        ///< at the right edge or the top; other than `first`, also less
+  bool operator==(const Axis&) const = default;
+};
+
+struct Drawing {
+  Axis x;
+  Axis y;
+  /// One unit is as long across as up; what room that leaves stays empty on both sides.
+  bool same_scale = false;
+  int characters = 40;  ///< least width, in figures of the usual font
+  int lines = 12;       ///< least height
+  /// Painted in this order; what lies outside the range is cut off.
+  std::vector<Shape> shapes = {};
+  bool operator==(const Drawing&) const = default;
+};
+
+/// True when the point lies within both axes, edges included.
+[[nodiscard]] bool is_inside(const Drawing& drawing, Point point);
+
+/// The axes on the first line, then a line for each shape; many shapes, and a shape of many points,
+/// are cut short with their number.
+[[nodiscard]] std::vector<std::string> describe(const Drawing& drawing);
+
+/// Where a drawing lies in a room of so many pixels, and so where its points are and what a click
+/// means.
+class DrawingPlace {
+ public:
+  /// `drawing` is looked at here only. Width and height are those of the room.
+  DrawingPlace(const Drawing& drawing, double width, double height);
+
+  /// The corner at the top left, in pixels from that of the room.
+  [[nodiscard]] Point corner() const { return corner_; }
+  [[nodiscard]] double width() const { return width_; }
+  [[nodiscard]] double height() const { return height_; }
+
+  /// Pixels from the top left corner of the room.
+  [[nodiscard]] Point pixel_of(Point point) const;
+  /// The coordinates at a pixel of the room; nothing beside the drawing.
+  [[nodiscard]] std::optional<Point> point_at(Point pixel) const;
+
+ private:
+  Axis x_;
+  Axis y_;
+  Point corner_;
+  double width_;
+  double height_;
+};
+
+}  // namespace ui

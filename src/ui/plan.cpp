@@ -1,0 +1,240 @@
+#include "ui/plan.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "text/strings.h"
+
+namespace ui {
+namespace {
+
+using Type = PlanNode::Type;
+using LayoutType = LayoutNode::Type;
+
+constexpr int kWideField = 24;    // characters; a longer field grows with the window
+constexpr int kDefaultField = 8;  // where no largest length is given
+constexpr int kNarrowestValue = 4;
+constexpr int kWidestValue = 40;
+constexpr int kFewestLines = 4;  // an empty list still looks like a list
+constexpr int kMostLines = 14;
+constexpr std::size_t kOneLine = 48;  // characters of a choice
+
+int characters_in(const Control& control) {
+  return static_cast<int>(text::length(control.content));
+}
+
+// What a layout says about a screen's controls; remembers which are placed.
+class Planner {
+ public:
+  explicit Planner(const Screen& screen) : screen_(screen) {}
+
+  PlanNode body(const LayoutNode& root) {
+    PlanNode body;
+    for (const LayoutNode& child : root.children) add(child, body);
+    for (const Control* const control : screen_.controls()) {
+      if (!placed_.contains(control->name)) body.children.push_back(bare(*control));
+    }
+    return body;
+  }
+
+ private:
+  static PlanNode bare(const Control& control) {
+    PlanNode node;
+    node.type = Type::kControl;
+    node.name = control.name;
+    return node;
+  }
+
+  PlanNode placed(const Control& control, CaptionPlace captions, bool above) {
+    placed_.insert(control.name);
+    PlanNode node = bare(control);
+    if (!shows_own_caption(control.kind) && !screen_.english_caption(control).empty())
+      node.caption = captions;
+    node.has_unit = control.unit.id.number != 0;
+    node.room_behind_unit = node.has_unit && (above || node.caption == CaptionPlace::kColumn);
+    return node;
+  }
+
+  void add_control(const LayoutNode& from, CaptionPlace beside, PlanNode& into) {
+    const Control* const control = screen_.find(from.name);
+    if (control == nullptr) return;
+    const bool above = from.caption == LayoutNode::Caption::kAbove;
+    const CaptionPlace captions = above ? CaptionPlace::kAbove
+                                  : from.caption == LayoutNode::Caption::kNone ? CaptionPlace::kNone
+                                                                               : beside;
+    into.children.push_back(placed(*control, captions, above));
+  }
+
+  void add_line(const LayoutNode& from, PlanNode& into) {
+    PlanNode line;
+    line.type = from.type == LayoutType::kButtons ? Type::kButtons : Type::kLine;
+    PlanNode space;
+    space.type = Type::kSpace;
+    if (line.type == Type::kButtons) line.children.push_back(space);
+    bool grows = false;
+    for (const LayoutNode& child : from.children) {
+      add_control(child, CaptionPlace::kBeside, line);
+      const Control* const control = screen_.find(child.name);
+      grows = grows || (control != nullptr && extent_of(*control).grows);
+    }
+    if (line.type == Type::kLine && !grows) line.children.push_back(space);
+    into.children.push_back(std::move(line));
+  }
+
+  // The cells are filled in order: a line with more controls than columns goes on in the next.
+  void add_grid(const LayoutNode& from, PlanNode& into) {
+    PlanNode grid;
+    grid.type = Type::kGrid;
+    grid.columns = from.grid_columns;
+    for (const LayoutNode& line : from.children) {
+      if (line.type != LayoutType::kRow) {
+        add(line, grid);
+        continue;
+      }
+      PlanNode cells;
+      cells.type = Type::kLine;
+      for (const LayoutNode& child : line.children) {
+        if (static_cast<int>(cells.children.size()) == grid.columns) {
+          grid.children.push_back(std::exchange(cells, {}));
+          cells.type = Type::kLine;
+        }
+        add_control(child, CaptionPlace::kColumn, cells);
+      }
+      grid.children.push_back(std::move(cells));
+    }
+    into.children.push_back(std::move(grid));
+  }
+
+  void add_box(const LayoutNode& from, Type type, PlanNode& into) {
+    PlanNode box;
+    box.type = type;
+    if (type == Type::kGroup && screen_.find(from.name) != nullptr) {
+      box.name = from.name;
+      placed_.insert(from.name);
+    }
+    for (const LayoutNode& child : from.children) add(child, box);
+    // Beside a higher column its rows stay together at the top.
+    if (type == Type::kRows && into.type == Type::kColumns) {
+      box.children.emplace_back();
+      box.children.back().type = Type::kSpace;
+    }
+    into.children.push_back(std::move(box));
+  }
+
+  void add(const LayoutNode& from, PlanNode& into) {
+    switch (from.type) {
+      case LayoutType::kRows:
+        return add_box(from, Type::kRows, into);
+      case LayoutType::kColumns:
+        return add_box(from, Type::kColumns, into);
+      case LayoutType::kGroup:
+        return add_box(from, Type::kGroup, into);
+      case LayoutType::kGrid:
+        return add_grid(from, into);
+      case LayoutType::kRow:
+      case LayoutType::kButtons:
+        return add_line(from, into);
+      case LayoutType::kSpace:
+        into.children.emplace_back();
+        into.children.back().type = Type::kSpace;
+        return;
+      case LayoutType::kControl:
+        return add_control(from, CaptionPlace::kBeside, into);
+    }
+  }
+
+  const Screen& screen_;
+  std::set<std::string_view> placed_;
+};
+
+// Its controls in order, those that close it on one line at the end.
+LayoutNode stacked(const Screen& screen) {
+  LayoutNode root;
+  LayoutNode buttons;
+  buttons.type = LayoutType::kButtons;
+  for (const Control* const control : screen.controls()) {
+    LayoutNode leaf;
+    leaf.type = LayoutType::kControl;
+    leaf.name = control->name;
+    if (control->role != Role::kNone) {
+      buttons.children.push_back(std::move(leaf));
+      continue;
+    }
+    LayoutNode row;
+    row.type = LayoutType::kRow;
+    row.children.push_back(std::move(leaf));
+    root.children.push_back(std::move(row));
+  }
+  if (!buttons.children.empty()) root.children.push_back(std::move(buttons));
+  return root;
+}
+
+Extent extent_of_edit(const Control& edit) {
+  const int length = edit.max_length;
+  if (length == 0)
+    return {std::clamp(characters_in(edit) + 1, kDefaultField, kWideField), 0, 1, true};
+  if (length > kWideField) return {kWideField, 0, 1, true};
+  return {length, length + 1, 1, false};
+}
+
+Extent extent_of_value(const Control& value) {
+  const int length = value.max_length;
+  const int shown = length > 0 ? length : characters_in(value);
+  return {std::clamp(shown, kNarrowestValue, kWidestValue), length > 0 ? length + 1 : 0, 1,
+          length == 0};
+}
+
+}  // namespace
+
+Plan plan_of(const Screen& screen) {
+  const LayoutResult layout = parse_layout(layout_source(screen.class_name()));
+  const bool usable = layout.error.empty() && !layout.root.children.empty();
+  return plan_of(screen, usable ? layout.root : stacked(screen));
+}
+
+Plan plan_of(const Screen& screen, const LayoutNode& root) {
+  return {!screen.menu().empty(), Planner(screen).body(root)};
+}
+
+bool shows_own_caption(Kind kind) {
+  return kind == Kind::kLabel || kind == Kind::kTick || kind == Kind::kButton ||
+         kind == Kind::kPicture;
+}
+
+Extent extent_of(const Control& control) {
+  switch (control.kind) {
+    case Kind::kEdit:
+      return extent_of_edit(control);
+    case Kind::kReadOnly:
+      return extent_of_value(control);
+    case Kind::kMemo:
+      return {60, 0, 8, true};
+    case Kind::kTree:
+      return {44, 0, 12, true};
+    case Kind::kCombo:
+    case Kind::kDropDown:
+      return {control.max_length, 0, 1, false};
+    case Kind::kList:
+      return {0, 0, std::clamp(static_cast<int>(control.items.size()), kFewestLines, kMostLines),
+              true};
+    case Kind::kLabel:
+    case Kind::kChoice:
+    case Kind::kTick:
+    case Kind::kButton:
+      break;
+    case Kind::kPicture:
+      if (control.drawing == nullptr) break;
+      return {control.drawing->characters, 0, control.drawing->lines, false};
+  }
+  return {};
+}
+
+ChoiceLook look_of(const Control& choice) {
+  if (!choice.item_codes.empty()) return ChoiceLook::kBehindCodes;
+  std::size_t characters = 0;
+  for (const std::string& line : choice.items) characters += text::length(line);
+  return characters <= kOneLine ? ChoiceLook::kSideBySide : ChoiceLook::kBelow;
+}
+
+}  // namespace ui
