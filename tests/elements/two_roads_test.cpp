@@ -22,12 +22,12 @@ using elements::Field;
 using form_test::Form;
 
 // An officer who answers every question with Yes and does one thing in the dialog that opens.
-class Officer : public platform::Windows {
+class Officer : public ui::Windows {
  public:
   std::function<void(ui::Screen&)> act;
   std::string class_name;  ///< of the dialog that opened
 
-  int show_message(const platform::MessageBox& box) override { return box.buttons.front().result; }
+  int show_message(const ui::MessageBox& box) override { return box.buttons.front().result; }
   int run_modal(ui::Screen& screen) override {
     class_name = screen.class_name();
     screen.open();
@@ -51,7 +51,7 @@ struct Roads : Form {
   ui::Services services{world.clock,   world.locale, world.drives, world.no_files,  world.code_page,
                         world.printer, officer,      world.texts,  dialog_messages, world.help};
   mainwindow::Folders folders;
-  mainwindow::MainWindowContext context{ship, items, folders, {}, {}, {}};
+  mainwindow::MainWindowContext context{ship, items, folders, {}, {}};
 
   Roads() { world.windows.answer_all("yes"); }
 
