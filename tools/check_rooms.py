@@ -14,10 +14,10 @@ import sys
 DATA = {
     "text": {"platform"},
     "platform": set(),
-    "ship/data": {"text", "platform"},
-    "codetables/tables": {"text", "ship/data", "elements/formulas"},
-    "elements/formulas": {"text", "ship/data", "codetables/tables", "observation"},
-    "observation": {"text", "platform", "ship/data"},
+    "codetables/tables": {"text"},
+    "ship/data": {"text", "platform", "codetables/tables"},
+    "elements/formulas": {"text", "codetables/tables", "ship/data"},
+    "observation": {"text", "platform", "codetables/tables", "ship/data"},
     "elements/form": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation"},
 }
 ALL_DATA = set(DATA)

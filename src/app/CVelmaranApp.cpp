@@ -2,6 +2,7 @@
 
 #include "app/CAssistantClass.h"
 #include "mainwindow/save_flow.h"
+#include "platform/paths.h"
 #include "ship/data/ship_files.h"
 #include "text/ids.h"
 #include "text/reasons.h"
@@ -61,8 +62,8 @@ bool CVelmaranApp::read_settings() {
 void CVelmaranApp::create_folders() {
   settings_.file_folder = places_.folder + "file";
   settings_.data_folder = places_.folder + "data";
-  settings_.folders.fixed_data = settings_.file_folder + "\\FIXDATA.DAT";
-  settings_.folders.key_items = settings_.file_folder + "\\MOKSDATA.DAT";
+  settings_.folders.fixed_data = platform::join(settings_.file_folder, "FIXDATA.DAT");
+  settings_.folders.key_items = platform::join(settings_.file_folder, "MOKSDATA.DAT");
   settings_.folders.drafts = settings_.file_folder;
   // One that cannot be created shows when something is saved into it. Creating leaves alone what is
   // there, so nothing is lost where one cannot tell.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "media/floppy_drive.h"
+#include "platform/paths.h"
 
 namespace app {
 
@@ -37,7 +38,7 @@ std::string system_root(const platform::Drives& drives) {
 
 SettingsPlaces settings_places(const std::string& root, const std::string& program_folder) {
   const std::string folder = root + "kavrel\\";
-  return {folder, folder + "kavrel.ini", program_folder + "\\kavrel.ini"};
+  return {folder, folder + "kavrel.ini", platform::join(program_folder, "kavrel.ini")};
 }
 
 FileError open_settings(CIniEx& ini, platform::Files& files, const SettingsPlaces& places,
@@ -79,8 +80,8 @@ void find_removable_drive(Settings& settings, const platform::Drives& drives) {
     settings.removable_letter = *letter;
   }
   root = settings.removable_letter;
-  if (root.size() == 1) root += ":\\";
-  if (!root.ends_with('\\')) root += '\\';
+  if (root.size() == 1) root += ':';
+  root = platform::with_backslash(root);
 }
 
 FolderCheck check_working_folder(const std::string& folder, const std::string& removable_root,

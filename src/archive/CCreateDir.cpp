@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "archive/paths.h"
+#include "platform/paths.h"
 #include "text/ids.h"
 #include "text/strings.h"
 
@@ -33,7 +33,7 @@ void CCreateDir::on_ok() {
     refuse(folder_name, name.empty() ? id::kNoValueInput : id::kBadFolderName);
     return;
   }
-  std::string path = archive::join(parent_, name);
+  std::string path = platform::join(parent_, name);
   platform::Files& files = services().files;
   const FileError error = files.is_folder(path) ? FileError::kNone : files.create_folder(path);
   if (error != FileError::kNone) {

@@ -5,7 +5,8 @@
 #include <vector>
 
 #include "archive/drive_rows.h"
-#include "archive/paths.h"
+#include "archive/names.h"
+#include "platform/paths.h"
 #include "text/ids.h"
 
 using ui::TreeRow;
@@ -61,7 +62,7 @@ bool CDirectoryDrawList::open(std::size_t row) {
     }
     for (platform::FolderEntry& entry : *entries.value) {
       if (!entry.is_folder) continue;
-      std::string below = archive::join(path, entry.name);
+      std::string below = platform::join(path, entry.name);
       children.push_back({std::move(entry.name), std::move(below), depth, true, false, false});
     }
     std::sort(children.begin(), children.end(), [](const TreeRow& a, const TreeRow& b) {
@@ -113,8 +114,8 @@ bool CDirectoryDrawList::reveal(std::string_view folder) {
 int CDirectoryDrawList::find_row(std::string_view folder) {
   const Silence silence(silent_);
   int row = 0;
-  for (std::string_view part = archive::first_part(folder); !part.empty();
-       part = archive::first_part(folder)) {
+  for (std::string_view part = platform::first_part(folder); !part.empty();
+       part = platform::first_part(folder)) {
     const bool is_drive = row == 0;
     int found = -1;
     if (open(static_cast<std::size_t>(row))) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "archive/drive_rows.h"
-#include "archive/paths.h"
+#include "archive/names.h"
 
 void CDrvListBox::fill() {
   const std::string before = root();

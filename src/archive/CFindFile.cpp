@@ -1,6 +1,6 @@
 #include "archive/CFindFile.h"
 
-#include "archive/paths.h"
+#include "platform/paths.h"
 
 platform::FileError CFindFile::find(const std::string& folder, std::string_view pattern,
                                     std::vector<std::string>& result) {
@@ -12,7 +12,7 @@ platform::FileError CFindFile::find(const std::string& folder, std::string_view 
   for (const platform::FolderEntry& entry : *entries.value) {
     if (entry.is_folder || entry.name == "." || entry.name == "..") continue;
     if (entry.name.find(pattern) == std::string::npos) continue;
-    result.push_back(archive::join(folder, entry.name));
+    result.push_back(platform::join(folder, entry.name));
   }
   return platform::FileError::kNone;
 }

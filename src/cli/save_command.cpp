@@ -8,6 +8,7 @@
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
 #include "observation/report_file.h"
+#include "platform/paths.h"
 #include "platform/posix/drive_map.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/system.h"
@@ -121,7 +122,7 @@ class Saver {
  private:
   [[nodiscard]] std::optional<std::string> folder(const std::string& given) const {
     auto path = drives_.to_program(given);
-    if (path && !path->ends_with('\\')) path->push_back('\\');
+    if (path) path = platform::with_backslash(*path);
     return path;
   }
 

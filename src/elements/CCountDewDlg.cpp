@@ -79,7 +79,7 @@ void CCountDewDlg::recompute() {
   const auto found = elements::dew_point_of_texts(dry.text(), wet.text(), values_.reading,
                                                   values_.card, chosen_state());
   if (!found) return;
-  dew_point.content = elements::computed_dew_point_figures(*found).text;
+  dew_point.content = codetables::computed_dew_point_figures(*found).text;
   if (const auto texts = elements::humidity_of_texts(dry.text(), dew_point.content))
     humidity.content = texts->display;
 }

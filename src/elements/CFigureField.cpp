@@ -1,6 +1,5 @@
 #include "elements/CFigureField.h"
 
-#include "elements/formulas/whole_number.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -22,7 +21,7 @@ void CFigureField::open(const std::string& value) {
 }
 
 std::optional<int> CFigureField::number() const {
-  return elements::whole_number(field_.content, lowest_, highest_);
+  return text::whole_number(field_.content, lowest_, highest_);
 }
 
 std::string CFigureField::figures() const {

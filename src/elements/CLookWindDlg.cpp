@@ -4,18 +4,25 @@
 #include <iterator>
 #include <utility>
 
-#include "elements/formulas/wind_fields.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
 namespace id = text::id;
 
+namespace {
+
+constexpr int kFullCircle = 360;
+
+}  // namespace
+
 const CLookWindDlg::DegreesField CLookWindDlg::kDegreesFields[] = {
     {&CLookWindDlg::heading, 1, id::kHeadingRange},
     {&CLookWindDlg::course, 0, id::kCourseRange},
     {&CLookWindDlg::direction, 0, id::kApparentDirectionRange},
 };
+// The fields hold these widths. An anemometer's tenths go to 999.9 here; the form's field, which is
+// not read from one, ends at 999.
 const CLookWindDlg::SpeedField CLookWindDlg::kSpeedFields[] = {
     {&CLookWindDlg::ship_speed, 99.9, 4},
     {&CLookWindDlg::speed, 999.9, 5},
@@ -64,7 +71,7 @@ elements::ApparentWindTexts CLookWindDlg::entered() const {
 bool CLookWindDlg::acceptable() const {
   const auto degrees_kept = [this](const DegreesField& row) {
     const std::string& typed = (this->*row.field).content;
-    return text::trim(typed).empty() || elements::is_degrees(typed, row.lowest);
+    return text::trim(typed).empty() || text::whole_number(typed, row.lowest, kFullCircle);
   };
   const auto speed_kept = [this](const SpeedField& row) {
     const std::string& typed = (this->*row.field).content;
@@ -82,7 +89,7 @@ void CLookWindDlg::recompute() {
 
 bool CLookWindDlg::check(const DegreesField& row) {
   const std::string& typed = (this->*row.field).content;
-  if (text::trim(typed).empty() || elements::is_degrees(typed, row.lowest)) {
+  if (text::trim(typed).empty() || text::whole_number(typed, row.lowest, kFullCircle)) {
     recompute();  // full-width figures are figures only now
     return true;
   }

@@ -2,40 +2,19 @@
 
 #include <utility>
 
-#include "elements/formulas/whole_number.h"
+#include "codetables/tables/quadrant.h"
 #include "text/ids.h"
+#include "text/numbers.h"
 
 namespace id = text::id;
 
 namespace {
 
-enum Side { kNorthOrEast = 0, kSouthOrWest = 1 };
+// Lines of both choices: 0 is north or east.
+constexpr int kSouthOrWest = 1;
 
-struct Quadrant {
-  const char* code;
-  Side latitude;
-  Side longitude;
-};
-
-constexpr Quadrant kTable3333[] = {
-    {"1", kNorthOrEast, kNorthOrEast},
-    {"3", kSouthOrWest, kNorthOrEast},
-    {"5", kSouthOrWest, kSouthOrWest},
-    {"7", kNorthOrEast, kSouthOrWest},
-};
-
-CPositionDlg::Sides sides_of(const std::string& code) {
-  for (const Quadrant& row : kTable3333) {
-    if (code == row.code) return {row.latitude, row.longitude};
-  }
-  return {-1, -1};
-}
-
-std::string quadrant_of(int latitude, int longitude) {
-  for (const Quadrant& row : kTable3333) {
-    if (row.latitude == latitude && row.longitude == longitude) return row.code;
-  }
-  return {};
+CPositionDlg::Sides sides_of(const std::string& quadrant) {
+  return {codetables::north_south_of(quadrant), codetables::east_west_of(quadrant)};
 }
 
 }  // namespace
@@ -62,7 +41,7 @@ CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string la
     degrees->unit = {id::kPositionDegrees};
   for (ui::Control* const minutes : {&latitude_minutes, &longitude_minutes}) {
     minutes->unit = {id::kPositionMinutes};
-    minutes->items = elements::two_figure_lines(0, 59);
+    minutes->items = text::numbered_lines(0, 59, 2);
   }
   latitude_side.on_change = [this] {
     latitude_offered_ = false;
@@ -130,6 +109,6 @@ void CPositionDlg::on_ok() {
     return;
   }
   values_ = {la_deg_.figures(), la_min_.figures(), lo_deg_.figures(), lo_min_.figures(),
-             quadrant_of(latitude_side.selected, longitude_side.selected)};
+             codetables::quadrant_of(latitude_side.selected, longitude_side.selected)};
   close(ui::kOk);
 }

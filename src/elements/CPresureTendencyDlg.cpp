@@ -6,7 +6,7 @@
 #include "text/strings.h"
 
 namespace id = text::id;
-using elements::TendencyKind;
+using codetables::TendencyKind;
 
 namespace {
 
@@ -42,10 +42,10 @@ CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, 
 }
 
 void CPresureTendencyDlg::on_open() {
-  amount.set(elements::tendency_shown(ppp_));
-  kind.selected = static_cast<int>(elements::tendency_kind(a_, amount.content));
+  amount.set(codetables::tendency_shown(ppp_));
+  kind.selected = static_cast<int>(codetables::tendency_kind(a_, amount.content));
   fill_characteristics();
-  characteristic.selected = elements::characteristic_line(chosen_kind(), a_);
+  characteristic.selected = codetables::characteristic_line(chosen_kind(), a_);
   show_code();
 }
 
@@ -55,7 +55,7 @@ TendencyKind CPresureTendencyDlg::chosen_kind() const {
 
 std::string CPresureTendencyDlg::chosen_code() const {
   if (kind.selected < 0) return a_;
-  return elements::characteristic(chosen_kind(), characteristic.selected, a_);
+  return codetables::characteristic(chosen_kind(), characteristic.selected, a_);
 }
 
 void CPresureTendencyDlg::fill_characteristics() {
@@ -64,7 +64,7 @@ void CPresureTendencyDlg::fill_characteristics() {
   characteristic.selected = -1;
   choice.literal_caption = kind.selected_text();
   if (kind.selected < 0) return;
-  for (const char one : elements::characteristics(chosen_kind()))
+  for (const char one : codetables::characteristics(chosen_kind()))
     characteristic.item_refs.push_back({line_of(one)});
   relabel();
 }
@@ -74,7 +74,7 @@ void CPresureTendencyDlg::fill_characteristics() {
 void CPresureTendencyDlg::kind_changed() {
   fill_characteristics();
   if (kind.selected >= 0) {
-    const int line = elements::characteristic_line(chosen_kind(), a_);
+    const int line = codetables::characteristic_line(chosen_kind(), a_);
     characteristic.selected = line < 0 ? 0 : line;
   }
   show_code();
@@ -86,31 +86,31 @@ void CPresureTendencyDlg::show_code() {
 
 bool CPresureTendencyDlg::leave_amount() {
   const std::string typed = text::without_spaces(amount.content);
-  if (!elements::is_tendency_amount(typed)) {
+  if (!codetables::is_tendency_amount(typed)) {
     services().messages.error(id::kTendencyAmountRange);
     return false;
   }
   // No characteristic yet: the rule for a steady pressure waits for OK.
   if (!check_amount("/", typed)) return false;
-  amount.set(elements::tendency_amount_text(typed));
+  amount.set(codetables::tendency_amount_text(typed));
   return true;
 }
 
 bool CPresureTendencyDlg::check_amount(const std::string& characteristic_code,
                                        const std::string& typed) {
-  switch (elements::check_tendency(characteristic_code, typed)) {
-    case elements::TendencyCheck::kAccepted:
+  switch (codetables::check_tendency(characteristic_code, typed)) {
+    case codetables::TendencyCheck::kAccepted:
       return true;
-    case elements::TendencyCheck::kSteadyWithAmount:
+    case codetables::TendencyCheck::kSteadyWithAmount:
       services().messages.error(id::kSteadyWithAmount);
       return false;
-    case elements::TendencyCheck::kTooLarge:
+    case codetables::TendencyCheck::kTooLarge:
       services().messages.error(id::kTendencyAmountRange);
       return false;
-    case elements::TendencyCheck::kAsks:
+    case codetables::TendencyCheck::kAsks:
       break;
   }
-  const std::string stored = elements::tendency_stored(typed);
+  const std::string stored = codetables::tendency_stored(typed);
   if (stored == confirmed_) return true;
   if (services().messages.question(id::kTendencyAmountQuestion, ui::QuestionMode::kYesNo) !=
       ui::kYes)
@@ -127,6 +127,6 @@ void CPresureTendencyDlg::on_ok() {
     return;
   }
   a_ = new_a;
-  ppp_ = elements::tendency_stored(typed);
+  ppp_ = codetables::tendency_stored(typed);
   close(ui::kOk);
 }

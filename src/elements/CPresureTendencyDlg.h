@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "elements/formulas/pressure_tendency.h"
+#include "codetables/tables/pressure_tendency.h"
 #include "ui/dialog.h"
 
 class CPresureTendencyDlg : public ui::OkCancelHelpDialog {
@@ -28,7 +28,7 @@ class CPresureTendencyDlg : public ui::OkCancelHelpDialog {
   void on_ok() override;
 
  private:
-  [[nodiscard]] elements::TendencyKind chosen_kind() const;
+  [[nodiscard]] codetables::TendencyKind chosen_kind() const;
   [[nodiscard]] std::string chosen_code() const;
   void fill_characteristics();
   void kind_changed();

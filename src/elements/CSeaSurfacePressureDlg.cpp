@@ -11,15 +11,9 @@ namespace id = text::id;
 
 namespace {
 
-constexpr int kLowestWhole = 870;
-constexpr int kHighestWhole = 1069;
-
-std::vector<std::string> numbers(int from, int to, int digits) {
-  std::vector<std::string> lines;
-  for (int number = from; number <= to; ++number)
-    lines.push_back(text::format_digits(number, digits));
-  return lines;
-}
+// The list of whole readings: every pressure that is possible at sea level.
+constexpr int kLowestWhole = codetables::kLowestPressure;
+constexpr int kHighestWhole = codetables::kBeyondPressures - 1;
 
 }  // namespace
 
@@ -49,10 +43,10 @@ CSeaSurfacePressureDlg::CSeaSurfacePressureDlg(ui::Services& services, Values va
 }
 
 void CSeaSurfacePressureDlg::fill_lists() {
-  reading_whole.items = numbers(kLowestWhole, kHighestWhole, 4);
-  reading_tenths.items = numbers(0, 9, 1);
-  hour.items = numbers(0, 23, 2);
-  minute.items = numbers(0, 59, 2);
+  reading_whole.items = text::numbered_lines(kLowestWhole, kHighestWhole, 4);
+  reading_tenths.items = text::numbered_lines(0, 9, 1);
+  hour.items = text::numbered_lines(0, 23, 2);
+  minute.items = text::numbered_lines(0, 59, 2);
   for (ui::Control* const in_hectopascal : std::initializer_list<ui::Control*>{
            &reading_tenths, &reading, &total_correction, &sea_level_pressure})
     in_hectopascal->unit = {id::kUnitHectopascal};
@@ -150,11 +144,12 @@ bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, text::Id mes
 bool CSeaSurfacePressureDlg::check_time(ui::Control& field, int largest) {
   // OK asks for a time that is missing, blanks included.
   if (text::trim(field.content).empty()) return true;
-  if (!text::is_all_digits(field.content) || text::leading_int(field.content) > largest) {
+  const auto number = text::whole_number(field.content, 0, largest);
+  if (!number) {
     services().messages.error(id::kInvalidValue);
     return false;
   }
-  field.set(text::format_digits(text::leading_int(field.content), 2));
+  field.set(text::format_digits(*number, 2));
   return true;
 }
 
@@ -162,8 +157,9 @@ bool CSeaSurfacePressureDlg::validate() {
   if (reading_whole.content.empty()) return refuse(reading_whole, id::kSeaLevelPressureMissing);
   if (reading_tenths.content.empty()) reading_tenths.set("0");
   recalculate();
-  const double shown = text::leading_number(sea_level_pressure.content);
-  if (!(shown >= 870.0 && shown < 1070.0)) return refuse(reading_whole, id::kBarometerReadingRange);
+  const codetables::Hectopascal shown{text::leading_number(sea_level_pressure.content)};
+  if (codetables::pressure_range(shown) == codetables::PressureRange::kRefused)
+    return refuse(reading_whole, id::kBarometerReadingRange);
   if (time_choice.selected == static_cast<int>(TimeChoice::kMoreThan10Minutes)) {
     if (text::trim(hour.content).empty()) return refuse(hour, id::kUtcHourMissing);
     if (text::trim(minute.content).empty()) return refuse(minute, id::kUtcMinuteMissing);

@@ -21,21 +21,21 @@ CSea_SurfaceTemperatureDlg::CSea_SurfaceTemperatureDlg(ui::Services& services, V
 }
 
 void CSea_SurfaceTemperatureDlg::on_open() {
-  temperature.content = elements::sea_temperature_text(values_.Ss, values_.TwTwTw);
+  temperature.content = codetables::sea_temperature_text(values_.Ss, values_.TwTwTw);
   opened_with_ = temperature.content;
   method.selected =
-      static_cast<int>(elements::sea_temperature_method(values_.Ss).value_or(of_ship_));
+      static_cast<int>(codetables::sea_temperature_method(values_.Ss).value_or(of_ship_));
 }
 
 bool CSea_SurfaceTemperatureDlg::check() {
   if (text::trim(temperature.content).empty() || temperature.content == opened_with_) return true;
-  const auto value = elements::sea_temperature(temperature.content);
+  const auto value = codetables::sea_temperature(temperature.content);
   if (!value) {
     services().messages.error(id::kSeaTemperatureRange);
     return false;
   }
-  const auto figures = elements::sea_temperature_figures(*value, of_ship_);
-  temperature.content = elements::sea_temperature_text(figures.Ss, figures.TwTwTw);
+  const auto figures = codetables::sea_temperature_figures(*value, of_ship_);
+  temperature.content = codetables::sea_temperature_text(figures.Ss, figures.TwTwTw);
   return true;
 }
 
@@ -46,13 +46,13 @@ void CSea_SurfaceTemperatureDlg::on_ok() {
     close(ui::kOk);
     return;
   }
-  const auto value = elements::sea_temperature(temperature.content);
+  const auto value = codetables::sea_temperature(temperature.content);
   if (!value) {
     refuse(temperature, id::kSeaTemperatureRange);
     return;
   }
-  const auto figures =
-      elements::sea_temperature_figures(*value, static_cast<SeaTemperatureMethod>(method.selected));
+  const auto figures = codetables::sea_temperature_figures(
+      *value, static_cast<SeaTemperatureMethod>(method.selected));
   values_ = {figures.Ss, figures.TwTwTw};
   close(ui::kOk);
 }

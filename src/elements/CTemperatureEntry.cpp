@@ -7,15 +7,6 @@
 
 namespace id = text::id;
 
-namespace {
-
-bool is_whole_degrees(std::string_view whole) {
-  if (!whole.empty() && (whole.front() == '+' || whole.front() == '-')) whole.remove_prefix(1);
-  return text::is_all_digits(whole);
-}
-
-}  // namespace
-
 CTemperatureEntry::CTemperatureEntry(ui::Screen& owner, ui::Services& services, const Texts& texts)
     : group(owner, texts.group_name, {texts.group_label}),
       whole(owner, texts.whole_name, {texts.whole_label}, 3),
@@ -53,7 +44,7 @@ std::string CTemperatureEntry::text() const {
 }
 
 std::string CTemperatureEntry::joined() const {
-  return elements::joined_temperature(whole.content, tenths.content);
+  return codetables::joined_temperature(whole.content, tenths.content);
 }
 
 double CTemperatureEntry::value() const {
@@ -63,7 +54,7 @@ double CTemperatureEntry::value() const {
 bool CTemperatureEntry::well_formed() const {
   const std::string_view degrees = text::trim(whole.content);
   const std::string_view decimals = text::trim(tenths.content);
-  return (degrees.empty() || is_whole_degrees(degrees)) &&
+  return (degrees.empty() || text::is_number(degrees, text::kSignedWhole)) &&
          (decimals.empty() || text::is_all_digits(decimals));
 }
 
@@ -82,14 +73,14 @@ ui::Control* CTemperatureEntry::check() {
 bool CTemperatureEntry::check_whole() {
   const std::string degrees(text::trim(whole.content));
   if (degrees.empty()) return true;
-  if (!is_whole_degrees(degrees)) {
+  if (!text::is_number(degrees, text::kSignedWhole)) {
     services_.messages.error(id::kInvalidValue);
     return false;
   }
-  const elements::TemperatureRange range = elements::temperature_range(degrees);
-  if (range != elements::TemperatureRange::kUsual && degrees != confirmed_) {
+  const codetables::TemperatureRange range = codetables::temperature_range(degrees);
+  if (range != codetables::TemperatureRange::kUsual && degrees != confirmed_) {
     const text::Id question =
-        range == elements::TemperatureRange::kAbove ? texts_.high_question : texts_.low_question;
+        range == codetables::TemperatureRange::kAbove ? texts_.high_question : texts_.low_question;
     if (services_.messages.question(question, ui::QuestionMode::kYesNo) != ui::kYes) return false;
     confirmed_ = degrees;
   }

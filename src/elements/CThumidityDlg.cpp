@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "elements/formulas/relative_humidity.h"
+#include "codetables/tables/humidity_figures.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -20,20 +20,20 @@ CThumidityDlg::CThumidityDlg(ui::Services& services, std::string humidity, doubl
 }
 
 void CThumidityDlg::on_open() {
-  value.set(elements::shown_humidity(humidity_, whole_percent_));
+  value.set(codetables::shown_humidity(humidity_, whole_percent_));
 }
 
 bool CThumidityDlg::check() {
   const std::string_view typed = text::trim(value.content);
   if (typed.empty()) return true;
-  switch (elements::check_humidity(typed, whole_percent_)) {
-    case elements::HumidityCheck::kAccepted:
-      value.set(elements::shown_humidity(typed, whole_percent_));
+  switch (codetables::check_humidity(typed, whole_percent_)) {
+    case codetables::HumidityCheck::kAccepted:
+      value.set(codetables::shown_humidity(typed, whole_percent_));
       return true;
-    case elements::HumidityCheck::kNotANumber:
+    case codetables::HumidityCheck::kNotANumber:
       services().messages.error(id::kInvalidValue);
       return false;
-    case elements::HumidityCheck::kOutOfRange:
+    case codetables::HumidityCheck::kOutOfRange:
       services().messages.error(id::kHumidityRange);
       return false;
   }

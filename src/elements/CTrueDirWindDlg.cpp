@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "codetables/tables/wind_figures.h"
 #include "elements/formulas/true_wind_rules.h"
-#include "elements/formulas/wind_fields.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -14,7 +14,6 @@ using elements::TrueWindRule;
 namespace {
 
 constexpr std::string_view kUnknown = "//";
-constexpr double kLargestSpeed = 999.0;
 
 text::Id message_of(TrueWindRule rule) {
   switch (rule) {
@@ -68,7 +67,7 @@ void CTrueDirWindDlg::unknown_changed(ui::Edit& field, const ui::Tick& unknown, 
 
 bool CTrueDirWindDlg::check_direction() {
   const std::string typed(text::trim(direction_field.content));
-  if (!typed.empty() && !elements::is_true_direction(typed)) {
+  if (!typed.empty() && !codetables::is_true_direction(typed)) {
     services().messages.error(id::kInputError);
     return false;
   }
@@ -79,11 +78,11 @@ bool CTrueDirWindDlg::check_direction() {
 bool CTrueDirWindDlg::check_speed() {
   const std::string_view typed = text::trim(speed_field.content);
   if (typed.empty() || typed == kUnknown) return true;
-  if (!elements::is_speed(typed)) {
+  if (!text::is_number(typed, text::kTypedSpeed)) {
     services().messages.error(id::kNotANumber);
     return false;
   }
-  if (text::leading_number(typed) > kLargestSpeed) {
+  if (text::leading_number(typed) > codetables::kLargestSpeed) {
     services().messages.error(id::kInputError);
     return false;
   }

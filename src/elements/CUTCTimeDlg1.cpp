@@ -2,8 +2,7 @@
 
 #include <utility>
 
-#include "elements/formulas/calendar_date.h"
-#include "elements/formulas/whole_number.h"
+#include "platform/calendar.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -33,9 +32,9 @@ CUTCTimeDlg1::CUTCTimeDlg1(ui::Services& services, Values values)
       month_(services, month, 1, 12, 2, id::kInvalidMonth),
       day_(services, day, 1, 31, 2, id::kInvalidDay),
       hour_(services, hour, 0, 23, 2, id::kInvalidHour) {
-  month.items = elements::two_figure_lines(1, 12);
-  day.items = elements::two_figure_lines(1, 31);
-  hour.items = elements::two_figure_lines(0, 23);
+  month.items = text::numbered_lines(1, 12, 2);
+  day.items = text::numbered_lines(1, 31, 2);
+  hour.items = text::numbered_lines(0, 23, 2);
 }
 
 void CUTCTimeDlg1::on_open() {
@@ -60,7 +59,7 @@ bool CUTCTimeDlg1::complete() {
         year, text::is_all_digits(text::trim(year.content)) ? id::kInvalidYear : id::kInvalidDay);
   if (!month_.number()) return refuse(month, id::kInvalidDay);
   if (!day_.number() ||
-      !elements::is_calendar_date(*year_.number(), *month_.number(), *day_.number()))
+      !platform::is_calendar_date(*year_.number(), *month_.number(), *day_.number()))
     return refuse(day, id::kInvalidDay);
   const text::Id fault = hour_fault();
   return !fault || refuse(hour, fault);

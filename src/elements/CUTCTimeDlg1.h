@@ -4,7 +4,7 @@
 #include <string>
 
 #include "elements/CFigureField.h"
-#include "elements/formulas/calendar_date.h"
+#include "elements/formulas/observation_years.h"
 #include "ui/dialog.h"
 
 class CUTCTimeDlg1 : public ui::OkCancelHelpDialog {

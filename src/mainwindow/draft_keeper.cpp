@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "elements/form/draft.h"
+#include "platform/paths.h"
 #include "text/numbers.h"
 
 namespace mainwindow {
@@ -25,7 +26,7 @@ DraftKeeper::DraftKeeper(platform::Files& files, std::string folder)
     : files_(files), folder_(std::move(folder)) {}
 
 std::string DraftKeeper::path(int number, std::string_view ending) const {
-  return folder_ + "\\DRAFT" + text::format_int(number) + std::string(ending);
+  return platform::join(folder_, "DRAFT") + text::format_int(number) + std::string(ending);
 }
 
 std::optional<DraftKeeper::Left> DraftKeeper::next_left() {

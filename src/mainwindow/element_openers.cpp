@@ -6,6 +6,7 @@
 
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/code_pickers.h"
+#include "codetables/tables/pressure_figures.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
@@ -147,7 +148,9 @@ void take_reading(Opening& opening, const std::string& reading) {
     form.change([](Struct_Weather&) {}, {Field::kReading});
     return;
   }
-  form.type(Field::kReading, text::format_fixed(text::leading_number(reading), 1, 4));
+  const codetables::Hectopascal read{text::leading_number(reading)};
+  if (stands(form, Field::kReading, codetables::pressure_text(read))) return;
+  form.type(Field::kReading, text::format_fixed(read.value, 1, 4));
   settle(opening.services.messages, opening.services.texts,
          [&](elements::Confirmed confirmed) { return form.leave(Field::kReading, confirmed); });
 }

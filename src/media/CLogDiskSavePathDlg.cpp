@@ -4,7 +4,8 @@
 #include <utility>
 
 #include "archive/CCreateDir.h"
-#include "archive/paths.h"
+#include "archive/names.h"
+#include "platform/paths.h"
 #include "text/ids.h"
 
 namespace id = text::id;
@@ -67,7 +68,7 @@ void CLogDiskSavePathDlg::on_open() {
 }
 
 void CLogDiskSavePathDlg::show_chosen() {
-  chosen.content = archive::with_backslash(directory_.folder());
+  chosen.content = platform::with_backslash(directory_.folder());
   drive_list_.select(chosen.content);
 }
 
@@ -92,7 +93,7 @@ void CLogDiskSavePathDlg::create() {
 }
 
 void CLogDiskSavePathDlg::on_ok() {
-  std::string folder = archive::with_backslash(directory_.folder());
+  std::string folder = platform::with_backslash(directory_.folder());
   if (const text::Id message = refusal(folder); message) {
     refuse(tree, message);
     return;
@@ -121,7 +122,7 @@ text::Id CLogDiskSavePathDlg::refusal(const std::string& folder) const {
 }
 
 bool CLogDiskSavePathDlg::is_source(const std::string& folder) const {
-  const std::string source = archive::with_backslash(folders_.source);
+  const std::string source = platform::with_backslash(folders_.source);
   return !source.empty() &&
          (archive::equal_ignoring_case(folder, source) || services().files.same(folder, source));
 }

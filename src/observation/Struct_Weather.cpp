@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "codetables/tables/minutes.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -90,9 +91,9 @@ bool all_set(std::initializer_list<const std::string*> fields) {
                       [](const std::string* field) { return field->empty(); });
 }
 
-// Whole degrees and the tenths that the minutes make: 59' is 0.9 degrees, 5' none.
 int tenths(const std::string& degrees, const std::string& minutes) {
-  return text::leading_int(degrees) * 10 + text::leading_int(minutes) / 6;
+  return text::leading_int(degrees) * 10 +
+         codetables::tenths_of_minutes(text::leading_int(minutes));
 }
 
 }  // namespace

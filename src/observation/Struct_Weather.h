@@ -7,15 +7,11 @@
 #include <string>
 #include <string_view>
 
+#include "codetables/tables/quadrant.h"
 #include "ship/data/KeyObservationItems.h"
 #include "ship/data/ShipFixedData.h"
 
-/// Position in tenths of a degree, without sign, and the quadrant that signs it (code table 3333).
-struct TenthsPosition {
-  int quadrant = 0;
-  int latitude = 0;
-  int longitude = 0;
-};
+using codetables::TenthsPosition;
 
 /// Every member named by a code symbol holds that symbol's code figures exactly as they will be
 /// printed. Three forms of a missing value are kept apart: empty (not entered), "*" (a masked

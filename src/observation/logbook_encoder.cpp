@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "codetables/tables/sea_temperature_figures.h"
+#include "codetables/tables/temperature_figures.h"
 #include "observation/field_text.h"
 #include "observation/logbook_fields.h"
 #include "observation/report_groups.h"
@@ -100,12 +102,13 @@ void dew_point_sign(std::string& line, const Source& source) {
   else if (record.SnTd == "0")
     line.push_back('5');
   else
-    line.push_back(record.Sw == "2" ? '7' : '6');
+    line.push_back(codetables::is_iced(record.Sw) ? '7' : '6');
 }
 
 void sea_temperature_sign(std::string& line, const Source& source) {
   const std::string& sign = source.record.Ss;
-  const bool positive = sign == "0" || sign == "2" || sign == "4" || sign == "6";
+  const bool positive =
+      codetables::sea_temperature_method(sign) && !codetables::is_below_zero(sign);
   line.push_back(positive ? '0' : '1');
 }
 

@@ -4,6 +4,8 @@
 #include <limits>
 
 #include "observation/save_journal.h"
+#include "platform/calendar.h"
+#include "platform/paths.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -32,24 +34,8 @@ int days_of(int year, int month) {
   }
 }
 
-int days_of_calendar(int year, int month) {
-  const bool common_century = year % 100 == 0 && year % 400 != 0;
-  return month == 2 && common_century ? 28 : days_of(year, month);
-}
-
 std::string_view last_two(std::string_view figures) {
   return figures.size() > 2 ? figures.substr(figures.size() - 2) : figures;
-}
-
-bool ends_in_backslash(std::string_view folder) {
-  return !folder.empty() && folder.back() == '\\';
-}
-
-// A folder that somebody wrote into the settings by hand may lack its backslash; the report would
-// then lie beside the folder, where nobody looks for it.
-std::string in_folder(const std::string& folder, std::string_view name) {
-  const bool as_it_stands = folder.empty() || ends_in_backslash(folder);
-  return folder + (as_it_stands ? "" : "\\") + std::string(name);
 }
 
 std::string folder_of(const std::string& path) {
@@ -167,7 +153,7 @@ class Repairing {
     // A folder that another program calls by another name is known by what was staged in it.
     const bool here = files_.same(journal.folder, folders_.reports) ||
                       holds(folders_.reports + journal.staged, journal);
-    const std::string folder = here ? folders_.reports : in_folder(journal.folder, "");
+    const std::string folder = here ? folders_.reports : platform::join(journal.folder, "");
     const platform::Look found = files_.look(folder);
     if (found.there == There::kFolder) return {folder};
     if (!here && holds(folders_.reports + journal.report, journal)) return {folders_.reports};
@@ -451,9 +437,9 @@ std::string earlier_report_file_name(int year, int month, int day, int hour) {
 }
 
 std::string earlier_report_path(const std::string& folder, const Struct_Weather& record) {
-  return in_folder(folder, earlier_report_file_name(
-                               text::leading_int(record.Year), text::leading_int(record.Month),
-                               text::leading_int(record.YY), text::leading_int(record.GG)));
+  return platform::join(folder, earlier_report_file_name(
+                                    text::leading_int(record.Year), text::leading_int(record.Month),
+                                    text::leading_int(record.YY), text::leading_int(record.GG)));
 }
 
 std::optional<ReportDate> report_date(std::string_view name) {
@@ -470,7 +456,7 @@ std::optional<ReportDate> report_date(std::string_view name) {
 std::optional<DateFault> date_fault(const Struct_Weather& record) {
   // Year and month are sound by the time that the days of the month are asked for.
   const auto days = [&] {
-    return days_of_calendar(text::leading_int(record.Year), text::leading_int(record.Month));
+    return platform::days_in_month(text::leading_int(record.Year), text::leading_int(record.Month));
   };
   const auto is_wrong = [](const std::string& part, const DateFault& rule) {
     if (part.size() != rule.figures || !text::is_all_digits(part)) return true;
@@ -489,11 +475,11 @@ bool has_valid_date(const Struct_Weather& record) {
 }
 
 std::string report_path(const std::string& folder, const Struct_Weather& record) {
-  return in_folder(folder, report_file_name(record));
+  return platform::join(folder, report_file_name(record));
 }
 
 std::string logbook_path(const std::string& folder) {
-  return folder + (ends_in_backslash(folder) ? "" : "\\") + std::string(kLogbookName);
+  return platform::join(folder.empty() ? "\\" : folder, kLogbookName);
 }
 
 std::string report_file_content(std::string_view message) {
@@ -503,13 +489,13 @@ std::string report_file_content(std::string_view message) {
 }
 
 std::string damaged_journal_path(const std::string& logbook_folder) {
-  return in_folder(logbook_folder, kDamagedJournalName);
+  return platform::join(logbook_folder, kDamagedJournalName);
 }
 
 Recovery recover(platform::Files& files, const std::string& reports_folder,
                  const std::string& logbook_folder) {
   if (reports_folder.empty() || logbook_folder.empty()) return {};
-  const Folders folders{in_folder(reports_folder, ""), in_folder(logbook_folder, "")};
+  const Folders folders{platform::join(reports_folder, ""), platform::join(logbook_folder, "")};
   // What a living save has staged is cleared by nobody else who holds the lock.
   const platform::Look note = files.look(folders.journal());
   // Whoever saves is asked for the disk; without it nobody can tell whether anything was noted.

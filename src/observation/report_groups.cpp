@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "codetables/tables/minutes.h"
 #include "observation/field_text.h"
 #include "text/ids.h"
 #include "text/numbers.h"
@@ -116,7 +117,7 @@ void append_tenths(std::string& out, const std::string& minutes) {
     out.push_back('*');
     return;
   }
-  const int tenths = text::leading_int(minutes) / 6;
+  const int tenths = codetables::tenths_of_minutes(text::leading_int(minutes));
   if (tenths >= 0 && tenths <= 9)
     out.push_back(static_cast<char>('0' + tenths));
   else

@@ -4,6 +4,8 @@
 #include <array>
 #include <bitset>
 
+#include "codetables/tables/minutes.h"
+#include "codetables/tables/quadrant.h"
 #include "observation/report_groups.h"
 #include "observation/report_text.h"
 #include "observation/ship_values.h"
@@ -92,7 +94,7 @@ class Reader {
       case Group::k99LaLaLa:
         return is_latitude_group(figures);
       case Group::kQcLoLoLoLo:
-        return is_one_of(figures[0], "1357/");
+        return figures[0] == '/' || is_one_of(figures[0], codetables::kQuadrants);
       case Group::kiRiXhVV:
         return is_one_of(figures[0], "01234/") && is_one_of(figures[1], "1234567/");
       default:
@@ -181,11 +183,7 @@ class Reader {
       field = figures;
       return;
     }
-    field.clear();
-    if (figures[0] == '/') return;
-    const int minutes = (figures[0] - '0') * 6;
-    field.push_back(static_cast<char>('0' + minutes / 10));
-    field.push_back(static_cast<char>('0' + minutes % 10));
+    field = figures[0] == '/' ? std::string() : codetables::minutes_of_tenth(figures[0]);
   }
 
   [[nodiscard]] bool placed(Group group) const {

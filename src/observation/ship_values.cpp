@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "ship/data/barometer_date.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -11,23 +12,6 @@ namespace observation {
 namespace {
 
 using Ship = ShipFixedData;
-
-bool is_digit(char c) {
-  return c >= '0' && c <= '9';
-}
-
-std::string_view without_sign(std::string_view text) {
-  if (!text.empty() && (text.front() == '+' || text.front() == '-')) text.remove_prefix(1);
-  return text;
-}
-
-// A sign or none, figures, and figures behind a point or none: the whole text, not its beginning.
-bool is_decimal(std::string_view text) {
-  text = without_sign(text);
-  const auto point = text.find('.');
-  if (point == std::string_view::npos) return text::is_all_digits(text);
-  return text::is_all_digits(text.substr(0, point)) && text::is_all_digits(text.substr(point + 1));
-}
 
 bool is_printable(std::string_view value) {
   return std::all_of(value.begin(), value.end(), [](char c) { return c >= ' ' && c < '\x7f'; });
@@ -43,7 +27,7 @@ Stored store_text(std::string& into, std::string_view value, bool storable) {
 
 template <class T>
 Stored store_choice(T& into, std::string_view value, int first, int last) {
-  if (!text::is_all_digits(without_sign(value))) return Stored::kBadNumber;
+  if (!text::is_number(value, text::kSignedWhole)) return Stored::kBadNumber;
   const int number = text::leading_int(value);
   if (number < first || number > last) return Stored::kNotStorable;
   into = static_cast<T>(number);
@@ -58,7 +42,7 @@ Stored store_yes(bool& into, std::string_view value, int yes) {
 }
 
 Stored store_unit(double& into, std::string_view value, std::initializer_list<double> allowed) {
-  if (!is_decimal(value)) return Stored::kBadNumber;
+  if (!text::is_number(value, text::kSignedDecimal)) return Stored::kBadNumber;
   const double number = text::leading_number(value);
   const auto* const at = std::find(allowed.begin(), allowed.end(), number);
   if (at == allowed.end()) return Stored::kNotStorable;
@@ -67,7 +51,7 @@ Stored store_unit(double& into, std::string_view value, std::initializer_list<do
 }
 
 Stored store_number(std::string& into, std::string_view value, double least, double most) {
-  if (!is_decimal(value)) return Stored::kBadNumber;
+  if (!text::is_number(value, text::kSignedDecimal)) return Stored::kBadNumber;
   const double number = text::leading_number(value);
   return store_text(into, value, number >= least && number <= most);
 }
@@ -82,13 +66,9 @@ Stored store_figures(std::string& into, std::string_view value, std::size_t most
   return store_text(into, value, value.size() <= most);
 }
 
-// "yyyy/mm/dd", in figures or in these letters, which stand for no date.
+// In figures, or the letters that stand for no date.
 bool is_date_text(std::string_view value) {
-  constexpr std::string_view kForm = "yyyy/mm/dd";
-  if (value == kForm) return true;
-  return value.size() == kForm.size() &&
-         std::equal(value.begin(), value.end(), kForm.begin(),
-                    [](char c, char form) { return form == '/' ? c == '/' : is_digit(c); });
+  return value == kCheckDatePlaceholder || is_slashed_date(value);
 }
 
 bool is_port(std::string_view value) {
@@ -149,7 +129,7 @@ constexpr ShipRow kShip[] = {
      [](Ship& s, Text v) { return store_figures(s.vosclim_cargo_height, v, 2); }},
     {"vosclim_load_line_departure",
      [](Ship& s, Text v) {
-       if (!v.empty() && !text::is_all_digits(without_sign(v))) return Stored::kBadNumber;
+       if (!v.empty() && !text::is_number(v, text::kSignedWhole)) return Stored::kBadNumber;
        return store_text(s.vosclim_load_line_departure, v, v.size() <= 3);
      }},
     {"imo_number", [](Ship& s, Text v) { return store_figures(s.imo_number, v, 7); }},

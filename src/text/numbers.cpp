@@ -5,6 +5,8 @@
 #include <charconv>
 #include <limits>
 
+#include "text/strings.h"
+
 namespace text {
 namespace {
 
@@ -84,16 +86,37 @@ int leading_int(std::string_view text) {
   return static_cast<int>(negative ? -value : value);
 }
 
+bool is_number(std::string_view text, NumberForm form) {
+  const bool has_sign = text.starts_with('+') || text.starts_with('-');
+  if (form.sign && has_sign) text.remove_prefix(1);
+  const auto point = text.find('.');
+  if (form.point == Point::kNone || point == std::string_view::npos) return is_all_digits(text);
+  const std::string_view whole = text.substr(0, point);
+  const std::string_view decimals = text.substr(point + 1);
+  if (decimals.empty()) return form.point != Point::kInside && is_all_digits(whole);
+  const bool whole_may_be_missing = form.point == Point::kAnywhere && whole.empty();
+  return is_all_digits(decimals) && (whole_may_be_missing || is_all_digits(whole));
+}
+
 std::optional<double> strict_number(std::string_view text) {
-  std::string_view rest = text;
-  if (!rest.empty() && (rest.front() == '+' || rest.front() == '-')) rest.remove_prefix(1);
-  const auto points = std::count(rest.begin(), rest.end(), '.');
-  const auto digits =
-      std::count_if(rest.begin(), rest.end(), [](char c) { return c >= '0' && c <= '9'; });
   constexpr std::size_t kLongest = 12;
-  if (digits == 0 || points > 1 || rest.size() > kLongest) return std::nullopt;
-  if (static_cast<std::size_t>(points + digits) != rest.size()) return std::nullopt;
+  const std::size_t sign = text.starts_with('+') || text.starts_with('-') ? 1 : 0;
+  if (text.size() - sign > kLongest || !is_number(text, kTypedDecimal)) return std::nullopt;
   return leading_number(text);
+}
+
+std::optional<int> whole_number(std::string_view text, int lowest, int highest) {
+  text = trim(text);
+  if (!is_all_digits(text)) return std::nullopt;
+  const int number = leading_int(text);
+  if (number < lowest || number > highest) return std::nullopt;
+  return number;
+}
+
+std::vector<std::string> numbered_lines(int first, int last, int digits) {
+  std::vector<std::string> lines;
+  for (int number = first; number <= last; ++number) lines.push_back(format_digits(number, digits));
+  return lines;
 }
 
 }  // namespace text

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace text {
 
@@ -31,7 +32,49 @@ namespace text {
 /// none. Clamped to the range of int.
 [[nodiscard]] int leading_int(std::string_view text);
 
-/// The number of a text that is nothing but a number: an optional sign, digits, at most one point.
+/// Where a number may have its point.
+enum class Point {
+  kNone,      ///< a whole number
+  kInside,    ///< figures on both sides: "1.5"
+  kNotFirst,  ///< "5." too
+  kAnywhere,  ///< "5." and ".5" too
+};
+
+/// What a text must look like to be a number and nothing else: digits, and what the form allows.
+/// Blanks, exponents and signs of thousands are never part of a number.
+struct NumberForm {
+  bool sign = false;  ///< one "+" or "-" may stand in front
+  Point point = Point::kNone;
+};
+inline constexpr NumberForm kSignedWhole{true, Point::kNone};
+inline constexpr NumberForm kSignedDecimal{true, Point::kInside};
+/// Of the barometer card, whose files hold corrections such as "+5.".
+inline constexpr NumberForm kCorrection{true, Point::kNotFirst};
+/// Typed into a field: the figures before or behind the point may be left out.
+inline constexpr NumberForm kTypedDecimal{true, Point::kAnywhere};
+inline constexpr NumberForm kTypedSpeed{false, Point::kAnywhere};
+
+/// True for a text of that form.
+[[nodiscard]] bool is_number(std::string_view text, NumberForm form);
+
+/// The number of a text of the form kTypedDecimal with at most 12 characters behind its sign, which
+/// is more than any field takes.
 [[nodiscard]] std::optional<double> strict_number(std::string_view text);
+
+/// The number when the text holds digits only (blanks around are let pass) and lies in the range.
+[[nodiscard]] std::optional<int> whole_number(std::string_view text, int lowest, int highest);
+
+/// The numbers from first to last with zeros in front up to so many digits ("00", "01" …): the
+/// lines of a drop-down.
+[[nodiscard]] std::vector<std::string> numbered_lines(int first, int last, int digits);
+
+/// The integer part of a value of any size, toward zero. Clamped to +-1e15, where every whole
+/// number is still exact; NaN gives 0.
+[[nodiscard]] constexpr long long truncated(double value) {
+  constexpr double kLimit = 1e15;
+  if (value >= kLimit) return static_cast<long long>(kLimit);
+  if (value <= -kLimit) return static_cast<long long>(-kLimit);
+  return value == value ? static_cast<long long>(value) : 0;
+}
 
 }  // namespace text

@@ -6,9 +6,9 @@
 #include "archive/CDrvListBox.h"
 #include "archive/CFindFile.h"
 #include "archive/CShowStatusDlg.h"
-#include "archive/paths.h"
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
+#include "platform/paths.h"
 #include "text/ids.h"
 
 namespace {
@@ -24,17 +24,18 @@ TEST(Paths, JoinPutsOneBackslashBetween) {
                         {"C:\\", "b", "C:\\b"},
                         {"C:", "b", "C:\\b"},
                         {"", "b", "b"},
+                        {"\\", "b", "\\b"},
                         {"C:\\a\\\\", "b", "C:\\a\\b"}};
-  for (const Names& row : rows) EXPECT_EQ(archive::join(row[0], row[1]), row[2]) << row[0];
+  for (const Names& row : rows) EXPECT_EQ(platform::join(row[0], row[1]), row[2]) << row[0];
 }
 
 TEST(Paths, BackslashAtTheEndIsPutOrTakenButKeptForADrive) {
-  EXPECT_EQ(archive::with_backslash("C:\\a"), "C:\\a\\");
-  EXPECT_EQ(archive::with_backslash("C:\\"), "C:\\");
-  EXPECT_EQ(archive::with_backslash(""), "");
-  EXPECT_EQ(archive::without_backslash("C:\\a\\"), "C:\\a");
-  EXPECT_EQ(archive::without_backslash("C:\\"), "C:\\");
-  EXPECT_EQ(archive::without_backslash(""), "");
+  EXPECT_EQ(platform::with_backslash("C:\\a"), "C:\\a\\");
+  EXPECT_EQ(platform::with_backslash("C:\\"), "C:\\");
+  EXPECT_EQ(platform::with_backslash(""), "");
+  EXPECT_EQ(platform::without_backslash("C:\\a\\"), "C:\\a");
+  EXPECT_EQ(platform::without_backslash("C:\\"), "C:\\");
+  EXPECT_EQ(platform::without_backslash(""), "");
 }
 
 // ---- Files of a folder
@@ -327,7 +328,7 @@ TEST_F(Folders, NewFolderIsCreatedBeneathTheChosenOne) {
     fakes::enter(dialog, dialog.folder_name, " log ");
     dialog.press(dialog.ok);
     EXPECT_EQ(dialog.result(), ui::kOk);
-    EXPECT_EQ(dialog.path(), archive::join(parent, "log"));
+    EXPECT_EQ(dialog.path(), platform::join(parent, "log"));
     EXPECT_TRUE(files.is_folder(dialog.path()));
   }
   EXPECT_TRUE(files.is_folder("C:\\out\\log"));

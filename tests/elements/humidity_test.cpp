@@ -193,7 +193,7 @@ TEST(DewPointOfTexts, CountsAnEmptyReadingAsStandardPressure) {
                                                  WetBulbState::kNotSet);
   ASSERT_TRUE(standard && read);
   EXPECT_EQ(standard->value, read->value);
-  EXPECT_EQ(elements::temperature_figures(*standard).figures, "018");
+  EXPECT_EQ(codetables::temperature_figures(*standard).figures, "018");
 }
 
 TEST(DewPointOfTexts, GivesNothingWhereTheRecordIsToStay) {
@@ -236,7 +236,7 @@ TEST(RelativeHumidity, LiesBetween0And100AndRisesWithTheDewPoint) {
 }
 
 TEST(RelativeHumidity, TextsForFormAndLogbook) {
-  using elements::HumidityTexts;
+  using codetables::HumidityTexts;
   struct Row {
     double percent;
     HumidityTexts texts;
@@ -244,7 +244,7 @@ TEST(RelativeHumidity, TextsForFormAndLogbook) {
   for (const Row& row :
        {Row{53, {"53.0", "0530"}}, Row{5, {"05.0", "0050"}}, Row{100, {"100.0", "1000"}},
         Row{0, {"00.0", "0000"}}, Row{67.5, {"67.5", "0675"}}}) {
-    EXPECT_EQ(elements::humidity_texts({row.percent}), row.texts) << row.percent;
+    EXPECT_EQ(codetables::humidity_texts({row.percent}), row.texts) << row.percent;
   }
   EXPECT_EQ(elements::humidity_of_texts(" 20.0", "10.0 ")->display, "53.0");
   EXPECT_FALSE(elements::humidity_of_texts("", "10.0"));
@@ -255,7 +255,7 @@ TEST(RelativeHumidity, TextsForFormAndLogbook) {
 TEST(TemperatureFigures, SignAndTenths) {
   struct Row {
     double t;
-    elements::TemperatureFigures figures;
+    codetables::TemperatureFigures figures;
   };
   const Row rows[] = {
       {-1.77, {"-01.8", "1", "018"}},
@@ -272,24 +272,24 @@ TEST(TemperatureFigures, SignAndTenths) {
       {-0.06, {"-00.1", "1", "001"}},
       {0.04, {"00.0", "0", "000"}},
   };
-  for (const Row& row : rows) EXPECT_EQ(elements::temperature_figures({row.t}), row.figures);
+  for (const Row& row : rows) EXPECT_EQ(codetables::temperature_figures({row.t}), row.figures);
   // A computed dew point that is printed with a minus keeps it; all others are the same.
   for (const Row& row : rows) {
     const bool minus_zero = row.t <= 0.0 && std::signbit(row.t) && row.t > -0.05;
-    const elements::TemperatureFigures kept{"-0.0", "1", "000"};
-    EXPECT_EQ(elements::computed_dew_point_figures({row.t}), minus_zero ? kept : row.figures);
+    const codetables::TemperatureFigures kept{"-0.0", "1", "000"};
+    EXPECT_EQ(codetables::computed_dew_point_figures({row.t}), minus_zero ? kept : row.figures);
   }
 }
 
 TEST(TemperatureFigures, AreThreeFiguresHoweverWildTheValue) {
   for (const double wild : {1e308, -1e308, 1000.0, -1000.0, 99.99}) {
-    EXPECT_EQ(elements::temperature_figures({wild}).figures.size(), 3U) << wild;
+    EXPECT_EQ(codetables::temperature_figures({wild}).figures.size(), 3U) << wild;
   }
 }
 
 TEST(TemperatureFigures, WetBulbSignTellsIceFirst) {
   const auto sign = [](double t, WetBulbState state) {
-    return elements::wet_bulb_sign(elements::temperature_figures({t}), state);
+    return codetables::wet_bulb_sign(codetables::temperature_figures({t}), state);
   };
   EXPECT_EQ(sign(1.0, WetBulbState::kNotIced), "0");
   EXPECT_EQ(sign(-1.0, WetBulbState::kNotIced), "1");
@@ -298,13 +298,13 @@ TEST(TemperatureFigures, WetBulbSignTellsIceFirst) {
 }
 
 TEST(TemperatureFigures, EmptyTenthsCountAsZeroEmptyDegreesAsNoTemperature) {
-  EXPECT_EQ(elements::joined_temperature(" -5 ", ""), "-5.0");
-  EXPECT_EQ(elements::joined_temperature("12", "3"), "12.3");
-  EXPECT_EQ(elements::joined_temperature("", "3"), "");
+  EXPECT_EQ(codetables::joined_temperature(" -5 ", ""), "-5.0");
+  EXPECT_EQ(codetables::joined_temperature("12", "3"), "12.3");
+  EXPECT_EQ(codetables::joined_temperature("", "3"), "");
 }
 
 TEST(TemperatureRange, AsksByWholeDegreesOnly) {
-  using elements::TemperatureRange;
+  using codetables::TemperatureRange;
   struct Row {
     const char* text;
     TemperatureRange range;
@@ -314,7 +314,7 @@ TEST(TemperatureRange, AsksByWholeDegreesOnly) {
         Row{"-25.9", TemperatureRange::kUsual}, Row{"-26.0", TemperatureRange::kBelow},
         Row{"", TemperatureRange::kUsual}, Row{"99999999999999", TemperatureRange::kAbove},
         Row{"-99999999999999", TemperatureRange::kBelow}}) {
-    EXPECT_EQ(elements::temperature_range(row.text), row.range) << row.text;
+    EXPECT_EQ(codetables::temperature_range(row.text), row.range) << row.text;
   }
 }
 

@@ -8,9 +8,9 @@
 
 namespace {
 
-using elements::sea_temperature;
-using elements::sea_temperature_figures;
-using elements::sea_temperature_text;
+using codetables::sea_temperature;
+using codetables::sea_temperature_figures;
+using codetables::sea_temperature_text;
 using Method = SeaTemperatureMethod;
 using Values = CSea_SurfaceTemperatureDlg::Values;
 
@@ -46,7 +46,7 @@ TEST(SeaTemperature, FiguresFollowTheCodeTableOfSignAndMethod) {
       EXPECT_EQ(figures.Ss, std::to_string(even + (row.below_zero ? 1 : 0))) << row.value;
       EXPECT_EQ(figures.TwTwTw, row.figures) << row.value;
       EXPECT_EQ(sea_temperature_text(figures.Ss, figures.TwTwTw), row.text) << row.value;
-      EXPECT_EQ(elements::sea_temperature_method(figures.Ss), method);
+      EXPECT_EQ(codetables::sea_temperature_method(figures.Ss), method);
     }
   }
 }
@@ -56,7 +56,7 @@ TEST(SeaTemperature, WhatIsNoFiguresHasNoText) {
   EXPECT_EQ(sea_temperature_text("0", "///"), "");
   EXPECT_EQ(sea_temperature_text("", "123"), "12.3");
   for (const char* bad : {"", "8", "9", "/", "00"})
-    EXPECT_FALSE(elements::sea_temperature_method(bad)) << bad;
+    EXPECT_FALSE(codetables::sea_temperature_method(bad)) << bad;
 }
 
 TEST(SeaTemperature, EveryTenthComesBackThroughItsFigures) {

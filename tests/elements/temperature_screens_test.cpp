@@ -335,7 +335,7 @@ TEST(HumidityScreen, ShowsWholePercentWithTwoFigures) {
     h.press_ok();
     EXPECT_EQ(h.screen.result(), ui::kOk) << row.typed;
     EXPECT_EQ(h.screen.humidity(), row.shown) << row.typed;
-    EXPECT_EQ(elements::humidity_texts({std::stod(h.screen.humidity())}).logbook, row.logbook);
+    EXPECT_EQ(codetables::humidity_texts({std::stod(h.screen.humidity())}).logbook, row.logbook);
     EXPECT_EQ(Humidity(row.shown, row.unit).screen.value.content, row.shown);
   }
 }

@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "elements/CUTCTimeDlg1.h"
-#include "elements/formulas/calendar_date.h"
+#include "elements/formulas/observation_years.h"
 #include "fakes/fake_ports.h"
+#include "platform/calendar.h"
 #include "text/ids.h"
 
 namespace {
@@ -21,7 +22,7 @@ TEST(CalendarDate, KnowsWhichDaysExist) {
                       {2014, 12, 32, false}, {2014, 0, 1, false},  {2014, 13, 1, false},
                       {2014, 1, 0, false},   {0, 1, 1, false},     {10000, 1, 1, false}};
   for (const Row& row : rows) {
-    EXPECT_EQ(elements::is_calendar_date(row.year, row.month, row.day), row.exists)
+    EXPECT_EQ(platform::is_calendar_date(row.year, row.month, row.day), row.exists)
         << row.year << "-" << row.month << "-" << row.day;
   }
 }

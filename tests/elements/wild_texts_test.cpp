@@ -3,9 +3,12 @@
 #include <random>
 #include <string>
 
-#include "codetables/tables/code_metres.h"
+#include "codetables/tables/cloud_base.h"
+#include "codetables/tables/pressure_tendency.h"
 #include "codetables/tables/temperature_figures.h"
-#include "elements/formulas/pressure_tendency.h"
+#include "codetables/tables/visibility.h"
+#include "codetables/tables/wave_height.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/formulas/psychrometer.h"
 #include "elements/formulas/relative_humidity.h"
 #include "elements/formulas/sea_level_pressure.h"
@@ -46,33 +49,33 @@ TEST(WildTexts, GiveAResultOrARefusal) {
     if (const auto pressure = elements::reduce_reading(a, card, elements::air_temperature_of(b))) {
       EXPECT_EQ(pressure->pppp.size(), 4U);
       EXPECT_TRUE(text::is_all_digits(pressure->reading.substr(0, 4)));
-      if (pressure->range != elements::PressureRange::kRefused) {
+      if (pressure->range != codetables::PressureRange::kRefused) {
         EXPECT_TRUE(text::is_all_digits(pressure->pppp));
       }
     }
     EXPECT_LE(elements::split_reading(a).whole.size(), 4U);
-    if (elements::is_tendency_amount(a) && !a.empty() &&
-        elements::check_tendency(b, a) == elements::TendencyCheck::kAccepted) {
-      EXPECT_EQ(elements::tendency_stored(a).size(), 3U);
+    if (codetables::is_tendency_amount(a) && !a.empty() &&
+        codetables::check_tendency(b, a) == codetables::TendencyCheck::kAccepted) {
+      EXPECT_EQ(codetables::tendency_stored(a).size(), 3U);
     }
     if (const auto dew =
             elements::dew_point_of_texts(a, b, b, card, elements::WetBulbState::kIced)) {
-      const auto figures = elements::temperature_figures(*dew);
+      const auto figures = codetables::temperature_figures(*dew);
       EXPECT_EQ(figures.figures.size(), 3U);
       EXPECT_TRUE(text::is_all_digits(figures.figures));
     }
     if (const auto humidity = elements::humidity_of_texts(a, b)) {
       EXPECT_EQ(humidity->logbook.size(), 4U);
     }
-    if (elements::check_humidity(a, i % 2 == 0) == elements::HumidityCheck::kAccepted) {
-      EXPECT_LE(text::leading_number(elements::shown_humidity(a, i % 2 == 0)), 100.0);
+    if (codetables::check_humidity(a, i % 2 == 0) == codetables::HumidityCheck::kAccepted) {
+      EXPECT_LE(text::leading_number(codetables::shown_humidity(a, i % 2 == 0)), 100.0);
     }
     if (const auto wind = elements::true_wind_of_texts({a, b, a, b, a})) {
       EXPECT_TRUE(text::is_all_digits(wind->direction) && text::is_all_digits(wind->speed));
     }
-    EXPECT_LE(elements::wind_figures(a, b).fff.size(), 3U);
-    EXPECT_LE(elements::cloud_base_metres(a).size(), 4U);
-    EXPECT_FALSE(elements::half_metre_figures(a).empty() && !a.empty());
+    EXPECT_LE(codetables::wind_figures(a, b).fff.size(), 3U);
+    EXPECT_LE(codetables::cloud_base_metres(a).size(), 4U);
+    EXPECT_FALSE(codetables::half_metre_figures(a).empty() && !a.empty());
   }
 }
 

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "codetables/tables/wind_figures.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/dialog_checks.h"
-#include "elements/formulas/wind_fields.h"
 #include "text/ids.h"
 
 namespace {
@@ -296,14 +296,11 @@ TEST(TrueWindScreen, HasTextsAndHelp) {
   EXPECT_EQ(t.screen.title(), "真風向・風速");
 }
 
-TEST(WindFields, AcceptNumbersOnly) {
-  for (const char* good : {"0", "12", " 9.0", "999.9", "5."}) EXPECT_TRUE(elements::is_speed(good));
-  for (const char* bad : {"", ".", "-1", "1.2.3", "x", "１"})
-    EXPECT_FALSE(elements::is_speed(bad)) << bad;
+TEST(TrueDirection, IsTensOfDegreesVariableOrUnknown) {
   for (const char* good : {"0", "00", "36", "99", "//"})
-    EXPECT_TRUE(elements::is_true_direction(good)) << good;
+    EXPECT_TRUE(codetables::is_true_direction(good)) << good;
   for (const char* bad : {"", "37", "98", "100", "036", "/", "-1"})
-    EXPECT_FALSE(elements::is_true_direction(bad)) << bad;
+    EXPECT_FALSE(codetables::is_true_direction(bad)) << bad;
 }
 
 TEST(WindMessages, ReadAsTheyAlwaysDid) {

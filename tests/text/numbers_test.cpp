@@ -70,4 +70,54 @@ TEST(Strings, AByteOrderMarkIsTakenOffInFrontOnly) {
   EXPECT_EQ(text::without_byte_order_mark(""), "");
 }
 
+// What each form of a number takes, in one table: a text that only some take stands in one row.
+TEST(Numbers, FormsDifferInSignAndPoint) {
+  constexpr text::NumberForm kWhole{};
+  constexpr text::NumberForm kReading{false, text::Point::kInside};
+  const text::NumberForm forms[] = {kWhole,
+                                    text::kSignedWhole,
+                                    kReading,
+                                    text::kSignedDecimal,
+                                    text::kCorrection,
+                                    text::kTypedSpeed,
+                                    text::kTypedDecimal};
+  struct Row {
+    const char* text;
+    const char* taken;  // a digit 1 for each form that takes it
+  };
+  const Row rows[] = {{"0", "1111111"},      {"007", "1111111"},
+                      {"+5", "0101101"},     {"-05", "0101101"},
+                      {"1013.2", "0011111"}, {"-1.25", "0001101"},
+                      {"5.", "0000111"},     {"-5.", "0000101"},
+                      {".5", "0000011"},     {"-.5", "0000001"},
+                      {"", "0000000"},       {".", "0000000"},
+                      {"-", "0000000"},      {"+.", "0000000"},
+                      {"1.2.3", "0000000"},  {"..5", "0000000"},
+                      {"--1", "0000000"},    {"+-1", "0000000"},
+                      {"1-", "0000000"},     {" 1", "0000000"},
+                      {"1 ", "0000000"},     {"1 2", "0000000"},
+                      {"1,5", "0000000"},    {"1e1", "0000000"},
+                      {"0x1", "0000000"},    {"nan", "0000000"},
+                      {"/", "0000000"},      {"\xEF\xBC\x91", "0000000"},
+                      {"\xff", "0000000"}};
+  for (const Row& row : rows) {
+    std::string taken;
+    for (const text::NumberForm& form : forms) taken += text::is_number(row.text, form) ? '1' : '0';
+    EXPECT_EQ(taken, row.taken) << row.text;
+    EXPECT_EQ(text::strict_number(row.text).has_value(), taken.back() == '1') << row.text;
+  }
+}
+
+TEST(Numbers, StrictOnesEndAtTwelveCharacters) {
+  EXPECT_EQ(text::strict_number("-123456789012"), -123456789012.0);
+  EXPECT_FALSE(text::strict_number("1234567890123"));
+}
+
+TEST(Numbers, WholeOnesLieInTheirRange) {
+  EXPECT_EQ(text::whole_number(" 007 ", 0, 7), 7);
+  for (const char* bad : {"8", "-1", "", " ", "1.0", "x", "99999999999999999999"})
+    EXPECT_FALSE(text::whole_number(bad, 0, 7)) << bad;
+  EXPECT_EQ(text::numbered_lines(8, 11, 2), (std::vector<std::string>{"08", "09", "10", "11"}));
+}
+
 }  // namespace

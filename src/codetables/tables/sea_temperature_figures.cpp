@@ -1,35 +1,22 @@
 #include "codetables/tables/sea_temperature_figures.h"
 
-#include <algorithm>
-
 #include "codetables/tables/temperature_figures.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
-namespace elements {
-namespace {
-
-bool is_plain_number(std::string_view text) {
-  if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-  const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
-  return std::count(text.begin(), text.end(), '.') <= 1 &&
-         std::any_of(text.begin(), text.end(), is_digit) &&
-         std::all_of(text.begin(), text.end(), [&](char c) { return c == '.' || is_digit(c); });
-}
-
-}  // namespace
+namespace codetables {
 
 std::optional<Celsius> sea_temperature(std::string_view text) {
-  text = text::trim(text);
-  if (!is_plain_number(text)) return std::nullopt;
-  const double value = text::leading_number(text);
-  if (value < -2.0 || value > 37.0) return std::nullopt;
-  return Celsius{value};
+  constexpr double kLowest = -2.0;
+  constexpr double kHighest = 37.0;
+  const auto value = text::strict_number(text::trim(text));
+  if (!value || *value < kLowest || *value > kHighest) return std::nullopt;
+  return Celsius{*value};
 }
 
 SeaTemperatureFigures sea_temperature_figures(Celsius t, SeaTemperatureMethod method) {
   const TemperatureFigures shared = temperature_figures(t);
-  return {sea_temperature_sign(method, shared.sign == "1"), shared.figures};
+  return {sea_temperature_sign(method, shared.text.starts_with('-')), shared.figures};
 }
 
 std::string sea_temperature_text(std::string_view Ss, std::string_view TwTwTw) {
@@ -52,4 +39,4 @@ std::optional<SeaTemperatureMethod> sea_temperature_method(std::string_view Ss) 
   return static_cast<SeaTemperatureMethod>((Ss.front() - '0') / 2);
 }
 
-}  // namespace elements
+}  // namespace codetables

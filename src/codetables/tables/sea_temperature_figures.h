@@ -1,14 +1,17 @@
 #pragma once
-// Sea-surface temperature between its text and the figures of the report.
+// Sea-surface temperature between its text and the figures of the report: tenths of a degree, and
+// sign and method in one figure (code table 3850).
 
 #include <optional>
 #include <string>
 #include <string_view>
 
-#include "elements/formulas/units.h"
-#include "ship/data/ShipFixedData.h"
+#include "codetables/tables/units.h"
 
-namespace elements {
+namespace codetables {
+
+/// In the order of the table.
+enum class SeaTemperatureMethod { kIntake = 0, kBucket = 1, kHullContactSensor = 2, kOther = 3 };
 
 /// A plain decimal number (sign, digits, point) from -2 to 37.0 degrees, blanks around let pass;
 /// else nothing.
@@ -36,4 +39,4 @@ struct SeaTemperatureFigures {
 /// The method in Ss, nothing when it is not of the table.
 [[nodiscard]] std::optional<SeaTemperatureMethod> sea_temperature_method(std::string_view Ss);
 
-}  // namespace elements
+}  // namespace codetables

@@ -5,7 +5,15 @@
 #include "text/numbers.h"
 #include "text/strings.h"
 
-namespace elements {
+namespace codetables {
+namespace {
+
+// Code tables 3845 and 3855.
+constexpr std::string_view kNotBelowZero = "0";
+constexpr std::string_view kBelowZero = "1";
+constexpr std::string_view kIced = "2";
+
+}  // namespace
 
 std::string zero_filled_tenths(double value) {
   // The rounded value decides on the form: 9.96 is "10.0". What rounds to -0.0 is zero, and so has
@@ -20,7 +28,7 @@ namespace {
 
 TemperatureFigures figures_of(std::string text) {
   TemperatureFigures result;
-  result.sign = std::string(1, text.starts_with('-') ? '1' : '0');
+  result.sign = text.starts_with('-') ? kBelowZero : kNotBelowZero;
   result.figures = text;
   result.text = std::move(text);
   std::erase_if(result.figures, [](char c) { return c == '.' || c == '-'; });
@@ -40,8 +48,33 @@ TemperatureFigures computed_dew_point_figures(Celsius td) {
   return figures_of(printed == "-0.0" ? printed : zero_filled_tenths(td.value));
 }
 
+std::string temperature_shown(std::string_view sign, std::string_view figures) {
+  if (!text::is_all_digits(figures)) return std::string(figures);
+  const std::string value = text::format_fixed(text::leading_int(figures) / 10.0, 1);
+  return sign == kBelowZero ? "-" + value : value;
+}
+
+std::optional<int> signed_tenths(std::string_view sign, std::string_view figures) {
+  if (!text::is_all_digits(sign) || !text::is_all_digits(figures)) return std::nullopt;
+  const int value = text::leading_int(figures);
+  return sign == kBelowZero ? -value : value;
+}
+
 std::string wet_bulb_sign(const TemperatureFigures& wet, WetBulbState state) {
-  return state == WetBulbState::kIced ? "2" : wet.sign;
+  return std::string(state == WetBulbState::kIced ? kIced : wet.sign);
+}
+
+bool is_iced(std::string_view Sw) {
+  return Sw == kIced;
+}
+
+bool has_iced_bulb(std::string_view Sw, std::string_view TbTbTb) {
+  return is_iced(Sw) && text::is_all_digits(TbTbTb);
+}
+
+std::string wet_bulb_value_sign(std::string_view Sw, std::string_view TbTbTb) {
+  if (!is_iced(Sw)) return std::string(Sw);
+  return std::string(TbTbTb == "000" ? kNotBelowZero : kBelowZero);
 }
 
 std::string joined_temperature(std::string_view whole, std::string_view tenths) {
@@ -59,4 +92,4 @@ TemperatureRange temperature_range(std::string_view text) {
   return tenths < -250 ? TemperatureRange::kBelow : TemperatureRange::kUsual;
 }
 
-}  // namespace elements
+}  // namespace codetables

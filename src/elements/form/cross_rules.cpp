@@ -1,6 +1,7 @@
 #include "elements/form/cross_rules.h"
 
-#include "elements/form/field_codes.h"
+#include "codetables/tables/temperature_figures.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/formulas/true_wind_rules.h"
 #include "text/ids.h"
 #include "text/numbers.h"
@@ -44,7 +45,7 @@ bool amount_without_types(const W& r) {
 
 // The record's speed is in whole units; fff holds one of 99 and more.
 TrueWindRule wind_rule(const W& r) {
-  const std::string& speed = r.fff.empty() ? r.ff : r.fff;
+  const std::string& speed = codetables::speed_shown(r.ff, r.fff);
   if (r.dd.empty() || speed.empty()) return TrueWindRule::kKept;
   return check_true_wind(r.dd, speed);
 }
@@ -56,28 +57,17 @@ bool direction_without_speed(const W& r) {
   return wind_rule(r) == TrueWindRule::kDirectionWithoutSpeed;
 }
 
-// Signed tenths of a degree, or nothing when a part is missing.
-std::optional<int> tenths(const std::string& sign, const std::string& figures) {
-  if (!text::is_all_digits(sign) || !text::is_all_digits(figures)) return std::nullopt;
-  const int value = text::leading_int(figures);
-  return sign == "1" ? -value : value;
-}
-
-std::optional<int> wet_bulb_tenths(const W& r) {
-  if (!text::is_all_digits(r.Sw)) return std::nullopt;
-  return tenths(wet_bulb_is_negative(r) ? "1" : "0", r.TbTbTb);
-}
-
 bool above_air(std::optional<int> other, const W& r) {
-  const auto air = tenths(r.SnT, r.TTT);
+  const auto air = codetables::signed_tenths(r.SnT, r.TTT);
   return air && other && *other > *air;
 }
 
 bool dew_point_above_air(const W& r) {
-  return above_air(tenths(r.SnTd, r.TdTdTd), r);
+  return above_air(codetables::signed_tenths(r.SnTd, r.TdTdTd), r);
 }
 bool wet_bulb_above_air(const W& r) {
-  return above_air(wet_bulb_tenths(r), r);
+  return above_air(
+      codetables::signed_tenths(codetables::wet_bulb_value_sign(r.Sw, r.TbTbTb), r.TbTbTb), r);
 }
 
 // Wind waves, swells and the wave recorder alike.

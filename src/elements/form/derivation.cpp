@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "codetables/tables/humidity_figures.h"
+#include "codetables/tables/pressure_figures.h"
 #include "codetables/tables/temperature_figures.h"
 #include "elements/form/field_codes.h"
 #include "elements/formulas/barometer_correction.h"
@@ -21,7 +23,7 @@ bool reduce(Entries& entries, const ShipFixedData& ship) {
   const auto reduced = reduce_reading(entries.entered(Field::kReading), ship.card,
                                       air_temperature_of(air_temperature(entries, ship)));
   if (!reduced) return true;
-  if (reduced->range == PressureRange::kRefused) return false;
+  if (reduced->range == codetables::PressureRange::kRefused) return false;
   store_pppp(entries.record, reduced->pppp);
   entries.pppp_of_reading = entries.record.PPPP;
   return true;
@@ -41,19 +43,19 @@ void reduce_again(Entries& entries, const ShipFixedData& ship) {
   entries.error_flag = entries.error_flag || !possible;
 }
 
-void set_humidity(Entries& entries, HumidityTexts humidity) {
+void set_humidity(Entries& entries, codetables::HumidityTexts humidity) {
   entries[Field::kHumidity].show(std::move(humidity.display));
   entries.record.LogExtra = std::move(humidity.logbook);
 }
 
 void compute_humidity(Entries& entries, const ShipFixedData& ship) {
   if (ship.humidity_method != HumidityMethod::kComputed) return;
-  const std::string dew_point = ship.dew_point_method == DewPointMethod::kComputed
-                                    ? temperature_shown(entries.record.SnTd, entries.record.TdTdTd)
-                                    : entries.entered(Field::kDewPoint);
-  set_humidity(
-      entries,
-      humidity_of_texts(air_temperature(entries, ship), dew_point).value_or(HumidityTexts{}));
+  const std::string dew_point =
+      ship.dew_point_method == DewPointMethod::kComputed
+          ? codetables::temperature_shown(entries.record.SnTd, entries.record.TdTdTd)
+          : entries.entered(Field::kDewPoint);
+  set_humidity(entries, humidity_of_texts(air_temperature(entries, ship), dew_point)
+                            .value_or(codetables::HumidityTexts{}));
 }
 
 bool both_bulbs_are_read(const Entries& entries) {
@@ -72,7 +74,7 @@ void compute_dew_point(Entries& entries, const ShipFixedData& ship) {
     return;
   }
   if (td) {
-    const TemperatureFigures figures = computed_dew_point_figures(*td);
+    const codetables::TemperatureFigures figures = codetables::computed_dew_point_figures(*td);
     const std::string earlier = record.SnTd + record.TdTdTd;
     record.SnTd = figures.sign;
     record.TdTdTd = figures.figures;

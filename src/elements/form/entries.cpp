@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <utility>
 
+#include "codetables/tables/humidity_figures.h"
+#include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/quadrant.h"
 #include "codetables/tables/sea_temperature_figures.h"
 #include "codetables/tables/temperature_figures.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/form/field_codes.h"
-#include "elements/formulas/relative_humidity.h"
-#include "elements/formulas/sea_level_pressure.h"
-#include "elements/formulas/true_wind.h"
+#include "elements/formulas/psychrometer.h"
 #include "text/numbers.h"
 
 namespace elements {
@@ -18,15 +20,16 @@ void store_temperature(Entries& entries, const FieldRow& row, const std::string&
                        const ShipFixedData& ship) {
   if (!text::number_at_start(value)) return;  // "///": its group has stored it
   const Celsius t{text::leading_number(value)};
-  const TemperatureFigures figures = temperature_figures(t);
+  const codetables::TemperatureFigures figures = codetables::temperature_figures(t);
   std::string sign = figures.sign;
   if (row.codec == Codec::kWetBulb) {
     if (entries.wet_bulb == WetBulbState::kIced && !can_be_iced(t))
       entries.wet_bulb = WetBulbState::kNotSet;
-    sign = wet_bulb_sign(figures, entries.wet_bulb);
+    sign = codetables::wet_bulb_sign(figures, entries.wet_bulb);
   } else if (row.codec == Codec::kSeaTemperature) {
-    const auto method = sea_temperature_method(entries.record.*row.beside);
-    sign = sea_temperature_sign(method.value_or(ship.sea_temperature_method), figures.sign == "1");
+    const auto method = codetables::sea_temperature_method(entries.record.*row.beside);
+    sign = codetables::sea_temperature_sign(method.value_or(ship.sea_temperature_method),
+                                            figures.sign == "1");
   }
   entries.record.*row.beside = sign;
   entries.record.*row.member = figures.figures;
@@ -67,7 +70,7 @@ void store(Entries& entries, Field field, const std::string& value, const ShipFi
       record.*row.member = figures_of(field, value);
       break;
     case Codec::kPressure:
-      store_pppp(record, pppp_of(value));
+      store_pppp(record, codetables::pppp_of(value));
       break;
     case Codec::kTemperature:
     case Codec::kWetBulb:
@@ -75,13 +78,13 @@ void store(Entries& entries, Field field, const std::string& value, const ShipFi
       store_temperature(entries, row, value, ship);
       break;
     case Codec::kSpeed: {
-      const WindFigures figures = wind_figures({}, value);
+      const codetables::WindFigures figures = codetables::wind_figures({}, value);
       record.*row.member = figures.ff;
       record.*row.beside = figures.fff;
       break;
     }
     case Codec::kHumidity:
-      record.*row.member = humidity_texts(Percent{text::leading_number(value)}).logbook;
+      record.*row.member = codetables::humidity_texts(Percent{text::leading_number(value)}).logbook;
       break;
   }
 }
@@ -105,12 +108,12 @@ void show_changes(Entries& entries, const Struct_Weather& before, const ShipFixe
     if (now != shown(row, before, ship)) entries[row.field].show(std::move(now));
   }
   if (record.Qc != before.Qc) {
-    entries.north_south = north_south_of(record.Qc);
-    entries.east_west = east_west_of(record.Qc);
+    entries.north_south = codetables::north_south_of(record.Qc);
+    entries.east_west = codetables::east_west_of(record.Qc);
   }
   if (time_and_place(record) != time_and_place(before)) entries.review_due = true;
-  if (record.Sw == before.Sw) return;
-  if (record.Sw == "2") {
+  if (record.Sw == before.Sw && record.TbTbTb == before.TbTbTb) return;
+  if (codetables::has_iced_bulb(record.Sw, record.TbTbTb)) {
     entries.wet_bulb = WetBulbState::kIced;
   } else if (entries.wet_bulb == WetBulbState::kIced) {
     entries.wet_bulb = WetBulbState::kNotSet;

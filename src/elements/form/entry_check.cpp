@@ -3,15 +3,17 @@
 #include <algorithm>
 #include <utility>
 
+#include "codetables/tables/humidity_figures.h"
+#include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/pressure_tendency.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/form/cross_rules.h"
 #include "elements/form/field_codes.h"
 #include "elements/formulas/barometer_correction.h"
-#include "elements/formulas/calendar_date.h"
-#include "elements/formulas/pressure_tendency.h"
-#include "elements/formulas/relative_humidity.h"
+#include "elements/formulas/observation_years.h"
 #include "elements/formulas/sea_level_pressure.h"
-#include "elements/formulas/true_wind.h"
 #include "elements/formulas/true_wind_rules.h"
+#include "platform/calendar.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -29,7 +31,8 @@ int days_of_month(const Struct_Weather& record) {
   if (month < 1 || month > 12) return 31;
   // Before the year is known a 29th of February may be right.
   constexpr int kSomeLeapYear = 2000;
-  return days_in_month(record.Year.empty() ? kSomeLeapYear : text::leading_int(record.Year), month);
+  return platform::days_in_month(
+      record.Year.empty() ? kSomeLeapYear : text::leading_int(record.Year), month);
 }
 
 // Four figures without a point are the code of the report ("9987"), never a pressure in hPa: "1013"
@@ -42,9 +45,10 @@ bool beyond(const std::string& degrees, const std::string& minutes, int limit) {
   return text::leading_int(degrees) == limit && text::leading_int(minutes) > 0;
 }
 
-CheckedEntry by_range(PressureRange range, std::string value) {
-  if (range == PressureRange::kRefused) return {refused(id::kSeaLevelPressureRange), {}};
-  const bool asks = range == PressureRange::kAsks;
+CheckedEntry by_range(codetables::PressureRange range, std::string value) {
+  if (range == codetables::PressureRange::kRefused)
+    return {refused(id::kSeaLevelPressureRange), {}};
+  const bool asks = range == codetables::PressureRange::kAsks;
   return {asks ? Answer{Answer::Kind::kAsks, {id::kPressureQuestion}} : Answer{}, std::move(value)};
 }
 
@@ -59,8 +63,10 @@ CheckedEntry check_reading(const Entries& entries, const ShipFixedData& ship,
 
 Checked check_read_humidity(std::string_view typed, const ShipFixedData& ship) {
   const bool whole = ship.humidity_unit == 1.0;
-  const bool accepted = check_humidity(typed, whole) == HumidityCheck::kAccepted;
-  return {accepted ? Verdict::kAccepted : Verdict::kRefused, shown_humidity(typed, whole)};
+  const bool accepted =
+      codetables::check_humidity(typed, whole) == codetables::HumidityCheck::kAccepted;
+  return {accepted ? Verdict::kAccepted : Verdict::kRefused,
+          codetables::shown_humidity(typed, whole)};
 }
 
 // The rules that this field's editor raises, tested on the form as it would be.
@@ -106,14 +112,15 @@ CheckedEntry check_entry(const Entries& entries, const Surroundings& around, Fie
   if (checked.verdict == Verdict::kRefused)
     return {refused(range_notice(field, record, around.clock)), {}};
   if (field == Field::kff) {
-    // Below one knot the decimals decide which rule is broken, so the rule is asked before they go.
+    // Below one knot the decimals decide which rule is broken, so the rule is asked before they go;
+    // and they go once: 0.49 is no knot, though to one decimal it is 0.5.
     if (!record.dd.empty() &&
-        check_true_wind(record.dd, checked.text) == TrueWindRule::kDirectionBelowOneKnot)
+        check_true_wind(record.dd, typed) == TrueWindRule::kDirectionBelowOneKnot)
       return {refused(id::kDirectionBelowOneKnot), {}};
     checked.text = text::format_int(
-        static_cast<int>(whole_units(Knot{text::leading_number(checked.text)})), 2, '0');
+        static_cast<int>(codetables::whole_units(Knot{text::leading_number(typed)})), 2, '0');
   }
-  if (field == Field::kppp) checked.text = tendency_amount_text(checked.text);
+  if (field == Field::kppp) checked.text = codetables::tendency_amount_text(checked.text);
   if (Answer answer = check_rules(entries, around, field, checked.text); !answer.accepted())
     return {std::move(answer), {}};
   std::vector<text::Id> questions;
@@ -157,8 +164,9 @@ Answer asked(const std::vector<text::Id>& questions, Confirmed confirmed) {
 
 text::Id question_about(Field field, const std::string& value, const Struct_Weather& record) {
   if (field == Field::kppp)
-    return check_tendency("/", value) == TendencyCheck::kAsks ? id::kTendencyAmountQuestion
-                                                              : text::Id();
+    return codetables::check_tendency("/", value) == codetables::TendencyCheck::kAsks
+               ? id::kTendencyAmountQuestion
+               : text::Id();
   const bool far = (field == Field::kGGExact && is_far_from_hour(record.GG, value, record.gg)) ||
                    (field == Field::kgg && is_far_from_hour(record.GG, record.GGExact, value));
   return far ? id::kExactTimeQuestion : text::Id();
@@ -166,10 +174,12 @@ text::Id question_about(Field field, const std::string& value, const Struct_Weat
 
 CheckedEntry check_pressure(std::string_view typed) {
   if (is_pppp_code(typed))
-    return by_range(pppp_range(text::leading_int(typed)), pressure_shown(typed));
+    return by_range(codetables::pppp_range(text::leading_int(typed)),
+                    codetables::pressure_shown(typed));
   const auto number = text::strict_number(typed);
   if (!number) return {refused(id::kSeaLevelPressureRange), {}};
-  return by_range(pressure_range(Hectopascal{*number}), text::format_fixed(*number, 1, 6, '0'));
+  return by_range(codetables::pressure_range(Hectopascal{*number}),
+                  codetables::pressure_text({*number}));
 }
 
 bool is_impossible(Field field, const Struct_Weather& record) {

@@ -2,7 +2,9 @@
 
 #include <utility>
 
+#include "codetables/tables/quadrant.h"
 #include "codetables/tables/sea_temperature_figures.h"
+#include "codetables/tables/temperature_figures.h"
 #include "elements/form/derivation.h"
 #include "elements/form/entry_check.h"
 #include "elements/form/field_codes.h"
@@ -122,7 +124,7 @@ void ObservationForm::finish(const Struct_Weather& before, Follows what,
 }
 
 void ObservationForm::choose_hemispheres(int north_south, int east_west) {
-  const std::string quadrant = quadrant_of(north_south, east_west);
+  const std::string quadrant = codetables::quadrant_of(north_south, east_west);
   now_.north_south = north_south;
   now_.east_west = east_west;
   if (quadrant != record().Qc) now_.review_due = now_.modified = true;
@@ -195,8 +197,9 @@ void ObservationForm::ship_changed() {
     }
   }
   // The method stands in the sign's figure. One that was chosen for this observation alone stays.
-  if (sea_temperature_method(record.Ss) == now_.sea_temperature_method)
-    record.Ss = sea_temperature_sign(ship.sea_temperature_method, is_below_zero(record.Ss));
+  if (codetables::sea_temperature_method(record.Ss) == now_.sea_temperature_method)
+    record.Ss = codetables::sea_temperature_sign(ship.sea_temperature_method,
+                                                 codetables::is_below_zero(record.Ss));
   now_.sea_temperature_method = ship.sea_temperature_method;
   put_unused_aside();
   const Struct_Weather as_entered = record;
@@ -258,9 +261,9 @@ void ObservationForm::load_record(const Struct_Weather& record) {
   loaded.record = record;
   loaded.dew_point_method = ship.dew_point_method;
   loaded.sea_temperature_method = ship.sea_temperature_method;
-  loaded.north_south = north_south_of(record.Qc);
-  loaded.east_west = east_west_of(record.Qc);
-  if (record.Sw == "2") loaded.wet_bulb = WetBulbState::kIced;
+  loaded.north_south = codetables::north_south_of(record.Qc);
+  loaded.east_west = codetables::east_west_of(record.Qc);
+  if (codetables::has_iced_bulb(record.Sw, record.TbTbTb)) loaded.wet_bulb = WetBulbState::kIced;
   for (const FieldRow& row : field_rows()) {
     Entry& entry = loaded[row.field];
     entry.text = shown(row, record, ship);

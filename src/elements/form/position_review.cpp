@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "codetables/tables/quadrant.h"
 #include "elements/formulas/ship_movement.h"
 #include "observation/report_file.h"
 #include "observation/report_reader.h"
@@ -43,8 +44,8 @@ std::optional<SignedPosition> signed_position(const Struct_Weather& record) {
   const auto degrees = [](const std::string& whole, const std::string& minutes) {
     return text::leading_int(whole) + text::leading_int(minutes) / kMinutes;
   };
-  const bool south = record.Qc == "3" || record.Qc == "5";
-  const bool west = record.Qc == "5" || record.Qc == "7";
+  const bool south = codetables::north_south_of(record.Qc) == 1;
+  const bool west = codetables::east_west_of(record.Qc) == 1;
   const double latitude = degrees(record.LaDeg, record.LaMin);
   const double longitude = degrees(record.LoDeg, record.LoMin);
   return SignedPosition{south ? -latitude : latitude, west ? -longitude : longitude};

@@ -26,7 +26,7 @@ struct SignedPosition {
 struct EarlierPosition {
   /// Nothing when the date is not complete, the report does not exist or cannot be read, or a
   /// figure of its position groups is missing.
-  std::optional<TenthsPosition> position;
+  std::optional<codetables::TenthsPosition> position;
   std::string report = {};  ///< path of the report; empty when the date is not complete
   /// Why a report cannot be read of which one cannot say that it does not exist.
   platform::FileError unreadable = platform::FileError::kNone;

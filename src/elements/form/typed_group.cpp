@@ -4,11 +4,12 @@
 #include <string>
 #include <utility>
 
+#include "codetables/tables/minutes.h"
+#include "codetables/tables/quadrant.h"
 #include "codetables/tables/sea_temperature_figures.h"
 #include "elements/form/cross_rules.h"
 #include "elements/form/entry_check.h"
 #include "elements/form/field_codes.h"
-#include "elements/formulas/sea_level_pressure.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -33,9 +34,11 @@ struct SignRow {
   text::Id message;
 };
 constexpr SignRow kSigns[] = {
-    {&W::SnT, "01", id::kSignRange},   {&W::SnTd, "01", id::kSignRange},
-    {&W::Sw, "012", id::kSignRange},   {&W::Ss, "01234567", id::kInputError},
-    {&W::Qc, "1357", id::kInputError},
+    {&W::SnT, "01", id::kSignRange},
+    {&W::SnTd, "01", id::kSignRange},
+    {&W::Sw, "012", id::kSignRange},
+    {&W::Ss, "01234567", id::kInputError},
+    {&W::Qc, codetables::kQuadrants, id::kInputError},
 };
 
 const SignRow* sign_row(Member member) {
@@ -151,8 +154,9 @@ class Trial {
     std::string& minutes = record_.*member;
     if (figure == "*" || figure == "/") {
       minutes.clear();
-    } else if (text::leading_int(figure) != text::leading_int(minutes) / 6 || minutes.empty()) {
-      minutes = text::format_int(6LL * (figure.front() - '0'), 2, '0');
+    } else if (minutes.empty() || text::leading_int(figure) !=
+                                      codetables::tenths_of_minutes(text::leading_int(minutes))) {
+      minutes = codetables::minutes_of_tenth(figure.front());
     }
     changed_.push_back(*field_of(member, around_.ship));
     return {};
@@ -261,8 +265,8 @@ class Trial {
       std::string& sign = record_.*row.beside;
       if (row.codec != Codec::kSeaTemperature) {
         if (sign == "1") sign = "0";
-      } else if (const auto method = sea_temperature_method(sign)) {
-        sign = sea_temperature_sign(*method, false);
+      } else if (const auto method = codetables::sea_temperature_method(sign)) {
+        sign = codetables::sea_temperature_sign(*method, false);
       }
     }
   }

@@ -5,13 +5,13 @@
 #include <string>
 #include <string_view>
 
+#include "codetables/tables/temperature_figures.h"
 #include "elements/formulas/units.h"
 #include "ship/data/ShipFixedData.h"
 
 namespace elements {
 
-/// State of the wet bulb. Only an iced bulb takes the formula for ice.
-enum class WetBulbState { kNotSet = -1, kIced = 0, kNotIced = 1 };
+using codetables::WetBulbState;
 
 /// Ice can be on a bulb below 0.1 degrees only.
 [[nodiscard]] bool can_be_iced(Celsius wet);

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "codetables/tables/pressure_figures.h"
 #include "elements/formulas/barometer_correction.h"
 #include "elements/formulas/units.h"
-#include "observation/Struct_Weather.h"
 #include "ship/data/ShipFixedData.h"
 
 namespace elements {
@@ -30,26 +30,12 @@ struct ReadingParts {
 /// digit behind it. Six digits without a point are refused: that is a reading in tenths or pascals.
 [[nodiscard]] bool is_reading(std::string_view reading);
 
-/// What is to be done with a pressure at sea level.
-enum class PressureRange {
-  kAccepted,
-  kAsks,     ///< unusual: the Yes/No question, kept on Yes
-  kRefused,  ///< impossible
-};
-
-/// 930.0 to 1050.0 hPa is accepted, 870.0 up to but not 1070.0 asks.
-[[nodiscard]] PressureRange pressure_range(Hectopascal sea_level);
-
-/// The same for a typed four-digit PPPP, where the thousands are missing: 0-500 and 9300-9999 are
-/// accepted, 501-700 and 8700-9299 ask. Anything outside 0-9999 is refused.
-[[nodiscard]] PressureRange pppp_range(int pppp);
-
 /// A reading reduced to sea level.
 struct SeaLevelPressure {
   Hectopascal value;  ///< not rounded; the range test works on it
-  PressureRange range = PressureRange::kRefused;
-  std::string reading;  ///< the reading rewritten as "%06.1f"
-  std::string display;  ///< the pressure at sea level as "%06.1f"
+  codetables::PressureRange range = codetables::PressureRange::kRefused;
+  std::string reading;  ///< the reading as it is shown
+  std::string display;  ///< the pressure at sea level as it is shown
   std::string pppp;     ///< four figures, thousands dropped
 };
 
@@ -62,12 +48,5 @@ struct SeaLevelPressure {
 [[nodiscard]] std::optional<SeaLevelPressure> reduce_reading(std::string_view reading,
                                                              const BarometerCard& card,
                                                              std::optional<Celsius> air);
-
-/// PPPP of a pressure text: without its point, the last four figures, zeros in front up to four.
-[[nodiscard]] std::string pppp_of(std::string_view pressure);
-
-/// Stores PPPP. A changed pressure invalidates the characteristic of the tendency, so `a` is
-/// cleared; the same value again, or an emptied one, leaves it.
-void store_pppp(Struct_Weather& record, const std::string& pppp);
 
 }  // namespace elements

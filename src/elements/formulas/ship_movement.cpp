@@ -16,17 +16,10 @@ struct Band {
 constexpr Band kLongitudeBands[] = {
     {0, 398, kLimit}, {400, 498, 30}, {500, 598, 42}, {600, 698, 60}, {700, 798, 81}};
 
-int signed_latitude(const TenthsPosition& at) {
-  return at.quadrant == 3 || at.quadrant == 5 ? -at.latitude : at.latitude;
-}
-int signed_longitude(const TenthsPosition& at) {
-  return at.quadrant == 5 || at.quadrant == 7 ? -at.longitude : at.longitude;
-}
-
 }  // namespace
 
-MovementWarning check_movement(const TenthsPosition& current,
-                               const TenthsPosition& three_hours_earlier) {
+MovementWarning check_movement(const codetables::TenthsPosition& current,
+                               const codetables::TenthsPosition& three_hours_earlier) {
   const int north = std::abs(signed_latitude(current) - signed_latitude(three_hours_earlier));
   const int east = std::abs(signed_longitude(current) - signed_longitude(three_hours_earlier));
   for (const Band& band : kLongitudeBands) {

@@ -1,7 +1,7 @@
 #pragma once
 // Is the ship's movement over three hours possible?
 
-#include "observation/Struct_Weather.h"
+#include "codetables/tables/quadrant.h"
 
 namespace elements {
 
@@ -12,7 +12,7 @@ enum class MovementWarning { kNone, kLatitude, kLongitude };
 /// limit that grows with the current latitude, and then replaces the other. The bands leave gaps
 /// (39.9, 49.9, 59.9, 69.9 and from 79.9 up), where longitude never warns; crossing the date line
 /// counts as a very large change.
-[[nodiscard]] MovementWarning check_movement(const TenthsPosition& current,
-                                             const TenthsPosition& three_hours_earlier);
+[[nodiscard]] MovementWarning check_movement(const codetables::TenthsPosition& current,
+                                             const codetables::TenthsPosition& three_hours_earlier);
 
 }  // namespace elements

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "elements/formulas/rounding.h"
+#include "codetables/tables/wind_figures.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -11,7 +11,6 @@ namespace elements {
 namespace {
 
 constexpr double kRadiansPerDegree = 0.017453292522222223;  // 3.141592654 / 180
-constexpr double kLargestSpeed = 999.0;
 
 // Direction that a wind vector (x north, y east) comes from. With the north component first,
 // atan2 gives the mathematical angle; the two halves cancel, so the direction is cut.
@@ -20,24 +19,14 @@ int from_direction(double x, double y) {
   const double angle = std::atan2(x, y) / kRadiansPerDegree;
   double degrees = 90.0 - (angle + 0.5 + 180.0);
   if (degrees < 0.0) degrees += 360.0;
-  return static_cast<int>(truncated(degrees + 0.5));
+  return static_cast<int>(text::truncated(degrees + 0.5));
 }
 
 }  // namespace
 
-double whole_units(Knot speed) {
-  const double whole = std::trunc(speed.value);
-  return speed.value - whole >= 0.5 ? whole + 1.0 : whole;
-}
-
-int direction_code(Degree direction) {
-  if (direction.value < 5 || direction.value >= 355) return 36;
-  return (direction.value + 5) / 10;
-}
-
 TrueWind true_wind(const ApparentWind& apparent) {
-  const double wind = whole_units(apparent.speed);
-  const double ship = whole_units(apparent.ship_speed);
+  const double wind = codetables::whole_units(apparent.speed);
+  const double ship = codetables::whole_units(apparent.ship_speed);
   // In doubles: typed degrees may be of any size, and their sum must not overflow.
   double blows_from = static_cast<double>(apparent.heading.value) + apparent.direction.value;
   if (blows_from > 360.0) blows_from -= 360.0;
@@ -48,9 +37,9 @@ TrueWind true_wind(const ApparentWind& apparent) {
 
   TrueWind result;
   const double speed = std::floor(std::sqrt(x * x + y * y) + 0.5);
-  result.speed = static_cast<int>(std::min(speed, kLargestSpeed));
+  result.speed = static_cast<int>(std::min(speed, codetables::kLargestSpeed));
   result.direction = {from_direction(x, y)};
-  result.code = result.speed == 0 ? 0 : direction_code(result.direction);
+  result.code = result.speed == 0 ? 0 : codetables::direction_code(result.direction);
   return result;
 }
 
@@ -71,20 +60,6 @@ std::optional<TrueWindTexts> true_wind_of_texts(const ApparentWindTexts& texts) 
                                    .direction = {text::leading_int(direction)},
                                    .speed = {text::leading_number(speed)}});
   return TrueWindTexts{text::format_int(wind.code), text::format_int(wind.speed)};
-}
-
-WindFigures wind_figures(std::string_view direction, std::string_view speed) {
-  direction = text::trim(direction);
-  speed = text::trim(speed);
-  WindFigures figures{std::string(direction), std::string(speed), {}};
-  if (text::is_all_digits(direction))
-    figures.dd = text::format_digits(text::leading_int(direction), 2);
-  if (speed.empty() || speed == "//") return figures;
-  const long long units =
-      truncated(std::min(whole_units({text::leading_number(speed)}), kLargestSpeed));
-  figures.ff = text::format_digits(std::min(units, 99LL), 2);
-  if (units >= 99) figures.fff = text::format_digits(units, 3);
-  return figures;
 }
 
 }  // namespace elements

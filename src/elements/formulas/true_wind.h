@@ -28,12 +28,6 @@ struct TrueWind {
 /// it.
 [[nodiscard]] TrueWind true_wind(const ApparentWind& apparent);
 
-/// Code of a wind direction: tens of degrees, 36 for north (below 5 and from 355 up).
-[[nodiscard]] int direction_code(Degree direction);
-
-/// The integer part, plus 1 when the fraction is 0.5 or more.
-[[nodiscard]] double whole_units(Knot speed);
-
 /// Direction code ("%d") and speed ("%d") as the form holds them.
 struct TrueWindTexts {
   std::string direction;
@@ -49,13 +43,5 @@ struct ApparentWindTexts {
   bool operator==(const ApparentWindTexts&) const = default;
 };
 [[nodiscard]] std::optional<TrueWindTexts> true_wind_of_texts(const ApparentWindTexts& texts);
-
-/// The form's true direction and speed as the record's figures: two for the direction, two for the
-/// whole speed; from 99 units up ff is "99" and fff has the speed in three. "//" stays, empty too.
-struct WindFigures {
-  std::string dd, ff, fff;
-  bool operator==(const WindFigures&) const = default;
-};
-[[nodiscard]] WindFigures wind_figures(std::string_view direction, std::string_view speed);
 
 }  // namespace elements

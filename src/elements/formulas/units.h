@@ -1,28 +1,16 @@
 #pragma once
-// Quantities by name, so that a height cannot be handed over where a temperature is meant.
+// What formulas take and give.
+
+#include "codetables/tables/units.h"
 
 namespace elements {
 
-struct Hectopascal {
-  double value = 0.0;
-};
-/// Air, wet-bulb or dew-point temperature, degrees Celsius.
-struct Celsius {
-  double value = 0.0;
-};
-struct Metre {
-  double value = 0.0;
-};
-struct Knot {
-  double value = 0.0;
-};
-/// Whole degrees clockwise; from north unless said otherwise.
-struct Degree {
-  int value = 0;
-};
-struct Percent {
-  double value = 0.0;
-};
+using codetables::Celsius;
+using codetables::Degree;
+using codetables::Hectopascal;
+using codetables::Knot;
+using codetables::Metre;
+using codetables::Percent;
 
 /// What a formula returns when it cannot compute.
 inline constexpr double kNotComputable = -999.0;

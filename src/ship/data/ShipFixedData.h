@@ -3,13 +3,15 @@
 
 #include <string>
 
+#include "codetables/tables/sea_temperature_figures.h"
+
 /// Kinds of barometer correction card. Card type "1" reduces with height and temperature; card type
 /// "2" is one fixed total correction.
 enum class CardType { kNotChosen = -1, kHeightAndTemperature = 0, kTotalCorrection = 1 };
 enum class LoadingState { kNotChosen = -1, kFullLoad = 0, kInBallast = 1 };
 enum class WindInputMethod { kTrueWind = 0, kApparentWind = 1 };
 enum class WindSpeedMethod { kBeaufortScale = 0, kAnemometer = 1 };
-enum class SeaTemperatureMethod { kIntake = 0, kBucket = 1, kHullContactSensor = 2, kOther = 3 };
+using codetables::SeaTemperatureMethod;
 enum class DewPointMethod { kDirect = 0, kComputed = 1 };
 enum class HumidityMethod { kDirect = 0, kComputed = 1 };
 

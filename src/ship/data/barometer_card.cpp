@@ -64,22 +64,15 @@ const Row* row_of(CardField field) {
   return at == std::end(kRows) ? nullptr : at;
 }
 
-// A sign or none, digits, and perhaps a point with digits. Too many decimals are another matter.
-bool is_numeric(std::string_view value) {
-  if (!value.empty() && (value.front() == '+' || value.front() == '-')) value.remove_prefix(1);
-  const auto point = value.find('.');
-  if (!text::is_all_digits(value.substr(0, point))) return false;
-  if (point == std::string_view::npos || point + 1 == value.size()) return true;
-  return text::is_all_digits(value.substr(point + 1));
-}
-
 std::size_t decimals(std::string_view value) {
   const auto point = value.find('.');
   return point == std::string_view::npos ? 0 : value.size() - point - 1;
 }
 
+// Too many decimals are another matter.
 bool is_well_formed(const std::string& value, Form form) {
-  return form == Form::kHeight ? text::is_all_digits(value) : is_numeric(value);
+  return form == Form::kHeight ? text::is_all_digits(value)
+                               : text::is_number(value, text::kCorrection);
 }
 
 // A partner that is missing or no number bounds nothing: it gets a message of its own.

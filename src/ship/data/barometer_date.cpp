@@ -1,8 +1,6 @@
 #include "ship/data/barometer_date.h"
 
-#include <algorithm>
-#include <array>
-
+#include "platform/calendar.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -10,19 +8,13 @@ namespace {
 
 constexpr int kFirstDay = 20000101;
 
-int days_of(int year, int month) {
-  static constexpr std::array<int, 12> kDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  const bool leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-  return month == 2 && leap ? 29 : kDays[static_cast<std::size_t>(month - 1)];
-}
-
-bool has_shape(std::string_view date) {
-  if (date.size() != 10 || date[4] != '/' || date[7] != '/') return false;
-  return text::is_all_digits(text::replace_all(date, "/", "")) &&
-         std::count(date.begin(), date.end(), '/') == 2;
-}
-
 }  // namespace
+
+bool is_slashed_date(std::string_view text) {
+  return text.size() == 10 && text[4] == '/' && text[7] == '/' &&
+         text::is_all_digits(text.substr(0, 4)) && text::is_all_digits(text.substr(5, 2)) &&
+         text::is_all_digits(text.substr(8));
+}
 
 bool is_check_date_missing(std::string_view text) {
   const std::string plain = text::without_spaces(text);
@@ -44,7 +36,7 @@ std::string normalised_check_date(std::string_view text) {
 
 bool is_check_date(std::string_view text, const platform::DateTime& today) {
   const std::string date = text::without_spaces(text);
-  if (!has_shape(date)) return false;
+  if (!is_slashed_date(date)) return false;
   const std::string_view figures = date;
   const int year = text::leading_int(figures.substr(0, 4));
   const int month = text::leading_int(figures.substr(5, 2));
@@ -52,7 +44,7 @@ bool is_check_date(std::string_view text, const platform::DateTime& today) {
   const int number = year * 10000 + month * 100 + day;
   if (number < kFirstDay || number > today.year * 10000 + today.month * 100 + today.day)
     return false;
-  return month >= 1 && month <= 12 && day >= 1 && day <= days_of(year, month);
+  return platform::is_calendar_date(year, month, day);
 }
 
 std::string slashed_date(const platform::DateTime& date) {

@@ -16,6 +16,9 @@ inline constexpr std::string_view kCheckDatePlaceholder = "yyyy/mm/dd";
 /// parts between two "/" only loses its spaces.
 [[nodiscard]] std::string normalised_check_date(std::string_view text);
 
+/// True for figures in the places of yyyy/mm/dd, whether or not there is such a day.
+[[nodiscard]] bool is_slashed_date(std::string_view text);
+
 /// True for an existing day from 2000/01/01 to `today` (local), written yyyy/mm/dd; spaces do not
 /// count. 2014/02/30 is no day.
 [[nodiscard]] bool is_check_date(std::string_view text, const platform::DateTime& today);

@@ -120,24 +120,14 @@ void decode_wind_speed(std::string_view field, ShipFixedData& data) {
 
 // Sign and type of the sea temperature, the figure for a positive one.
 std::string encode_sea_temperature(const ShipFixedData& data) {
-  switch (data.sea_temperature_method) {
-    case SeaTemperatureMethod::kBucket:
-      return "2";
-    case SeaTemperatureMethod::kHullContactSensor:
-      return "4";
-    case SeaTemperatureMethod::kOther:
-      return "6";
-    case SeaTemperatureMethod::kIntake:
-      break;
-  }
-  return "0";
+  return codetables::sea_temperature_sign(data.sea_temperature_method, false);
 }
 
 void decode_sea_temperature(std::string_view field, ShipFixedData& data) {
-  data.sea_temperature_method = field == "2"   ? SeaTemperatureMethod::kBucket
-                                : field == "4" ? SeaTemperatureMethod::kHullContactSensor
-                                : field == "6" ? SeaTemperatureMethod::kOther
-                                               : SeaTemperatureMethod::kIntake;
+  const auto method = codetables::sea_temperature_method(field);
+  data.sea_temperature_method = codetables::is_below_zero(field)
+                                    ? SeaTemperatureMethod::kIntake
+                                    : method.value_or(SeaTemperatureMethod::kIntake);
 }
 
 std::string encode_dew_point(const ShipFixedData& data) {

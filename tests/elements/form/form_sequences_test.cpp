@@ -43,7 +43,7 @@ class Sequence {
     EXPECT_EQ(observation::missing_list(report.missing, text::Language::kEnglish), missing);
     EXPECT_TRUE(form.record().PPPP.empty() || form.record().PPPP.size() == 4 ||
                 form.record().PPPP == "////");
-    EXPECT_EQ(elements::quadrant_of(form.entries().north_south, form.entries().east_west),
+    EXPECT_EQ(codetables::quadrant_of(form.entries().north_south, form.entries().east_west),
               form.record().Qc == "/" ? "" : form.record().Qc);
   }
 

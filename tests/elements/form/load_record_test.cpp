@@ -7,6 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/quadrant.h"
+#include "codetables/tables/temperature_figures.h"
 #include "elements/form/field_codes.h"
 #include "elements/form/random_entries.h"
 #include "observation/logbook_encoder.h"
@@ -126,15 +129,16 @@ TEST(LoadedRecord, StandsInEveryField) {
           EXPECT_EQ(text, "") << row.name;
         }
       }
-      EXPECT_EQ(form.form->text(Field::kPPPP), elements::pressure_shown(record.PPPP));
-      const std::string air = elements::temperature_shown(record.SnT, record.TTT);
+      EXPECT_EQ(form.form->text(Field::kPPPP), codetables::pressure_shown(record.PPPP));
+      const std::string air = codetables::temperature_shown(record.SnT, record.TTT);
       EXPECT_EQ(form.form->text(Field::kDryBulb), computed ? air : "");
       EXPECT_EQ(form.form->text(Field::kAirTemperature), computed ? "" : air);
       const elements::Entries& entries = form.form->entries();
       if (record.Qc.size() == 1 && record.Qc != "/") {
-        EXPECT_EQ(elements::quadrant_of(entries.north_south, entries.east_west), record.Qc);
+        EXPECT_EQ(codetables::quadrant_of(entries.north_south, entries.east_west), record.Qc);
       }
-      EXPECT_EQ(entries.wet_bulb == WetBulbState::kIced, record.Sw == "2");
+      EXPECT_EQ(entries.wet_bulb == WetBulbState::kIced,
+                record.Sw == "2" && text::is_all_digits(record.TbTbTb));
     });
   }
 }

@@ -116,11 +116,11 @@ TEST(MinusZero, TypedOnTheFormIsZeroInTheRecord) {
 TEST(MinusZero, HasASignOnlyWhereThereIsAFigure) {
   for (int hundredths = -4000; hundredths <= 4000; ++hundredths) {
     const elements::Celsius t{hundredths / 100.0};
-    const auto figures = elements::temperature_figures(t);
+    const auto figures = codetables::temperature_figures(t);
     const bool below = hundredths < 0 && figures.figures != "000";
     EXPECT_EQ(figures.sign, below ? "1" : "0") << hundredths;
     EXPECT_EQ(figures.text.starts_with('-'), below) << hundredths;
-    const auto sea = elements::sea_temperature_figures(t, SeaTemperatureMethod::kBucket);
+    const auto sea = codetables::sea_temperature_figures(t, SeaTemperatureMethod::kBucket);
     EXPECT_EQ(sea.Ss, below ? "3" : "2") << hundredths;
     EXPECT_EQ(sea.TwTwTw, figures.figures) << hundredths;
   }

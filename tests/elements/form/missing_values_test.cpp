@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "codetables/tables/pressure_tendency.h"
 #include "codetables/tables/sea_temperature_figures.h"
 #include "elements/form/form_under_test.h"
 #include "elements/form/position_review.h"
 #include "elements/formulas/barometer_correction.h"
-#include "elements/formulas/pressure_tendency.h"
 #include "elements/formulas/psychrometer.h"
 #include "elements/formulas/relative_humidity.h"
 #include "elements/formulas/sea_level_pressure.h"
@@ -92,7 +92,7 @@ const Formula kFormulas[] = {
      }},
     {"sea temperature",
      {"21.5"},
-     [](const auto& in) { return elements::sea_temperature(in[0]).has_value(); }},
+     [](const auto& in) { return codetables::sea_temperature(in[0]).has_value(); }},
     {"true wind speed",
      {"12"},
      [](const auto& in) { return elements::true_wind_speed(in[0]) != elements::kUnknownSpeed; }},
@@ -135,10 +135,10 @@ TEST(MissingValues, OfTheAirLeaveTheCardsCorrection) {
 
 TEST(MissingValues, OfTheTendencyLeaveTheChoiceToTheCharacteristic) {
   for (const char* const missing : kMissing) {
-    EXPECT_EQ(elements::tendency_kind("2", missing), elements::TendencyKind::kRisen) << missing;
-    EXPECT_EQ(elements::tendency_kind("7", missing), elements::TendencyKind::kDescended);
-    EXPECT_EQ(elements::tendency_kind("4", missing), elements::TendencyKind::kSame);
-    EXPECT_EQ(elements::check_tendency("4", missing), elements::TendencyCheck::kAccepted);
+    EXPECT_EQ(codetables::tendency_kind("2", missing), codetables::TendencyKind::kRisen) << missing;
+    EXPECT_EQ(codetables::tendency_kind("7", missing), codetables::TendencyKind::kDescended);
+    EXPECT_EQ(codetables::tendency_kind("4", missing), codetables::TendencyKind::kSame);
+    EXPECT_EQ(codetables::check_tendency("4", missing), codetables::TendencyCheck::kAccepted);
   }
 }
 

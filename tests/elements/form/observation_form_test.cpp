@@ -645,4 +645,41 @@ TEST(ObservationForm, ATimeOrPositionThatWasTakenIsToBeReviewed) {
   EXPECT_FALSE(f.form->take_doubts().review);
 }
 
+// To one decimal 0.49 is 0.5 and 12.46 is 12.5: a speed is brought to whole knots once.
+TEST(ObservationForm, ASpeedIsRoundedOnce) {
+  for (const auto& [typed, ff] : {std::pair{"0.49", "00"},
+                                  {"0.5", "01"},
+                                  {"12.46", "12"},
+                                  {"12.5", "13"},
+                                  {"98.46", "98"},
+                                  {"98.5", "99"}}) {
+    Form f;
+    f.world.windows.answer_all("yes");
+    ASSERT_TRUE(f.enter(Field::kff, typed)) << typed;
+    EXPECT_EQ(f.record().ff, ff) << typed;
+  }
+  Form calm;
+  ASSERT_TRUE(calm.enter(Field::kdd, "00"));
+  EXPECT_TRUE(calm.enter(Field::kff, "0.49"));
+  EXPECT_EQ(observation::group_text(calm.record(), Group::kNddff), "*0000");
+}
+
+// Code table 3855 says how a temperature was measured that is reported.
+TEST(ObservationForm, ABulbWithoutATemperatureHasNoIce) {
+  Form f;
+  ASSERT_TRUE(f.enter(Group::k8SwTbTbTb, "82///"));
+  EXPECT_EQ(observation::group_text(f.record(), Group::k8SwTbTbTb), "82///")
+      << "what was typed stands";
+  EXPECT_EQ(f.form->entries().wet_bulb, elements::WetBulbState::kNotSet);
+  ASSERT_TRUE(f.enter(Field::kWetBulb, "-1.0"));
+  EXPECT_EQ(f.record().Sw + f.record().TbTbTb, "1010");
+  ASSERT_TRUE(f.enter(Group::k8SwTbTbTb, "82010"));
+  EXPECT_EQ(f.form->entries().wet_bulb, elements::WetBulbState::kIced);
+  ASSERT_TRUE(f.enter(Group::k8SwTbTbTb, "82///"));
+  EXPECT_EQ(f.form->entries().wet_bulb, elements::WetBulbState::kNotSet);
+  ASSERT_TRUE(f.enter(Group::k8SwTbTbTb, "82005"));
+  EXPECT_EQ(f.form->entries().wet_bulb, elements::WetBulbState::kIced);
+  EXPECT_EQ(f.form->text(Field::kWetBulb), "-0.5");
+}
+
 }  // namespace

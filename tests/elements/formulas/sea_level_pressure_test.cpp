@@ -2,11 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "elements/form/field_codes.h"
 #include "fakes/sample_ship.h"
 
 namespace {
 
-using elements::PressureRange;
+using codetables::PressureRange;
 using elements::ReadingParts;
 using elements::reduce_reading;
 
@@ -117,7 +118,7 @@ TEST(SeaLevelPressure, RangeHasTwoRefusedTwoAskingAndOneAcceptedBand) {
       {1e308, PressureRange::kRefused},
   };
   for (const Row& row : rows)
-    EXPECT_EQ(elements::pressure_range({row.value}), row.range) << row.value;
+    EXPECT_EQ(codetables::pressure_range({row.value}), row.range) << row.value;
 }
 
 TEST(SeaLevelPressure, RangeWorksOnTheUnroundedSum) {
@@ -141,7 +142,7 @@ TEST(SeaLevelPressure, TypedFiguresHaveTheirOwnBands) {
       {9299, PressureRange::kAsks},     {9300, PressureRange::kAccepted},
       {9999, PressureRange::kAccepted}, {10000, PressureRange::kRefused},
   };
-  for (const Row& row : rows) EXPECT_EQ(elements::pppp_range(row.pppp), row.range) << row.pppp;
+  for (const Row& row : rows) EXPECT_EQ(codetables::pppp_range(row.pppp), row.range) << row.pppp;
 }
 
 TEST(SeaLevelPressure, FiguresAreTheLastFour) {
@@ -151,7 +152,7 @@ TEST(SeaLevelPressure, FiguresAreTheLastFour) {
   };
   for (const Row& row : {Row{"1013.2", "0132"}, Row{"0998.7", "9987"}, Row{"1000.0", "0000"},
                          Row{"9.9", "0099"}, Row{"", "0000"}, Row{"99.99", "9999"}}) {
-    EXPECT_EQ(elements::pppp_of(row.text), row.pppp) << row.text;
+    EXPECT_EQ(codetables::pppp_of(row.text), row.pppp) << row.text;
   }
 }
 

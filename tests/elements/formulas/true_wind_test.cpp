@@ -2,14 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include "codetables/tables/wind_figures.h"
 #include "elements/formulas/true_wind_rules.h"
 #include "text/numbers.h"
 
 namespace {
 
+using codetables::direction_code;
 using elements::ApparentWind;
 using elements::check_true_wind;
-using elements::direction_code;
 using elements::true_wind;
 using elements::true_wind_of_texts;
 using elements::TrueWindRule;
@@ -68,9 +69,9 @@ TEST(TrueWind, ShipAtRestFeelsTheTrueWind) {
 }
 
 TEST(TrueWind, SpeedsAreBroughtToWholeUnitsFirst) {
-  EXPECT_EQ(elements::whole_units({10.4}), 10.0);
-  EXPECT_EQ(elements::whole_units({10.5}), 11.0);
-  EXPECT_EQ(elements::whole_units({0.0}), 0.0);
+  EXPECT_EQ(codetables::whole_units({10.4}), 10.0);
+  EXPECT_EQ(codetables::whole_units({10.5}), 11.0);
+  EXPECT_EQ(codetables::whole_units({0.0}), 0.0);
   EXPECT_EQ(true_wind({{0}, {0}, {9.5}, {0}, {10.4}}).speed, 0);
 }
 
@@ -119,7 +120,7 @@ TEST(TrueWindOfTexts, SurvivesWildTexts) {
 }
 
 TEST(WindFigures, SpeedsFrom99UnitsUpGoToThreeFigures) {
-  using elements::WindFigures;
+  using codetables::WindFigures;
   struct Row {
     const char* direction;
     const char* speed;
@@ -132,7 +133,7 @@ TEST(WindFigures, SpeedsFrom99UnitsUpGoToThreeFigures) {
         Row{"36", "120", {"36", "99", "120"}}, Row{"36", "1e300", {"36", "99", "999"}},
         Row{"00", "0.3", {"00", "00", ""}}, Row{"//", "//", {"//", "//", ""}},
         Row{"", "", {"", "", ""}}}) {
-    EXPECT_EQ(elements::wind_figures(row.direction, row.speed), row.figures)
+    EXPECT_EQ(codetables::wind_figures(row.direction, row.speed), row.figures)
         << row.direction << ' ' << row.speed;
   }
 }

@@ -1,12 +1,11 @@
-#include "elements/formulas/pressure_tendency.h"
+#include "codetables/tables/pressure_tendency.h"
 
 #include <algorithm>
 
-#include "elements/formulas/rounding.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
-namespace elements {
+namespace codetables {
 namespace {
 
 constexpr std::string_view kUnknownCode = "/";
@@ -44,9 +43,7 @@ std::string_view characteristics(TendencyKind kind) {
 
 int characteristic_line(TendencyKind kind, std::string_view a) {
   const std::string_view codes = characteristics(kind);
-  // An empty characteristic counts as 0, as its number does.
-  const char code = a.empty() ? '0' : a.front();
-  const auto at = a.size() > 1 ? std::string_view::npos : codes.find(code);
+  const auto at = a.size() == 1 ? codes.find(a) : std::string_view::npos;
   return at == std::string_view::npos ? -1 : static_cast<int>(at);
 }
 
@@ -71,7 +68,7 @@ std::string tendency_amount_text(std::string_view amount) {
 
 TendencyCheck check_tendency(std::string_view a, std::string_view amount) {
   if (amount.empty()) return TendencyCheck::kAccepted;
-  const long long tenths = truncated(text::leading_number(amount) * 10.0);
+  const long long tenths = text::truncated(text::leading_number(amount) * 10.0);
   if (a == "4" && tenths != 0) return TendencyCheck::kSteadyWithAmount;
   if (tenths > 250) return TendencyCheck::kTooLarge;
   return tenths > 150 ? TendencyCheck::kAsks : TendencyCheck::kAccepted;
@@ -89,4 +86,4 @@ std::string tendency_stored(std::string_view amount) {
   return figures;
 }
 
-}  // namespace elements
+}  // namespace codetables

@@ -1,6 +1,6 @@
-#include "elements/formulas/calendar_date.h"
+#include "platform/calendar.h"
 
-namespace elements {
+namespace platform {
 
 int days_in_month(int year, int month) {
   constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -13,8 +13,4 @@ bool is_calendar_date(int year, int month, int day) {
   return year >= 1 && year <= 9999 && day >= 1 && day <= days_in_month(year, month);
 }
 
-Years observation_years(int this_year) {
-  return {2000, this_year + 1};
-}
-
-}  // namespace elements
+}  // namespace platform

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace elements {
+namespace codetables {
 
 /// What the pressure did over the preceding three hours: the lines of the first list, in order.
 enum class TendencyKind { kRisen = 0, kSame = 1, kDescended = 2, kUnknown = 3 };
@@ -19,7 +19,9 @@ enum class TendencyKind { kRisen = 0, kSame = 1, kDescended = 2, kUnknown = 3 };
 /// "045", "5678", or "/".
 [[nodiscard]] std::string_view characteristics(TendencyKind kind);
 
-/// Line of the second list that holds the characteristic, -1 when none does.
+/// Line of the second list that holds the characteristic, -1 when none does. One that is not
+/// entered yet has no line, though the first list then stands on "the same": what nobody chose is
+/// not stored.
 [[nodiscard]] int characteristic_line(TendencyKind kind, std::string_view a);
 
 /// Characteristic of the two lists' lines. `otherwise` is what comes back when no line of the
@@ -49,4 +51,4 @@ enum class TendencyCheck {
 /// "05.2" as "052"; texts that are no amount ("///") stay.
 [[nodiscard]] std::string tendency_stored(std::string_view amount);
 
-}  // namespace elements
+}  // namespace codetables

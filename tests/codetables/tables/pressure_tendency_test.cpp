@@ -1,11 +1,11 @@
-#include "elements/formulas/pressure_tendency.h"
+#include "codetables/tables/pressure_tendency.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using elements::TendencyCheck;
-using elements::TendencyKind;
+using codetables::TendencyCheck;
+using codetables::TendencyKind;
 
 TEST(PressureTendency, OpensOnTheKindOfItsFigures) {
   struct Row {
@@ -18,10 +18,11 @@ TEST(PressureTendency, OpensOnTheKindOfItsFigures) {
       {"/", "", TendencyKind::kUnknown, 0},
       {"/", "05.2", TendencyKind::kUnknown, 0},
       {"0", "", TendencyKind::kSame, 0},
-      {"", "", TendencyKind::kSame, 0},
+      {"", "", TendencyKind::kSame, -1},
       {"1", "", TendencyKind::kRisen, 1},
       {"2", "", TendencyKind::kRisen, 2},
       {"3", "", TendencyKind::kRisen, 3},
+      {"", "05.2", TendencyKind::kRisen, -1},
       {"4", "", TendencyKind::kSame, 1},
       {"5", "", TendencyKind::kSame, 2},
       {"6", "", TendencyKind::kDescended, 1},
@@ -38,8 +39,8 @@ TEST(PressureTendency, OpensOnTheKindOfItsFigures) {
       {"2", "-1", TendencyKind::kDescended, -1},
   };
   for (const Row& row : rows) {
-    EXPECT_EQ(elements::tendency_kind(row.a, row.amount), row.kind) << row.a << ' ' << row.amount;
-    EXPECT_EQ(elements::characteristic_line(row.kind, row.a), row.line)
+    EXPECT_EQ(codetables::tendency_kind(row.a, row.amount), row.kind) << row.a << ' ' << row.amount;
+    EXPECT_EQ(codetables::characteristic_line(row.kind, row.a), row.line)
         << row.a << ' ' << row.amount;
   }
 }
@@ -55,21 +56,21 @@ TEST(PressureTendency, LinesGiveTheCharacteristic) {
   for (const Row& row : rows) {
     int line = 0;
     for (; row.codes[line] != nullptr; ++line) {
-      EXPECT_EQ(elements::characteristic(row.kind, line, "x"), row.codes[line]);
-      EXPECT_EQ(elements::characteristic_line(row.kind, row.codes[line]), line);
+      EXPECT_EQ(codetables::characteristic(row.kind, line, "x"), row.codes[line]);
+      EXPECT_EQ(codetables::characteristic_line(row.kind, row.codes[line]), line);
     }
-    EXPECT_EQ(elements::characteristic(row.kind, line, "x"), "x");
-    EXPECT_EQ(elements::characteristic(row.kind, -1, "x"), "x");
+    EXPECT_EQ(codetables::characteristic(row.kind, line, "x"), "x");
+    EXPECT_EQ(codetables::characteristic(row.kind, -1, "x"), "x");
   }
-  EXPECT_EQ(elements::characteristic(TendencyKind::kUnknown, -1, "x"), "/");
-  EXPECT_EQ(elements::characteristic_line(TendencyKind::kSame, "45"), -1);
+  EXPECT_EQ(codetables::characteristic(TendencyKind::kUnknown, -1, "x"), "/");
+  EXPECT_EQ(codetables::characteristic_line(TendencyKind::kSame, "45"), -1);
 }
 
 TEST(PressureTendency, AmountsAreDigitsPointsAndHyphens) {
   for (const char* good : {"", "0", "5.2", "05.2", "25.1", "5-2", "1.2.3", "1-"})
-    EXPECT_TRUE(elements::is_tendency_amount(good)) << good;
+    EXPECT_TRUE(codetables::is_tendency_amount(good)) << good;
   for (const char* bad : {"-5", ".5", "5.", "5x", "x5", "/", "+5", "5 2", "５", "\xFF"})
-    EXPECT_FALSE(elements::is_tendency_amount(bad)) << bad;
+    EXPECT_FALSE(codetables::is_tendency_amount(bad)) << bad;
 }
 
 TEST(PressureTendency, AmountIsShownWithZerosForBlanks) {
@@ -79,7 +80,7 @@ TEST(PressureTendency, AmountIsShownWithZerosForBlanks) {
   };
   for (const Row& row : {Row{"5.2", "05.2"}, Row{"0", "00.0"}, Row{"12", "12.0"}, Row{"", ""},
                          Row{"25.16", "25.2"}}) {
-    EXPECT_EQ(elements::tendency_amount_text(row.typed), row.shown) << row.typed;
+    EXPECT_EQ(codetables::tendency_amount_text(row.typed), row.shown) << row.typed;
   }
 }
 
@@ -88,14 +89,14 @@ TEST(PressureTendency, ScreenAndRecordConvertBothWays) {
     const std::string stored =
         std::string(3 - std::to_string(tenths).size(), '0') + std::to_string(tenths);
     const std::string shown = stored.substr(0, 2) + "." + stored.substr(2);
-    EXPECT_EQ(elements::tendency_shown(stored), shown);
-    EXPECT_EQ(elements::tendency_stored(shown), stored);
+    EXPECT_EQ(codetables::tendency_shown(stored), shown);
+    EXPECT_EQ(codetables::tendency_stored(shown), stored);
   }
   for (const char* kept : {"", "///", "x"}) {
-    EXPECT_EQ(elements::tendency_shown(kept), kept);
-    EXPECT_EQ(elements::tendency_stored(kept), kept);
+    EXPECT_EQ(codetables::tendency_shown(kept), kept);
+    EXPECT_EQ(codetables::tendency_stored(kept), kept);
   }
-  EXPECT_EQ(elements::tendency_stored("5.2"), "052");
+  EXPECT_EQ(codetables::tendency_stored("5.2"), "052");
 }
 
 TEST(PressureTendency, ChecksEveryCharacteristicWithEveryAmount) {
@@ -112,7 +113,7 @@ TEST(PressureTendency, ChecksEveryCharacteristicWithEveryAmount) {
     for (const Amount& amount : amounts) {
       const bool steady = std::string(a) == "4" && std::string(amount.text) != "" &&
                           std::string(amount.text) != "0";
-      EXPECT_EQ(elements::check_tendency(a, amount.text),
+      EXPECT_EQ(codetables::check_tendency(a, amount.text),
                 steady ? TendencyCheck::kSteadyWithAmount : amount.check)
           << a << ' ' << amount.text;
     }
@@ -120,11 +121,11 @@ TEST(PressureTendency, ChecksEveryCharacteristicWithEveryAmount) {
 }
 
 TEST(PressureTendency, ComparesTenthsCutTowardZero) {
-  EXPECT_EQ(elements::check_tendency("2", "25.09"), TendencyCheck::kAsks);
-  EXPECT_EQ(elements::check_tendency("2", "15.09"), TendencyCheck::kAccepted);
-  EXPECT_EQ(elements::check_tendency("4", "0.09"), TendencyCheck::kAccepted);
-  EXPECT_EQ(elements::check_tendency("4", "0.1"), TendencyCheck::kSteadyWithAmount);
-  EXPECT_EQ(elements::check_tendency("2", "9999999999999999999999"), TendencyCheck::kTooLarge);
+  EXPECT_EQ(codetables::check_tendency("2", "25.09"), TendencyCheck::kAsks);
+  EXPECT_EQ(codetables::check_tendency("2", "15.09"), TendencyCheck::kAccepted);
+  EXPECT_EQ(codetables::check_tendency("4", "0.09"), TendencyCheck::kAccepted);
+  EXPECT_EQ(codetables::check_tendency("4", "0.1"), TendencyCheck::kSteadyWithAmount);
+  EXPECT_EQ(codetables::check_tendency("2", "9999999999999999999999"), TendencyCheck::kTooLarge);
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 #pragma once
-// Joining and comparing paths as the officer knows them ("C:\kavrel\data").
+// Joining paths as the officer knows them ("C:\kavrel\data").
 
 #include <string>
 #include <string_view>
 
-namespace archive {
+namespace platform {
 
 /// The folder with exactly one "\" at its end; empty stays empty.
 [[nodiscard]] std::string with_backslash(std::string_view folder);
@@ -12,16 +12,12 @@ namespace archive {
 /// The folder without a "\" at its end, except that of a drive ("C:\").
 [[nodiscard]] std::string without_backslash(std::string_view folder);
 
-/// Folder and name with one "\" between them; the name alone when the folder is empty.
+/// Folder and name with one "\" between them; the name alone when the folder is empty. A folder
+/// that somebody wrote into the settings by hand may lack its backslash; what is in it would then
+/// lie beside the folder, where nobody looks for it.
 [[nodiscard]] std::string join(std::string_view folder, std::string_view name);
 
 /// Takes the next part of a path off its front: "C:", then "kavrel", then "data", then empty.
 [[nodiscard]] std::string_view first_part(std::string_view& rest);
 
-/// True when the texts are equal but for the case of the letters A to Z.
-[[nodiscard]] bool equal_ignoring_case(std::string_view a, std::string_view b);
-
-/// The order of names in a list: by letters whatever their case, equal ones by their bytes.
-[[nodiscard]] bool comes_before(std::string_view a, std::string_view b);
-
-}  // namespace archive
+}  // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+// True wind: direction dd in tens of degrees (code table 0877), speed ff and fff in whole units.
+
+#include <string>
+#include <string_view>
+
+#include "codetables/tables/units.h"
+
+namespace codetables {
+
+/// The largest speed that fff holds.
+inline constexpr double kLargestSpeed = 999.0;
+
+/// Code of a wind direction: tens of degrees, 36 for north (below 5 and from 355 up).
+[[nodiscard]] int direction_code(Degree direction);
+
+/// A true direction as it is entered: 0 to 36, or 99 (variable), one or two digits, blanks around
+/// let pass; "//" too.
+[[nodiscard]] bool is_true_direction(std::string_view text);
+
+/// The integer part, plus 1 when the fraction is 0.5 or more.
+[[nodiscard]] double whole_units(Knot speed);
+
+/// The form's true direction and speed as the record's figures: two for the direction, two for the
+/// whole speed; from 99 units up ff is "99" and fff has the speed in three. "//" stays, empty too.
+struct WindFigures {
+  std::string dd, ff, fff;
+  bool operator==(const WindFigures&) const = default;
+};
+[[nodiscard]] WindFigures wind_figures(std::string_view direction, std::string_view speed);
+
+/// The speed of the figures as the form shows it: fff where it is set.
+[[nodiscard]] inline const std::string& speed_shown(const std::string& ff, const std::string& fff) {
+  return fff.empty() ? ff : fff;
+}
+
+}  // namespace codetables

@@ -1,0 +1,33 @@
+#include "platform/paths.h"
+
+namespace platform {
+namespace {
+
+std::string_view stripped(std::string_view folder) {
+  while (folder.ends_with('\\')) folder.remove_suffix(1);
+  return folder;
+}
+
+}  // namespace
+
+std::string with_backslash(std::string_view folder) {
+  return folder.empty() ? std::string() : std::string(stripped(folder)) + '\\';
+}
+
+std::string without_backslash(std::string_view folder) {
+  folder = stripped(folder);
+  return folder.ends_with(':') ? std::string(folder) + '\\' : std::string(folder);
+}
+
+std::string join(std::string_view folder, std::string_view name) {
+  return with_backslash(folder).append(name);
+}
+
+std::string_view first_part(std::string_view& rest) {
+  while (rest.starts_with('\\')) rest.remove_prefix(1);
+  const std::string_view part = rest.substr(0, rest.find('\\'));
+  rest.remove_prefix(part.size());
+  return part;
+}
+
+}  // namespace platform
