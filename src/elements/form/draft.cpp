@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "elements/form/field_codes.h"
 #include "observation/observation_file.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -206,6 +207,19 @@ bool is_sound(const Struct_Weather& record) {
   });
 }
 
+// Texts that may be stored again without a test, when their element is switched on or off.
+bool is_sound(const Entries& entries) {
+  return std::ranges::all_of(field_rows(), [&](const FieldRow& row) {
+    if (!row.item && !row.needs_wave_recorder) return true;
+    const auto member = std::ranges::find(weather_fields(), row.member, &WeatherField::member);
+    const auto fits = [&](const std::string& text) {
+      return observation::is_storable(*member, figures_of(row.field, text));
+    };
+    const Entry& entry = entries[row.field];
+    return fits(entry.entered()) && fits(entry.put_aside.value_or(std::string()));
+  });
+}
+
 }  // namespace
 
 std::string ship_mark(const ShipFixedData& ship) {
@@ -248,7 +262,9 @@ DraftRead decode_draft(string_view text) {
   DraftRead read{DraftFault::kNone, {}};
   Reader reader(*lines);
   describe(reader, read.draft);
-  if (!is_sound(read.draft.form.record) || encode_draft(read.draft) != text) return {};
+  if (!is_sound(read.draft.form.record) || !is_sound(read.draft.form) ||
+      encode_draft(read.draft) != text)
+    return {};
   return read;
 }
 

@@ -186,11 +186,28 @@ TEST(Draft, WithTheRightChecksumIsStillTestedLineByLine) {
   EXPECT_EQ(with_checksum("123456789"), "123456789check=CBF43926\n") << "the sum that all agree on";
   const std::string start = "draft=1\ncall_sign=JXKV\n";
   EXPECT_EQ(elements::decode_draft(with_checksum(start)).fault, DraftFault::kNone);
-  for (const char* const line :
-       {"x\n", "\n", "unknown=1\n", "record.YY=1*\n", "record.YY=%FF\n", "record.YY=%4\n",
-        "record.YY=%31\n", "record.YY=\n", "north_south=2\n", "north_south=-1\n", "wet_bulb=7\n",
-        "modified=0\n", "modified=1\nmodified=1\n", "modified=1\nrecord.YY=15\n", "modified=1",
-        "dew_point_method=01\n", "sea_temperature_method=9\n", "call_sign=JXKV\n", "text.YY= 1\n"})
+  for (const char* const line : {"x\n",
+                                 "\n",
+                                 "unknown=1\n",
+                                 "record.YY=1*\n",
+                                 "record.YY=%FF\n",
+                                 "record.YY=%4\n",
+                                 "record.YY=%31\n",
+                                 "record.YY=\n",
+                                 "north_south=2\n",
+                                 "north_south=-1\n",
+                                 "wet_bulb=7\n",
+                                 "modified=0\n",
+                                 "modified=1\nmodified=1\n",
+                                 "modified=1\nrecord.YY=15\n",
+                                 "modified=1",
+                                 "dew_point_method=01\n",
+                                 "sea_temperature_method=9\n",
+                                 "call_sign=JXKV\n",
+                                 "text.YY= 1\n",
+                                 "aside.VV=97 to 98\n",
+                                 "aside.PwaPwa=123\n",
+                                 "text.VV=97 to 98\n"})
     EXPECT_EQ(elements::decode_draft(with_checksum(start + line)).fault, DraftFault::kDamaged)
         << line;
 }

@@ -15,6 +15,7 @@
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
 #include "observation/report_reader.h"
+#include "text/strings.h"
 
 namespace {
 
