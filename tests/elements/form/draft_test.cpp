@@ -205,9 +205,9 @@ TEST(Draft, WithTheRightChecksumIsStillTestedLineByLine) {
                                  "sea_temperature_method=9\n",
                                  "call_sign=JXKV\n",
                                  "text.YY= 1\n",
-                                 "aside.VV=97 to 98\n",
-                                 "aside.PwaPwa=123\n",
-                                 "text.VV=97 to 98\n"})
+                                 "aside.VV=9*\n",
+                                 "aside.PwaPwa=%FF\n",
+                                 "text.VV=9*\n"})
     EXPECT_EQ(elements::decode_draft(with_checksum(start + line)).fault, DraftFault::kDamaged)
         << line;
 }
