@@ -2,9 +2,8 @@
 // The text of a settings file as sections of entries, and back.
 //
 // A line "[NAME]" starts a section. Any other line is an entry: its key is the text before the
-// first
-// "=", its value the text after it. Comments have no grammar of their own: they are keys without a
-// value, or the end of a value.
+// first "=", its value the text after it. Comments have no grammar of their own: they are keys
+// without a value, or the end of a value.
 
 #include <string>
 #include <string_view>
