@@ -19,11 +19,13 @@ std::string number(double value) {
   if (written.find('.') == std::string::npos) return written;
   written.erase(written.find_last_not_of('0') + 1);
   if (written.ends_with('.')) written.pop_back();
-  return written == "-0" ? "0" : written;
+  if (written == "-0") written.erase(0, 1);
+  return written;
 }
 
 std::string written(Point point) {
-  return "(" + number(point.x) + " " + number(point.y) + ")";
+  std::string out(1, '(');
+  return out.append(number(point.x)).append(" ").append(number(point.y)).append(")");
 }
 
 std::string written(const std::vector<Point>& points) {
@@ -34,14 +36,15 @@ std::string written(const std::vector<Point>& points) {
       out += " …";
       i = points.size() - 1;
     }
-    out += " " + written(points[i]);
+    out.append(" ").append(written(points[i]));
   }
   return cut ? out + " (" + std::to_string(points.size()) + " points)" : out;
 }
 
 std::string written(const Axis& axis) {
-  return axis.name + (axis.name.empty() ? "" : " ") + number(axis.first) + " to " +
-         number(axis.last);
+  std::string name = axis.name;
+  if (!name.empty()) name += ' ';
+  return name + number(axis.first) + " to " + number(axis.last);
 }
 
 std::string_view name_of(Marker::Sign sign) {
@@ -60,8 +63,10 @@ struct Describe {
     return "area " + std::string(ui::name_of(area.ink)) + written(area.outline);
   }
   std::string operator()(const Polyline& line) const {
-    return std::string(line.thick ? "thick " : "") + (line.dashed ? "dashed " : "") + "line " +
-           std::string(ui::name_of(line.ink)) + written(line.points);
+    std::string out;
+    if (line.thick) out += "thick ";
+    if (line.dashed) out += "dashed ";
+    return out.append("line ").append(ui::name_of(line.ink)) + written(line.points);
   }
   std::string operator()(const Marker& marker) const {
     return std::string(name_of(marker.sign)) + " " + std::string(ui::name_of(marker.ink)) + " " +

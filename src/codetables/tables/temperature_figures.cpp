@@ -28,7 +28,7 @@ namespace {
 
 TemperatureFigures figures_of(std::string text) {
   TemperatureFigures result;
-  result.sign = text.starts_with('-') ? kBelowZero : kNotBelowZero;
+  result.sign = (text.starts_with('-') ? kBelowZero : kNotBelowZero).front();
   result.figures = text;
   result.text = std::move(text);
   std::erase_if(result.figures, [](char c) { return c == '.' || c == '-'; });
@@ -50,8 +50,9 @@ TemperatureFigures computed_dew_point_figures(Celsius td) {
 
 std::string temperature_shown(std::string_view sign, std::string_view figures) {
   if (!text::is_all_digits(figures)) return std::string(figures);
-  const std::string value = text::format_fixed(text::leading_int(figures) / 10.0, 1);
-  return sign == kBelowZero ? "-" + value : value;
+  std::string value = text::format_fixed(text::leading_int(figures) / 10.0, 1);
+  if (sign == kBelowZero) value.insert(0, 1, '-');
+  return value;
 }
 
 std::optional<int> signed_tenths(std::string_view sign, std::string_view figures) {
@@ -61,7 +62,8 @@ std::optional<int> signed_tenths(std::string_view sign, std::string_view figures
 }
 
 std::string wet_bulb_sign(const TemperatureFigures& wet, WetBulbState state) {
-  return std::string(state == WetBulbState::kIced ? kIced : wet.sign);
+  if (state == WetBulbState::kIced) return {kIced.front()};
+  return wet.sign;
 }
 
 bool is_iced(std::string_view Sw) {
@@ -74,7 +76,7 @@ bool has_iced_bulb(std::string_view Sw, std::string_view TbTbTb) {
 
 std::string wet_bulb_value_sign(std::string_view Sw, std::string_view TbTbTb) {
   if (!is_iced(Sw)) return std::string(Sw);
-  return std::string(TbTbTb == "000" ? kNotBelowZero : kBelowZero);
+  return {(TbTbTb == "000" ? kNotBelowZero : kBelowZero).front()};
 }
 
 std::string joined_temperature(std::string_view whole, std::string_view tenths) {

@@ -1,5 +1,6 @@
 #include "elements/form/cross_rules.h"
 
+#include "codetables/tables/pressure_tendency.h"
 #include "codetables/tables/temperature_figures.h"
 #include "codetables/tables/wind_figures.h"
 #include "elements/formulas/true_wind_rules.h"
@@ -23,7 +24,9 @@ bool is_some_cloud(const std::string& figures) {
 }
 
 bool steady_with_amount(const W& r) {
-  return r.a == "4" && text::is_all_digits(r.ppp) && text::leading_int(r.ppp) != 0;
+  return text::is_all_digits(r.ppp) &&
+         codetables::check_tendency(r.a, codetables::tendency_shown(r.ppp)) ==
+             codetables::TendencyCheck::kSteadyWithAmount;
 }
 
 bool lowest_above_total(const W& r) {

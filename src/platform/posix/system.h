@@ -38,7 +38,7 @@ class System {
   [[nodiscard]] Printer& no_printer() { return no_printer_; }
   [[nodiscard]] const DriveMap& map() const { return *map_; }
 
-  /// A path from the command line as the program says it: "/tmp/x" is "Z:\tmp\x". Nothing for a
+  /// A path from the command line as the program says it: "/home/x" is "Z:\home\x". Nothing for a
   /// name that holds a "\".
   [[nodiscard]] std::optional<std::string> program_path_of(const std::string& os_path) const {
     return map_->to_program(os_path);
