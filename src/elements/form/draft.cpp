@@ -210,7 +210,8 @@ bool is_sound(const Struct_Weather& record) {
 // Texts that may be stored again without a test, when their element is switched on or off.
 bool is_sound(const Entries& entries) {
   return std::ranges::all_of(field_rows(), [&](const FieldRow& row) {
-    if (!row.item && !row.needs_wave_recorder) return true;
+    // Other elements are never put aside.
+    if (!row.item && !row.needs_wave_recorder) return !entries[row.field].put_aside;
     const auto member = std::ranges::find(weather_fields(), row.member, &WeatherField::member);
     const auto fits = [&](const std::string& text) {
       return observation::is_storable(*member, figures_of(row.field, text));

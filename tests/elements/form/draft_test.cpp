@@ -206,6 +206,7 @@ TEST(Draft, WithTheRightChecksumIsStillTestedLineByLine) {
                                  "call_sign=JXKV\n",
                                  "text.YY= 1\n",
                                  "aside.VV=9*\n",
+                                 "aside.ppp=1.4\n",
                                  "aside.PwaPwa=%FF\n",
                                  "text.VV=9*\n"})
     EXPECT_EQ(elements::decode_draft(with_checksum(start + line)).fault, DraftFault::kDamaged)
