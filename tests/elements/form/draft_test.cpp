@@ -127,7 +127,7 @@ TEST(Draft, KeepsAnyBytesOfATextInReadableLines) {
   for (const std::string& typed : texts) {
     Draft draft;
     draft.form.fields[0].text = typed;
-    draft.form.fields[1].put_aside = typed;
+    draft.form.fields[1].before_typing = typed;
     draft.typing_in = draft.group_text = typed;
     const std::string text = elements::encode_draft(draft);
     for (const char c : text)
@@ -135,7 +135,7 @@ TEST(Draft, KeepsAnyBytesOfATextInReadableLines) {
     const elements::DraftRead read = elements::decode_draft(text);
     ASSERT_EQ(read.fault, DraftFault::kNone) << text;
     EXPECT_EQ(read.draft.form.fields[0].text, typed);
-    EXPECT_EQ(read.draft.form.fields[1].put_aside, typed);
+    EXPECT_EQ(read.draft.form.fields[1].before_typing, typed);
     EXPECT_EQ(read.draft.typing_in, typed);
     EXPECT_EQ(read.draft.group_text, typed);
   }
