@@ -94,7 +94,10 @@ bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<Put
   return true;
 }
 
-// The dialogs that pick codes. A field that shows one of them is named for it.
+// The dialogs that pick codes. A field that shows one of them is named for it. What was picked goes
+// into the record as it is, without the rules between fields: a lowest cloud that is more than the
+// total cloud may be the first of two that are being mended, and the list before a save names what
+// still does not fit.
 template <const codetables::CodePicker& picker>
 bool pick(Opening& opening) {
   CCodeTableDlg dialog(opening.services, picker, opening.form.record());
