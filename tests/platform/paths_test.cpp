@@ -11,10 +11,13 @@ TEST(Paths, APathIsItsFolderAndItsName) {
     const char* folder;
     const char* name;
   } kRows[] = {
-      {"C:\\kavrel\\data\\", "14111512.tlx"}, {"C:\\", "kavrel.ini"},
+      {"C:\\kavrel\\data\\", "14111512.tlx"},
+      {"C:\\", "kavrel.ini"},
       {"C:", "kavrel.ini"},  // the folder that the drive is in
-      {"/mnt/c/", "kavrel.ini"},  {"C:\\kavrel/data\\", "log"},
-      {"", "kavrel.ini"},       {"C:\\kavrel\\", ""},
+      {"/mnt/c/", "kavrel.ini"},
+      {"C:\\kavrel/data\\", "log"},
+      {"", "kavrel.ini"},
+      {"C:\\kavrel\\", ""},
       {"", ""},
   };
   for (const auto& row : kRows) {
