@@ -383,7 +383,10 @@ class ChoiceBinding : public Binding {
   QLabel* code_label(int index) {
     auto* const code = new QLabel(codes_.value(index), box_);
     code->setTextFormat(Qt::PlainText);
-    code->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    // The system's fixed font does not follow the size of the others.
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSizeF(box_->font().pointSizeF());
+    code->setFont(fixed);
     return code;
   }
 

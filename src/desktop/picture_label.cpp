@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QPainter>
 #include <QStyle>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/drawing_painter.h"
@@ -62,6 +63,17 @@ QSize PictureLabel::sizeHint() const {
 
 QSize PictureLabel::minimumSizeHint() const {
   return fitted_.isNull() ? ClickableLabel::minimumSizeHint() : fitted_.size() / 4;
+}
+
+// Where a small screen makes it narrow it is low as well.
+bool PictureLabel::hasHeightForWidth() const {
+  return !fitted_.isNull() || ClickableLabel::hasHeightForWidth();
+}
+
+int PictureLabel::heightForWidth(int width) const {
+  if (fitted_.isNull()) return ClickableLabel::heightForWidth(width);
+  const int shown = std::min(width, sizeHint().width());
+  return shown * fitted_.height() / fitted_.width();
 }
 
 // Left and at the top, where the text beside it begins.
