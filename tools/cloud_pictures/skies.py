@@ -171,7 +171,7 @@ def cl6():
     canvas.lay(grey[..., None] * colour(0.985, 1.0, 1.01), 0.985 * fog)
     strips = step(0.5, 1.9, rough(COLUMNS / 90, ROWS / 13, 5, 0.55, 8)) * np.exp(-((UP - 66) / 22) ** 2)
     canvas.lay(colour(0.74, 0.76, 0.77), 0.85 * strips)
-    return finish(canvas, 640, (0.33, 0.38, 0.41), 0.25)
+    return finish(canvas, 715, (0.33, 0.38, 0.41), 0.25)
 
 
 def scud(canvas, seed, size, low, high, tone):
@@ -296,8 +296,8 @@ def cm5():
         band = 0.45 * np.cos((u2 + 0.25 * noise(u2 * 0.4, v2 * 0.4)) * math.pi) / (1 + (level.cell / 0.30) ** 2)
         lumps = 0.55 * rough(u, v * 1.6, 4, 0.5, 6, cell)
         ahead = level.away - edge
-        return band + lumps + 0.05 + np.clip(ahead * 0.9, -2.6, 0.75)
-    sheet(canvas, thickness, (0.99, 0.985, 0.97), (0.47, 0.52, 0.59), 0.7, 0.05, 5, 1.7)
+        return band + lumps + 0.05 + np.clip(ahead * 0.8, -2.6, 1.15)
+    sheet(canvas, thickness, (0.99, 0.985, 0.97), (0.44, 0.49, 0.56), 0.62, 0.05, 5, 1.9)
     arrow(canvas, 240, 170, 150, 80)
     return finish(canvas, 640)
 
@@ -396,7 +396,7 @@ def cm9():
         almond(canvas, *lens, k + 31)
     turrets(canvas, 96, [(90, 66, 110, 22, 7)], 0.2)
     rags = Volume(97)
-    for x, up, length in ((300, 128, 90), (345, 150, 70), (40, 160, 80)):
+    for x, up, length in ((300, 128, 90), (345, 150, 70)):
         for _ in range(14):
             along = rags.random.uniform(-0.5, 0.5)
             rags.puff(x + along * length, up - along * 18 + rags.random.normal(0, 4), 48, rags.random.uniform(5, 11) * (1 - abs(along)), 0.7)
@@ -601,7 +601,7 @@ def ch9():
         ripple = np.cos((u + bend) * math.pi) * fade
         grain = rough(u * 0.8, v * 0.8, 2, 0.5, 4, cell)
         patch = rough(*level.at(1.0, 0.2, 1.4)[:2], 3, 0.5, 12)
-        return 0.55 * ripple + 0.42 * grain + 0.8 * patch - 0.02
+        return 0.55 * ripple + 0.45 * grain + 0.6 * patch + 0.02
     sheet(canvas, thickness, (1, 1, 1), (0.93, 0.95, 0.98), 0.3, 0.01, 3, 0.9)
     filaments(canvas, 6, 4, (0, 500), (300, 380), -0.05, 300, 0.4, bend=-0.1, spread=16)
     return finish(canvas, 640)
