@@ -78,6 +78,8 @@ class Control {
   /// Picture only: what is drawn, instead of a file. Another drawing is another object.
   std::shared_ptr<const Drawing> drawing;
   int selected = -1;  ///< line of a drop-down, list, choice or tree
+  int beside_line =
+      -1;  ///< picture: the line of the screen's choice that it shows, where it shows one
   bool checked = false;
   bool enabled = true;
   bool visible = true;
