@@ -209,8 +209,11 @@ class ShortList : public QListWidget {
   using QListWidget::QListWidget;
   int lines = 0;
   [[nodiscard]] QSize sizeHint() const override {
-    const int line = count() > 0 ? sizeHintForRow(0) : fontMetrics().lineSpacing();
-    return {sizeHintForColumn(0) + fontMetrics().height() * 2, line * lines + line / 2};
+    int widest = 0;
+    for (int row = 0; row < count(); ++row)
+      widest = std::max(widest, fontMetrics().horizontalAdvance(item(row)->text()));
+    const int line = fontMetrics().height();
+    return {widest + line * 2, line * lines + line / 2};
   }
   [[nodiscard]] QSize minimumSizeHint() const override {
     constexpr int kWidest = 900;
@@ -222,7 +225,8 @@ class ListBinding : public Binding {
  public:
   ListBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), list_(new ShortList(parent)) {
-    list_->setUniformItemSizes(true);
+    // A line that is wider than the display goes on below.
+    list_->setWordWrap(true);
     // Item by item, the list would count its last line as hidden and show a scroll bar for it.
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(list_, &QListWidget::itemSelectionChanged, this,

@@ -873,12 +873,17 @@ inline constexpr Id kPresentWeatherGroup13{43522};
 inline constexpr Id kPresentWeatherGroup10{43523};
 inline constexpr Id kPresentWeatherGroup04{43524};
 inline constexpr Id kPresentWeatherGroup00{43525};
+inline constexpr Id kPresentWeatherGroups{43641};
+inline constexpr Id kPresentWeatherLines{43642};
+inline constexpr Id kPresentWeatherCode{43643};
+inline constexpr Id kPresentWeatherNoLine{43644};
 
 // CPastWeatherDlg1
 inline constexpr Id kPastWeatherTitle{43530};
 inline constexpr Id kPastWeatherHint{43531};
 inline constexpr Id kPastWeatherHeading{43532};
 inline constexpr Id kPastWeatherGroup{43533};
+inline constexpr Id kPastWeatherCode{43645};
 
 // CCloudAgeDlg
 inline constexpr Id kTotalCloudTitle{43540};

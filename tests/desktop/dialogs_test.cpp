@@ -65,6 +65,8 @@ constexpr F1Row kF1[] = {
     {"dd", "CTrueDirWindDlg"},
     {"TwTwTw", "CSea_SurfaceTemperatureDlg"},
     {"VV", "CEyeShotDlg"},
+    {"ww", "CNowWeatherDlg"},
+    {"W2", "CPastWeatherDlg1"},
     {"N", "CCloudAgeDlg"},
     {"Nh", "CBottomLayerCloudDlg"},
     {"CH", "CTopCloudDlg"},

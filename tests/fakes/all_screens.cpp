@@ -3,6 +3,8 @@
 #include "archive/CCreateDir.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CNowWeatherDlg.h"
+#include "codetables/CPastWeatherDlg1.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
@@ -70,6 +72,15 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
+      // codetables
+      {"CNowWeatherDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CNowWeatherDlg>(services, "07");
+       }},
+      {"CPastWeatherDlg1",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPastWeatherDlg1>(services, 6, 2);
+       }},
       // elements
       {"CCountDewDlg",
        [](ui::Services& services) -> Made {
@@ -168,7 +179,7 @@ std::vector<ScreenCase> make_table() {
          return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
        }},
   };
-  // codetables
+  // codetables, by their rows
   for (const codetables::CodePicker* const picker : codetables::code_pickers()) {
     table.push_back({picker->class_name, [picker](ui::Services& services) -> Made {
                        return make_picker(services, *picker);

@@ -82,6 +82,10 @@ const Corrected kCorrected[] = {
      "10.0"},
     {"TwTwTw", "21.5", "38", id::kSeaTemperatureRange, "CSea_SurfaceTemperatureDlg", ok, "21.5"},
     {"VV", "97", "80", id::kVisibilityRange, "CEyeShotDlg", ok, "97"},
+    {"ww", "63", "x", id::kPresentWeatherRange, "CNowWeatherDlg", ok, "63"},
+    {"ww", "25", "x", id::kPresentWeatherRange, "CNowWeatherDlg", ok, "25"},
+    {"W1", "6", "x", id::kPastWeatherRange, "CPastWeatherDlg1", ok, "6"},
+    {"W2", "2", "x", id::kPastWeatherRange, "CPastWeatherDlg1", ok, "2"},
 };
 
 ShipFixedData ship_for(const std::string& field) {
