@@ -5,8 +5,11 @@
 #include <vector>
 
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CSwellWaveDlg.h"
+#include "codetables/CWindDlg.h"
 #include "codetables/code_pickers.h"
 #include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
@@ -90,6 +93,19 @@ bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<Put
   if (!confirmed(opening, dialog)) return false;
   std::vector<elements::ObservationForm::Value> values;
   for (const PutBack& row : results) values.push_back({row.field, text::trim(row.result)});
+  put(opening.form, std::move(values));
+  return true;
+}
+
+// The same for a dialog that hands back to the letter what it did not change, also a refused text:
+// such a field stays as it is.
+bool fill_fields_changed(Opening& opening, ui::Screen& dialog,
+                         std::initializer_list<PutBack> results) {
+  if (!confirmed(opening, dialog)) return false;
+  std::vector<elements::ObservationForm::Value> values;
+  for (const PutBack& row : results) {
+    if (row.result != opening.form.text(row.field)) values.push_back({row.field, row.result});
+  }
   put(opening.form, std::move(values));
   return true;
 }
@@ -258,6 +274,32 @@ bool open_true_wind(Opening& opening) {
                      {{Field::kdd, dialog.direction()}, {Field::kff, dialog.speed()}});
 }
 
+bool open_wind_wave(Opening& opening) {
+  const elements::ObservationForm& form = opening.form;
+  CWindDlg dialog(opening.services, {form.text(Field::kPwPw), form.text(Field::kHwHw)},
+                  codetables::knots_of(form.entered(Field::kff), form.record().iw));
+  return fill_fields_changed(
+      opening, dialog,
+      {{Field::kPwPw, dialog.values().period}, {Field::kHwHw, dialog.values().height}});
+}
+
+bool open_swell(Opening& opening) {
+  const elements::ObservationForm& form = opening.form;
+  CSwellWaveDlg dialog(
+      opening.services,
+      {{form.text(Field::kdw1dw1), form.text(Field::kPw1Pw1), form.text(Field::kHw1Hw1)},
+       {form.text(Field::kdw2dw2), form.text(Field::kPw2Pw2), form.text(Field::kHw2Hw2)}},
+      {!form.switched_off(Field::kdw1dw1), !form.switched_off(Field::kdw2dw2)});
+  const CSwellWaveDlg::Values& v = dialog.values();
+  return fill_fields_changed(opening, dialog,
+                             {{Field::kdw1dw1, v.first.direction},
+                              {Field::kPw1Pw1, v.first.period},
+                              {Field::kHw1Hw1, v.first.height},
+                              {Field::kdw2dw2, v.second.direction},
+                              {Field::kPw2Pw2, v.second.period},
+                              {Field::kHw2Hw2, v.second.height}});
+}
+
 constexpr ElementRow kRows[] = {
     {kObservationTime, open_time},
     {kPosition, open_position},
@@ -268,8 +310,8 @@ constexpr ElementRow kRows[] = {
     {kTemperatureAndDewPoint, open_dew_point, dew_point_not_by<DewPointMethod::kDirect>},
     {kSeaTemperature, open_sea_temperature},
     {kApparentWind, open_apparent_wind, wind_not_by<WindInputMethod::kApparentWind>},
-    {kWindWave},
-    {kSwell},
+    {kWindWave, open_wind_wave},
+    {kSwell, open_swell},
     {kVisibility, pick<codetables::kVisibility>},
     {kPresentWeather},
     {kPastWeather},

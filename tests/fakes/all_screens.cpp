@@ -3,6 +3,9 @@
 #include "archive/CCreateDir.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CSwellWaveDlg.h"
+#include "codetables/CWaveLengthDlg.h"
+#include "codetables/CWindDlg.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
@@ -70,6 +73,19 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
+      // codetables
+      {"CSwellWaveDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSwellWaveDlg>(
+             services, CSwellWaveDlg::Values{{"27", "08", "2.0"}, {"05", "12", "0.2"}});
+       }},
+      {"CWaveLengthDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CWaveLengthDlg>(services); }},
+      {"CWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CWindDlg>(services, CWindDlg::Values{"05", "1.5"},
+                                           codetables::Knot{18});
+       }},
       // elements
       {"CCountDewDlg",
        [](ui::Services& services) -> Made {
