@@ -21,12 +21,11 @@ enum Count { kTwoOrMore, kOne, kNone, kNotObserved };
 
 template <bool first>
 constexpr WaveFigure direction_figure(text::Id out_of_range) {
-  return {.lines = [](std::string_view) { return codetables::swell_direction_lines(first); },
-          .check =
-              [](std::string_view typed) {
-                return codetables::check_swell_direction(typed, first);
-              },
-          .out_of_range = out_of_range};
+  return {
+      .lines = [](std::string_view) { return codetables::swell_direction_lines(first); },
+      .check =
+          [](std::string_view typed) { return codetables::check_swell_direction(typed, first); },
+      .out_of_range = out_of_range};
 }
 constexpr WaveFigure kDirection1 = direction_figure<true>(id::kSwell1DirectionRange);
 constexpr WaveFigure kDirection2 = direction_figure<false>(id::kSwell2DirectionRange);
@@ -101,8 +100,8 @@ void CSwellWaveDlg::on_open() {
     const Swell& given = swell(figure.swell);
     std::string shown = given.*figure.member;
     if (figure.what == What::kHeight)
-      shown = codetables::wave_height_shown(
-          shown, given.period, text::resolve({id::kSwellHeightSmallest}, language()));
+      shown = codetables::wave_height_shown(shown, given.period,
+                                            text::resolve({id::kSwellHeightSmallest}, language()));
     figure.field.open(given.*figure.member, shown);
     figure.box.set_own(given.*figure.member == figure.box.instead);
     // What a box says when the screen opens is nobody's text.
@@ -159,8 +158,8 @@ void CSwellWaveDlg::apply() {
   for (const Figure& figure : figures_) {
     const auto by_others = said(figure);
     // The box that says that the direction is unknown stays open to be taken back.
-    const bool own_doing = confused_ && &figure.box == &direction1_unknown &&
-                           is_observed(0) && !said_by_count(figure);
+    const bool own_doing =
+        confused_ && &figure.box == &direction1_unknown && is_observed(0) && !said_by_count(figure);
     if (by_others && !own_doing) {
       figure.box.say(*by_others == figure.box.instead);
     } else {
@@ -178,11 +177,9 @@ void CSwellWaveDlg::apply() {
 }
 
 void CSwellWaveDlg::draw() {
-  const std::vector<std::string> directions{direction1.content, direction2.content};
-  rose.drawing = codetables::drawn_directions(directions);
-  side.drawing = codetables::drawn_heights(
-      {{text::number_at_start(height1.value()), "1: " + height1.content + " m"},
-       {text::number_at_start(height2.value()), "2: " + height2.content + " m"}});
+  rose.drawing = codetables::drawn_directions({direction1.number(), direction2.number()});
+  side.drawing = codetables::drawn_heights({{height1.number(), "1: " + height1.content + " m"},
+                                            {height2.number(), "2: " + height2.content + " m"}});
 }
 
 bool CSwellWaveDlg::leave(CWaveField& field) {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "text/ids.h"
+#include "text/numbers.h"
 #include "text/strings.h"
 
 namespace id = text::id;
@@ -64,6 +65,10 @@ bool CWaveField::check(ui::Messages& messages, text::Id number_title) {
   if (figure_.smallest && figure.text == codetables::kSmallestHeight) figure.text = smallest();
   set(figure.text);
   return true;
+}
+
+std::optional<double> CWaveField::number() const {
+  return text::number_at_start(figure_.check(content).text);
 }
 
 std::string CWaveField::value() const {

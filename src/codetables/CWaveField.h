@@ -36,6 +36,8 @@ class CWaveField : public ui::Combo {
   /// message, or after a question that was not answered with Yes; the same text is asked about
   /// once.
   bool check(ui::Messages& messages, text::Id number_title);
+  /// The figure, once its check would take it; nothing for "//" and what is not a number.
+  [[nodiscard]] std::optional<double> number() const;
   [[nodiscard]] bool is_as_opened() const { return content == shown_; }
   /// For the form: what it gave where the field shows the same as on opening.
   [[nodiscard]] std::string value() const;

@@ -13,7 +13,7 @@ class CWaveLengthDlg : public ui::OkCancelHelpDialog {
   /// Whole seconds in two figures, after kOk; else empty.
   [[nodiscard]] const std::string& period() const { return accepted_; }
 
-  ui::Edit length;          ///< metres
+  ui::Edit length;            ///< metres
   ui::ReadOnly period_shown;  ///< follows what is typed
 
  protected:

@@ -67,9 +67,9 @@ CWindDlg::CWindDlg(ui::Services& services, Values values, std::optional<codetabl
 void CWindDlg::on_open() {
   reference_height.content = probable_height_;
   period.open(values_.period, values_.period);
-  height.open(values_.height,
-              codetables::wave_height_shown(values_.height, values_.period,
-                                            text::resolve({id::kWindWaveHeightSmallest}, language())));
+  height.open(values_.height, codetables::wave_height_shown(
+                                  values_.height, values_.period,
+                                  text::resolve({id::kWindWaveHeightSmallest}, language())));
   for (CWaveBox* const box : {&period_unknown, &period_confused})
     box->set_own(values_.period == box->instead);
   height_unknown.set_own(values_.height == height_unknown.instead);
@@ -97,8 +97,9 @@ void CWindDlg::apply() {
   const bool nothing = no_wind_wave.checked || not_observed.checked;
   for (CWaveBox* const box : {&period_unknown, &period_confused, &height_unknown})
     box->say(nothing ? std::optional(false) : std::nullopt);
-  const auto said = [&](const std::string& given,
-                        std::initializer_list<const CWaveBox*> boxes) -> std::optional<std::string> {
+  const auto said =
+      [&](const std::string& given,
+          std::initializer_list<const CWaveBox*> boxes) -> std::optional<std::string> {
     if (not_observed.checked) return std::string();
     if (no_wind_wave.checked) {
       const bool as_given = codetables::are_no_waves(values_.period, values_.height);
@@ -115,9 +116,8 @@ void CWindDlg::apply() {
 }
 
 void CWindDlg::draw() {
-  side.drawing =
-      codetables::drawn_heights({{text::number_at_start(height.value()), height.content + " m"}},
-                                text::number_at_start(probable_height_));
+  side.drawing = codetables::drawn_heights({{height.number(), height.content + " m"}},
+                                           text::number_at_start(probable_height_));
 }
 
 // An empty field says nothing, and what the form had is not questioned here.

@@ -34,13 +34,26 @@ struct Outline {
 const std::vector<Outline>& ship() {
   static const std::vector<Outline> kShip = {
       {Ink::kFaint, {{26, kLowest}, {23, 8}, {84, 8}, {93, 9.5}, {87, kLowest}}},
-      {Ink::kLand, {{27, 8}, {27, 15}, {38, 15}, {38, 8}}},
-      {Ink::kLand, {{30, 15}, {30, 16.5}, {34, 16.5}, {34, 15}}},
+      {Ink::kLand,
+       {{27, 8}, {27, 15}, {30, 15}, {30, 16.5}, {34, 16.5}, {34, 15}, {38, 15}, {38, 8}}},
   };
   return kShip;
 }
 
 constexpr double kScale[] = {0, 5, 10, 15};  // metres
+
+// A comb, as one line.
+void add_scale(Drawing& drawing) {
+  Polyline line{{}, Ink::kFaint};
+  for (const double metres : kScale)
+    line.points.insert(line.points.end(), {{kLeft, metres}, {kRight, metres}, {kLeft, metres}});
+  drawing.shapes.emplace_back(std::move(line));
+  for (const double metres : kScale)
+    drawing.shapes.emplace_back(ShortText{{kLeft / 2, metres},
+                                          text::format_fixed(metres, 0).append(" m"),
+                                          ShortText::Side::kCentre,
+                                          Ink::kText});
+}
 
 // The surface of waves of this height, the middle crest amidships.
 std::vector<Point> surface(double height) {
@@ -49,8 +62,7 @@ std::vector<Point> surface(double height) {
   for (int i = 0; i <= kPoints; ++i) {
     const double share = static_cast<double>(i) / kPoints;
     const double phase = (share - 0.5) * kCrests * 2.0 * std::numbers::pi;
-    points.push_back(
-        {kLeft + share * (kRight - kLeft), height / 2.0 * (1.0 + std::cos(phase))});
+    points.push_back({kLeft + share * (kRight - kLeft), height / 2.0 * (1.0 + std::cos(phase))});
   }
   return points;
 }
@@ -58,23 +70,27 @@ std::vector<Point> surface(double height) {
 // ---- Directions. A compass card of radius 1 around the ship.
 
 constexpr double kEdge = 1.3;
+constexpr double kNorth = 36;  // tens of degrees
 
 Point on_card(double degrees, double radius) {
   const double angle = degrees * std::numbers::pi / 180.0;
   return {radius * std::sin(angle), radius * std::cos(angle)};
 }
 
-std::vector<Point> circle() {
+// The rim with a mark every 30 degrees, as one line.
+std::vector<Point> rim() {
   std::vector<Point> points;
-  for (int degrees = 0; degrees <= 360; degrees += 10) points.push_back(on_card(degrees, 1.0));
+  for (int degrees = 0; degrees <= 360; degrees += 10) {
+    points.push_back(on_card(degrees, 1.0));
+    if (degrees % 30 != 0) continue;
+    points.push_back(on_card(degrees, 0.92));
+    points.push_back(on_card(degrees, 1.0));
+  }
   return points;
 }
 
 void add_card(Drawing& drawing) {
-  drawing.shapes.emplace_back(Polyline{circle(), Ink::kFaint});
-  for (int degrees = 0; degrees < 360; degrees += 30)
-    drawing.shapes.emplace_back(
-        Polyline{{on_card(degrees, 0.92), on_card(degrees, 1.0)}, Ink::kFaint});
+  drawing.shapes.emplace_back(Polyline{rim(), Ink::kFaint});
   static constexpr std::pair<int, const char*> kPoints[] = {
       {0, "N"}, {90, "E"}, {180, "S"}, {270, "W"}};
   for (const auto& [degrees, name] : kPoints)
@@ -105,7 +121,8 @@ std::shared_ptr<const Drawing> drawn_heights(const std::vector<DrawnWaves>& wave
   drawing.y = {"metres", kLowest, kHighest};
   drawing.characters = 34;
   drawing.lines = 8;
-  for (const Outline& outline : ship()) drawing.shapes.emplace_back(Area{outline.points, outline.ink});
+  for (const Outline& outline : ship())
+    drawing.shapes.emplace_back(Area{outline.points, outline.ink});
   bool filled = false;
   for (const DrawnWaves& row : waves) {
     if (!row.metres) continue;
@@ -118,12 +135,7 @@ std::shared_ptr<const Drawing> drawn_heights(const std::vector<DrawnWaves>& wave
     drawing.shapes.emplace_back(Polyline{std::move(points), Ink::kMark, !filled});
     filled = true;
   }
-  for (const double metres : kScale) {
-    drawing.shapes.emplace_back(Polyline{{{kLeft, metres}, {kRight, metres}}, Ink::kFaint});
-    drawing.shapes.emplace_back(ShortText{{kLeft / 2, metres},
-                                          text::format_fixed(metres, 0).append(" m"),
-                                          ShortText::Side::kCentre, Ink::kText});
-  }
+  add_scale(drawing);
   if (reference)
     drawing.shapes.emplace_back(
         Polyline{{{kLeft, *reference}, {kRight, *reference}}, Ink::kCaution, false, true});
@@ -133,7 +145,7 @@ std::shared_ptr<const Drawing> drawn_heights(const std::vector<DrawnWaves>& wave
   highest = std::min(highest, kScale[3]);
   double crest = (kLeft + kRight) / 2;
   for (const DrawnWaves& row : waves) {
-    if (!row.metres) continue;
+    if (row.metres.value_or(0) <= 0) continue;  // no waves have no crest
     drawing.shapes.emplace_back(
         ShortText{{crest, highest}, row.name, ShortText::Side::kAbove, Ink::kText});
     crest += (kRight - kLeft) / kCrests;
@@ -141,7 +153,8 @@ std::shared_ptr<const Drawing> drawn_heights(const std::vector<DrawnWaves>& wave
   return std::make_shared<const Drawing>(std::move(drawing));
 }
 
-std::shared_ptr<const Drawing> drawn_directions(const std::vector<std::string>& directions) {
+std::shared_ptr<const Drawing> drawn_directions(
+    const std::vector<std::optional<double>>& directions) {
   Drawing drawing;
   drawing.x = {"east", -kEdge, kEdge};
   drawing.y = {"north", -kEdge, kEdge};
@@ -150,9 +163,9 @@ std::shared_ptr<const Drawing> drawn_directions(const std::vector<std::string>& 
   drawing.lines = 8;
   add_card(drawing);
   for (std::size_t i = 0; i < directions.size(); ++i) {
-    const auto tens = text::whole_number(directions[i], 1, 36);
-    if (tens)
-      add_arrow(drawing, *tens * 10.0, text::format_int(static_cast<long long>(i) + 1));
+    const double tens = directions[i].value_or(0);
+    if (tens >= 1 && tens <= kNorth)
+      add_arrow(drawing, tens * 10.0, text::format_int(static_cast<long long>(i) + 1));
   }
   return std::make_shared<const Drawing>(std::move(drawing));
 }

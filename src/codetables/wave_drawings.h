@@ -22,9 +22,9 @@ struct DrawnWaves {
 [[nodiscard]] std::shared_ptr<const ui::Drawing> drawn_heights(
     const std::vector<DrawnWaves>& waves, std::optional<double> reference = {});
 
-/// Arrows on a compass card, from where each swell comes towards the ship in the middle. A
-/// direction that is no tens of degrees from 01 to 36 is not drawn.
+/// Arrows on a compass card, from where each swell comes towards the ship in the middle. Tens of
+/// degrees from 1 to 36; anything else is not drawn.
 [[nodiscard]] std::shared_ptr<const ui::Drawing> drawn_directions(
-    const std::vector<std::string>& directions);
+    const std::vector<std::optional<double>>& directions);
 
 }  // namespace codetables

@@ -126,7 +126,7 @@ TEST(Swell, OffersItsLines) {
 }
 
 TEST(Swell, ConfirmedAsItOpenedHandsBackWhatItWasGiven) {
-  const char* const figures[] = {"",  "00", "01",  "36",  "37",  "98",   "//",     "/",   "*",
+  const char* const figures[] = {"",  "00", "01",  "36",  "37",  "98",   "//",     "/",    "*",
                                  "x", "26", "0.0", "0.2", "1.3", "14.5", "1013.2", "\xff", " 1"};
   for (const text::Language language : kBothLanguages) {
     for (const char* const a : figures) {
@@ -220,12 +220,11 @@ TEST(Swell, ABoxSaysItsFigureLocksTheListAndGivesTheTextBack) {
     const char* shown;
     const char* open;
   };
-  for (const Row& row :
-       {Row{&CSwellWaveDlg::period1_unknown, "27|//|2.0|05|12|0.5|", "o-oooo"},
-        Row{&CSwellWaveDlg::height1_unknown, "27|08|//|05|12|0.5|", "oo-ooo"},
-        Row{&CSwellWaveDlg::direction2_unknown, "27|08|2.0|//|12|0.5|", "ooo-oo"},
-        Row{&CSwellWaveDlg::period2_unknown, "27|08|2.0|05|//|0.5|", "oooo-o"},
-        Row{&CSwellWaveDlg::height2_unknown, "27|08|2.0|05|12|//|", "ooooo-"}}) {
+  for (const Row& row : {Row{&CSwellWaveDlg::period1_unknown, "27|//|2.0|05|12|0.5|", "o-oooo"},
+                         Row{&CSwellWaveDlg::height1_unknown, "27|08|//|05|12|0.5|", "oo-ooo"},
+                         Row{&CSwellWaveDlg::direction2_unknown, "27|08|2.0|//|12|0.5|", "ooo-oo"},
+                         Row{&CSwellWaveDlg::period2_unknown, "27|08|2.0|05|//|0.5|", "oooo-o"},
+                         Row{&CSwellWaveDlg::height2_unknown, "27|08|2.0|05|12|//|", "ooooo-"}}) {
     Swell s(kTwoSwells);
     s.tick(s.screen.*row.box);
     EXPECT_EQ(s.shown(), row.shown);
@@ -318,11 +317,10 @@ const Notice kRange2[] = {
      "Error: Input data is out of range.\nIt must be \"01<=Swell dir<=36,//,00\""},
     {id::kSwell2DirectionRange, "入力できない値です",
      "エラー：（01<=うねり方向<=36,//,00）\nの範囲を超えています。"}};
-const Notice kPair[] = {
-    {id::kSwell2DirectionMustBeUnknown, "Number Impossable2",
-     "Error: Input data is wrong. It must be \"Shell 2 Dir = //\""},
-    {id::kSwell2DirectionMustBeUnknown, "入力できない値です",
-     "エラー：うねり２の方向は「//」でなければなりません。"}};
+const Notice kPair[] = {{id::kSwell2DirectionMustBeUnknown, "Number Impossable2",
+                         "Error: Input data is wrong. It must be \"Shell 2 Dir = //\""},
+                        {id::kSwell2DirectionMustBeUnknown, "入力できない値です",
+                         "エラー：うねり２の方向は「//」でなければなりません。"}};
 const Notice kPeriods[] = {
     {id::kSwellPeriodRange, "Number Impossable",
      "Error: Input data is out of range.\nIt must be \"00<=Swell period<30,//\""},
@@ -339,27 +337,18 @@ struct Refusal {
   const char* typed;
   const Notice* notice;  ///< English, Japanese
 };
-const Refusal kRefusals[] = {{&CSwellWaveDlg::direction1, "", kNumber},
-                             {&CSwellWaveDlg::direction1, "x", kNumber},
-                             {&CSwellWaveDlg::direction1, "/", kNumber},
-                             {&CSwellWaveDlg::direction1, "37", kRange1},
-                             {&CSwellWaveDlg::direction1, "98", kRange1},
-                             {&CSwellWaveDlg::direction1, "-1", kRange1},
-                             {&CSwellWaveDlg::period1, "", kNumber},
-                             {&CSwellWaveDlg::period1, "*", kNumber},
-                             {&CSwellWaveDlg::period1, "30", kPeriods},
-                             {&CSwellWaveDlg::period1, "99", kPeriods},
-                             {&CSwellWaveDlg::height1, "", kNumber},
-                             {&CSwellWaveDlg::height1, "1,5", kNumber},
-                             {&CSwellWaveDlg::height1, "14.6", kHeights},
-                             {&CSwellWaveDlg::direction2, "", kNumber},
-                             {&CSwellWaveDlg::direction2, "\xff", kNumber},
-                             {&CSwellWaveDlg::direction2, "99", kRange2},
-                             {&CSwellWaveDlg::direction2, "37", kRange2},
-                             {&CSwellWaveDlg::period2, "", kNumber},
-                             {&CSwellWaveDlg::period2, "30", kPeriods},
-                             {&CSwellWaveDlg::height2, "", kNumber},
-                             {&CSwellWaveDlg::height2, "-1", kHeights}};
+const Refusal kRefusals[] = {
+    {&CSwellWaveDlg::direction1, "", kNumber},     {&CSwellWaveDlg::direction1, "x", kNumber},
+    {&CSwellWaveDlg::direction1, "/", kNumber},    {&CSwellWaveDlg::direction1, "37", kRange1},
+    {&CSwellWaveDlg::direction1, "98", kRange1},   {&CSwellWaveDlg::direction1, "-1", kRange1},
+    {&CSwellWaveDlg::period1, "", kNumber},        {&CSwellWaveDlg::period1, "*", kNumber},
+    {&CSwellWaveDlg::period1, "30", kPeriods},     {&CSwellWaveDlg::period1, "99", kPeriods},
+    {&CSwellWaveDlg::height1, "", kNumber},        {&CSwellWaveDlg::height1, "1,5", kNumber},
+    {&CSwellWaveDlg::height1, "14.6", kHeights},   {&CSwellWaveDlg::direction2, "", kNumber},
+    {&CSwellWaveDlg::direction2, "\xff", kNumber}, {&CSwellWaveDlg::direction2, "99", kRange2},
+    {&CSwellWaveDlg::direction2, "37", kRange2},   {&CSwellWaveDlg::period2, "", kNumber},
+    {&CSwellWaveDlg::period2, "30", kPeriods},     {&CSwellWaveDlg::height2, "", kNumber},
+    {&CSwellWaveDlg::height2, "-1", kHeights}};
 
 // The field before or behind it.
 CWaveField& another(CSwellWaveDlg& screen, CWaveField CSwellWaveDlg::*field) {

@@ -95,10 +95,9 @@ TEST(WindWave, ABoxSaysItsFigureLocksTheFieldAndGivesItsTextBack) {
     CWaveField CWindDlg::*field;
     const char* shown;
   };
-  for (const Row& row :
-       {Row{&CWindDlg::period_unknown, &CWindDlg::period, "//|1.5"},
-        Row{&CWindDlg::period_confused, &CWindDlg::period, "99|1.5"},
-        Row{&CWindDlg::height_unknown, &CWindDlg::height, "05|//"}}) {
+  for (const Row& row : {Row{&CWindDlg::period_unknown, &CWindDlg::period, "//|1.5"},
+                         Row{&CWindDlg::period_confused, &CWindDlg::period, "99|1.5"},
+                         Row{&CWindDlg::height_unknown, &CWindDlg::height, "05|//"}}) {
     Wind w({"05", "1.5"});
     w.screen.tick(w.screen.*row.box, true);
     EXPECT_EQ(w.shown(), row.shown);
@@ -167,9 +166,9 @@ TEST(WindWave, OpensWithTheBoxesOfItsValues) {
 
 // By OK, and by Enter in the field that has the focus.
 TEST(WindWave, ConfirmedAsItOpenedHandsBackWhatItWasGiven) {
-  const char* const figures[] = {"",   "00", "01", "5",  "25",  "26",  "30",  "45",   "77", "98",
-                                 "99", "//", "/",  "*",  "**",  "x",   "0.0", "0.2",  "0.5", "1.3",
-                                 "14.5", "14.6", "49.5", "1013.2", "\xff", " 1"};
+  const char* const figures[] = {
+      "",  "00", "01", "5",   "25",  "26",  "30",  "45",   "77",   "98",   "99",     "//",   "/",
+      "*", "**", "x",  "0.0", "0.2", "0.5", "1.3", "14.5", "14.6", "49.5", "1013.2", "\xff", " 1"};
   for (const text::Language language : kBothLanguages) {
     for (const char* const period : figures) {
       for (const char* const height : figures) {
@@ -243,9 +242,9 @@ TEST(WindWave, WhatIsTypedIsKeptInItsForm) {
 
 TEST(WindWave, ATypedPeriodOrHeightThatIsNoNumberIsRefused) {
   for (const bool japanese : {false, true}) {
-    const Notice notice = japanese
-                              ? Notice{id::kNotANumber, "数字を入力して下さい", "数字を入力して下さい"}
-                              : Notice{id::kNotANumber, "Please input number", "No digital string"};
+    const Notice notice =
+        japanese ? Notice{id::kNotANumber, "数字を入力して下さい", "数字を入力して下さい"}
+                 : Notice{id::kNotANumber, "Please input number", "No digital string"};
     for (CWaveField CWindDlg::*const field : {&CWindDlg::period, &CWindDlg::height}) {
       for (const char* const typed : {"x", "/", "*", "1x", "--", "\xff"}) {
         Wind w({"05", "1.5"}, {}, japanese ? kBothLanguages[1] : kBothLanguages[0]);
@@ -276,11 +275,10 @@ TEST(WindWave, WhatTheFormWouldRefuseIsRefusedHereToo) {
                            Row{&CWindDlg::height, "-1", id::kWaveHeightRange}}) {
       Wind w({"05", "1.5"}, {}, kBothLanguages[japanese ? 1 : 0]);
       ASSERT_TRUE(fakes::enter(w.screen, w.screen.*row.field, row.typed));
-      wave_checks::refused(
-          w.world, w.screen, w.screen.*row.field,
-          {row.message, japanese ? "入力できない値です" : "Number Impossable",
-           std::string(w.world.texts.get(row.message))},
-          [&] { w.ok(); });
+      wave_checks::refused(w.world, w.screen, w.screen.*row.field,
+                           {row.message, japanese ? "入力できない値です" : "Number Impossable",
+                            std::string(w.world.texts.get(row.message))},
+                           [&] { w.ok(); });
     }
   }
 }
@@ -309,21 +307,14 @@ TEST(WindWave, ShowsTheProbableHeightForTheWind) {
     std::optional<codetables::Knot> wind;
     const char* height;
   };
-  for (const Row& row : {Row{std::nullopt, " -"},
-                         Row{codetables::Knot{0}, " -"},
-                         Row{codetables::Knot{1}, "0.1"},
-                         Row{codetables::Knot{4}, "0.2"},
-                         Row{codetables::Knot{7}, "0.6"},
-                         Row{codetables::Knot{11}, "1.0"},
-                         Row{codetables::Knot{17}, "2.0"},
-                         Row{codetables::Knot{22}, "3.0"},
-                         Row{codetables::Knot{28}, "4.0"},
-                         Row{codetables::Knot{34}, "5.5"},
-                         Row{codetables::Knot{41}, "7.0"},
-                         Row{codetables::Knot{48}, "9.0"},
-                         Row{codetables::Knot{56}, "11.5"},
-                         Row{codetables::Knot{64}, "14.0"},
-                         Row{codetables::Knot{120}, "14.0"}}) {
+  for (const Row& row :
+       {Row{std::nullopt, " -"}, Row{codetables::Knot{0}, " -"}, Row{codetables::Knot{1}, "0.1"},
+        Row{codetables::Knot{4}, "0.2"}, Row{codetables::Knot{7}, "0.6"},
+        Row{codetables::Knot{11}, "1.0"}, Row{codetables::Knot{17}, "2.0"},
+        Row{codetables::Knot{22}, "3.0"}, Row{codetables::Knot{28}, "4.0"},
+        Row{codetables::Knot{34}, "5.5"}, Row{codetables::Knot{41}, "7.0"},
+        Row{codetables::Knot{48}, "9.0"}, Row{codetables::Knot{56}, "11.5"},
+        Row{codetables::Knot{64}, "14.0"}, Row{codetables::Knot{120}, "14.0"}}) {
     Wind w({"", ""}, row.wind);
     EXPECT_EQ(w.screen.reference_height.content, row.height);
     EXPECT_EQ(w.screen.unit(w.screen.reference_height), row.height[0] == ' ' ? "" : "m");
@@ -335,6 +326,18 @@ bool draws(const ui::Picture& picture, const std::string& line) {
   return std::find(lines.begin(), lines.end(), line) != lines.end();
 }
 
+// Surfaces, each with its name at a crest unless it is flat.
+int drawn_waves(const ui::Picture& picture) {
+  int surfaces = 0;
+  int names = 0;
+  for (const std::string& line : ui::describe(*picture.drawing)) {
+    surfaces += line.starts_with("thick line mark") ? 1 : 0;
+    names += line.find(" above ") != std::string::npos ? 1 : 0;
+  }
+  EXPECT_LE(names, surfaces);
+  return surfaces;
+}
+
 TEST(WindWave, DrawsTheHeightAsItIsEntered) {
   Wind w({"05", "1.5"}, codetables::Knot{18});
   EXPECT_TRUE(draws(w.screen.side, "text text \"1.5 m\" above (56 1.5)"));
@@ -342,8 +345,19 @@ TEST(WindWave, DrawsTheHeightAsItIsEntered) {
   w.screen.type(w.screen.height, "4");
   EXPECT_TRUE(draws(w.screen.side, "text text \"4 m\" above (56 4)"));
   w.screen.tick(w.screen.height_unknown, true);
-  for (const std::string& line : ui::describe(*w.screen.side.drawing))
-    EXPECT_EQ(line.find("above"), std::string::npos) << line;
+  EXPECT_EQ(drawn_waves(w.screen.side), 0);
+}
+
+TEST(WindWave, DrawsNoHeightThatItWouldRefuse) {
+  for (const char* const height : {"1,5", "15", "-1", "x", "//", "", "49.5"}) {
+    Wind w({"05", height});
+    EXPECT_EQ(drawn_waves(w.screen.side), 0) << height;
+    w.screen.type(w.screen.height, height);
+    EXPECT_EQ(drawn_waves(w.screen.side), 0) << height;
+  }
+  // No waves are a flat sea without a name.
+  Wind none({"00", "00"});
+  EXPECT_EQ(drawn_waves(none.screen.side), 1);
 }
 
 TEST(WindWave, CancelAndTheCloseBoxChangeNothing) {

@@ -104,8 +104,7 @@ bool are_no_waves(std::string_view period, std::string_view height) {
 
 std::string_view probable_wave_height(int beaufort_force) {
   static constexpr std::array<std::string_view, 13> kHeights = {
-      " -",  "0.1", "0.2", "0.6", "1.0", "2.0", "3.0",
-      "4.0", "5.5", "7.0", "9.0", "11.5", "14.0"};
+      " -", "0.1", "0.2", "0.6", "1.0", "2.0", "3.0", "4.0", "5.5", "7.0", "9.0", "11.5", "14.0"};
   return kHeights.at(static_cast<std::size_t>(beaufort_force));
 }
 

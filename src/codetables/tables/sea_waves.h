@@ -8,12 +8,13 @@
 
 namespace codetables {
 
-inline constexpr int kLongestWavePeriod = 29;          ///< seconds; longer ones are no sea waves
-inline constexpr int kLongestWavePeriodOffered = 25;   ///< seconds; from there on it is doubted
-inline constexpr double kHighestWave = 14.5;           ///< metres
-inline constexpr std::string_view kNoWaves = "00";     ///< as a direction, a period or a height
+inline constexpr int kLongestWavePeriod = 29;         ///< seconds; longer ones are no sea waves
+inline constexpr int kLongestWavePeriodOffered = 25;  ///< seconds; from there on it is doubted
+inline constexpr double kHighestWave = 14.5;          ///< metres
+inline constexpr std::string_view kNoWaves = "00";    ///< as a direction, a period or a height
 inline constexpr std::string_view kWaveUnknown = "//";
-inline constexpr std::string_view kWaveIndeterminate = "99";  ///< confused: no one direction or period
+inline constexpr std::string_view kWaveIndeterminate =
+    "99";  ///< confused: no one direction or period
 /// The height of waves below a quarter of a metre; the report has "00" beside their period.
 inline constexpr std::string_view kSmallestHeight = "0.2";
 

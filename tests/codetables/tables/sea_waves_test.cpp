@@ -24,69 +24,61 @@ void expect(const CheckedWave& checked, const Row& row) {
 
 TEST(SwellDirection, IsTensOfDegreesUnknownOrNoneAndOnlyTheFirstIsConfused) {
   for (const bool first : {true, false}) {
-    for (const Row& row : {Row{"01", WaveCheck::kTaken, "01"},
-                           {"36", WaveCheck::kTaken, "36"},
-                           {"5", WaveCheck::kTaken, "05"},
-                           {" 18 ", WaveCheck::kTaken, "18"},
-                           {"00", WaveCheck::kTaken, "00"},
-                           {"0", WaveCheck::kTaken, "00"},
-                           {"//", WaveCheck::kTaken, "//"},
-                           {"99", first ? WaveCheck::kTaken : WaveCheck::kOutOfRange, first ? "99" : ""},
-                           {"37", WaveCheck::kOutOfRange, ""},
-                           {"98", WaveCheck::kOutOfRange, ""},
-                           {"-1", WaveCheck::kOutOfRange, ""},
-                           {"1.", WaveCheck::kOutOfRange, ""},
-                           {"", WaveCheck::kNoNumber, ""},
-                           {"  ", WaveCheck::kNoNumber, ""},
-                           {"*", WaveCheck::kNoNumber, ""},
-                           {"/", WaveCheck::kNoNumber, ""},
-                           {"x", WaveCheck::kNoNumber, ""},
-                           {"1x", WaveCheck::kNoNumber, ""},
-                           {"\xff", WaveCheck::kNoNumber, ""}})
+    for (const Row& row :
+         {Row{"01", WaveCheck::kTaken, "01"},
+          {"36", WaveCheck::kTaken, "36"},
+          {"5", WaveCheck::kTaken, "05"},
+          {" 18 ", WaveCheck::kTaken, "18"},
+          {"00", WaveCheck::kTaken, "00"},
+          {"0", WaveCheck::kTaken, "00"},
+          {"//", WaveCheck::kTaken, "//"},
+          {"99", first ? WaveCheck::kTaken : WaveCheck::kOutOfRange, first ? "99" : ""},
+          {"37", WaveCheck::kOutOfRange, ""},
+          {"98", WaveCheck::kOutOfRange, ""},
+          {"-1", WaveCheck::kOutOfRange, ""},
+          {"1.", WaveCheck::kOutOfRange, ""},
+          {"", WaveCheck::kNoNumber, ""},
+          {"  ", WaveCheck::kNoNumber, ""},
+          {"*", WaveCheck::kNoNumber, ""},
+          {"/", WaveCheck::kNoNumber, ""},
+          {"x", WaveCheck::kNoNumber, ""},
+          {"1x", WaveCheck::kNoNumber, ""},
+          {"\xff", WaveCheck::kNoNumber, ""}})
       expect(codetables::check_swell_direction(row.typed, first), row);
   }
 }
 
 TEST(WavePeriod, IsUnderThirtySecondsAndDoubtedBeyondTheLines) {
   for (const bool wind : {true, false}) {
-    for (const Row& row : {Row{"00", WaveCheck::kTaken, "00"},
-                           {"1", WaveCheck::kTaken, "01"},
-                           {"25", WaveCheck::kTaken, "25"},
-                           {"26", WaveCheck::kDoubted, "26"},
-                           {"29", WaveCheck::kDoubted, "29"},
-                           {"30", WaveCheck::kOutOfRange, ""},
-                           {"//", WaveCheck::kTaken, "//"},
-                           {"99", wind ? WaveCheck::kTaken : WaveCheck::kOutOfRange, wind ? "99" : ""},
-                           {"98", WaveCheck::kOutOfRange, ""},
-                           {".5", WaveCheck::kOutOfRange, ""},
-                           {"", WaveCheck::kNoNumber, ""},
-                           {"*", WaveCheck::kNoNumber, ""},
-                           {"/", WaveCheck::kNoNumber, ""}})
+    for (const Row& row :
+         {Row{"00", WaveCheck::kTaken, "00"},
+          {"1", WaveCheck::kTaken, "01"},
+          {"25", WaveCheck::kTaken, "25"},
+          {"26", WaveCheck::kDoubted, "26"},
+          {"29", WaveCheck::kDoubted, "29"},
+          {"30", WaveCheck::kOutOfRange, ""},
+          {"//", WaveCheck::kTaken, "//"},
+          {"99", wind ? WaveCheck::kTaken : WaveCheck::kOutOfRange, wind ? "99" : ""},
+          {"98", WaveCheck::kOutOfRange, ""},
+          {".5", WaveCheck::kOutOfRange, ""},
+          {"", WaveCheck::kNoNumber, ""},
+          {"*", WaveCheck::kNoNumber, ""},
+          {"/", WaveCheck::kNoNumber, ""}})
       expect(codetables::check_wave_period(row.typed, wind), row);
   }
 }
 
 TEST(WaveHeight, IsMetresWithOneDecimalUpToTheHighestThatTheReportHas) {
-  for (const Row& row : {Row{"0.5", WaveCheck::kTaken, "0.5"},
-                         {"14.5", WaveCheck::kTaken, "14.5"},
-                         {"2", WaveCheck::kTaken, "2.0"},
-                         {".5", WaveCheck::kTaken, "0.5"},
-                         {"1.3", WaveCheck::kTaken, "1.3"},
-                         {"00", WaveCheck::kTaken, "00"},
-                         {"0", WaveCheck::kTaken, "0.0"},
-                         {"-0", WaveCheck::kTaken, "0.0"},
-                         {"0.2", WaveCheck::kTaken, "0.2"},
-                         {"<0.25", WaveCheck::kTaken, "0.2"},
-                         {"< 0.25", WaveCheck::kTaken, "0.2"},
-                         {"//", WaveCheck::kTaken, "//"},
-                         {"14.6", WaveCheck::kOutOfRange, ""},
-                         {"15", WaveCheck::kOutOfRange, ""},
-                         {"-1", WaveCheck::kOutOfRange, ""},
-                         {"", WaveCheck::kNoNumber, ""},
-                         {"*", WaveCheck::kNoNumber, ""},
-                         {"/", WaveCheck::kNoNumber, ""},
-                         {"x", WaveCheck::kNoNumber, ""},
-                         {"<0.5", WaveCheck::kNoNumber, ""},
+  for (const Row& row : {Row{"0.5", WaveCheck::kTaken, "0.5"}, {"14.5", WaveCheck::kTaken, "14.5"},
+                         {"2", WaveCheck::kTaken, "2.0"},      {".5", WaveCheck::kTaken, "0.5"},
+                         {"1.3", WaveCheck::kTaken, "1.3"},    {"00", WaveCheck::kTaken, "00"},
+                         {"0", WaveCheck::kTaken, "0.0"},      {"-0", WaveCheck::kTaken, "0.0"},
+                         {"0.2", WaveCheck::kTaken, "0.2"},    {"<0.25", WaveCheck::kTaken, "0.2"},
+                         {"< 0.25", WaveCheck::kTaken, "0.2"}, {"//", WaveCheck::kTaken, "//"},
+                         {"14.6", WaveCheck::kOutOfRange, ""}, {"15", WaveCheck::kOutOfRange, ""},
+                         {"-1", WaveCheck::kOutOfRange, ""},   {"", WaveCheck::kNoNumber, ""},
+                         {"*", WaveCheck::kNoNumber, ""},      {"/", WaveCheck::kNoNumber, ""},
+                         {"x", WaveCheck::kNoNumber, ""},      {"<0.5", WaveCheck::kNoNumber, ""},
                          {"1,5", WaveCheck::kNoNumber, ""}})
     expect(codetables::check_wave_height(row.typed), row);
 }
@@ -155,7 +147,7 @@ TEST(NoWaves, AreBothPeriodAndHeightOfZero) {
 }
 
 TEST(ProbableWaveHeight, FollowsTheBeaufortForce) {
-  const char* const heights[] = {" -",  "0.1", "0.2", "0.6", "1.0", "2.0",  "3.0",
+  const char* const heights[] = {" -",  "0.1", "0.2", "0.6", "1.0",  "2.0", "3.0",
                                  "4.0", "5.5", "7.0", "9.0", "11.5", "14.0"};
   for (int force = 0; force <= 12; ++force)
     EXPECT_EQ(codetables::probable_wave_height(force), heights[force]) << force;
