@@ -73,7 +73,12 @@ struct Shown {
     QWidget* widget = window.binding(control)->focus_widget();
     if (auto* const box = qobject_cast<QComboBox*>(widget)) widget = box->lineEdit();
     // On the words of a box or radio button, not on the room beside them.
-    QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(8, widget->height() / 2));
+    const QPoint at(8, widget->height() / 2);
+    const std::size_t before = boxes.titles.size();
+    QTest::mousePress(widget, Qt::LeftButton, {}, at);
+    QApplication::processEvents();
+    // A message box that came between is where a person lets the button go.
+    if (boxes.titles.size() == before) QTest::mouseRelease(widget, Qt::LeftButton, {}, at);
     QApplication::processEvents();
   }
   [[nodiscard]] QComboBox& combo(const ui::Control& control) const {
@@ -189,38 +194,43 @@ TEST(SwellWindow, TheArrowsChooseHowManyThereAre) {
   EXPECT_EQ(s.combo(s.screen.direction2).currentText(), "05");
 }
 
-TEST(SwellWindow, ABoxIsTickedOverAnEmptyFieldByAClickAndByTheSpaceBar) {
-  SwellWindow clicked(kTwoSwells);
-  clicked.tab_to(clicked.screen.period1);
+TEST(SwellWindow, ABoxIsTickedOverAnEmptyFieldByAClick) {
+  SwellWindow s(kTwoSwells);
+  s.tab_to(s.screen.period1);
   press(Qt::Key_Delete);
-  EXPECT_EQ(clicked.screen.period1.content, "");
-  clicked.click(clicked.screen.period1_unknown);
-  EXPECT_TRUE(clicked.boxes.titles.empty());
-  EXPECT_TRUE(clicked.screen.period1_unknown.checked);
-  EXPECT_EQ(clicked.combo(clicked.screen.period1).currentText(), "//");
-  EXPECT_FALSE(clicked.combo(clicked.screen.period1).isEnabled());
+  EXPECT_EQ(s.screen.period1.content, "");
+  s.click(s.screen.period1_unknown);
+  EXPECT_TRUE(s.boxes.titles.empty());
+  EXPECT_TRUE(s.screen.period1_unknown.checked);
+  EXPECT_EQ(s.combo(s.screen.period1).currentText(), "//");
+  EXPECT_FALSE(s.combo(s.screen.period1).isEnabled());
+}
 
-  SwellWindow spaced(kTwoSwells);
-  spaced.tab_to(spaced.screen.height2);
+TEST(SwellWindow, ABoxIsTickedOverAnEmptyFieldByTheSpaceBar) {
+  SwellWindow s(kTwoSwells);
+  s.tab_to(s.screen.height2);
   press(Qt::Key_Delete);
-  spaced.tab_to(spaced.screen.height2_unknown);
+  s.tab_to(s.screen.height2_unknown);
   press(Qt::Key_Space);
-  EXPECT_EQ(spaced.combo(spaced.screen.height2).currentText(), "//");
+  EXPECT_EQ(s.combo(s.screen.height2).currentText(), "//");
   press(Qt::Key_Return);
-  EXPECT_EQ(spaced.screen.result(), ui::kOk);
-  EXPECT_EQ(spaced.screen.values().second.height, "//");
+  EXPECT_EQ(s.screen.result(), ui::kOk);
+  EXPECT_EQ(s.screen.values().second.height, "//");
 }
 
 TEST(SwellWindow, FindsAPeriodForAWaveLengthByKeysAlone) {
   SwellWindow s({{"27", "", "2.0"}, {"05", "12", "0.5"}});
   s.world.windows.on_shown = [](desktop::ScreenWindow& dialog) {
     EXPECT_EQ(dialog.objectName(), "CWaveLengthDlg");
-    dialog.activateWindow();
-    QApplication::processEvents();
-    SwellWindow::type("156");
-    press(Qt::Key_Return);
+    QWidget* const length = dialog.binding("length")->focus_widget();
+    QTest::keyClicks(length, "156");
+    EXPECT_EQ(dialog.binding("period")->shown().content, "10");
+    QTest::keyClick(length, Qt::Key_Return);
   };
-  s.tab_to(s.screen.length1);
+  // Backwards, for an empty field does not let go forwards.
+  for (int i = 0; i < 20 && s.screen.focused() != &s.screen.length1; ++i)
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+  ASSERT_TRUE(s.has_focus(s.screen.length1));
   press(Qt::Key_Space);
   s.back();
   EXPECT_EQ(s.combo(s.screen.period1).currentText(), "10");
@@ -257,21 +267,23 @@ TEST(WindWaveWindow, ABadEntryIsToldOnceAndKeepsTheFocusWithItsText) {
   }
 }
 
-TEST(WindWaveWindow, EscapeGoesWithABadEntryAndHelpLeavesTheCheckToOk) {
-  WindWindow gone({"05", "1.5"}, std::nullopt);
-  gone.type("x");
+TEST(WindWaveWindow, EscapeGoesWithABadEntryAndSaysNothing) {
+  WindWindow w({"05", "1.5"}, std::nullopt);
+  w.type("x");
   press(Qt::Key_Escape);
-  EXPECT_EQ(gone.screen.result(), ui::kCancel);
-  EXPECT_TRUE(gone.boxes.titles.empty());
+  EXPECT_EQ(w.screen.result(), ui::kCancel);
+  EXPECT_TRUE(w.boxes.titles.empty());
+}
 
-  WindWindow helped({"05", "1.5"}, std::nullopt);
-  helped.type("x");
-  helped.click(helped.screen.help);
-  EXPECT_TRUE(helped.boxes.titles.empty());
-  helped.click(helped.screen.ok);
-  helped.back();
-  EXPECT_EQ(helped.boxes.titles, std::vector<std::string>{"Please input number"});
-  EXPECT_TRUE(helped.has_focus(helped.screen.period));
+TEST(WindWaveWindow, HelpLeavesTheCheckToOk) {
+  WindWindow w({"05", "1.5"}, std::nullopt);
+  w.type("x");
+  w.click(w.screen.help);
+  EXPECT_TRUE(w.boxes.titles.empty());
+  w.click(w.screen.ok);
+  w.back();
+  EXPECT_EQ(w.boxes.titles, std::vector<std::string>{"Please input number"});
+  EXPECT_TRUE(w.has_focus(w.screen.period));
 }
 
 TEST(WindWaveWindow, TheArrowsGoThroughTheLinesOfAField) {
