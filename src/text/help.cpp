@@ -19,6 +19,7 @@ constexpr DialogTopic kTopics[] = {
     {"CLookWindDlg", {"Kavrel", "Capter11-9_J.htm", "Capter11-9_E.htm"}},
     {"CWindDlg", {"Kavrel", "Capter11-10_J.htm", "Capter11-10_E.htm"}},
     {"CSwellWaveDlg", {"Kavrel", "Capter11-11_J.htm", "Capter11-11_E.htm"}},
+    {"CWaveLengthDlg", {"Kavrel", "Capter11-11-1_J.htm", "Capter11-11-1_E.htm"}},
     {"CEyeShotDlg", {"Kavrel", "Capter11-12_J.htm", "Capter11-12_E.htm"}},
     {"CNowWeatherDlg", {"Kavrel", "Capter11-13_J.htm", "Capter11-13_E.htm"}},
     {"CPastWeatherDlg1", {"Kavrel", "Capter11-14_J.htm", "Capter11-14_E.htm"}},

@@ -940,6 +940,22 @@ inline constexpr Id kSwellRangeCaption{43595};
 inline constexpr Id kSwellPairCaption{43596};
 inline constexpr Id kSwell2DirectionMustBeUnknown{43597};
 
+inline constexpr Id kSwell1Else{43700};
+inline constexpr Id kSwell2Else{43701};
+inline constexpr Id kWaveHeightRange{43702};
+
+// CWaveLengthDlg
+inline constexpr Id kWaveLengthTitle{43710};
+inline constexpr Id kWaveLength{43711};
+inline constexpr Id kWaveLengthPeriod{43712};
+inline constexpr Id kWaveLengthNoNumber{43713};
+inline constexpr Id kWaveLengthTooShort{43714};
+inline constexpr Id kWaveLengthTooLong{43715};
+
+// Waves: a unit and a drawing
+inline constexpr Id kUnitSeconds{43721};
+inline constexpr Id kDrawnWaveHeight{43720};
+
 // CSeaIceDialog (ice accretion)
 inline constexpr Id kIcingTitle{43600};
 inline constexpr Id kIcingCauseGroup{43601};

@@ -5,6 +5,9 @@
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CNowWeatherDlg.h"
 #include "codetables/CPastWeatherDlg1.h"
+#include "codetables/CSwellWaveDlg.h"
+#include "codetables/CWaveLengthDlg.h"
+#include "codetables/CWindDlg.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
@@ -80,6 +83,18 @@ std::vector<ScreenCase> make_table() {
       {"CPastWeatherDlg1",
        [](ui::Services& services) -> Made {
          return std::make_unique<CPastWeatherDlg1>(services, 6, 2);
+       }},
+      {"CSwellWaveDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSwellWaveDlg>(
+             services, CSwellWaveDlg::Values{{"27", "08", "2.0"}, {"05", "12", "0.2"}});
+       }},
+      {"CWaveLengthDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CWaveLengthDlg>(services); }},
+      {"CWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CWindDlg>(services, CWindDlg::Values{"05", "1.5"},
+                                           codetables::Knot{18});
        }},
       // elements
       {"CCountDewDlg",
