@@ -14,6 +14,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QTextLayout>
 #include <QTreeWidget>
 #include <algorithm>
 #include <array>
@@ -38,6 +39,23 @@ QStringList lines_of(const std::vector<std::string>& lines) {
 int width_for(const QWidget& widget, int characters) {
   return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters +
          widget.fontMetrics().height();
+}
+
+// The text on as many lines as it takes where each has room for so many figures; one that fits
+// stays to the letter.
+QString broken(const QString& text, const QWidget& widget, int characters) {
+  if (characters == 0) return text;
+  QTextLayout layout(text, widget.font());
+  layout.beginLayout();
+  QStringList lines;
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters);
+    lines << text.mid(line.textStart(), line.textLength());
+  }
+  layout.endLayout();
+  if (lines.size() < 2) return text;
+  for (QString& line : lines) line = line.trimmed();
+  return lines.join(QLatin1Char('\n'));
 }
 
 // What the widget itself cuts at; 0 for nothing. A field that goes on in another must see its
@@ -289,7 +307,7 @@ class ChoiceBinding : public Binding {
 
  protected:
   void show_state() override {
-    if (const QStringList wanted = lines_of(control().items); wanted != lines_) relabel(wanted);
+    if (lines_of(control().items) != lines_ || lines_of(control().item_codes) != codes_) relabel();
     const auto buttons = group_->buttons();
     for (int i = 0; i < buttons.size(); ++i) {
       const auto at = static_cast<std::size_t>(i);
@@ -311,16 +329,17 @@ class ChoiceBinding : public Binding {
     group_->setExclusive(true);
   }
 
-  void relabel(const QStringList& wanted) {
-    if (wanted.size() == lines_.size()) {
-      for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(wanted[i]);
-      lines_ = wanted;
+  void relabel() {
+    const bool other_lines = control().items.size() != static_cast<std::size_t>(lines_.size()) ||
+                             lines_of(control().item_codes) != codes_;
+    lines_ = lines_of(control().items);
+    codes_ = lines_of(control().item_codes);
+    if (!other_lines) {
+      for (int i = 0; i < lines_.size(); ++i) group_->button(i)->setText(written(i));
       return;
     }
     qDeleteAll(box_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
     delete box_->layout();
-    lines_ = wanted;
-    codes_ = lines_of(control().item_codes);
     if (const ui::ChoiceLook look = ui::look_of(control()); look == ui::ChoiceLook::kBehindCodes) {
       place_behind_codes();
     } else {
@@ -328,8 +347,12 @@ class ChoiceBinding : public Binding {
     }
   }
 
+  [[nodiscard]] QString written(int index) const {
+    return broken(lines_[index], *box_, ui::extent_of(control()).most_characters);
+  }
+
   QRadioButton* add_button(int index) {
-    auto* const button = new QRadioButton(lines_[index], box_);
+    auto* const button = new QRadioButton(written(index), box_);
     group_->addButton(button, index);
     return button;
   }
@@ -350,10 +373,13 @@ class ChoiceBinding : public Binding {
     layout->setHorizontalSpacing(10);
     layout->setVerticalSpacing(2);
     layout->setColumnStretch(1, 1);
+    // The system's fixed font does not follow the size of the application's.
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSizeF(box_->font().pointSizeF());
     for (int i = 0; i < lines_.size(); ++i) {
       auto* const code = new QLabel(codes_.value(i), box_);
       code->setTextFormat(Qt::PlainText);
-      code->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+      code->setFont(fixed);
       layout->addWidget(code, i, 0, Qt::AlignRight | Qt::AlignVCenter);
       layout->addWidget(add_button(i), i, 1);
     }
