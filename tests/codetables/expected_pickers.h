@@ -21,6 +21,7 @@ struct Code {
   const char* japanese;
   const char* field;  ///< name of the record's field
   std::vector<Line> lines;
+  bool drawn = false;  ///< what is chosen is drawn beside the lines
 };
 
 struct Picker {
