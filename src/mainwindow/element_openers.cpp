@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CICECiDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "codetables/code_pickers.h"
 #include "codetables/tables/pressure_figures.h"
 #include "elements/CCountDewDlg.h"
@@ -94,20 +96,41 @@ bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<Put
   return true;
 }
 
-// The dialogs that pick codes. A field that shows one of them is named for it.
+// Takes one code of a dialog. The field that shows it is named for it, as the record's is. A text
+// that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
+void take_code(elements::ObservationForm& form, std::string_view symbol, const std::string& code) {
+  std::string Struct_Weather::*const member = find_weather_field(symbol)->member;
+  const Field field = elements::field_named(symbol).value();
+  if (form.record().*member == code && !form.in_error(field)) return;
+  form.change([&](Struct_Weather& record) { record.*member = code; }, {field});
+}
+
+// The dialogs that pick codes.
 template <const codetables::CodePicker& picker>
 bool pick(Opening& opening) {
   CCodeTableDlg dialog(opening.services, picker, opening.form.record());
   if (!confirmed(opening, dialog)) return false;
   Struct_Weather chosen = opening.form.record();
   dialog.put_into(chosen);
-  for (const codetables::PickedCode& picked : picker.codes) {
-    std::string Struct_Weather::*const member = find_weather_field(picked.symbol)->member;
-    const Field field = elements::field_named(picked.symbol).value();
-    // A text that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
-    if (opening.form.record().*member == chosen.*member && !opening.form.in_error(field)) continue;
-    opening.form.change([&](Struct_Weather& record) { record.*member = chosen.*member; }, {field});
-  }
+  for (const codetables::PickedCode& picked : picker.codes)
+    take_code(opening.form, picked.symbol, chosen.*find_weather_field(picked.symbol)->member);
+  return true;
+}
+
+bool open_ice_accretion(Opening& opening) {
+  const Struct_Weather& record = opening.form.record();
+  CSeaIceDialog dialog(opening.services, {record.Is, record.EsEs, record.Rs});
+  if (!confirmed(opening, dialog)) return false;
+  take_code(opening.form, "Is", dialog.values().Is);
+  take_code(opening.form, "EsEs", dialog.values().EsEs);
+  take_code(opening.form, "Rs", dialog.values().Rs);
+  return true;
+}
+
+bool open_ice_concentration(Opening& opening) {
+  CICECiDlg dialog(opening.services, opening.form.record().ci);
+  if (!confirmed(opening, dialog)) return false;
+  take_code(opening.form, "ci", dialog.ci());
   return true;
 }
 
@@ -278,9 +301,9 @@ constexpr ElementRow kRows[] = {
     {kUpperCloud, pick<codetables::kHighCloud>},
     {kMiddleCloud, pick<codetables::kMiddleCloud>},
     {kLowerCloud, pick<codetables::kLowCloud>},
-    {kIceAccretion},
+    {kIceAccretion, open_ice_accretion},
     {kCloudHeight, pick<codetables::kCloudBase>},
-    {kIceConcentration},
+    {kIceConcentration, open_ice_concentration},
     {kIceStage, pick<codetables::kIceStage>},
     {kIceBearing, pick<codetables::kIceEdge>},
     {kIceTrend, pick<codetables::kIceTrend>},

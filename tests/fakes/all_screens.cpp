@@ -3,6 +3,8 @@
 #include "archive/CCreateDir.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CICECiDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
@@ -70,6 +72,13 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
+      // codetables, and below every picker
+      {"CICECiDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CICECiDlg>(services, "4"); }},
+      {"CSeaIceDialog",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSeaIceDialog>(services, CSeaIceDialog::Values{"3", "05", "1"});
+       }},
       // elements
       {"CCountDewDlg",
        [](ui::Services& services) -> Made {

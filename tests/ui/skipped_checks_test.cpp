@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "archive/CCreateDir.h"
+#include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
@@ -64,6 +65,9 @@ const std::map<std::string_view, std::function<Texts(const ui::Screen&)>>& hande
        })},
       {"CPresureTendencyDlg", reader<CPresureTendencyDlg>([](const CPresureTendencyDlg& d) {
          return Texts{d.a(), d.ppp()};
+       })},
+      {"CSeaIceDialog", reader<CSeaIceDialog>([](const CSeaIceDialog& d) {
+         return Texts{d.values().Is, d.values().EsEs, d.values().Rs};
        })},
       {"CSeaSurfacePressureDlg",
        reader<CSeaSurfacePressureDlg>([](const CSeaSurfacePressureDlg& d) {
