@@ -9,6 +9,8 @@
 #include "codetables/CPastWeatherDlg1.h"
 #include "codetables/CSwellWaveDlg.h"
 #include "codetables/CWindDlg.h"
+#include "codetables/CICECiDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "codetables/code_pickers.h"
 #include "codetables/tables/past_weather.h"
 #include "codetables/tables/pressure_figures.h"
@@ -331,6 +333,23 @@ bool open_swell(Opening& opening) {
                               {Field::kHw2Hw2, v.second.height}});
 }
 
+bool open_ice_accretion(Opening& opening) {
+  const R& record = opening.form.record();
+  CSeaIceDialog dialog(opening.services, {record.Is, record.EsEs, record.Rs});
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "Is", dialog.values().Is);
+  put_code(opening, "EsEs", dialog.values().EsEs);
+  put_code(opening, "Rs", dialog.values().Rs);
+  return true;
+}
+
+bool open_ice_concentration(Opening& opening) {
+  CICECiDlg dialog(opening.services, opening.form.record().ci);
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "ci", dialog.ci());
+  return true;
+}
+
 constexpr ElementRow kRows[] = {
     {kObservationTime, open_time},
     {kPosition, open_position},
@@ -351,9 +370,9 @@ constexpr ElementRow kRows[] = {
     {kUpperCloud, pick<codetables::kHighCloud>},
     {kMiddleCloud, pick<codetables::kMiddleCloud>},
     {kLowerCloud, pick<codetables::kLowCloud>},
-    {kIceAccretion},
+    {kIceAccretion, open_ice_accretion},
     {kCloudHeight, pick<codetables::kCloudBase>},
-    {kIceConcentration},
+    {kIceConcentration, open_ice_concentration},
     {kIceStage, pick<codetables::kIceStage>},
     {kIceBearing, pick<codetables::kIceEdge>},
     {kIceTrend, pick<codetables::kIceTrend>},

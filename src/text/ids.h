@@ -962,6 +962,7 @@ inline constexpr Id kIcingCauseGroup{43601};
 inline constexpr Id kIcingThickness{43602};
 inline constexpr Id kIcingRateHeading{43603};
 inline constexpr Id kIcingRateGroup{43604};
+inline constexpr Id kIcingThicknessRange{43780};
 
 // CICECiDlg, CICESiBiDlg, CICEDiDlg, CNewZiDlg (sea ice)
 inline constexpr Id kIceConcentrationTitle{43610};
@@ -975,6 +976,17 @@ inline constexpr Id kIceStageList{42720};
 inline constexpr Id kLandIceList{42721};
 inline constexpr Id kIceEdgeTitle{43621};
 inline constexpr Id kIceTrendTitle{43622};
+inline constexpr Id kIceOnDrawing{43789};
+
+// Points of the compass on drawings, clockwise from the northeast
+inline constexpr Id kCompassNortheast{43781};
+inline constexpr Id kCompassEast{43782};
+inline constexpr Id kCompassSoutheast{43783};
+inline constexpr Id kCompassSouth{43784};
+inline constexpr Id kCompassSouthwest{43785};
+inline constexpr Id kCompassWest{43786};
+inline constexpr Id kCompassNorthwest{43787};
+inline constexpr Id kCompassNorth{43788};
 
 // CSeaSurfacePressureDlg
 inline constexpr Id kPressureTitle{13500};

@@ -61,7 +61,7 @@ class Drawn : public testing::TestWithParam<bool> {
 };
 
 TEST_P(Drawn, AreasFillTheirPlaceInTheColourOfTheirInk) {
-  for (const Ink ink : {Ink::kLand, Ink::kWater}) {
+  for (const Ink ink : {Ink::kLand, Ink::kWater, Ink::kIce}) {
     ui::Drawing drawing = unit_drawing();
     drawing.shapes = {ui::Area{{{0, 0}, {5, 0}, {5, 5}, {0, 5}}, ink}};
     const QImage image = painted(drawing, palette);
@@ -151,13 +151,13 @@ TEST_P(Drawn, PointsThatAreNoNumbersDoNoHarm) {
   EXPECT_EQ(painted(drawing, palette).size(), QSize(200, 200));
 }
 
-// What is drawn as a line or a sign, and every text, is read on paper, land and water.
+// What is drawn as a line or a sign, and every text, is read on paper, land, water and ice.
 TEST_P(Drawn, EveryInkIsReadOnEveryPaper) {
   for (const Ink ink : {Ink::kText, Ink::kMark, Ink::kCaution, Ink::kAlarm}) {
     const QColor colour = desktop::colour_of(ink, palette);
     for (const QColor& paper :
          {palette.color(QPalette::Base), desktop::colour_of(Ink::kLand, palette),
-          desktop::colour_of(Ink::kWater, palette)}) {
+          desktop::colour_of(Ink::kWater, palette), desktop::colour_of(Ink::kIce, palette)}) {
       EXPECT_GE(desktop::contrast(colour, paper), desktop::kReadable)
           << ui::name_of(ink) << " " << colour.name().toStdString() << " on "
           << paper.name().toStdString();

@@ -8,6 +8,8 @@
 #include "codetables/CSwellWaveDlg.h"
 #include "codetables/CWaveLengthDlg.h"
 #include "codetables/CWindDlg.h"
+#include "codetables/CICECiDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
@@ -75,7 +77,7 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
-      // codetables
+      // codetables, and below every picker
       {"CNowWeatherDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CNowWeatherDlg>(services, "07");
@@ -95,6 +97,12 @@ std::vector<ScreenCase> make_table() {
        [](ui::Services& services) -> Made {
          return std::make_unique<CWindDlg>(services, CWindDlg::Values{"05", "1.5"},
                                            codetables::Knot{18});
+       }},
+      {"CICECiDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CICECiDlg>(services, "4"); }},
+      {"CSeaIceDialog",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSeaIceDialog>(services, CSeaIceDialog::Values{"3", "05", "1"});
        }},
       // elements
       {"CCountDewDlg",

@@ -99,6 +99,14 @@ const Corrected kCorrected[] = {
     {"ww", "25", "x", id::kPresentWeatherRange, "CNowWeatherDlg", ok, "25"},
     {"W1", "6", "x", id::kPastWeatherRange, "CPastWeatherDlg1", ok, "6"},
     {"W2", "2", "x", id::kPastWeatherRange, "CPastWeatherDlg1", ok, "2"},
+    {"Is", "2", "6", id::kIceCauseRange, "CSeaIceDialog", ok, "2"},
+    {"EsEs", "12", "x", id::kIceThicknessRange, "CSeaIceDialog", ok, "12"},
+    {"Rs", "5", "6", id::kIceRateRange, "CSeaIceDialog", ok, "5"},
+    {"ci", "4", "0", id::kIceConcentrationRange, "CICECiDlg", ok, "4"},
+    {"Si", "4", "0", id::kIceStageRange, "CICESiBiDlg", ok, "4"},
+    {"bi", "4", "0", id::kIceLandOriginRange, "CICESiBiDlg", ok, "4"},
+    {"Di", "4", "0", id::kIceBearingRange, "CICEDiDlg", ok, "4"},
+    {"zi", "4", "0", id::kIceTrendRange, "CNewZiDlg", ok, "4"},
 };
 
 ShipFixedData ship_for(const std::string& field) {
