@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CICECiDlg.h"
 #include "codetables/CNowWeatherDlg.h"
 #include "codetables/CPastWeatherDlg1.h"
+#include "codetables/CSeaIceDialog.h"
 #include "codetables/CSwellWaveDlg.h"
 #include "codetables/CWindDlg.h"
-#include "codetables/CICECiDlg.h"
-#include "codetables/CSeaIceDialog.h"
 #include "codetables/code_pickers.h"
 #include "codetables/tables/past_weather.h"
 #include "codetables/tables/pressure_figures.h"
