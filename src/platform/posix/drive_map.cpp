@@ -130,6 +130,7 @@ std::vector<Drive> DriveMap::drives() const {
 bool DriveMap::medium_present(char letter) const {
   look();
   const Medium* medium = find(letter);
+  // The folder of Z: is written "": the "/" makes it the root of the file system.
   return medium != nullptr && medium->folder && is_os_folder(*medium->folder + "/");
 }
 
