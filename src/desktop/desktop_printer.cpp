@@ -35,6 +35,7 @@ platform::PrintResult DesktopPrinter::print(const std::string& document,
   const int page_height = printer.pageLayout().paintRectPixels(printer.resolution()).height();
   int y = 0;
   for (const std::string& line : lines) {
+    // The first line never begins with an empty sheet, however low the paper is.
     if (y + line_height > page_height && y > 0) {
       if (!printer.newPage()) return platform::PrintResult::kFailed;
       y = 0;

@@ -122,6 +122,7 @@ bool print(QPagedPaintDevice& device, const std::string& title, const ui::Drawin
   if (!painter.begin(&device)) return false;
   QFont font = painter.font();
   font.setPointSize(kPointSize);
+  // Points of the paper: without the device they would be those of the screen.
   painter.setFont(QFont(font, &device));
   const QFontMetricsF metrics(painter.font(), &device);
   painter.drawText(QPointF(0, metrics.ascent()), text_of(title));

@@ -24,6 +24,7 @@ bool PictureLabel::show_file(const QString& name) {
   // Names come from the program itself, but a picture is never looked for elsewhere.
   const bool plain = !name.isEmpty() && !name.contains(QLatin1Char('/'));
   const bool found = plain && picture.load(QLatin1String(kPictures) + QLatin1Char(':') + name);
+  // An empty one, too: the picture of before must go.
   setPixmap(picture);
   return found;
 }
