@@ -12,6 +12,7 @@ using platform::FileError;
 
 namespace {
 
+// ASCII alone: no locale may decide which key is meant.
 char lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }

@@ -238,6 +238,7 @@ int save_command(const std::vector<std::string>& words) {
     std::cerr << "kavrel-cli: " << *problem << "\n";
     return kWrong;
   }
+  // Before anything is checked: a report that this finishes is then one that exists.
   saver.recover();
   Input input(arguments.file);
   const bool done = for_each_observation(

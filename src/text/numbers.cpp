@@ -13,6 +13,7 @@ namespace {
 std::string pad(std::string digits, int width, char fill) {
   const auto wanted = static_cast<std::size_t>(std::max(width, 0));
   if (digits.size() >= wanted) return digits;
+  // Zeros go behind the minus and blanks in front of it, as printf has it.
   const bool behind_sign = fill == '0' && !digits.empty() && digits.front() == '-';
   digits.insert(behind_sign ? 1U : 0U, wanted - digits.size(), fill);
   return digits;

@@ -89,7 +89,7 @@ int Messages::question(std::string_view text, std::string_view title, QuestionMo
   const Raised open(question_open);
   switch (mode) {
     case QuestionMode::kOkCancel: {
-      // The English button says OK, the Japanese one Yes.
+      // No slip: the English button says OK, the Japanese one Yes.
       CMessageBox1 box(std::string(text), english ? "OK" : label(id::kButtonYes),
                        label(id::kButtonCancel), std::string(title));
       box.box().buttons[0].name = "ok";

@@ -33,6 +33,7 @@ class Planner {
     PlanNode body;
     for (const LayoutNode& child : root.children) add(child, body);
     for (const Control* const control : screen_.controls()) {
+      // What a layout forgot is shown all the same: nobody can correct what nobody sees.
       if (!placed_.contains(control->name)) body.children.push_back(bare(*control));
     }
     return body;

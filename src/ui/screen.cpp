@@ -251,6 +251,7 @@ bool Screen::check(Control& field) {
     services_.messages.error_filled(text::id::kTextTooLong, {text::format_int(field.max_length)});
     return false;
   }
+  // An input method gives full-width figures; every check behind this knows the others only.
   if (typed && field.narrow) {
     if (std::string narrowed = text::narrow(field.content); narrowed != field.content)
       field.set(narrowed);

@@ -22,6 +22,7 @@ const std::string& air_temperature(const Entries& entries, const ShipFixedData& 
 bool reduce(Entries& entries, const ShipFixedData& ship) {
   const auto reduced = reduce_reading(entries.entered(Field::kReading), ship.card,
                                       air_temperature_of(air_temperature(entries, ship)));
+  // A reading that is not there gives no pressure, but none that is impossible either.
   if (!reduced) return true;
   if (reduced->range == codetables::PressureRange::kRefused) return false;
   store_pppp(entries.record, reduced->pppp);
