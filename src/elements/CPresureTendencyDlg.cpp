@@ -121,6 +121,7 @@ bool CPresureTendencyDlg::check_amount(const std::string& characteristic_code,
 
 void CPresureTendencyDlg::on_ok() {
   const std::string typed = text::without_spaces(amount.content);
+  // Whether it is a number was tested when the field was left; new is the characteristic.
   const std::string new_a = chosen_code();
   if (!check_amount(new_a, typed)) {
     focus(amount);
