@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "codetables/ice_drawings.h"
 #include "text/ids.h"
 
 namespace codetables {
@@ -127,8 +128,8 @@ constexpr CodePicker kHighCloud = {
 // ---- Sea ice
 
 constexpr PickedCode kIceStageCodes[] = {
-    {.symbol = "Si", .control = "stage", .caption = id::kIceStageList},
-    {.symbol = "bi", .control = "land_origin", .caption = id::kLandIceList},
+    {.symbol = "Si", .control = "stage", .caption = id::kIceStageList, .line_length = 44},
+    {.symbol = "bi", .control = "land_origin", .caption = id::kLandIceList, .line_length = 44},
 };
 constexpr CodePicker kIceStage = {
     .class_name = "CICESiBiDlg",
@@ -136,7 +137,9 @@ constexpr CodePicker kIceStage = {
     .codes = kIceStageCodes,
 };
 
-constexpr PickedCode kIceEdgeCodes[] = {{.symbol = "Di", .control = "choice"}};
+constexpr PickedCode kIceEdgeCodes[] = {
+    {.symbol = "Di", .control = "choice", .line_length = 44, .drawing = ice_edge},
+};
 constexpr CodePicker kIceEdge = {
     .class_name = "CICEDiDlg",
     .title = id::kIceEdgeTitle,

@@ -16,6 +16,7 @@
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QTextLayout>
 #include <QTreeWidget>
 #include <algorithm>
 #include <array>
@@ -40,6 +41,23 @@ QStringList lines_of(const std::vector<std::string>& lines) {
 int width_for(const QWidget& widget, int characters) {
   return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters +
          widget.fontMetrics().height();
+}
+
+// The text on as many lines as it takes where each has room for so many figures; one that fits
+// stays to the letter.
+QString broken(const QString& text, const QWidget& widget, int characters) {
+  if (characters == 0) return text;
+  QTextLayout layout(text, widget.font());
+  layout.beginLayout();
+  QStringList lines;
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters);
+    lines << text.mid(line.textStart(), line.textLength());
+  }
+  layout.endLayout();
+  if (lines.size() < 2) return text;
+  for (QString& line : lines) line = line.trimmed();
+  return lines.join(QLatin1Char('\n'));
 }
 
 // What the widget itself cuts at; 0 for nothing. A field that goes on in another must see its
@@ -209,8 +227,11 @@ class ShortList : public QListWidget {
   using QListWidget::QListWidget;
   int lines = 0;
   [[nodiscard]] QSize sizeHint() const override {
-    const int line = count() > 0 ? sizeHintForRow(0) : fontMetrics().lineSpacing();
-    return {sizeHintForColumn(0) + fontMetrics().height() * 2, line * lines + line / 2};
+    int widest = 0;
+    for (int row = 0; row < count(); ++row)
+      widest = std::max(widest, fontMetrics().horizontalAdvance(item(row)->text()));
+    const int line = fontMetrics().height();
+    return {widest + line * 2, line * lines + line / 2};
   }
   [[nodiscard]] QSize minimumSizeHint() const override {
     constexpr int kWidest = 900;
@@ -222,7 +243,8 @@ class ListBinding : public Binding {
  public:
   ListBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), list_(new ShortList(parent)) {
-    list_->setUniformItemSizes(true);
+    // A line that is wider than the display goes on below.
+    list_->setWordWrap(true);
     // Item by item, the list would count its last line as hidden and show a scroll bar for it.
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(list_, &QListWidget::itemSelectionChanged, this,
@@ -314,7 +336,7 @@ class ChoiceBinding : public Binding {
 
  protected:
   void show_state() override {
-    if (const QStringList wanted = lines_of(control().items); wanted != lines_) relabel(wanted);
+    if (lines_of(control().items) != lines_ || lines_of(control().item_codes) != codes_) relabel();
     const auto buttons = group_->buttons();
     for (int i = 0; i < buttons.size(); ++i) {
       const auto at = static_cast<std::size_t>(i);
@@ -336,15 +358,13 @@ class ChoiceBinding : public Binding {
     group_->setExclusive(true);
   }
 
-  void relabel(const QStringList& wanted) {
-    if (wanted.size() == lines_.size()) {
-      lines_ = wanted;
-      for (int i = 0; i < wanted.size(); ++i) show_line(i);
-      return;
-    }
-    lines_ = wanted;
+  void relabel() {
+    const bool other_lines = control().items.size() != static_cast<std::size_t>(lines_.size()) ||
+                             lines_of(control().item_codes) != codes_;
+    lines_ = lines_of(control().items);
     codes_ = lines_of(control().item_codes);
-    place_anew();
+    if (other_lines) return place_anew();
+    for (int i = 0; i < lines_.size(); ++i) show_line(i);
   }
 
   void place_anew() {
@@ -366,7 +386,8 @@ class ChoiceBinding : public Binding {
   void show_line(int index) {
     QLabel* const text = texts_.value(index);
     if (text == nullptr) {
-      group_->button(index)->setText(lines_[index]);
+      group_->button(index)->setText(
+          broken(lines_[index], *box_, ui::extent_of(control()).most_characters));
     } else {
       text->setText(lines_[index]);
       group_->button(index)->setAccessibleName(lines_[index]);

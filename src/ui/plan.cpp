@@ -233,8 +233,9 @@ Extent extent_of(const Control& control) {
     case Kind::kList:
       return {0, 0, std::clamp(static_cast<int>(control.items.size()), kFewestLines, kMostLines),
               true};
-    case Kind::kLabel:
     case Kind::kChoice:
+      return {0, control.max_length, 0, false};
+    case Kind::kLabel:
     case Kind::kTick:
     case Kind::kButton:
       break;

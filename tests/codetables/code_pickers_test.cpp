@@ -63,11 +63,17 @@ TEST_P(EveryPicker, ShowsEachLineWithItsCodeInBothLanguages) {
           EXPECT_EQ(control->item_codes[i], code.lines[i].code);
         }
       }
-      // And nothing else but the buttons and the pictures.
+      // And nothing else but the buttons, the pictures and the drawings.
       std::size_t pictures = 0;
-      for (const Code& code : GetParam().codes) pictures += std::string(code.pictures).size();
-      EXPECT_EQ(dialog.controls().size(),
-                GetParam().labels.size() + GetParam().codes.size() + pictures + 3);
+      std::size_t drawings = 0;
+      for (const Code& code : GetParam().codes) {
+        pictures += std::string(code.pictures).size();
+        drawings += code.drawn ? 1 : 0;
+        const ui::Control* const drawing = dialog.find(std::string(code.control) + "_drawing");
+        EXPECT_EQ(drawing != nullptr && drawing->drawing != nullptr, code.drawn);
+      }
+      EXPECT_EQ(dialog.controls().size(), GetParam().labels.size() + GetParam().codes.size() +
+                                              pictures + drawings + 3);
     });
   }
 }
@@ -144,6 +150,23 @@ TEST_P(EveryPicker, ChoosesNothingWhereTheRecordHasNoCodeOfItsAndOkKeepsThat) {
         ok(dialog);
       }));
       EXPECT_TRUE(record == before) << strange;
+    }
+  }
+}
+
+// Confirmed as it opened, also where the record's text is a code in a form of its own.
+TEST_P(EveryPicker, LeavesTheRecordToTheLetterWhenItIsConfirmedAsItOpened) {
+  for (const Code& code : GetParam().codes) {
+    for (const Line& line : code.lines) {
+      const std::string figures = line.code;
+      for (const std::string& odd :
+           {figures, " " + figures, figures + " ", "0" + figures, figures + "x", figures + "."}) {
+        record = empty_record();
+        field(record, code.field) = odd;
+        const auto before = record;
+        EXPECT_TRUE(play(ok));
+        EXPECT_TRUE(record == before) << odd << " became " << field(record, code.field);
+      }
     }
   }
 }

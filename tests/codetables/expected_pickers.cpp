@@ -310,7 +310,7 @@ const std::vector<Picker>& pickers() {
        "11-24",
        "Bearing of ice edge",
        "氷縁の方位",
-       {{"choice", "", "", "Di", kIceEdge}},
+       {{"choice", "", "", "Di", kIceEdge, "", true}},
        {}},
       {&codetables::kIceTrend,
        "CNewZiDlg",
