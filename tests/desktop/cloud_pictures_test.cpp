@@ -163,10 +163,20 @@ TEST_P(CloudPictures, ThatAreMissingOrDamagedLeaveTheLinesWithTheirCaptions) {
   ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
   damaged.write(QByteArray("\xFF\xD8\xFF\xE0 no picture"));
   damaged.close();
+  // One that ends early: whatever the decoder makes of it, the line can be chosen.
+  QFile whole(
+      QDir(QStringLiteral(KAVREL_PICTURES)).filePath(QString::fromStdString(symbol()) + "5.jpg"));
+  ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+  QFile cut(folder.filePath(QString::fromStdString(symbol()) + "5.jpg"));
+  ASSERT_TRUE(cut.open(QIODevice::WriteOnly));
+  cut.write(whole.read(2000));
+  cut.close();
   desktop::set_picture_folder(folder.path());
   for (const char figure : std::string(kFigures)) {
     open();
-    EXPECT_EQ(picture(figure).text().toStdString(), symbol() + " " + figure);
+    if (figure != '5') {
+      EXPECT_EQ(picture(figure).text().toStdString(), symbol() + " " + figure);
+    }
     EXPECT_TRUE(description(figure).isVisible());
     QTest::mouseClick(&picture(figure), Qt::LeftButton, {},
                       QPoint(3, picture(figure).height() / 2));
@@ -181,6 +191,9 @@ TEST_P(CloudPictures, FitASmallScreenAndLargeLetters) {
   window->resize(910, 480);
   QApplication::processEvents();
   expect_all_visible("small ");
+  // Narrow pictures are low, so that a display which is narrow and low is large enough.
+  const QWidget* const narrow = window->findChild<QScrollArea*>()->widget();
+  EXPECT_LE(narrow->heightForWidth(910), narrow->sizeHint().height() - 60);
   QFont large = usual;
   large.setPointSizeF(usual.pointSizeF() * 1.5);
   QApplication::setFont(large);
