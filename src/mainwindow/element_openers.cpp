@@ -5,10 +5,16 @@
 #include <vector>
 
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CNowWeatherDlg.h"
+#include "codetables/CPastWeatherDlg1.h"
+#include "codetables/CSwellWaveDlg.h"
+#include "codetables/CWindDlg.h"
 #include "codetables/CICECiDlg.h"
 #include "codetables/CSeaIceDialog.h"
 #include "codetables/code_pickers.h"
+#include "codetables/tables/past_weather.h"
 #include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
@@ -96,13 +102,28 @@ bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<Put
   return true;
 }
 
-// Takes one code of a dialog. The field that shows it is named for it, as the record's is. A text
-// that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
-void take_code(elements::ObservationForm& form, std::string_view symbol, const std::string& code) {
+// Puts a code that a dialog chose; the field that shows it is named for it. It goes into the record
+// as it is, without the rules between fields: a lowest cloud that is more than the total cloud may be
+// the first of two that are being mended, and the list before a save names what still does not fit.
+void put_code(Opening& opening, std::string_view symbol, const std::string& code) {
   std::string Struct_Weather::*const member = find_weather_field(symbol)->member;
   const Field field = elements::field_named(symbol).value();
-  if (form.record().*member == code && !form.in_error(field)) return;
-  form.change([&](Struct_Weather& record) { record.*member = code; }, {field});
+  // A text that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
+  if (opening.form.record().*member == code && !opening.form.in_error(field)) return;
+  opening.form.change([&](Struct_Weather& record) { record.*member = code; }, {field});
+}
+
+// The same for a dialog that hands back to the letter what it did not change, also a refused text:
+// such a field stays as it is.
+bool fill_fields_changed(Opening& opening, ui::Screen& dialog,
+                         std::initializer_list<PutBack> results) {
+  if (!confirmed(opening, dialog)) return false;
+  std::vector<elements::ObservationForm::Value> values;
+  for (const PutBack& row : results) {
+    if (row.result != opening.form.text(row.field)) values.push_back({row.field, row.result});
+  }
+  put(opening.form, std::move(values));
+  return true;
 }
 
 // The dialogs that pick codes.
@@ -113,24 +134,7 @@ bool pick(Opening& opening) {
   Struct_Weather chosen = opening.form.record();
   dialog.put_into(chosen);
   for (const codetables::PickedCode& picked : picker.codes)
-    take_code(opening.form, picked.symbol, chosen.*find_weather_field(picked.symbol)->member);
-  return true;
-}
-
-bool open_ice_accretion(Opening& opening) {
-  const Struct_Weather& record = opening.form.record();
-  CSeaIceDialog dialog(opening.services, {record.Is, record.EsEs, record.Rs});
-  if (!confirmed(opening, dialog)) return false;
-  take_code(opening.form, "Is", dialog.values().Is);
-  take_code(opening.form, "EsEs", dialog.values().EsEs);
-  take_code(opening.form, "Rs", dialog.values().Rs);
-  return true;
-}
-
-bool open_ice_concentration(Opening& opening) {
-  CICECiDlg dialog(opening.services, opening.form.record().ci);
-  if (!confirmed(opening, dialog)) return false;
-  take_code(opening.form, "ci", dialog.ci());
+    put_code(opening, picked.symbol, chosen.*find_weather_field(picked.symbol)->member);
   return true;
 }
 
@@ -281,6 +285,71 @@ bool open_true_wind(Opening& opening) {
                      {{Field::kdd, dialog.direction()}, {Field::kff, dialog.speed()}});
 }
 
+bool open_present_weather(Opening& opening) {
+  CNowWeatherDlg dialog(opening.services, opening.form.record().ww);
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "ww", dialog.ww());
+  return true;
+}
+
+bool open_past_weather(Opening& opening) {
+  const codetables::PastWeather before{codetables::past_weather_number(opening.form.record().W1),
+                                       codetables::past_weather_number(opening.form.record().W2)};
+  CPastWeatherDlg1 dialog(opening.services, before.W1, before.W2);
+  if (!confirmed(opening, dialog)) return false;
+  // A copy: what is put for one may not change what is read for the other.
+  const R record = opening.form.record();
+  const auto text_of = [](int now, int then, const std::string& was) {
+    return now == then ? was : codetables::past_weather_figure(now);
+  };
+  put_code(opening, "W1", text_of(dialog.W1(), before.W1, record.W1));
+  put_code(opening, "W2", text_of(dialog.W2(), before.W2, record.W2));
+  return true;
+}
+
+bool open_wind_wave(Opening& opening) {
+  const elements::ObservationForm& form = opening.form;
+  CWindDlg dialog(opening.services, {form.text(Field::kPwPw), form.text(Field::kHwHw)},
+                  codetables::knots_of(form.entered(Field::kff), form.record().iw));
+  return fill_fields_changed(
+      opening, dialog,
+      {{Field::kPwPw, dialog.values().period}, {Field::kHwHw, dialog.values().height}});
+}
+
+bool open_swell(Opening& opening) {
+  const elements::ObservationForm& form = opening.form;
+  CSwellWaveDlg dialog(
+      opening.services,
+      {{form.text(Field::kdw1dw1), form.text(Field::kPw1Pw1), form.text(Field::kHw1Hw1)},
+       {form.text(Field::kdw2dw2), form.text(Field::kPw2Pw2), form.text(Field::kHw2Hw2)}},
+      {!form.switched_off(Field::kdw1dw1), !form.switched_off(Field::kdw2dw2)});
+  const CSwellWaveDlg::Values& v = dialog.values();
+  return fill_fields_changed(opening, dialog,
+                             {{Field::kdw1dw1, v.first.direction},
+                              {Field::kPw1Pw1, v.first.period},
+                              {Field::kHw1Hw1, v.first.height},
+                              {Field::kdw2dw2, v.second.direction},
+                              {Field::kPw2Pw2, v.second.period},
+                              {Field::kHw2Hw2, v.second.height}});
+}
+
+bool open_ice_accretion(Opening& opening) {
+  const R& record = opening.form.record();
+  CSeaIceDialog dialog(opening.services, {record.Is, record.EsEs, record.Rs});
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "Is", dialog.values().Is);
+  put_code(opening, "EsEs", dialog.values().EsEs);
+  put_code(opening, "Rs", dialog.values().Rs);
+  return true;
+}
+
+bool open_ice_concentration(Opening& opening) {
+  CICECiDlg dialog(opening.services, opening.form.record().ci);
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "ci", dialog.ci());
+  return true;
+}
+
 constexpr ElementRow kRows[] = {
     {kObservationTime, open_time},
     {kPosition, open_position},
@@ -291,11 +360,11 @@ constexpr ElementRow kRows[] = {
     {kTemperatureAndDewPoint, open_dew_point, dew_point_not_by<DewPointMethod::kDirect>},
     {kSeaTemperature, open_sea_temperature},
     {kApparentWind, open_apparent_wind, wind_not_by<WindInputMethod::kApparentWind>},
-    {kWindWave},
-    {kSwell},
+    {kWindWave, open_wind_wave},
+    {kSwell, open_swell},
     {kVisibility, pick<codetables::kVisibility>},
-    {kPresentWeather},
-    {kPastWeather},
+    {kPresentWeather, open_present_weather},
+    {kPastWeather, open_past_weather},
     {kCloudAmount, pick<codetables::kTotalCloud>},
     {kLowestCloud, pick<codetables::kLowestCloud>},
     {kUpperCloud, pick<codetables::kHighCloud>},

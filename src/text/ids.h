@@ -873,12 +873,17 @@ inline constexpr Id kPresentWeatherGroup13{43522};
 inline constexpr Id kPresentWeatherGroup10{43523};
 inline constexpr Id kPresentWeatherGroup04{43524};
 inline constexpr Id kPresentWeatherGroup00{43525};
+inline constexpr Id kPresentWeatherGroups{43641};
+inline constexpr Id kPresentWeatherLines{43642};
+inline constexpr Id kPresentWeatherCode{43643};
+inline constexpr Id kPresentWeatherNoLine{43644};
 
 // CPastWeatherDlg1
 inline constexpr Id kPastWeatherTitle{43530};
 inline constexpr Id kPastWeatherHint{43531};
 inline constexpr Id kPastWeatherHeading{43532};
 inline constexpr Id kPastWeatherGroup{43533};
+inline constexpr Id kPastWeatherCode{43645};
 
 // CCloudAgeDlg
 inline constexpr Id kTotalCloudTitle{43540};
@@ -934,6 +939,22 @@ inline constexpr Id kSwellNumberNeededCaption{43594};
 inline constexpr Id kSwellRangeCaption{43595};
 inline constexpr Id kSwellPairCaption{43596};
 inline constexpr Id kSwell2DirectionMustBeUnknown{43597};
+
+inline constexpr Id kSwell1Else{43700};
+inline constexpr Id kSwell2Else{43701};
+inline constexpr Id kWaveHeightRange{43702};
+
+// CWaveLengthDlg
+inline constexpr Id kWaveLengthTitle{43710};
+inline constexpr Id kWaveLength{43711};
+inline constexpr Id kWaveLengthPeriod{43712};
+inline constexpr Id kWaveLengthNoNumber{43713};
+inline constexpr Id kWaveLengthTooShort{43714};
+inline constexpr Id kWaveLengthTooLong{43715};
+
+// Waves: a unit and a drawing
+inline constexpr Id kUnitSeconds{43721};
+inline constexpr Id kDrawnWaveHeight{43720};
 
 // CSeaIceDialog (ice accretion)
 inline constexpr Id kIcingTitle{43600};

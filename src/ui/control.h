@@ -71,13 +71,17 @@ class Control {
   std::vector<std::string> items;  ///< lines of a combo, drop-down, list or choice
   /// When set, `items` is made of these in the language of the moment.
   std::vector<text::Ref> item_refs;
-  std::vector<bool> item_disabled;      ///< choice only; empty means all enabled
-  std::vector<std::string> item_codes;  ///< choice only: the code shown in front of each line
-  std::vector<bool> item_marked;        ///< lines of a list or drop-down set apart; empty: none
-  std::vector<TreeRow> rows;            ///< tree only
+  std::vector<bool> item_disabled;  ///< choice only; empty means all enabled
+  /// The code of each line, by which the keyboard finds it. A choice shows it in front of the line;
+  /// the lines of a list hold their codes themselves.
+  std::vector<std::string> item_codes;
+  std::vector<bool> item_marked;  ///< lines of a list or drop-down set apart; empty: none
+  std::vector<TreeRow> rows;      ///< tree only
   /// Picture only: what is drawn, instead of a file. Another drawing is another object.
   std::shared_ptr<const Drawing> drawing;
   int selected = -1;  ///< line of a drop-down, list, choice or tree
+  int beside_line =
+      -1;  ///< picture: the line of the screen's choice that it shows, where it shows one
   bool checked = false;
   bool enabled = true;
   bool visible = true;

@@ -3,6 +3,11 @@
 #include "archive/CCreateDir.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CNowWeatherDlg.h"
+#include "codetables/CPastWeatherDlg1.h"
+#include "codetables/CSwellWaveDlg.h"
+#include "codetables/CWaveLengthDlg.h"
+#include "codetables/CWindDlg.h"
 #include "codetables/CICECiDlg.h"
 #include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
@@ -73,6 +78,26 @@ std::vector<ScreenCase> make_table() {
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
       // codetables, and below every picker
+      {"CNowWeatherDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CNowWeatherDlg>(services, "07");
+       }},
+      {"CPastWeatherDlg1",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPastWeatherDlg1>(services, 6, 2);
+       }},
+      {"CSwellWaveDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSwellWaveDlg>(
+             services, CSwellWaveDlg::Values{{"27", "08", "2.0"}, {"05", "12", "0.2"}});
+       }},
+      {"CWaveLengthDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CWaveLengthDlg>(services); }},
+      {"CWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CWindDlg>(services, CWindDlg::Values{"05", "1.5"},
+                                           codetables::Knot{18});
+       }},
       {"CICECiDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CICECiDlg>(services, "4"); }},
       {"CSeaIceDialog",
@@ -177,7 +202,7 @@ std::vector<ScreenCase> make_table() {
          return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
        }},
   };
-  // codetables
+  // codetables, by their rows
   for (const codetables::CodePicker* const picker : codetables::code_pickers()) {
     table.push_back({picker->class_name, [picker](ui::Services& services) -> Made {
                        return make_picker(services, *picker);

@@ -16,7 +16,8 @@ namespace {
 namespace id = text::id;
 using main_window::Opened;
 
-// Types into the fields of a dialog (a line of a choice by its number behind "#") and presses OK.
+// Types into the fields of a dialog (a line of a choice by its number behind "#", a box with any
+// text) and presses OK.
 struct Entry {
   const char* control;
   const char* text;
@@ -30,6 +31,8 @@ void fill(ui::Screen& screen, const std::vector<Entry>& entries, const char* but
     if (text.starts_with('#')) {
       screen.move_focus(*control);
       screen.choose(*control, text[1] - '0');
+    } else if (control->kind == ui::Kind::kTick) {
+      screen.tick(*control, true);
     } else {
       ASSERT_TRUE(fakes::enter(screen, *control, text)) << entry.control;
     }
@@ -121,7 +124,45 @@ const std::vector<Dialog>& dialogs() {
        {{"temperature", "18.5"}},
        {{"Ss", "0"}, {"TwTwTw", "185"}},
        "PwPw"},
+      {9,
+       "CWindDlg",
+       "HwHw",
+       "label_wind_wave",
+       {{"period", "5"}, {"height", "1.5"}},
+       {{"PwPw", "05"}, {"HwHw", "03"}},
+       "dw1dw1"},
+      {10,
+       "CSwellWaveDlg",
+       "Pw2Pw2",
+       "label_swell2",
+       {{"direction1", "27"},
+        {"period1", "8"},
+        {"height1", "2.0"},
+        {"direction2", "5"},
+        {"period2", "12"},
+        {"height2", "0.5"}},
+       {{"dw1dw1", "27"},
+        {"Pw1Pw1", "08"},
+        {"Hw1Hw1", "04"},
+        {"dw2dw2", "05"},
+        {"Pw2Pw2", "12"},
+        {"Hw2Hw2", "01"}},
+       "VV"},
       {11, "CEyeShotDlg", "VV", "label_visibility", {{"choice", "#7"}}, {{"VV", "93"}}, "ww"},
+      {12,
+       "CNowWeatherDlg",
+       "ww",
+       "label_present_weather",
+       {{"choice", "#0"}, {"group", "#5"}, {"line", "#3"}},
+       {{"ww", "63"}},
+       "W1"},
+      {13,
+       "CPastWeatherDlg1",
+       "W2",
+       "label_past_weather",
+       {{"drizzle", "on"}, {"thunder", "on"}},
+       {{"W1", "9"}, {"W2", "5"}},
+       "N"},
       {14, "CCloudAgeDlg", "N", "label_total_cloud", {{"choice", "#7"}}, {{"N", "7"}}, "Nh"},
       {15,
        "CBottomLayerCloudDlg",
