@@ -96,6 +96,7 @@ void CICECiDlg::fill_list() {
 
 void CICECiDlg::show_drawing() {
   drawing.drawing = std::make_shared<const ui::Drawing>(codetables::ice_field(code()));
+  drawing.visible = !drawing.drawing->shapes.empty();
 }
 
 std::string CICECiDlg::code() const {

@@ -210,6 +210,7 @@ ui::Drawing ice_field(std::string_view figures) {
   if (figures.empty()) return drawing;
   std::string says = std::string("ci ").append(figures);
   if (field == std::end(kFields)) {
+    drawing.shapes.emplace_back(ui::ShortText{{kAcross / 2.0, kUp / 2.0}, "?"});
     drawing.shapes.emplace_back(ui::ShortText{above, says});
     return drawing;
   }

@@ -14,6 +14,7 @@ namespace codetables {
 
 /// Concentration or arrangement of sea ice (ci): floes on the water, as many tenths of it as the
 /// line says; those between its least and its most are outlined only. Above it the figure.
+/// Without a figure nothing is drawn.
 [[nodiscard]] ui::Drawing ice_field(std::string_view figures);
 
 }  // namespace codetables

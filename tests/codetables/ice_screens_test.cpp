@@ -573,10 +573,12 @@ TEST(IceConcentration, ShowsNoLineBeforeBothQuestionsAreAnswered) {
 TEST(IceConcentration, DrawsTheCodeThatOkWouldLeave) {
   fakes::World world;
   const auto drawn = [](const CICECiDlg& dialog) {
+    EXPECT_EQ(dialog.drawing.visible, !dialog.drawing.drawing->shapes.empty());
+    std::string last;
     for (const ui::Shape& shape : dialog.drawing.drawing->shapes) {
-      if (const auto* const text = std::get_if<ui::ShortText>(&shape)) return text->text;
+      if (const auto* const text = std::get_if<ui::ShortText>(&shape)) last = text->text;
     }
-    return std::string();
+    return last;
   };
   play_ci(world, "", [&](CICECiDlg& dialog) {
     EXPECT_EQ(drawn(dialog), "");
