@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QListWidget>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
 #include <memory>
@@ -239,6 +240,27 @@ TEST(CodeDialogs, OfPresentWeatherCutNoLineOff) {
       }
     }
   }
+}
+
+// Their lists are filled while they are shown: the window grows, and the person can still reach OK.
+TEST(CodeDialogs, OfPresentWeatherStayOnTheDisplayWhenTheyGrow) {
+  DesktopWorld world;
+  CNowWeatherDlg screen(world.services, "");
+  screen.open();
+  desktop::ScreenWindow window(screen, nullptr);
+  tests::show(window);
+  const QRect display = window.screen()->availableGeometry();
+  window.move(display.bottomRight() - QPoint(window.width(), window.height()));
+  QApplication::processEvents();
+  const QSize before = window.size();
+  press(Qt::Key_Down);
+  press(Qt::Key_Down);
+  press(Qt::Key_Tab);
+  press(Qt::Key_Down);
+  QApplication::processEvents();
+  EXPECT_GT(window.width(), before.width());
+  EXPECT_GT(window.height(), before.height());
+  EXPECT_TRUE(display.contains(window.frameGeometry()));
 }
 
 // ---- The curves of the tendency
