@@ -7,9 +7,14 @@
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CNowWeatherDlg.h"
 #include "codetables/CPastWeatherDlg1.h"
+#include "codetables/CSwellWaveDlg.h"
+#include "codetables/CWindDlg.h"
+#include "codetables/CICECiDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "codetables/code_pickers.h"
 #include "codetables/tables/past_weather.h"
 #include "codetables/tables/pressure_figures.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
@@ -97,13 +102,28 @@ bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<Put
   return true;
 }
 
-// Puts a code that a dialog chose; the field that shows it is named for it.
+// Puts a code that a dialog chose; the field that shows it is named for it. It goes into the record
+// as it is, without the rules between fields: a lowest cloud that is more than the total cloud may be
+// the first of two that are being mended, and the list before a save names what still does not fit.
 void put_code(Opening& opening, std::string_view symbol, const std::string& code) {
   std::string Struct_Weather::*const member = find_weather_field(symbol)->member;
   const Field field = elements::field_named(symbol).value();
   // A text that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
   if (opening.form.record().*member == code && !opening.form.in_error(field)) return;
   opening.form.change([&](Struct_Weather& record) { record.*member = code; }, {field});
+}
+
+// The same for a dialog that hands back to the letter what it did not change, also a refused text:
+// such a field stays as it is.
+bool fill_fields_changed(Opening& opening, ui::Screen& dialog,
+                         std::initializer_list<PutBack> results) {
+  if (!confirmed(opening, dialog)) return false;
+  std::vector<elements::ObservationForm::Value> values;
+  for (const PutBack& row : results) {
+    if (row.result != opening.form.text(row.field)) values.push_back({row.field, row.result});
+  }
+  put(opening.form, std::move(values));
+  return true;
 }
 
 // The dialogs that pick codes.
@@ -286,6 +306,49 @@ bool open_past_weather(Opening& opening) {
   return true;
 }
 
+bool open_wind_wave(Opening& opening) {
+  const elements::ObservationForm& form = opening.form;
+  CWindDlg dialog(opening.services, {form.text(Field::kPwPw), form.text(Field::kHwHw)},
+                  codetables::knots_of(form.entered(Field::kff), form.record().iw));
+  return fill_fields_changed(
+      opening, dialog,
+      {{Field::kPwPw, dialog.values().period}, {Field::kHwHw, dialog.values().height}});
+}
+
+bool open_swell(Opening& opening) {
+  const elements::ObservationForm& form = opening.form;
+  CSwellWaveDlg dialog(
+      opening.services,
+      {{form.text(Field::kdw1dw1), form.text(Field::kPw1Pw1), form.text(Field::kHw1Hw1)},
+       {form.text(Field::kdw2dw2), form.text(Field::kPw2Pw2), form.text(Field::kHw2Hw2)}},
+      {!form.switched_off(Field::kdw1dw1), !form.switched_off(Field::kdw2dw2)});
+  const CSwellWaveDlg::Values& v = dialog.values();
+  return fill_fields_changed(opening, dialog,
+                             {{Field::kdw1dw1, v.first.direction},
+                              {Field::kPw1Pw1, v.first.period},
+                              {Field::kHw1Hw1, v.first.height},
+                              {Field::kdw2dw2, v.second.direction},
+                              {Field::kPw2Pw2, v.second.period},
+                              {Field::kHw2Hw2, v.second.height}});
+}
+
+bool open_ice_accretion(Opening& opening) {
+  const R& record = opening.form.record();
+  CSeaIceDialog dialog(opening.services, {record.Is, record.EsEs, record.Rs});
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "Is", dialog.values().Is);
+  put_code(opening, "EsEs", dialog.values().EsEs);
+  put_code(opening, "Rs", dialog.values().Rs);
+  return true;
+}
+
+bool open_ice_concentration(Opening& opening) {
+  CICECiDlg dialog(opening.services, opening.form.record().ci);
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "ci", dialog.ci());
+  return true;
+}
+
 constexpr ElementRow kRows[] = {
     {kObservationTime, open_time},
     {kPosition, open_position},
@@ -296,8 +359,8 @@ constexpr ElementRow kRows[] = {
     {kTemperatureAndDewPoint, open_dew_point, dew_point_not_by<DewPointMethod::kDirect>},
     {kSeaTemperature, open_sea_temperature},
     {kApparentWind, open_apparent_wind, wind_not_by<WindInputMethod::kApparentWind>},
-    {kWindWave},
-    {kSwell},
+    {kWindWave, open_wind_wave},
+    {kSwell, open_swell},
     {kVisibility, pick<codetables::kVisibility>},
     {kPresentWeather, open_present_weather},
     {kPastWeather, open_past_weather},
@@ -306,9 +369,9 @@ constexpr ElementRow kRows[] = {
     {kUpperCloud, pick<codetables::kHighCloud>},
     {kMiddleCloud, pick<codetables::kMiddleCloud>},
     {kLowerCloud, pick<codetables::kLowCloud>},
-    {kIceAccretion},
+    {kIceAccretion, open_ice_accretion},
     {kCloudHeight, pick<codetables::kCloudBase>},
-    {kIceConcentration},
+    {kIceConcentration, open_ice_concentration},
     {kIceStage, pick<codetables::kIceStage>},
     {kIceBearing, pick<codetables::kIceEdge>},
     {kIceTrend, pick<codetables::kIceTrend>},

@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "platform/paths.h"
+
 namespace text {
 namespace {
 
@@ -17,6 +19,7 @@ constexpr DialogTopic kTopics[] = {
     {"CLookWindDlg", {"Kavrel", "Capter11-9_J.htm", "Capter11-9_E.htm"}},
     {"CWindDlg", {"Kavrel", "Capter11-10_J.htm", "Capter11-10_E.htm"}},
     {"CSwellWaveDlg", {"Kavrel", "Capter11-11_J.htm", "Capter11-11_E.htm"}},
+    {"CWaveLengthDlg", {"Kavrel", "Capter11-11-1_J.htm", "Capter11-11-1_E.htm"}},
     {"CEyeShotDlg", {"Kavrel", "Capter11-12_J.htm", "Capter11-12_E.htm"}},
     {"CNowWeatherDlg", {"Kavrel", "Capter11-13_J.htm", "Capter11-13_E.htm"}},
     {"CPastWeatherDlg1", {"Kavrel", "Capter11-14_J.htm", "Capter11-14_E.htm"}},
@@ -54,8 +57,8 @@ HelpTopic dialog_topic(std::string_view class_name) {
 std::string HelpLauncher::path(const HelpTopic& topic) const {
   const bool english = texts_.language == Language::kEnglish;
   const std::string_view page = english ? topic.english : topic.japanese;
-  std::string result =
-      program_folder_ + "\\help\\" + std::string(topic.base) + (english ? "_E.CHM" : "_J.CHM");
+  std::string result = platform::join(platform::join(program_folder_, "help"), topic.base);
+  result.append(english ? "_E.CHM" : "_J.CHM");
   if (!page.empty()) result.append("::/").append(page);
   return result;
 }

@@ -940,12 +940,29 @@ inline constexpr Id kSwellRangeCaption{43595};
 inline constexpr Id kSwellPairCaption{43596};
 inline constexpr Id kSwell2DirectionMustBeUnknown{43597};
 
+inline constexpr Id kSwell1Else{43700};
+inline constexpr Id kSwell2Else{43701};
+inline constexpr Id kWaveHeightRange{43702};
+
+// CWaveLengthDlg
+inline constexpr Id kWaveLengthTitle{43710};
+inline constexpr Id kWaveLength{43711};
+inline constexpr Id kWaveLengthPeriod{43712};
+inline constexpr Id kWaveLengthNoNumber{43713};
+inline constexpr Id kWaveLengthTooShort{43714};
+inline constexpr Id kWaveLengthTooLong{43715};
+
+// Waves: a unit and a drawing
+inline constexpr Id kUnitSeconds{43721};
+inline constexpr Id kDrawnWaveHeight{43720};
+
 // CSeaIceDialog (ice accretion)
 inline constexpr Id kIcingTitle{43600};
 inline constexpr Id kIcingCauseGroup{43601};
 inline constexpr Id kIcingThickness{43602};
 inline constexpr Id kIcingRateHeading{43603};
 inline constexpr Id kIcingRateGroup{43604};
+inline constexpr Id kIcingThicknessRange{43780};
 
 // CICECiDlg, CICESiBiDlg, CICEDiDlg, CNewZiDlg (sea ice)
 inline constexpr Id kIceConcentrationTitle{43610};
@@ -959,6 +976,17 @@ inline constexpr Id kIceStageList{42720};
 inline constexpr Id kLandIceList{42721};
 inline constexpr Id kIceEdgeTitle{43621};
 inline constexpr Id kIceTrendTitle{43622};
+inline constexpr Id kIceOnDrawing{43789};
+
+// Points of the compass on drawings, clockwise from the northeast
+inline constexpr Id kCompassNortheast{43781};
+inline constexpr Id kCompassEast{43782};
+inline constexpr Id kCompassSoutheast{43783};
+inline constexpr Id kCompassSouth{43784};
+inline constexpr Id kCompassSouthwest{43785};
+inline constexpr Id kCompassWest{43786};
+inline constexpr Id kCompassNorthwest{43787};
+inline constexpr Id kCompassNorth{43788};
 
 // CSeaSurfacePressureDlg
 inline constexpr Id kPressureTitle{13500};

@@ -80,11 +80,13 @@ class Control {
   /// Picture only: what is drawn, instead of a file. Another drawing is another object.
   std::shared_ptr<const Drawing> drawing;
   int selected = -1;  ///< line of a drop-down, list, choice or tree
+  int beside_line =
+      -1;  ///< picture: the line of the screen's choice that it shows, where it shows one
   bool checked = false;
   bool enabled = true;
   bool visible = true;
   bool read_only = false;  ///< an edit that is shown but locked; it can have the focus
-  int max_length = 0;      ///< in characters; 0 is no limit
+  int max_length = 0;      ///< in characters, 0 is no limit; a longer line of a choice is broken
   std::string font;        ///< font family asked for; empty is the usual one
   bool narrow = true;      ///< full-width characters are narrowed before checks
   std::string mark;        ///< state that a front end may show ("missing", "wrong"); empty for none

@@ -65,6 +65,12 @@ void Messages::error(text::Id id, std::string_view literal) {
   windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
 }
 
+void Messages::error_titled(text::Id id, text::Id title) {
+  if (quiet) return;
+  windows_.show_message(
+      {std::string(texts_.get(title)), std::string(texts_.get(id)), {{"OK", "ok", kOk}}, kOk, id});
+}
+
 void Messages::error_filled(text::Id id, std::initializer_list<std::string_view> arguments,
                             std::string_view below) {
   if (quiet) return;

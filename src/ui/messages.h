@@ -64,6 +64,8 @@ class Messages {
   /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
   /// "Check Error".
   void error(text::Id id, std::string_view literal = {});
+  /// Error notice of a text of the table under a title of its own instead of the program's.
+  void error_titled(text::Id id, text::Id title);
   /// Error notice of a text whose "%s" and "%d" are filled in; `below`, when there is one, stands
   /// on a line of its own below it.
   void error_filled(text::Id id, std::initializer_list<std::string_view> arguments,

@@ -232,7 +232,7 @@ bool Screen::move_focus_inside(Control& to) {
 bool Screen::leave_focused(const Control& to) {
   Control* const from = focused_;
   if (from == nullptr || from == &to) return true;
-  if (to.role == Role::kDismiss || to.role == Role::kHelp) {
+  if (to.role == Role::kDismiss || to.role == Role::kHelp || check_can_wait(*from, to)) {
     from->unchecked = true;
     return true;
   }

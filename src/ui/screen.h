@@ -114,6 +114,11 @@ class Screen {
   virtual bool on_enter_or_escape(Key) { return false; }
   /// The default opens the dialog's help topic.
   virtual void on_help();
+  /// True when the check of `from` may wait, because `to`, where the focus goes, can answer for it (a
+  /// box "unknown" beside an empty field). OK makes up for it, as it does after Help.
+  [[nodiscard]] virtual bool check_can_wait(const Control& /*from*/, const Control& /*to*/) const {
+    return false;
+  }
   /// Tab, or Tab with Shift, before the field is checked and the focus moves.
   virtual void on_tab(Key) {}
 

@@ -64,6 +64,8 @@ constexpr F1Row kF1[] = {
     {"dry_bulb", "CCountDewDlg"},
     {"dd", "CTrueDirWindDlg"},
     {"TwTwTw", "CSea_SurfaceTemperatureDlg"},
+    {"HwHw", "CWindDlg"},
+    {"dw1dw1", "CSwellWaveDlg"},
     {"VV", "CEyeShotDlg"},
     {"ww", "CNowWeatherDlg"},
     {"W2", "CPastWeatherDlg1"},

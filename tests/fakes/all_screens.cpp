@@ -5,6 +5,11 @@
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CNowWeatherDlg.h"
 #include "codetables/CPastWeatherDlg1.h"
+#include "codetables/CSwellWaveDlg.h"
+#include "codetables/CWaveLengthDlg.h"
+#include "codetables/CWindDlg.h"
+#include "codetables/CICECiDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
@@ -72,7 +77,7 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
-      // codetables
+      // codetables, and below every picker
       {"CNowWeatherDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CNowWeatherDlg>(services, "07");
@@ -80,6 +85,24 @@ std::vector<ScreenCase> make_table() {
       {"CPastWeatherDlg1",
        [](ui::Services& services) -> Made {
          return std::make_unique<CPastWeatherDlg1>(services, 6, 2);
+       }},
+      {"CSwellWaveDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSwellWaveDlg>(
+             services, CSwellWaveDlg::Values{{"27", "08", "2.0"}, {"05", "12", "0.2"}});
+       }},
+      {"CWaveLengthDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CWaveLengthDlg>(services); }},
+      {"CWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CWindDlg>(services, CWindDlg::Values{"05", "1.5"},
+                                           codetables::Knot{18});
+       }},
+      {"CICECiDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CICECiDlg>(services, "4"); }},
+      {"CSeaIceDialog",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSeaIceDialog>(services, CSeaIceDialog::Values{"3", "05", "1"});
        }},
       // elements
       {"CCountDewDlg",

@@ -26,11 +26,25 @@ TEST(ErrorNotice, ShowsTheTextOfTheIdElseTheLiteralElseCheckError) {
   }
 }
 
+TEST(ErrorNotice, HasATitleOfItsOwnWhereOneIsGiven) {
+  fakes::World world;
+  world.windows.expect(text::id::kNotANumber);
+  world.windows.expect(text::id::kNotANumber);
+  world.messages.error_titled(text::id::kNotANumber, text::id::kSwellNumberNeededCaption);
+  world.japanese();
+  world.messages.error_titled(text::id::kNotANumber, text::id::kSwellNumberNeededCaption);
+  EXPECT_EQ(world.windows.boxes[0].title, "Number needed!");
+  EXPECT_EQ(world.windows.boxes[0].text, "No digital string");
+  EXPECT_EQ(world.windows.boxes[1].title, "数字が必要です");
+  EXPECT_EQ(world.windows.boxes[1].text, "数字を入力して下さい");
+}
+
 TEST(ErrorNotice, SaysNothingWhileTheQuietFlagIsSet) {
   fakes::World world;
   world.messages.quiet = true;
   world.messages.error(text::id::kNoValueInput);
   world.messages.error_filled(text::id::kNoValueInput, {"x"});
+  world.messages.error_titled(text::id::kNotANumber, text::id::kWaveNumberCaption);
   EXPECT_TRUE(world.windows.boxes.empty());
 }
 

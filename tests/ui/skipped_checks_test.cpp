@@ -8,6 +8,10 @@
 #include <optional>
 
 #include "archive/CCreateDir.h"
+#include "codetables/CSwellWaveDlg.h"
+#include "codetables/CWaveLengthDlg.h"
+#include "codetables/CWindDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
@@ -65,6 +69,9 @@ const std::map<std::string_view, std::function<Texts(const ui::Screen&)>>& hande
       {"CPresureTendencyDlg", reader<CPresureTendencyDlg>([](const CPresureTendencyDlg& d) {
          return Texts{d.a(), d.ppp()};
        })},
+      {"CSeaIceDialog", reader<CSeaIceDialog>([](const CSeaIceDialog& d) {
+         return Texts{d.values().Is, d.values().EsEs, d.values().Rs};
+       })},
       {"CSeaSurfacePressureDlg",
        reader<CSeaSurfacePressureDlg>([](const CSeaSurfacePressureDlg& d) {
          const auto& v = d.values();
@@ -88,6 +95,16 @@ const std::map<std::string_view, std::function<Texts(const ui::Screen&)>>& hande
       {"CUTCTimeDlg1", reader<CUTCTimeDlg1>([](const CUTCTimeDlg1& d) {
          const auto& v = d.values();
          return Texts{v.Year, v.Month, v.YY, v.GG};
+       })},
+      {"CSwellWaveDlg", reader<CSwellWaveDlg>([](const CSwellWaveDlg& d) {
+         const auto& [first, second] = d.values();
+         return Texts{first.direction,  first.period,  first.height,
+                      second.direction, second.period, second.height};
+       })},
+      {"CWaveLengthDlg",
+       reader<CWaveLengthDlg>([](const CWaveLengthDlg& d) { return Texts{d.period()}; })},
+      {"CWindDlg", reader<CWindDlg>([](const CWindDlg& d) {
+         return Texts{d.values().period, d.values().height};
        })},
       {"CFixDataDlg", reader<CFixDataDlg>([](const CFixDataDlg& d) {
          const ShipFixedData v = d.values();

@@ -16,6 +16,9 @@ struct Metre {
 struct Knot {
   double value = 0.0;
 };
+struct Second {
+  double value = 0.0;
+};
 /// Whole degrees clockwise; from north unless said otherwise.
 struct Degree {
   int value = 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -22,6 +23,23 @@ bool is_true_direction(std::string_view text) {
 double whole_units(Knot speed) {
   const double whole = std::trunc(speed.value);
   return speed.value - whole >= 0.5 ? whole + 1.0 : whole;
+}
+
+std::optional<Knot> knots_of(std::string_view speed, std::string_view iw) {
+  constexpr double kMetresInAMile = 1852.0;
+  constexpr double kSecondsInAnHour = 3600.0;
+  const auto value = text::number_at_start(speed);
+  if (!value) return std::nullopt;
+  const bool metres_a_second = iw == "0" || iw == "1";
+  return Knot{metres_a_second ? *value * kSecondsInAnHour / kMetresInAMile : *value};
+}
+
+int beaufort_force(Knot wind) {
+  // Where force 1, 2 … 12 begins, by the scale that WMO's manuals give in whole knots.
+  static constexpr double kFrom[] = {1, 4, 7, 11, 17, 22, 28, 34, 41, 48, 56, 64};
+  const double knots = whole_units(wind);
+  const auto* const above = std::upper_bound(std::begin(kFrom), std::end(kFrom), knots);
+  return static_cast<int>(above - std::begin(kFrom));
 }
 
 WindFigures wind_figures(std::string_view direction, std::string_view speed) {

@@ -1,6 +1,7 @@
 #pragma once
 // True wind: direction dd in tens of degrees (code table 0877), speed ff and fff in whole units.
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,13 @@ struct WindFigures {
   bool operator==(const WindFigures&) const = default;
 };
 [[nodiscard]] WindFigures wind_figures(std::string_view direction, std::string_view speed);
+
+/// A wind speed of the record in knots: `speed` is in the unit that iw tells (code table 1855; metres
+/// a second for "0" and "1", knots for any other). Nothing when it is no number.
+[[nodiscard]] std::optional<Knot> knots_of(std::string_view speed, std::string_view iw);
+
+/// Beaufort force 0 to 12 of a wind, by whole knots.
+[[nodiscard]] int beaufort_force(Knot wind);
 
 /// The speed of the figures as the form shows it: fff where it is set.
 [[nodiscard]] inline const std::string& speed_shown(const std::string& ff, const std::string& fff) {

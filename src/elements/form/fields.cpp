@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "codetables/tables/sea_waves.h"
 #include "text/ids.h"
 
 namespace elements {
@@ -342,7 +343,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .codec = Codec::kFigures,
      .member = &W::PwPw,
      .editor = {.low = 0,
-                .high = 29,
+                .high = codetables::kLongestWavePeriod,
                 .also = "99 //",
                 .width = 2,
                 .message = id::kWindWavePeriodRange,
@@ -360,7 +361,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .member = &W::HwHw,
      .editor = {.accepts = kNumber,
                 .low = 0,
-                .high = 14.5,
+                .high = codetables::kHighestWave,
                 .also = "//",
                 .check_text = id::kCheckWaveHeight}},
     {.field = Field::kdw1dw1,
@@ -388,7 +389,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .codec = Codec::kFigures,
      .member = &W::Pw1Pw1,
      .editor = {.low = 0,
-                .high = 29,
+                .high = codetables::kLongestWavePeriod,
                 .also = "//",
                 .width = 2,
                 .message = id::kSwellPeriodRange,
@@ -405,7 +406,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .member = &W::Hw1Hw1,
      .editor = {.accepts = kNumber,
                 .low = 0,
-                .high = 14.5,
+                .high = codetables::kHighestWave,
                 .also = "//",
                 .check_text = id::kCheckWaveHeight}},
     {.field = Field::kdw2dw2,
@@ -433,7 +434,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .codec = Codec::kFigures,
      .member = &W::Pw2Pw2,
      .editor = {.low = 0,
-                .high = 29,
+                .high = codetables::kLongestWavePeriod,
                 .also = "//",
                 .width = 2,
                 .message = id::kSwellPeriodRange,
@@ -450,7 +451,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .member = &W::Hw2Hw2,
      .editor = {.accepts = kNumber,
                 .low = 0,
-                .high = 14.5,
+                .high = codetables::kHighestWave,
                 .also = "//",
                 .check_text = id::kCheckWaveHeight}},
     // The wave recorder measures what the wind-wave fields hold when it is estimated.
@@ -463,7 +464,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .codec = Codec::kFigures,
      .member = &W::PwaPwa,
      .editor = {.low = 0,
-                .high = 29,
+                .high = codetables::kLongestWavePeriod,
                 .also = "99 //",
                 .width = 2,
                 .message = id::kWindWavePeriodRange,
@@ -480,7 +481,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .member = &W::HwaHwa,
      .editor = {.accepts = kNumber,
                 .low = 0,
-                .high = 14.5,
+                .high = codetables::kHighestWave,
                 .also = "//",
                 .check_text = id::kCheckWaveHeight}},
     {.field = Field::kVV,

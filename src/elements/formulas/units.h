@@ -11,6 +11,7 @@ using codetables::Hectopascal;
 using codetables::Knot;
 using codetables::Metre;
 using codetables::Percent;
+using codetables::Second;
 
 /// What a formula returns when it cannot compute.
 inline constexpr double kNotComputable = -999.0;
