@@ -1,5 +1,6 @@
 #include "desktop/picture_label.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
@@ -122,7 +123,8 @@ void PictureLabel::paintEvent(QPaintEvent* event) {
     return;
   }
   QPainter painter(this);
-  paint(painter, QRectF(rect()), *drawing_, palette());
+  // Not the label's own palette: what can be clicked has its text in the colour of links.
+  paint(painter, QRectF(rect()), *drawing_, QApplication::palette(this));
 }
 
 }  // namespace desktop

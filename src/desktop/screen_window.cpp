@@ -557,7 +557,16 @@ void ScreenWindow::fit_to_screen() {
 
 void ScreenWindow::grow_to_content() {
   const QSize wanted = size().expandedTo(fitting_size());
-  if (wanted != size()) resize(wanted);
+  if (wanted == size()) return;
+  resize(wanted);
+  // It grows to the right and downwards; its buttons must not end up beyond the display.
+  const QRect room = screen()->availableGeometry();
+  const QRect frame = frameGeometry();
+  const QPoint beyond(std::max(0, frame.right() - room.right()),
+                      std::max(0, frame.bottom() - room.bottom()));
+  if (!beyond.isNull())
+    move(std::max(room.left(), frame.left() - beyond.x()),
+         std::max(room.top(), frame.top() - beyond.y()));
 }
 
 }  // namespace desktop
