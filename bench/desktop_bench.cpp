@@ -5,10 +5,12 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPixmapCache>
 #include <QTest>
 #include <memory>
 
 #include "desktop/desktop_windows.h"
+#include "desktop/picture_label.h"
 #include "desktop/screen_window.h"
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
@@ -31,6 +33,30 @@ void open_dialog(benchmark::State& state, const fakes::ScreenCase& screen_case) 
     desktop::ScreenWindow window(*screen, nullptr);
     show(window);
   }
+}
+
+// The same with the pictures of its lines: read anew in each round as when the program has just
+// started, or still in memory. What it takes beside "open/" is what the pictures cost.
+void open_pictures(benchmark::State& state, const fakes::ScreenCase& screen_case, bool anew) {
+  desktop::set_picture_folder(QStringLiteral(KAVREL_PICTURES));
+  for ([[maybe_unused]] auto round : state) {
+    if (anew) QPixmapCache::clear();
+    fakes::World world;
+    const auto screen = screen_case.make(world.services);
+    screen->open();
+    desktop::ScreenWindow window(*screen, nullptr);
+    show(window);
+  }
+  desktop::set_picture_folder({});
+}
+
+bool has_pictures(const fakes::ScreenCase& screen_case) {
+  fakes::World world;
+  const auto screen = screen_case.make(world.services);
+  for (const ui::Control* const control : screen->controls()) {
+    if (control->beside_line >= 0) return true;
+  }
+  return false;
 }
 
 // The main window with a complete observation, shown once for all rounds.
@@ -103,6 +129,14 @@ int main(int argc, char** argv) {
     benchmark::RegisterBenchmark(("open/" + std::string(row.class_name)).c_str(),
                                  [&row](benchmark::State& state) { open_dialog(state, row); })
         ->Unit(benchmark::kMillisecond);
+    if (!has_pictures(row)) continue;
+    for (const bool anew : {true, false}) {
+      const std::string name = std::string("open_pictures/").append(row.class_name);
+      benchmark::RegisterBenchmark(
+          std::string(name).append(anew ? "/anew" : "/again").c_str(),
+          [&row, anew](benchmark::State& state) { open_pictures(state, row, anew); })
+          ->Unit(benchmark::kMillisecond);
+    }
   }
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();

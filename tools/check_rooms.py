@@ -24,12 +24,11 @@ ALL_DATA = set(DATA)
 KNOWS = DATA | {
     "ui": {"text", "platform"},
     "ship": {"ui"} | ALL_DATA - {"elements/form", "observation"},
-    "elements": {"ui", "map"} | ALL_DATA - {"elements/form"},
+    "elements": {"ui"} | ALL_DATA - {"elements/form"},
     "codetables": {"ui"} | ALL_DATA - {"elements/form"},
-    "map": {"text", "platform", "ui"},
     "archive": {"text", "platform", "ui", "observation"},
     "media": {"text", "platform", "ui", "archive"},
-    "mainwindow": {"ui", "ship", "elements", "codetables", "archive", "media", "map"} | ALL_DATA,
+    "mainwindow": {"ui", "ship", "elements", "codetables", "archive", "media"} | ALL_DATA,
     "app": {"ui", "ship", "archive", "media", "mainwindow", "text", "platform", "observation", "ship/data"},
     "headless": {"text", "platform", "ui", "app", "observation", "ship/data"},
     "platform/posix": {"platform", "text"},
@@ -54,7 +53,8 @@ def may_name(room, other):
 
 def main():
     src = sys.argv[1]
-    wrong = []
+    wrong = [f"{room}: a room of the table, but no folder" for room in sorted(KNOWS)
+             if not os.path.isdir(os.path.join(src, room))]
     for folder, _, files in os.walk(src):
         for name in sorted(files):
             if not name.endswith((".h", ".cpp")):

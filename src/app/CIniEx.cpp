@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/paths.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 
@@ -27,8 +28,7 @@ struct NameParts {
 };
 
 NameParts parts_of(const std::string& path) {
-  const auto slash = path.find_last_of("\\/");
-  const auto name_at = slash == std::string::npos ? 0 : slash + 1;
+  const auto name_at = platform::folder_part(path).size();
   const auto point = path.rfind('.');
   const bool has_extension = point != std::string::npos && point >= name_at;
   const auto stem_end = has_extension ? point : path.size();

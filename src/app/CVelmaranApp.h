@@ -11,6 +11,7 @@
 #include "text/help.h"
 #include "text/texts.h"
 #include "ui/messages.h"
+#include "ui/printer.h"
 #include "ui/services.h"
 
 namespace app {
@@ -22,7 +23,7 @@ struct Ports {
   platform::Drives& drives;
   platform::Files& files;
   platform::CodePage& code_page;
-  platform::Printer& printer;
+  ui::Printer& printer;
   ui::Windows& windows;
   platform::HelpViewer& help;
 };

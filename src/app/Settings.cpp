@@ -37,8 +37,9 @@ std::string system_root(const platform::Drives& drives) {
 }
 
 SettingsPlaces settings_places(const std::string& root, const std::string& program_folder) {
-  const std::string folder = root + "kavrel\\";
-  return {folder, folder + "kavrel.ini", platform::join(program_folder, "kavrel.ini")};
+  const std::string folder = platform::with_backslash(platform::join(root, "kavrel"));
+  return {folder, platform::join(folder, "kavrel.ini"),
+          platform::join(program_folder, "kavrel.ini")};
 }
 
 FileError open_settings(CIniEx& ini, platform::Files& files, const SettingsPlaces& places,

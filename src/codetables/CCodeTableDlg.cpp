@@ -1,31 +1,14 @@
 #include "codetables/CCodeTableDlg.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "text/numbers.h"
-#include "text/strings.h"
+#include "codetables/code_choice.h"
 
 using codetables::CodePicker;
-using codetables::CodeRow;
 using codetables::LinePicture;
 using codetables::PickedCode;
-using codetables::Reads;
 
 namespace {
-
-// The code of the table that the record's code stands for.
-std::string code_to_choose(Reads reads, std::string_view code) {
-  const std::string_view trimmed = text::trim(code);
-  if (reads == Reads::kFirstFigure) return std::string(trimmed.substr(0, 1));
-  if (!text::number_at_start(trimmed)) return std::string(trimmed);
-  return text::format_int(text::leading_int(trimmed));
-}
-
-int line_of(const ui::Choice& choice, std::string_view code) {
-  const auto at = std::find(choice.item_codes.begin(), choice.item_codes.end(), code);
-  return at == choice.item_codes.end() ? -1 : static_cast<int>(at - choice.item_codes.begin());
-}
 
 std::string with_code(std::string_view name, char between, std::string_view code) {
   return std::string(name) + between + std::string(code);
@@ -59,11 +42,13 @@ std::vector<CCodeTableDlg::Picked> CCodeTableDlg::picked(const CodePicker& picke
     const auto member = find_weather_field(row.symbol)->member;
     auto choice = std::make_unique<ui::Choice>(*this, row.control, text::Ref{row.caption},
                                                std::vector<text::Ref>());
-    for (const CodeRow& line : codetables::lines_of(row)) {
-      choice->item_refs.push_back({line.text});
-      choice->item_codes.emplace_back(line.figures);
-    }
-    made.push_back({row, member, record.*member, std::move(choice)});
+    codetables::offer(*choice, codetables::lines_of(row));
+    choice->max_length = row.line_length;
+    choice->on_change = [this] { show_drawings(); };
+    std::unique_ptr<ui::Picture> drawing;
+    if (row.drawing != nullptr)
+      drawing = std::make_unique<ui::Picture>(*this, with_code(row.control, '_', "drawing"));
+    made.push_back({row, member, record.*member, std::move(choice), std::move(drawing)});
   }
   return made;
 }
@@ -76,8 +61,10 @@ std::vector<std::unique_ptr<ui::Control>> CCodeTableDlg::pictures() {
           std::make_unique<ui::Picture>(*this, with_code(picked.row.control, '_', line.code));
       picture->literal_caption = with_code(picked.row.symbol, ' ', line.code);
       picture->content = line.file;
+      picture->beside_line = line_of(*picked.choice, line.code);
       picture->on_press = [this, &choice = *picked.choice, code = line.code] {
-        choice.selected = line_of(choice, code);
+        choice.selected = codetables::line_of(choice, code);
+        show_drawings();
         focus(choice);
       };
       made.push_back(std::move(picture));
@@ -87,16 +74,24 @@ std::vector<std::unique_ptr<ui::Control>> CCodeTableDlg::pictures() {
 }
 
 void CCodeTableDlg::on_open() {
-  for (Picked& picked : picked_)
+  for (Picked& picked : picked_) {
     picked.choice->selected =
-        line_of(*picked.choice, code_to_choose(picked.row.reads, picked.code));
+        codetables::line_of(*picked.choice, codetables::figures_of(picked.code, picked.row.reads));
+  }
+  show_drawings();
+}
+
+void CCodeTableDlg::show_drawings() {
+  for (const Picked& picked : picked_) {
+    if (picked.drawing == nullptr) continue;
+    picked.drawing->drawing = std::make_shared<const ui::Drawing>(
+        picked.row.drawing(codetables::chosen_figures(*picked.choice), language()));
+  }
 }
 
 void CCodeTableDlg::on_ok() {
-  for (Picked& picked : picked_) {
-    const int chosen = picked.choice->selected;
-    if (chosen >= 0) picked.code = picked.choice->item_codes[static_cast<std::size_t>(chosen)];
-  }
+  for (Picked& picked : picked_)
+    picked.code = codetables::code_after(*picked.choice, picked.code, picked.row.reads);
   close(ui::kOk);
 }
 

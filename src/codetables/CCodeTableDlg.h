@@ -33,10 +33,12 @@ class CCodeTableDlg : public ui::OkCancelHelpDialog {
     std::string Struct_Weather::*member;
     std::string code;
     std::unique_ptr<ui::Choice> choice;
+    std::unique_ptr<ui::Picture> drawing;  ///< where the row has one
   };
   [[nodiscard]] std::vector<std::unique_ptr<ui::Control>> labels(const codetables::CodePicker&);
   [[nodiscard]] std::vector<Picked> picked(const codetables::CodePicker&, const Struct_Weather&);
   [[nodiscard]] std::vector<std::unique_ptr<ui::Control>> pictures();
+  void show_drawings();
 
   // In reading order, as all controls are.
   std::vector<std::unique_ptr<ui::Control>> labels_;

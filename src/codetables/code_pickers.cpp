@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "codetables/ice_drawings.h"
 #include "text/ids.h"
 
 namespace codetables {
@@ -68,41 +69,67 @@ constexpr CodePicker kCloudBase = {
     .codes = kCloudBaseCodes,
 };
 
-// None and unknown stand before the types.
+// None and unknown stand before the types. The long title is cut in a title bar, so it stands above
+// the pictures as well.
 constexpr std::string_view kCloudTypeOrder[] = {"0", "/", "1", "2", "3", "4",
                                                 "5", "6", "7", "8", "9"};
+
+constexpr LinePicture kLowCloudPictures[] = {{"1", "CL1.jpg"}, {"2", "CL2.jpg"}, {"3", "CL3.jpg"},
+                                             {"4", "CL4.jpg"}, {"5", "CL5.jpg"}, {"6", "CL6.jpg"},
+                                             {"7", "CL7.jpg"}, {"8", "CL8.jpg"}, {"9", "CL9.jpg"}};
 constexpr PickedCode kLowCloudCodes[] = {
-    {.symbol = "CL", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+    {.symbol = "CL",
+     .control = "choice",
+     .order = kCloudTypeOrder,
+     .pictures = kLowCloudPictures,
+     .reads = Reads::kFirstFigure},
 };
 constexpr CodePicker kLowCloud = {
     .class_name = "CBottomCloudDlg",
     .title = id::kLowCloudTitle,
+    .heading = id::kLowCloudTitle,
     .codes = kLowCloudCodes,
 };
 
+constexpr LinePicture kMiddleCloudPictures[] = {
+    {"1", "CM1.jpg"}, {"2", "CM2.jpg"}, {"3", "CM3.jpg"}, {"4", "CM4.jpg"}, {"5", "CM5.jpg"},
+    {"6", "CM6.jpg"}, {"7", "CM7.jpg"}, {"8", "CM8.jpg"}, {"9", "CM9.jpg"}};
 constexpr PickedCode kMiddleCloudCodes[] = {
-    {.symbol = "CM", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+    {.symbol = "CM",
+     .control = "choice",
+     .order = kCloudTypeOrder,
+     .pictures = kMiddleCloudPictures,
+     .reads = Reads::kFirstFigure},
 };
 constexpr CodePicker kMiddleCloud = {
     .class_name = "CMidCloudDlg",
     .title = id::kMiddleCloudTitle,
+    .heading = id::kMiddleCloudTitle,
     .codes = kMiddleCloudCodes,
 };
 
+constexpr LinePicture kHighCloudPictures[] = {{"1", "CH1.jpg"}, {"2", "CH2.jpg"}, {"3", "CH3.jpg"},
+                                              {"4", "CH4.jpg"}, {"5", "CH5.jpg"}, {"6", "CH6.jpg"},
+                                              {"7", "CH7.jpg"}, {"8", "CH8.jpg"}, {"9", "CH9.jpg"}};
 constexpr PickedCode kHighCloudCodes[] = {
-    {.symbol = "CH", .control = "choice", .order = kCloudTypeOrder, .reads = Reads::kFirstFigure},
+    {.symbol = "CH",
+     .control = "choice",
+     .order = kCloudTypeOrder,
+     .pictures = kHighCloudPictures,
+     .reads = Reads::kFirstFigure},
 };
 constexpr CodePicker kHighCloud = {
     .class_name = "CTopCloudDlg",
     .title = id::kHighCloudTitle,
+    .heading = id::kHighCloudTitle,
     .codes = kHighCloudCodes,
 };
 
 // ---- Sea ice
 
 constexpr PickedCode kIceStageCodes[] = {
-    {.symbol = "Si", .control = "stage", .caption = id::kIceStageList},
-    {.symbol = "bi", .control = "land_origin", .caption = id::kLandIceList},
+    {.symbol = "Si", .control = "stage", .caption = id::kIceStageList, .line_length = 44},
+    {.symbol = "bi", .control = "land_origin", .caption = id::kLandIceList, .line_length = 44},
 };
 constexpr CodePicker kIceStage = {
     .class_name = "CICESiBiDlg",
@@ -110,7 +137,9 @@ constexpr CodePicker kIceStage = {
     .codes = kIceStageCodes,
 };
 
-constexpr PickedCode kIceEdgeCodes[] = {{.symbol = "Di", .control = "choice"}};
+constexpr PickedCode kIceEdgeCodes[] = {
+    {.symbol = "Di", .control = "choice", .line_length = 44, .drawing = ice_edge},
+};
 constexpr CodePicker kIceEdge = {
     .class_name = "CICEDiDlg",
     .title = id::kIceEdgeTitle,

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "codetables/tables/code_tables.h"
+#include "ui/drawing.h"
 
 namespace codetables {
 
@@ -32,6 +33,10 @@ struct PickedCode {
   std::span<const std::string_view> order = {};  ///< the codes to choose; none: all of the table
   std::span<const LinePicture> pictures = {};    ///< controls CONTROL_CODE, captioned "CL 1"
   Reads reads = Reads::kCode;
+  int line_length = 0;  ///< characters after which a line is broken; 0: none is
+  /// Draws what the figures of the chosen line stand for (none chosen: empty): control
+  /// CONTROL_drawing.
+  ui::Drawing (*drawing)(std::string_view figures, text::Language) = nullptr;
 };
 
 struct CodePicker {

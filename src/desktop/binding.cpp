@@ -9,11 +9,14 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMap>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QTextLayout>
 #include <QTreeWidget>
 #include <algorithm>
 #include <array>
@@ -38,6 +41,23 @@ QStringList lines_of(const std::vector<std::string>& lines) {
 int width_for(const QWidget& widget, int characters) {
   return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters +
          widget.fontMetrics().height();
+}
+
+// The text on as many lines as it takes where each has room for so many figures; one that fits
+// stays to the letter.
+QString broken(const QString& text, const QWidget& widget, int characters) {
+  if (characters == 0) return text;
+  QTextLayout layout(text, widget.font());
+  layout.beginLayout();
+  QStringList lines;
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters);
+    lines << text.mid(line.textStart(), line.textLength());
+  }
+  layout.endLayout();
+  if (lines.size() < 2) return text;
+  for (QString& line : lines) line = line.trimmed();
+  return lines.join(QLatin1Char('\n'));
 }
 
 // What the widget itself cuts at; 0 for nothing. A field that goes on in another must see its
@@ -207,8 +227,11 @@ class ShortList : public QListWidget {
   using QListWidget::QListWidget;
   int lines = 0;
   [[nodiscard]] QSize sizeHint() const override {
-    const int line = count() > 0 ? sizeHintForRow(0) : fontMetrics().lineSpacing();
-    return {sizeHintForColumn(0) + fontMetrics().height() * 2, line * lines + line / 2};
+    int widest = 0;
+    for (int row = 0; row < count(); ++row)
+      widest = std::max(widest, fontMetrics().horizontalAdvance(item(row)->text()));
+    const int line = fontMetrics().height();
+    return {widest + line * 2, line * lines + line / 2};
   }
   [[nodiscard]] QSize minimumSizeHint() const override {
     constexpr int kWidest = 900;
@@ -220,7 +243,8 @@ class ListBinding : public Binding {
  public:
   ListBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), list_(new ShortList(parent)) {
-    list_->setUniformItemSizes(true);
+    // A line that is wider than the display goes on below.
+    list_->setWordWrap(true);
     // Item by item, the list would count its last line as hidden and show a scroll bar for it.
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(list_, &QListWidget::itemSelectionChanged, this,
@@ -266,6 +290,23 @@ class ListBinding : public Binding {
   QStringList lines_;
 };
 
+// A line with its picture: a click on its text, or beside it, is one on its button.
+class LineCell : public QWidget {
+ public:
+  using QWidget::QWidget;
+  void stands_for(QRadioButton& button) { button_ = &button; }
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    if (event->button() != Qt::LeftButton || !rect().contains(event->pos())) return;
+    button_->setFocus(Qt::MouseFocusReason);
+    button_->click();
+  }
+
+ private:
+  QRadioButton* button_ = nullptr;
+};
+
 class ChoiceBinding : public Binding {
  public:
   ChoiceBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
@@ -286,10 +327,16 @@ class ChoiceBinding : public Binding {
   [[nodiscard]] Shown shown() const override {
     return {{}, lines_, codes_, group_->checkedId(), false};
   }
+  void stand_beside(int columns, const std::vector<BesideLine>& pictures) override {
+    columns_ = columns;
+    beside_ = pictures;
+    place_anew();
+    check_chosen(group_->buttons());
+  }
 
  protected:
   void show_state() override {
-    if (const QStringList wanted = lines_of(control().items); wanted != lines_) relabel(wanted);
+    if (lines_of(control().items) != lines_ || lines_of(control().item_codes) != codes_) relabel();
     const auto buttons = group_->buttons();
     for (int i = 0; i < buttons.size(); ++i) {
       const auto at = static_cast<std::size_t>(i);
@@ -311,27 +358,57 @@ class ChoiceBinding : public Binding {
     group_->setExclusive(true);
   }
 
-  void relabel(const QStringList& wanted) {
-    if (wanted.size() == lines_.size()) {
-      for (int i = 0; i < wanted.size(); ++i) group_->button(i)->setText(wanted[i]);
-      lines_ = wanted;
-      return;
-    }
+  void relabel() {
+    const bool other_lines = control().items.size() != static_cast<std::size_t>(lines_.size()) ||
+                             lines_of(control().item_codes) != codes_;
+    lines_ = lines_of(control().items);
+    codes_ = lines_of(control().item_codes);
+    if (other_lines) return place_anew();
+    for (int i = 0; i < lines_.size(); ++i) show_line(i);
+  }
+
+  void place_anew() {
+    for (const BesideLine& beside : beside_) beside.picture->setParent(box_->parentWidget());
     qDeleteAll(box_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
     delete box_->layout();
-    lines_ = wanted;
-    codes_ = lines_of(control().item_codes);
-    if (const ui::ChoiceLook look = ui::look_of(control()); look == ui::ChoiceLook::kBehindCodes) {
+    texts_.clear();
+    if (columns_ > 0) {
+      place_beside_pictures();
+    } else if (const ui::ChoiceLook look = ui::look_of(control());
+               look == ui::ChoiceLook::kBehindCodes) {
       place_behind_codes();
     } else {
       place_plain(look == ui::ChoiceLook::kSideBySide);
     }
   }
 
+  // A line beside a picture has its text in a label, which goes on in further lines.
+  void show_line(int index) {
+    QLabel* const text = texts_.value(index);
+    if (text == nullptr) {
+      group_->button(index)->setText(
+          broken(lines_[index], *box_, ui::extent_of(control()).most_characters));
+    } else {
+      text->setText(lines_[index]);
+      group_->button(index)->setAccessibleName(lines_[index]);
+    }
+  }
+
   QRadioButton* add_button(int index) {
-    auto* const button = new QRadioButton(lines_[index], box_);
+    auto* const button = new QRadioButton(box_);
     group_->addButton(button, index);
+    show_line(index);
     return button;
+  }
+
+  QLabel* code_label(int index) {
+    auto* const code = new QLabel(codes_.value(index), box_);
+    code->setTextFormat(Qt::PlainText);
+    // The system's fixed font does not follow the size of the others.
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSizeF(box_->font().pointSizeF());
+    code->setFont(fixed);
+    return code;
   }
 
   void place_plain(bool side_by_side) {
@@ -351,18 +428,74 @@ class ChoiceBinding : public Binding {
     layout->setVerticalSpacing(2);
     layout->setColumnStretch(1, 1);
     for (int i = 0; i < lines_.size(); ++i) {
-      auto* const code = new QLabel(codes_.value(i), box_);
-      code->setTextFormat(Qt::PlainText);
-      code->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-      layout->addWidget(code, i, 0, Qt::AlignRight | Qt::AlignVCenter);
+      layout->addWidget(code_label(i), i, 0, Qt::AlignRight | Qt::AlignVCenter);
       layout->addWidget(add_button(i), i, 1);
     }
   }
+
+  // What has no picture stands on one line above; the others in columns, picture by picture.
+  void place_beside_pictures() {
+    auto* const layout = new QVBoxLayout(box_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    auto* const above = new QHBoxLayout;
+    above->setSpacing(10);
+    layout->addLayout(above);
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(14);
+    grid->setVerticalSpacing(8);
+    layout->addLayout(grid, 1);
+    int cell = 0;
+    for (int i = 0; i < lines_.size(); ++i) {
+      const auto beside = std::find_if(beside_.begin(), beside_.end(),
+                                       [i](const BesideLine& one) { return one.line == i; });
+      if (beside == beside_.end()) {
+        above->addWidget(code_label(i));
+        above->addWidget(add_button(i));
+        above->addSpacing(20);
+        continue;
+      }
+      grid->addWidget(cell_of(*beside), cell / columns_, cell % columns_);
+      ++cell;
+    }
+    above->addStretch();
+    for (int column = 0; column < columns_; ++column) grid->setColumnStretch(column, 1);
+  }
+
+  // The picture; right of it the button with the code and the line's text below.
+  QWidget* cell_of(const BesideLine& beside) {
+    auto* const cell = new LineCell(box_);
+    auto* const across = new QHBoxLayout(cell);
+    across->setContentsMargins(0, 0, 0, 0);
+    across->setSpacing(8);
+    across->addWidget(beside.picture);
+    auto* const text = new QLabel(cell);
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    text->setMinimumWidth(width_for(*text, kFewestOfLine));
+    text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    texts_.insert(beside.line, text);
+    QRadioButton* const button = add_button(beside.line);
+    button->setText(beside.picture->accessibleName());
+    cell->stands_for(*button);
+    auto* const down = new QVBoxLayout;
+    down->setSpacing(2);
+    down->addWidget(button, 0, Qt::AlignLeft);
+    down->addWidget(text, 1);
+    across->addLayout(down, 1);
+    return cell;
+  }
+
+  static constexpr int kFewestOfLine = 14;  // characters of a line's text beside its picture
 
   QWidget* box_;
   QButtonGroup* group_;
   QStringList lines_;
   QStringList codes_;
+  int columns_ = 0;  ///< of lines beside pictures; 0 for none
+  std::vector<BesideLine> beside_;
+  QMap<int, QLabel*> texts_;  ///< of the lines whose button does not have it
 };
 
 class TickBinding : public Binding {
@@ -451,7 +584,7 @@ class PictureBinding : public Binding {
     if (const QString wanted = text_of(control().content); wanted != file_ || !looked_) {
       looked_ = true;
       file_ = wanted;
-      found_ = label_->show_file(file_);
+      found_ = label_->show_file(file_, control().beside_line >= 0);
     }
     if (!found_) {
       const QString wanted = control().drawing == nullptr ? caption() : QString();
@@ -586,6 +719,8 @@ bool Binding::owns(const QWidget* candidate) const {
 }
 
 void Binding::select(int /*length*/) {}
+
+void Binding::stand_beside(int /*columns*/, const std::vector<BesideLine>& /*pictures*/) {}
 
 void Binding::make_room(int besides) {
   const ui::Extent extent = ui::extent_of(control_);

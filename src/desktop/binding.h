@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "desktop/clickable_label.h"
 #include "ui/plan.h"
@@ -33,6 +34,13 @@ class Binding : public QObject {
   [[nodiscard]] bool owns(const QWidget* candidate) const;
   /// Selects the first `length` characters (all when negative); nothing where there is no text.
   virtual void select(int length);
+  /// Of a choice: its lines are to stand in this many columns, each beside its picture. The
+  /// pictures become parts of the widget. Nothing of any other.
+  struct BesideLine {
+    int line = -1;
+    QWidget* picture = nullptr;
+  };
+  virtual void stand_beside(int columns, const std::vector<BesideLine>& pictures);
   /// The control's state on the widget.
   void show();
   /// The state read back from the widget, for tests: content, selected line, tick.

@@ -6,43 +6,76 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/drawing_painter.h"
 
 namespace desktop {
+namespace {
+
+QPalette paper() {
+  return {Qt::black, Qt::white, Qt::white, Qt::darkGray, Qt::gray,
+          Qt::black, Qt::white, Qt::white, Qt::white};
+}
+
+// Of a drawing on the width of a page: the shape that it has on the screen.
+double height_of(const ui::Drawing& drawing, double width, const QFontMetricsF& metrics) {
+  if (drawing.same_scale)
+    return width *
+           std::abs((drawing.y.last - drawing.y.first) / (drawing.x.last - drawing.x.first));
+  return width * drawing.lines * metrics.height() /
+         (drawing.characters * metrics.horizontalAdvance(QLatin1Char('0')));
+}
+
+}  // namespace
 
 bool DesktopPrinter::has_default_printer() const {
   return !QPrinterInfo::defaultPrinter().isNull();
 }
 
-platform::PrintResult DesktopPrinter::print(const std::string& document,
-                                            const std::vector<std::string>& lines) {
+ui::PrintResult DesktopPrinter::print(const ui::Sheets& sheets) {
   QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
-  if (dialog.exec() != QDialog::Accepted) return platform::PrintResult::kCancelled;
+  if (dialog.exec() != QDialog::Accepted) return ui::PrintResult::kCancelled;
+  printer.setDocName(QString::fromStdString(sheets.document));
+  return print_on(printer, sheets) ? ui::PrintResult::kSuccess : ui::PrintResult::kFailed;
+}
 
-  printer.setDocName(QString::fromStdString(document));
+bool print_on(QPagedPaintDevice& device, const ui::Sheets& sheets) {
   QPainter painter;
-  if (!painter.begin(&printer)) return platform::PrintResult::kFailed;
+  if (!painter.begin(&device)) return false;
   // A report lines up under its ruler only in a fixed pitch. 92 characters must fit the narrow side
   // of the paper.
   constexpr int kPointSize = 8;
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   font.setPointSize(kPointSize);
-  painter.setFont(font);
-  const int line_height = painter.fontMetrics().lineSpacing();
-  const int page_height = printer.pageLayout().paintRectPixels(printer.resolution()).height();
-  int y = 0;
-  for (const std::string& line : lines) {
-    if (y + line_height > page_height && y > 0) {
-      if (!printer.newPage()) return platform::PrintResult::kFailed;
-      y = 0;
-    }
-    painter.drawText(0, y + painter.fontMetrics().ascent(), QString::fromStdString(line));
-    y += line_height;
+  painter.setFont(QFont(font, &device));
+  const QFontMetricsF metrics(painter.font(), &device);
+  const double page_height = device.height();
+  double y = 0;
+  const auto make_room = [&](double height) {
+    if (y == 0 || y + height <= page_height) return true;
+    y = 0;
+    return device.newPage();
+  };
+  for (const std::string& line : sheets.lines) {
+    if (!make_room(metrics.lineSpacing())) return false;
+    painter.drawText(QPointF(0, y + metrics.ascent()), QString::fromStdString(line));
+    y += metrics.lineSpacing();
   }
-  return painter.end() ? platform::PrintResult::kSuccess : platform::PrintResult::kFailed;
+  for (const ui::Drawing& drawing : sheets.drawings) {
+    if (y > 0) y += metrics.lineSpacing();
+    const double width = device.width();
+    const double height = std::min(height_of(drawing, width, metrics), page_height);
+    if (!make_room(height)) return false;
+    paint(painter, QRectF(0, y, width, height), drawing, paper());
+    y += height;
+  }
+  return painter.end();
 }
 
 }  // namespace desktop

@@ -1,17 +1,23 @@
 #pragma once
-// The printer port in Qt: the default printer, the system's print dialog, and lines on pages.
+// The printer port in Qt: the default printer, the system's print dialog, lines and drawings on
+// pages.
 
-#include "platform/ports.h"
+#include "ui/printer.h"
+
+class QPagedPaintDevice;
 
 namespace desktop {
 
-class DesktopPrinter : public platform::Printer {
+class DesktopPrinter : public ui::Printer {
  public:
   [[nodiscard]] bool has_default_printer() const override;
-  /// Page numbers, selection and print-to-file are hidden in the dialog. A new page starts when one
-  /// is full.
-  [[nodiscard]] platform::PrintResult print(const std::string& document,
-                                            const std::vector<std::string>& lines) override;
+  /// Page numbers, selection and print-to-file are hidden in the dialog.
+  [[nodiscard]] ui::PrintResult print(const ui::Sheets& sheets) override;
 };
+
+/// Lays the lines and drawings out on pages, in the colours of white paper. A new page starts where
+/// one is full, and for a drawing that the rest of a page has no room for; a drawing is as wide as
+/// the page, and never higher. False when the device cannot be painted on.
+[[nodiscard]] bool print_on(QPagedPaintDevice& device, const ui::Sheets& sheets);
 
 }  // namespace desktop

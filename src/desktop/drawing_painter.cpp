@@ -1,6 +1,5 @@
 #include "desktop/drawing_painter.h"
 
-#include <QPagedPaintDevice>
 #include <QPainter>
 #include <cmath>
 #include <variant>
@@ -114,29 +113,6 @@ void paint(QPainter& painter, const QRectF& room, const ui::Drawing& drawing,
   const Brush brush(painter, place, palette);
   for (const ui::Shape& shape : drawing.shapes) std::visit(brush, shape);
   painter.restore();
-}
-
-bool print(QPagedPaintDevice& device, const std::string& title, const ui::Drawing& drawing) {
-  constexpr int kPointSize = 10;
-  QPainter painter;
-  if (!painter.begin(&device)) return false;
-  QFont font = painter.font();
-  font.setPointSize(kPointSize);
-  painter.setFont(QFont(font, &device));
-  const QFontMetricsF metrics(painter.font(), &device);
-  painter.drawText(QPointF(0, metrics.ascent()), text_of(title));
-  const double above = metrics.height() * 1.5;
-  QRectF room(0, above, device.width(), device.height() - above);
-  // On a page that is higher than the drawing is wide, it keeps the shape it has on the screen.
-  if (!drawing.same_scale) {
-    const double height = room.width() * drawing.lines * metrics.height() /
-                          (drawing.characters * metrics.horizontalAdvance(QLatin1Char('0')));
-    room.setHeight(std::min(room.height(), height));
-  }
-  paint(painter, room, drawing,
-        QPalette(Qt::black, Qt::white, Qt::white, Qt::darkGray, Qt::gray, Qt::black, Qt::white,
-                 Qt::white, Qt::white));
-  return painter.end();
 }
 
 }  // namespace desktop

@@ -12,6 +12,7 @@
 #include "desktop/desktop_windows.h"
 #include "desktop/last_catch.h"
 #include "desktop/picture_label.h"
+#include "platform/paths.h"
 #include "platform/posix/system.h"
 #include "platform/posix/system_calls.h"
 #include "text/reasons.h"
@@ -46,8 +47,8 @@ int start(const QApplication& application) {
 
   const desktop::PathMap paths = path_map(system);
   const app::CAssistantClass program_files(system.drives(), system.files());
-  desktop::set_picture_folder(
-      QString::fromStdString(paths.to_system(program_files.program_folder() + "\\pictures")));
+  desktop::set_picture_folder(QString::fromStdString(
+      paths.to_system(platform::join(program_files.program_folder(), "pictures"))));
   desktop::DesktopWindows windows(paths);
   desktop::DesktopPrinter printer;
   desktop::DesktopHelp help(

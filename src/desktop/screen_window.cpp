@@ -229,6 +229,9 @@ void ScreenWindow::build_node(const ui::PlanNode& node, QBoxLayout& into) {
     case Type::kGrid:
       build_grid(node, into);
       break;
+    case Type::kLines:
+      build_lines(node, into);
+      break;
     case Type::kSpace:
       into.addStretch();
       break;
@@ -275,6 +278,17 @@ void ScreenWindow::build_grid(const ui::PlanNode& node, QBoxLayout& into) {
     ++row;
   }
   grid->setColumnStretch(node.columns * 2, 1);
+}
+
+void ScreenWindow::build_lines(const ui::PlanNode& node, QBoxLayout& into) {
+  std::vector<Binding::BesideLine> pictures;
+  for (const ui::PlanNode& child : node.children) {
+    const Binding& picture = *binding(child.name);
+    pictures.push_back({picture.control().beside_line, picture.widget()});
+  }
+  Binding& choice = *binding(node.name);
+  choice.stand_beside(node.columns, pictures);
+  into.addWidget(choice.widget(), 1);
 }
 
 QWidget* ScreenWindow::build_group(const ui::PlanNode& node) {

@@ -48,6 +48,7 @@ class ScreenWindow : public QDialog {
   void build_box(const ui::PlanNode& node, QBoxLayout::Direction direction, int spacing,
                  QBoxLayout& into);
   void build_grid(const ui::PlanNode& node, QBoxLayout& into);
+  void build_lines(const ui::PlanNode& node, QBoxLayout& into);
   QWidget* build_group(const ui::PlanNode& node);
   /// The control with its unit, and its caption where that stands beside it or above.
   QWidget* placed(const ui::PlanNode& node);

@@ -188,18 +188,20 @@ bool ScriptWindows::show(const std::string& path) {
   return true;
 }
 
-platform::PrintResult ScriptWindows::print(const std::string& document,
-                                           const std::vector<std::string>& lines) {
-  if (ended_) return platform::PrintResult::kCancelled;
+ui::PrintResult ScriptWindows::print(const ui::Sheets& sheets) {
+  if (ended_) return ui::PrintResult::kCancelled;
   say_changes_so_far();
   const ui::MessageBox dialog{"print",
-                              document,
+                              sheets.document,
                               {{"Print", "print", ui::kOk}, {"Cancel", "cancel", ui::kCancel}},
                               ui::kCancel,
                               0};
-  if (ask(dialog, "printing") != ui::kOk) return platform::PrintResult::kCancelled;
-  for (const std::string& line : lines) say("printed " + ui::quoted(line));
-  return platform::PrintResult::kSuccess;
+  if (ask(dialog, "printing") != ui::kOk) return ui::PrintResult::kCancelled;
+  for (const std::string& line : sheets.lines) say("printed " + ui::quoted(line));
+  for (const ui::Drawing& drawing : sheets.drawings) {
+    for (const std::string& line : ui::describe(drawing)) say("printed drawing " + line);
+  }
+  return ui::PrintResult::kSuccess;
 }
 
 }  // namespace headless

@@ -16,7 +16,7 @@ struct EndOfRun {
   Status status = Status::kDone;
 };
 
-class ScriptWindows : public ui::Windows, public platform::HelpViewer, public platform::Printer {
+class ScriptWindows : public ui::Windows, public platform::HelpViewer, public ui::Printer {
  public:
   ScriptWindows(std::istream& script, std::ostream& transcript, std::ostream& error,
                 const Options& options)
@@ -42,8 +42,7 @@ class ScriptWindows : public ui::Windows, public platform::HelpViewer, public pl
   bool show(const std::string& path) override;
 
   [[nodiscard]] bool has_default_printer() const override { return options_.has_printer; }
-  [[nodiscard]] platform::PrintResult print(const std::string& document,
-                                            const std::vector<std::string>& lines) override;
+  [[nodiscard]] ui::PrintResult print(const ui::Sheets& sheets) override;
 
   /// The open screens, the one on top last.
   [[nodiscard]] const std::vector<ui::Screen*>& screens() const { return screens_; }

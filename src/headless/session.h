@@ -11,6 +11,7 @@
 #include <ostream>
 
 #include "platform/ports.h"
+#include "ui/printer.h"
 #include "ui/windows.h"
 
 namespace headless {
@@ -19,7 +20,7 @@ namespace headless {
 struct Doors {
   ui::Windows& windows;
   platform::HelpViewer& help;
-  platform::Printer& printer;
+  ui::Printer& printer;
 };
 
 /// Runs the program until its last window is closed; called once for each `start`.

@@ -68,9 +68,9 @@ void CVelmaranDlg::show_menu() {
 
 // The label of a switched-off element is dead; a caption's focus moves on whatever the dialog says.
 void CVelmaranDlg::label_clicked(const mainwindow::LabelRow& row) {
-  if (form_.switched_off(*row.of)) return;
+  if (form_.switched_off(row.of)) return;
   open_element(row.element());
-  if (row.caption) focus_behind(control_of(elements::name_of(*row.of)));
+  if (row.caption) focus_behind(control_of(elements::name_of(row.of)));
 }
 
 void CVelmaranDlg::focus_behind(const ui::Control* last) {

@@ -46,7 +46,7 @@ C& CVelmaranDlg::add(Arguments&&... arguments) {
 void CVelmaranDlg::add_labels() {
   for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
     auto& label = add<ui::Label>(row.name, label_ref(row.label));
-    if (row.of) label.on_press = [this, &row] { label_clicked(row); };
+    label.on_press = [this, &row] { label_clicked(row); };
   }
   add<ui::Label>("label_report", label_ref(id::kLabelWeatherMessage));
 }

@@ -5,9 +5,14 @@
 #include <vector>
 
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CNowWeatherDlg.h"
+#include "codetables/CPastWeatherDlg1.h"
 #include "codetables/CSwellWaveDlg.h"
 #include "codetables/CWindDlg.h"
+#include "codetables/CICECiDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "codetables/code_pickers.h"
+#include "codetables/tables/past_weather.h"
 #include "codetables/tables/pressure_figures.h"
 #include "codetables/tables/wind_figures.h"
 #include "elements/CCountDewDlg.h"
@@ -97,6 +102,17 @@ bool fill_fields(Opening& opening, ui::Screen& dialog, std::initializer_list<Put
   return true;
 }
 
+// Puts a code that a dialog chose; the field that shows it is named for it. It goes into the record
+// as it is, without the rules between fields: a lowest cloud that is more than the total cloud may be
+// the first of two that are being mended, and the list before a save names what still does not fit.
+void put_code(Opening& opening, std::string_view symbol, const std::string& code) {
+  std::string Struct_Weather::*const member = find_weather_field(symbol)->member;
+  const Field field = elements::field_named(symbol).value();
+  // A text that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
+  if (opening.form.record().*member == code && !opening.form.in_error(field)) return;
+  opening.form.change([&](Struct_Weather& record) { record.*member = code; }, {field});
+}
+
 // The same for a dialog that hands back to the letter what it did not change, also a refused text:
 // such a field stays as it is.
 bool fill_fields_changed(Opening& opening, ui::Screen& dialog,
@@ -110,20 +126,15 @@ bool fill_fields_changed(Opening& opening, ui::Screen& dialog,
   return true;
 }
 
-// The dialogs that pick codes. A field that shows one of them is named for it.
+// The dialogs that pick codes.
 template <const codetables::CodePicker& picker>
 bool pick(Opening& opening) {
   CCodeTableDlg dialog(opening.services, picker, opening.form.record());
   if (!confirmed(opening, dialog)) return false;
   Struct_Weather chosen = opening.form.record();
   dialog.put_into(chosen);
-  for (const codetables::PickedCode& picked : picker.codes) {
-    std::string Struct_Weather::*const member = find_weather_field(picked.symbol)->member;
-    const Field field = elements::field_named(picked.symbol).value();
-    // A text that says the same stays as it was typed: 350 metres, for the code of 300 to 600.
-    if (opening.form.record().*member == chosen.*member && !opening.form.in_error(field)) continue;
-    opening.form.change([&](Struct_Weather& record) { record.*member = chosen.*member; }, {field});
-  }
+  for (const codetables::PickedCode& picked : picker.codes)
+    put_code(opening, picked.symbol, chosen.*find_weather_field(picked.symbol)->member);
   return true;
 }
 
@@ -274,6 +285,28 @@ bool open_true_wind(Opening& opening) {
                      {{Field::kdd, dialog.direction()}, {Field::kff, dialog.speed()}});
 }
 
+bool open_present_weather(Opening& opening) {
+  CNowWeatherDlg dialog(opening.services, opening.form.record().ww);
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "ww", dialog.ww());
+  return true;
+}
+
+bool open_past_weather(Opening& opening) {
+  const codetables::PastWeather before{codetables::past_weather_number(opening.form.record().W1),
+                                       codetables::past_weather_number(opening.form.record().W2)};
+  CPastWeatherDlg1 dialog(opening.services, before.W1, before.W2);
+  if (!confirmed(opening, dialog)) return false;
+  // A copy: what is put for one may not change what is read for the other.
+  const R record = opening.form.record();
+  const auto text_of = [](int now, int then, const std::string& was) {
+    return now == then ? was : codetables::past_weather_figure(now);
+  };
+  put_code(opening, "W1", text_of(dialog.W1(), before.W1, record.W1));
+  put_code(opening, "W2", text_of(dialog.W2(), before.W2, record.W2));
+  return true;
+}
+
 bool open_wind_wave(Opening& opening) {
   const elements::ObservationForm& form = opening.form;
   CWindDlg dialog(opening.services, {form.text(Field::kPwPw), form.text(Field::kHwHw)},
@@ -300,6 +333,23 @@ bool open_swell(Opening& opening) {
                               {Field::kHw2Hw2, v.second.height}});
 }
 
+bool open_ice_accretion(Opening& opening) {
+  const R& record = opening.form.record();
+  CSeaIceDialog dialog(opening.services, {record.Is, record.EsEs, record.Rs});
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "Is", dialog.values().Is);
+  put_code(opening, "EsEs", dialog.values().EsEs);
+  put_code(opening, "Rs", dialog.values().Rs);
+  return true;
+}
+
+bool open_ice_concentration(Opening& opening) {
+  CICECiDlg dialog(opening.services, opening.form.record().ci);
+  if (!confirmed(opening, dialog)) return false;
+  put_code(opening, "ci", dialog.ci());
+  return true;
+}
+
 constexpr ElementRow kRows[] = {
     {kObservationTime, open_time},
     {kPosition, open_position},
@@ -313,16 +363,16 @@ constexpr ElementRow kRows[] = {
     {kWindWave, open_wind_wave},
     {kSwell, open_swell},
     {kVisibility, pick<codetables::kVisibility>},
-    {kPresentWeather},
-    {kPastWeather},
+    {kPresentWeather, open_present_weather},
+    {kPastWeather, open_past_weather},
     {kCloudAmount, pick<codetables::kTotalCloud>},
     {kLowestCloud, pick<codetables::kLowestCloud>},
     {kUpperCloud, pick<codetables::kHighCloud>},
     {kMiddleCloud, pick<codetables::kMiddleCloud>},
     {kLowerCloud, pick<codetables::kLowCloud>},
-    {kIceAccretion},
+    {kIceAccretion, open_ice_accretion},
     {kCloudHeight, pick<codetables::kCloudBase>},
-    {kIceConcentration},
+    {kIceConcentration, open_ice_concentration},
     {kIceStage, pick<codetables::kIceStage>},
     {kIceBearing, pick<codetables::kIceEdge>},
     {kIceTrend, pick<codetables::kIceTrend>},

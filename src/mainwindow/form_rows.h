@@ -17,21 +17,18 @@ using enum elements::Element;
 using elements::Element;
 using elements::label_ref;
 
-/// A label over the fields of an element, which opens its dialog. It does nothing when its field is
-/// switched off; a caption also moves the focus on to the field behind its own.
+/// A label over the fields of an element, which opens its dialog; one over several elements opens
+/// that of the first. It does nothing when its field is switched off; a caption also moves the
+/// focus on to the field behind its own.
 struct LabelRow {
   std::string_view name;
   text::Id label;
-  std::optional<elements::Field> of = {};  ///< none: it opens nothing
+  elements::Field of = {};
   bool caption = false;
 
-  [[nodiscard]] Element element() const {
-    return of ? elements::row_of(*of).element : elements::kNoElement;
-  }
+  [[nodiscard]] Element element() const { return elements::row_of(of).element; }
   /// The item that switches it off.
-  [[nodiscard]] std::optional<ObservationItem> item() const {
-    return of ? elements::row_of(*of).item : std::nullopt;
-  }
+  [[nodiscard]] std::optional<ObservationItem> item() const { return elements::row_of(of).item; }
 };
 [[nodiscard]] std::span<const LabelRow> label_rows();
 

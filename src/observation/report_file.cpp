@@ -38,15 +38,6 @@ std::string_view last_two(std::string_view figures) {
   return figures.size() > 2 ? figures.substr(figures.size() - 2) : figures;
 }
 
-std::string folder_of(const std::string& path) {
-  const auto at = path.find_last_of("\\/:");
-  return at == std::string::npos ? std::string() : path.substr(0, at + 1);
-}
-
-std::string name_of(const std::string& path) {
-  return path.substr(folder_of(path).size());
-}
-
 /// Of a save; each ends in its backslash.
 struct Folders {
   std::string reports, logbook;
@@ -279,10 +270,11 @@ class Save {
       : files_(files),
         log_(log),
         request_(request),
-        folders_{folder_of(request.report_path), folder_of(request.logbook_path)},
+        folders_{std::string(platform::folder_part(request.report_path)),
+                 std::string(platform::folder_part(request.logbook_path))},
         content_(report_file_content(request.message)) {
     journal_.folder = folders_.reports;
-    journal_.report = name_of(request.report_path);
+    journal_.report = platform::name_part(request.report_path);
     journal_.content = mark_of(content_);
     result_.without_lock = !log.is_locked();
   }
@@ -299,7 +291,7 @@ class Save {
       return end(SaveOutcome::kLogbookFailed, error);
     const auto staged = files_.stage(request_.report_path, content_);
     if (!staged.ok()) return end(SaveOutcome::kReportFailed, staged.error);
-    journal_.staged = name_of(staged.value->temporary);
+    journal_.staged = platform::name_part(staged.value->temporary);
     if (const FileError error = files_.note(folders_.journal(), write_journal(journal_));
         error != FileError::kNone) {
       files_.discard(*staged.value);
@@ -446,8 +438,7 @@ std::optional<ReportDate> report_date(std::string_view name) {
   constexpr std::size_t kFigures = 8;
   if (!name.ends_with(kReportExtension)) return std::nullopt;
   name.remove_suffix(kReportExtension.size());
-  if (const auto at = name.find_last_of("\\/:"); at != std::string_view::npos)
-    name.remove_prefix(at + 1);
+  name = platform::name_part(name);
   if (name.size() != kFigures || !text::is_all_digits(name)) return std::nullopt;
   return ReportDate{"20" + std::string(name.substr(0, 2)), std::string(name.substr(2, 2)),
                     std::string(name.substr(4, 2)), std::string(name.substr(6, 2))};
@@ -516,8 +507,8 @@ Recovery recover(platform::Files& files, const std::string& reports_folder,
 std::uint64_t room_for(const SaveRequest& request) {
   constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
   Journal journal;
-  journal.folder = folder_of(request.report_path);
-  journal.report = name_of(request.report_path);
+  journal.folder = platform::folder_part(request.report_path);
+  journal.report = platform::name_part(request.report_path);
   journal.staged = ".kavrel-999999999-999999999.part";
   journal.log_size = kMost;
   journal.appended = std::string(kLineEnd) + request.logbook_line + std::string(kLineEnd);

@@ -4,6 +4,7 @@
 #include <array>
 #include <bitset>
 
+#include "codetables/tables/code_tables.h"
 #include "codetables/tables/minutes.h"
 #include "codetables/tables/quadrant.h"
 #include "observation/report_groups.h"
@@ -22,6 +23,11 @@ bool is_section_mark(std::string_view word) {
 
 bool is_one_of(char c, std::string_view allowed) {
   return allowed.find(c) != std::string_view::npos;
+}
+
+// A figure of the symbol's code table, or a solidus for one that is missing.
+bool is_code_of(std::string_view symbol, std::string_view figure) {
+  return figure == "/" || codetables::holds(*codetables::table_of(symbol), figure);
 }
 
 /// Goes through a report once, section by section.
@@ -96,7 +102,7 @@ class Reader {
       case Group::kQcLoLoLoLo:
         return figures[0] == '/' || is_one_of(figures[0], codetables::kQuadrants);
       case Group::kiRiXhVV:
-        return is_one_of(figures[0], "01234/") && is_one_of(figures[1], "1234567/");
+        return is_code_of("iR", figures.substr(0, 1)) && is_code_of("iX", figures.substr(1, 1));
       default:
         return true;
     }

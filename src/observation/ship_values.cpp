@@ -143,10 +143,6 @@ constexpr ShipRow kShip[] = {
      [](Ship& s, Text v) { return store_text(s.aws_manufacturer, v, is_manufacturer(v)); }},
 };
 
-constexpr std::array<std::string_view, kObservationItems> kItems = {
-    "h",    "VV",   "N",         "Nh",        "CLCMCH",   "ww",
-    "W1W2", "PwHw", "dw1Pw1Hw1", "dw2Pw2Hw2", "IsEsEsRs", "ciSibiDizi"};
-
 }  // namespace
 
 Stored store_ship_value(ShipFixedData& ship, std::string_view name, std::string_view value) {
@@ -156,9 +152,10 @@ Stored store_ship_value(ShipFixedData& ship, std::string_view name, std::string_
 }
 
 Stored store_item_value(KeyObservationItems& items, std::string_view name, std::string_view value) {
-  const auto* const at = std::find(kItems.begin(), kItems.end(), name);
-  if (at == kItems.end()) return Stored::kUnknownName;
-  return store_yes(items.not_observed.at(static_cast<std::size_t>(at - kItems.begin())), value, 1);
+  const auto& names = kObservationItemNames;
+  const auto* const at = std::find(names.begin(), names.end(), name);
+  if (at == names.end()) return Stored::kUnknownName;
+  return store_yes(items.not_observed.at(static_cast<std::size_t>(at - names.begin())), value, 1);
 }
 
 bool is_report_call_sign(std::string_view text) {

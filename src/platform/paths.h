@@ -17,6 +17,12 @@ namespace platform {
 /// lie beside the folder, where nobody looks for it.
 [[nodiscard]] std::string join(std::string_view folder, std::string_view name);
 
+/// The part of a path before its last name, with what parts them; empty when there is none.
+[[nodiscard]] std::string_view folder_part(std::string_view path);
+
+/// The last name of a path.
+[[nodiscard]] std::string_view name_part(std::string_view path);
+
 /// Takes the next part of a path off its front: "C:", then "kavrel", then "data", then empty.
 [[nodiscard]] std::string_view first_part(std::string_view& rest);
 

@@ -259,17 +259,6 @@ class Files {
   virtual void set_current_folder(const std::string& folder) = 0;
 };
 
-enum class PrintResult { kSuccess, kCancelled, kFailed };
-
-class Printer {
- public:
-  virtual ~Printer() = default;
-  [[nodiscard]] virtual bool has_default_printer() const = 0;
-  /// Shows the system's print dialog and prints the lines.
-  [[nodiscard]] virtual PrintResult print(const std::string& document,
-                                          const std::vector<std::string>& lines) = 0;
-};
-
 class HelpViewer {
  public:
   virtual ~HelpViewer() = default;

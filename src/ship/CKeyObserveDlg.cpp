@@ -1,5 +1,6 @@
 #include "ship/CKeyObserveDlg.h"
 
+#include <array>
 #include <utility>
 
 #include "text/ids.h"
@@ -15,35 +16,19 @@ text::Ref label(text::Id japanese) {
   return {japanese, kEnglishOffset};
 }
 
-struct Item {
-  const char* name;
-  text::Id label;
-};
-
-// In the order of the file.
-constexpr Item kItems[] = {
-    {"h", id::kItemH},
-    {"VV", id::kItemVV},
-    {"N", id::kItemN},
-    {"Nh", id::kItemNh},
-    {"CLCMCH", id::kItemCLCMCH},
-    {"ww", id::kItemww},
-    {"W1W2", id::kItemW1W2},
-    {"PwHw", id::kItemPwHw},
-    {"dw1Pw1Hw1", id::kItemSwell1},
-    {"dw2Pw2Hw2", id::kItemSwell2},
-    {"IsEsEsRs", id::kItemIsEsEsRs},
-    {"ciSibiDizi", id::kItemSeaIce},
-};
-static_assert(std::size(kItems) == kObservationItems);
+// In the order of the items.
+constexpr std::array<text::Id, kObservationItems> kLabels = {
+    id::kItemH,      id::kItemVV,     id::kItemN,        id::kItemNh,
+    id::kItemCLCMCH, id::kItemww,     id::kItemW1W2,     id::kItemPwHw,
+    id::kItemSwell1, id::kItemSwell2, id::kItemIsEsEsRs, id::kItemSeaIce};
 
 }  // namespace
 
 std::deque<ui::Choice> CKeyObserveDlg::choices(ui::Screen& owner) {
   std::deque<ui::Choice> result;
-  for (const Item& item : kItems) {
+  for (std::size_t i = 0; i < kObservationItems; ++i) {
     result.emplace_back(
-        owner, item.name, label(item.label),
+        owner, std::string(kObservationItemNames.at(i)), label(kLabels.at(i)),
         std::vector<text::Ref>{label(id::kItemsObserved), label(id::kItemsNotObserved)});
   }
   return result;

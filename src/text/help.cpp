@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "platform/paths.h"
+
 namespace text {
 namespace {
 
@@ -55,8 +57,8 @@ HelpTopic dialog_topic(std::string_view class_name) {
 std::string HelpLauncher::path(const HelpTopic& topic) const {
   const bool english = texts_.language == Language::kEnglish;
   const std::string_view page = english ? topic.english : topic.japanese;
-  std::string result =
-      program_folder_ + "\\help\\" + std::string(topic.base) + (english ? "_E.CHM" : "_J.CHM");
+  std::string result = platform::join(platform::join(program_folder_, "help"), topic.base);
+  result.append(english ? "_E.CHM" : "_J.CHM");
   if (!page.empty()) result.append("::/").append(page);
   return result;
 }

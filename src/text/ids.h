@@ -873,12 +873,17 @@ inline constexpr Id kPresentWeatherGroup13{43522};
 inline constexpr Id kPresentWeatherGroup10{43523};
 inline constexpr Id kPresentWeatherGroup04{43524};
 inline constexpr Id kPresentWeatherGroup00{43525};
+inline constexpr Id kPresentWeatherGroups{43641};
+inline constexpr Id kPresentWeatherLines{43642};
+inline constexpr Id kPresentWeatherCode{43643};
+inline constexpr Id kPresentWeatherNoLine{43644};
 
 // CPastWeatherDlg1
 inline constexpr Id kPastWeatherTitle{43530};
 inline constexpr Id kPastWeatherHint{43531};
 inline constexpr Id kPastWeatherHeading{43532};
 inline constexpr Id kPastWeatherGroup{43533};
+inline constexpr Id kPastWeatherCode{43645};
 
 // CCloudAgeDlg
 inline constexpr Id kTotalCloudTitle{43540};
@@ -957,6 +962,7 @@ inline constexpr Id kIcingCauseGroup{43601};
 inline constexpr Id kIcingThickness{43602};
 inline constexpr Id kIcingRateHeading{43603};
 inline constexpr Id kIcingRateGroup{43604};
+inline constexpr Id kIcingThicknessRange{43780};
 
 // CICECiDlg, CICESiBiDlg, CICEDiDlg, CNewZiDlg (sea ice)
 inline constexpr Id kIceConcentrationTitle{43610};
@@ -970,6 +976,17 @@ inline constexpr Id kIceStageList{42720};
 inline constexpr Id kLandIceList{42721};
 inline constexpr Id kIceEdgeTitle{43621};
 inline constexpr Id kIceTrendTitle{43622};
+inline constexpr Id kIceOnDrawing{43789};
+
+// Points of the compass on drawings, clockwise from the northeast
+inline constexpr Id kCompassNortheast{43781};
+inline constexpr Id kCompassEast{43782};
+inline constexpr Id kCompassSoutheast{43783};
+inline constexpr Id kCompassSouth{43784};
+inline constexpr Id kCompassSouthwest{43785};
+inline constexpr Id kCompassWest{43786};
+inline constexpr Id kCompassNorthwest{43787};
+inline constexpr Id kCompassNorth{43788};
 
 // CSeaSurfacePressureDlg
 inline constexpr Id kPressureTitle{13500};

@@ -71,18 +71,22 @@ class Control {
   std::vector<std::string> items;  ///< lines of a combo, drop-down, list or choice
   /// When set, `items` is made of these in the language of the moment.
   std::vector<text::Ref> item_refs;
-  std::vector<bool> item_disabled;      ///< choice only; empty means all enabled
-  std::vector<std::string> item_codes;  ///< choice only: the code shown in front of each line
-  std::vector<bool> item_marked;        ///< lines of a list or drop-down set apart; empty: none
-  std::vector<TreeRow> rows;            ///< tree only
+  std::vector<bool> item_disabled;  ///< choice only; empty means all enabled
+  /// The code of each line, by which the keyboard finds it. A choice shows it in front of the line;
+  /// the lines of a list hold their codes themselves.
+  std::vector<std::string> item_codes;
+  std::vector<bool> item_marked;  ///< lines of a list or drop-down set apart; empty: none
+  std::vector<TreeRow> rows;      ///< tree only
   /// Picture only: what is drawn, instead of a file. Another drawing is another object.
   std::shared_ptr<const Drawing> drawing;
   int selected = -1;  ///< line of a drop-down, list, choice or tree
+  int beside_line =
+      -1;  ///< picture: the line of the screen's choice that it shows, where it shows one
   bool checked = false;
   bool enabled = true;
   bool visible = true;
   bool read_only = false;  ///< an edit that is shown but locked; it can have the focus
-  int max_length = 0;      ///< in characters; 0 is no limit
+  int max_length = 0;      ///< in characters, 0 is no limit; a longer line of a choice is broken
   std::string font;        ///< font family asked for; empty is the usual one
   bool narrow = true;      ///< full-width characters are narrowed before checks
   std::string mark;        ///< state that a front end may show ("missing", "wrong"); empty for none

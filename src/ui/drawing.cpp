@@ -90,8 +90,8 @@ double share(const Axis& axis, double value) {
 }  // namespace
 
 std::string_view name_of(Ink ink) {
-  static constexpr std::array<std::string_view, kInks> kNames = {"text",  "faint",   "mark", "land",
-                                                                 "water", "caution", "alarm"};
+  static constexpr std::array<std::string_view, kInks> kNames = {
+      "text", "faint", "mark", "land", "water", "ice", "caution", "alarm"};
   return kNames[static_cast<std::size_t>(ink)];
 }
 

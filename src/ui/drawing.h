@@ -24,10 +24,11 @@ enum class Ink {
   kMark,     ///< what the drawing is about: the ship, the curve
   kLand,     ///< for areas
   kWater,    ///< for areas
+  kIce,      ///< for areas
   kCaution,  ///< what is to be looked at
   kAlarm,    ///< what is wrong
 };
-inline constexpr int kInks = 7;
+inline constexpr int kInks = 8;
 
 /// "text", "faint" … as `show` prints it.
 [[nodiscard]] std::string_view name_of(Ink ink);

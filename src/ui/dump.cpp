@@ -167,7 +167,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   view.text = shown_text(screen, control);
   view.lines = control.items;
   for (const TreeRow& row : control.rows) view.lines.push_back(row_line(row));
-  view.line_codes = control.item_codes;
+  if (control.kind == Kind::kChoice) view.line_codes = control.item_codes;
   if (control.drawing != nullptr) view.drawing = describe(*control.drawing);
   const auto& disabled = control.item_disabled;
   if (std::find(disabled.begin(), disabled.end(), true) != disabled.end())

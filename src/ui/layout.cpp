@@ -51,7 +51,7 @@ LayoutNode row_of(const std::vector<std::string_view>& names) {
 }
 
 bool is_verb(std::string_view word) {
-  static constexpr std::string_view kVerbs[] = {"rows", "columns", "group", "grid",
+  static constexpr std::string_view kVerbs[] = {"rows", "columns", "group", "grid", "lines",
                                                 "row",  "buttons", "space", "end"};
   return std::find(std::begin(kVerbs), std::end(kVerbs), word) != std::end(kVerbs);
 }
@@ -97,6 +97,10 @@ std::string take_line(const std::vector<std::string_view>& words, std::vector<La
   } else if (verb == "grid" && words.size() == 2 && text::leading_int(words[1]) > 0) {
     node.type = LayoutNode::Type::kGrid;
     node.grid_columns = text::leading_int(words[1]);
+  } else if (verb == "lines" && words.size() == 3 && text::leading_int(words[2]) > 0) {
+    node.type = LayoutNode::Type::kLines;
+    node.name = words[1];
+    node.grid_columns = text::leading_int(words[2]);
   } else if (!is_verb(verb) && std::all_of(words.begin(), words.end(), is_name)) {
     open.back().children.push_back(row_of(words));
     return {};

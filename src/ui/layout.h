@@ -8,10 +8,12 @@
 //                        label with on_press makes the title clickable); children one below the
 //                        other
 //   grid N               N cells a line, filled in order, so that captions and values line up
+//   lines NAME N         the lines of the choice NAME, N side by side, each with its picture of the
+//                        rows within left of it; those without a picture stand together above
 //   row NAME NAME …      controls on one line; a line of names alone is a row too
 //   buttons NAME …       the line of buttons at the bottom, right-aligned
 //   space                takes up what room is left
-//   end                  closes rows, columns, group and grid
+//   end                  closes rows, columns, group, grid and lines
 //
 // A caption stands left of its control; NAME^ puts it above, NAME- leaves it out. "#" starts a
 // comment line. Each control is placed exactly once. A screen without a layout has its controls
@@ -24,11 +26,11 @@
 namespace ui {
 
 struct LayoutNode {
-  enum class Type { kRows, kColumns, kGroup, kGrid, kRow, kButtons, kSpace, kControl };
+  enum class Type { kRows, kColumns, kGroup, kGrid, kLines, kRow, kButtons, kSpace, kControl };
   enum class Caption { kLeft, kAbove, kNone };
 
   Type type = Type::kRows;
-  std::string name;  ///< of a control, or of a group's label
+  std::string name;  ///< of a control, a group's label, or the choice whose lines they are
   int grid_columns = 0;
   Caption caption = Caption::kLeft;
   std::vector<LayoutNode> children;

@@ -106,6 +106,19 @@ class Planner {
     into.children.push_back(std::move(grid));
   }
 
+  void add_lines(const LayoutNode& from, PlanNode& into) {
+    const Control* const choice = screen_.find(from.name);
+    if (choice == nullptr) return;
+    PlanNode lines = placed(*choice, CaptionPlace::kNone, false);
+    lines.type = Type::kLines;
+    lines.columns = from.grid_columns;
+    for (const LayoutNode& row : from.children) {
+      for (const LayoutNode& picture : row.children)
+        add_control(picture, CaptionPlace::kNone, lines);
+    }
+    into.children.push_back(std::move(lines));
+  }
+
   void add_box(const LayoutNode& from, Type type, PlanNode& into) {
     PlanNode box;
     box.type = type;
@@ -132,6 +145,8 @@ class Planner {
         return add_box(from, Type::kGroup, into);
       case LayoutType::kGrid:
         return add_grid(from, into);
+      case LayoutType::kLines:
+        return add_lines(from, into);
       case LayoutType::kRow:
       case LayoutType::kButtons:
         return add_line(from, into);
@@ -218,8 +233,9 @@ Extent extent_of(const Control& control) {
     case Kind::kList:
       return {0, 0, std::clamp(static_cast<int>(control.items.size()), kFewestLines, kMostLines),
               true};
-    case Kind::kLabel:
     case Kind::kChoice:
+      return {0, control.max_length, 0, false};
+    case Kind::kLabel:
     case Kind::kTick:
     case Kind::kButton:
       break;

@@ -28,16 +28,18 @@ struct PlanNode {
     kGroup,    ///< a frame around children one below the other, titled by the label `name`
     kGrid,     ///< children are its lines; the cells of those that are a kLine stand in columns
     kLine,     ///< children side by side, at most `columns` of them in a grid
+    kLines,  ///< the lines of the choice `name`, `columns` side by side; children are the pictures
+             ///< that stand left of theirs. Lines without one stand side by side above
     kButtons,  ///< the same for buttons
     kSpace,    ///< takes up what room is left
     kControl,
   };
   Type type = Type::kRows;
-  std::string name;  ///< of the control; of a group's title, empty when it has none
+  std::string name;  ///< of the control or choice; of a group's title, empty when it has none
   CaptionPlace caption = CaptionPlace::kNone;  ///< control
   bool has_unit = false;                       ///< control: a text stands behind the value
   bool room_behind_unit = false;               ///< control: room that is left goes behind the unit
-  int columns = 0;  ///< grid: controls on a line, each with its caption and value
+  int columns = 0;  ///< grid: controls on a line, each with its caption and value; lines: pictures
   std::vector<PlanNode> children;
   bool operator==(const PlanNode&) const = default;
 };

@@ -5,6 +5,7 @@
 #include "text/help.h"
 #include "text/texts.h"
 #include "ui/messages.h"
+#include "ui/printer.h"
 #include "ui/windows.h"
 
 namespace ui {
@@ -15,7 +16,7 @@ struct Services {
   platform::Drives& drives;
   platform::Files& files;
   platform::CodePage& code_page;
-  platform::Printer& printer;
+  ui::Printer& printer;
   ui::Windows& windows;
   text::Texts& texts;
   ui::Messages& messages;

@@ -63,8 +63,17 @@ TEST_P(EveryPicker, ShowsEachLineWithItsCodeInBothLanguages) {
           EXPECT_EQ(control->item_codes[i], code.lines[i].code);
         }
       }
-      // And nothing else but the buttons.
-      EXPECT_EQ(dialog.controls().size(), GetParam().labels.size() + GetParam().codes.size() + 3);
+      // And nothing else but the buttons, the pictures and the drawings.
+      std::size_t pictures = 0;
+      std::size_t drawings = 0;
+      for (const Code& code : GetParam().codes) {
+        pictures += std::string(code.pictures).size();
+        drawings += code.drawn ? 1 : 0;
+        const ui::Control* const drawing = dialog.find(std::string(code.control) + "_drawing");
+        EXPECT_EQ(drawing != nullptr && drawing->drawing != nullptr, code.drawn);
+      }
+      EXPECT_EQ(dialog.controls().size(), GetParam().labels.size() + GetParam().codes.size() +
+                                              pictures + drawings + 3);
     });
   }
 }
@@ -87,6 +96,31 @@ TEST_P(EveryPicker, GivesTheCodeOfEachLineAndOpensOnItAgain) {
         ok(dialog);
       }));
       EXPECT_TRUE(record == wanted) << code.field << " " << field(record, code.field);
+    }
+  }
+}
+
+TEST_P(EveryPicker, ShowsThePicturesOfItsCodesAndTakesAClickOnOneForItsLine) {
+  for (const Code& code : GetParam().codes) {
+    for (const char figure : std::string(code.pictures)) {
+      record = empty_record();
+      EXPECT_TRUE(play([&](ui::Screen& dialog) {
+        const std::string name = std::string(code.control) + "_" + figure;
+        ui::Control* const picture = dialog.find(name);
+        ASSERT_NE(picture, nullptr) << name;
+        EXPECT_EQ(picture->kind, ui::Kind::kPicture);
+        EXPECT_EQ(dialog.caption(*picture), std::string(code.field) + " " + figure);
+        EXPECT_EQ(picture->content, std::string(code.field) + figure + ".jpg");
+        const ui::Control& choice = *dialog.find(code.control);
+        ASSERT_GE(picture->beside_line, 0) << name;
+        EXPECT_EQ(choice.item_codes[static_cast<std::size_t>(picture->beside_line)],
+                  std::string(1, figure));
+        dialog.press(*picture);
+        EXPECT_EQ(dialog.focused(), &choice);
+        EXPECT_FALSE(dialog.result());
+        dialog.key(ui::Key::kEnter);
+      }));
+      EXPECT_EQ(field(record, code.field), std::string(1, figure));
     }
   }
 }
@@ -116,6 +150,23 @@ TEST_P(EveryPicker, ChoosesNothingWhereTheRecordHasNoCodeOfItsAndOkKeepsThat) {
         ok(dialog);
       }));
       EXPECT_TRUE(record == before) << strange;
+    }
+  }
+}
+
+// Confirmed as it opened, also where the record's text is a code in a form of its own.
+TEST_P(EveryPicker, LeavesTheRecordToTheLetterWhenItIsConfirmedAsItOpened) {
+  for (const Code& code : GetParam().codes) {
+    for (const Line& line : code.lines) {
+      const std::string figures = line.code;
+      for (const std::string& odd :
+           {figures, " " + figures, figures + " ", "0" + figures, figures + "x", figures + "."}) {
+        record = empty_record();
+        field(record, code.field) = odd;
+        const auto before = record;
+        EXPECT_TRUE(play(ok));
+        EXPECT_TRUE(record == before) << odd << " became " << field(record, code.field);
+      }
     }
   }
 }

@@ -21,6 +21,9 @@ struct Code {
   const char* japanese;
   const char* field;  ///< name of the record's field
   std::vector<Line> lines;
+  /// Codes of the lines that have a picture: of "CL" and 1 it is CL1.jpg, captioned "CL 1".
+  const char* pictures = "";
+  bool drawn = false;  ///< what is chosen is drawn beside the lines
 };
 
 struct Picker {

@@ -46,13 +46,17 @@ const Make kDialogs[] = {
     [](ui::Services& s) { return std::make_unique<CCreateDir>(s, "C:\\"); },
 };
 
-// Those above and every dialog that picks codes.
+// Those above, every dialog that picks codes, and those that fill the display.
 std::vector<Make> dialogs() {
   std::vector<Make> all(std::begin(kDialogs), std::end(kDialogs));
   for (const codetables::CodePicker* const picker : codetables::code_pickers()) {
     for (const fakes::ScreenCase& screen : fakes::all_screens()) {
       if (screen.class_name == picker->class_name) all.push_back(screen.make);
     }
+  }
+  for (const fakes::ScreenCase& screen : fakes::all_screens()) {
+    if (screen.class_name == "CNowWeatherDlg" || screen.class_name == "CPastWeatherDlg1")
+      all.push_back(screen.make);
   }
   return all;
 }

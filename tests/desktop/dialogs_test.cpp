@@ -67,6 +67,8 @@ constexpr F1Row kF1[] = {
     {"HwHw", "CWindDlg"},
     {"dw1dw1", "CSwellWaveDlg"},
     {"VV", "CEyeShotDlg"},
+    {"ww", "CNowWeatherDlg"},
+    {"W2", "CPastWeatherDlg1"},
     {"N", "CCloudAgeDlg"},
     {"Nh", "CBottomLayerCloudDlg"},
     {"CH", "CTopCloudDlg"},

@@ -13,6 +13,7 @@
 #include <memory>
 #include <vector>
 
+#include "desktop/desktop_printer.h"
 #include "desktop/drawing_painter.h"
 #include "desktop/picture_label.h"
 #include "desktop/screen_window.h"
@@ -60,7 +61,7 @@ class Drawn : public testing::TestWithParam<bool> {
 };
 
 TEST_P(Drawn, AreasFillTheirPlaceInTheColourOfTheirInk) {
-  for (const Ink ink : {Ink::kLand, Ink::kWater}) {
+  for (const Ink ink : {Ink::kLand, Ink::kWater, Ink::kIce}) {
     ui::Drawing drawing = unit_drawing();
     drawing.shapes = {ui::Area{{{0, 0}, {5, 0}, {5, 5}, {0, 5}}, ink}};
     const QImage image = painted(drawing, palette);
@@ -150,13 +151,13 @@ TEST_P(Drawn, PointsThatAreNoNumbersDoNoHarm) {
   EXPECT_EQ(painted(drawing, palette).size(), QSize(200, 200));
 }
 
-// What is drawn as a line or a sign, and every text, is read on paper, land and water.
+// What is drawn as a line or a sign, and every text, is read on paper, land, water and ice.
 TEST_P(Drawn, EveryInkIsReadOnEveryPaper) {
   for (const Ink ink : {Ink::kText, Ink::kMark, Ink::kCaution, Ink::kAlarm}) {
     const QColor colour = desktop::colour_of(ink, palette);
     for (const QColor& paper :
          {palette.color(QPalette::Base), desktop::colour_of(Ink::kLand, palette),
-          desktop::colour_of(Ink::kWater, palette)}) {
+          desktop::colour_of(Ink::kWater, palette), desktop::colour_of(Ink::kIce, palette)}) {
       EXPECT_GE(desktop::contrast(colour, paper), desktop::kReadable)
           << ui::name_of(ink) << " " << colour.name().toStdString() << " on "
           << paper.name().toStdString();
@@ -311,23 +312,35 @@ TEST_F(Pictures, ThatOpenSomethingDoSoAlsoAsTheirCaption) {
 
 // ---- On paper
 
-TEST(Printed, DrawingsMakeOnePageOrTellThatTheyCannot) {
+// The pages of a document printed to a file; 0 when it could not be.
+int pages_of(const ui::Sheets& sheets, const QString& path) {
+  QPdfWriter writer(path);
+  if (!desktop::print_on(writer, sheets)) return 0;
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return 0;
+  return static_cast<int>(file.readAll().count("/Type /Page\n"));
+}
+
+TEST(Printed, ADrawingStandsWholeBelowTheLinesWhereThePageHasRoomForIt) {
   const QTemporaryDir folder;
+  const QString path = folder.filePath("sheets.pdf");
   ui::Drawing drawing = unit_drawing();
   drawing.shapes = {ui::Polyline{{{0, 0}, {10, 10}}}, ui::ShortText{{5, 5}, "東京"}};
+  const std::vector<std::string> few(3, "BBXX");
+  const std::vector<std::string> page(60, "BBXX");
   for (const bool same_scale : {false, true}) {
     drawing.same_scale = same_scale;
-    const QString path = folder.filePath(same_scale ? "map.pdf" : "curve.pdf");
-    QPdfWriter writer(path);
-    EXPECT_TRUE(desktop::print(writer, "Pressure", drawing));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray written = file.readAll();
-    EXPECT_TRUE(written.startsWith("%PDF"));
-    EXPECT_EQ(written.count("/Type /Page\n"), 1);
+    EXPECT_EQ(pages_of({"Pressure", {}, {drawing}}, path), 1);
+    EXPECT_EQ(pages_of({"Pressure", few, {drawing}}, path), 1);
+    EXPECT_EQ(pages_of({"Pressure", page, {drawing}}, path), 2);
   }
-  QPdfWriter nowhere(folder.filePath("no/such/folder.pdf"));
-  EXPECT_FALSE(desktop::print(nowhere, "Pressure", drawing));
+  // Three squares as wide as the page: never two on one.
+  EXPECT_EQ(pages_of({"Maps", few, {drawing, drawing, drawing}}, path), 3);
+  drawing.y.last = drawing.y.first + 100 * (drawing.y.last - drawing.y.first);
+  EXPECT_EQ(pages_of({"A tower", {}, {drawing}}, path), 1);
+  EXPECT_EQ(pages_of({"Listing", std::vector<std::string>(250, "BBXX"), {}}, path), 3);
+  EXPECT_EQ(pages_of({"Nothing", {}, {}}, path), 1);
+  EXPECT_EQ(pages_of({"Nowhere", few, {drawing}}, folder.filePath("no/such/folder.pdf")), 0);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "desktop/desktop_windows.h"
+#include "desktop/picture_label.h"
 #include "desktop/screen_window.h"
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
@@ -41,6 +42,7 @@ bool take(ui::Screen& screen, const std::string& name) {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   desktop::prepare_application();
+  desktop::set_picture_folder(QStringLiteral(KAVREL_PICTURES));
   if (argc != 4) {
     std::fputs("usage: pictures FOLDER en|ja PERCENT\n", stderr);
     return 2;

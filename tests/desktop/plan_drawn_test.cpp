@@ -4,8 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <map>
+#include <set>
 
 #include "desktop/screen_window.h"
 #include "desktop_world.h"
@@ -54,9 +56,45 @@ class EveryPlanDrawn : public testing::TestWithParam<std::tuple<std::size_t, tex
     return value.united(caption).united(unit);
   }
 
+  // Each picture stands left of its line's button, row by row; lines without one stand above.
+  QRect check_lines(const ui::PlanNode& node) const {
+    const QWidget* const choice = window->binding(node.name)->widget();
+    const QRect all = place_of(choice);
+    const auto buttons = choice->findChildren<QRadioButton*>();
+    std::set<int> pictured;
+    QRect before;
+    int column = 0;
+    for (const ui::PlanNode& child : node.children) {
+      const desktop::Binding* const picture = window->binding(child.name);
+      const QRect drawn = check_control(child);
+      EXPECT_TRUE(all.contains(drawn)) << child.name;
+      const int line = picture->control().beside_line;
+      pictured.insert(line);
+      const QRect button = place_of(buttons.value(line));
+      EXPECT_LT(drawn.right(), button.left()) << child.name;
+      EXPECT_TRUE(drawn.top() <= button.center().y() && button.center().y() <= drawn.bottom())
+          << child.name;
+      if (column > 0) {
+        EXPECT_LT(before.right(), drawn.left()) << child.name;
+        EXPECT_EQ(before.top(), drawn.top()) << child.name;
+      } else if (!before.isNull()) {
+        EXPECT_LT(before.bottom(), drawn.top()) << child.name;
+      }
+      before = drawn.united(button);
+      column = (column + 1) % node.columns;
+    }
+    const QRect first = place_of(window->binding(node.children.front().name)->widget());
+    for (int line = 0; line < buttons.size(); ++line) {
+      if (pictured.contains(line)) continue;
+      EXPECT_LT(place_of(buttons[line]).bottom(), first.top()) << line;
+    }
+    return all;
+  }
+
   // Where the node is drawn.
   QRect check(const ui::PlanNode& node) const {
     if (node.type == Type::kControl) return check_control(node);
+    if (node.type == Type::kLines) return check_lines(node);
     const bool across =
         node.type == Type::kColumns || node.type == Type::kLine || node.type == Type::kButtons;
     QRect all;

@@ -223,6 +223,12 @@ Values codes(const char* figures) {
   return result;
 }
 
+Values present_weather_codes() {
+  Values result = text::numbered_lines(0, 99, 2);
+  result.emplace_back("//");
+  return result;
+}
+
 const Values kBulbs = {"",    "0",    "-0",   "-0.0",  "-0.1", "0.1",   "5",    "10.0",  "27.5",
                        "9.9", "-1.8", "-9.9", "-25.0", "40.0", "-25.5", "40.9", "-26.0", "41.0"};
 const Values kSpeeds = {"",     "0",    "-0",   "0.3",   "0.49",  "0.5", "1",   "12",   "12.34",
@@ -289,6 +295,47 @@ std::vector<Element> elements_of_both_roads() {
          fakes::enter(screen, *screen.find("amount"), v[1]);
        },
        typed({Field::ka, Field::kppp})},
+      {"present weather",
+       mainwindow::kPresentWeather,
+       {present_weather_codes()},
+       [](ui::Screen& screen, const Values& v) {
+         // Whichever group has the line.
+         for (const int choice : {2, 1, 0}) {
+           screen.choose(*screen.find("choice"), choice);
+           const std::size_t groups = screen.find("group")->items.size();
+           for (std::size_t group = 0; group < groups; ++group) {
+             screen.choose(*screen.find("group"), static_cast<int>(group));
+             choose_code(screen, "line", v[0]);
+             if (screen.find("code")->content == v[0]) return;
+           }
+           if (v[0] == "//") return;
+         }
+       },
+       typed({Field::kww})},
+      {"past weather",
+       mainwindow::kPastWeather,
+       {{"00", "11", "22", "33", "44", "55", "66", "77", "88", "99",
+         "//", "95", "62", "43", "87", "97", "60", "0/", "6/", "9/"}},
+       [](ui::Screen& screen, const Values& v) {
+         constexpr const char* kBoxes[] = {"cloud_half_or_less",
+                                           "cloud_changing",
+                                           "cloud_more_than_half",
+                                           "sandstorm",
+                                           "fog",
+                                           "drizzle",
+                                           "rain",
+                                           "snow",
+                                           "shower",
+                                           "thunder"};
+         for (const char figure : v[0]) {
+           const char* const box = figure == '/' ? "not_observed" : kBoxes[figure - '0'];
+           screen.tick(*screen.find(box), true);
+         }
+       },
+       [](Form& form, const Values& v) {
+         return form.enter(Field::kW1, v[0].substr(0, 1)) &&
+                form.enter(Field::kW2, v[0].substr(1, 1));
+       }},
       {"psychrometer",
        mainwindow::kPsychrometer,
        {kBulbs, kBulbs, {"not set", "iced"}},

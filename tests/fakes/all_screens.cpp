@@ -3,9 +3,13 @@
 #include "archive/CCreateDir.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CNowWeatherDlg.h"
+#include "codetables/CPastWeatherDlg1.h"
 #include "codetables/CSwellWaveDlg.h"
 #include "codetables/CWaveLengthDlg.h"
 #include "codetables/CWindDlg.h"
+#include "codetables/CICECiDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/CLookWindDlg.h"
@@ -73,7 +77,15 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
-      // codetables
+      // codetables, and below every picker
+      {"CNowWeatherDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CNowWeatherDlg>(services, "07");
+       }},
+      {"CPastWeatherDlg1",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPastWeatherDlg1>(services, 6, 2);
+       }},
       {"CSwellWaveDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CSwellWaveDlg>(
@@ -85,6 +97,12 @@ std::vector<ScreenCase> make_table() {
        [](ui::Services& services) -> Made {
          return std::make_unique<CWindDlg>(services, CWindDlg::Values{"05", "1.5"},
                                            codetables::Knot{18});
+       }},
+      {"CICECiDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CICECiDlg>(services, "4"); }},
+      {"CSeaIceDialog",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSeaIceDialog>(services, CSeaIceDialog::Values{"3", "05", "1"});
        }},
       // elements
       {"CCountDewDlg",
@@ -184,7 +202,7 @@ std::vector<ScreenCase> make_table() {
          return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
        }},
   };
-  // codetables
+  // codetables, by their rows
   for (const codetables::CodePicker* const picker : codetables::code_pickers()) {
     table.push_back({picker->class_name, [picker](ui::Services& services) -> Made {
                        return make_picker(services, *picker);

@@ -5,9 +5,8 @@
 
 namespace fakes {
 
-platform::PrintResult FakePrinter::print(const std::string& /*document*/,
-                                         const std::vector<std::string>& lines) {
-  if (answer == platform::PrintResult::kSuccess) printed.push_back(lines);
+ui::PrintResult FakePrinter::print(const ui::Sheets& sheets) {
+  if (answer == ui::PrintResult::kSuccess) printed.push_back(sheets);
   return answer;
 }
 

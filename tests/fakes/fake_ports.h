@@ -59,15 +59,14 @@ class FakeDrives : public platform::Drives {
   [[nodiscard]] std::string program_path() const override { return program; }
 };
 
-class FakePrinter : public platform::Printer {
+class FakePrinter : public ui::Printer {
  public:
   bool installed = true;
-  platform::PrintResult answer = platform::PrintResult::kSuccess;
-  std::vector<std::vector<std::string>> printed;
+  ui::PrintResult answer = ui::PrintResult::kSuccess;
+  std::vector<ui::Sheets> printed;
 
   [[nodiscard]] bool has_default_printer() const override { return installed; }
-  [[nodiscard]] platform::PrintResult print(const std::string& document,
-                                            const std::vector<std::string>& lines) override;
+  [[nodiscard]] ui::PrintResult print(const ui::Sheets& sheets) override;
 };
 
 class FakeHelp : public platform::HelpViewer {

@@ -168,6 +168,8 @@ TEST(Session, PrintsThroughTheSystemsPrintDialog) {
   EXPECT_EQ(after_start("menu OK/Help\nanswer print\n"),
             "> menu OK/Help\n  printing \"print\": \"Listing\" [Print] [Cancel]\n"
             "> answer print\n  printed \"first\"\n  printed \"second \"\n"
+            "  printed drawing across 0 to 1, up 0 to 1\n"
+            "  printed drawing line text (0 0) (1 1)\n"
             "    note: \"\" -> \"printed\"\n");
   EXPECT_NE(after_start("menu OK/Help\nclose\n").find("\"not printed\""), std::string::npos);
 }

@@ -22,6 +22,12 @@ class CNoticeDlg : public ui::Screen {
   ui::Label text{*this, "text"};
 };
 
+ui::Drawing diagonal() {
+  ui::Drawing drawing{{"across", 0, 1}, {"up", 0, 1}};
+  drawing.shapes = {ui::Polyline{{{0, 0}, {1, 1}}}};
+  return drawing;
+}
+
 }  // namespace
 
 CFormDlg::CFormDlg(ui::Services& with) : Screen(with, "CFormDlg", {text::id::kHelpLabel, 0}) {
@@ -94,14 +100,15 @@ void CFormDlg::set_up_menu() {
   ui::MenuItem top{{text::id::kOkLabel, 0}, {}, {}, true};
   top.children.push_back({kYes, {}, [this] { note.content = "from the menu"; }, true, "Ctrl+Y"});
   top.children.push_back({kNo, {}, {}, false});
-  top.children.push_back(
-      {{text::id::kHelpLabel, 0},
-       {},
-       [this] {
-         const auto printed = services().printer.print("Listing", {"first", "second "});
-         note.content = printed == platform::PrintResult::kSuccess ? "printed" : "not printed";
-       },
-       true});
+  top.children.push_back({{text::id::kHelpLabel, 0},
+                          {},
+                          [this] {
+                            const auto printed = services().printer.print(
+                                {"Listing", {"first", "second "}, {diagonal()}});
+                            note.content =
+                                printed == ui::PrintResult::kSuccess ? "printed" : "not printed";
+                          },
+                          true});
   // Its text begins with a blank.
   top.children.push_back(
       {{text::id::kMenuVosClim, 0}, {}, [this] { note.content = "behind a blank"; }, true});

@@ -95,6 +95,18 @@ const Corrected kCorrected[] = {
     {"Hw2Hw2", "0.5", "15", id::kCheckWaveHeight, "CSwellWaveDlg", types({{"height2", ".5"}}),
      "0.5"},
     {"VV", "97", "80", id::kVisibilityRange, "CEyeShotDlg", ok, "97"},
+    {"ww", "63", "x", id::kPresentWeatherRange, "CNowWeatherDlg", ok, "63"},
+    {"ww", "25", "x", id::kPresentWeatherRange, "CNowWeatherDlg", ok, "25"},
+    {"W1", "6", "x", id::kPastWeatherRange, "CPastWeatherDlg1", ok, "6"},
+    {"W2", "2", "x", id::kPastWeatherRange, "CPastWeatherDlg1", ok, "2"},
+    {"Is", "2", "6", id::kIceCauseRange, "CSeaIceDialog", ok, "2"},
+    {"EsEs", "12", "x", id::kIceThicknessRange, "CSeaIceDialog", ok, "12"},
+    {"Rs", "5", "6", id::kIceRateRange, "CSeaIceDialog", ok, "5"},
+    {"ci", "4", "0", id::kIceConcentrationRange, "CICECiDlg", ok, "4"},
+    {"Si", "4", "0", id::kIceStageRange, "CICESiBiDlg", ok, "4"},
+    {"bi", "4", "0", id::kIceLandOriginRange, "CICESiBiDlg", ok, "4"},
+    {"Di", "4", "0", id::kIceBearingRange, "CICEDiDlg", ok, "4"},
+    {"zi", "4", "0", id::kIceTrendRange, "CNewZiDlg", ok, "4"},
 };
 
 ShipFixedData ship_for(const std::string& field) {

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,8 @@ namespace {
 namespace id = text::id;
 using main_window::Opened;
 
-// Types into the fields of a dialog (a line of a choice by its number behind "#") and presses OK.
+// Types into the fields of a dialog (a line of a choice by its number behind "#", a box with any
+// text) and presses OK.
 struct Entry {
   const char* control;
   const char* text;
@@ -29,6 +31,8 @@ void fill(ui::Screen& screen, const std::vector<Entry>& entries, const char* but
     if (text.starts_with('#')) {
       screen.move_focus(*control);
       screen.choose(*control, text[1] - '0');
+    } else if (control->kind == ui::Kind::kTick) {
+      screen.tick(*control, true);
     } else {
       ASSERT_TRUE(fakes::enter(screen, *control, text)) << entry.control;
     }
@@ -145,6 +149,20 @@ const std::vector<Dialog>& dialogs() {
         {"Hw2Hw2", "01"}},
        "VV"},
       {11, "CEyeShotDlg", "VV", "label_visibility", {{"choice", "#7"}}, {{"VV", "93"}}, "ww"},
+      {12,
+       "CNowWeatherDlg",
+       "ww",
+       "label_present_weather",
+       {{"choice", "#0"}, {"group", "#5"}, {"line", "#3"}},
+       {{"ww", "63"}},
+       "W1"},
+      {13,
+       "CPastWeatherDlg1",
+       "W2",
+       "label_past_weather",
+       {{"drizzle", "on"}, {"thunder", "on"}},
+       {{"W1", "9"}, {"W2", "5"}},
+       "N"},
       {14, "CCloudAgeDlg", "N", "label_total_cloud", {{"choice", "#7"}}, {{"N", "7"}}, "Nh"},
       {15,
        "CBottomLayerCloudDlg",
@@ -157,6 +175,20 @@ const std::vector<Dialog>& dialogs() {
       {17, "CMidCloudDlg", "CM", "caption_CM", {{"choice", "#8"}}, {{"CM", "7"}}, "CL"},
       {18, "CBottomCloudDlg", "CL", "caption_CL", {{"choice", "#0"}}, {{"CL", "0"}}, "h"},
       {20, "CCloudHeightDlg", "h", "label_cloud_height", {{"choice", "#6"}}, {{"h", "4"}}, "Is"},
+      {19,
+       "CSeaIceDialog",
+       "EsEs",
+       "label_ice_accretion",
+       {{"kind", "#3"}, {"thickness", "7"}, {"rate", "#0"}},
+       {{"Is", "4"}, {"EsEs", "07"}, {"Rs", "0"}},
+       "ci"},
+      {21,
+       "CICECiDlg",
+       "ci",
+       "caption_ci",
+       {{"place", "#1"}, {"uniform", "#1"}, {"concentration", "#2"}},
+       {{"ci", "8"}},
+       "Si"},
       {22,
        "CICESiBiDlg",
        "Si",
@@ -273,34 +305,198 @@ TEST(ElementDialogs, OpenAgainOnWhatTheyGave) {
   }
 }
 
-// By F1 in each of its fields, by each of its labels and captions, by its number.
-TEST(ElementDialogs, ThatAreNotThereYetSayThatThisVersionDoesNotHaveThem) {
-  for (const mainwindow::ElementRow& row : mainwindow::element_rows()) {
-    if (row.open != nullptr) continue;
-    const auto says_so = [&](std::string_view road, const std::function<void(Opened&)>& take) {
-      SCOPED_TRACE(std::to_string(row.element) + " by " + std::string(road));
-      const auto opened = std::make_unique<Opened>();
-      const std::string before = opened->state();
-      opened->world.windows.expect(id::kNotInThisVersion);
-      take(*opened);
-      EXPECT_EQ(1U, opened->world.windows.boxes.size());
-      EXPECT_EQ(before, opened->state());
-    };
-    says_so("number",
-            [&](Opened& opened) { EXPECT_FALSE(opened.window.open_element(row.element)); });
-    for (const mainwindow::FieldRow& field : mainwindow::field_rows()) {
-      if (field.element != row.element) continue;
-      says_so(field.name, [&](Opened& opened) {
-        ASSERT_TRUE(opened.window.move_focus(opened.control(field.name)));
-        opened.window.key(ui::Key::kF1);
-      });
+// ---- Every label and every field
+
+// The dialog that each of them opens; nullptr for a field whose element has none.
+struct Opens {
+  const char* name;
+  const char* dialog;
+};
+constexpr Opens kLabelOpens[] = {
+    {"label_time", "CUTCTimeDlg1"},
+    {"label_latitude", "CPositionDlg"},
+    {"label_longitude", "CPositionDlg"},
+    {"label_ship_direction", "CDvDsDlg"},
+    {"label_ship_speed", "CDvDsDlg"},
+    {"label_pressure", "CSeaSurfacePressureDlg"},
+    {"label_tendency", "CPresureTendencyDlg"},
+    {"label_dry_and_wet", "CCountDewDlg"},
+    {"label_dew_point", "CTemperatureAndDewDlg"},
+    {"label_humidity", "CThumidityDlg"},
+    {"label_true_wind", "CTrueDirWindDlg"},
+    {"label_apparent_wind", "CLookWindDlg"},
+    {"label_sea_temperature", "CSea_SurfaceTemperatureDlg"},
+    {"label_wind_wave", "CWindDlg"},
+    {"label_swell1", "CSwellWaveDlg"},
+    {"label_swell2", "CSwellWaveDlg"},
+    {"label_wave_recorder", "CSwellWaveDlg"},
+    {"label_visibility", "CEyeShotDlg"},
+    {"label_present_weather", "CNowWeatherDlg"},
+    {"label_past_weather", "CPastWeatherDlg1"},
+    {"label_total_cloud", "CCloudAgeDlg"},
+    {"label_lowest_cloud", "CBottomLayerCloudDlg"},
+    {"label_cloud_type", "CTopCloudDlg"},
+    {"caption_CH", "CTopCloudDlg"},
+    {"caption_CM", "CMidCloudDlg"},
+    {"caption_CL", "CBottomCloudDlg"},
+    {"label_cloud_height", "CCloudHeightDlg"},
+    {"label_ice_accretion", "CSeaIceDialog"},
+    {"label_sea_ice", "CICECiDlg"},
+    {"caption_ci", "CICECiDlg"},
+    {"caption_Si", "CICESiBiDlg"},
+    {"caption_bi", "CICESiBiDlg"},
+    {"caption_Di", "CICEDiDlg"},
+    {"caption_zi", "CNewZiDlg"},
+};
+constexpr Opens kFieldOpens[] = {
+    {"Year", "CUTCTimeDlg1"},
+    {"Month", "CUTCTimeDlg1"},
+    {"YY", "CUTCTimeDlg1"},
+    {"GG", "CUTCTimeDlg1"},
+    {"GGExact", "CSeaSurfacePressureDlg"},
+    {"gg", "CSeaSurfacePressureDlg"},
+    {"LaDeg", "CPositionDlg"},
+    {"LaMin", "CPositionDlg"},
+    {"north_south", "CPositionDlg"},
+    {"LoDeg", "CPositionDlg"},
+    {"LoMin", "CPositionDlg"},
+    {"east_west", "CPositionDlg"},
+    {"Ds", "CDvDsDlg"},
+    {"Vs", "CDvDsDlg"},
+    {"loading_state", "CSeaSurfacePressureDlg"},
+    {"reading", "CSeaSurfacePressureDlg"},
+    {"PPPP", "CSeaSurfacePressureDlg"},
+    {"a", "CPresureTendencyDlg"},
+    {"ppp", "CPresureTendencyDlg"},
+    {"dry_bulb", "CCountDewDlg"},
+    {"wet_bulb", "CCountDewDlg"},
+    {"freeze", "CCountDewDlg"},
+    {"air_temperature", "CTemperatureAndDewDlg"},
+    {"dew_point", "CTemperatureAndDewDlg"},
+    {"relative_humidity", "CThumidityDlg"},
+    {"dd", "CTrueDirWindDlg"},
+    {"ff", "CTrueDirWindDlg"},
+    {"apparent_direction", "CLookWindDlg"},
+    {"apparent_speed", "CLookWindDlg"},
+    {"heading", "CLookWindDlg"},
+    {"course", "CLookWindDlg"},
+    {"ship_speed", "CLookWindDlg"},
+    {"TwTwTw", "CSea_SurfaceTemperatureDlg"},
+    {"PwPw", "CWindDlg"},
+    {"HwHw", "CWindDlg"},
+    {"dw1dw1", "CSwellWaveDlg"},
+    {"Pw1Pw1", "CSwellWaveDlg"},
+    {"Hw1Hw1", "CSwellWaveDlg"},
+    {"dw2dw2", "CSwellWaveDlg"},
+    {"Pw2Pw2", "CSwellWaveDlg"},
+    {"Hw2Hw2", "CSwellWaveDlg"},
+    {"PwaPwa", nullptr},
+    {"HwaHwa", nullptr},
+    {"VV", "CEyeShotDlg"},
+    {"ww", "CNowWeatherDlg"},
+    {"W1", "CPastWeatherDlg1"},
+    {"W2", "CPastWeatherDlg1"},
+    {"N", "CCloudAgeDlg"},
+    {"Nh", "CBottomLayerCloudDlg"},
+    {"CH", "CTopCloudDlg"},
+    {"CM", "CMidCloudDlg"},
+    {"CL", "CBottomCloudDlg"},
+    {"h", "CCloudHeightDlg"},
+    {"Is", "CSeaIceDialog"},
+    {"EsEs", "CSeaIceDialog"},
+    {"Rs", "CSeaIceDialog"},
+    {"ci", "CICECiDlg"},
+    {"Si", "CICESiBiDlg"},
+    {"bi", "CICESiBiDlg"},
+    {"Di", "CICEDiDlg"},
+    {"zi", "CNewZiDlg"},
+};
+// The dialogs that a later version brings.
+const std::set<std::string> kStillWithout = {"CWindDlg", "CSwellWaveDlg", "CNowWeatherDlg",
+                                             "CPastWeatherDlg1"};
+
+// Ships whose methods leave each field open on one of them at least.
+std::vector<ShipFixedData> ships_of_both_methods() {
+  std::vector<ShipFixedData> ships(2, main_window::sample_ship());
+  ships[0].wave_recorder = true;
+  ships[1].dew_point_method = DewPointMethod::kComputed;
+  ships[1].wind_input_method = WindInputMethod::kApparentWind;
+  ships[1].wind_speed_method = WindSpeedMethod::kAnemometer;
+  ships[1].card.type = CardType::kHeightAndTemperature;
+  return ships;
+}
+
+// What the road brought: "modal CLASS" or the text of a message, nothing where it is dead.
+std::vector<std::string> brought(Opened& opened, const std::function<void()>& road) {
+  opened.world.windows.answer_all("cancel");
+  const std::string before = opened.state();
+  road();
+  EXPECT_EQ(before, opened.state());
+  std::vector<std::string> all = opened.world.windows.notices;
+  for (const ui::MessageBox& box : opened.world.windows.boxes) all.push_back(box.text);
+  return all;
+}
+
+std::string message(text::Id id) {
+  return std::string(text::bilingual(id, text::Language::kEnglish));
+}
+
+std::string expected_of(const char* dialog) {
+  if (dialog == nullptr) return message(id::kNoSubWindow);
+  return kStillWithout.contains(dialog) ? message(id::kNotInThisVersion)
+                                        : "modal " + std::string(dialog);
+}
+
+TEST(EveryLabel, OpensItsDialogWhenItIsClicked) {
+  std::set<std::string_view> left;
+  for (const mainwindow::LabelRow& row : mainwindow::label_rows()) left.insert(row.name);
+  for (const Opens& row : kLabelOpens) {
+    SCOPED_TRACE(row.name);
+    bool alive = false;
+    for (const ShipFixedData& ship : ships_of_both_methods()) {
+      const auto opened = std::make_unique<Opened>(ship);
+      const auto all = brought(*opened, [&] { opened->press(row.name); });
+      if (all.empty()) continue;  // this ship has another method
+      alive = true;
+      EXPECT_EQ(all, (std::vector<std::string>{expected_of(row.dialog)}));
     }
-    for (const mainwindow::LabelRow& label : mainwindow::label_rows()) {
-      if (label.element() == row.element)
-        says_so(label.name, [&](Opened& opened) { opened.press(label.name); });
+    EXPECT_TRUE(alive);
+    EXPECT_EQ(left.erase(row.name), 1U);
+  }
+  EXPECT_TRUE(left.empty()) << *left.begin();
+}
+
+TEST(EveryField, OpensItsDialogByF1OrSaysThatItHasNone) {
+  std::set<std::string_view> left;
+  for (const mainwindow::FieldRow& row : mainwindow::field_rows()) left.insert(row.name);
+  for (const Opens& row : kFieldOpens) {
+    SCOPED_TRACE(row.name);
+    bool open = false;
+    for (const ShipFixedData& ship : ships_of_both_methods()) {
+      const auto opened = std::make_unique<Opened>(ship);
+      if (!opened->control(row.name).why_locked.empty()) continue;
+      open = true;
+      ASSERT_TRUE(opened->window.move_focus(opened->control(row.name)));
+      const auto all = brought(*opened, [&] { opened->window.key(ui::Key::kF1); });
+      EXPECT_EQ(all, (std::vector<std::string>{expected_of(row.dialog)}));
     }
+    EXPECT_TRUE(open);
+    EXPECT_EQ(left.erase(row.name), 1U);
+  }
+  EXPECT_TRUE(left.empty()) << *left.begin();
+}
+
+TEST(EveryGroupOfTheReport, SaysByF1ThatItHasNoDialog) {
+  for (const mainwindow::ReportGroupRow& row : mainwindow::report_group_rows()) {
+    const auto opened = std::make_unique<Opened>();
+    ASSERT_TRUE(opened->window.move_focus(opened->control(row.name)));
+    EXPECT_EQ(brought(*opened, [&] { opened->window.key(ui::Key::kF1); }),
+              (std::vector<std::string>{expected_of(nullptr)}))
+        << row.name;
   }
 }
+
+// ---- Numbers
 
 TEST(ElementNumbers, AreAllInTheTableOnceAndOthersSayThatThereIsNoDialog) {
   for (int element = 0; element <= 25; ++element) {

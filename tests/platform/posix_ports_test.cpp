@@ -149,7 +149,6 @@ TEST(System, OptionsChooseRootProgramLocaleAndClock) {
   EXPECT_EQ(program, *system.program_path_of(temp / "program/kavrel"));
   EXPECT_EQ(system.files().replace("C:\\x", "y"), platform::FileError::kNone);
   EXPECT_EQ(temp.content("new/root/x"), "y");
-  EXPECT_FALSE(system.no_printer().has_default_printer());
 }
 
 TEST(System, RootComesFromTheEnvironmentElseFromTheUsersDataFolder) {

@@ -54,6 +54,17 @@ TEST(Layout, TakesALineOfNamesForARow) {
   EXPECT_EQ(ui::placed_names(layout.root), (std::vector<std::string>{"a", "b", "c"}));
 }
 
+TEST(Layout, TakesLinesBesideTheirPictures) {
+  const auto layout = ui::parse_layout("lines choice 3\n  a b c\n  d\nend\nbuttons ok\n");
+  ASSERT_EQ(layout.error, "");
+  const auto& lines = layout.root.children[0];
+  EXPECT_EQ(lines.type, Type::kLines);
+  EXPECT_EQ(lines.name, "choice");
+  EXPECT_EQ(lines.grid_columns, 3);
+  EXPECT_EQ(ui::placed_names(layout.root),
+            (std::vector<std::string>{"choice", "a", "b", "c", "d", "ok"}));
+}
+
 TEST(Layout, NamesWhatItPlacesInReadingOrder) {
   const auto layout =
       ui::parse_layout("group frame\nrow a b\nend\ncolumns\nrow c\nrow d\nend\nbuttons ok\n");
@@ -74,6 +85,11 @@ TEST(Layout, SaysLineAndReasonOfAMistake) {
       {"grid\nend\n", "line 1: unknown: grid"},
       {"grid 0\nend\n", "line 1: unknown: grid"},
       {"grid -1\nend\n", "line 1: unknown: grid"},
+      {"lines\nend\n", "line 1: unknown: lines"},
+      {"lines a\nend\n", "line 1: unknown: lines"},
+      {"lines a 0\nend\n", "line 1: unknown: lines"},
+      {"lines a 2 b\nend\n", "line 1: unknown: lines"},
+      {"lines a 2\nrow b\n", "an end is missing"},
       {"row a\nta/ble 3\n", "line 2: unknown: ta/ble"},
       {"group a b\nend\n", "line 1: unknown: group"},
       {"a b^^\n", "line 1: unknown: a"},

@@ -21,8 +21,9 @@ using ui::CaptionPlace;
 // A plan on one line: "rows(line(left [beside] space) buttons(space ok))".
 std::string written(const ui::PlanNode& node) {
   static const std::map<Type, std::string> kNames = {
-      {Type::kRows, "rows"}, {Type::kColumns, "columns"}, {Type::kGroup, "group"},
-      {Type::kGrid, "grid"}, {Type::kLine, "line"},       {Type::kButtons, "buttons"}};
+      {Type::kRows, "rows"},  {Type::kColumns, "columns"}, {Type::kGroup, "group"},
+      {Type::kGrid, "grid"},  {Type::kLine, "line"},       {Type::kButtons, "buttons"},
+      {Type::kLines, "lines"}};
   static const std::map<CaptionPlace, std::string> kCaptions = {{CaptionPlace::kNone, ""},
                                                                 {CaptionPlace::kBeside, "<"},
                                                                 {CaptionPlace::kAbove, "^"},
@@ -106,6 +107,16 @@ TEST_F(APlan, KeepsRowsBesideAColumnTogether) {
       "rows(columns(rows(line(number<+unit space) space) "
       "group title(line(value< space) line(bare space))) "
       "rows(line(remark< tick) space) buttons(space ok cancel))");
+}
+
+TEST_F(APlan, PutsThePicturesOfItsLinesIntoAChoice) {
+  ui::Choice choice{screen, "choice", {}, {}};
+  ui::Picture first{screen, "first", {text::id::kHelpLabel}};
+  ui::Picture second{screen, "second"};
+  EXPECT_EQ(by("lines choice 2\n  first second\nend\nlines nobody 2\nend\n"
+               "title number remark bare value tick ok cancel\n"),
+            "rows(lines choice 2(first second) "
+            "line(title number<+unit remark< bare value< tick ok cancel))");
 }
 
 TEST_F(APlan, PassesOverStrangersAndPutsWhatIsForgottenLast) {

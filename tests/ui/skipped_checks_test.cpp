@@ -11,6 +11,7 @@
 #include "codetables/CSwellWaveDlg.h"
 #include "codetables/CWaveLengthDlg.h"
 #include "codetables/CWindDlg.h"
+#include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"
@@ -67,6 +68,9 @@ const std::map<std::string_view, std::function<Texts(const ui::Screen&)>>& hande
        })},
       {"CPresureTendencyDlg", reader<CPresureTendencyDlg>([](const CPresureTendencyDlg& d) {
          return Texts{d.a(), d.ppp()};
+       })},
+      {"CSeaIceDialog", reader<CSeaIceDialog>([](const CSeaIceDialog& d) {
+         return Texts{d.values().Is, d.values().EsEs, d.values().Rs};
        })},
       {"CSeaSurfacePressureDlg",
        reader<CSeaSurfacePressureDlg>([](const CSeaSurfacePressureDlg& d) {

@@ -280,6 +280,21 @@ std::string number_of(const FigureRange& range, int figures) {
   return text::format_fixed(value, range.decimals);
 }
 
+const CodeRow* row_of(const CodeTable& table, std::string_view figures) {
+  const auto at = std::find_if(table.rows.begin(), table.rows.end(),
+                               [&](const CodeRow& row) { return row.figures == figures; });
+  return at == table.rows.end() ? nullptr : &*at;
+}
+
+const FigureRange* range_of(const CodeTable& table, std::string_view figures) {
+  if (figures.size() != 2 || !text::is_all_digits(figures)) return nullptr;
+  const int number = text::leading_int(figures);
+  for (const FigureRange& range : table.ranges) {
+    if (number >= range.first && number <= range.last) return &range;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 std::span<const CodeTable> code_tables() {
@@ -302,18 +317,19 @@ const CodeTable* table_numbered(std::string_view number) {
   return nullptr;
 }
 
+bool holds(const CodeTable& table, std::string_view figures) {
+  return row_of(table, figures) != nullptr || range_of(table, figures) != nullptr;
+}
+
 std::optional<std::string> meaning(const CodeTable& table, std::string_view figures,
                                    text::Language language) {
-  for (const CodeRow& row : table.rows) {
-    if (row.figures != figures) continue;
-    const std::string_view line = text::bilingual(row.text, language);
+  if (const CodeRow* const row = row_of(table, figures)) {
+    const std::string_view line = text::bilingual(row->text, language);
     return std::string(table.lines_begin_with_figures ? without_figures(line, figures) : line);
   }
-  if (figures.size() != 2 || !text::is_all_digits(figures)) return std::nullopt;
-  const int number = text::leading_int(figures);
-  for (const FigureRange& range : table.ranges) {
-    if (number >= range.first && number <= range.last)
-      return text::fill(text::bilingual(range.text, language), {number_of(range, number)});
+  if (const FigureRange* const range = range_of(table, figures)) {
+    return text::fill(text::bilingual(range->text, language),
+                      {number_of(*range, text::leading_int(figures))});
   }
   return std::nullopt;
 }

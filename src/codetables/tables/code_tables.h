@@ -51,6 +51,9 @@ struct CodeTable {
 /// The (first) table of a number ("4677"); nullptr when there is none.
 [[nodiscard]] const CodeTable* table_numbered(std::string_view number);
 
+/// The figures stand for something in the table; any bytes are survived.
+[[nodiscard]] bool holds(const CodeTable& table, std::string_view figures);
+
 /// What the figures stand for, without the figures themselves: "Haze" for ww "05". Nothing for
 /// figures that the table does not have; any bytes are survived.
 [[nodiscard]] std::optional<std::string> meaning(const CodeTable& table, std::string_view figures,

@@ -35,7 +35,8 @@ bool is_below_zero(std::string_view Ss) {
 }
 
 std::optional<SeaTemperatureMethod> sea_temperature_method(std::string_view Ss) {
-  if (Ss.size() != 1 || Ss.front() < '0' || Ss.front() > '7') return std::nullopt;
+  if (Ss.size() != 1 || kSeaTemperatureSigns.find(Ss) == std::string_view::npos)
+    return std::nullopt;
   return static_cast<SeaTemperatureMethod>((Ss.front() - '0') / 2);
 }
 

@@ -13,6 +13,9 @@ namespace codetables {
 /// In the order of the table.
 enum class SeaTemperatureMethod { kIntake = 0, kBucket = 1, kHullContactSensor = 2, kOther = 3 };
 
+/// The figures of table 3850.
+inline constexpr std::string_view kSeaTemperatureSigns = "01234567";
+
 /// A plain decimal number (sign, digits, point) from -2 to 37.0 degrees, blanks around let pass;
 /// else nothing.
 [[nodiscard]] std::optional<Celsius> sea_temperature(std::string_view text);

@@ -10,6 +10,11 @@
 
 namespace codetables {
 
+/// What a group of the report takes for a sign: of table 3845 not the 9, which makes a dew point a
+/// humidity, and of table 3855 the figures of a bulb that is read, not computed.
+inline constexpr std::string_view kTemperatureSigns = "01";
+inline constexpr std::string_view kWetBulbSigns = "012";
+
 /// One decimal with two figures before the point and no blanks: "05.0", "12.3", "-01.8", "-12.3".
 /// What rounds to zero has no sign: "00.0".
 [[nodiscard]] std::string zero_filled_tenths(double value);

@@ -31,7 +31,7 @@ class FieldSet {
 
 struct CrossRule {
   text::Id message;     ///< text id of the refusal
-  text::Id check_text;  ///< text id, 0 for none
+  text::Id check_text;  ///< the rule's short name beside its message, which says all; none for most
   bool (*broken)(const Struct_Weather& record);
   /// The fields whose editors raise it; none for a rule that only a save asks for.
   FieldSet raised_by;

@@ -34,10 +34,10 @@ struct SignRow {
   text::Id message;
 };
 constexpr SignRow kSigns[] = {
-    {&W::SnT, "01", id::kSignRange},
-    {&W::SnTd, "01", id::kSignRange},
-    {&W::Sw, "012", id::kSignRange},
-    {&W::Ss, "01234567", id::kInputError},
+    {&W::SnT, codetables::kTemperatureSigns, id::kSignRange},
+    {&W::SnTd, codetables::kTemperatureSigns, id::kSignRange},
+    {&W::Sw, codetables::kWetBulbSigns, id::kSignRange},
+    {&W::Ss, codetables::kSeaTemperatureSigns, id::kInputError},
     {&W::Qc, codetables::kQuadrants, id::kInputError},
 };
 

@@ -11,6 +11,8 @@
 #include <memory>
 #include <new>
 
+#include "platform/paths.h"
+
 namespace platform::posix {
 
 namespace {
@@ -378,8 +380,7 @@ Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view c
       return FileError::kAccessDenied;
   }
 
-  const auto at = path.find_last_of("\\/:");
-  const std::string folder = at == std::string::npos ? std::string() : path.substr(0, at + 1);
+  const std::string folder(folder_part(path));
   for (int i = 0; i < kTries; ++i) {
     // Never the name of the file: no search for reports or logbooks may find a half-written one.
     const std::string name =

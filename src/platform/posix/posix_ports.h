@@ -1,5 +1,5 @@
 #pragma once
-// Clock, locale, drives, help viewer and the absent printer on this operating system.
+// Clock, locale, drives and help viewer on this operating system.
 
 #include <functional>
 #include <optional>
@@ -57,15 +57,6 @@ class PosixDrives : public Drives {
  private:
   const DriveMap& map_;
   std::string program_path_;
-};
-
-/// No printer, for runs without a desktop.
-class NoPrinter : public Printer {
- public:
-  [[nodiscard]] bool has_default_printer() const override { return false; }
-  [[nodiscard]] PrintResult print(const std::string&, const std::vector<std::string>&) override {
-    return PrintResult::kFailed;
-  }
 };
 
 /// This system has no viewer for compiled help files. A help file "help\Kavrel_E.CHM" is looked for

@@ -35,7 +35,6 @@ class System {
   [[nodiscard]] Files& files() { return *files_; }
   [[nodiscard]] CodePage& code_page() { return code_page_; }
   [[nodiscard]] PosixHelp& help() { return *help_; }
-  [[nodiscard]] Printer& no_printer() { return no_printer_; }
   [[nodiscard]] const DriveMap& map() const { return *map_; }
 
   /// A path from the command line as the program says it: "/home/x" is "Z:\home\x". Nothing for a
@@ -64,7 +63,6 @@ class System {
   std::unique_ptr<PosixFiles> files_;
   std::unique_ptr<PosixHelp> help_;
   PosixCodePage code_page_;
-  NoPrinter no_printer_;
 };
 
 /// The folder that is C: when nothing else is said: $XDG_DATA_HOME/kavrel/drive_c, or

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string_view>
 
 /// The twelve switches in the order of MOKSDATA.DAT.
 enum class ObservationItem : std::size_t {
@@ -21,6 +22,11 @@ enum class ObservationItem : std::size_t {
   ciSibiDizi,
 };
 inline constexpr std::size_t kObservationItems = 12;
+
+/// What scripts and observation files call them, in that order.
+inline constexpr std::array<std::string_view, kObservationItems> kObservationItemNames = {
+    "h",    "VV",   "N",         "Nh",        "CLCMCH",   "ww",
+    "W1W2", "PwHw", "dw1Pw1Hw1", "dw2Pw2Hw2", "IsEsEsRs", "ciSibiDizi"};
 
 /// True where an element is not observed (file digit "1"); everything is observed at first.
 struct KeyObservationItems {
