@@ -71,6 +71,7 @@ TEST(Help, EveryDialogHasItsTopic) {
       {"CLookWindDlg", "11-9"},
       {"CWindDlg", "11-10"},
       {"CSwellWaveDlg", "11-11"},
+      {"CWaveLengthDlg", "11-11-1"},
       {"CEyeShotDlg", "11-12"},
       {"CNowWeatherDlg", "11-13"},
       {"CPastWeatherDlg1", "11-14"},
