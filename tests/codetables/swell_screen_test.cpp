@@ -320,7 +320,7 @@ const Notice kRange2[] = {
 const Notice kPair[] = {{id::kSwell2DirectionMustBeUnknown, "Number Impossable2",
                          "Error: Input data is wrong. It must be \"Shell 2 Dir = //\""},
                         {id::kSwell2DirectionMustBeUnknown, "入力できない値です",
-                         "エラー：うねり２の方向は「//」でなければなりません。"}};
+                         "エラー：うねり2の方向は「//」でなければなりません。"}};
 const Notice kPeriods[] = {
     {id::kSwellPeriodRange, "Number Impossable",
      "Error: Input data is out of range.\nIt must be \"00<=Swell period<30,//\""},
