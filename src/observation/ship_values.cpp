@@ -88,6 +88,12 @@ bool is_manufacturer(std::string_view value) {
 
 // ---- The items by name
 
+// A sign and two figures, as the logbook turns them into three: "-5" would come out as "+15" there.
+bool is_departure(std::string_view value) {
+  return value.size() == 3 && (value.front() == '+' || value.front() == '-') &&
+         text::is_all_digits(value.substr(1));
+}
+
 struct ShipRow {
   std::string_view name;
   Stored (*store)(Ship& ship, std::string_view value);
@@ -135,7 +141,7 @@ constexpr ShipRow kShip[] = {
     {"vosclim_load_line_departure",
      [](Ship& s, Text v) {
        if (!v.empty() && !text::is_number(v, text::kSignedWhole)) return Stored::kBadNumber;
-       return store_text(s.vosclim_load_line_departure, v, v.size() <= 3);
+       return store_text(s.vosclim_load_line_departure, v, v.empty() || is_departure(v));
      }},
     {"imo_number", [](Ship& s, Text v) { return store_figures(s.imo_number, v, 7); }},
     {"humidity_method", [](Ship& s, Text v) { return store_choice(s.humidity_method, v, 0, 1); }},
