@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "elements/form/draft.h"
 #include "mainwindow/element_openers.h"
 #include "window.h"
 
@@ -105,6 +106,46 @@ TEST(WaveDialogs, AHeightOfZeroFromAReportIsTheSmallestBesideItsPeriod) {
   EXPECT_EQ(opened->window.report(), before);
   EXPECT_EQ(opened->shown("HwHw"), "0.0");
   EXPECT_EQ(opened->shown("Hw1Hw1"), "0.0");
+}
+
+// What the dialogs leave on the form is kept by the draft, and comes back when the element is
+// switched off and on again.
+TEST(WaveDialogs, WhatTheyGiveSurvivesTheDraftAndTheItems) {
+  struct Row {
+    const char* box;      ///< ticked, when there is one
+    const char* height;   ///< else chosen
+    const char* form;     ///< what the form shows
+    const char* figures;  ///< of the record
+  };
+  for (const Row& row : {Row{"no_wind_wave", "", "00", "00"}, Row{nullptr, "< 0.25", "0.2", "00"},
+                         Row{nullptr, "1.5", "1.5", "03"}, Row{"height_unknown", "", "//", "//"}}) {
+    const auto opened = std::make_unique<Opened>();
+    opened->world.windows.expect_screen("CWindDlg", [&](ui::Screen& screen) {
+      if (row.box != nullptr) {
+        screen.tick(*screen.find(row.box), true);
+      } else {
+        fakes::choose_text(screen, *screen.find("height"), row.height);
+      }
+      ok(screen);
+    });
+    opened->press("label_wind_wave");
+    EXPECT_EQ(opened->shown("HwHw"), row.form);
+    elements::Draft draft;
+    draft.form = opened->window.form().entries();
+    const elements::DraftRead read = elements::decode_draft(elements::encode_draft(draft));
+    ASSERT_EQ(read.fault, elements::DraftFault::kNone) << row.form;
+    EXPECT_EQ(read.draft.form[elements::Field::kHwHw].text, row.form);
+    EXPECT_EQ(read.draft.form.record.HwHw, row.figures);
+    for (const int line : {1, 0}) {
+      opened->world.windows.expect_screen("CKeyObserveDlg", [&](ui::Screen& screen) {
+        screen.choose(*screen.find("PwHw"), line);
+        ok(screen);
+      });
+      opened->menu("Observation item");
+    }
+    EXPECT_EQ(opened->shown("HwHw"), row.form);
+    EXPECT_EQ(opened->window.form().record().HwHw, row.figures);
+  }
 }
 
 // What Cancel or an OK that says nothing new must leave: values, texts, marks, the saved state.
