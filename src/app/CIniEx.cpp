@@ -12,6 +12,7 @@ using platform::FileError;
 
 namespace {
 
+// ASCII alone: no locale may decide which key is meant.
 char lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
@@ -111,6 +112,7 @@ bool CIniEx::set_value(std::string_view section, std::string_view key, std::stri
       key.find('=') != std::string_view::npos)
     return false;
   if (const IniEntry* entry = find(section, key)) {
+    // The same value keeps the comment behind it, and the file stays as it is.
     if (without_comment(entry->value) == value) return true;
     const_cast<IniEntry*>(entry)->value = value;
   } else {

@@ -33,9 +33,11 @@ CVelmaranApp::CVelmaranApp(const Ports& ports, Dialogs dialogs)
 
 int CVelmaranApp::run() {
   if (!read_settings()) return 1;
+  // Before the folders are looked at: one on a removable drive may be away.
   find_removable();
   check_folder(WorkingFolder::kReports);
   check_folder(WorkingFolder::kLogbook);
+  // Before anything else is asked: what a save left half done is put in order and told first.
   settings_.folders.finished_report = mainwindow::recover_save(services_, settings_.folders);
   ask_fixed_data();
   ask_key_items();

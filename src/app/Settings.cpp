@@ -89,6 +89,7 @@ FolderCheck check_working_folder(const std::string& folder, const std::string& r
                                  const platform::Files& files, const platform::Drives& drives) {
   if (folder.empty()) return {FolderState::kGone};
   const platform::Look found = files.look(folder);
+  // On the removable drive the disk may only not be in yet.
   if (found.there == There::kFolder || folder.substr(0, kRootLength) == removable_root)
     return {FolderState::kUsable};
   // A name that no folder can have and a drive that has gone are answers, too.

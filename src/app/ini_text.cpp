@@ -27,6 +27,7 @@ std::vector<IniSection> parse_ini(std::string_view text) {
     const auto end = std::min(text.find('\n'), text.size());
     auto line = text.substr(0, end);
     text.remove_prefix(std::min(text.size(), end + 1));
+    // However many there are: read again after a save, a value must be the same.
     while (line.ends_with('\r')) line.remove_suffix(1);
     if (is_header(line)) {
       sections.push_back({true, std::string(line.substr(1, line.size() - 2)), {}});
@@ -43,6 +44,7 @@ std::string write_ini(const std::vector<IniSection>& sections) {
   for (const IniSection& section : sections) {
     if (section.named) text.append("[").append(section.name).append("]\n");
     for (const IniEntry& entry : section.entries)
+      // A line that had no "=" gets one, as it always has.
       text.append(entry.key).append(entry.key.empty() ? "" : "=").append(entry.value).append("\n");
   }
   return text;

@@ -13,6 +13,7 @@ using platform::FileError;
 bool archive::is_folder_name(std::string_view name) {
   const bool has_bad = std::any_of(name.begin(), name.end(), [](char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7f' ||
+           // What no name of the officer's system has; a ";" would begin a comment in the settings.
            std::string_view("\\/:*?\"<>|;").find(c) != std::string_view::npos;
   });
   return !has_bad && !name.empty() && name.find_first_not_of('.') != std::string_view::npos;
@@ -35,6 +36,7 @@ void CCreateDir::on_ok() {
   }
   std::string path = platform::join(parent_, name);
   platform::Files& files = services().files;
+  // A folder of that name serves as well.
   const FileError error = files.is_folder(path) ? FileError::kNone : files.create_folder(path);
   if (error != FileError::kNone) {
     services().messages.file_error(id::kFolderNotCreated, path, error);

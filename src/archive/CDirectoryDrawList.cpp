@@ -42,6 +42,7 @@ void CDirectoryDrawList::fill() {
 }
 
 void CDirectoryDrawList::expand(std::size_t row) {
+  // The screen has marked it as open, and open() leaves such a row alone.
   tree_.rows[row].expanded = false;
   open(row);
 }
@@ -57,6 +58,7 @@ bool CDirectoryDrawList::open(std::size_t row) {
   } else {
     auto entries = files_.list(path);
     if (!entries.ok()) {
+      // The row stays closed and can be tried again: a disk may be put in.
       if (on_unreadable && !silent_) on_unreadable(path, entries.error);
       return false;
     }
@@ -83,6 +85,7 @@ void CDirectoryDrawList::close(std::size_t row) {
       first, tree_.rows.end(), [&](const TreeRow& r) { return r.depth <= tree_.rows[row].depth; });
   tree_.rows.erase(first, last);
   tree_.rows[row].expanded = false;
+  // What was empty may hold a folder now.
   tree_.rows[row].can_expand = true;
 }
 
@@ -92,6 +95,7 @@ int CDirectoryDrawList::child(std::size_t row, std::string_view name) const {
   for (std::size_t at = row + 1; at < tree_.rows.size() && tree_.rows[at].depth > depth; ++at) {
     if (tree_.rows[at].depth != depth + 1) continue;
     const std::string& text = tree_.rows[at].text;
+    // The very name first: on this computer two folders may differ in case alone.
     if (text == name) return static_cast<int>(at);
     if (other_case < 0 && archive::equal_ignoring_case(text, name))
       other_case = static_cast<int>(at);
@@ -104,6 +108,7 @@ bool CDirectoryDrawList::reveal(std::string_view folder) {
   std::vector<TreeRow> rows_before = tree_.rows;
   const int row = find_row(folder);
   if (row <= 0) {
+    // Nothing stays open of a way that led nowhere.
     tree_.rows = std::move(rows_before);
     return false;
   }
@@ -119,6 +124,7 @@ int CDirectoryDrawList::find_row(std::string_view folder) {
     const bool is_drive = row == 0;
     int found = -1;
     if (open(static_cast<std::size_t>(row))) {
+      // A drive's row reads "C:\", a folder's has no backslash.
       found = child(static_cast<std::size_t>(row),
                     is_drive ? std::string(part) + "\\" : std::string(part));
     }

@@ -11,6 +11,7 @@ platform::FileError CFindFile::find(const std::string& folder, std::string_view 
   if (!entries.ok()) return entries.error;
   for (const platform::FolderEntry& entry : *entries.value) {
     if (entry.is_folder || entry.name == "." || entry.name == "..") continue;
+    // Anywhere in the name and in this case: "x.tlx.bak" is found, "A.TLX" is not.
     if (entry.name.find(pattern) == std::string::npos) continue;
     result.push_back(platform::join(folder, entry.name));
   }

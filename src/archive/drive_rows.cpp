@@ -12,6 +12,7 @@ std::vector<DriveRow> drive_rows(const platform::Drives& drives) {
   for (char letter = 'A'; letter <= 'Z'; ++letter) {
     const auto drive = std::find_if(there.begin(), there.end(),
                                     [&](const platform::Drive& d) { return d.letter == letter; });
+    // Nothing can be saved to a drive of unknown type, or one that is not there.
     if (drive == there.end() || drive->type < DriveType::kRemovable ||
         drive->type > DriveType::kRamDisk) {
       continue;

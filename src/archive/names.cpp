@@ -21,6 +21,7 @@ bool comes_before(std::string_view a, std::string_view b) {
     return static_cast<unsigned char>(lower(x)) < static_cast<unsigned char>(lower(y));
   };
   if (std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), less)) return true;
+  // Names that differ in case alone have an order too, not that of the file system.
   return equal_ignoring_case(a, b) && a < b;
 }
 

@@ -43,6 +43,7 @@ Input::Line Input::next_bytes(std::string& line, std::size_t longest) {
   using Traits = std::streambuf::traits_type;
   line.clear();
   if (!rewound_) return Line::kUnreadable;
+  // Past the stream, which would make an end of a read that failed.
   std::streambuf& buffer = *in_->rdbuf();
   try {
     for (int c = buffer.sbumpc();; c = buffer.sbumpc()) {

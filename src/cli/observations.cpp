@@ -101,6 +101,7 @@ bool for_each_observation(Input& input, const Use& check, const Use& use) {
     input.rewind();
   }
   return go_through(input, [&](const ObservationReader& reader) {
+    // What cannot be read twice is checked as it comes, and what can may have changed since.
     const auto refused = check(reader);
     return refused ? refused : use(reader);
   });

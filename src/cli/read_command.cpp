@@ -55,6 +55,7 @@ class Printer {
 
   /// False for a report that does not end.
   [[nodiscard]] bool take(std::string_view line) {
+    // A note of a person's, or what an earlier run could not place.
     if (line.starts_with('#')) return true;
     if (pending_.empty() && !observation::find_report(line)) {
       outside(line);

@@ -80,6 +80,7 @@ class Saver {
     if (replace_) return std::nullopt;
     const std::string path = observation::report_path(*reports_, observed.record());
     const auto [before, is_first] = line_of_report_.try_emplace(path, observed.first_line());
+    // Checked twice, an observation meets itself, in its own line.
     if (!is_first && before->second != observed.first_line())
       return "the observation of line " + std::to_string(before->second) +
              " has the same report; --replace would replace it";
@@ -237,6 +238,7 @@ int save_command(const std::vector<std::string>& words) {
     std::cerr << "kavrel-cli: " << *problem << "\n";
     return kWrong;
   }
+  // Before anything is checked: a report that this finishes is then one that exists.
   saver.recover();
   Input input(arguments.file);
   const bool done = for_each_observation(

@@ -61,7 +61,7 @@ std::vector<std::unique_ptr<ui::Control>> CCodeTableDlg::pictures() {
           std::make_unique<ui::Picture>(*this, with_code(picked.row.control, '_', line.code));
       picture->literal_caption = with_code(picked.row.symbol, ' ', line.code);
       picture->content = line.file;
-      picture->beside_line = line_of(*picked.choice, line.code);
+      picture->beside_line = codetables::line_of(*picked.choice, line.code);
       picture->on_press = [this, &choice = *picked.choice, code = line.code] {
         choice.selected = codetables::line_of(choice, code);
         show_drawings();

@@ -35,9 +35,6 @@ CWindDlg::CWindDlg(ui::Services& services, Values values, std::optional<codetabl
       wave_group(*this, "wave_group", {id::kWindWave}),
       period(*this, "period", {id::kWavePeriod}, kPeriod),
       height(*this, "height", {id::kWindWaveHeight}, kHeight),
-      reference_group(*this, "reference_group", {id::kReferenceWave}),
-      reference_height(*this, "reference_height", {id::kReferenceWaveHeight}),
-      side(*this, "side", {id::kDrawnWaveHeight}),
       observation_group(*this, "observation_group", {id::kWindWaveObservation}),
       period_unknown(*this, "period_unknown", {id::kWavePeriodUnknown}, codetables::kWaveUnknown),
       period_confused(*this, "period_confused", {id::kWavePeriodConfused},
@@ -46,6 +43,9 @@ CWindDlg::CWindDlg(ui::Services& services, Values values, std::optional<codetabl
                      codetables::kWaveUnknown),
       no_wind_wave(*this, "no_wind_wave", {id::kNoWindWave}),
       not_observed(*this, "not_observed", {id::kWavesNotObserved}),
+      reference_group(*this, "reference_group", {id::kReferenceWave}),
+      reference_height(*this, "reference_height", {id::kReferenceWaveHeight}),
+      side(*this, "side", {id::kDrawnWaveHeight}),
       values_(std::move(values)),
       probable_height_(probable_height(wind)) {
   reference_height.max_length = 4;

@@ -28,15 +28,15 @@ class CWindDlg : public ui::OkCancelHelpDialog {
   ui::Label wave_group;
   CWaveField period;
   CWaveField height;
-  ui::Label reference_group;
-  ui::ReadOnly reference_height;
-  ui::Picture side;
   ui::Label observation_group;
   CWaveBox period_unknown;
   CWaveBox period_confused;
   CWaveBox height_unknown;
   ui::Tick no_wind_wave;
   ui::Tick not_observed;
+  ui::Label reference_group;
+  ui::ReadOnly reference_height;
+  ui::Picture side;
 
  protected:
   void on_open() override;

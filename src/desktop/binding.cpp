@@ -70,6 +70,7 @@ class LineBinding : public Binding {
  public:
   LineBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), edit_(new QLineEdit(parent)) {
+    // The person's alone: textChanged would answer to setText() as well.
     connect(edit_, &QLineEdit::textEdited, this, [this](const QString& typed) {
       tell([&] { screen().type(control(), typed.toStdString()); });
     });
@@ -90,6 +91,7 @@ class LineBinding : public Binding {
     const int largest = largest_length(control());
     if (largest > 0 && edit_->maxLength() != largest) edit_->setMaxLength(largest);
     const QString wanted = text_of(control().content);
+    // So would the text that is there already: the caret would go to its end.
     if (edit_->text() != wanted) {
       edit_->setText(wanted);
       // A long text that nobody is typing shows its beginning.
@@ -141,6 +143,7 @@ class MemoBinding : public Binding {
  protected:
   void show_state() override {
     QString wanted = text_of(control().content);
+    // The widget ends its lines with "\n" alone and would seem to differ for ever.
     wanted.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (edit_->toPlainText() != wanted) edit_->setPlainText(wanted);
     make_room();
@@ -167,6 +170,7 @@ class ComboBinding : public Binding {
     }
     if (ui::extent_of(c).least_characters == 0)
       box_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    // The person's alone: currentIndexChanged also fires while the lines are filled anew.
     connect(box_, &QComboBox::activated, this,
             [this](int index) { tell([&] { screen().choose(control(), index); }); });
   }
@@ -197,6 +201,7 @@ class ComboBinding : public Binding {
       box_->addItems(lines_);
       show_marks();
     }
+    // The line before the text: it writes its own into the field.
     if (box_->currentIndex() != control().selected) box_->setCurrentIndex(control().selected);
     if (QLineEdit* const edit = box_->lineEdit()) {
       const QString wanted = text_of(control().content);
@@ -271,6 +276,7 @@ class ListBinding : public Binding {
         slanted.setItalic(true);
         list_->item(i)->setFont(slanted);
       }
+      // A list does not ask for its size anew when it has other lines.
       list_->updateGeometry();
     }
     if (chosen() != control().selected) {
@@ -311,11 +317,13 @@ class ChoiceBinding : public Binding {
  public:
   ChoiceBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), box_(new QWidget(parent)), group_(new QButtonGroup(box_)) {
+    // Clicked, not toggled: the program checks buttons, too.
     connect(group_, &QButtonGroup::idClicked, this,
             [this](int index) { tell([&] { screen().choose(control(), index); }); });
   }
   [[nodiscard]] QWidget* widget() const override { return box_; }
   [[nodiscard]] QWidget* focus_widget() const override {
+    // Tab enters by the line that is chosen, else by the first that can be.
     QAbstractButton* const on = group_->checkedButton();
     if (on != nullptr && on->isEnabled()) return on;
     const auto buttons = group_->buttons();
@@ -363,6 +371,7 @@ class ChoiceBinding : public Binding {
                              lines_of(control().item_codes) != codes_;
     lines_ = lines_of(control().items);
     codes_ = lines_of(control().item_codes);
+    // Another language alone: the buttons stay, and with them the focus.
     if (other_lines) return place_anew();
     for (int i = 0; i < lines_.size(); ++i) show_line(i);
   }
@@ -522,6 +531,7 @@ class ButtonBinding : public Binding {
  public:
   ButtonBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), button_(new QPushButton(parent)) {
+    // Else the button that has the focus becomes the default one, which is OK and no other.
     button_->setAutoDefault(false);
     connect(button_, &QPushButton::clicked, this,
             [this] { tell([&] { screen().press(control()); }); });
@@ -531,6 +541,7 @@ class ButtonBinding : public Binding {
  protected:
   void show_state() override {
     if (button_->text() != caption()) button_->setText(caption());
+    // For the looks only: what Enter does is the screen's.
     button_->setDefault(control().role == ui::Role::kAccept);
   }
 
@@ -614,6 +625,7 @@ class TreeBinding : public Binding {
       tell([&] { screen().collapse(control(), static_cast<std::size_t>(row_of(item))); });
     });
     connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] {
+      // A tree that is emptied selects nothing; that was nobody's choice.
       if (chosen() >= 0) tell([&] { screen().choose(control(), chosen()); });
     });
   }
@@ -750,10 +762,12 @@ void Binding::show() {
   QWidget* const shown_widget = widget();
   const QSignalBlocker quiet(shown_widget);
   show_state();
+  // Its own state: isEnabled() is false for the sake of a parent as well.
   if (shown_widget->isEnabledTo(shown_widget->parentWidget()) != control_.enabled)
     shown_widget->setEnabled(control_.enabled);
   for (QWidget* const part :
        {shown_widget, static_cast<QWidget*>(caption_label), static_cast<QWidget*>(unit_label)}) {
+    // isVisible() is false until the window is shown.
     if (part != nullptr && part->isHidden() == control_.visible) part->setVisible(control_.visible);
   }
   if (caption_label != nullptr) {

@@ -12,6 +12,7 @@ void ClickableLabel::set_clickable(bool on) {
 }
 
 void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {
+  // Let go beside it is no click, as on a button.
   if (clickable_ && event->button() == Qt::LeftButton && rect().contains(event->pos()))
     Q_EMIT clicked(event->position());
 }

@@ -53,10 +53,12 @@ bool print_on(QPagedPaintDevice& device, const ui::Sheets& sheets) {
   constexpr int kPointSize = 8;
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   font.setPointSize(kPointSize);
+  // Points of the paper: without the device they would be those of the screen.
   painter.setFont(QFont(font, &device));
   const QFontMetricsF metrics(painter.font(), &device);
   const double page_height = device.height();
   double y = 0;
+  // What comes first never begins with an empty sheet, however low the paper is.
   const auto make_room = [&](double height) {
     if (y == 0 || y + height <= page_height) return true;
     y = 0;

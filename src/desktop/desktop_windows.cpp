@@ -80,6 +80,7 @@ void DesktopWindows::show_notice(ui::Screen& screen) {
   auto window = std::make_unique<ScreenWindow>(screen, QApplication::activeWindow());
   window->setModal(false);
   window->show();
+  // Painted now, for the work that it speaks of lets no event through.
   QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   notices_[&screen] = std::move(window);
 }
@@ -91,6 +92,7 @@ void DesktopWindows::hide_notice(ui::Screen& screen) {
 void DesktopWindows::pause(int milliseconds) {
   QEventLoop loop;
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  // What is typed meanwhile waits for the window that comes.
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 

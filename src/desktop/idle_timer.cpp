@@ -7,6 +7,7 @@
 namespace desktop {
 namespace {
 
+// Milliseconds; who never pauses is not waited for longer than the second.
 constexpr qint64 kPause = 500;
 constexpr qint64 kLongest = 1500;
 

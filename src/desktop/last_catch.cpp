@@ -16,6 +16,7 @@ int told_when_it_fails(const std::function<int()>& run, ui::Messages& messages,
     try {
       messages.error_filled(text::id::kProgramFailed, {text::reason_of(thrown, texts.language)});
     } catch (...) {
+      // What ended the program may be that there is no memory for a message.
       std::fputs("kavrel: out of memory\n", stderr);
     }
     return kHadToEnd;

@@ -1,7 +1,11 @@
 #include "desktop/picture_label.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStyle>
 #include <algorithm>
 #include <utility>
@@ -14,6 +18,23 @@ namespace {
 // The name by which Qt looks for a file in the folders that it was told.
 constexpr const char* kPictures = "pictures";
 
+// The picture in as many points as it takes at most, which for most screens are half of the file's:
+// a decoder that is told so is done sooner. `wanted` becomes half the file's size.
+QPixmap read_for(const QString& file, double points_a_pixel, QSize& wanted) {
+  QImageReader reader(file);
+  const QSize natural = reader.size();
+  wanted = natural / 2;
+  const bool half = points_a_pixel <= 1;
+  QPixmap picture;
+  const QString key = QFileInfo(file).canonicalFilePath() +
+                      (half ? QLatin1String(" half") : QLatin1String(" whole"));
+  if (!natural.isValid() || QPixmapCache::find(key, &picture)) return picture;
+  if (half) reader.setScaledSize(wanted);
+  picture = QPixmap::fromImage(reader.read());
+  if (!picture.isNull()) QPixmapCache::insert(key, picture);
+  return picture;
+}
+
 }  // namespace
 
 void set_picture_folder(const QString& folder) {
@@ -21,19 +42,24 @@ void set_picture_folder(const QString& folder) {
 }
 
 bool PictureLabel::show_file(const QString& name, bool fitted) {
-  QPixmap picture;
   // Names come from the program itself, but a picture is never looked for elsewhere.
   const bool plain = !name.isEmpty() && !name.contains(QLatin1Char('/'));
-  const bool found = plain && picture.load(QLatin1String(kPictures) + QLatin1Char(':') + name);
-  fitted_ = fitted ? picture : QPixmap();
-  scaled_ = {};
-  setPixmap(fitted ? QPixmap() : picture);
-  if (fitted && found) {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    updateGeometry();
-    update();
+  const QString file = plain ? QLatin1String(kPictures) + QLatin1Char(':') + name : QString();
+  wanted_ = {};
+  fitted_ = scaled_ = {};
+  if (!fitted) {
+    QPixmap picture;
+    const bool found = plain && picture.load(file);
+    setPixmap(picture);
+    return found;
   }
-  return found;
+  setPixmap({});
+  if (plain) fitted_ = read_for(file, devicePixelRatioF(), wanted_);
+  if (fitted_.isNull()) return false;
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  updateGeometry();
+  update();
+  return true;
 }
 
 void PictureLabel::show_drawing(std::shared_ptr<const ui::Drawing> drawing) {
@@ -58,11 +84,11 @@ std::optional<ui::Point> PictureLabel::point_at(QPointF position) const {
 }
 
 QSize PictureLabel::sizeHint() const {
-  return fitted_.isNull() ? ClickableLabel::sizeHint() : fitted_.size() / 2;
+  return fitted_.isNull() ? ClickableLabel::sizeHint() : wanted_;
 }
 
 QSize PictureLabel::minimumSizeHint() const {
-  return fitted_.isNull() ? ClickableLabel::minimumSizeHint() : fitted_.size() / 4;
+  return fitted_.isNull() ? ClickableLabel::minimumSizeHint() : wanted_ / 2;
 }
 
 // Where a small screen makes it narrow it is low as well.
@@ -72,22 +98,23 @@ bool PictureLabel::hasHeightForWidth() const {
 
 int PictureLabel::heightForWidth(int width) const {
   if (fitted_.isNull()) return ClickableLabel::heightForWidth(width);
-  const int shown = std::min(width, sizeHint().width());
-  return shown * fitted_.height() / fitted_.width();
+  return std::min(width, wanted_.width()) * wanted_.height() / wanted_.width();
 }
 
 // Left and at the top, where the text beside it begins.
 QRect PictureLabel::fitted_place() const {
-  const QSize most = size().boundedTo(sizeHint());
-  return {QPoint(0, 0), fitted_.size().scaled(most, Qt::KeepAspectRatio)};
+  return {QPoint(0, 0), wanted_.scaled(size().boundedTo(wanted_), Qt::KeepAspectRatio)};
 }
 
 void PictureLabel::paintEvent(QPaintEvent* event) {
   if (!fitted_.isNull()) {
     const QRect place = fitted_place();
     const QSize points = place.size() * devicePixelRatioF();
-    if (scaled_.size() != points)
-      scaled_ = fitted_.scaled(points, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (scaled_.size() != points) {
+      scaled_ = fitted_.size() == points
+                    ? fitted_
+                    : fitted_.scaled(points, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
     QPainter(this).drawPixmap(place, scaled_);
     return;
   }
@@ -96,7 +123,8 @@ void PictureLabel::paintEvent(QPaintEvent* event) {
     return;
   }
   QPainter painter(this);
-  paint(painter, QRectF(rect()), *drawing_, palette());
+  // Not the label's own palette: what can be clicked has its text in the colour of links.
+  paint(painter, QRectF(rect()), *drawing_, QApplication::palette(this));
 }
 
 }  // namespace desktop

@@ -41,7 +41,8 @@ class PictureLabel : public ClickableLabel {
   [[nodiscard]] QRect fitted_place() const;
 
   std::shared_ptr<const ui::Drawing> drawing_;
-  QPixmap fitted_;  ///< as the file has it
+  QSize wanted_;    ///< of a fitted picture: half the file's
+  QPixmap fitted_;  ///< as it was read
   QPixmap scaled_;  ///< as it was painted last
 };
 

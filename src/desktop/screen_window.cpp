@@ -41,6 +41,7 @@ constexpr KeyRow kLineKeys[] = {
 };
 
 std::optional<ui::Key> key_in(std::span<const KeyRow> rows, const QKeyEvent& event) {
+  // The keypad's arrows and Enter are keys like the others.
   if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return std::nullopt;
   const auto at = std::ranges::find(rows, event.key(), [](const KeyRow& row) { return row.key; });
   return at == rows.end() ? std::nullopt : std::optional(at->told);
@@ -94,6 +95,7 @@ void show_shortcut(QAction& action, std::string_view keys) {
 
 ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent), screen_(screen) {
   if (!screen_.menu().empty()) {
+    // A dialog's title bar has no buttons to make the window larger or smaller.
     setWindowFlags(Qt::Window);
   } else {
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -102,6 +104,7 @@ ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent
   build();
   refresh();
   fit_to_screen();
+  // On the application: a part of a widget, as the field of a drop-down, has its keys first.
   qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
     focus_frame_->surround(binding_of(now) == nullptr ? nullptr : now);
@@ -126,6 +129,7 @@ void ScreenWindow::build() {
   scroll_ = new QScrollArea(this);
   scroll_->setWidgetResizable(true);
   scroll_->setFrameShape(QFrame::NoFrame);
+  // Else Tab stops at the area itself.
   scroll_->setFocusPolicy(Qt::NoFocus);
   content_ = new QWidget(scroll_);
   for (ui::Control* const control : screen_.controls()) {
@@ -177,6 +181,7 @@ ClickableLabel* ScreenWindow::caption_of(Binding& binding) {
   auto* const label = new ClickableLabel(content_);
   binding.caption_label = label;
   label->setText(QString::fromStdString(screen_.caption(binding.control())));
+  // Its access key leads to the field then.
   if (binding.focus_widget() != nullptr) label->setBuddy(binding.focus_widget());
   return label;
 }
@@ -200,6 +205,7 @@ QWidget* ScreenWindow::placed(const ui::PlanNode& node) {
   line->setSpacing(4);
   line->addWidget(found.widget());
   found.unit_label = new QLabel(content_);
+  // Else the toolkit guesses, and a "<" may begin a mark-up.
   found.unit_label->setTextFormat(Qt::PlainText);
   found.unit_label->setText(QString::fromStdString(screen_.unit(found.control())));
   line->addWidget(found.unit_label);
@@ -365,6 +371,7 @@ void ScreenWindow::add_items(QWidget& menu, std::span<const ui::MenuItem> items)
 }
 
 void ScreenWindow::run_command(const ui::MenuItem& item) {
+  // The queued question about the focus would come behind the command.
   settle_focus();
   hand([&] { screen_.command(item); });
   // Once the menu itself has let go of the keyboard.
@@ -396,6 +403,7 @@ void ScreenWindow::show_menu() {
   menu_language_ = screen_.language();
   menu_bar_->clear();
   for (QMenu* const old : menu_bar_->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly))
+    // Not at once: the command that is being carried out may be one of theirs.
     old->deleteLater();
   add_items(*menu_bar_, screen_.menu());
 }
@@ -423,6 +431,7 @@ void ScreenWindow::settle_focus() {
   const Binding* const entered = binding_of(now);
   if (entered == nullptr || screen_.focused() == &entered->control()) return;
   hand([&] {
+    // Refused: with another serial the refresh puts the focus back.
     if (!screen_.move_focus(entered->control())) focus_serial_ = screen_.focus_serial() - 1;
   });
 }
@@ -479,6 +488,7 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
     const QString letter = character_of(pressed);
     return menu != nullptr ? go_to_letter(*menu, letter) : go_to_letter(*menu_bar_, letter);
   }
+  // A message or the help beside this window has keys of its own.
   if (widget == nullptr || widget->window() != this) return QDialog::eventFilter(watched, event);
   if (!screen_.menu().empty() && does_nothing(pressed)) return true;
   if (choose_line(*widget, pressed)) return true;
@@ -491,11 +501,13 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
 
 bool ScreenWindow::focusNextPrevChild(bool next) {
   settle_focus();
+  // The toolkit would go on without asking whether the field lets go.
   hand([&] { screen_.key(next ? ui::Key::kTab : ui::Key::kShiftTab); });
   return true;
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {
+  // The screen says whether it closes; refresh() then does it.
   event->ignore();
   hand([this] { screen_.close_box(); });
 }
@@ -525,6 +537,7 @@ void settle_layouts(QWidget& content) {
 // All of the content, as far as the screen has room. Where one direction is cut, the scroll bar
 // that this takes must not cut the other.
 QSize ScreenWindow::fitting_size() const {
+  // How high the frame is, a window knows only when it is shown.
   constexpr int kTitleBar = 32;
   const QSize room = screen()->availableGeometry().size() - QSize(0, kTitleBar);
   const int menu = menu_bar_ == nullptr ? 0 : menu_bar_->sizeHint().height();
@@ -544,7 +557,16 @@ void ScreenWindow::fit_to_screen() {
 
 void ScreenWindow::grow_to_content() {
   const QSize wanted = size().expandedTo(fitting_size());
-  if (wanted != size()) resize(wanted);
+  if (wanted == size()) return;
+  resize(wanted);
+  // It grows to the right and downwards; its buttons must not end up beyond the display.
+  const QRect room = screen()->availableGeometry();
+  const QRect frame = frameGeometry();
+  const QPoint beyond(std::max(0, frame.right() - room.right()),
+                      std::max(0, frame.bottom() - room.bottom()));
+  if (!beyond.isNull())
+    move(std::max(room.left(), frame.left() - beyond.x()),
+         std::max(room.top(), frame.top() - beyond.y()));
 }
 
 }  // namespace desktop

@@ -118,6 +118,7 @@ void FocusFrame::place() {
     const QRect around = QRect(corner, target_->size()).adjusted(-kWidth, -kWidth, kWidth, kWidth);
     if (geometry() != around) {
       setGeometry(around);
+      // Without its middle, which would hide the widget.
       setMask(QRegion(rect()) - rect().adjusted(kWidth, kWidth, -kWidth, -kWidth));
     }
     raise();

@@ -30,6 +30,7 @@ std::string CFigureField::figures() const {
 }
 
 bool CFigureField::check() {
+  // What was there before nobody typed here: it keeps nobody in the field, and OK judges it.
   if (text::trim(field_.content).empty() || field_.content == opened_with_) return true;
   const std::string padded = figures();
   if (padded.empty()) {

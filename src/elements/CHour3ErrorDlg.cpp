@@ -15,6 +15,7 @@ void CHour3ErrorDlg::show(ui::Services& services, const std::string& warnings,
   constexpr int kReadingTime = 1000;
   if (warnings.empty()) return;
   if (hide_busy_notice) {
+    // The notice may have come up this moment: without a pause nobody could read it.
     services.windows.pause(kReadingTime);
     hide_busy_notice();
   }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "elements/tendency_curves.h"
 #include "text/ids.h"
 #include "text/strings.h"
 
@@ -29,6 +30,7 @@ CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, 
       kind(*this, "kind"),
       characteristic_group(*this, "characteristic_group", {id::kTendencyCharacteristicGroup}),
       characteristic(*this, "characteristic"),
+      curves(*this, "curves", {id::kTendencyCurves}),
       amount(*this, "amount", {id::kTendencyAmount}, 6),
       code(*this, "code", {id::kTendencyCode}),
       a_(std::move(a)),
@@ -37,7 +39,8 @@ CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, 
       {id::kTendencyRisen}, {id::kTendencySame}, {id::kTendencyDescended}, {id::kTendencyUnknown}};
   amount.unit = {id::kUnitHectopascal};
   kind.on_change = [this] { kind_changed(); };
-  characteristic.on_change = [this] { show_code(); };
+  characteristic.on_change = [this] { show_chosen(); };
+  curves.on_point = [this](ui::Point place) { choose_curve(place); };
   amount.on_leave = [this] { return leave_amount(); };
 }
 
@@ -46,7 +49,7 @@ void CPresureTendencyDlg::on_open() {
   kind.selected = static_cast<int>(codetables::tendency_kind(a_, amount.content));
   fill_characteristics();
   characteristic.selected = codetables::characteristic_line(chosen_kind(), a_);
-  show_code();
+  show_chosen();
 }
 
 TendencyKind CPresureTendencyDlg::chosen_kind() const {
@@ -77,11 +80,22 @@ void CPresureTendencyDlg::kind_changed() {
     const int line = codetables::characteristic_line(chosen_kind(), a_);
     characteristic.selected = line < 0 ? 0 : line;
   }
-  show_code();
+  show_chosen();
 }
 
-void CPresureTendencyDlg::show_code() {
+void CPresureTendencyDlg::show_chosen() {
   code.content = chosen_code();
+  const std::string_view offered =
+      kind.selected < 0 ? std::string_view() : codetables::characteristics(chosen_kind());
+  curves.drawing = elements::tendency_drawing(offered, characteristic.selected);
+}
+
+void CPresureTendencyDlg::choose_curve(ui::Point place) {
+  const int cell = elements::tendency_cell(place);
+  if (static_cast<std::size_t>(cell) >= characteristic.items.size()) return;
+  characteristic.selected = cell;
+  focus(characteristic);
+  show_chosen();
 }
 
 bool CPresureTendencyDlg::leave_amount() {
@@ -121,6 +135,7 @@ bool CPresureTendencyDlg::check_amount(const std::string& characteristic_code,
 
 void CPresureTendencyDlg::on_ok() {
   const std::string typed = text::without_spaces(amount.content);
+  // Whether it is a number was tested when the field was left; new is the characteristic.
   const std::string new_a = chosen_code();
   if (!check_amount(new_a, typed)) {
     focus(amount);

@@ -20,6 +20,7 @@ class CPresureTendencyDlg : public ui::OkCancelHelpDialog {
   ui::List kind;
   ui::Label characteristic_group;
   ui::List characteristic;
+  ui::Picture curves;  ///< of the characteristics listed; a click on one chooses it
   ui::Edit amount;
   ui::ReadOnly code;  ///< the characteristic that OK would store
 
@@ -32,7 +33,8 @@ class CPresureTendencyDlg : public ui::OkCancelHelpDialog {
   [[nodiscard]] std::string chosen_code() const;
   void fill_characteristics();
   void kind_changed();
-  void show_code();
+  void show_chosen();
+  void choose_curve(ui::Point place);
   bool leave_amount();
   bool check_amount(const std::string& characteristic_code, const std::string& typed);
 

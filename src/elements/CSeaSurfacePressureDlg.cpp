@@ -91,6 +91,7 @@ void CSeaSurfacePressureDlg::show_card() {
 // The actual time counts only when it is far from the nominal hour; meanwhile it is kept aside.
 void CSeaSurfacePressureDlg::time_choice_changed() {
   const bool entered = time_choice.selected == static_cast<int>(TimeChoice::kMoreThan10Minutes);
+  // The fields are still enabled as the choice before this one left them.
   if (!entered && hour.enabled && !(hour.content.empty() && minute.content.empty())) {
     kept_hour_ = hour.content;
     kept_minute_ = minute.content;
@@ -161,6 +162,7 @@ bool CSeaSurfacePressureDlg::validate() {
   if (codetables::pressure_range(shown) == codetables::PressureRange::kRefused)
     return refuse(reading_whole, id::kBarometerReadingRange);
   if (time_choice.selected == static_cast<int>(TimeChoice::kMoreThan10Minutes)) {
+    // An empty one does not come here; one of blanks does.
     if (text::trim(hour.content).empty()) return refuse(hour, id::kUtcHourMissing);
     if (text::trim(minute.content).empty()) return refuse(minute, id::kUtcMinuteMissing);
   }
@@ -177,6 +179,7 @@ void CSeaSurfacePressureDlg::on_ok() {
                            minute.content.empty();
   const bool far = time_choice.selected == static_cast<int>(TimeChoice::kMoreThan10Minutes);
   if (!no_pressure) {
+    // Nothing is said, as it always was: the screen stays until the time is whole or near.
     if (far && (hour.content.empty() || minute.content.empty())) return;
     if (!validate()) return;
   }

@@ -34,6 +34,7 @@ bool CSea_SurfaceTemperatureDlg::check() {
     services().messages.error(id::kSeaTemperatureRange);
     return false;
   }
+  // Any method would do: the text that is shown does not hold it.
   const auto figures = codetables::sea_temperature_figures(*value, of_ship_);
   temperature.content = codetables::sea_temperature_text(figures.Ss, figures.TwTwTw);
   return true;

@@ -43,6 +43,7 @@ void CUTCTimeDlg1::on_open() {
   month_.open(or_clock(values_.Month, now.month));
   day_.open(or_clock(values_.YY, now.day));
   hour_.open(or_clock(values_.GG, now.hour));
+  // The clock's hour is seldom a synoptic one, and then it is what is to be chosen.
   if (hour_fault()) focus(hour);
 }
 
@@ -54,6 +55,7 @@ text::Id CUTCTimeDlg1::hour_fault() const {
 }
 
 bool CUTCTimeDlg1::complete() {
+  // Figures are a year, if a wrong one; anything else is no date at all.
   if (!year_.number())
     return refuse(
         year, text::is_all_digits(text::trim(year.content)) ? id::kInvalidYear : id::kInvalidDay);

@@ -40,6 +40,7 @@ std::optional<int> answer_box(ScriptWindows& windows, const ui::MessageBox& box,
   }
   if (verb == "close") return box.close_result;
   if (verb == "expect-message") {
+    // Nothing stands in every text, so expecting it would always come true.
     if (const std::string part = plain_text(line.rest());
         part.empty() || box.text.find(part) == std::string::npos) {
       windows.stop(

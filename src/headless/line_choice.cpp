@@ -13,6 +13,7 @@ namespace {
 std::optional<int> line_that_reads(const ui::Control& control, const std::string& wanted) {
   const auto at = std::find(control.items.begin(), control.items.end(), wanted);
   if (at != control.items.end()) return static_cast<int>(at - control.items.begin());
+  // In English whatever the screen shows, so that one script plays in both languages.
   for (std::size_t i = 0; i < control.item_refs.size(); ++i) {
     const auto english = text::resolve(control.item_refs[i], text::Language::kEnglish);
     if (english == wanted || ui::without_access_key(english) == wanted) return static_cast<int>(i);

@@ -110,6 +110,7 @@ ui::Control& ScreenCommands::usable(const NameAndText& name) {
 }
 
 bool ScreenCommands::take_focus(ui::Control& control) {
+  // What the person does himself is no change that he has to be told.
   watch_.expect_focus(&control);
   return screen_.move_focus(control) && screen_.focused() == &control && !screen_.result();
 }
@@ -298,6 +299,7 @@ void ScreenCommands::answer() {
 
 void ScreenCommands::expect() {
   const NameAndText args = arguments();
+  // Also of a locked or disabled control: it is seen, if not used.
   const ui::Control& control = control_named(args);
   if (!control.visible) cannot(control.name + " is hidden");
   const std::string wanted = plain_text(args.text);
@@ -316,6 +318,7 @@ void ScreenCommands::expect_message() {
 }
 
 void ScreenCommands::record() {
+  // The dialogs above the window that holds the observation hold none.
   for (auto at = windows_.screens().rbegin(); at != windows_.screens().rend(); ++at) {
     const auto* const view = dynamic_cast<const ui::ObservationView*>(*at);
     if (view == nullptr) continue;

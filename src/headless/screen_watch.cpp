@@ -9,6 +9,7 @@ std::string arrow(const std::string& from, const std::string& to) {
   return ui::quoted(from) + " -> " + ui::quoted(to);
 }
 
+// They show nothing else, so a change of it is told once, as their text.
 bool caption_is_value(ui::Kind kind) {
   return kind == ui::Kind::kLabel || kind == ui::Kind::kButton;
 }
@@ -70,6 +71,7 @@ std::vector<std::string> ScreenWatch::changes(bool with_focus) {
   look();
   if (!with_focus) seen_.focused = was.focused;
   std::vector<std::string> out;
+  // Every text is another one then: one line says so for all of them.
   const bool new_language = was.language != seen_.language;
   if (was.title != seen_.title) out.push_back("title: " + arrow(was.title, seen_.title));
   if (new_language) {

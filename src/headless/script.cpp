@@ -99,6 +99,7 @@ std::optional<Line> ScriptReader::next() {
       too_long = true;
     }
   }
+  // A script that breaks off must not pass for one that ended.
   const bool unreadable = source_.bad();
   if (!any && !unreadable) return std::nullopt;
   line.number = ++number_;

@@ -117,6 +117,7 @@ void ScriptWindows::stop(const Line& line, Status status, const std::string& rea
 }
 
 int ScriptWindows::show_message(const ui::MessageBox& box) {
+  // The program is being unwound; what it still asks gets the answer of a closed box.
   if (ended_) return box.close_result;
   say_changes_so_far();
   return ask(box, box.buttons.size() > 1 ? "question" : "message");
@@ -149,6 +150,7 @@ void ScriptWindows::show_notice(ui::Screen& screen) {
   if (ended_) return;
   say_changes_so_far();
   screen.open();
+  // It takes no commands, so it is not among the open screens.
   say("notice " + headline(screen));
   for (const ui::ControlView& view : ui::views_of(screen)) {
     if (view.visible) say("  " + ui::describe(view));

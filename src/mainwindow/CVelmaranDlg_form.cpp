@@ -73,6 +73,7 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
     }
     case FieldKind::kFreeze: {
       auto& freeze = add<ui::Tick>(row.name, label);
+      // What the tick shows is the form's to say: from 0.1 degrees up it stays off.
       freeze.on_change = [this] {
         form_.toggle_freeze();
         refresh();
@@ -94,6 +95,7 @@ void CVelmaranDlg::add_edit(const mainwindow::FieldRow& row, text::Ref label) {
     form_.type(fields_[at].value(), fields_[at].control->content);
   };
   edit.on_leave = [this, at = fields_.size() - 1] {
+    // A command has seen to what was typed before it began.
     return command_in_progress_ || leave(fields_[at]);
   };
 }
@@ -207,6 +209,7 @@ bool CVelmaranDlg::settle(const std::function<elements::Answer(elements::Confirm
 }
 
 bool CVelmaranDlg::leave(const Field& field) {
+  // Full-width figures were narrowed behind the last key.
   if (field.control->content != form_.text(field.value()))
     form_.type(field.value(), field.control->content);
   const bool accepted =

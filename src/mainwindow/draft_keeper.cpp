@@ -102,6 +102,7 @@ void DraftKeeper::drop(std::string_view done) {
 }
 
 std::string DraftKeeper::own_path() const {
+  // Without a place of its own it names the first, for a message.
   return path(own_ == 0 ? 1 : own_, kDraft);
 }
 

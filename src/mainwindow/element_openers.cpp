@@ -5,12 +5,12 @@
 #include <vector>
 
 #include "codetables/CCodeTableDlg.h"
+#include "codetables/CICECiDlg.h"
 #include "codetables/CNowWeatherDlg.h"
 #include "codetables/CPastWeatherDlg1.h"
+#include "codetables/CSeaIceDialog.h"
 #include "codetables/CSwellWaveDlg.h"
 #include "codetables/CWindDlg.h"
-#include "codetables/CICECiDlg.h"
-#include "codetables/CSeaIceDialog.h"
 #include "codetables/code_pickers.h"
 #include "codetables/tables/past_weather.h"
 #include "codetables/tables/pressure_figures.h"
@@ -293,17 +293,16 @@ bool open_present_weather(Opening& opening) {
 }
 
 bool open_past_weather(Opening& opening) {
-  const codetables::PastWeather before{codetables::past_weather_number(opening.form.record().W1),
-                                       codetables::past_weather_number(opening.form.record().W2)};
+  const R& record = opening.form.record();
+  const codetables::PastWeather before{codetables::past_weather_number(record.W1),
+                                       codetables::past_weather_number(record.W2)};
   CPastWeatherDlg1 dialog(opening.services, before.W1, before.W2);
   if (!confirmed(opening, dialog)) return false;
-  // A copy: what is put for one may not change what is read for the other.
-  const R record = opening.form.record();
-  const auto text_of = [](int now, int then, const std::string& was) {
+  const auto figure = [](int now, int then, const std::string& was) {
     return now == then ? was : codetables::past_weather_figure(now);
   };
-  put_code(opening, "W1", text_of(dialog.W1(), before.W1, record.W1));
-  put_code(opening, "W2", text_of(dialog.W2(), before.W2, record.W2));
+  put_code(opening, "W1", figure(dialog.W1(), before.W1, record.W1));
+  put_code(opening, "W2", figure(dialog.W2(), before.W2, record.W2));
   return true;
 }
 

@@ -72,6 +72,7 @@ std::vector<FieldRow> with_choices() {
   return rows;
 }
 
+// The captions are to the letter, W1W1 and PaPaHaHa and the O that is no 0 among them.
 constexpr ReportGroupRow kReportGroups[] = {
     {Group::kYYGGiw, "group_YYGGiw", "Y Y G G i w"},
     {Group::k99LaLaLa, "group_99LaLaLa", "9 9 LaLaLa"},

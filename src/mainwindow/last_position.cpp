@@ -26,6 +26,7 @@ std::optional<TenthsPosition> last_saved_position(platform::Files& files,
     if (const auto date = observation::report_date(path))
       dated.emplace_back(date->year + date->month + date->day + date->hour, path);
   }
+  // The newest first: where it tells no position, the one before it is asked.
   std::sort(dated.rbegin(), dated.rend());
   for (const auto& [date, path] : dated) {
     const platform::Result<std::string> text = files.read(path, kLargestReport);

@@ -199,6 +199,7 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
   const observation::SaveRequest request = request_of(saving, report_of(saving).text);
   std::optional<observation::SaveResult> result;
   {
+    // Gone with its block, before the end of the save is told.
     const CShowStatusDlg notice(services, id::kNowSaving);
     result = write(services, saving, request);
   }

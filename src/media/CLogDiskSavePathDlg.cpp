@@ -99,6 +99,7 @@ void CLogDiskSavePathDlg::on_ok() {
     return;
   }
   const platform::Look found = services().files.look(folder);
+  // A removable drive is taken without its disk, which may be put in later.
   if (found.there != There::kFolder && !is_on_removable_drive(folder)) {
     if (found.there != There::kCannotTell) {
       refuse(tree, id::kFolderGone);
@@ -124,6 +125,7 @@ text::Id CLogDiskSavePathDlg::refusal(const std::string& folder) const {
 bool CLogDiskSavePathDlg::is_source(const std::string& folder) const {
   const std::string source = platform::with_backslash(folders_.source);
   return !source.empty() &&
+         // The names as well: without the disk nobody can tell whether both are one folder.
          (archive::equal_ignoring_case(folder, source) || services().files.same(folder, source));
 }
 

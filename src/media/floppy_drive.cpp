@@ -15,6 +15,7 @@ bool is_floppy_drive(const platform::Drive& drive, const platform::Drives& drive
 bool is_floppy_medium(int media_type) {
   constexpr int kRemovableOther = 11;
   constexpr int kFixed = 12;
+  // The kinds of floppies lie on both sides of these two.
   return media_type != 0 && (media_type < kRemovableOther || media_type > kFixed);
 }
 

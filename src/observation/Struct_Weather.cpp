@@ -99,8 +99,11 @@ int tenths(const std::string& degrees, const std::string& minutes) {
 }  // namespace
 
 Struct_Weather::Struct_Weather(const ShipFixedData& ship, const KeyObservationItems& items)
+    // Knots only (3 and 4); the figures for metres per second are not offered.
     : iw(ship.wind_speed_method == WindSpeedMethod::kAnemometer ? "4" : "3"),
+      // Precipitation is not measured, so there never is a group 6RRRtR.
       iR("4"),
+      // 1: the group 7wwW1W2 is there, for which one of the two is enough; 3: not observed.
       iX(items.observed(ObservationItem::ww) || items.observed(ObservationItem::W1W2) ? "1" : "3"),
       CallSign(ship.call_sign),
       ShipFixed(ship.imo_number) {}

@@ -53,12 +53,14 @@ constexpr Column rule(std::uint8_t first, std::uint8_t last,
   return {first, last, Writer::kSpecial, nullptr, {}, special};
 }
 
+// 0.1 has no exact binary form, so a unit is never compared exactly.
 bool nearly(double a, double b) {
   return std::abs(a - b) < 1e-6;
 }
 
 // ---- Columns with a rule of their own
 
+// Indicator iT: temperatures to tenths (3), halves (4) or whole degrees (5).
 void temperature_unit(std::string& line, const Source& source) {
   const double tenths = source.ship.temperature_unit * 10;
   if (nearly(tenths, 1)) line.push_back('3');
@@ -80,6 +82,7 @@ void end_of_group(std::string& line, const Struct_Weather& record, Group group, 
 
 void latitude(std::string& line, const Source& source) {
   const auto& record = source.record;
+  // The report sends degrees alone ("9935/"); the logbook has a whole latitude or none.
   if (is_unset(record.LaDeg) || is_unset(record.LaMin))
     line.append("///");
   else
@@ -88,6 +91,7 @@ void latitude(std::string& line, const Source& source) {
 
 void longitude(std::string& line, const Source& source) {
   const auto& record = source.record;
+  // Qc is of the longitude's group, so without it there is no longitude; latitude does not ask.
   if (is_unset(record.LoDeg) || is_unset(record.LoMin) || is_unset(record.Qc))
     line.append("////");
   else
@@ -97,9 +101,11 @@ void longitude(std::string& line, const Source& source) {
 // A computed dew point carries the kind of wet bulb that it was computed from.
 void dew_point_sign(std::string& line, const Source& source) {
   const auto& record = source.record;
+  // 5, 6 and 7 tell a computed dew point: 0 and above, below by a water bulb, below by ice.
   if (source.ship.dew_point_method != DewPointMethod::kComputed)
     write_left(line, record.SnTd, 1, true);
   else if (record.SnTd == "0")
+    // The sign comes first: 5 beside an iced bulb as well. One that is missing counts as below.
     line.push_back('5');
   else
     line.push_back(codetables::is_iced(record.Sw) ? '7' : '6');
@@ -107,12 +113,15 @@ void dew_point_sign(std::string& line, const Source& source) {
 
 void sea_temperature_sign(std::string& line, const Source& source) {
   const std::string& sign = source.record.Ss;
+  // The column has no figure for a sign that is missing: an empty Ss writes "1", as below zero.
   const bool positive =
       codetables::sea_temperature_method(sign) && !codetables::is_below_zero(sign);
   line.push_back(positive ? '0' : '1');
 }
 
 void sea_temperature_method(std::string& line, const Source& source) {
+  // The ship's method, also where this observation's Ss names another. The layout counts them
+  // otherwise than Ss does: here 0 is the bucket and 1 the intake.
   switch (source.ship.sea_temperature_method) {
     case SeaTemperatureMethod::kIntake:
       line.push_back('1');
@@ -144,6 +153,7 @@ void wind_wave_height(std::string& line, const Source& source) {
 
 void first_swell(std::string& line, const Source& source) {
   const auto& record = source.record;
+  // No first swell: whatever its period and height hold, they are of nothing.
   if (record.dw1dw1 == "00") {
     line.append("0000");
     return;
@@ -157,6 +167,7 @@ void second_swell(std::string& line, const Source& source) {
   if (record.dw1dw1 == "00") {
     line.append("000000");
   } else if (record.dw2dw2 == "00") {
+    // No second swell is blank: zeros here would say that there is no swell at all.
     line.append("      ");
   } else {
     write_left(line, record.dw2dw2, 2, true);
@@ -181,6 +192,7 @@ void load_line_departure(std::string& line, const Source& source) {
 }
 
 void humidity_indicator(std::string& line, const Source& source) {
+  // 0 and 1: read from a hygrometer, in tenths and in whole percent; 3 and 4: computed, the same.
   const bool tenths = nearly(source.ship.humidity_unit, 0.1);
   if (source.ship.humidity_method != HumidityMethod::kDirect)
     line.push_back(tenths ? '3' : '4');
@@ -189,6 +201,7 @@ void humidity_indicator(std::string& line, const Source& source) {
 }
 
 void station_indicator(std::string& line, const Source& source) {
+  // With an automatic station: 1 when it observes alone, 2 when people observe something beside it.
   if (!source.ship.aws_fitted)
     line.push_back('0');
   else
@@ -203,6 +216,7 @@ void imo_number(std::string& line, const Source& source) {
 
 constexpr Column kColumns[] = {
     rule(1, 1, temperature_unit),
+    // A date that is missing is blank here, not "/": day and hour behind it are.
     of(2, 5, &W::Year, Writer::kLeftPlain),
     of(6, 7, &W::Month, Writer::kLeftPlain),
     of(8, 9, &W::YY),
@@ -210,6 +224,7 @@ constexpr Column kColumns[] = {
     of(12, 12, &W::Qc),
     rule(13, 15, latitude),
     rule(16, 19, longitude),
+    // How height of cloud base and visibility are had: 0, both estimated.
     fixed(20, 20, "0"),
     of(21, 21, &W::h),
     of(22, 23, &W::VV),
@@ -232,6 +247,7 @@ constexpr Column kColumns[] = {
     rule(50, 50, sea_temperature_sign),
     of(51, 53, &W::TwTwTw),
     rule(54, 54, sea_temperature_method),
+    // How waves are had: 0, estimated. It stays so where a wave recorder's figures stand behind it.
     fixed(55, 55, "0"),
     rule(56, 57, wind_wave_period),
     rule(58, 59, wind_wave_height),
@@ -240,11 +256,14 @@ constexpr Column kColumns[] = {
     of(66, 66, &W::Is),
     of(67, 68, &W::EsEs),
     of(69, 69, &W::Rs),
+    // Source of the observation: 4, an electronic logbook. The kind of ship behind it is not given.
     fixed(70, 70, "4"),
     fixed(71, 71, " "),
     of(72, 78, &W::CallSign, Writer::kLeftPlain),
+    // The country that recruited the ship, a figure for national use, 0: no quality control yet.
     fixed(79, 82, "JP30"),
     of(83, 83, &W::iX),
+    // iR: no precipitation group; its amount and period are the four blanks.
     fixed(84, 84, "4"),
     fixed(85, 88, "    "),
     of(89, 89, &W::Sw),
@@ -259,14 +278,20 @@ constexpr Column kColumns[] = {
     of(107, 107, &W::bi),
     of(108, 108, &W::Di),
     of(109, 109, &W::zi),
+    // Version 8 of FM 13 and 5 of this layout; then the flags of the quality control, which is done
+    // ashore: 0 is "not yet", and the last one is left blank.
     fixed(110, 132, "8500000000000000000000 "),
+    // VOSClim: heading, course and speed over ground. Course and wind speed may have decimals, for
+    // which there is no column: they are cut off.
     of(133, 135, &W::VosClim3, Writer::kZero),
     of(136, 138, &W::VosClim5, Writer::kInteger),
     of(139, 140, &W::VosClim4, Writer::kZero),
     rule(141, 142, cargo_height),
     rule(143, 145, load_line_departure),
+    // Relative wind, direction and speed.
     of(146, 148, &W::VosClim1, Writer::kZero),
     of(149, 151, &W::VosClim2, Writer::kInteger),
+    // Quality flags again, of the columns from 133 on.
     fixed(152, 159, "0000 000"),
     of(160, 163, &W::LogExtra),
     rule(164, 164, humidity_indicator),
@@ -313,6 +338,7 @@ void write(std::string& line, const Column& column, const Source& source) {
 std::string encode_logbook(const Struct_Weather& record, const ShipFixedData& ship,
                            const KeyObservationItems& items) {
   std::string line;
+  // A position's group is written whole before it is cut to its last figures.
   line.reserve(kLogbookColumns + 8);
   const Source source{record, ship, items};
   for (const Column& column : kColumns) write(line, column, source);

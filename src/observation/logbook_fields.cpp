@@ -8,6 +8,7 @@ void append_replacing_spaces(std::string& line, std::string_view text, char inst
 }
 
 void write_filled(std::string& line, std::string_view text, std::size_t width, char for_space) {
+  // Zeros in place of nothing would be a value that nobody observed.
   if (text.empty() || text.size() > width) {
     line.append(width, ' ');
     return;

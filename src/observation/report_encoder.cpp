@@ -37,6 +37,7 @@ class Composer {
         if (!(record_.*row.when_set).empty()) write(row);
         break;
       case Written::kSwell:
+        // All three are decided where the first of them stands.
         if (row.group == Group::k3dw1dw1dw2dw2) add_swell();
         break;
     }
@@ -44,7 +45,9 @@ class Composer {
 
   void finish() {
     separate();
+    // Whoever receives the report cannot tell "not entered" from "not observed", nor need he.
     std::replace(out_.begin(), out_.end(), '*', '/');
+    // The end mark of a telex message.
     out_.append(".....");
   }
 
@@ -97,12 +100,14 @@ class Composer {
     const bool no_second = all_missing(second.group);
     if (no_second && all_missing(directions.group) && all_missing(first.group)) return;
     write(directions);
+    // No swell is a whole observation: nothing of it is noted as missing.
     if (decide(directions.group, [](std::string_view text) { return text == "30000"; })) return;
     note(directions);
     write(first);
     note(first);
     const std::string& direction = record_.dw2dw2;
     const bool no_direction = direction.empty() || direction == "00" || direction == "//";
+    // A period or height without a direction is sent all the same: somebody observed it.
     if (!no_second || !no_direction) write(second);
   }
 
@@ -157,6 +162,7 @@ int encode_report(const Struct_Weather& record, std::string& message, std::strin
     message = std::move(report.text);
   } else {
     message.append(report.text);
+    // The text that was there belongs to the same message, so its masks go too.
     std::replace(message.begin(), message.end(), '*', '/');
   }
   missing = missing_list(report.missing, language);

@@ -60,6 +60,7 @@ void clear_staged(platform::Files& files, const Folders& folders) {
     if (!entries.ok()) continue;
     for (const platform::FolderEntry& entry : *entries.value) {
       const auto process = platform::staged_by(entry.name);
+      // A process that lives may be about to rename it.
       if (!process || entry.is_folder || files.is_running(*process)) continue;
       files.discard({*folder + entry.name, *folder + entry.name});
     }
@@ -116,6 +117,7 @@ class Repairing {
     if (found.there == There::kNo) return {};
     if (found.there == There::kCannotTell)
       return {failed(found.error, folders_.journal()), std::nullopt};
+    // A journal has some hundred bytes; what is larger is none, and is not read.
     constexpr std::uint64_t kLargest = 1U << 20U;
     if (found.there == There::kFile && found.size <= kLargest) {
       const auto text = files_.read(folders_.journal());
@@ -240,6 +242,7 @@ class Repairing {
 
   Recovery put_aside() {
     const std::string aside = damaged_journal_path(folders_.logbook);
+    // No staging: the journal itself is what is renamed.
     if (const FileError error = files_.commit({aside, folders_.journal()});
         error != FileError::kNone) {
       const bool is_file = files_.look(folders_.journal()).there == There::kFile;
@@ -259,6 +262,7 @@ class Repairing {
 Repaired repair(platform::Files& files, platform::LockedLog& log, const Folders& folders,
                 bool leave_unreachable) {
   auto repaired = Repairing(files, log, folders, leave_unreachable).run();
+  // With an error the staged report may still be what finishes the save later.
   if (repaired.told.error == FileError::kNone) clear_staged(files, folders);
   return repaired;
 }
@@ -280,6 +284,7 @@ class Save {
   }
 
   SaveResult run() {
+    // What a repair would not trust later is not begun.
     if (!is_report_name(journal_.report))
       return end(SaveOutcome::kReportFailed, FileError::kBadName);
     if (repaired_the_same()) return result_;
@@ -297,6 +302,7 @@ class Save {
       files_.discard(*staged.value);
       return end(SaveOutcome::kLogbookFailed, error, folders_.journal());
     }
+    // The line first: it can be cut off again, but a report that was renamed over has gone.
     if (const FileError error = log_.append(journal_.appended); error != FileError::kNone)
       return take_back(*staged.value, SaveOutcome::kLogbookFailed, error);
     const FileError error =
@@ -322,6 +328,7 @@ class Save {
         line != request_.logbook_line + std::string(kLineEnd))
       return false;
     result_.closed_line = result_.recovered.closed_line;
+    // To the officer this is one save that went well.
     result_.recovered = {};
     return true;
   }
@@ -374,6 +381,7 @@ class Save {
   /// written behind it meanwhile.
   bool line_is_gone() {
     if (log_.size() == journal_.log_size) return true;
+    // One byte more than ours: what follows it is somebody else's.
     const auto behind = log_.read(journal_.log_size, journal_.appended.size() + 1);
     if (!behind.ok() || !std::string_view(journal_.appended).starts_with(*behind.value))
       return false;
@@ -387,6 +395,7 @@ class Save {
     if (error != FileError::kNone && result_.failed.empty())
       result_.failed =
           outcome == SaveOutcome::kLogbookFailed ? request_.logbook_path : request_.report_path;
+    // Only a save that stays has closed a line; a repair tells of its own.
     result_.closed_line = 0;
     return result_;
   }
@@ -403,6 +412,7 @@ class Save {
 }  // namespace
 
 std::string report_file_name(const Struct_Weather& record) {
+  // Joined as they stand: that each has its full width is date_fault()'s to say.
   std::string name(last_two(record.Year));
   name.append(record.Month).append(record.YY).append(record.GG).append(kReportExtension);
   return name;
@@ -470,6 +480,7 @@ std::string report_path(const std::string& folder, const Struct_Weather& record)
 }
 
 std::string logbook_path(const std::string& folder) {
+  // Without a folder the name still has its backslash, as it always had: the root of the drive.
   return platform::join(folder.empty() ? "\\" : folder, kLogbookName);
 }
 
@@ -509,6 +520,7 @@ std::uint64_t room_for(const SaveRequest& request) {
   Journal journal;
   journal.folder = platform::folder_part(request.report_path);
   journal.report = platform::name_part(request.report_path);
+  // The longest name that staging gives.
   journal.staged = ".kavrel-999999999-999999999.part";
   journal.log_size = kMost;
   journal.appended = std::string(kLineEnd) + request.logbook_line + std::string(kLineEnd);
@@ -520,6 +532,7 @@ bool is_saved(const platform::Files& files, const SaveRequest& request) {
   const auto report = files.read(request.report_path);
   if (!report.ok() || *report.value != report_file_content(request.message)) return false;
   const auto log = files.read(request.logbook_path);
+  // The line end in front lets the first line be found like any other.
   const std::string line = "\n" + request.logbook_line + std::string(kLineEnd);
   return log.ok() && ("\n" + *log.value).find(line) != std::string::npos;
 }

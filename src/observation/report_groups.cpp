@@ -32,6 +32,7 @@ constexpr std::array<GroupRow, kGroups> kRows{{
      {{{&W::Qc, 1}, {&W::LoDeg, 3}, {&W::LoMin, 1, kTenths}}},
      Written::kAlways,
      id::kMissingQcLoLoLoLo},
+    // iR and iX are kept: ship and program always fill them, so there is no missing form of theirs.
     {Group::kiRiXhVV,
      "",
      {{{&W::iR, 1, kKept}, {&W::iX, 1, kKept}, {&W::h, 1}, {&W::VV, 2}}},
@@ -42,6 +43,7 @@ constexpr std::array<GroupRow, kGroups> kRows{{
      {{{&W::N, 1}, {&W::dd, 2}, {&W::ff, 2}}},
      Written::kAlways,
      id::kMissingNddff},
+    // Kept as it stands, for it is written only when it is set; 9GGgg alike.
     {Group::k00fff, "00", {{{&W::fff, 3, kKept}}}, Written::kWhenSet, 0, &W::fff},
     {Group::k1SnTTT,
      "1",
@@ -65,12 +67,15 @@ constexpr std::array<GroupRow, kGroups> kRows{{
      {{{&W::Nh, 1}, {&W::CL, 1}, {&W::CM, 1}, {&W::CH, 1}}},
      Written::kAlways,
      id::kMissing8NhCLCMCH},
+    // gg alone decides: without GGExact it would go out with two figures for four, which the list
+    // of a save names.
     {Group::k9GGgg,
      "9",
      {{{&W::GGExact, 2, kKept}, {&W::gg, 2, kKept}}},
      Written::kWhenSet,
      {},
      &W::gg},
+    // 222 also opens section 2, so it stands there even when it says nothing.
     {Group::k222DsVs, "222", {{{&W::Ds, 1}, {&W::Vs, 1}}}, Written::kAlways, id::kMissing222DsVs},
     {Group::k0SsTwTwTw,
      "0",
@@ -100,6 +105,7 @@ constexpr std::array<GroupRow, kGroups> kRows{{
      Written::kWhenAsked,
      id::kMissing8SwTbTbTb},
     {Group::kICE,
+     // The blank belongs to the word, so that word and figures come and go together.
      "ICE ",
      {{{&W::ci, 1}, {&W::Si, 1}, {&W::bi, 1}, {&W::Di, 1}, {&W::zi, 1}}},
      Written::kUnlessAllMissing},
@@ -117,6 +123,7 @@ void append_tenths(std::string& out, const std::string& minutes) {
     out.push_back('*');
     return;
   }
+  // Minutes above 59 make a group too wide, where they are seen: nothing is corrected here.
   const int tenths = codetables::tenths_of_minutes(text::leading_int(minutes));
   if (tenths >= 0 && tenths <= 9)
     out.push_back(static_cast<char>('0' + tenths));
@@ -190,6 +197,7 @@ bool is_incomplete(const Struct_Weather& record, Group group) {
 }
 
 bool is_all_missing(std::string_view text, const GroupRow& row) {
+  // A group of the wrong width is never left out: what is odd about it must be seen.
   return text.size() == row.width() && text.starts_with(row.indicator) &&
          text.find_first_not_of("*/", row.indicator.size()) == std::string_view::npos;
 }

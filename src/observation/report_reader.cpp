@@ -62,6 +62,7 @@ class Reader {
     std::array<Word, 6> first;
     for (Word& word : first) word = ahead.next();
     std::size_t latitude = 0;
+    // Third is where it belongs; second, the call sign is missing; further back, words too many.
     for (const std::size_t at : {2U, 1U, 3U, 4U, 5U})
       if (latitude == 0 && is_latitude_group(first[at].text())) latitude = at;
     if (latitude == 1 && is_group(first[0].text())) return true;
@@ -108,6 +109,7 @@ class Reader {
     }
   }
 
+  // Only right behind Nddff: later on, a group that begins with 0 is the sea temperature.
   void read_high_wind() {
     const Words before = words_;
     const Word word = words_.next();
@@ -118,6 +120,7 @@ class Reader {
   }
 
   void read_group(std::string_view word) {
+    // A damaged 222 opens section 2 as well: else its groups would be read as those of section 1.
     if (!in_section_2_ && word.starts_with("222")) in_section_2_ = true;
     if (!is_group(word)) {
       name(word, Unplaced::kNotAGroup);
@@ -131,6 +134,7 @@ class Reader {
   }
 
   const GroupRow* find_row(std::string_view word) {
+    // Behind 222DsVs another 222.. is 2PwPwHwHw, wind waves of 22 seconds.
     if (in_section_2_ && word.starts_with("222") && !placed(Group::k222DsVs))
       return &row_of(Group::k222DsVs);
     // Relative humidity stands in for the dew point; the record has no field for it.
@@ -215,6 +219,7 @@ std::optional<ReadReport> read_report(std::string_view text, const Struct_Weathe
   if (!found->before.empty())
     result->unplaced.push_back({std::string(found->before), Unplaced::kOutsideReport});
   Reader(found->body, *result).read();
+  // NNNN behind the report's own end is the telex line's, not text that was lost.
   if (!found->after.empty() && found->after != "NNNN")
     result->unplaced.push_back({std::string(found->after), Unplaced::kOutsideReport});
   return result;

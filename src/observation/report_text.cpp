@@ -37,6 +37,7 @@ std::string_view take_word(std::string_view& rest, bool* line_broken = nullptr) 
 
 // Length of the end mark at the end of a word, 0 when there is none.
 std::size_t end_mark(std::string_view word) {
+  // NNNN ends the line as a word of its own; "=" and full stops may stick to the last group.
   if (word == "NNNN") return word.size();
   if (word.ends_with('=')) return word.size() - (word.find_last_not_of('=') + 1);
   const std::size_t dots = word.size() - (word.find_last_not_of('.') + 1);

@@ -68,6 +68,7 @@ class Reader {
     return true;
   }
   std::uint64_t figures() {
+    // More than 64 bits may wrap; the checksum is then another one.
     constexpr std::size_t kMostFigures = 20;  // of 64 bits
     std::uint64_t value = 0;
     std::size_t count = 0;
@@ -152,6 +153,7 @@ Repair decide(const Found& found) {
     case LineFound::kForeign:
       return Repair::kDoNotTrust;
     case LineFound::kNone:
+    // The line goes in before the report is renamed: without it, a report there is of another save.
     case LineFound::kPart:
       return Repair::kTakeBack;
     case LineFound::kLast:

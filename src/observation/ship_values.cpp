@@ -34,6 +34,8 @@ Stored store_choice(T& into, std::string_view value, int first, int last) {
   return Stored::kStored;
 }
 
+// Which number says so follows the order of the lines on the screen: "Yes" is 0 for the recorder
+// and VOSClim, 1 for the station.
 Stored store_yes(bool& into, std::string_view value, int yes) {
   int number = 0;
   const Stored result = store_choice(number, value, 0, 1);
@@ -44,6 +46,7 @@ Stored store_yes(bool& into, std::string_view value, int yes) {
 Stored store_unit(double& into, std::string_view value, std::initializer_list<double> allowed) {
   if (!text::is_number(value, text::kSignedDecimal)) return Stored::kBadNumber;
   const double number = text::leading_number(value);
+  // "0.1" reads as the very double that 0.1 in the source is, so comparing exactly is right.
   const auto* const at = std::find(allowed.begin(), allowed.end(), number);
   if (at == allowed.end()) return Stored::kNotStorable;
   into = *at;
@@ -58,6 +61,7 @@ Stored store_number(std::string& into, std::string_view value, double least, dou
 
 Stored store_height(std::string& into, std::string_view value) {
   if (!text::is_all_digits(value)) return Stored::kBadNumber;
+  // Metres above the waterline, at most what a card may say.
   return store_text(into, value, value.size() <= 3 && text::leading_int(value) <= 200);
 }
 
@@ -101,6 +105,7 @@ constexpr ShipRow kShip[] = {
     {"barometer_check_port",
      [](Ship& s, Text v) { return store_text(s.card.check_port, v, is_port(v)); }},
     {"card_type", [](Ship& s, Text v) { return store_choice(s.card.type, v, -1, 1); }},
+    // hPa. A total correction holds the reduction to sea level too, hence the larger upper bound.
     {"total_correction",
      [](Ship& s, Text v) { return store_number(s.card.total_correction, v, -50, 80); }},
     {"instrumental_correction",

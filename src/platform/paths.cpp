@@ -16,6 +16,7 @@ std::string with_backslash(std::string_view folder) {
 
 std::string without_backslash(std::string_view folder) {
   folder = stripped(folder);
+  // "A:" alone would be the current folder of that drive, not its root.
   return folder.ends_with(':') ? std::string(folder) + '\\' : std::string(folder);
 }
 

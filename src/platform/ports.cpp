@@ -14,6 +14,7 @@ FileError why_no_file(const Look& found) {
     case There::kCannotTell:
       break;
   }
+  // "Not there" is never an answer where one cannot tell, whatever the error was.
   return found.error == FileError::kNone || found.error == FileError::kNotFound ? FileError::kOther
                                                                                 : found.error;
 }
@@ -29,6 +30,7 @@ FileError Files::replace(const std::string& path, std::string_view content) {
 std::optional<std::uint64_t> staged_by(std::string_view name) {
   constexpr std::string_view kBegin = ".kavrel-";
   constexpr std::string_view kEnd = ".part";
+  // No number that could wrap: a file of another program is not taken for a staged one.
   constexpr std::size_t kMostFigures = 9;
   if (!name.starts_with(kBegin) || !name.ends_with(kEnd) ||
       name.size() < kBegin.size() + kEnd.size())

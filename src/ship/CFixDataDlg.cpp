@@ -127,6 +127,7 @@ void CFixDataDlg::set_up_card() {
     shown->max_length = 5;
   }
   height_full_load.unit = height_ballast.unit = {id::kCardUnitHeight};
+  // A text takes no focus: the button is for the keyboard.
   card_text.on_press = card_button.on_press = [this] { edit_card(); };
   // Widths of the values, for the front ends.
   barometer_check_date.max_length = 10;
@@ -150,6 +151,7 @@ void CFixDataDlg::read_file() {
       load_fixed_data(services().files, path_, services().clock, services().code_page);
   file_read_ = loaded.outcome;
   accepted_ = loaded.values;
+  // The file is shown while it is the one that was saved; else what holds for this run.
   if (in_force_ &&
       (file_read_ != FileRead::kRead ||
        loaded.values != as_read_back(*in_force_, services().clock.utc(), services().code_page)))
@@ -164,6 +166,7 @@ void CFixDataDlg::on_open() {
   read_file();
   draft_ = accepted_;
   show_values();
+  // A file of a wrong size, or one that cannot be read, is not taken unseen.
   if (auto_accept_ && (file_read_ == FileRead::kRead || file_read_ == FileRead::kMissing))
     close(ui::kOk);
 }
@@ -262,6 +265,7 @@ void CFixDataDlg::apply_aws() {
 
 void CFixDataDlg::apply_humidity_method() {
   const bool computed = method_of<HumidityMethod>(humidity_method) == HumidityMethod::kComputed;
+  // What is computed comes in whole percent.
   if (computed) humidity_unit.selected = 1;
   humidity_unit.item_disabled = {computed, false};
 }
@@ -288,6 +292,7 @@ void CFixDataDlg::edit_card() {
 bool CFixDataDlg::check_card() {
   const auto fault =
       first_card_fault(draft_.card, services().clock.local(), services().code_page, kOkOrder);
+  // The card's fields only show; the button leads to where they are entered.
   return !fault || refuse(card_button, fault->message, fault->argument);
 }
 

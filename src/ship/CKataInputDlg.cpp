@@ -14,6 +14,7 @@ namespace id = text::id;
 
 namespace {
 
+// Twelve Japanese characters are the 24 bytes that FIXDATA.DAT has for the port.
 constexpr int kPortLength = 12;
 constexpr int kHeightLength = 3;
 constexpr int kCorrectionLength = 5;

@@ -62,6 +62,7 @@ void CKeyObserveDlg::on_ok() {
     accepted_.not_observed[i] = items[i].selected == 1;
   if (const auto error = save_key_items(services().files, path_, accepted_);
       error != platform::FileError::kNone)
+    // Told, and closed all the same: the items hold for this run.
     services().messages.file_error(id::kFileNotSaved, path_, error);
   close(ui::kOk);
 }

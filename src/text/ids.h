@@ -1019,6 +1019,7 @@ inline constexpr Id kTendencyKindGroup{13601};
 inline constexpr Id kTendencyCharacteristicGroup{13602};
 inline constexpr Id kTendencyCode{13603};
 inline constexpr Id kTendencyAmount{13604};
+inline constexpr Id kTendencyCurves{43646};
 inline constexpr Id kTendencyRisen{13610};
 inline constexpr Id kTendencySame{13611};
 inline constexpr Id kTendencyDescended{13612};

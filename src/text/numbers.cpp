@@ -13,6 +13,7 @@ namespace {
 std::string pad(std::string digits, int width, char fill) {
   const auto wanted = static_cast<std::size_t>(std::max(width, 0));
   if (digits.size() >= wanted) return digits;
+  // Zeros go behind the minus and blanks in front of it, as printf has it.
   const bool behind_sign = fill == '0' && !digits.empty() && digits.front() == '-';
   digits.insert(behind_sign ? 1U : 0U, wanted - digits.size(), fill);
   return digits;
@@ -54,6 +55,7 @@ double leading_number(std::string_view text) {
 
 std::optional<double> number_at_start(std::string_view text) {
   text = skip_blanks(text);
+  // from_chars takes no "+", and behind one that was taken off it would take a "-".
   if (!text.empty() && text.front() == '+') {
     text.remove_prefix(1);
     if (!text.empty() && text.front() == '-') return std::nullopt;
@@ -81,6 +83,7 @@ int leading_int(std::string_view text) {
   long long value = 0;
   for (const char c : text) {
     if (!is_digit(c)) break;
+    // At every figure, before it can overflow.
     value = std::min(value * 10 + (c - '0'), kLimit);
   }
   return static_cast<int>(negative ? -value : value);

@@ -15,6 +15,7 @@ bool continues(char c) {
 
 // Bytes of the character at the start of a non-empty text.
 std::size_t step(std::string_view text) {
+  // A stray byte is a character by itself, so that any bytes can be gone through.
   std::size_t n = 1;
   if ((static_cast<unsigned char>(text.front()) & 0xC0U) != 0xC0U) return n;
   while (n < text.size() && n < 4 && continues(text[n])) ++n;

@@ -59,6 +59,7 @@ std::string fill(std::string_view format, std::initializer_list<std::string_view
   std::string result;
   const auto* next = arguments.begin();
   while (!format.empty()) {
+    // A place without an argument stays as it is, to be seen.
     const bool place = format.starts_with("%s") || format.starts_with("%d");
     if (place && next != arguments.end()) {
       result.append(*next++);

@@ -118,6 +118,7 @@ std::string tree_rows(const ControlView& view) {
 
 std::string drawn_shapes(const ControlView& view) {
   std::string result;
+  // The axes stand on the control's own line.
   for (std::size_t i = 1; i < view.drawing.size(); ++i) result += "\n    " + view.drawing[i];
   return result;
 }
@@ -281,6 +282,7 @@ std::string without_access_key(std::string_view caption) {
 char access_key(std::string_view caption) {
   for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
     if (caption[i] != '&') continue;
+    // Both characters are taken: "&&" is a sign that is shown, and no beginning of a key.
     const char key = upper(caption[++i]);
     if (is_upper_or_digit(key)) return key;
   }

@@ -11,6 +11,7 @@ namespace ui {
 namespace {
 
 constexpr std::string_view kTitle = "KAVREL for WIN";
+// Spelt otherwise on purpose.
 constexpr std::string_view kTitle3 = "KAVREL for Win";
 
 std::string or_default(std::string given, std::string_view otherwise) {
@@ -94,6 +95,7 @@ int Messages::question(std::string_view text, std::string_view title, QuestionMo
   const Raised open(question_open);
   switch (mode) {
     case QuestionMode::kOkCancel: {
+      // No slip: the English button says OK, the Japanese one Yes.
       CMessageBox1 box(std::string(text), english ? "OK" : label(id::kButtonYes),
                        label(id::kButtonCancel), std::string(title));
       box.box().buttons[0].name = "ok";

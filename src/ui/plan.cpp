@@ -33,6 +33,7 @@ class Planner {
     PlanNode body;
     for (const LayoutNode& child : root.children) add(child, body);
     for (const Control* const control : screen_.controls()) {
+      // What a layout forgot is shown all the same: nobody can correct what nobody sees.
       if (!placed_.contains(control->name)) body.children.push_back(bare(*control));
     }
     return body;
@@ -49,6 +50,7 @@ class Planner {
   PlanNode placed(const Control& control, CaptionPlace captions, bool above) {
     placed_.insert(control.name);
     PlanNode node = bare(control);
+    // Asked in English, so that the plan is one in both languages.
     if (!shows_own_caption(control.kind) && !screen_.english_caption(control).empty())
       node.caption = captions;
     node.has_unit = control.unit.id.number != 0;
@@ -71,6 +73,7 @@ class Planner {
     line.type = from.type == LayoutType::kButtons ? Type::kButtons : Type::kLine;
     PlanNode space;
     space.type = Type::kSpace;
+    // Buttons stand at the right end of their line.
     if (line.type == Type::kButtons) line.children.push_back(space);
     bool grows = false;
     for (const LayoutNode& child : from.children) {
@@ -78,6 +81,7 @@ class Planner {
       const Control* const control = screen_.find(child.name);
       grows = grows || (control != nullptr && extent_of(*control).grows);
     }
+    // A field that grows takes the room itself.
     if (line.type == Type::kLine && !grows) line.children.push_back(space);
     into.children.push_back(std::move(line));
   }

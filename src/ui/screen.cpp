@@ -39,6 +39,7 @@ bool is_too_long(std::string_view text, const Control& field) {
 class Screen::Handling {
  public:
   explicit Handling(Screen& screen)
+      // A screen that has closed handles nothing more.
       : screen_(screen), first_(!screen.handling_ && !screen.result_) {
     if (!first_) return;
     screen_.handling_ = true;
@@ -90,6 +91,7 @@ void Screen::open() {
   const Handling handling(*this);
   if (!handling || opened_) return;
   opened_ = true;
+  // The lines first: on_open() chooses among them.
   relabel();
   on_open();
   if (!result_ && focused_ == nullptr) {
@@ -237,6 +239,7 @@ bool Screen::leave_focused(const Control& to) {
     return true;
   }
   if (check(*from)) return true;
+  // Anew, for the front end's own focus may have moved already.
   if (focused_ == from) focus(*from);
   return false;
 }
@@ -248,6 +251,7 @@ bool Screen::check(Control& field) {
     services_.messages.error_filled(text::id::kTextTooLong, {text::format_int(field.max_length)});
     return false;
   }
+  // An input method gives full-width figures; every check behind this knows the others only.
   if (typed && field.narrow) {
     if (std::string narrowed = text::narrow(field.content); narrowed != field.content)
       field.set(narrowed);
@@ -339,6 +343,7 @@ void Screen::expand(Control& tree, std::size_t row) {
   const auto before = tree.rows.size();
   tree.rows[row].expanded = true;
   if (tree.on_expand) tree.on_expand(row);
+  // The chosen row has moved down with those that came in above it.
   if (tree.selected > static_cast<int>(row))
     tree.selected += static_cast<int>(tree.rows.size() - before);
 }
@@ -356,6 +361,7 @@ void Screen::collapse(Control& tree, std::size_t row) {
   if (tree.selected >= static_cast<int>(end)) {
     tree.selected -= static_cast<int>(end - row - 1);
   } else if (tree.selected > static_cast<int>(row)) {
+    // The chosen row is gone from sight: the folder that holds it stands for it.
     tree.selected = static_cast<int>(row);
     if (tree.on_change) tree.on_change();
   }
@@ -410,6 +416,7 @@ void Screen::close(int result) {
 
 void Screen::focus(Control& control) {
   if (!control.can_focus()) return;
+  // Left without its check, for which OK makes up.
   if (focused_ != nullptr && focused_ != &control) focused_->unchecked = true;
   focused_ = &control;
   selection_length_ = -1;

@@ -72,8 +72,8 @@ TEST_P(EveryPicker, ShowsEachLineWithItsCodeInBothLanguages) {
         const ui::Control* const drawing = dialog.find(std::string(code.control) + "_drawing");
         EXPECT_EQ(drawing != nullptr && drawing->drawing != nullptr, code.drawn);
       }
-      EXPECT_EQ(dialog.controls().size(), GetParam().labels.size() + GetParam().codes.size() +
-                                              pictures + drawings + 3);
+      EXPECT_EQ(dialog.controls().size(),
+                GetParam().labels.size() + GetParam().codes.size() + pictures + drawings + 3);
     });
   }
 }

@@ -119,7 +119,8 @@ TEST_P(CloudPictures, ChooseTheirCodeWhereverALineIsClicked) {
                                            : &button(figure);
       QTest::mouseClick(clicked, Qt::RightButton);
       EXPECT_FALSE(button(figure).isChecked());
-      QTest::mouseClick(clicked, Qt::LeftButton, {}, part == 0 ? clicked->rect().center() : QPoint(8, 8));
+      QTest::mouseClick(clicked, Qt::LeftButton, {},
+                        part == 0 ? clicked->rect().center() : QPoint(8, 8));
       QApplication::processEvents();
       EXPECT_TRUE(button(figure).isChecked()) << figure << part;
       EXPECT_EQ(QApplication::focusWidget(), &button(figure)) << figure << part;
@@ -133,8 +134,8 @@ TEST_P(CloudPictures, AreChosenByTheFigureTyped) {
     open();
     QTest::keyClick(QApplication::focusWidget(), figure);
     QApplication::processEvents();
-    EXPECT_EQ(dialog->find("choice")->item_codes[static_cast<std::size_t>(
-                  dialog->find("choice")->selected)],
+    EXPECT_EQ(dialog->find("choice")
+                  ->item_codes[static_cast<std::size_t>(dialog->find("choice")->selected)],
               std::string(1, figure));
     const auto* const focus = qobject_cast<QRadioButton*>(QApplication::focusWidget());
     ASSERT_NE(focus, nullptr) << figure;
@@ -162,12 +163,23 @@ TEST_P(CloudPictures, ThatAreMissingOrDamagedLeaveTheLinesWithTheirCaptions) {
   ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
   damaged.write(QByteArray("\xFF\xD8\xFF\xE0 no picture"));
   damaged.close();
+  // One that ends early: whatever the decoder makes of it, the line can be chosen.
+  QFile whole(
+      QDir(QStringLiteral(KAVREL_PICTURES)).filePath(QString::fromStdString(symbol()) + "5.jpg"));
+  ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+  QFile cut(folder.filePath(QString::fromStdString(symbol()) + "5.jpg"));
+  ASSERT_TRUE(cut.open(QIODevice::WriteOnly));
+  cut.write(whole.read(2000));
+  cut.close();
   desktop::set_picture_folder(folder.path());
   for (const char figure : std::string(kFigures)) {
     open();
-    EXPECT_EQ(picture(figure).text().toStdString(), symbol() + " " + figure);
+    if (figure != '5') {
+      EXPECT_EQ(picture(figure).text().toStdString(), symbol() + " " + figure);
+    }
     EXPECT_TRUE(description(figure).isVisible());
-    QTest::mouseClick(&picture(figure), Qt::LeftButton, {}, QPoint(3, picture(figure).height() / 2));
+    QTest::mouseClick(&picture(figure), Qt::LeftButton, {},
+                      QPoint(3, picture(figure).height() / 2));
     EXPECT_EQ(stored(), std::string(1, figure));
   }
 }
@@ -179,6 +191,9 @@ TEST_P(CloudPictures, FitASmallScreenAndLargeLetters) {
   window->resize(910, 480);
   QApplication::processEvents();
   expect_all_visible("small ");
+  // Narrow pictures are low, so that a display which is narrow and low is large enough.
+  const QWidget* const narrow = window->findChild<QScrollArea*>()->widget();
+  EXPECT_LE(narrow->heightForWidth(910), narrow->sizeHint().height() - 60);
   QFont large = usual;
   large.setPointSizeF(usual.pointSizeF() * 1.5);
   QApplication::setFont(large);

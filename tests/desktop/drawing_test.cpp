@@ -279,6 +279,16 @@ TEST_F(Pictures, OfADrawingAreDrawnAnewWhenItIsAnother) {
   EXPECT_EQ(at(0.5, 0.25), water);
 }
 
+TEST_F(Pictures, OfADrawingKeepTheirInksWhereTheyCanBeClicked) {
+  ui::Drawing inks = *screen.map.drawing;
+  inks.shapes = {ui::Area{{{0, 0}, {10, 0}, {10, 10}, {0, 10}}, Ink::kText}};
+  screen.map.drawing = std::make_shared<const ui::Drawing>(inks);
+  window->refresh();
+  desktop::PictureLabel& map = label(screen.map);
+  EXPECT_EQ(map.grab().toImage().pixel(map.width() / 2, map.height() / 2),
+            QApplication::palette().color(QPalette::Text).rgb());
+}
+
 TEST_F(Pictures, OfADrawingHaveRoomForItsCharactersAndLines) {
   const desktop::PictureLabel& map = label(screen.map);
   EXPECT_GE(map.width(),

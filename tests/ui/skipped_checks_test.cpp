@@ -8,10 +8,10 @@
 #include <optional>
 
 #include "archive/CCreateDir.h"
+#include "codetables/CSeaIceDialog.h"
 #include "codetables/CSwellWaveDlg.h"
 #include "codetables/CWaveLengthDlg.h"
 #include "codetables/CWindDlg.h"
-#include "codetables/CSeaIceDialog.h"
 #include "elements/CCountDewDlg.h"
 #include "elements/CLookWindDlg.h"
 #include "elements/CPositionDlg.h"

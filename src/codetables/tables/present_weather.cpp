@@ -49,8 +49,9 @@ std::span<const CodeRow> present_weather_lines(int choice, int group) {
   const PresentWeatherGroup* const chosen = group_at(choice, group);
   if (chosen == nullptr) return {};
   // One row a code, in the order of the codes.
+  const int count = chosen->last - chosen->first + 1;
   return table_of("ww")->rows.subspan(static_cast<std::size_t>(chosen->first),
-                                      static_cast<std::size_t>(chosen->last - chosen->first + 1));
+                                      static_cast<std::size_t>(count));
 }
 
 PresentWeatherPlace present_weather_place(std::string_view ww) {

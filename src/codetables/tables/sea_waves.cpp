@@ -57,8 +57,8 @@ std::vector<std::string> wind_wave_period_lines() {
 
 std::vector<std::string> wave_height_lines(std::string_view smallest) {
   std::vector<std::string> lines{std::string(smallest)};
-  for (double height = kStep; height <= kHighestWave; height += kStep)
-    lines.push_back(text::format_fixed(height, 1));
+  for (int steps = 1; steps * kStep <= kHighestWave; ++steps)
+    lines.push_back(text::format_fixed(steps * kStep, 1));
   lines.emplace_back(kWaveUnknown);
   return lines;
 }

@@ -49,6 +49,7 @@ bool amount_without_types(const W& r) {
 // The record's speed is in whole units; fff holds one of 99 and more.
 TrueWindRule wind_rule(const W& r) {
   const std::string& speed = codetables::speed_shown(r.ff, r.fff);
+  // Half a wind is not judged yet: the rules would take an empty direction for a real one.
   if (r.dd.empty() || speed.empty()) return TrueWindRule::kKept;
   return check_true_wind(r.dd, speed);
 }
@@ -93,6 +94,7 @@ constexpr CrossRule kRules[] = {
      {Field::kN, Field::kCL, Field::kCM, Field::kCH}},
     {id::kNoLowestCloudWithTypes, {}, types_without_amount, {Field::kNh, Field::kCL, Field::kCM}},
     {id::kLowestCloudWithoutTypes, {}, amount_without_types, {Field::kNh, Field::kCL, Field::kCM}},
+    // Raised by the speed alone: the direction is entered first, beside the speed of before.
     {id::kCalmDirectionWithSpeed, {}, calm_with_speed, {Field::kff}},
     {id::kDirectionWithoutSpeed, {}, direction_without_speed, {Field::kff}},
     {id::kDewPointAboveAir, {}, dew_point_above_air, {Field::kAirTemperature, Field::kDewPoint}},
@@ -113,6 +115,7 @@ constexpr CrossRule kRules[] = {
      {},
      no_waves_with_height<&W::PwaPwa, &W::HwaHwa>,
      {Field::kPwaPwa, Field::kHwaHwa}},
+    // No field raises it, for hour and minute are entered one by one; the list of a save names it.
     {id::kHalfAnExactTime, {}, half_an_exact_time, {}},
 };
 

@@ -22,6 +22,7 @@ const std::string& air_temperature(const Entries& entries, const ShipFixedData& 
 bool reduce(Entries& entries, const ShipFixedData& ship) {
   const auto reduced = reduce_reading(entries.entered(Field::kReading), ship.card,
                                       air_temperature_of(air_temperature(entries, ship)));
+  // A reading that is not there gives no pressure, but none that is impossible either.
   if (!reduced) return true;
   if (reduced->range == codetables::PressureRange::kRefused) return false;
   store_pppp(entries.record, reduced->pppp);
@@ -39,6 +40,7 @@ void reduce_again(Entries& entries, const ShipFixedData& ship) {
   const bool possible = reduce(entries, ship);
   entries.record.a = tendency;
   Entry& reading = entries[Field::kReading];
+  // While another reading is being typed, its own editor says whether it is wrong.
   if (!reading.before_typing) reading.wrong = !possible;
   entries.error_flag = entries.error_flag || !possible;
 }
@@ -50,6 +52,7 @@ void set_humidity(Entries& entries, codetables::HumidityTexts humidity) {
 
 void compute_humidity(Entries& entries, const ShipFixedData& ship) {
   if (ship.humidity_method != HumidityMethod::kComputed) return;
+  // Beside bulbs the dew point stands in no field, in the record only.
   const std::string dew_point =
       ship.dew_point_method == DewPointMethod::kComputed
           ? codetables::temperature_shown(entries.record.SnTd, entries.record.TdTdTd)
@@ -79,6 +82,7 @@ void compute_dew_point(Entries& entries, const ShipFixedData& ship) {
     record.SnTd = figures.sign;
     record.TdTdTd = figures.figures;
     entries.dew_point_of_bulbs = figures.sign + figures.figures;
+    // Told when it gives another dew point, not with every entry beside it.
     if (ship.card.type == CardType::kNotChosen && earlier != entries.dew_point_of_bulbs)
       entries.doubled_pressure_due = true;
   } else {
@@ -96,6 +100,7 @@ void compute_true_wind(Entries& entries, const ShipFixedData& ship) {
   if (ship.wind_input_method != WindInputMethod::kApparentWind) return;
   const auto wind = true_wind_of(entries);
   if (!wind) {
+    // A true wind that stayed would be that of inputs which have gone.
     for (const Field field : {Field::kdd, Field::kff}) {
       clear(entries, field);
       entries[field].show({});

@@ -226,6 +226,7 @@ bool is_sound(const Entries& entries) {
 std::string ship_mark(const ShipFixedData& ship) {
   const BarometerCard& card = ship.card;
   std::string values;
+  // As numbers: "+1.0" and "1.0" are one card.
   const auto add = [&](double value) { values.append(text::format_fixed(value, 1)).append(" "); };
   for (const std::string* const value :
        {&card.total_correction, &card.instrumental_correction, &card.height_full_load,
@@ -257,12 +258,14 @@ DraftRead decode_draft(string_view text) {
   const string_view body = text.substr(0, text.size() - kCheckLine);
   if (text.substr(body.size()) != std::string(kCheckName) + checksum(body) + "\n") return {};
   const string_view version = body.substr(kVersionName.size(), body.find('\n') + 1);
+  // Behind the checksum: a draft of a later version is whole, not damaged.
   if (text::leading_int(version) > kVersion) return {DraftFault::kLaterVersion, {}};
   const auto lines = lines_of(body);
   if (!lines) return {};
   DraftRead read{DraftFault::kNone, {}};
   Reader reader(*lines);
   describe(reader, read.draft);
+  // What is written back otherwise was not understood whole.
   if (!is_sound(read.draft.form.record) || !is_sound(read.draft.form) ||
       encode_draft(read.draft) != text)
     return {};

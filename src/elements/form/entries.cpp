@@ -23,10 +23,12 @@ void store_temperature(Entries& entries, const FieldRow& row, const std::string&
   const codetables::TemperatureFigures figures = codetables::temperature_figures(t);
   std::string sign = figures.sign;
   if (row.codec == Codec::kWetBulb) {
+    // The word on ice was for a colder bulb.
     if (entries.wet_bulb == WetBulbState::kIced && !can_be_iced(t))
       entries.wet_bulb = WetBulbState::kNotSet;
     sign = codetables::wet_bulb_sign(figures, entries.wet_bulb);
   } else if (row.codec == Codec::kSeaTemperature) {
+    // A method that was chosen for this observation stays; the ship's is for the first entry.
     const auto method = codetables::sea_temperature_method(entries.record.*row.beside);
     sign = codetables::sea_temperature_sign(method.value_or(ship.sea_temperature_method),
                                             figures.sign == "1");
@@ -112,6 +114,7 @@ void show_changes(Entries& entries, const Struct_Weather& before, const ShipFixe
     entries.east_west = codetables::east_west_of(record.Qc);
   }
   if (time_and_place(record) != time_and_place(before)) entries.review_due = true;
+  // The state is chosen beside the figures, too: only new figures may overrule it.
   if (record.Sw == before.Sw && record.TbTbTb == before.TbTbTb) return;
   if (codetables::has_iced_bulb(record.Sw, record.TbTbTb)) {
     entries.wet_bulb = WetBulbState::kIced;

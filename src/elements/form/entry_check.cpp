@@ -101,6 +101,7 @@ CheckedEntry check_entry(const Entries& entries, const Surroundings& around, Fie
   if (field == Field::kReading || field == Field::kPPPP) {
     CheckedEntry checked = field == Field::kReading ? check_reading(entries, around.ship, typed)
                                                     : check_pressure(typed);
+    // These two ask one question only, so one Yes is all that they want.
     if (checked.answer.kind == Answer::Kind::kAsks && confirmed > 0) checked.answer = {};
     return checked;
   }
@@ -164,6 +165,7 @@ Answer asked(const std::vector<text::Id>& questions, Confirmed confirmed) {
 
 text::Id question_about(Field field, const std::string& value, const Struct_Weather& record) {
   if (field == Field::kppp)
+    // "/": of a steady tendency the cross rules see to it, with a refusal.
     return codetables::check_tendency("/", value) == codetables::TendencyCheck::kAsks
                ? id::kTendencyAmountQuestion
                : text::Id();

@@ -35,6 +35,7 @@ std::string shown_from_record(Field field, const Struct_Weather& record) {
     case Codec::kHalfMetres:
       return codetables::metres_of_figures(figures);
     case Codec::kCloudBase:
+      // A solidus has no metres; the field shows it as it was typed.
       return figures == "/" ? figures : codetables::cloud_base_metres(figures);
     case Codec::kTendency:
       return codetables::tendency_shown(figures);
@@ -57,6 +58,7 @@ std::string shown_from_record(Field field, const Struct_Weather& record) {
 }
 
 void store_pppp(Struct_Weather& record, const std::string& pppp) {
+  // The characteristic was that of a curve which ended at another pressure.
   if (!pppp.empty() && pppp != record.PPPP) record.a.clear();
   record.PPPP = pppp;
 }

@@ -55,6 +55,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .follows = Follows::kReview,
      .editor = {.low = 1, .high = 31, .width = 2, .message = id::kDayRange}},
     // Only the synoptic and intermediate hours stand in the table of hours.
+    // The range is empty on purpose.
     {.field = Field::kGG,
      .name = "GG",
      .label = id::kLabelHour,
@@ -70,6 +71,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
                 .message = id::kHourRange,
                 .check_text = id::kCheckHour,
                 .shows_check = true}},
+    // The exact time is when the barometer was read, so it is entered in the pressure's dialog.
     {.field = Field::kGGExact,
      .name = "GGExact",
      .label = id::kLabelActualTime,
@@ -139,6 +141,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .codec = Codec::kFigures,
      .member = &W::Vs,
      .editor = {.low = 0, .high = 9, .also = "/", .width = 1, .message = id::kVsRange}},
+    // The bounds refuse nothing: judged is the pressure at sea level that the reading gives.
     {.field = Field::kReading,
      .name = "reading",
      .label = id::kLabelReading,
@@ -181,6 +184,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
                 .high = 25,
                 .message = id::kTendencyAmountRange,
                 .check_text = id::kCheckTendency}},
+    // Beyond -25 and 40 the form refuses what the dialogs keep on a Yes, here and below.
     {.field = Field::kDryBulb,
      .name = "dry_bulb",
      .label = id::kLabelDry,
@@ -293,6 +297,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .element = kApparentWind,
      .follows = Follows::kTrueWind,
      .editor = {.accepts = kNumber, .low = 0, .high = 999, .message = id::kApparentSpeedRange}},
+    // North is 360 for the bow, while a course of 0 is taken.
     {.field = Field::kHeading,
      .name = "heading",
      .label = id::kLabelShipHeading,
@@ -319,6 +324,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .element = kApparentWind,
      .follows = Follows::kTrueWind,
      .editor = {.accepts = kNumber, .low = 0, .high = 99.9, .message = id::kShipSpeedRange}},
+    // Sea water freezes at about -1.8 degrees.
     {.field = Field::kTwTwTw,
      .name = "TwTwTw",
      .label = id::kLabelSeaTemperature,
@@ -333,6 +339,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
                 .high = 37,
                 .message = id::kSeaTemperatureRange,
                 .check_text = id::kCheckOneDecimal}},
+    // 99: a confused sea, whose period nobody can tell. A swell has no such figure.
     {.field = Field::kPwPw,
      .name = "PwPw",
      .label = id::kLabelWavePeriod,
@@ -350,6 +357,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
                 .check_text = id::kCheckWavePeriod,
                 .asks_from = 20,
                 .question = id::kWindWavePeriodQuestion}},
+    // The bound is the form's: two figures of half metres would hold 49.5.
     {.field = Field::kHwHw,
      .name = "HwHw",
      .label = id::kLabelWaveHeight,
@@ -484,6 +492,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
                 .high = codetables::kHighestWave,
                 .also = "//",
                 .check_text = id::kCheckWaveHeight}},
+    // At sea only 90 to 99 are reported, steps that can be told without landmarks.
     {.field = Field::kVV,
      .name = "VV",
      .label = id::kLabelVisibility,
@@ -601,6 +610,7 @@ constexpr std::array<FieldRow, kFields> kRows{{
      .codec = Codec::kFigures,
      .member = &W::EsEs,
      .editor = {.low = 0, .high = 99, .width = 2, .message = id::kIceThicknessRange}},
+    // Table 3551 ends with 4; a 5 has always been taken.
     {.field = Field::kRs,
      .name = "Rs",
      .label = id::kLabelIceRate,

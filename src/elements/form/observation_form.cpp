@@ -62,6 +62,7 @@ observation::Report ObservationForm::report() const {
 void ObservationForm::type(Field field, std::string_view text) {
   if (switched_off(field)) return;
   Entry& entry = now_[field];
+  // The first key keeps what was accepted; those behind it must not.
   if (!entry.before_typing) entry.before_typing = entry.text;
   entry.text = text;
 }
@@ -201,7 +202,9 @@ void ObservationForm::ship_changed() {
     record.Ss = codetables::sea_temperature_sign(ship.sea_temperature_method,
                                                  codetables::is_below_zero(record.Ss));
   now_.sea_temperature_method = ship.sea_temperature_method;
+  // The wave recorder may have come or gone.
   put_unused_aside();
+  // Taken once the ship's own texts are in: they alone make nothing unsaved.
   const Struct_Weather as_entered = record;
   Follows what = Follows::kReductionAgain | Follows::kDewPoint;
   // Without a whole apparent wind a true one that stands there was entered as such.
@@ -211,6 +214,7 @@ void ObservationForm::ship_changed() {
 }
 
 void ObservationForm::card_changed() {
+  // A copy, for finish() compares with what was there before.
   finish(Struct_Weather(record()), Follows::kReductionAgain | Follows::kDewPoint);
 }
 

@@ -16,6 +16,7 @@ namespace {
 
 namespace id = text::id;
 
+// A report has some two hundred bytes; a larger file of that name is no report.
 constexpr std::uint64_t kLargestReport = 64U << 10U;
 
 std::string on_one_line(std::string_view text) {
@@ -70,6 +71,7 @@ std::string review_position(const Struct_Weather& record, const platform::Files&
   if (!here) return {};
   std::string warnings;
   if (is_on_land && is_on_land(here->latitude, here->longitude))
+    // The text of the dialog's question; here it only warns.
     warnings += on_one_line(texts.get(id::kOnLandQuestion));
   const auto current = record.position();
   const auto earlier = earlier_position(record, files, report_folder);

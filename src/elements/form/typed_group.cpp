@@ -89,6 +89,7 @@ bool values_are_whole(const GroupRow& row, std::string_view figures) {
 std::string figures_of_group(const GroupRow& row, std::string_view typed) {
   std::string text = text::without_spaces(text::trim(typed));
   if (row.group == Group::kICE) {
+    // The word has a field of its own and may be typed along or not.
     if (text.starts_with("ICE")) text.erase(0, 3);
     text.insert(0, kIceWord);
   }
@@ -140,6 +141,7 @@ class Trial {
  private:
   Answer take_symbol(const Symbol& symbol, std::string_view figures) {
     if (symbol.figures == Figures::kTenths) return take_tenths(symbol.field, figures);
+    // What was not typed over was accepted once, perhaps by a Yes, and is not judged again.
     if (figures == std::string_view(record_.*symbol.field)) return {};
     if (all_of(figures, '*')) return empty(symbol.field);
     if (figures.find('*') != std::string_view::npos || is_given(symbol.field))
@@ -152,6 +154,7 @@ class Trial {
   // A tenth of a degree becomes the first minute that gives it.
   Answer take_tenths(Member member, std::string_view figure) {
     std::string& minutes = record_.*member;
+    // Minutes that give this tenth already stay: 44' must not become 42'.
     if (figure == "*" || figure == "/") {
       minutes.clear();
     } else if (minutes.empty() || text::leading_int(figure) !=
@@ -245,6 +248,7 @@ class Trial {
     if (has_sign(row)) return text::is_all_digits(figures) ? Answer{} : refused(id::kInputError);
     W trial = record_;
     trial.*row.member = figures;
+    // Behind 99 the record shows the speed of fff, but these two figures are what was typed.
     const std::string shown =
         row.codec == Codec::kSpeed ? std::string(figures) : shown_from_record(field, trial);
     const Checked checked =

@@ -21,6 +21,8 @@ Hectopascal vapour_pressure(Celsius dry, Celsius wet, Hectopascal sea_level, boo
   const double depression = dry.value - wet.value;
   const double saturated =
       iced ? vapour_pressure_over_ice(wet).value : vapour_pressure_over_water(wet).value;
+  // Sprung's psychrometer constants over water and ice. They are per degree, so pressure and
+  // vapour pressure only have to be in the same unit.
   return {saturated - depression * (iced ? 0.44 : 0.5) * sea_level.value / 755.0};
 }
 
@@ -46,7 +48,9 @@ DewPointSearch search(double e) {
       result = upper;
       upper = upper + step * 0.5;
     }
+    // Tests the end that this pass began with, a move late; earlier reports were computed so.
   } while (std::fabs(at_lower - e) > kCloseEnough);
+  // The lower end itself is the edge of the search, not a result.
   if (passes == 1) return {{kNotComputable}, passes};
   return {{result}, passes};
 }
@@ -86,6 +90,7 @@ Hectopascal vapour_pressure_over_ice(Celsius t) {
 DewPointSearch search_dew_point(Celsius dry, Celsius wet, Hectopascal sea_level,
                                 WetBulbState state) {
   const bool iced = state == WetBulbState::kIced;
+  // Both are midpoints of the search, which steps past a root that it meets exactly.
   if (!iced && dry.value == wet.value && (dry.value == 27.5 || dry.value == 5.0)) return {dry, 0};
   const Hectopascal e = vapour_pressure(dry, wet, sea_level, iced);
   if (e.value < 0.0) return {};
@@ -104,6 +109,7 @@ std::optional<Celsius> dew_point_of_texts(std::string_view dry, std::string_view
   if (!dry_degrees || !wet_degrees) return std::nullopt;
   const Celsius dry_bulb{*dry_degrees};
   const Celsius wet_bulb{*wet_degrees};
+  // The standard stands in for a reading, not for the pressure at sea level: it is corrected too.
   const Hectopascal read{text::number_at_start(reading).value_or(kStandardReading)};
   const Hectopascal sea_level = sea_level_pressure(read, card, dry_bulb);
   const Celsius result = dew_point(dry_bulb, wet_bulb, sea_level, state);

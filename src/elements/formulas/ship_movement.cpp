@@ -13,6 +13,7 @@ struct Band {
   int to;
   int limit;
 };
+// 1.0, 1.4, 2.0 and 2.7 degrees an hour further on: the same miles are more longitude there.
 constexpr Band kLongitudeBands[] = {
     {0, 398, kLimit}, {400, 498, 30}, {500, 598, 42}, {600, 698, 60}, {700, 798, 81}};
 

@@ -39,6 +39,7 @@ TrueWind true_wind(const ApparentWind& apparent) {
   const double speed = std::floor(std::sqrt(x * x + y * y) + 0.5);
   result.speed = static_cast<int>(std::min(speed, codetables::kLargestSpeed));
   result.direction = {from_direction(x, y)};
+  // A speed that rounds to 0 is a calm, wherever what is left of it comes from.
   result.code = result.speed == 0 ? 0 : codetables::direction_code(result.direction);
   return result;
 }

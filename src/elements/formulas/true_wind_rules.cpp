@@ -15,6 +15,7 @@ std::string true_wind_direction(std::string_view direction) {
 TrueWindRule check_true_wind(std::string_view direction, std::string_view speed) {
   const double value = true_wind_speed(speed);
   const std::string shown = true_wind_direction(direction);
+  // From half a knot the speed is sent as 1, and a calm has none.
   if (shown == "00") return value >= 0.5 ? TrueWindRule::kCalmWithSpeed : TrueWindRule::kKept;
   if (shown == "//" || shown == "  ") return TrueWindRule::kKept;
   if (value == 0.0) return TrueWindRule::kDirectionWithoutSpeed;

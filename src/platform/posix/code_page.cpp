@@ -40,6 +40,7 @@ class PosixCodePage::Conversion {
     char* to = out.data();
     std::size_t left = in.size();
     std::size_t room = out.size();
+    // Back to the initial state: a conversion that failed may have left half a character.
     ::iconv(handle_, nullptr, nullptr, nullptr, nullptr);
     const bool failed = ::iconv(handle_, &from, &left, &to, &room) == static_cast<std::size_t>(-1);
     if (failed || left > 0) return std::nullopt;
@@ -68,6 +69,7 @@ std::string PosixCodePage::decode(std::string_view bytes) const {
     if (is_ascii(bytes.front())) {
       one = bytes.substr(0, 1);
     } else {
+      // One byte first: half-width kana are single bytes above ASCII.
       one = to_text_->convert(bytes.substr(0, 1));
       if (!one && bytes.size() > 1) {
         one = to_text_->convert(bytes.substr(0, 2));

@@ -130,6 +130,7 @@ std::vector<Drive> DriveMap::drives() const {
 bool DriveMap::medium_present(char letter) const {
   look();
   const Medium* medium = find(letter);
+  // The folder of Z: is written "": the "/" makes it the root of the file system.
   return medium != nullptr && medium->folder && is_os_folder(*medium->folder + "/");
 }
 
@@ -138,6 +139,7 @@ Result<std::string> DriveMap::to_os(const std::string& path,
   const bool has_drive = path.size() >= 2 && path[1] == ':';
   const bool from_top = !path.empty() && is_separator(path.front());
   std::string whole = path;
+  // From the top is on the current folder's drive, as the officer's system has it.
   if (!has_drive) whole = (from_top ? current_folder.substr(0, 2) : current_folder + "\\") + path;
   if (whole.size() < 2 || whole[1] != ':' || whole.find('\0') != std::string::npos)
     return FileError::kNotFound;
@@ -169,6 +171,7 @@ std::optional<std::string> DriveMap::to_program(const std::string& os_path) cons
   if (path.find('\\') != std::string::npos || path.find('\0') != std::string::npos)
     return std::nullopt;
 
+  // Z: holds everything, and a medium may be mounted below C:.
   const Medium* nearest = nullptr;
   for (const Medium& medium : media_) {
     if (!medium.folder || !below(path, *medium.folder)) continue;

@@ -53,6 +53,9 @@ bool same_file(const struct stat& a, const struct stat& b) {
 }  // namespace
 
 FileError file_error(int error_number) {
+  // Below something that is no folder (ENOTDIR) there is no file either. A limit of file sizes
+  // (EFBIG) is to the officer what a full disk is. ENXIO is a drive without a medium; only where a
+  // file is opened it is a socket or device that nobody serves, see Open::error().
   static constexpr struct {
     int error_number;
     FileError error;
@@ -116,6 +119,7 @@ class PosixFiles::Log : public LockedLog {
   /// and the whole is done again.
   Log(const PosixFiles& files, std::string os_path)
       : files_(files), calls_(files.calls_), os_path_(std::move(os_path)) {
+    // A pipe or terminal of the logbook's name must neither hold the program up nor steer it.
     constexpr int kFlags = O_RDWR | O_APPEND | O_NONBLOCK | O_NOCTTY;
     const std::int64_t until = calls_.now() + kPatience;
     for (int i = 0; i < kTries; ++i) {
@@ -133,6 +137,7 @@ class PosixFiles::Log : public LockedLog {
           }
           continue;
         }
+        // A mask may take the owner's rights too, and the next save could not open its logbook.
         if (open_->ok()) files_.let_owner_use(open_->file());
       }
       if (!open_->ok()) {
@@ -204,6 +209,7 @@ class PosixFiles::Log : public LockedLog {
     if (unbroken([&] { return calls_.ftruncate(open_->file(), end); }) == -1)
       return file_error(errno);
     size_ = size;
+    // It is cut, flushed or not: a refusal would say that the line is still there.
     (void)unbroken([&] { return calls_.fsync(open_->file()); });
     return FileError::kNone;
   }
@@ -228,6 +234,7 @@ class PosixFiles::Log : public LockedLog {
         is_locked_ = false;
         break;
       }
+      // Anything but "somebody has it" does not get better by waiting.
       if (errno != EWOULDBLOCK) return settled(file_error(errno));
       if (calls_.now() >= until) return settled(FileError::kLocked);
       calls_.pause(pause);
@@ -236,8 +243,10 @@ class PosixFiles::Log : public LockedLog {
     if (unbroken([&] { return calls_.fstat(open_->file(), &about); }) == -1)
       return settled(file_error(errno));
     if (unbroken([&] { return calls_.stat(os_path_.c_str(), &named); }) == -1)
+      // Gone meanwhile: not settled, so it is opened and locked anew.
       return errno != ENOENT && settled(file_error(errno));
     if (!same_file(about, named)) return false;
+    // The system's root may write what is marked read-only; the mark is meant all the same.
     if ((about.st_mode & kAnyWrite) == 0) return settled(FileError::kAccessDenied);
     size_ = static_cast<std::uint64_t>(about.st_size);
     // Another copy may have written between our creating the file and locking it.
@@ -253,8 +262,10 @@ class PosixFiles::Log : public LockedLog {
     const auto count =
         unbroken([&] { return calls_.write(open_->file(), content.data(), content.size()); });
     if (count == -1) return file_error(errno);
+    // What went in is not gone on with: a line is one write or none.
     if (static_cast<std::size_t>(count) != content.size()) return FileError::kNoSpace;
     if (unbroken([&] { return calls_.fsync(open_->file()); }) == -1) return file_error(errno);
+    // A new name is safe only with its folder; the bytes of an old file need no more.
     return created_ ? files_.flush_folder(os_path_) : FileError::kNone;
   }
 
@@ -273,6 +284,7 @@ PosixFiles::PosixFiles(const DriveMap& drives, SystemCalls& calls)
     : drives_(drives), calls_(calls), current_folder_("C:\\") {
   std::error_code error;
   const auto here = std::filesystem::current_path(error);
+  // Where the process was started; the process itself stays there, whatever is set later.
   if (!error) current_folder_ = drives.to_program(here.string()).value_or(current_folder_);
 }
 
@@ -310,6 +322,7 @@ FileError PosixFiles::flush_folder(const std::string& os_path) const {
 Result<std::string> PosixFiles::read(const std::string& path, std::uint64_t largest) const {
   const auto os_path = os(path);
   if (!os_path.ok()) return os_path.error;
+  // Without waiting: opening a pipe would last until somebody writes into it.
   const Open file(calls_, *os_path.value, O_RDONLY | O_NOCTTY | O_NONBLOCK);
   if (!file.ok()) return file.error();
   struct stat found {};
@@ -325,6 +338,7 @@ Result<std::string> PosixFiles::read(const std::string& path, std::uint64_t larg
       if (count == -1) return file_error(errno);
       if (count == 0) return content;
       content.append(block.data(), static_cast<std::size_t>(count));
+      // Counted while reading, for a file may grow under it.
       if (content.size() > largest) return FileError::kOther;
     }
   } catch (const std::bad_alloc&) {
@@ -338,6 +352,7 @@ FileError PosixFiles::write_all(int file, std::string_view content) const {
   while (!content.empty()) {
     const auto count = unbroken([&] { return calls_.write(file, content.data(), content.size()); });
     if (count == -1) return file_error(errno);
+    // A write of nothing would be tried for ever.
     if (count == 0) return FileError::kNoSpace;
     content.remove_prefix(static_cast<std::size_t>(count));
   }
@@ -358,6 +373,7 @@ FileError PosixFiles::fill(int file, std::string_view content,
   constexpr mode_t kPermissions = 0777;
   // A medium without permissions refuses this; the file itself is none the worse for it.
   if (old)
+    // Renamed over, the old file's rights would be gone with it.
     (void)calls_.fchmod(file, old->st_mode & kPermissions);
   else
     let_owner_use(file);
@@ -376,6 +392,7 @@ Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view c
   std::optional<struct stat> old;
   if (there.there == There::kFile) {
     old = about(path);
+    // A rename asks the folder only, so a file that is protected would be replaced.
     if (!old || (old->st_mode & kAnyWrite) == 0 || calls_.access(target.value->c_str(), W_OK) == -1)
       return FileError::kAccessDenied;
   }
@@ -387,6 +404,7 @@ Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view c
         ".kavrel-" + std::to_string(::getpid()) + "-" + std::to_string(staged_count_++) + ".part";
     const std::string beside =
         (folder_of(*target.value) == "/" ? "" : folder_of(*target.value)) + "/" + name;
+    // Never a file or link that somebody else put there.
     Open file(calls_, beside, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
     if (!file.ok() && file.error_number() == EEXIST) continue;  // left by an earlier crash
     if (!file.ok()) return file.error();
@@ -423,12 +441,14 @@ FileError PosixFiles::commit(const StagedFile& staged, Over over) {
 
 FileError PosixFiles::rename_new(const std::string& from, const std::string& to) const {
   const auto unable = [] {
+    // EINVAL is a file system without such a rename; EPERM and EMLINK are one without links.
     return errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP || errno == EPERM ||
            errno == EMLINK;
   };
   if (unbroken([&] { return calls_.rename_new(from.c_str(), to.c_str()); }) == 0)
     return FileError::kNone;
   if (!unable()) return file_error(errno);
+  // A second name is refused where something is, as the rename would have been.
   if (unbroken([&] { return calls_.link(from.c_str(), to.c_str()); }) == 0) {
     // Should the second name stay, it is cleared with what dead processes leave.
     (void)unbroken([&] { return calls_.unlink(from.c_str()); });
@@ -466,6 +486,7 @@ void PosixFiles::discard(const StagedFile& staged) {
 Result<std::unique_ptr<LockedLog>> PosixFiles::lock_log(const std::string& path) {
   const auto os_path = os(path);
   if (!os_path.ok()) return os_path.error;
+  // Only a logbook that is to be made needs a folder that can be written.
   if (look_at(*os_path.value).there == There::kNo) {
     if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
   }
@@ -477,6 +498,7 @@ Result<std::unique_ptr<LockedLog>> PosixFiles::lock_log(const std::string& path)
 bool PosixFiles::is_running(std::uint64_t process) const {
   // 0 would ask about every process of the group.
   if (process == 0) return false;
+  // A process of another user (EPERM) is one that lives.
   return calls_.ask_process(static_cast<pid_t>(process)) == 0 || errno != ESRCH;
 }
 
@@ -488,6 +510,7 @@ class PosixFiles::LockClaim : public Claim {
   LockClaim(SystemCalls& calls, std::string os_path)
       : calls_(calls),
         os_path_(std::move(os_path)),
+        // Not exclusively: the file of a copy that was killed stays, and its lock does not.
         open_(calls, os_path_, O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW) {
     error_ = make();
   }
@@ -580,9 +603,11 @@ Result<std::vector<FolderEntry>> PosixFiles::list(const std::string& folder) con
   try {
     while (const dirent* entry = calls_.readdir(open.get())) {
       const std::string name = static_cast<const char*>(entry->d_name);
+      // A name with a backslash cannot be said in a path of the program.
       if (name == "." || name == ".." || name.find('\\') != std::string::npos) continue;
       bool is_a_folder = entry->d_type == DT_DIR;
       bool is_other = !is_a_folder && entry->d_type != DT_REG;
+      // Some file systems tell no types; a link is what it leads to.
       if (entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK) {
         const Look target = look_at(*os_path.value + "/" + name);
         is_a_folder = target.there == There::kFolder;
@@ -606,6 +631,7 @@ FileError PosixFiles::create_folder(const std::string& path) {
     return S_ISDIR(found->st_mode) ? FileError::kNone : FileError::kAccessDenied;
   if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
   if (unbroken([&] { return calls_.mkdir(os_path.value->c_str(), kNewFolder); }) == -1)
+    // Another copy of the program may have made it since the look.
     return errno == EEXIST && is_folder(path) ? FileError::kNone : file_error(errno);
   return FileError::kNone;
 }
@@ -656,6 +682,7 @@ bool PosixFiles::same(const std::string& a, const std::string& b) const {
   const auto os_a = os(a);
   const auto os_b = os(b);
   if (!os_a.ok() || !os_b.ok()) return false;
+  // Equal paths are one file also where it does not exist yet.
   if (*os_a.value == *os_b.value) return true;
   const auto found_a = about(a);
   const auto found_b = about(b);
@@ -670,6 +697,7 @@ bool PosixFiles::same(const std::string& a, const std::string& b) const {
 
 void PosixFiles::set_current_folder(const std::string& folder) {
   if (!is_folder(folder)) return;
+  // Kept as the person named it: the way back from this computer's path may lead to another drive.
   const bool has_drive = folder.size() >= 2 && folder[1] == ':';
   const auto os_path = os(folder);
   if (has_drive)

@@ -85,11 +85,13 @@ std::optional<DateTime> parse_date_time(std::string_view text) {
 // ---- Locale
 
 unsigned locale_id_of(std::string_view name) {
+  // "ja_JP.UTF-8", "ja@..." and "ja-JP" are Japanese; "jam" is another language.
   const auto language = name.substr(0, name.find_first_of("_.@-"));
   return language == "ja" || language == "japanese" ? kJapaneseLocale : kEnglishLocale;
 }
 
 std::string environment_locale() {
+  // In the order in which the system asks them; set but empty counts as not set.
   for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"})
     if (const char* value = std::getenv(name); value != nullptr && *value != '\0') return value;
   return {};
@@ -98,6 +100,7 @@ std::string environment_locale() {
 // ---- Help
 
 std::optional<std::string> PosixHelp::page(const std::string& path) const {
+  // The program names compiled help files, as ever; here their pages lie in a folder of that name.
   constexpr std::string_view kEnding = ".CHM";
   constexpr std::string_view kTopicMark = "::/";
   const auto mark = path.find(kTopicMark);

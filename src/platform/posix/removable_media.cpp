@@ -30,6 +30,8 @@ constexpr FloppyForm kFloppyForms[] = {
     {640, 7},    // 5.25", 320 kB
 };
 
+// Of /proc/self/mountinfo, whose device numbers match those of the block devices; the names of
+// devices that other lists hold may be anything.
 struct Mount {
   std::string device;  ///< "8:1"
   std::string folder;

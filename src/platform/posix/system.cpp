@@ -27,6 +27,7 @@ std::string environment(const char* name) {
 std::string home() {
   if (auto folder = environment("HOME"); !folder.empty()) return folder;
   const passwd* user = ::getpwuid(::getuid());
+  // Without a home the program still starts; what it keeps there may go with the computer's next.
   return user == nullptr || user->pw_dir == nullptr ? std::string("/tmp") : user->pw_dir;
 }
 
@@ -45,6 +46,7 @@ Result<std::string> content_of(const std::string& path) {
   if (type == fs::file_type::not_found) return FileError::kBadLink;
   if (type == fs::file_type::none) return file_error(error.value());
   if (type != fs::file_type::regular) return FileError::kNotAFile;
+  // The library's stream tells that it failed; why, only errno may know.
   errno = 0;
   std::ifstream file(path, std::ios::binary);
   if (!file) return errno == 0 ? FileError::kOther : file_error(errno);
@@ -63,6 +65,7 @@ std::string drives_file_of(const std::string& root) {
 
 std::string default_root() {
   std::string data = environment("XDG_DATA_HOME");
+  // A relative folder there is to be passed over, by the rules of the variable.
   if (data.empty() || data.front() != '/') data = home() + "/.local/share";
   return data + "/kavrel/drive_c";
 }
@@ -106,6 +109,7 @@ std::vector<Medium> System::find_media() const {
   if (text.ok()) {
     media_ = read_drives(*text.value, root_).media;
   } else if (text.error == FileError::kNotFound) {
+    // Only then: a drives.txt that cannot be read leaves the drives as they were found last.
     media_ = removable_media();
   }
   return media_;

@@ -12,10 +12,12 @@
 namespace platform::posix {
 
 void prepare_process() {
+  // The write then fails with EFBIG.
   (void)::signal(SIGXFSZ, SIG_IGN);
 }
 
 int SystemCalls::open(const char* path, int flags, mode_t mode) {
+  // The help viewer is another process: it must not inherit the logbook, and with it the lock.
   return ::open(path, flags | O_CLOEXEC, mode);
 }
 int SystemCalls::close(int file) {
@@ -37,12 +39,14 @@ int SystemCalls::ftruncate(int file, off_t size) {
   return ::ftruncate(file, size);
 }
 int SystemCalls::lock(int file) {
+  // Not fcntl: that lock ends when the process closes the file anywhere, as reading it does.
   return ::flock(file, LOCK_EX | LOCK_NB);
 }
 int SystemCalls::try_lock(int file) {
   return ::flock(file, LOCK_EX | LOCK_NB);
 }
 int SystemCalls::reserve(int file, off_t from, off_t size) {
+  // posix_fallocate would change the size and, where it is not supported, write zeros.
   return ::fallocate(file, FALLOC_FL_KEEP_SIZE, from, size);
 }
 int SystemCalls::fchmod(int file, mode_t mode) {
@@ -88,6 +92,7 @@ DIR* SystemCalls::opendir(const char* path) {
   return ::opendir(path);
 }
 dirent* SystemCalls::readdir(DIR* folder) {
+  // Else nobody could tell the end of the folder from an error.
   errno = 0;
   return ::readdir(folder);
 }
@@ -99,6 +104,7 @@ int SystemCalls::ask_process(pid_t process) {
 }
 std::int64_t SystemCalls::now() {
   timespec time{};
+  // The officer may set the computer's clock while a save waits.
   (void)::clock_gettime(CLOCK_MONOTONIC, &time);
   return std::int64_t{time.tv_sec} * 1000 + time.tv_nsec / 1000000;
 }

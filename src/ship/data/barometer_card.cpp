@@ -34,6 +34,8 @@ namespace id = text::id;
 constexpr CardType kOne = CardType::kHeightAndTemperature;
 constexpr CardType kTwo = CardType::kTotalCorrection;
 
+// In ballast the ship floats higher, and the barometer with it: neither its height above the water
+// nor the correction can be less than at full load.
 constexpr Row kRows[] = {
     {CardField::kCheckPort, Form::kText, &BarometerCard::check_port, 0, 0, CardType::kNotChosen,
      kNone, kNone, id::kCheckPortMissing, id::kCheckPortCharacter, id::kCheckPortTooLong},

@@ -35,6 +35,7 @@ std::string card_text_of(const ShipFixedData& data) {
   return data.card.*member;
 }
 
+// Inner blanks go as well ("PORT A" comes back as "PORTA"): the format has always lost them.
 template <std::string BarometerCard::*member>
 void card_text_into(std::string_view field, ShipFixedData& data) {
   data.card.*member = text::without_spaces(field);
@@ -77,6 +78,7 @@ void decode_date(std::string_view field, ShipFixedData& data) {
          text::without_spaces(field);
 }
 
+// The file has no figure for a type that is not chosen: that one comes back as card type "1".
 std::string encode_card_type(const ShipFixedData& data) {
   return flag(data.card.type == CardType::kTotalCorrection);
 }
@@ -125,6 +127,7 @@ std::string encode_sea_temperature(const ShipFixedData& data) {
 
 void decode_sea_temperature(std::string_view field, ShipFixedData& data) {
   const auto method = codetables::sea_temperature_method(field);
+  // The file knows the figures for zero and above only; any other is its default.
   data.sea_temperature_method = codetables::is_below_zero(field)
                                     ? SeaTemperatureMethod::kIntake
                                     : method.value_or(SeaTemperatureMethod::kIntake);
@@ -174,6 +177,7 @@ void decode_departure(std::string_view field, ShipFixedData& data) {
   departure.clear();
   if (text::without_spaces(field).empty()) return;
   departure = field.substr(text::first(field, 1).size());
+  // Any figure but 0 is a minus.
   departure.insert(departure.begin(), field.front() == '0' ? '+' : '-');
 }
 
@@ -190,6 +194,7 @@ std::string encode_humidity_unit(const ShipFixedData& data) {
 }
 
 void decode_humidity_unit(std::string_view field, ShipFixedData& data) {
+  // Any figure but 0 is whole percent, and what is computed has no tenths.
   const bool whole = field != "0" || data.humidity_method == HumidityMethod::kComputed;
   data.humidity_unit = whole ? 1.0 : 0.1;
 }
@@ -276,6 +281,7 @@ Loaded<T> load(const platform::Files& files, const std::string& path, std::size_
   const auto content = files.read(path);
   if (!content.ok()) return {FileRead::kUnreadable, {}, content.error};
   const std::optional<T> values = decode(*content.value);
+  // A control character makes it as useless as a wrong size does.
   if (!values) return {FileRead::kWrongSize, {}};
   return {FileRead::kRead, *values};
 }
@@ -302,6 +308,7 @@ std::optional<ShipFixedData> decode_fixed_data(std::string_view line, const Date
   for (const Field& field : kFields)
     field.decode(from_ship_bytes(line.substr(field.offset, field.width), code_page), data);
   if (data.card.check_date.empty()) {
+    // Without leading zeros, as ever: most of the year such a date is refused until corrected.
     data.card.check_date = text::format_int(utc.year) + "/" + text::format_int(utc.month) + "/" +
                            text::format_int(utc.day);
   }

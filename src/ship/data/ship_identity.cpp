@@ -21,11 +21,13 @@ std::string tidy_identifier(std::string_view text) {
 }
 
 std::string tidy_manufacturer(std::string_view text) {
+  // The file fills this field up with "_", so none may be part of it.
   const std::string narrowed = text::replace_all(text::narrow(text), "_", "");
   return std::string(text::trim(narrowed));
 }
 
 bool is_call_sign(std::string_view text) {
+  // An empty one passes: OK asks for it.
   return text.size() <= kCallSignLength &&
          std::all_of(text.begin(), text.end(), is_capital_or_digit);
 }

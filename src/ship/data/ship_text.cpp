@@ -83,6 +83,7 @@ std::string to_ship_bytes(std::string_view text, std::size_t width,
     const std::string bytes = is_ascii(one)
                                   ? std::string(one)
                                   : code_page.encode(one).value_or(std::string(kUnknownAsByte));
+    // Half a character would take the byte behind it for its other half.
     if (result.size() + bytes.size() > width) break;
     result += bytes;
   }
