@@ -30,7 +30,7 @@ constexpr Part kParts[] = {
     {kWithin, kUniform, "2345"},
     {kWithin, kNotUniform, "6789"},
 };
-constexpr std::string_view kUnableToReport = "/";
+constexpr char kUnableToReport = '/';
 
 const Part* part_of(std::string_view figures) {
   const auto* const at = std::find_if(std::begin(kParts), std::end(kParts), [&](const Part& part) {
@@ -77,7 +77,7 @@ void CICECiDlg::on_open() {
 
 // Whoever is too far away to see the ice can say little: that nothing can be reported is offered.
 void CICECiDlg::answered() {
-  if (place.selected == kBeyond && last_chosen_.empty()) last_chosen_ = kUnableToReport;
+  if (place.selected == kBeyond && last_chosen_.empty()) last_chosen_.push_back(kUnableToReport);
   fill_list();
 }
 
