@@ -88,12 +88,11 @@ const ui::Control* CVelmaranDlg::last_field_of(int element) const {
 
 bool CVelmaranDlg::open_element(int element) {
   const mainwindow::ElementRow* const row = mainwindow::find_element(element);
-  if (row != nullptr && use_of(*row, context_) != mainwindow::Use::kInUse) return false;
-  if (row == nullptr || row->open == nullptr) {
-    // What has no number never has a dialog; a row without an opener gets one in a later version.
-    services().messages.error(row == nullptr ? id::kNoSubWindow : id::kNotInThisVersion);
+  if (row == nullptr) {
+    services().messages.error(id::kNoSubWindow);
     return false;
   }
+  if (use_of(*row, context_) != mainwindow::Use::kInUse) return false;
   mainwindow::Opening opening{services(), context_, form_, last_quadrant_};
   const bool confirmed = row->open(opening);
   refresh();

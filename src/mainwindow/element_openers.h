@@ -28,7 +28,7 @@ enum class Use { kInUse, kNotObserved, kOtherMethod };
 
 struct ElementRow {
   int element = 0;
-  Opener open = nullptr;  ///< nullptr: no dialog in this version
+  Opener open = nullptr;  ///< never nullptr: every element has its dialog
   /// True when this ship enters the element by another method; nullptr: it has only one.
   bool (*by_other_method)(const ShipFixedData&) = nullptr;
 };
