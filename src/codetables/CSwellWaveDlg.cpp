@@ -204,7 +204,7 @@ void CSwellWaveDlg::take_period_of_length(Figure& figure) {
 
 void CSwellWaveDlg::on_ok() {
   // A sea of swells from everywhere has no second one with a direction.
-  if (is_observed(1) && direction1.value() == kWaveIndeterminate &&
+  if (is_observed(0) && is_observed(1) && direction1.value() == kWaveIndeterminate &&
       direction2.value() != kWaveUnknown) {
     services().messages.error_titled(id::kSwell2DirectionMustBeUnknown, id::kSwellPairCaption);
     focus(direction2);

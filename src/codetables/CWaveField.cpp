@@ -29,18 +29,23 @@ void CWaveField::open(std::string given, std::string_view shown) {
 }
 
 void CWaveField::say(const std::optional<std::string>& text) {
-  if (enabled && text) own_ = content;
+  if (enabled && text) {
+    own_ = content;
+    own_unchecked_ = unchecked;
+  }
   if (text) {
     set(*text);
     unchecked = false;  // nothing that the person typed stands here
   } else if (!enabled) {
     set(own_);
+    unchecked = own_unchecked_;
   }
   enabled = !text;
 }
 
 void CWaveField::set_own(std::string_view text) {
   own_ = text;
+  own_unchecked_ = false;
   if (enabled) set(text);
 }
 

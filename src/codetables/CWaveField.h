@@ -48,7 +48,8 @@ class CWaveField : public ui::Combo {
   const WaveFigure& figure_;
   std::string given_;
   std::string shown_;
-  std::string own_;        ///< kept while the field is locked
+  std::string own_;  ///< kept while the field is locked
+  bool own_unchecked_ = false;
   std::string confirmed_;  ///< doubted, and said Yes to
 };
 

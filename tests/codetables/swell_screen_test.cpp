@@ -433,6 +433,31 @@ TEST(Swell, DoesNotCheckWhatAChoiceOrABoxClearedOrLocked) {
   }
 }
 
+// Setting a figure aside and taking it up again is no check of it.
+TEST(Swell, ChecksByOkWhatComesBackUnchecked) {
+  for (const Refusal& row : kRefusals) {
+    const auto typed = [&](Swell& s) {
+      ASSERT_TRUE(fakes::enter(s.screen, s.screen.*row.field, row.typed));
+      s.screen.press(s.screen.help);  // the check waits
+    };
+    for (const Count count : {kOne, kNone, kNotObserved}) {
+      Swell s(kTwoSwells);
+      typed(s);
+      s.choose(count);
+      s.choose(kTwoOrMore);
+      wave_checks::refused(s.world, s.screen, s.screen.*row.field, row.notice[0], [&] { s.ok(); });
+    }
+    // Unticked, the box of the first direction empties it.
+    if (row.field == &CSwellWaveDlg::direction1) continue;
+    Swell s(kTwoSwells);
+    typed(s);
+    ui::Control& box = *s.screen.find((s.screen.*row.field).name + "_unknown");
+    s.tick(box);
+    s.tick(box, false);
+    wave_checks::refused(s.world, s.screen, s.screen.*row.field, row.notice[0], [&] { s.ok(); });
+  }
+}
+
 TEST(Swell, WhatIsTypedIsKeptInItsForm) {
   struct Row {
     CWaveField CSwellWaveDlg::*field;
@@ -522,6 +547,17 @@ TEST(Swell, AFirstDirectionUnknownNeedsNoSecondOneThatTheShipDoesNotObserve) {
   s.ok();
   EXPECT_EQ(s.screen.result(), ui::kOk);
   EXPECT_EQ(s.result(), "99||||||");
+}
+
+// A field that is locked could not be put right.
+TEST(Swell, AFirstDirectionThatTheShipDoesNotObserveSaysNothingOfTheSecondOne) {
+  for (const Count count : {kTwoOrMore, kOne, kNone, kNotObserved}) {
+    Swell s({{"99", "", ""}, {"05", "12", "0.5"}}, {false, true});
+    s.choose(count);
+    s.ok();
+    EXPECT_EQ(s.screen.result(), ui::kOk) << count;
+    EXPECT_EQ(s.screen.values().first, (CSwellWaveDlg::Swell{"99", "", ""}));
+  }
 }
 
 // ---- The period from the wave length

@@ -387,6 +387,24 @@ TEST(WindWave, HelpSkipsTheCheckAndOkMakesUpForIt) {
             "C:\\program\\help\\Kavrel_J.CHM::/Capter11-10_J.htm");
 }
 
+// Setting a figure aside and taking it up again is no check of it.
+TEST(WindWave, ChecksByOkWhatComesBackUnchecked) {
+  for (const char* const name : {"period", "height"}) {
+    for (const std::string& box : {std::string(name) + "_unknown", std::string("no_wind_wave"),
+                                   std::string("not_observed")}) {
+      Wind w({"05", "1.5"});
+      ui::Control& field = *w.screen.find(name);
+      ASSERT_TRUE(fakes::enter(w.screen, field, "x"));
+      w.screen.press(w.screen.help);  // the check waits
+      w.screen.tick(*w.screen.find(box), true);
+      w.screen.tick(*w.screen.find(box), false);
+      wave_checks::refused(w.world, w.screen, field,
+                           {id::kNotANumber, "Please input number", "No digital string"},
+                           [&] { w.ok(); });
+    }
+  }
+}
+
 TEST(WindWave, ReadsAsItShould) {
   Wind w({"05", "1.5"});
   EXPECT_EQ(w.screen.title(), "Wind wave");
