@@ -1,7 +1,9 @@
 #include "elements/CPresureTendencyDlg.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "codetables/tables/code_tables.h"
 #include "elements/tendency_curves.h"
 #include "text/ids.h"
 #include "text/strings.h"
@@ -11,14 +13,11 @@ using codetables::TendencyKind;
 
 namespace {
 
-// Code table 0200, characteristics 0-8.
-constexpr text::Id kTable0200[] = {
-    id::kCharacteristic0, id::kCharacteristic1, id::kCharacteristic2,
-    id::kCharacteristic3, id::kCharacteristic4, id::kCharacteristic5,
-    id::kCharacteristic6, id::kCharacteristic7, id::kCharacteristic8};
-
 text::Id line_of(char code) {
-  return code == '/' ? id::kCharacteristicUnknown : kTable0200[code - '0'];
+  const auto rows = codetables::table_of("a")->rows;
+  return std::find_if(rows.begin(), rows.end(),
+                      [&](const codetables::CodeRow& row) { return row.figures.front() == code; })
+      ->text;
 }
 
 }  // namespace
