@@ -9,7 +9,7 @@
 namespace codetables {
 
 inline constexpr int kLongestWavePeriod = 29;         ///< seconds; longer ones are no sea waves
-inline constexpr int kLongestWavePeriodOffered = 25;  ///< seconds; from there on it is doubted
+inline constexpr int kLongestWavePeriodOffered = 25;  ///< seconds; a dialog doubts longer ones
 inline constexpr double kHighestWave = 14.5;          ///< metres
 inline constexpr std::string_view kNoWaves = "00";    ///< as a direction, a period or a height
 inline constexpr std::string_view kWaveUnknown = "//";
