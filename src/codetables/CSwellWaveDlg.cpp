@@ -47,6 +47,7 @@ CSwellWaveDlg::CSwellWaveDlg(ui::Services& services, Values values, Observed obs
       observation_group(*this, "observation_group", {id::kSwellObservation}),
       count(*this, "count", {},
             {{id::kTwoSwells}, {id::kOneSwell}, {id::kNoSwell}, {id::kWavesNotObserved}}),
+      rose_group(*this, "rose_group", {id::kSwellDirectionGroup}),
       rose(*this, "rose", {id::kSwellDirectionGroup}),
       side(*this, "side", {id::kDrawnWaveHeight}),
       swell1_group(*this, "swell1_group", {id::kSwell1}),

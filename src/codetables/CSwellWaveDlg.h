@@ -38,6 +38,7 @@ class CSwellWaveDlg : public ui::OkCancelHelpDialog {
   // What is typed first: while a box has the focus, figures go nowhere.
   ui::Label observation_group;
   ui::Choice count;  ///< how many swells there are
+  ui::Label rose_group;
   ui::Picture rose;
   ui::Picture side;
   ui::Label swell1_group;

@@ -702,6 +702,7 @@ TEST(Swell, ReadsAsItShould) {
   EXPECT_EQ(s.screen.title(), "Swell wave");
   const std::pair<const ui::Control*, const char*> captions[] = {
       {&s.screen.observation_group, "Swell wave observation"},
+      {&s.screen.rose_group, "Swell wave direction"},
       {&s.screen.swell1_group, "Swell wave 1"},
       {&s.screen.swell2_group, "Swell wave 2"},
       {&s.screen.direction1, "Direction"},
