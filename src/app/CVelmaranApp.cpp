@@ -48,7 +48,7 @@ int CVelmaranApp::run() {
 
 bool CVelmaranApp::read_settings() {
   settings_ = {};
-  settings_.locale_is_japanese = is_japanese(services_.locale);
+  settings_.locale_is_japanese = services_.locale.is_japanese();
   settings_.system_root = system_root(services_.drives);
   CIniEx ini(services_.files);
   if (open_settings(ini, services_.files, places_, true) != FileError::kNone) return false;

@@ -27,11 +27,6 @@ bool drive_is_there(const std::string& path, const platform::Drives& drives) {
 
 }  // namespace
 
-bool is_japanese(const platform::Locale& locale) {
-  constexpr unsigned kPrimaryLanguage = 0x3FF;
-  return (locale.locale_id() & kPrimaryLanguage) == platform::kJapaneseLanguage;
-}
-
 std::string system_root(const platform::Drives& drives) {
   return drives.system_folder().substr(0, kRootLength);
 }

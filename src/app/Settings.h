@@ -34,9 +34,6 @@ struct Settings {
   mainwindow::Folders folders;
 };
 
-/// True when the primary language of the locale id is Japanese.
-[[nodiscard]] bool is_japanese(const platform::Locale& locale);
-
 /// First three characters of the operating system's folder.
 [[nodiscard]] std::string system_root(const platform::Drives& drives);
 

@@ -30,8 +30,6 @@ class Raised {
   bool& flag_;
 };
 
-constexpr unsigned kPrimaryLanguage = 0x3FF;
-
 }  // namespace
 
 std::string CVelmaranDlg::title() const {
@@ -59,9 +57,8 @@ void CVelmaranDlg::on_open() {
 }
 
 void CVelmaranDlg::show_menu() {
-  const bool japanese =
-      (services().locale.locale_id() & kPrimaryLanguage) == platform::kJapaneseLanguage;
-  set_menu(mainwindow::build_menu(mainwindow::menu_for(japanese, language()), context_.ship.vosclim,
+  const mainwindow::Menu menu = mainwindow::menu_for(services().locale.is_japanese(), language());
+  set_menu(mainwindow::build_menu(menu, context_.ship.vosclim,
                                   [this](const mainwindow::MenuRow& row) { run(row); }));
 }
 

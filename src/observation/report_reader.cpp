@@ -228,11 +228,7 @@ std::optional<ReadReport> read_report(std::string_view text, const Struct_Weathe
 std::optional<TenthsPosition> read_report_position(std::string_view text) {
   const auto report = read_report(text, Struct_Weather(ShipFixedData(), KeyObservationItems()));
   if (!report) return std::nullopt;
-  const Struct_Weather& record = report->record;
-  for (const std::string* part :
-       {&record.Qc, &record.LaDeg, &record.LaMin, &record.LoDeg, &record.LoMin})
-    if (!text::is_all_digits(*part)) return std::nullopt;
-  return record.position();
+  return report->record.position();
 }
 
 }  // namespace observation

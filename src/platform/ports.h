@@ -36,8 +36,13 @@ class Locale {
   virtual ~Locale() = default;
   /// Low 10 bits: primary language; 0x0411 for Japanese (primary language 17), 0x0409 for English.
   [[nodiscard]] virtual unsigned locale_id() const = 0;
+  /// By the primary language alone, whatever the country.
+  [[nodiscard]] bool is_japanese() const {
+    constexpr unsigned kPrimaryLanguage = 0x3FF;
+    constexpr unsigned kJapanese = 17;
+    return (locale_id() & kPrimaryLanguage) == kJapanese;
+  }
 };
-inline constexpr unsigned kJapaneseLanguage = 17;
 
 /// Code page 932, in which the ship's files are kept wherever the program runs. It is the same in
 /// every locale. Texts inside the program are UTF-8.
