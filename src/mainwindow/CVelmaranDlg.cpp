@@ -1,6 +1,7 @@
 #include "mainwindow/CVelmaranDlg.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
@@ -83,7 +84,21 @@ const ui::Control* CVelmaranDlg::last_field_of(int element) const {
   return at == fields_.rend() ? focused() : at->control;
 }
 
+// The pressure also has the time of its reading, which stands before the position: whoever came
+// from there goes on with the position.
+const ui::Control* CVelmaranDlg::last_field_beside(const Field& field) const {
+  const auto at = std::find_if(fields_.begin(), fields_.end(),
+                               [&](const Field& f) { return f.control == field.control; });
+  const auto other = std::find_if(
+      at, fields_.end(), [&](const Field& f) { return f.row->element != field.row->element; });
+  return std::prev(other)->control;
+}
+
 bool CVelmaranDlg::open_element(int element) {
+  return open_element(element, last_field_of(element));
+}
+
+bool CVelmaranDlg::open_element(int element, const ui::Control* last) {
   const mainwindow::ElementRow* const row = mainwindow::find_element(element);
   if (row == nullptr) {
     services().messages.error(id::kNoSubWindow);
@@ -102,7 +117,7 @@ bool CVelmaranDlg::open_element(int element) {
     if (typing_) {
       focus(*refused->control);
     } else {
-      focus_behind(last_field_of(element));
+      focus_behind(last);
     }
     tell_doubts();
   }
@@ -119,7 +134,10 @@ void CVelmaranDlg::on_f1(ui::Control* focused) {
   }
   if (field != nullptr && field->is_edit() && !form_.in_error(field->value()))
     static_cast<void>(leave(*field));
-  open_element(field == nullptr ? mainwindow::kNoElement : field->row->element);
+  if (field == nullptr)
+    open_element(mainwindow::kNoElement);
+  else
+    open_element(field->row->element, last_field_beside(*field));
 }
 
 void CVelmaranDlg::on_tab(ui::Key key) {

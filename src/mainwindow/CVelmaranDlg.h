@@ -105,7 +105,9 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   // Dialogs.
   void label_clicked(const mainwindow::LabelRow& row);
   void focus_behind(const ui::Control* last);
+  bool open_element(int element, const ui::Control* last);
   [[nodiscard]] const ui::Control* last_field_of(int element) const;
+  [[nodiscard]] const ui::Control* last_field_beside(const Field& field) const;
   [[nodiscard]] const Field* field_of(const ui::Control* control) const;
   [[nodiscard]] ui::Control* control_of(std::string_view name) const;
 

@@ -270,6 +270,42 @@ TEST(ElementDialogs, OpenOnEveryRoadAndHandTheirCodesToTheRecord) {
   }
 }
 
+// An element may stand at two places of the form, as the pressure does, which also has the time of
+// its reading. Who goes from field to field with F1 must not be led past what stands between them.
+TEST(ElementDialogs, OpenedByF1LeadBehindTheFieldsThatTheyWereOpenedFrom) {
+  int fields = 0;
+  for (const Dialog& dialog : all_dialogs()) {
+    for (const mainwindow::FieldRow& row : mainwindow::field_rows()) {
+      if (row.element != dialog.element) continue;
+      SCOPED_TRACE(std::string(dialog.class_name).append(" from ").append(row.name));
+      const auto opened = std::make_unique<Opened>(ship_for(dialog));
+      if (!opened->window.move_focus(opened->control(row.name))) continue;
+      opened->world.windows.expect_screen(
+          dialog.class_name, [&](ui::Screen& screen) { fill(screen, dialog.entries, "ok"); });
+      opened->window.key(ui::Key::kF1);
+      const bool time_of_reading = row.name == "GGExact" || row.name == "gg";
+      ASSERT_NE(opened->window.focused(), nullptr);
+      EXPECT_EQ(opened->window.focused()->name, time_of_reading ? "LaDeg" : dialog.focus);
+      ++fields;
+    }
+  }
+  EXPECT_GE(fields, 55);
+}
+
+// The label of the pressure stands at its reading, wherever the keyboard is.
+TEST(ElementDialogs, OpenedByALabelLeadBehindTheWholeElement) {
+  for (const Dialog& dialog : all_dialogs()) {
+    SCOPED_TRACE(dialog.class_name);
+    const auto opened = std::make_unique<Opened>(ship_for(dialog));
+    ASSERT_TRUE(opened->window.move_focus(opened->control("GGExact")));
+    opened->world.windows.expect_screen(
+        dialog.class_name, [&](ui::Screen& screen) { fill(screen, dialog.entries, "ok"); });
+    opened->press(dialog.label);
+    ASSERT_NE(opened->window.focused(), nullptr);
+    EXPECT_EQ(opened->window.focused()->name, dialog.focus);
+  }
+}
+
 TEST(ElementDialogs, ChangeNothingWhenTheyAreCancelled) {
   for (const Dialog& dialog : all_dialogs()) {
     for (const auto& [name, road] : roads()) {
