@@ -57,6 +57,6 @@ struct MenuRow {
                                                    const std::function<void(const MenuRow&)>& run);
 
 /// The command that opens the help file on facsimile charts; it has no item in any menu.
-inline constexpr MenuRow kFaxHelp{0, 0, Command::kHelpFile, "fax"};
+inline constexpr MenuRow kFaxHelp{{}, {}, Command::kHelpFile, "fax"};
 
 }  // namespace mainwindow
