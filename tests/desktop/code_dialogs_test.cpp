@@ -22,11 +22,7 @@ namespace {
 
 using tests::DesktopWorld;
 using tests::press;
-
-void type(std::string_view text) {
-  for (const char c : text) QTest::keyClick(QApplication::focusWidget(), c);
-  QApplication::processEvents();
-}
+using tests::type;
 
 // The main window of a ship that observes every element, and a person who has only keys.
 struct Keys {

@@ -1,9 +1,18 @@
 #pragma once
 // The services of a program whose windows are real ones; everything else is a fake.
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
+#include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 #include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "desktop/desktop_windows.h"
 #include "desktop/screen_window.h"
@@ -31,5 +40,53 @@ inline void show(desktop::ScreenWindow& window) {
   window.activateWindow();
   QApplication::processEvents();
 }
+
+/// Keys of ASCII characters to whatever has the focus.
+inline void type(std::string_view text) {
+  for (const char c : text) QTest::keyClick(QApplication::focusWidget(), c);
+  QApplication::processEvents();
+}
+
+/// Acts, and answers every box that comes with Escape; the texts of the boxes.
+inline std::vector<std::string> messages_of(const std::function<void()>& act) {
+  std::vector<std::string> seen;
+  QTimer answers;
+  QObject::connect(&answers, &QTimer::timeout, [&seen] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    seen.push_back(box->text().toStdString());
+    QTest::keyClick(box, Qt::Key_Escape);
+  });
+  answers.start(1);
+  act();
+  return seen;
+}
+
+/// A shown screen whose widgets get keys and nothing else.
+template <class S>
+struct Shown {
+  DesktopWorld world;
+  std::unique_ptr<S> screen;
+  std::unique_ptr<desktop::ScreenWindow> window;
+
+  template <class... Arguments>
+  explicit Shown(Arguments&&... arguments) {
+    screen = std::make_unique<S>(world.services, std::forward<Arguments>(arguments)...);
+    screen->open();
+    window = std::make_unique<desktop::ScreenWindow>(*screen, nullptr);
+    tests::show(*window);
+  }
+  void tab_to(std::string_view name) {
+    for (std::size_t i = 0; i <= screen->controls().size(); ++i) {
+      if (screen->focused() != nullptr && screen->focused()->name == name) return;
+      press(Qt::Key_Tab);
+    }
+    FAIL() << "Tab does not come to " << name;
+  }
+  /// The line that the widget shows as chosen, read from the widget.
+  [[nodiscard]] int line(std::string_view name) const {
+    return window->binding(name)->shown().selected;
+  }
+};
 
 }  // namespace tests

@@ -26,55 +26,17 @@
 namespace {
 
 using tests::press;
+using tests::Shown;
+using tests::type;
 
-// A shown screen whose widgets get keys and nothing else.
 template <class S>
-struct Shown {
-  tests::DesktopWorld world;
-  std::unique_ptr<S> screen;
-  std::unique_ptr<desktop::ScreenWindow> window;
-
-  template <class... Arguments>
-  explicit Shown(Arguments&&... arguments) {
-    screen = std::make_unique<S>(world.services, std::forward<Arguments>(arguments)...);
-    screen->open();
-    window = std::make_unique<desktop::ScreenWindow>(*screen, nullptr);
-    tests::show(*window);
-  }
-  void tab_to(std::string_view name) {
-    for (std::size_t i = 0; i <= screen->controls().size(); ++i) {
-      if (screen->focused() != nullptr && screen->focused()->name == name) return;
-      press(Qt::Key_Tab);
-    }
-    FAIL() << "Tab does not come to " << name;
-  }
-  /// The line that the widget shows as chosen, read from the widget.
-  [[nodiscard]] int line(std::string_view name) const {
-    return window->binding(name)->shown().selected;
-  }
-  void expect_widgets_show_the_controls() const {
-    EXPECT_TRUE(tests::widget_views(*window) == tests::control_views(*screen));
-  }
-};
-
-void type(std::string_view text) {
-  for (const char c : text) QTest::keyClick(QApplication::focusWidget(), c);
-  QApplication::processEvents();
+void expect_widgets_show_the_controls(const Shown<S>& s) {
+  EXPECT_TRUE(tests::widget_views(*s.window) == tests::control_views(*s.screen));
 }
-// Acts, and answers every box that comes with Escape; the texts of the boxes. Without a window
-// manager the window is not given the keyboard back by itself.
+
+// Without a window manager the window is not given the keyboard back by itself.
 std::vector<std::string> boxes_of(desktop::ScreenWindow& window, const std::function<void()>& act) {
-  std::vector<std::string> seen;
-  QTimer answers;
-  QObject::connect(&answers, &QTimer::timeout, [&seen] {
-    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) return;
-    seen.push_back(box->text().toStdString());
-    QTest::keyClick(box, Qt::Key_Escape);
-  });
-  answers.start(1);
-  act();
-  answers.stop();
+  std::vector<std::string> seen = tests::messages_of(act);
   if (window.isVisible()) window.activateWindow();
   QApplication::processEvents();
   return seen;
@@ -239,11 +201,11 @@ TEST(IceConcentrationKeys, AnswerBothQuestionsAndChooseTheLine) {
     Shown<CICECiDlg> s(std::string{});
     for (const Qt::Key key : row.keys) {
       press(key);
-      s.expect_widgets_show_the_controls();
+      expect_widgets_show_the_controls(s);
     }
     EXPECT_EQ(s.screen->focused(), &s.screen->concentration) << row.figure;
     type(std::string(1, row.figure));
-    s.expect_widgets_show_the_controls();
+    expect_widgets_show_the_controls(s);
     press(Key_Return);
     EXPECT_EQ(s.screen->result(), ui::kOk);
     EXPECT_EQ(s.screen->ci(), std::string(1, row.figure));
@@ -304,7 +266,7 @@ TEST(SeaIceKeys, FiguresAndTheSolidusChooseEveryLine) {
       Shown<CCodeTableDlg> s(*row.picker, empty_record());
       s.tab_to(row.control);
       type(std::string(1, figure));
-      s.expect_widgets_show_the_controls();
+      expect_widgets_show_the_controls(s);
       press(Qt::Key_Return);
       ASSERT_EQ(s.screen->result(), ui::kOk);
       Struct_Weather record = empty_record();
@@ -322,7 +284,7 @@ TEST(SeaIceKeys, ArrowsChooseABearingAndTheRoseFollows) {
   press(Qt::Key_Down);
   EXPECT_EQ(s.line("choice"), 1);
   EXPECT_NE(s.screen->find("choice_drawing")->drawing, none);
-  s.expect_widgets_show_the_controls();
+  expect_widgets_show_the_controls(s);
 }
 
 // ---- Their lines are whole, on a screen of 1366 by 768, also with letters half as large again

@@ -23,41 +23,11 @@
 namespace {
 
 using tests::press;
-
-// A shown screen whose widgets get keys and nothing else.
-template <class S>
-struct Shown {
-  tests::DesktopWorld world;
-  std::unique_ptr<S> screen;
-  std::unique_ptr<desktop::ScreenWindow> window;
-
-  template <class... Arguments>
-  explicit Shown(Arguments&&... arguments) {
-    screen = std::make_unique<S>(world.services, std::forward<Arguments>(arguments)...);
-    screen->open();
-    window = std::make_unique<desktop::ScreenWindow>(*screen, nullptr);
-    tests::show(*window);
-  }
-  void tab_to(std::string_view name) {
-    for (std::size_t i = 0; i <= screen->controls().size(); ++i) {
-      if (screen->focused() != nullptr && screen->focused()->name == name) return;
-      press(Qt::Key_Tab);
-    }
-    FAIL() << "Tab does not come to " << name;
-  }
-  /// The line that the widget shows as chosen, read from the widget.
-  [[nodiscard]] int line(std::string_view name) const {
-    return window->binding(name)->shown().selected;
-  }
-};
+using tests::Shown;
+using tests::type;
 
 Struct_Weather empty_record() {
   return {ShipFixedData(), KeyObservationItems()};
-}
-
-void type(const char* text) {
-  for (const char* c = text; *c != 0; ++c) QTest::keyClick(QApplication::focusWidget(), *c);
-  QApplication::processEvents();
 }
 
 // One control of each kind with lines, none chosen; every change is counted.

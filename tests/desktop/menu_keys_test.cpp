@@ -310,21 +310,6 @@ struct RealMenu {
   }
 };
 
-// Presses the keys and answers every box that comes with Escape; the texts of the boxes.
-std::vector<std::string> messages_of(const std::function<void()>& keys) {
-  std::vector<std::string> seen;
-  QTimer answers;
-  QObject::connect(&answers, &QTimer::timeout, [&seen] {
-    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (box == nullptr) return;
-    seen.push_back(box->text().toStdString());
-    QTest::keyClick(box, Qt::Key_Escape);
-  });
-  answers.start(1);
-  keys();
-  return seen;
-}
-
 TEST(Shortcuts, RunTheirCommandFromEveryFieldOnce) {
   for (const char* const name : {"field", "combo", "choice", "last", "button"}) {
     Shown s;
@@ -395,7 +380,7 @@ TEST(Shortcuts, SaveTheReportAfterTheFieldBeingTyped) {
       QTest::keyClicks(QApplication::focusWidget(), "2014");
       press(Qt::Key_Tab);
       QTest::keyClicks(QApplication::focusWidget(), "13");
-      const auto refused = messages_of([] { press(Qt::Key_S, Qt::ControlModifier); });
+      const auto refused = tests::messages_of([] { press(Qt::Key_S, Qt::ControlModifier); });
       // The month is refused and nothing else is asked.
       ASSERT_EQ(1U, refused.size());
       main.window->activateWindow();
@@ -404,7 +389,7 @@ TEST(Shortcuts, SaveTheReportAfterTheFieldBeingTyped) {
       EXPECT_TRUE(main.window->binding("Month")->owns(QApplication::focusWidget()));
       press(Qt::Key_A, Qt::ControlModifier);
       QTest::keyClicks(QApplication::focusWidget(), "11");
-      const auto told = messages_of([] { press(Qt::Key_S, Qt::ControlModifier); });
+      const auto told = tests::messages_of([] { press(Qt::Key_S, Qt::ControlModifier); });
       EXPECT_EQ(std::vector{std::string(
                     text::resolve({text::id::kNoDateEntered}, main.screen->language()))},
                 told);
@@ -431,7 +416,7 @@ TEST(Shortcuts, AreNotHeardInADialog) {
   EXPECT_EQ(0, heard);
   main.window->activateWindow();
   QApplication::processEvents();
-  EXPECT_EQ(1U, messages_of([] { press(Qt::Key_S, Qt::ControlModifier); }).size());
+  EXPECT_EQ(1U, tests::messages_of([] { press(Qt::Key_S, Qt::ControlModifier); }).size());
   EXPECT_EQ(1, heard);
 }
 
@@ -447,7 +432,7 @@ TEST(LoadingState, AsksWhenItIsChosenNotWhenItIsPassed) {
   desktop::ScreenWindow window(screen, nullptr);
   tests::show(window);
   const ui::Control& loading = *screen.find("loading_state");
-  const auto passing = messages_of([&] {
+  const auto passing = tests::messages_of([&] {
     for (int i = 0; i < 40 && screen.focused() != &loading; ++i) press(Qt::Key_Tab);
     press(Qt::Key_Tab);
     press(Qt::Key_Tab, Qt::ShiftModifier);
@@ -455,7 +440,7 @@ TEST(LoadingState, AsksWhenItIsChosenNotWhenItIsPassed) {
   EXPECT_EQ(std::vector<std::string>{}, passing);
   ASSERT_EQ(&loading, screen.focused());
   const int before = loading.selected;
-  const auto choosing = messages_of([&] { press(before == 0 ? Qt::Key_Down : Qt::Key_Up); });
+  const auto choosing = tests::messages_of([&] { press(before == 0 ? Qt::Key_Down : Qt::Key_Up); });
   const std::string question(text::resolve({text::id::kAskLoadingState}, text::Language::kEnglish));
   EXPECT_EQ(std::vector{question}, choosing);
   EXPECT_EQ(before, loading.selected);  // Escape is No
