@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <numbers>
 #include <string>
 #include <vector>
 
+#include "codetables/compass.h"
 #include "text/ids.h"
 
 namespace codetables {
@@ -15,8 +15,6 @@ namespace {
 namespace id = text::id;
 using ui::Ink;
 using ui::Point;
-
-constexpr double kDegree = std::numbers::pi / 180;
 
 std::string word(text::Id text, text::Language language) {
   return std::string(text::bilingual(text, language));
@@ -44,15 +42,12 @@ constexpr Bearing kBearings[] = {
 constexpr std::string_view kShipInLead = "0";
 constexpr std::string_view kShipInIce = "9";
 
-Point at(double degrees, double away) {
-  return {away * std::sin(degrees * kDegree), away * std::cos(degrees * kDegree)};
-}
-
 // Along the horizon clockwise.
 std::vector<Point> arc(double from, double to) {
   constexpr int kSteps = 36;
   std::vector<Point> points;
-  for (int i = 0; i <= kSteps; ++i) points.push_back(at(from + (to - from) * i / kSteps, 1));
+  for (int i = 0; i <= kSteps; ++i)
+    points.push_back(at_bearing(from + (to - from) * i / kSteps, 1));
   return points;
 }
 
@@ -62,32 +57,32 @@ void append(std::vector<Point>& points, const std::vector<Point>& more) {
 
 // Water on the ship's side of the edge, ice beyond it.
 void add_edge(ui::Drawing& rose, double bearing, text::Language language) {
-  const double half = std::acos(kEdge) / kDegree;
+  const double half = std::acos(kEdge) / kRadiansInADegree;
   rose.shapes.emplace_back(ui::Area{arc(bearing + half, bearing - half + 360), Ink::kWater});
   rose.shapes.emplace_back(ui::Area{arc(bearing - half, bearing + half), Ink::kIce});
+  rose.shapes.emplace_back(ui::Polyline{
+      {at_bearing(bearing - half, 1), at_bearing(bearing + half, 1)}, Ink::kMark, true});
+  rose.shapes.emplace_back(ui::Polyline{{{}, at_bearing(bearing, kEdge)}, Ink::kMark, false, true});
   rose.shapes.emplace_back(
-      ui::Polyline{{at(bearing - half, 1), at(bearing + half, 1)}, Ink::kMark, true});
-  rose.shapes.emplace_back(ui::Polyline{{{}, at(bearing, kEdge)}, Ink::kMark, false, true});
-  rose.shapes.emplace_back(
-      ui::ShortText{at(bearing, (1 + kEdge) / 2), word(id::kIceOnDrawing, language)});
+      ui::ShortText{at_bearing(bearing, (1 + kEdge) / 2), word(id::kIceOnDrawing, language)});
 }
 
 // Ice all around, but for the lead.
 void add_ice(ui::Drawing& rose, bool with_lead, text::Language language) {
   rose.shapes.emplace_back(ui::Area{arc(0, 360), Ink::kIce});
   if (with_lead) {
-    const double half = std::asin(kLead) / kDegree;
+    const double half = std::asin(kLead) / kRadiansInADegree;
     std::vector<Point> water = arc(90 - half, 90 + half);
     append(water, arc(270 - half, 270 + half));
     rose.shapes.emplace_back(ui::Area{water, Ink::kWater});
     for (const double side : {-1.0, 1.0}) {
-      rose.shapes.emplace_back(
-          ui::Polyline{{at(270 + side * half, 1), at(90 - side * half, 1)}, Ink::kMark, true});
+      rose.shapes.emplace_back(ui::Polyline{
+          {at_bearing(270 + side * half, 1), at_bearing(90 - side * half, 1)}, Ink::kMark, true});
     }
   }
   for (const double side : {0.0, 180.0}) {
     rose.shapes.emplace_back(
-        ui::ShortText{at(side, (1 + kLead) / 2), word(id::kIceOnDrawing, language)});
+        ui::ShortText{at_bearing(side, (1 + kLead) / 2), word(id::kIceOnDrawing, language)});
   }
 }
 
@@ -190,7 +185,7 @@ ui::Drawing ice_edge(std::string_view figures, text::Language language) {
   for (const Bearing& bearing : kBearings) {
     const bool chosen = bearing.figures == figures;
     rose.shapes.emplace_back(
-        ui::ShortText{at(bearing.degrees, kNames), word(bearing.name, language),
+        ui::ShortText{at_bearing(bearing.degrees, kNames), word(bearing.name, language),
                       ui::ShortText::Side::kCentre, chosen ? Ink::kMark : Ink::kText});
   }
   rose.shapes.emplace_back(ui::Marker{});

@@ -5,6 +5,8 @@
 #include <numbers>
 #include <utility>
 
+#include "codetables/compass.h"
+#include "codetables/tables/sea_waves.h"
 #include "text/numbers.h"
 
 namespace codetables {
@@ -70,21 +72,15 @@ std::vector<Point> surface(double height) {
 // ---- Directions. A compass card of radius 1 around the ship.
 
 constexpr double kEdge = 1.3;
-constexpr double kNorth = 36;  // tens of degrees
-
-Point on_card(double degrees, double radius) {
-  const double angle = degrees * std::numbers::pi / 180.0;
-  return {radius * std::sin(angle), radius * std::cos(angle)};
-}
 
 // The rim with a mark every 30 degrees, as one line.
 std::vector<Point> rim() {
   std::vector<Point> points;
   for (int degrees = 0; degrees <= 360; degrees += 10) {
-    points.push_back(on_card(degrees, 1.0));
+    points.push_back(at_bearing(degrees, 1.0));
     if (degrees % 30 != 0) continue;
-    points.push_back(on_card(degrees, 0.92));
-    points.push_back(on_card(degrees, 1.0));
+    points.push_back(at_bearing(degrees, 0.92));
+    points.push_back(at_bearing(degrees, 1.0));
   }
   return points;
 }
@@ -95,20 +91,20 @@ void add_card(Drawing& drawing) {
       {0, "N"}, {90, "E"}, {180, "S"}, {270, "W"}};
   for (const auto& [degrees, name] : kPoints)
     drawing.shapes.emplace_back(
-        ShortText{on_card(degrees, 1.15), name, ShortText::Side::kCentre, Ink::kText});
+        ShortText{at_bearing(degrees, 1.15), name, ShortText::Side::kCentre, Ink::kText});
 }
 
 // From the rim to near the ship, with a head.
 void add_arrow(Drawing& drawing, double degrees, const std::string& name) {
   constexpr double kHead = 0.2;
-  const Point tip = on_card(degrees, 0.2);
-  drawing.shapes.emplace_back(Polyline{{on_card(degrees, 0.9), tip}, Ink::kMark, true});
-  const Point across = on_card(degrees + 90, kHead / 2);
-  const Point back = on_card(degrees, 0.2 + kHead);
+  const Point tip = at_bearing(degrees, 0.2);
+  drawing.shapes.emplace_back(Polyline{{at_bearing(degrees, 0.9), tip}, Ink::kMark, true});
+  const Point across = at_bearing(degrees + 90, kHead / 2);
+  const Point back = at_bearing(degrees, 0.2 + kHead);
   drawing.shapes.emplace_back(
       Area{{tip, {back.x + across.x, back.y + across.y}, {back.x - across.x, back.y - across.y}},
            Ink::kMark});
-  const Point beside = on_card(degrees + 16, 0.72);
+  const Point beside = at_bearing(degrees + 16, 0.72);
   drawing.shapes.emplace_back(ShortText{beside, name, ShortText::Side::kCentre, Ink::kText});
 }
 
@@ -164,7 +160,7 @@ std::shared_ptr<const Drawing> drawn_directions(
   add_card(drawing);
   for (std::size_t i = 0; i < directions.size(); ++i) {
     const double tens = directions[i].value_or(0);
-    if (tens >= 1 && tens <= kNorth)
+    if (tens >= 1 && tens <= kNorthInTens)
       add_arrow(drawing, tens * 10.0, text::format_int(static_cast<long long>(i) + 1));
   }
   return std::make_shared<const Drawing>(std::move(drawing));

@@ -8,7 +8,6 @@
 namespace codetables {
 namespace {
 
-constexpr int kNorth = 36;  // tens of degrees
 constexpr double kStep = 0.5;
 
 // Two figures from a text of digits.
@@ -36,7 +35,7 @@ bool is_zero(std::string_view height) {
 }  // namespace
 
 std::vector<std::string> swell_direction_lines(bool first_swell) {
-  std::vector<std::string> lines = text::numbered_lines(1, kNorth, 2);
+  std::vector<std::string> lines = text::numbered_lines(1, kNorthInTens, 2);
   if (first_swell) lines.emplace_back(kWaveIndeterminate);
   lines.emplace_back(kWaveUnknown);
   lines.emplace_back(kNoWaves);
@@ -67,7 +66,7 @@ CheckedWave check_swell_direction(std::string_view typed, bool first_swell) {
   typed = text::trim(typed);
   if (typed == kWaveUnknown || (first_swell && typed == kWaveIndeterminate))
     return {WaveCheck::kTaken, std::string(typed)};
-  return check_figures(typed, kNorth);
+  return check_figures(typed, kNorthInTens);
 }
 
 CheckedWave check_wave_period(std::string_view typed, bool wind_wave) {

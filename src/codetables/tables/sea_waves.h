@@ -8,6 +8,7 @@
 
 namespace codetables {
 
+inline constexpr int kNorthInTens = 36;               ///< tens of degrees, the highest direction
 inline constexpr int kLongestWavePeriod = 29;         ///< seconds; longer ones are no sea waves
 inline constexpr int kLongestWavePeriodOffered = 25;  ///< seconds; a dialog doubts longer ones
 inline constexpr double kHighestWave = 14.5;          ///< metres
