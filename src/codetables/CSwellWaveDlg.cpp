@@ -101,8 +101,7 @@ void CSwellWaveDlg::on_open() {
     const Swell& given = swell(figure.swell);
     std::string shown = given.*figure.member;
     if (figure.what == What::kHeight)
-      shown = codetables::wave_height_shown(shown, given.period,
-                                            text::resolve({id::kSwellHeightSmallest}, language()));
+      shown = codetables::wave_height_shown(shown, given.period, figure.field.smallest());
     figure.field.open(given.*figure.member, shown);
     figure.box.set_own(given.*figure.member == figure.box.instead);
     // What a box says when the screen opens is nobody's text.

@@ -41,10 +41,10 @@ class CWaveField : public ui::Combo {
   [[nodiscard]] bool is_as_opened() const { return content == shown_; }
   /// For the form: what it gave where the field shows the same as on opening.
   [[nodiscard]] std::string value() const;
-
- private:
+  /// How the smallest height is shown; empty for what is no height.
   [[nodiscard]] std::string smallest() const;
 
+ private:
   const WaveFigure& figure_;
   std::string given_;
   std::string shown_;

@@ -67,9 +67,8 @@ CWindDlg::CWindDlg(ui::Services& services, Values values, std::optional<codetabl
 void CWindDlg::on_open() {
   reference_height.content = probable_height_;
   period.open(values_.period, values_.period);
-  height.open(values_.height, codetables::wave_height_shown(
-                                  values_.height, values_.period,
-                                  text::resolve({id::kWindWaveHeightSmallest}, language())));
+  height.open(values_.height,
+              codetables::wave_height_shown(values_.height, values_.period, height.smallest()));
   for (CWaveBox* const box : {&period_unknown, &period_confused})
     box->set_own(values_.period == box->instead);
   height_unknown.set_own(values_.height == height_unknown.instead);
