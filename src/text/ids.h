@@ -1133,5 +1133,9 @@ inline constexpr Id kDraftStays{42592};
 inline constexpr Id kDraftNotKept{42593};
 inline constexpr Id kDraftUnreadable{42630};
 inline constexpr Id kDraftWithoutLock{42631};
+inline constexpr Id kReportListName{44070};
+inline constexpr Id kReportListDate{44071};
+inline constexpr Id kReportListPosition{44072};
+inline constexpr Id kReportListTime{44073};
 
 }  // namespace text::id

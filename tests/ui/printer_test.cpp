@@ -11,10 +11,18 @@ TEST(Columns, AreTwoForAJapaneseCharacterAndOneForAnyOther) {
     std::string_view text;
     std::size_t columns;
   };
-  const Row rows[] = {{"", 0},           {"BBXX 01234", 10},         {"東京", 4},
-                      {"ＡＢ", 4},       {"ｷｬﾝｾﾙ", 5},               {"a気b", 4},
-                      {"é", 1},          {"\xE6\x9D", 2},            {"\xFF\xFE", 2},
-                      {"\xE6 东", 4},    {"\xF0\x9F\x98\x80", 1},    {"　", 2}};
+  const Row rows[] = {{"", 0},
+                      {"BBXX 01234", 10},
+                      {"東京", 4},
+                      {"ＡＢ", 4},
+                      {"ｷｬﾝｾﾙ", 5},
+                      {"a気b", 4},
+                      {"é", 1},
+                      {"\xE6\x9D", 2},
+                      {"\xFF\xFE", 2},
+                      {"\xE6 东", 4},
+                      {"\xF0\x9F\x98\x80", 1},
+                      {"　", 2}};
   for (const Row& row : rows) EXPECT_EQ(ui::columns_of(row.text), row.columns) << row.text;
 }
 
