@@ -209,6 +209,10 @@ class Files {
   /// The whole file. Nothing above `largest` bytes is read (kOther).
   [[nodiscard]] virtual Result<std::string> read(const std::string& path,
                                                  std::uint64_t largest = 64U << 20U) const = 0;
+  /// `count` bytes of the file from there on, or what there is of them: for a logbook of any length.
+  /// Each call looks anew, so a file that is exchanged between two gives parts of both.
+  [[nodiscard]] virtual Result<std::string> read_part(const std::string& path, std::uint64_t from,
+                                                      std::uint64_t count) const = 0;
 
   // Only regular files are read and written; anything else of the name is kNotAFile at once.
 

@@ -51,6 +51,11 @@ class OneCallFails : public fakes::FakeFiles {
     if (is_it()) return with;
     return FakeFiles::read(path, largest);
   }
+  [[nodiscard]] platform::Result<std::string> read_part(const std::string& path, std::uint64_t from,
+                                                        std::uint64_t count) const override {
+    if (is_it()) return with;
+    return FakeFiles::read_part(path, from, count);
+  }
   [[nodiscard]] platform::Result<platform::StagedFile> stage(const std::string& path,
                                                              std::string_view content) override {
     if (is_it()) return with;

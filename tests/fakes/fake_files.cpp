@@ -10,8 +10,9 @@ using platform::FileError;
 namespace {
 
 constexpr std::array kOperationNames = {
-    "read",   "stage", "commit", "discard",       "note", "lock",   "read_log",
-    "append", "cut",   "list",   "create_folder", "copy", "remove", "clear_read_only"};
+    "read",     "stage",           "commit",   "discard", "note",          "lock",
+    "read_log", "append",          "cut",      "list",    "create_folder", "copy",
+    "remove",   "clear_read_only", "read_part"};
 
 char lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -213,13 +214,26 @@ FileError FakeFiles::writable(const std::string& path, std::uint64_t more) const
 platform::Result<std::string> FakeFiles::read(const std::string& path,
                                               std::uint64_t largest) const {
   FileError error = begin(Operation::kRead, path);
-  const Node* node = find(path);
-  if (error == FileError::kNone && node == nullptr) error = FileError::kNotFound;
-  if (error == FileError::kNone && node->folder) error = FileError::kAccessDenied;
-  if (error == FileError::kNone && node->other) error = FileError::kNotAFile;
-  if (error == FileError::kNone && node->content.size() > largest) error = FileError::kOther;
+  if (error == FileError::kNone) error = readable(path);
+  if (error == FileError::kNone && find(path)->content.size() > largest) error = FileError::kOther;
   if (end(error) != FileError::kNone) return error;
-  return node->content;
+  return find(path)->content;
+}
+
+FileError FakeFiles::readable(const std::string& path) const {
+  const Node* node = find(path);
+  if (node == nullptr) return FileError::kNotFound;
+  if (node->folder) return FileError::kAccessDenied;
+  return node->other ? FileError::kNotAFile : FileError::kNone;
+}
+
+platform::Result<std::string> FakeFiles::read_part(const std::string& path, std::uint64_t from,
+                                                   std::uint64_t count) const {
+  FileError error = begin(Operation::kReadPart, path);
+  if (error == FileError::kNone) error = readable(path);
+  if (end(error) != FileError::kNone) return error;
+  const std::string& content = find(path)->content;
+  return from >= content.size() ? std::string() : content.substr(from, count);
 }
 
 platform::Result<platform::StagedFile> FakeFiles::stage(const std::string& path,

@@ -40,6 +40,7 @@ class FakeFiles : public platform::Files {
     kCopy,
     kRemove,
     kClearReadOnly,
+    kReadPart,
   };
   /// Thrown where kill_before() or kill_after() says that the program died. What lies in the fake
   /// afterwards is what the next start of the program finds.
@@ -100,6 +101,8 @@ class FakeFiles : public platform::Files {
   [[nodiscard]] platform::Result<std::string> read(const std::string& path,
                                                    std::uint64_t largest = 64U
                                                                            << 20U) const override;
+  [[nodiscard]] platform::Result<std::string> read_part(const std::string& path, std::uint64_t from,
+                                                        std::uint64_t count) const override;
   [[nodiscard]] platform::Result<platform::StagedFile> stage(const std::string& path,
                                                              std::string_view content) override;
   [[nodiscard]] platform::FileError commit(const platform::StagedFile& staged,
@@ -151,6 +154,8 @@ class FakeFiles : public platform::Files {
                             const std::string& second = "") const;
   /// Ends an operation: a real failure is marked in the log, a kill behind it takes place.
   platform::FileError end(platform::FileError error) const;
+  /// kNone where a file can be read.
+  [[nodiscard]] platform::FileError readable(const std::string& path) const;
   [[nodiscard]] platform::FileError writable(const std::string& path, std::uint64_t more) const;
 
   std::vector<Node> nodes_;

@@ -131,6 +131,10 @@ class NoFiles : public platform::Files {
                                                    std::uint64_t) const override {
     return platform::FileError::kNotFound;
   }
+  [[nodiscard]] platform::Result<std::string> read_part(const std::string&, std::uint64_t,
+                                                        std::uint64_t) const override {
+    return platform::FileError::kNotFound;
+  }
   [[nodiscard]] platform::Result<platform::StagedFile> stage(const std::string&,
                                                              std::string_view) override {
     return platform::FileError::kAccessDenied;

@@ -306,6 +306,41 @@ TYPED_TEST(FilesSuite, ReadRefusesWhatIsMissingOrTooLarge) {
   EXPECT_EQ(*this->files().read("C:\\out\\a", 5).value, "12345");
 }
 
+TYPED_TEST(FilesSuite, APartIsWhatThereIsOfIt) {
+  const std::string path = "C:\\out\\a";
+  EXPECT_EQ(this->files().read_part(path, 0, 1).error, FileError::kNotFound);
+  // Longer than any block in which it may be read.
+  std::string whole;
+  for (int i = 0; i < 50000; ++i) whole += std::to_string(i % 7919) + "\n";
+  EXPECT_EQ(this->files().replace(path, whole), FileError::kNone);
+  constexpr std::uint64_t kAll = ~std::uint64_t{0};
+  const std::uint64_t size = whole.size();
+  for (const auto& [from, count] :
+       std::initializer_list<std::pair<std::uint64_t, std::uint64_t>>{{0, 0},
+                                                                      {0, 1},
+                                                                      {0, size},
+                                                                      {0, kAll},
+                                                                      {1, kAll},
+                                                                      {65535, 2},
+                                                                      {1, 65536},
+                                                                      {100, 150000},
+                                                                      {size - 1, 1},
+                                                                      {size - 1, kAll}}) {
+    const auto part = this->files().read_part(path, from, count);
+    ASSERT_TRUE(part.ok()) << from << " " << count;
+    EXPECT_EQ(*part.value, whole.substr(from, count)) << from << " " << count;
+  }
+  for (const std::uint64_t from : {size, size + 1, kAll / 2, kAll})
+    EXPECT_EQ(this->files().read_part(path, from, kAll).value, "") << from;
+}
+
+TYPED_TEST(FilesSuite, APartIsReadOfRegularFilesOnly) {
+  this->pipe("C:\\out\\pipe");
+  EXPECT_EQ(this->files().read_part("C:\\out\\pipe", 0, 1).error, FileError::kNotAFile);
+  EXPECT_EQ(this->files().read_part("C:\\out", 0, 1).error, FileError::kAccessDenied);
+  EXPECT_EQ(this->files().read_part("A:\\x", 0, 1).error, FileError::kMediumMissing);
+}
+
 TYPED_TEST(FilesSuite, CopyReplacesItsTarget) {
   EXPECT_EQ(this->files().replace("C:\\out\\a", "new"), FileError::kNone);
   EXPECT_EQ(this->files().replace("C:\\out\\b", "old"), FileError::kNone);

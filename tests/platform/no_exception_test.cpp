@@ -31,6 +31,7 @@ class NoMemory : public platform::posix::SystemCalls {
     return SystemCalls::close(file);
   }
   ssize_t read(int, void*, std::size_t) override { throw std::bad_alloc(); }
+  ssize_t read_at(int, void*, std::size_t, off_t) override { throw std::bad_alloc(); }
   DIR* opendir(const char* path) override {
     ++open_folders;
     return SystemCalls::opendir(path);
@@ -55,6 +56,7 @@ TEST(NoException, MemoryThatRunsOutIsAnErrorAndLeavesNothingOpen) {
   const platform::posix::DriveMap drives(temp.path());
   const platform::posix::PosixFiles files(drives, calls);
   EXPECT_EQ(files.read("C:\\a").error, FileError::kNoMemory);
+  EXPECT_EQ(files.read_part("C:\\a", 0, 1).error, FileError::kNoMemory);
   EXPECT_EQ(files.list("C:\\").error, FileError::kNoMemory);
   EXPECT_EQ(calls.open_files, 0);
   EXPECT_EQ(calls.open_folders, 0);

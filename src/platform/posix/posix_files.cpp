@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <ctime>
 #include <filesystem>
+#include <limits>
 #include <memory>
 #include <new>
 
@@ -168,19 +169,7 @@ class PosixFiles::Log : public LockedLog {
   void drop_if_empty() override { drop_ = true; }
 
   [[nodiscard]] Result<std::string> read(std::uint64_t from, std::uint64_t count) const override {
-    std::string content(static_cast<std::size_t>(count), '\0');
-    std::size_t done = 0;
-    while (done < content.size()) {
-      const auto got = unbroken([&] {
-        return calls_.read_at(open_->file(), content.data() + done, content.size() - done,
-                              static_cast<off_t>(from + done));
-      });
-      if (got == -1) return file_error(errno);
-      if (got == 0) break;
-      done += static_cast<std::size_t>(got);
-    }
-    content.resize(done);
-    return content;
+    return files_.part_of(open_->file(), from, count);
   }
 
   [[nodiscard]] FileError append(std::string_view content) override {
@@ -319,16 +308,53 @@ FileError PosixFiles::flush_folder(const std::string& os_path) const {
 
 // ---- Reading
 
+FileError PosixFiles::regular(const Open& file) const {
+  if (!file.ok()) return file.error();
+  struct stat found {};
+  if (unbroken([&] { return calls_.fstat(file.file(), &found); }) == -1) return file_error(errno);
+  if (S_ISDIR(found.st_mode)) return FileError::kAccessDenied;
+  return S_ISREG(found.st_mode) ? FileError::kNone : FileError::kNotAFile;
+}
+
+Result<std::string> PosixFiles::part_of(int file, std::uint64_t from, std::uint64_t count) const {
+  // The end may be asked for as "as much as there is": no room is taken for what is not there.
+  constexpr std::size_t kBlock = 1U << 16U;
+  constexpr auto kBeyond = static_cast<std::uint64_t>(std::numeric_limits<off_t>::max());
+  std::string content;
+  try {
+    while (content.size() < count && content.size() < kBeyond - std::min(from, kBeyond)) {
+      const std::size_t done = content.size();
+      content.resize(done +
+                     static_cast<std::size_t>(std::min<std::uint64_t>(count - done, kBlock)));
+      const auto got = unbroken([&] {
+        return calls_.read_at(file, content.data() + done, content.size() - done,
+                              static_cast<off_t>(from + done));
+      });
+      if (got == -1) return file_error(errno);
+      content.resize(done + static_cast<std::size_t>(got));
+      if (got == 0) break;
+    }
+  } catch (const std::bad_alloc&) {
+    return FileError::kNoMemory;
+  }
+  return content;
+}
+
+Result<std::string> PosixFiles::read_part(const std::string& path, std::uint64_t from,
+                                          std::uint64_t count) const {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  const Open file(calls_, *os_path.value, O_RDONLY | O_NOCTTY | O_NONBLOCK);
+  if (const auto error = regular(file); error != FileError::kNone) return error;
+  return part_of(file.file(), from, count);
+}
+
 Result<std::string> PosixFiles::read(const std::string& path, std::uint64_t largest) const {
   const auto os_path = os(path);
   if (!os_path.ok()) return os_path.error;
   // Without waiting: opening a pipe would last until somebody writes into it.
   const Open file(calls_, *os_path.value, O_RDONLY | O_NOCTTY | O_NONBLOCK);
-  if (!file.ok()) return file.error();
-  struct stat found {};
-  if (unbroken([&] { return calls_.fstat(file.file(), &found); }) == -1) return file_error(errno);
-  if (S_ISDIR(found.st_mode)) return FileError::kAccessDenied;
-  if (!S_ISREG(found.st_mode)) return FileError::kNotAFile;
+  if (const auto error = regular(file); error != FileError::kNone) return error;
   std::string content;
   std::array<char, 1U << 16U> block;
   try {

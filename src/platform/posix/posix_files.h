@@ -43,6 +43,8 @@ class PosixFiles : public Files {
 
   [[nodiscard]] Result<std::string> read(const std::string& path,
                                          std::uint64_t largest = 64U << 20U) const override;
+  [[nodiscard]] Result<std::string> read_part(const std::string& path, std::uint64_t from,
+                                              std::uint64_t count) const override;
   [[nodiscard]] Result<StagedFile> stage(const std::string& path,
                                          std::string_view content) override;
   [[nodiscard]] FileError commit(const StagedFile& staged, Over over = Over::kReplace) override;
@@ -73,6 +75,10 @@ class PosixFiles : public Files {
   class LockClaim;
 
   [[nodiscard]] Result<std::string> os(const std::string& path) const;
+  /// kNone for a regular file that was opened for reading.
+  [[nodiscard]] FileError regular(const Open& file) const;
+  [[nodiscard]] Result<std::string> part_of(int file, std::uint64_t from,
+                                            std::uint64_t count) const;
   [[nodiscard]] std::optional<struct stat> about(const std::string& path) const;
   [[nodiscard]] Look look_at(const std::string& os_path) const;
   [[nodiscard]] FileError folder_writable(const std::string& os_path) const;
