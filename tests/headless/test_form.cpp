@@ -104,7 +104,7 @@ void CFormDlg::set_up_menu() {
                           {},
                           [this] {
                             const auto printed = services().printer.print(
-                                {"Listing", {"first", "second "}, {diagonal()}});
+                                {"Listing", ui::document_of({"first", "second "}), {diagonal()}});
                             note.content =
                                 printed == ui::PrintResult::kSuccess ? "printed" : "not printed";
                           },
