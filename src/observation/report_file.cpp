@@ -52,18 +52,11 @@ Recovery failed(FileError error, const std::string& path) {
   return recovery;
 }
 
-/// Removes what processes that are no more staged in the two folders.
+/// Of both folders, as platform::clear_staged() does it.
 void clear_staged(platform::Files& files, const Folders& folders) {
   for (const std::string* folder : {&folders.reports, &folders.logbook}) {
     if (folder == &folders.logbook && folders.logbook == folders.reports) continue;
-    const auto entries = files.list(folder->empty() ? files.current_folder() : *folder);
-    if (!entries.ok()) continue;
-    for (const platform::FolderEntry& entry : *entries.value) {
-      const auto process = platform::staged_by(entry.name);
-      // A process that lives may be about to rename it.
-      if (!process || entry.is_folder || files.is_running(*process)) continue;
-      files.discard({*folder + entry.name, *folder + entry.name});
-    }
+    platform::clear_staged(files, folder->empty() ? files.current_folder() : *folder);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "observation/report_file.h"
+#include "text/checksum.h"
 #include "text/strings.h"
 
 namespace observation {
@@ -13,12 +14,9 @@ constexpr std::string_view kYes = "yes";
 constexpr std::string_view kNo = "no";
 
 std::uint64_t checksum_of(std::string_view content) {
-  // Fowler, Noll and Vo's 1a with 64 bits: finds damage, which is all it has to do.
-  constexpr std::uint64_t kStart = 14695981039346656037U;
-  constexpr std::uint64_t kPrime = 1099511628211U;
-  std::uint64_t sum = kStart;
-  for (const char c : content) sum = (sum ^ static_cast<unsigned char>(c)) * kPrime;
-  return sum;
+  text::Checksum sum;
+  sum.add(content);
+  return sum.value();
 }
 
 /// "NAME LENGTH", the bytes, each with a line end: any bytes survive.

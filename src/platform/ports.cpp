@@ -1,5 +1,7 @@
 #include "platform/ports.h"
 
+#include "platform/paths.h"
+
 namespace platform {
 
 FileError why_no_file(const Look& found) {
@@ -46,6 +48,17 @@ std::optional<std::uint64_t> staged_by(std::string_view name) {
   }
   for (const char c : name.substr(0, dash)) process = process * 10 + static_cast<unsigned>(c - '0');
   return process;
+}
+
+void clear_staged(Files& files, const std::string& folder) {
+  const auto entries = files.list(folder);
+  if (!entries.ok()) return;
+  for (const FolderEntry& entry : *entries.value) {
+    const auto process = staged_by(entry.name);
+    if (!process || entry.is_folder || files.is_running(*process)) continue;
+    const std::string path = join(folder, entry.name);
+    files.discard({path, path});
+  }
 }
 
 bool Files::is_file(const std::string& path) const {

@@ -4,6 +4,7 @@
 // letters to the computer's folders.
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -155,6 +156,9 @@ struct StagedFile {
   std::string temporary;  ///< where it lies; no search for ".tlx" or "immt5.log" matches the name
 };
 
+/// The next piece of a content, empty behind its end; an error ends whatever asked for it.
+using NextPiece = std::function<Result<std::string>()>;
+
 /// The process whose stage() made a file of that name (".kavrel-PID-N.part", without a folder), or
 /// nothing for any other name.
 [[nodiscard]] std::optional<std::uint64_t> staged_by(std::string_view name);
@@ -221,6 +225,10 @@ class Files {
   // file, a crash after it the new one.
   [[nodiscard]] virtual Result<StagedFile> stage(const std::string& path,
                                                  std::string_view content) = 0;
+  /// stage() for a content of any length, of which one piece at a time is held. What is read of the
+  /// staged file next comes from the medium where the system allows it, not from what it remembers.
+  [[nodiscard]] virtual Result<StagedFile> stage_pieces(const std::string& path,
+                                                        const NextPiece& next) = 0;
   [[nodiscard]] virtual FileError commit(const StagedFile& staged, Over over = Over::kReplace) = 0;
   virtual void discard(const StagedFile& staged) = 0;
   /// stage() and commit(), with discard() on failure.
@@ -267,6 +275,10 @@ class Files {
   [[nodiscard]] virtual std::string current_folder() const = 0;
   virtual void set_current_folder(const std::string& folder) = 0;
 };
+
+/// Removes what processes that are no more staged in the folder. One that lives may be about to
+/// rename its file.
+void clear_staged(Files& files, const std::string& folder);
 
 class HelpViewer {
  public:

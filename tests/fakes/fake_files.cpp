@@ -250,6 +250,24 @@ platform::Result<platform::StagedFile> FakeFiles::stage(const std::string& path,
   return staged;
 }
 
+platform::Result<platform::StagedFile> FakeFiles::stage_pieces(const std::string& path,
+                                                               const platform::NextPiece& next) {
+  const auto staged = stage(path, "");
+  if (!staged.ok()) return staged;
+  FileError error = FileError::kNone;
+  while (error == FileError::kNone) {
+    const auto piece = next();
+    error = piece.error;
+    if (!piece.ok() || piece.value->empty()) break;
+    error = writable(path, find(staged.value->temporary)->content.size() + piece.value->size());
+    if (error == FileError::kNone) find(staged.value->temporary)->content += *piece.value;
+  }
+  if (error == FileError::kNone) return staged;
+  std::erase_if(nodes_,
+                [&](const Node& node) { return key(node.path) == key(staged.value->temporary); });
+  return error;
+}
+
 FileError FakeFiles::commit(const platform::StagedFile& staged, platform::Over over) {
   FileError error = begin(Operation::kCommit, staged.path);
   const Node* beside = find(staged.temporary);

@@ -105,6 +105,9 @@ class FakeFiles : public platform::Files {
                                                         std::uint64_t count) const override;
   [[nodiscard]] platform::Result<platform::StagedFile> stage(const std::string& path,
                                                              std::string_view content) override;
+  /// Logged as "stage"; what `next` does is logged behind it. A kill leaves what was written.
+  [[nodiscard]] platform::Result<platform::StagedFile> stage_pieces(
+      const std::string& path, const platform::NextPiece& next) override;
   [[nodiscard]] platform::FileError commit(const platform::StagedFile& staged,
                                            platform::Over over = platform::Over::kReplace) override;
   void discard(const platform::StagedFile& staged) override;

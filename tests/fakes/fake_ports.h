@@ -144,6 +144,10 @@ class NoFiles : public platform::Files {
                                                              std::string_view) override {
     return platform::FileError::kAccessDenied;
   }
+  [[nodiscard]] platform::Result<platform::StagedFile> stage_pieces(
+      const std::string&, const platform::NextPiece&) override {
+    return platform::FileError::kAccessDenied;
+  }
   [[nodiscard]] platform::FileError commit(const platform::StagedFile&, platform::Over) override {
     return platform::FileError::kAccessDenied;
   }

@@ -73,6 +73,9 @@ class FailingCalls : public platform::posix::SystemCalls {
   int reserve(int file, off_t from, off_t size) override {
     return next("reserve") ? SystemCalls::reserve(file, from, size) : -1;
   }
+  int forget_cached(int file) override {
+    return next("forget_cached") ? SystemCalls::forget_cached(file) : -1;
+  }
   int fchmod(int file, mode_t mode) override {
     return next("fchmod") ? SystemCalls::fchmod(file, mode) : -1;
   }

@@ -341,6 +341,54 @@ TYPED_TEST(FilesSuite, APartIsReadOfRegularFilesOnly) {
   EXPECT_EQ(this->files().read_part("A:\\x", 0, 1).error, FileError::kMediumMissing);
 }
 
+TYPED_TEST(FilesSuite, PiecesAreStagedOneBehindTheOtherUntilOneIsEmpty) {
+  const std::vector<std::string> pieces = {"one", std::string(100000, 'x'), "two", "", "never"};
+  std::size_t at = 0;
+  const auto staged =
+      this->files().stage_pieces("C:\\out\\a", [&] { return platform::Result(pieces[at++]); });
+  ASSERT_TRUE(staged.ok());
+  EXPECT_EQ(at, 4U);
+  EXPECT_EQ(this->content("C:\\out\\a"), "(none)");
+  const std::string whole = "one" + std::string(100000, 'x') + "two";
+  EXPECT_EQ(this->content(staged.value->temporary), whole);
+  EXPECT_EQ(this->files().commit(*staged.value), FileError::kNone);
+  EXPECT_EQ(this->content("C:\\out\\a"), whole);
+  EXPECT_EQ(this->names(), Names{"a"});
+}
+
+TYPED_TEST(FilesSuite, APieceThatCannotBeHadLeavesNothingStaged) {
+  EXPECT_EQ(this->files().replace("C:\\out\\a", "old"), FileError::kNone);
+  int asked = 0;
+  const auto next = [&]() -> platform::Result<std::string> {
+    if (++asked == 1) return std::string("piece");
+    return FileError::kMediumMissing;
+  };
+  EXPECT_EQ(this->files().stage_pieces("C:\\out\\a", next).error, FileError::kMediumMissing);
+  EXPECT_EQ(this->names(), Names{"a"});
+  EXPECT_EQ(this->content("C:\\out\\a"), "old");
+  const auto nothing = [] { return platform::Result(std::string()); };
+  this->pipe("C:\\out\\pipe");
+  EXPECT_EQ(this->files().stage_pieces("C:\\out\\pipe", nothing).error, FileError::kNotAFile);
+  EXPECT_EQ(this->files().stage_pieces("C:\\none\\a", nothing).error, FileError::kNotFound);
+  this->read_only("C:\\out\\a");
+  EXPECT_EQ(this->files().stage_pieces("C:\\out\\a", nothing).error, FileError::kAccessDenied);
+}
+
+TYPED_TEST(FilesSuite, OnlyWhatDeadProcessesStagedIsCleared) {
+  for (const char* const name :
+       {"a.tlx", ".kavrel-x.part", ".kavrel-save", ".kavrel-999999999-0.part"})
+    EXPECT_EQ(this->files().replace(std::string("C:\\out\\") + name, "x"), FileError::kNone);
+  const auto living = this->files().stage("C:\\out\\b", "x");
+  ASSERT_TRUE(living.ok());
+  const std::string name = living.value->temporary.substr(living.value->temporary.rfind('\\') + 1);
+  for (const char* const folder : {"C:\\out", "C:\\out\\", "C:\\none"}) {
+    platform::clear_staged(this->files(), folder);
+    Names left = {".kavrel-save", ".kavrel-x.part", "a.tlx", name};
+    std::sort(left.begin(), left.end());
+    EXPECT_EQ(this->names(), left) << folder;
+  }
+}
+
 TYPED_TEST(FilesSuite, CopyReplacesItsTarget) {
   EXPECT_EQ(this->files().replace("C:\\out\\a", "new"), FileError::kNone);
   EXPECT_EQ(this->files().replace("C:\\out\\b", "old"), FileError::kNone);

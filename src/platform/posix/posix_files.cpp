@@ -393,9 +393,9 @@ void PosixFiles::let_owner_use(int file) const {
     (void)calls_.fchmod(file, (about.st_mode & kPermissions) | kOwner);
 }
 
-FileError PosixFiles::fill(int file, std::string_view content,
+FileError PosixFiles::fill(int file, const Write& write,
                            const std::optional<struct stat>& old) const {
-  if (const auto error = write_all(file, content); error != FileError::kNone) return error;
+  if (const auto error = write(file); error != FileError::kNone) return error;
   constexpr mode_t kPermissions = 0777;
   // A medium without permissions refuses this; the file itself is none the worse for it.
   if (old)
@@ -408,6 +408,32 @@ FileError PosixFiles::fill(int file, std::string_view content,
 }
 
 Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view content) {
+  return stage_with(path, [&](int file) { return write_all(file, content); });
+}
+
+Result<StagedFile> PosixFiles::stage_pieces(const std::string& path, const NextPiece& next) {
+  const auto write = [&](int file) {
+    try {
+      while (true) {
+        const auto piece = next();
+        if (!piece.ok() || piece.value->empty()) return piece.error;
+        if (const auto error = write_all(file, *piece.value); error != FileError::kNone)
+          return error;
+      }
+    } catch (const std::bad_alloc&) {
+      return FileError::kNoMemory;
+    }
+  };
+  auto staged = stage_with(path, write);
+  if (!staged.ok()) return staged;
+  const auto beside = os(staged.value->temporary);
+  // Read back from memory, a medium that keeps nothing would pass for a good one.
+  if (const Open file(calls_, beside.ok() ? *beside.value : "", O_RDONLY); file.ok())
+    (void)calls_.forget_cached(file.file());
+  return staged;
+}
+
+Result<StagedFile> PosixFiles::stage_with(const std::string& path, const Write& write) {
   const auto target = os(path);
   if (!target.ok()) return target.error;
   if (const auto error = folder_writable(*target.value); error != FileError::kNone) return error;
@@ -434,7 +460,7 @@ Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view c
     Open file(calls_, beside, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
     if (!file.ok() && file.error_number() == EEXIST) continue;  // left by an earlier crash
     if (!file.ok()) return file.error();
-    FileError error = fill(file.file(), content, old);
+    FileError error = fill(file.file(), write, old);
     const FileError closing = file.close();
     if (error == FileError::kNone) error = closing;
     if (error == FileError::kNone) return StagedFile{path, folder + name};

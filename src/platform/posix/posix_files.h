@@ -24,6 +24,7 @@
 //
 // A file or folder that nobody may write counts as read-only for the system's administrator too.
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -47,6 +48,8 @@ class PosixFiles : public Files {
                                               std::uint64_t count) const override;
   [[nodiscard]] Result<StagedFile> stage(const std::string& path,
                                          std::string_view content) override;
+  [[nodiscard]] Result<StagedFile> stage_pieces(const std::string& path,
+                                                const NextPiece& next) override;
   [[nodiscard]] FileError commit(const StagedFile& staged, Over over = Over::kReplace) override;
   void discard(const StagedFile& staged) override;
   [[nodiscard]] FileError note(const std::string& path, std::string_view content) override;
@@ -83,8 +86,11 @@ class PosixFiles : public Files {
   [[nodiscard]] Look look_at(const std::string& os_path) const;
   [[nodiscard]] FileError folder_writable(const std::string& os_path) const;
   [[nodiscard]] FileError write_all(int file, std::string_view content) const;
-  [[nodiscard]] FileError fill(int file, std::string_view content,
+  /// Puts a content into a file that is open for it.
+  using Write = std::function<FileError(int file)>;
+  [[nodiscard]] FileError fill(int file, const Write& write,
                                const std::optional<struct stat>& old) const;
+  [[nodiscard]] Result<StagedFile> stage_with(const std::string& path, const Write& write);
   /// Renames where nothing of the new name is, with whatever the file system can do.
   [[nodiscard]] FileError rename_new(const std::string& from, const std::string& to) const;
   /// A file that was just created, with no less than its owner needs.

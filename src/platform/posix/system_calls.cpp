@@ -49,6 +49,9 @@ int SystemCalls::reserve(int file, off_t from, off_t size) {
   // posix_fallocate would change the size and, where it is not supported, write zeros.
   return ::fallocate(file, FALLOC_FL_KEEP_SIZE, from, size);
 }
+int SystemCalls::forget_cached(int file) {
+  return ::posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED) == 0 ? 0 : -1;
+}
 int SystemCalls::fchmod(int file, mode_t mode) {
   return ::fchmod(file, mode);
 }

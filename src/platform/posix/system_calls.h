@@ -34,6 +34,9 @@ class SystemCalls {
   virtual int try_lock(int file);
   /// Sets disk room aside behind the end of the file without changing its size.
   virtual int reserve(int file, off_t from, off_t size);
+  /// What was flushed of the file need not be remembered: the next read asks the medium. -1 where
+  /// that can not be said.
+  virtual int forget_cached(int file);
   virtual int fchmod(int file, mode_t mode);
   virtual int fstat(int file, struct stat* into);
   virtual int stat(const char* path, struct stat* into);
