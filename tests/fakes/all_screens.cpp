@@ -2,6 +2,7 @@
 
 #include "archive/CCreateDir.h"
 #include "archive/CLogPrintDlg.h"
+#include "archive/CQFModifyDlg.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CICECiDlg.h"
@@ -79,6 +80,10 @@ std::vector<ScreenCase> make_table() {
       {"CLogPrintDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CLogPrintDlg>(services, "C:\\kavrel\\data\\log\\");
+       }},
+      {"CQFModifyDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CQFModifyDlg>(services, "C:\\kavrel\\data\\tlx\\");
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
