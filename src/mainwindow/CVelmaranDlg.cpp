@@ -5,6 +5,7 @@
 
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
+#include "mainwindow/copy_flow.h"
 #include "mainwindow/entry_messages.h"
 #include "mainwindow/last_position.h"
 #include "mainwindow/save_flow.h"
@@ -179,9 +180,11 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kPrintAll:
     case Command::kPrintLogbook:
     case Command::kCopyReport:
-    case Command::kCopyLogbook:
     case Command::kVosClim:
       services().messages.error(id::kNotInThisVersion);
+      break;
+    case Command::kCopyLogbook:
+      mainwindow::copy_logbook(services(), context_);
       break;
     case Command::kExit:
       exit();

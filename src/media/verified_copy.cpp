@@ -75,8 +75,8 @@ CopyResult put(Files& files, const platform::StagedFile& staged, const Place& ex
   // A file that has gone meanwhile is none to replace; one that comes now is another one.
   if (now.value->content && now.value->content != expected.content)
     return {CopyOutcome::kPlaceChanged};
-  const FileError error = files.commit(
-      staged, now.value->content ? platform::Over::kReplace : platform::Over::kRefuse);
+  const FileError error =
+      files.commit(staged, now.value->content ? platform::Over::kReplace : platform::Over::kRefuse);
   if (error == FileError::kExists) return {CopyOutcome::kPlaceChanged};
   return error == FileError::kNone ? CopyResult{} : failed(error, staged.path);
 }

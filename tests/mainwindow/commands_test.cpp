@@ -18,7 +18,6 @@ constexpr const char* kLater[] = {
     "File/Print/All weather reports",
     "File/Print/Marine meteorological logbook",
     "File/Copy a weather report",
-    "File/Copy the marine meteorological logbook",
     "File/Correct weather reports",
     " VOSClim",
 };

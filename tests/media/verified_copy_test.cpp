@@ -172,8 +172,8 @@ TEST(VerifiedCopy, ASourceThatGrowsWhileItIsCopiedGivesNoCopy) {
   files.add_folder("C:\\copy");
   const CopyResult result = copy(files);
   EXPECT_EQ(result.outcome, CopyOutcome::kDiffers);
-  EXPECT_EQ(files.snapshot(), (std::map<std::string, std::string>{
-                                  {kFrom, "LINE\none line more\n"}}));
+  EXPECT_EQ(files.snapshot(),
+            (std::map<std::string, std::string>{{kFrom, "LINE\none line more\n"}}));
 }
 
 TEST(VerifiedCopy, AMediumThatKeepsOtherBytesGivesNoCopy) {
@@ -284,8 +284,8 @@ TEST(VerifiedCopy, NamesTheFileAndTheCause) {
       {"one cannot tell", [](FakeFiles& f) { f.fail_look(kTo, FileError::kBadLink); },
        FileError::kBadLink, kTo},
       {"a full disk", [](FakeFiles& f) { f.set_free_space('C', 100); }, FileError::kNoSpace, kTo},
-      {"a source that cannot be read",
-       [](FakeFiles& f) { f.fail_path(kFrom, FileError::kOther); }, FileError::kOther, kFrom},
+      {"a source that cannot be read", [](FakeFiles& f) { f.fail_path(kFrom, FileError::kOther); },
+       FileError::kOther, kFrom},
   };
   for (const auto& row : rows) {
     FakeFiles files;
@@ -394,8 +394,8 @@ TEST(VerifiedCopy, FailureOfAnyOperationLeavesSourceAndCopyWhole) {
         through = files.operations() - before < n;
         const std::string where = std::to_string(n) + " " + files.log().back();
         const bool gone = !files.content(kFrom);
-        expect_whole(source(), files.content(kFrom).value_or(""), files.content(kTo).value_or(""), with_old,
-                     where);
+        expect_whole(source(), files.content(kFrom).value_or(""), files.content(kTo).value_or(""),
+                     with_old, where);
         EXPECT_EQ(gone, result.outcome == CopyOutcome::kDone) << where;
         for (const auto& [path, content] : files.snapshot())
           EXPECT_EQ(path.find(kPart), std::string::npos) << where;
@@ -420,8 +420,8 @@ TEST(VerifiedCopy, AProgramKilledAtAnyOperationLeavesSourceAndCopyWhole) {
           through = true;
         } catch (const FakeFiles::Killed&) {
         }
-        expect_whole(source(), files.content(kFrom).value_or(""), files.content(kTo).value_or(""), with_old,
-                     std::to_string(n));
+        expect_whole(source(), files.content(kFrom).value_or(""), files.content(kTo).value_or(""),
+                     with_old, std::to_string(n));
         files.heal();
         files.restart();
         // The next copy finds its way through, and nothing is left beside.
