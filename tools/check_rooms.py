@@ -26,7 +26,7 @@ KNOWS = DATA | {
     "ship": {"ui"} | ALL_DATA - {"elements/form", "observation"},
     "elements": {"ui"} | ALL_DATA - {"elements/form"},
     "codetables": {"ui"} | ALL_DATA - {"elements/form"},
-    "archive": {"text", "platform", "ui", "observation"},
+    "archive": {"text", "platform", "ui", "observation", "codetables/tables"},
     "media": {"text", "platform", "ui", "archive"},
     "mainwindow": {"ui", "ship", "elements", "codetables", "archive", "media"} | ALL_DATA,
     "app": {"ui", "ship", "archive", "media", "mainwindow", "text", "platform", "observation", "ship/data"},

@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <array>
 
+#include "desktop/fixed_pitch.h"
 #include "desktop/picture_label.h"
 
 namespace desktop {
@@ -58,6 +59,11 @@ QString broken(const QString& text, const QWidget& widget, int characters) {
   if (lines.size() < 2) return text;
   for (QString& line : lines) line = line.trimmed();
   return lines.join(QLatin1Char('\n'));
+}
+
+// The font family that the control asks for; empty for the usual one.
+QString family_of(const ui::Control& control) {
+  return control.font == ui::kFixedPitch ? fixed_pitch_family() : text_of(control.font);
 }
 
 // What the widget itself cuts at; 0 for nothing. A field that goes on in another must see its
@@ -232,53 +238,68 @@ class ShortList : public QListWidget {
   using QListWidget::QListWidget;
   int lines = 0;
   [[nodiscard]] QSize sizeHint() const override {
-    int widest = 0;
-    for (int row = 0; row < count(); ++row)
-      widest = std::max(widest, fontMetrics().horizontalAdvance(item(row)->text()));
+    // Asked often, and a folder may hold ten thousand reports.
+    if (widest_ < 0)
+      for (int row = 0; row < count(); ++row)
+        widest_ = std::max(widest_, fontMetrics().horizontalAdvance(item(row)->text()));
     const int line = fontMetrics().height();
-    return {widest + line * 2, line * lines + line / 2};
+    const int box = ticks ? style()->pixelMetric(QStyle::PM_IndicatorWidth) : 0;
+    return {std::max(widest_, 0) + box + line * 2, line * lines + line / 2};
   }
+  void measure_anew() {
+    widest_ = -1;
+    updateGeometry();
+  }
+  bool ticks = false;  ///< the lines have boxes
   [[nodiscard]] QSize minimumSizeHint() const override {
     constexpr int kWidest = 900;
     return {std::min(sizeHint().width(), kWidest), sizeHint().height()};
   }
+
+ protected:
+  void changeEvent(QEvent* event) override {
+    QListWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) measure_anew();
+  }
+
+ private:
+  mutable int widest_ = -1;  ///< of the lines' texts; -1: not measured
 };
 
 class ListBinding : public Binding {
  public:
   ListBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), list_(new ShortList(parent)) {
-    // A line that is wider than the display goes on below.
-    list_->setWordWrap(true);
     // Item by item, the list would count its last line as hidden and show a scroll bar for it.
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(list_, &QListWidget::itemSelectionChanged, this,
             [this] { tell([&] { screen().choose(control(), chosen()); }); });
+    connect(list_, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
+      const bool on = item->checkState() == Qt::Checked;
+      const auto at = static_cast<std::size_t>(list_->row(item));
+      if (at >= ticked_.size() || ticked_[at] == on) return;
+      ticked_[at] = on;
+      tell([&] { screen().tick_line(control(), list_->row(item), on); });
+    });
     connect(list_, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem*) { tell([&] { screen().press(control()); }); });
   }
   [[nodiscard]] QWidget* widget() const override { return list_; }
-  [[nodiscard]] Shown shown() const override { return {{}, lines_, {}, chosen(), false}; }
+  [[nodiscard]] Shown shown() const override {
+    std::vector<bool> ticked;
+    if (list_->ticks)
+      for (int row = 0; row < list_->count(); ++row)
+        ticked.push_back(list_->item(row)->checkState() == Qt::Checked);
+    return {{}, lines_of(lines_), {}, chosen(), false, std::move(ticked)};
+  }
 
  protected:
   void show_state() override {
     // A list's selection signal also fires for the program's own changes.
     const QSignalBlocker quiet(list_);
     list_->lines = ui::extent_of(control()).least_lines;
-    if (const QStringList wanted = lines_of(control().items); wanted != lines_) {
-      lines_ = wanted;
-      list_->clear();
-      list_->addItems(lines_);
-      for (int i = 0; i < lines_.size(); ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        if (at >= control().item_marked.size() || !control().item_marked[at]) continue;
-        QFont slanted = list_->font();
-        slanted.setItalic(true);
-        list_->item(i)->setFont(slanted);
-      }
-      // A list does not ask for its size anew when it has other lines.
-      list_->updateGeometry();
-    }
+    if (control().items != lines_) fill();
+    if (control().item_ticked != ticked_) show_ticks();
     if (chosen() != control().selected) {
       list_->setCurrentRow(control().selected, QItemSelectionModel::ClearAndSelect);
       if (control().selected < 0) list_->clearSelection();
@@ -292,8 +313,44 @@ class ListBinding : public Binding {
     return items.isEmpty() ? -1 : list_->row(items.front());
   }
 
+  void fill() {
+    lines_ = control().items;
+    ticked_.clear();
+    list_->ticks = false;
+    list_->clear();
+    // A line that is wider than the display goes on below, but where there are so many that laying
+    // out each by itself would be felt.
+    const bool many = lines_.size() > kMany;
+    list_->setWordWrap(!many);
+    list_->setUniformItemSizes(many);
+    list_->addItems(lines_of(lines_));
+    for (std::size_t i = 0; i < lines_.size() && i < control().item_marked.size(); ++i) {
+      if (!control().item_marked[i]) continue;
+      QFont slanted = list_->font();
+      slanted.setItalic(true);
+      list_->item(static_cast<int>(i))->setFont(slanted);
+    }
+    // A list does not ask for its size anew when it has other lines.
+    list_->measure_anew();
+  }
+
+  void show_ticks() {
+    const std::vector<bool>& wanted = control().item_ticked;
+    list_->ticks = !wanted.empty();
+    for (int row = 0; row < list_->count(); ++row) {
+      const auto at = static_cast<std::size_t>(row);
+      if (at >= wanted.size() || (at < ticked_.size() && ticked_[at] == wanted[at])) continue;
+      list_->item(row)->setCheckState(wanted[at] ? Qt::Checked : Qt::Unchecked);
+    }
+    ticked_ = wanted;
+    list_->measure_anew();
+  }
+
+  static constexpr std::size_t kMany = 200;
+
   ShortList* list_;
-  QStringList lines_;
+  std::vector<std::string> lines_;
+  std::vector<bool> ticked_;  ///< as shown
 };
 
 // A line with its picture: a click on its text, or beside it, is one on its button.
@@ -778,9 +835,10 @@ void Binding::show() {
     if (unit_label->text() != unit) unit_label->setText(unit);
   }
   show_property("mark", text_of(control_.mark));
-  if (!control_.font.empty() && shown_widget->font().family() != text_of(control_.font)) {
+  if (const QString family = family_of(control_);
+      !family.isEmpty() && shown_widget->font().family() != family) {
     QFont font = shown_widget->font();
-    font.setFamily(text_of(control_.font));
+    font.setFamily(family);
     shown_widget->setFont(font);
   }
   // Screen readers say the caption; whoever wonders why a field is locked is told.

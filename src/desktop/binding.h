@@ -50,6 +50,7 @@ class Binding : public QObject {
     QStringList codes;  ///< in front of a choice's lines
     int selected = -1;
     bool checked = false;
+    std::vector<bool> ticked = {};  ///< of a list's lines; empty when they have no boxes
   };
   [[nodiscard]] virtual Shown shown() const { return {}; }
 

@@ -1,8 +1,10 @@
 #include "desktop/desktop_printer.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFontDatabase>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -34,6 +36,10 @@ bool DesktopPrinter::has_default_printer() const {
   return !QPrinterInfo::defaultPrinter().isNull();
 }
 
+ui::PageRoom DesktopPrinter::page_room(const ui::Sheets& /*sheets*/) const {
+  return {60, 92};
+}
+
 ui::PrintResult DesktopPrinter::print(const ui::Sheets& sheets) {
   QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
   QPrintDialog dialog(&printer, QApplication::activeWindow());
@@ -41,8 +47,17 @@ ui::PrintResult DesktopPrinter::print(const ui::Sheets& sheets) {
   dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
   dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
   if (dialog.exec() != QDialog::Accepted) return ui::PrintResult::kCancelled;
-  printer.setDocName(QString::fromStdString(sheets.document));
+  printer.setDocName(QString::fromStdString(sheets.name));
   return print_on(printer, sheets) ? ui::PrintResult::kSuccess : ui::PrintResult::kFailed;
+}
+
+std::optional<std::string> DesktopPrinter::pdf(const ui::Sheets& sheets) const {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  if (!print_on(writer, sheets)) return std::nullopt;
+  return bytes.toStdString();
 }
 
 bool print_on(QPagedPaintDevice& device, const ui::Sheets& sheets) {
@@ -64,7 +79,9 @@ bool print_on(QPagedPaintDevice& device, const ui::Sheets& sheets) {
     y = 0;
     return device.newPage();
   };
-  for (const std::string& line : sheets.lines) {
+  const std::size_t count = sheets.lines == nullptr ? 0 : sheets.lines->size();
+  for (std::size_t at = 0; at < count; ++at) {
+    const std::string line = sheets.lines->lines(at, 1).front();
     if (!make_room(metrics.lineSpacing())) return false;
     painter.drawText(QPointF(0, y + metrics.ascent()), QString::fromStdString(line));
     y += metrics.lineSpacing();

@@ -11,8 +11,10 @@ namespace desktop {
 class DesktopPrinter : public ui::Printer {
  public:
   [[nodiscard]] bool has_default_printer() const override;
+  [[nodiscard]] ui::PageRoom page_room(const ui::Sheets& sheets) const override;
   /// Page numbers, selection and print-to-file are hidden in the dialog.
   [[nodiscard]] ui::PrintResult print(const ui::Sheets& sheets) override;
+  [[nodiscard]] std::optional<std::string> pdf(const ui::Sheets& sheets) const override;
 };
 
 /// Lays the lines and drawings out on pages, in the colours of white paper. A new page starts where

@@ -35,10 +35,20 @@ constexpr KeyRow kWindowKeys[] = {
 
 // Keys for the line of a control; a field that is typed into moves its caret with them.
 constexpr KeyRow kLineKeys[] = {
-    {Qt::Key_Up, ui::Key::kUp},     {Qt::Key_Down, ui::Key::kDown},
-    {Qt::Key_Left, ui::Key::kLeft}, {Qt::Key_Right, ui::Key::kRight},
-    {Qt::Key_Home, ui::Key::kHome}, {Qt::Key_End, ui::Key::kEnd},
+    {Qt::Key_Up, ui::Key::kUp},         {Qt::Key_Down, ui::Key::kDown},
+    {Qt::Key_Left, ui::Key::kLeft},     {Qt::Key_Right, ui::Key::kRight},
+    {Qt::Key_Home, ui::Key::kHome},     {Qt::Key_End, ui::Key::kEnd},
+    {Qt::Key_PageUp, ui::Key::kPageUp}, {Qt::Key_PageDown, ui::Key::kPageDown},
+    {Qt::Key_Space, ui::Key::kSpace},
 };
+
+// Where it is a control's own key, and no widget's.
+bool means_line(const ui::Control& control, ui::Key key) {
+  if (key == ui::Key::kSpace) return ui::ticks_lines(control);
+  const bool page = key == ui::Key::kPageUp || key == ui::Key::kPageDown;
+  if (control.kind == ui::Kind::kMemo) return page && control.on_page;
+  return ui::goes_through_lines(control.kind, key);
+}
 
 std::optional<ui::Key> key_in(std::span<const KeyRow> rows, const QKeyEvent& event) {
   // The keypad's arrows and Enter are keys like the others.
@@ -447,7 +457,7 @@ bool ScreenWindow::choose_line(const QWidget& widget, const QKeyEvent& pressed) 
   if (target == nullptr) return false;
   const ui::Kind kind = target->control().kind;
   const auto key = key_in(kLineKeys, pressed);
-  const bool steps = key && ui::goes_through_lines(kind, *key);
+  const bool steps = key && means_line(target->control(), *key);
   const QString character = ui::finds_lines(kind) ? character_of(pressed) : QString();
   if (!steps && character.isEmpty()) return false;
   settle_focus();

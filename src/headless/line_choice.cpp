@@ -21,6 +21,19 @@ std::optional<int> line_that_reads(const ui::Control& control, const std::string
   return std::nullopt;
 }
 
+// A line of several columns by its first one.
+std::optional<int> line_that_begins(const ui::Control& control, std::string_view wanted) {
+  if (wanted.empty()) return std::nullopt;
+  const auto begins = [&](const std::string& line) {
+    return line.size() > wanted.size() && line.starts_with(wanted) && line[wanted.size()] == ' ';
+  };
+  const auto at = std::find_if(control.items.begin(), control.items.end(), begins);
+  if (at == control.items.end() ||
+      std::find_if(at + 1, control.items.end(), begins) != control.items.end())
+    return std::nullopt;
+  return static_cast<int>(at - control.items.begin());
+}
+
 std::optional<int> index_meant(const ui::Control& control, std::string_view written) {
   if (!text::is_all_digits(written)) return std::nullopt;
   const int index = text::leading_int(written);
@@ -49,6 +62,7 @@ std::optional<int> line_meant(const ui::Control& control, std::string_view writt
   if (!is_quoted(written)) {
     if (const auto line = line_that_reads(control, trimmed)) return line;
   }
+  if (!index && control.kind == ui::Kind::kList) return line_that_begins(control, exact);
   return index;
 }
 

@@ -12,7 +12,8 @@ namespace headless {
 
 /// Index of the line that `written` means: a number is an index from 0 when there is such a line
 /// (a number with needless zeros, such as "06", is a text first); else the line that reads so; else
-/// the choice whose English text reads so. A text in double quotes is never an index.
+/// the choice whose English text reads so, or the only line of a list whose first column does. A
+/// text in double quotes is never an index.
 [[nodiscard]] std::optional<int> line_meant(const ui::Control& control, std::string_view written);
 
 /// Row of a tree by its path or, when there is none, its text.

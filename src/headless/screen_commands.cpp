@@ -7,6 +7,7 @@
 #include "headless/script_windows.h"
 #include "text/numbers.h"
 #include "text/strings.h"
+#include "ui/line_keys.h"
 #include "ui/observation_view.h"
 
 namespace headless {
@@ -197,6 +198,7 @@ void ScreenCommands::choose_in_tree(ui::Control& tree, const std::string& wanted
 void ScreenCommands::tick() {
   const NameAndText args = arguments();
   ui::Control& control = usable(args);
+  if (ui::ticks_lines(control)) return tick_line(control, args.text);
   if (control.kind != ui::Kind::kTick) cannot(a_kind(control) + ", not a tick box");
   if (control.read_only) cannot(control.name + " is locked" + because(control));
   const std::string_view wanted = text::trim(args.text);
@@ -207,6 +209,24 @@ void ScreenCommands::tick() {
   }
   watch_.expect_text(control, wanted);
   screen_.tick(control, wanted == "on");
+}
+
+// "tick NAME LINE on": the line as `choose` takes it, then the state.
+void ScreenCommands::tick_line(ui::Control& list, std::string_view line_and_state) {
+  const std::string_view words = text::trim(line_and_state);
+  const auto cut = words.rfind(' ');
+  const std::string_view wanted = cut == std::string_view::npos ? words : words.substr(cut + 1);
+  if (cut == std::string_view::npos || (wanted != "on" && wanted != "off"))
+    cannot("tick NAME LINE on, or tick NAME LINE off");
+  const std::string_view written = text::trim(words.substr(0, cut));
+  const std::optional<int> line = line_meant(list, written);
+  if (!line) cannot(list.name + " has no line " + ui::quoted(text::first(plain_text(written), 60)));
+  if (!take_focus(list)) {
+    if (!screen_.result()) windows_.say("  nothing ticked: the focus was not given");
+    return;
+  }
+  watch_.expect_tick(list, *line, wanted == "on");
+  screen_.tick_line(list, *line, wanted == "on");
 }
 
 void ScreenCommands::press() {
@@ -261,7 +281,7 @@ void ScreenCommands::key() {
     std::string_view name;
     ui::Key key;
   };
-  static constexpr std::array<Named, 11> kKeys = {{{"F1", ui::Key::kF1},
+  static constexpr std::array<Named, 14> kKeys = {{{"F1", ui::Key::kF1},
                                                    {"Enter", ui::Key::kEnter},
                                                    {"Escape", ui::Key::kEscape},
                                                    {"Tab", ui::Key::kTab},
@@ -271,7 +291,10 @@ void ScreenCommands::key() {
                                                    {"Left", ui::Key::kLeft},
                                                    {"Right", ui::Key::kRight},
                                                    {"Home", ui::Key::kHome},
-                                                   {"End", ui::Key::kEnd}}};
+                                                   {"End", ui::Key::kEnd},
+                                                   {"PageUp", ui::Key::kPageUp},
+                                                   {"PageDown", ui::Key::kPageDown},
+                                                   {"Space", ui::Key::kSpace}}};
   const std::string_view wanted = text::trim(line_.rest());
   for (const Named& named : kKeys) {
     if (!same_word(named.name, wanted)) continue;
@@ -284,8 +307,8 @@ void ScreenCommands::key() {
     screen_.find_line(wanted);
   } else {
     cannot("no key " + ui::quoted(text::first(wanted, 40)) +
-           "; F1, Enter, Escape, Tab, Shift+Tab, an arrow, Home, End, one character or the keys of "
-           "a menu command");
+           "; F1, Enter, Escape, Tab, Shift+Tab, an arrow, Home, End, PageUp, PageDown, Space, one "
+           "character or the keys of a menu command");
   }
 }
 

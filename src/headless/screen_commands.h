@@ -31,6 +31,7 @@ class ScreenCommands {
   void focus();
   void choose();
   void tick();
+  void tick_line(ui::Control& list, std::string_view line_and_state);
   void press();
   void click();
   void menu();

@@ -24,6 +24,27 @@ void add_flag_changes(const ui::ControlView& was, const ui::ControlView& is,
     out.push_back(is.name + (is.locked ? ": locked" + why : ": unlocked"));
 }
 
+// A few lines by their text; many as a number.
+void add_tick_changes(const ui::ControlView& was, const ui::ControlView& is,
+                      std::vector<std::string>& out) {
+  if (was.line_ticked == is.line_ticked) return;
+  constexpr std::size_t kFew = 3;
+  std::vector<std::string> lines;
+  for (std::size_t i = 0; i < is.line_ticked.size(); ++i) {
+    if (i < was.line_ticked.size() && was.line_ticked[i] == is.line_ticked[i]) continue;
+    std::string line = is.name;
+    line.append(": ").append(ui::quoted(is.lines[i]));
+    lines.push_back(line.append(is.line_ticked[i] ? " ticked" : " no longer ticked"));
+  }
+  if (lines.size() <= kFew) {
+    out.insert(out.end(), lines.begin(), lines.end());
+    return;
+  }
+  const auto ticked = std::count(is.line_ticked.begin(), is.line_ticked.end(), true);
+  out.push_back(is.name + ": " + std::to_string(ticked) + " of " +
+                std::to_string(is.line_ticked.size()) + " lines ticked");
+}
+
 void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new_language,
                  std::vector<std::string>& out) {
   if (!(new_language && caption_is_value(is.kind)) && was.text != is.text)
@@ -36,6 +57,7 @@ void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new
       out.push_back(is.name + " drawing:");
       for (const std::string& line : is.drawing) out.push_back("  " + line);
     }
+    if (was.lines == is.lines) add_tick_changes(was, is, out);
     const bool choice = is.kind == ui::Kind::kChoice;
     if (was.lines != is.lines || was.line_disabled != is.line_disabled) {
       if (is.kind == ui::Kind::kTree) {
@@ -59,6 +81,13 @@ void ScreenWatch::look() {
 void ScreenWatch::expect_text(const ui::Control& control, std::string_view text) {
   for (ui::ControlView& view : seen_.views) {
     if (view.name == control.name) view.text = text;
+  }
+}
+
+void ScreenWatch::expect_tick(const ui::Control& list, int line, bool on) {
+  const auto at = static_cast<std::size_t>(line);
+  for (ui::ControlView& view : seen_.views) {
+    if (view.name == list.name && at < view.line_ticked.size()) view.line_ticked[at] = on;
   }
 }
 

@@ -16,6 +16,8 @@ class ScreenWatch {
   void look();
   /// The person is about to make the control show this text; only another outcome is a change.
   void expect_text(const ui::Control& control, std::string_view text);
+  /// The person is about to tick the line of a list, or to take its tick away.
+  void expect_tick(const ui::Control& list, int line, bool on);
   /// The person is about to move the focus there; nullptr is nowhere.
   void expect_focus(const ui::Control* control);
   /// One line for each change since the last look, and looks. In a language switch the texts of

@@ -42,6 +42,15 @@ std::string printable(std::string_view line) {
   return result;
 }
 
+// A sheet of A4 in letters of a usual size.
+constexpr std::size_t kPageLines = 60;
+constexpr std::size_t kPageColumns = 160;
+
+std::vector<std::string> printed_lines(const ui::Sheets& sheets) {
+  const auto document = ui::folded(sheets.lines, kPageColumns);
+  return document == nullptr ? std::vector<std::string>() : document->lines(0, document->size());
+}
+
 }  // namespace
 
 // A screen on the stack for as long as it is open.
@@ -190,20 +199,30 @@ bool ScriptWindows::show(const std::string& path) {
   return true;
 }
 
+ui::PageRoom ScriptWindows::page_room(const ui::Sheets& /*sheets*/) const {
+  return {kPageLines, kPageColumns};
+}
+
 ui::PrintResult ScriptWindows::print(const ui::Sheets& sheets) {
   if (ended_) return ui::PrintResult::kCancelled;
   say_changes_so_far();
   const ui::MessageBox dialog{"print",
-                              sheets.document,
+                              sheets.name,
                               {{"Print", "print", ui::kOk}, {"Cancel", "cancel", ui::kCancel}},
                               ui::kCancel,
                               0};
   if (ask(dialog, "printing") != ui::kOk) return ui::PrintResult::kCancelled;
-  for (const std::string& line : sheets.lines) say("printed " + ui::quoted(line));
+  for (const std::string& line : printed_lines(sheets)) say("printed " + ui::quoted(line));
   for (const ui::Drawing& drawing : sheets.drawings) {
     for (const std::string& line : ui::describe(drawing)) say("printed drawing " + line);
   }
   return ui::PrintResult::kSuccess;
+}
+
+std::optional<std::string> ScriptWindows::pdf(const ui::Sheets& sheets) const {
+  std::string text;
+  for (const std::string& line : printed_lines(sheets)) text.append(line).append("\n");
+  return text;
 }
 
 }  // namespace headless

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "archive/CLogPrintDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
 #include "mainwindow/copy_flow.h"
@@ -176,9 +177,13 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kCorrectReports:
       correct_reports();
       break;
+    case Command::kPrintLogbook: {
+      CLogPrintDlg dialog(services(), context_.folders.logbook);
+      services().windows.run_modal(dialog);
+      break;
+    }
     case Command::kPrintSelected:
     case Command::kPrintAll:
-    case Command::kPrintLogbook:
     case Command::kCopyReport:
     case Command::kVosClim:
       services().messages.error(id::kNotInThisVersion);

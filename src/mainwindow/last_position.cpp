@@ -1,7 +1,6 @@
 #include "mainwindow/last_position.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -10,12 +9,6 @@
 #include "observation/report_reader.h"
 
 namespace mainwindow {
-namespace {
-
-constexpr std::uint64_t kLargestReport = 64U << 10U;
-
-}  // namespace
-
 std::optional<TenthsPosition> last_saved_position(platform::Files& files,
                                                   const std::string& folder) {
   if (folder.empty()) return std::nullopt;
@@ -29,7 +22,7 @@ std::optional<TenthsPosition> last_saved_position(platform::Files& files,
   // The newest first: where it tells no position, the one before it is asked.
   std::sort(dated.rbegin(), dated.rend());
   for (const auto& [date, path] : dated) {
-    const platform::Result<std::string> text = files.read(path, kLargestReport);
+    const platform::Result<std::string> text = files.read(path, observation::kLargestReport);
     if (!text.ok()) continue;
     if (const auto position = observation::read_report_position(*text.value)) return position;
   }

@@ -4,10 +4,9 @@
 #include <string>
 
 #include "observation/Struct_Weather.h"
+#include "observation/logbook_columns.h"
 
 namespace observation {
-
-inline constexpr std::size_t kLogbookColumns = 172;
 
 /// The line without its line end. It is 172 characters long but for two gaps that are kept on
 /// purpose: a temperature unit or a sea-temperature method that the format does not know writes

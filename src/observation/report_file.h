@@ -53,6 +53,9 @@ namespace observation {
 inline constexpr std::string_view kReportExtension = ".tlx";
 inline constexpr std::string_view kLogbookName = "immt5.log";
 
+/// No report of this program is longer; what is has no place in a list and is not read.
+inline constexpr std::uint64_t kLargestReport = 64U << 10U;
+
 /// "YYMMDDHH.tlx" from the last two figures of Year and Month, YY and GG as stored; only ".tlx"
 /// when none is entered.
 [[nodiscard]] std::string report_file_name(const Struct_Weather& record);

@@ -122,6 +122,12 @@ class Reader {
   void read_group(std::string_view word) {
     // A damaged 222 opens section 2 as well: else its groups would be read as those of section 1.
     if (!in_section_2_ && word.starts_with("222")) in_section_2_ = true;
+    if (is_half_an_exact_time(word)) {
+      placed_.set(static_cast<std::size_t>(Group::k9GGgg));
+      result_.record.GGExact.clear();
+      result_.record.gg = word.substr(1);
+      return;
+    }
     if (!is_group(word)) {
       name(word, Unplaced::kNotAGroup);
       return;
@@ -131,6 +137,13 @@ class Reader {
       name(word, Unplaced::kNoField);
     else
       place(*row, word);
+  }
+
+  // As the encoder sends minutes whose hour was not entered: "930".
+  [[nodiscard]] bool is_half_an_exact_time(std::string_view word) const {
+    const GroupRow& row = row_of(Group::k9GGgg);
+    return !in_section_2_ && !placed(Group::k9GGgg) && word.starts_with(row.indicator) &&
+           word.size() == row.indicator.size() + row.symbols[1].width && is_figures(word);
   }
 
   const GroupRow* find_row(std::string_view word) {

@@ -1133,6 +1133,42 @@ inline constexpr Id kDraftStays{42592};
 inline constexpr Id kDraftNotKept{42593};
 inline constexpr Id kDraftUnreadable{42630};
 inline constexpr Id kDraftWithoutLock{42631};
+inline constexpr Id kReportListName{44070};
+inline constexpr Id kReportListDate{44071};
+inline constexpr Id kReportListPosition{44072};
+inline constexpr Id kReportListTime{44073};
+
+// Printing: CQFPrintDlg, CPrintAllTLXDlg, CLogPrintDlg
+inline constexpr Id kPrintReportTitle{43950};
+inline constexpr Id kPrintAllTitle{43951};
+inline constexpr Id kPrintLogbookTitle{43952};
+inline constexpr Id kPrintSuccess{43953};
+inline constexpr Id kPrintCancelled{43954};
+inline constexpr Id kPrintFailed{43955};
+inline constexpr Id kNoPrinter{43956};
+inline constexpr Id kNoReportToPrint{43957};
+inline constexpr Id kNoReportExists{43958};
+inline constexpr Id kNoLogbookSelected{43959};
+inline constexpr Id kPrint{43960};
+inline constexpr Id kSaveAsPdf{43961};
+inline constexpr Id kFirstPage{43963};
+inline constexpr Id kPreviousPage{43964};
+inline constexpr Id kNextPage{43965};
+inline constexpr Id kLastPage{43966};
+inline constexpr Id kPageOf{43967};
+inline constexpr Id kReportsToPrint{43968};
+inline constexpr Id kLogbooksToPrint{43969};
+inline constexpr Id kAsPrinted{43970};
+inline constexpr Id kSelectAll{43971};
+inline constexpr Id kSelectNone{43972};
+inline constexpr Id kUnreadable{43973};
+inline constexpr Id kSomeUnreadable{43974};
+inline constexpr Id kPdfFolder{43975};
+inline constexpr Id kAskReplacePdf{43976};
+inline constexpr Id kPdfSaved{43977};
+inline constexpr Id kPdfNotSaved{43978};
+inline constexpr Id kPdfNotMade{43979};
+inline constexpr Id kNoReportFolder{43980};
 
 // Copying reports and the logbook
 inline constexpr Id kNoLogbook{44000};
@@ -1163,8 +1199,5 @@ inline constexpr Id kAskDeleteReports{44032};
 inline constexpr Id kButtonDeleteAll{44033};
 inline constexpr Id kNowCopying{44034};
 inline constexpr Id kSelectReportsTitle{44035};
-inline constexpr Id kSelectAll{44036};
-inline constexpr Id kSelectNone{44037};
-inline constexpr Id kNoFileSelected{44038};
 
 }  // namespace text::id

@@ -46,6 +46,9 @@ struct TreeRow {
 /// What a button is for (OK, Cancel, Help); the shared behaviours follow from it.
 enum class Role { kNone, kAccept, kDismiss, kHelp };
 
+/// A font of the front end's choice whose characters are all one column wide, and Japanese ones two.
+inline constexpr std::string_view kFixedPitch = "fixed pitch";
+
 /// State of one control. Screens declare the kinds below as members, in reading order.
 class Control {
  public:
@@ -76,7 +79,10 @@ class Control {
   /// the lines of a list hold their codes themselves.
   std::vector<std::string> item_codes;
   std::vector<bool> item_marked;  ///< lines of a list or drop-down set apart; empty: none
-  std::vector<TreeRow> rows;      ///< tree only
+  /// Of a list: each line has a box beside it, and more than one may be ticked; empty: none has.
+  /// Which line is selected is another matter.
+  std::vector<bool> item_ticked;
+  std::vector<TreeRow> rows;  ///< tree only
   /// Picture only: what is drawn, instead of a file. Another drawing is another object.
   std::shared_ptr<const Drawing> drawing;
   int selected = -1;  ///< line of a drop-down, list, choice or tree
@@ -86,10 +92,11 @@ class Control {
   bool enabled = true;
   bool visible = true;
   bool read_only = false;  ///< an edit that is shown but locked; it can have the focus
-  int max_length = 0;      ///< in characters, 0 is no limit; a longer line of a choice is broken
-  std::string font;        ///< font family asked for; empty is the usual one
-  bool narrow = true;      ///< full-width characters are narrowed before checks
-  std::string mark;        ///< state that a front end may show ("missing", "wrong"); empty for none
+  int max_length = 0;  ///< in characters, 0 is no limit; a longer line of a choice is broken, and
+                       ///< a memo has room for so many side by side
+  std::string font;    ///< font family asked for; empty is the usual one; or kFixedPitch
+  bool narrow = true;  ///< full-width characters are narrowed before checks
+  std::string mark;    ///< state that a front end may show ("missing", "wrong"); empty for none
   Control* continues_in = nullptr;  ///< the field of the decimals: a point goes on to it
   bool unchecked = false;  ///< typed into, or left, without its check since; kept by the screen
   std::string why_locked;  ///< why it is locked or disabled, for the person; empty when it is not
@@ -104,6 +111,8 @@ class Control {
   /// Picture clicked at a place: in the coordinates of its drawing; those of a file's picture go
   /// from 0 to 1, from the left and from the bottom.
   std::function<void(Point)> on_point;
+  /// Memo that shows one page of several: PageDown (forward) and PageUp turn it instead of scrolling.
+  std::function<void(bool forward)> on_page;
   /// Before the focus enters.
   std::function<void()> on_enter;
   /// Tree: a row is about to be opened; insert its children behind it.

@@ -173,6 +173,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   const auto& disabled = control.item_disabled;
   if (std::find(disabled.begin(), disabled.end(), true) != disabled.end())
     view.line_disabled = disabled;
+  if (control.kind == Kind::kList) view.line_ticked = control.item_ticked;
   view.enabled = control.enabled;
   view.visible = control.visible;
   view.locked = control.read_only;
@@ -203,6 +204,7 @@ std::string describe_lines(const ControlView& view) {
     if (i < view.line_codes.size()) result += view.line_codes[i] + " ";
     result += quoted(lines[i]);
     if (i < view.line_disabled.size() && view.line_disabled[i]) result += " [disabled]";
+    if (i < view.line_ticked.size() && view.line_ticked[i]) result += " [ticked]";
   }
   if (shorten) result += " (" + std::to_string(lines.size()) + " lines)";
   return result;

@@ -21,6 +21,7 @@ struct ControlView {
   std::vector<std::string> lines;       ///< of a combo, drop-down, list, choice or tree
   std::vector<std::string> line_codes;  ///< choice only: shown in front of each line; often empty
   std::vector<bool> line_disabled;      ///< choice only; empty when all can be picked
+  std::vector<bool> line_ticked;        ///< list only; empty when its lines have no boxes
   std::vector<std::string> drawing;     ///< describe() of a picture's drawing; empty without one
   bool enabled = true;
   bool visible = true;
@@ -42,7 +43,8 @@ struct ControlView {
 /// One line (a tree: one more for each row; a drawing: one more for each shape), without a line end
 /// at the end: `call_sign edit "Call sign" = "JABC" [focus, max 7]`.
 [[nodiscard]] std::string describe(const ControlView& view);
-/// `"0", "1", … "99" (100 lines)` for a long list of numbers; every line of any other list.
+/// `"0", "1", … "99" (100 lines)` for a long list of numbers; every line of any other list, with
+/// " [ticked]" behind those that are.
 [[nodiscard]] std::string describe_lines(const ControlView& view);
 
 /// One line for each command of the menu bar: `menu "File/Exit"`, with " [disabled]" when greyed.

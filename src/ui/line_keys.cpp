@@ -18,6 +18,18 @@ bool can_be_chosen(const Control& control, int line) {
   return at >= control.item_disabled.size() || !control.item_disabled[at];
 }
 
+bool is_page_key(Key key) {
+  return key == Key::kPageUp || key == Key::kPageDown;
+}
+
+// The line, or the next one towards the selected line that can be chosen; nothing when that is the
+// selected one itself.
+std::optional<int> nearest_to_choose(const Control& control, int line) {
+  const int step = line > control.selected ? -1 : 1;
+  while (line != control.selected && !can_be_chosen(control, line)) line += step;
+  return line == control.selected ? std::nullopt : std::optional(line);
+}
+
 // What a person types for the line.
 std::string name_of_line(const Control& control, int line) {
   const auto at = static_cast<std::size_t>(line);
@@ -62,10 +74,16 @@ std::optional<int> line_of_code(const Control& control, const std::vector<int>& 
 bool goes_through_lines(Kind kind, Key key) {
   const bool sideways = key == Key::kLeft || key == Key::kRight;
   const bool to_an_end = key == Key::kHome || key == Key::kEnd;
+  if (is_page_key(key)) return kind == Kind::kList || kind == Kind::kTree;
   if (!sideways && !to_an_end && key != Key::kUp && key != Key::kDown) return false;
   if (kind == Kind::kCombo) return !sideways && !to_an_end;
   if (kind == Kind::kTree) return !sideways;
   return finds_lines(kind);
+}
+
+bool ticks_lines(const Control& control) {
+  return control.kind == Kind::kList && !control.item_ticked.empty() &&
+         control.item_ticked.size() == control.items.size();
 }
 
 bool finds_lines(Kind kind) {
@@ -74,7 +92,13 @@ bool finds_lines(Kind kind) {
 
 std::optional<int> line_after(const Control& control, Key key) {
   const int count = number_of_lines(control);
-  const bool forward = key == Key::kDown || key == Key::kRight || key == Key::kHome;
+  if (is_page_key(key) && control.selected >= 0) {
+    // The lines at the ends are reached from any line on the last page.
+    const int to = control.selected + (key == Key::kPageDown ? kLinesOfPage : -kLinesOfPage);
+    return nearest_to_choose(control, std::clamp(to, 0, std::max(count - 1, 0)));
+  }
+  const bool forward =
+      key == Key::kPageDown || key == Key::kDown || key == Key::kRight || key == Key::kHome;
   const int step = forward ? 1 : -1;
   const bool from_an_end = key == Key::kHome || key == Key::kEnd || control.selected < 0;
   int line = !from_an_end ? control.selected + step : forward ? 0 : count - 1;

@@ -12,11 +12,17 @@ namespace ui {
 
 /// True when the key goes from line to line in controls of this kind: the arrows, Home and End
 /// where there are only lines; Up and Down in a combo, whose other keys move in its text; all but
-/// Left and Right, which open and close rows, in a tree.
+/// Left and Right, which open and close rows, in a tree. The page keys go through lists and trees.
 [[nodiscard]] bool goes_through_lines(Kind kind, Key key);
 
 /// True when typed characters look for a line in controls of this kind.
 [[nodiscard]] bool finds_lines(Kind kind);
+
+/// True for a list whose lines have boxes that Space ticks.
+[[nodiscard]] bool ticks_lines(const Control& control);
+
+/// Lines that a page key goes on by.
+inline constexpr int kLinesOfPage = 10;
 
 /// The line that the key leads to. Disabled lines are stepped over; with nothing chosen, Up and
 /// Left lead to the last line, Down and Right to the first. Nothing when there is no further line.

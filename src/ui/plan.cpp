@@ -18,6 +18,7 @@ constexpr int kNarrowestValue = 4;
 constexpr int kWidestValue = 40;
 constexpr int kFewestLines = 4;  // an empty list still looks like a list
 constexpr int kMostLines = 14;
+constexpr int kMemoCharacters = 60;
 constexpr std::size_t kOneLine = 48;  // characters of a choice
 
 int characters_in(const Control& control) {
@@ -228,7 +229,7 @@ Extent extent_of(const Control& control) {
     case Kind::kReadOnly:
       return extent_of_value(control);
     case Kind::kMemo:
-      return {60, 0, 8, true};
+      return {control.max_length > 0 ? control.max_length : kMemoCharacters, 0, 8, true};
     case Kind::kTree:
       return {44, 0, 12, true};
     case Kind::kCombo:

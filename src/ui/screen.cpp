@@ -166,6 +166,19 @@ void Screen::tick(Control& control, bool on) {
   if (control.on_change) control.on_change();
 }
 
+void Screen::tick_line(Control& list, int line, bool on) {
+  const Handling handling(*this);
+  if (handling) tick_line_inside(list, line, on);
+}
+
+void Screen::tick_line_inside(Control& list, int line, bool on) {
+  if (!list.enabled || !list.visible || list.read_only) return;
+  const auto at = static_cast<std::size_t>(line);
+  if (line < 0 || at >= list.item_ticked.size() || list.item_ticked[at] == on) return;
+  list.item_ticked[at] = on;
+  if (list.on_change) list.on_change();
+}
+
 void Screen::press(Control& control) {
   const Handling handling(*this);
   if (!handling || !control.enabled || !control.visible) return;
@@ -293,8 +306,20 @@ void Screen::key(Key key) {
     case Key::kRight:
     case Key::kHome:
     case Key::kEnd:
+    case Key::kPageUp:
+    case Key::kPageDown:
+      if (focused_ != nullptr && focused_->on_page && focused_->kind == Kind::kMemo) {
+        if (key == Key::kPageUp || key == Key::kPageDown) focused_->on_page(key == Key::kPageDown);
+        return;
+      }
       if (focused_ == nullptr || !goes_through_lines(focused_->kind, key)) return;
       if (const auto line = line_after(*focused_, key)) choose_inside(*focused_, *line);
+      return;
+    case Key::kSpace:
+      if (focused_ != nullptr && focused_->selected >= 0 && ticks_lines(*focused_)) {
+        const auto at = static_cast<std::size_t>(focused_->selected);
+        tick_line_inside(*focused_, focused_->selected, !focused_->item_ticked[at]);
+      }
       return;
     case Key::kEnter:
     case Key::kEscape:

@@ -26,7 +26,22 @@
 
 namespace ui {
 
-enum class Key { kF1, kEnter, kEscape, kTab, kShiftTab, kUp, kDown, kLeft, kRight, kHome, kEnd };
+enum class Key {
+  kF1,
+  kEnter,
+  kEscape,
+  kTab,
+  kShiftTab,
+  kUp,
+  kDown,
+  kLeft,
+  kRight,
+  kHome,
+  kEnd,
+  kPageUp,
+  kPageDown,
+  kSpace
+};
 
 class Screen {
  public:
@@ -68,6 +83,8 @@ class Screen {
   /// Picked a line; an index outside the lines picks none.
   void choose(Control& control, int index);
   void tick(Control& control, bool on);
+  /// Ticked a line of a list with ticks, or took the tick away. The selected line stays.
+  void tick_line(Control& list, int line, bool on);
   /// Pressed a button, clicked a label or picture, double-clicked a list or tree line. The focus
   /// moves first (labels and pictures do not take it, but the field that has it is checked), so
   /// that a refused field keeps it and nothing is pressed.
@@ -77,7 +94,9 @@ class Screen {
   void press_at(Control& picture, Point place);
   /// Moves the focus. False when the field that has it refused to let go.
   bool move_focus(Control& to);
-  /// The arrows, Home and End choose a line where the focused control has lines (ui/line_keys.h).
+  /// The arrows, Home, End and the page keys choose a line where the focused control has lines
+  /// (ui/line_keys.h); Space ticks the selected one of a list with ticks. The page keys turn the
+  /// page of a memo that has several.
   void key(Key key);
   /// A character typed where the focused control has lines and no text: chooses the line it stands
   /// for, together with the characters typed before it when nothing else happened in between.
@@ -154,6 +173,7 @@ class Screen {
   void press_inside(Control& button);
   bool move_focus_inside(Control& to);
   void choose_inside(Control& control, int index);
+  void tick_line_inside(Control& list, int line, bool on);
 
   Services& services_;
   std::string class_name_;

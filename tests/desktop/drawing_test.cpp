@@ -336,8 +336,8 @@ TEST(Printed, ADrawingStandsWholeBelowTheLinesWhereThePageHasRoomForIt) {
   const QString path = folder.filePath("sheets.pdf");
   ui::Drawing drawing = unit_drawing();
   drawing.shapes = {ui::Polyline{{{0, 0}, {10, 10}}}, ui::ShortText{{5, 5}, "東京"}};
-  const std::vector<std::string> few(3, "BBXX");
-  const std::vector<std::string> page(60, "BBXX");
+  const auto few = ui::document_of(std::vector<std::string>(3, "BBXX"));
+  const auto page = ui::document_of(std::vector<std::string>(60, "BBXX"));
   for (const bool same_scale : {false, true}) {
     drawing.same_scale = same_scale;
     EXPECT_EQ(pages_of({"Pressure", {}, {drawing}}, path), 1);
@@ -348,7 +348,7 @@ TEST(Printed, ADrawingStandsWholeBelowTheLinesWhereThePageHasRoomForIt) {
   EXPECT_EQ(pages_of({"Maps", few, {drawing, drawing, drawing}}, path), 3);
   drawing.y.last = drawing.y.first + 100 * (drawing.y.last - drawing.y.first);
   EXPECT_EQ(pages_of({"A tower", {}, {drawing}}, path), 1);
-  EXPECT_EQ(pages_of({"Listing", std::vector<std::string>(250, "BBXX"), {}}, path), 3);
+  EXPECT_EQ(pages_of({"Listing", ui::document_of(std::vector<std::string>(250, "BBXX"))}, path), 3);
   EXPECT_EQ(pages_of({"Nothing", {}, {}}, path), 1);
   EXPECT_EQ(pages_of({"Nowhere", few, {drawing}}, folder.filePath("no/such/folder.pdf")), 0);
 }

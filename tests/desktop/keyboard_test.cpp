@@ -5,7 +5,10 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QStyle>
+#include <QStyleOptionViewItem>
 #include <QTreeWidget>
 #include <functional>
 #include <memory>
@@ -167,6 +170,82 @@ TEST(LineKeys, StepOverDisabledLines) {
   press(Qt::Key_Down);
   press(Qt::Key_Down);
   EXPECT_EQ(3, s.screen->choice.selected);
+}
+
+TEST(LineKeys, TickTheChosenLineOfAListWithBoxes) {
+  Shown<LinesScreen> s;
+  s.screen->list.item_ticked = {true, true, true, true};
+  s.window->refresh();
+  s.tab_to("list");
+  const auto ticked = [&s] { return s.window->binding("list")->shown().ticked; };
+  const std::vector<bool> all(4, true);
+  EXPECT_EQ(all, ticked());
+  press(Qt::Key_Space);  // no line is chosen
+  EXPECT_EQ(all, ticked());
+  press(Qt::Key_Down);
+  press(Qt::Key_Down);
+  press(Qt::Key_Space);
+  EXPECT_EQ((std::vector{true, false, true, true}), s.screen->list.item_ticked);
+  EXPECT_EQ(s.screen->list.item_ticked, ticked());
+  EXPECT_EQ(1, s.line("list"));
+  press(Qt::Key_Space);
+  EXPECT_EQ(all, ticked());
+  s.screen->list.item_ticked.assign(4, false);
+  s.window->refresh();
+  EXPECT_EQ(std::vector<bool>(4, false), ticked());
+}
+
+TEST(LineKeys, LeaveABoxToTheMouse) {
+  Shown<LinesScreen> s;
+  s.screen->list.item_ticked = {true, true, true, true};
+  s.window->refresh();
+  auto* const list = qobject_cast<QListWidget*>(s.window->binding("list")->widget());
+  QStyleOptionViewItem line;
+  line.initFrom(list);
+  line.rect = list->visualItemRect(list->item(2));
+  line.features = QStyleOptionViewItem::HasCheckIndicator;
+  const QRect box =
+      list->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &line, list);
+  s.screen->changes = 0;
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, box.center());
+  EXPECT_EQ((std::vector{true, true, false, true}), s.screen->list.item_ticked);
+  EXPECT_EQ(s.screen->list.item_ticked, s.window->binding("list")->shown().ticked);
+}
+
+TEST(LineKeys, GoThroughAListByPages) {
+  Shown<LinesScreen> s;
+  s.screen->list.items.clear();
+  for (int i = 0; i < 10000; ++i) s.screen->list.items.push_back(std::to_string(10000 + i));
+  s.window->refresh();
+  s.tab_to("list");
+  press(Qt::Key_Down);
+  press(Qt::Key_PageDown);
+  press(Qt::Key_PageDown);
+  EXPECT_EQ(20, s.line("list"));
+  press(Qt::Key_PageUp);
+  EXPECT_EQ(10, s.line("list"));
+  press(Qt::Key_End);
+  EXPECT_EQ(9999, s.line("list"));
+  type("150");
+  EXPECT_EQ(5000, s.line("list"));
+}
+
+TEST(LineKeys, TurnThePagesOfAMemo) {
+  class CPagesDlg : public ui::Screen {
+   public:
+    explicit CPagesDlg(ui::Services& services) : Screen(services, "CPagesDlg", {}) {
+      page.content = "first page";
+      page.on_page = [this](bool forward) { page.content = forward ? "next" : "before"; };
+    }
+    ui::Memo page{*this, "page"};
+    ui::Button ok{*this, "ok", {text::id::kOkLabel}, ui::Role::kAccept};
+  };
+  Shown<CPagesDlg> s;
+  const auto* const memo = qobject_cast<QPlainTextEdit*>(s.window->binding("page")->widget());
+  press(Qt::Key_PageDown);
+  EXPECT_EQ("next", memo->toPlainText());
+  press(Qt::Key_PageUp);
+  EXPECT_EQ("before", memo->toPlainText());
 }
 
 TEST(LineKeys, TakeNothingFromAFieldThatIsTypedInto) {

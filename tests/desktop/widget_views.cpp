@@ -80,6 +80,7 @@ std::vector<ui::ControlView> widget_views(const desktop::ScreenWindow& window) {
         off.push_back(!button->isEnabledTo(binding->widget()));
       if (std::find(off.begin(), off.end(), true) != off.end()) view.line_disabled = off;
     }
+    view.line_ticked = binding->shown().ticked;
     view.enabled = binding->widget()->isEnabledTo(binding->widget()->parentWidget());
     view.visible = !binding->widget()->isHidden();
     view.locked = control.kind == ui::Kind::kReadOnly ? false : is_locked(binding->widget());

@@ -1,6 +1,7 @@
 #include "fakes/all_screens.h"
 
 #include "archive/CCreateDir.h"
+#include "archive/CLogPrintDlg.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CICECiDlg.h"
@@ -74,6 +75,10 @@ std::vector<ScreenCase> make_table() {
       {"CCreateDir",
        [](ui::Services& services) -> Made {
          return std::make_unique<CCreateDir>(services, "C:\\kavrel\\data");
+       }},
+      {"CLogPrintDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CLogPrintDlg>(services, "C:\\kavrel\\data\\log\\");
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},

@@ -10,6 +10,15 @@ ui::PrintResult FakePrinter::print(const ui::Sheets& sheets) {
   return answer;
 }
 
+std::optional<std::string> FakePrinter::pdf(const ui::Sheets& sheets) const {
+  if (!makes_pdf) return std::nullopt;
+  std::string text;
+  if (sheets.lines != nullptr)
+    for (const std::string& line : sheets.lines->lines(0, sheets.lines->size()))
+      text.append(line).append("\n");
+  return text;
+}
+
 FakeWindows::~FakeWindows() {
   verify();
 }

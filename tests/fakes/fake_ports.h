@@ -63,10 +63,15 @@ class FakePrinter : public ui::Printer {
  public:
   bool installed = true;
   ui::PrintResult answer = ui::PrintResult::kSuccess;
+  ui::PageRoom room{60, 160};
+  bool makes_pdf = true;
   std::vector<ui::Sheets> printed;
 
   [[nodiscard]] bool has_default_printer() const override { return installed; }
+  [[nodiscard]] ui::PageRoom page_room(const ui::Sheets& /*sheets*/) const override { return room; }
   [[nodiscard]] ui::PrintResult print(const ui::Sheets& sheets) override;
+  /// The lines, each with a line end.
+  [[nodiscard]] std::optional<std::string> pdf(const ui::Sheets& sheets) const override;
 };
 
 class FakeHelp : public platform::HelpViewer {

@@ -235,6 +235,46 @@ TEST(Session, ChoosesLinesWithKeys) {
             "> key End\n    lines: \"two\" -> \" padded \"\n");
 }
 
+TEST(Session, TicksLinesOfAList) {
+  EXPECT_EQ(after_start("tick boxes 0 off\ntick boxes 14111518.tlx off\nshow boxes\n"
+                        "tick boxes \"14111518.tlx   15\" on\n"
+                        "choose boxes 2\ntick boxes 0 on\nkey Space\nchoose boxes 3\n"
+                        "key PageUp\n"),
+            "> tick boxes 0 off\n> tick boxes 14111518.tlx off\n"
+            "> show boxes\n  boxes list = \"\" of \"14111512.tlx   15\", \"14111515.tlx   15\" "
+            "[ticked], \"14111518.tlx   15\", \"14111521.tlx   15\" [ticked] [focus]\n"
+            "> tick boxes \"14111518.tlx   15\" on\n"
+            "> choose boxes 2\n    boxes: \"14111515.tlx   15\" no longer ticked\n"
+            "> tick boxes 0 on\n    boxes: \"14111515.tlx   15\" ticked\n"
+            "> key Space\n    boxes: \"14111515.tlx   15\" no longer ticked\n"
+            "    boxes: \"14111518.tlx   15\" no longer ticked\n"
+            "> choose boxes 3\n    boxes: \"14111512.tlx   15\" no longer ticked\n"
+            "    boxes: \"14111521.tlx   15\" no longer ticked\n"
+            "> key PageUp\n    boxes: \"14111521.tlx   15\" -> \"14111512.tlx   15\"\n");
+}
+
+TEST(Session, TellsManyTicksAsANumber) {
+  EXPECT_EQ(after_start("choose boxes 3\n"), "> choose boxes 3\n    boxes: 0 of 4 lines ticked\n");
+}
+
+TEST(Session, SaysWhyALineCannotBeTicked) {
+  struct Row {
+    const char* command;
+    const char* reason;
+  };
+  const Row rows[] = {{"tick boxes on", "tick NAME LINE on, or tick NAME LINE off"},
+                      {"tick boxes 0", "tick NAME LINE on, or tick NAME LINE off"},
+                      {"tick boxes 0 maybe", "tick NAME LINE on, or tick NAME LINE off"},
+                      {"tick boxes 9 on", "boxes has no line \"9\""},
+                      {"tick boxes 1411151 on", "boxes has no line \"1411151\""},
+                      {"tick lines 0 on", "lines is a list, not a tick box"}};
+  for (const Row& row : rows) {
+    const Played played = play(std::string("start\n").append(row.command).append("\n"));
+    EXPECT_EQ(played.status, 2) << row.command;
+    EXPECT_EQ(played.error, std::string("line 2: ").append(row.reason).append("\n"));
+  }
+}
+
 TEST(Session, RunsAMenuCommandByItsKeys) {
   EXPECT_EQ(after_start("key ctrl+y\n"), "> key ctrl+y\n    note: \"\" -> \"from the menu\"\n");
 }
@@ -324,7 +364,8 @@ TEST(Session, StopsWithStatusTwoLineAndReasonWhenACommandCannotBeCarriedOut) {
       {"start\nmenu OK/Save\n", "line 2: no menu command \"OK/Save\""},
       {"start\nmenu\n", "line 2: no menu command \"\""},
       {"start\nkey F2\n",
-       "line 2: no key \"F2\"; F1, Enter, Escape, Tab, Shift+Tab, an arrow, Home, End, one "
+       "line 2: no key \"F2\"; F1, Enter, Escape, Tab, Shift+Tab, an arrow, Home, End, PageUp, "
+       "PageDown, Space, one "
        "character or the keys of a menu command"},
       {"start\nanswer ok\n", "line 2: there is no question to answer"},
       {"start\npress ask\nanswer maybe\n", "line 3: no button \"maybe\"; there are [YES] [NO]"},

@@ -43,6 +43,13 @@ void CFormDlg::set_up_lines() {
   dead.enabled = false;
   hour.items = {"00", "06", "12", "18"};
   lines.items = {"one", "two", " padded "};
+  boxes.items = {"14111512.tlx   15", "14111515.tlx   15", "14111518.tlx   15",
+                 "14111521.tlx   15"};
+  boxes.item_ticked = {true, true, true, true};
+  boxes.on_change = [this] {
+    if (boxes.selected == 3) boxes.item_ticked.assign(4, false);
+    if (boxes.selected == 2) boxes.item_ticked[1] = !boxes.item_ticked[1];
+  };
   answer.item_disabled = {false, true};
   tree.rows = {{"Disk", "C:\\", 0, true, false, false}};
   link.literal_caption = "Link";
@@ -104,7 +111,7 @@ void CFormDlg::set_up_menu() {
                           {},
                           [this] {
                             const auto printed = services().printer.print(
-                                {"Listing", {"first", "second "}, {diagonal()}});
+                                {"Listing", ui::document_of({"first", "second "}), {diagonal()}});
                             note.content =
                                 printed == ui::PrintResult::kSuccess ? "printed" : "not printed";
                           },

@@ -28,6 +28,7 @@ class CFormDlg : public ui::Screen, public ui::ObservationView {
   ui::ReadOnly doubled{*this, "doubled"};
   ui::Combo hour{*this, "hour", {}, 2};
   ui::List lines{*this, "lines"};
+  ui::List boxes{*this, "boxes"};
   ui::Choice answer{*this, "answer", {}, {kYes, kNo}};
   ui::Tick tick{*this, "tick"};
   ui::Tree tree{*this, "tree"};

@@ -15,9 +15,9 @@ namespace {
 using ui::Key;
 using ui::Kind;
 
-constexpr Key kEveryKey[] = {Key::kF1,       Key::kEnter, Key::kEscape, Key::kTab,
-                             Key::kShiftTab, Key::kUp,    Key::kDown,   Key::kLeft,
-                             Key::kRight,    Key::kHome,  Key::kEnd};
+constexpr Key kEveryKey[] = {Key::kF1,  Key::kEnter,  Key::kEscape,   Key::kTab,   Key::kShiftTab,
+                             Key::kUp,  Key::kDown,   Key::kLeft,     Key::kRight, Key::kHome,
+                             Key::kEnd, Key::kPageUp, Key::kPageDown, Key::kSpace};
 
 // One control of each kind that has lines.
 class CLinesDlg : public ui::Screen {
@@ -57,10 +57,11 @@ struct ALine : testing::Test {
 
 using Chosen = std::vector<int>;
 
-TEST(LineKeys, AreArrowsHomeAndEndWhereThereAreOnlyLines) {
+TEST(LineKeys, AreArrowsHomeAndEndWhereThereAreOnlyLinesAndThePageKeysInAList) {
   for (const Kind kind : {Kind::kChoice, Kind::kList, Kind::kDropDown}) {
-    EXPECT_EQ(6, std::ranges::count_if(
-                     kEveryKey, [kind](Key key) { return ui::goes_through_lines(kind, key); }));
+    EXPECT_EQ(kind == Kind::kList ? 8 : 6, std::ranges::count_if(kEveryKey, [kind](Key key) {
+                return ui::goes_through_lines(kind, key);
+              }));
     EXPECT_FALSE(ui::goes_through_lines(kind, Key::kEnter));
     EXPECT_TRUE(ui::finds_lines(kind));
   }
@@ -74,7 +75,9 @@ TEST(LineKeys, LeaveACombosTextAndATreesRowsTheirOwnKeys) {
     return keys;
   };
   EXPECT_EQ((std::vector{Key::kUp, Key::kDown}), keys_of(Kind::kCombo));
-  EXPECT_EQ((std::vector{Key::kUp, Key::kDown, Key::kHome, Key::kEnd}), keys_of(Kind::kTree));
+  EXPECT_EQ(
+      (std::vector{Key::kUp, Key::kDown, Key::kHome, Key::kEnd, Key::kPageUp, Key::kPageDown}),
+      keys_of(Kind::kTree));
   for (const Kind kind : {Kind::kLabel, Kind::kReadOnly, Kind::kEdit, Kind::kMemo, Kind::kTick,
                           Kind::kButton, Kind::kPicture})
     EXPECT_TRUE(keys_of(kind).empty()) << ui::name_of(kind);
@@ -90,6 +93,68 @@ TEST_F(ALine, IsNotReachedWhereNoLineIsOpen) {
   for (const Key key : {Key::kUp, Key::kDown, Key::kHome, Key::kEnd})
     EXPECT_FALSE(ui::line_after(screen.list, key));
   EXPECT_EQ((Chosen{-1}), typing(screen.list, "S"));
+}
+
+TEST_F(ALine, IsReachedByPagesUpToTheLastThatCanBeChosen) {
+  screen.list.items.assign(25, "line");
+  struct Row {
+    int from;
+    Key key;
+    int to;  // -1: there is no further line
+  };
+  const Row rows[] = {{-1, Key::kPageDown, 0},  {-1, Key::kPageUp, 24},   {0, Key::kPageDown, 10},
+                      {15, Key::kPageDown, 24}, {24, Key::kPageDown, -1}, {24, Key::kPageUp, 14},
+                      {9, Key::kPageUp, 0},     {0, Key::kPageUp, -1}};
+  for (const Row& row : rows) {
+    screen.list.selected = row.from;
+    EXPECT_EQ(ui::line_after(screen.list, row.key).value_or(-1), row.to) << row.from;
+  }
+  screen.list.item_disabled.assign(25, false);
+  screen.list.item_disabled[24] = screen.list.item_disabled[10] = true;
+  screen.list.selected = 15;
+  EXPECT_EQ(ui::line_after(screen.list, Key::kPageDown), 23);
+  screen.list.selected = 0;
+  EXPECT_EQ(ui::line_after(screen.list, Key::kPageDown), 9);
+  screen.list.item_disabled.assign(25, true);
+  EXPECT_FALSE(ui::line_after(screen.list, Key::kPageDown));
+}
+
+TEST_F(ALine, IsTickedBySpaceWhereLinesHaveBoxes) {
+  screen.move_focus(screen.list);
+  screen.key(Key::kDown);
+  screen.changes = 0;
+  screen.key(Key::kSpace);  // it has no boxes yet
+  EXPECT_EQ(screen.changes, 0);
+  screen.list.item_ticked = {true, true, true, true};
+  screen.key(Key::kDown);
+  screen.changes = 0;
+  screen.key(Key::kSpace);
+  EXPECT_EQ(screen.list.item_ticked, (std::vector{true, false, true, true}));
+  EXPECT_EQ(screen.list.selected, 1);
+  screen.key(Key::kSpace);
+  EXPECT_EQ(screen.list.item_ticked, (std::vector{true, true, true, true}));
+  EXPECT_EQ(screen.changes, 2);
+  screen.list.selected = -1;
+  screen.key(Key::kSpace);
+  EXPECT_EQ(screen.changes, 2);
+}
+
+TEST_F(ALine, IsTickedOnlyWhereThereIsOneAndTheListIsFree) {
+  screen.list.item_ticked = {true, false, false, false};
+  for (const int line : {-1, 4}) screen.tick_line(screen.list, line, true);
+  screen.tick_line(screen.list, 0, true);  // it is
+  screen.tick_line(screen.codes, 0, true);
+  screen.list.enabled = false;
+  screen.tick_line(screen.list, 1, true);
+  screen.list.enabled = true;
+  screen.list.read_only = true;
+  screen.tick_line(screen.list, 1, true);
+  EXPECT_EQ(screen.changes, 0);
+  EXPECT_EQ(screen.list.item_ticked, (std::vector{true, false, false, false}));
+  screen.list.read_only = false;
+  screen.tick_line(screen.list, 3, true);
+  EXPECT_EQ(screen.list.item_ticked, (std::vector{true, false, false, true}));
+  EXPECT_EQ(screen.list.selected, -1);
 }
 
 TEST_F(ALine, IsChosenByItsWholeCodeOrWhenNoOtherCanBeMeant) {
