@@ -7,6 +7,7 @@
 #include "archive/CQFModifyDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
+#include "mainwindow/copy_flow.h"
 #include "mainwindow/correction.h"
 #include "mainwindow/entry_messages.h"
 #include "mainwindow/last_position.h"
@@ -191,9 +192,11 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kPrintSelected:
     case Command::kPrintAll:
     case Command::kCopyReport:
-    case Command::kCopyLogbook:
     case Command::kVosClim:
       services().messages.error(id::kNotInThisVersion);
+      break;
+    case Command::kCopyLogbook:
+      mainwindow::copy_logbook(services(), context_);
       break;
     case Command::kExit:
       exit();

@@ -17,7 +17,6 @@ constexpr const char* kLater[] = {
     "File/Print/Selected weather report",
     "File/Print/All weather reports",
     "File/Copy a weather report",
-    "File/Copy the marine meteorological logbook",
     " VOSClim",
 };
 
