@@ -1134,4 +1134,7 @@ inline constexpr Id kDraftNotKept{42593};
 inline constexpr Id kDraftUnreadable{42630};
 inline constexpr Id kDraftWithoutLock{42631};
 
+// Printed pages
+inline constexpr Id kPageOfPages{44050};
+
 }  // namespace text::id
