@@ -2,6 +2,8 @@
 
 #include "archive/CCreateDir.h"
 #include "archive/CLogPrintDlg.h"
+#include "archive/CPrintAllTLXDlg.h"
+#include "archive/CQFPrintDlg.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CICECiDlg.h"
@@ -79,6 +81,14 @@ std::vector<ScreenCase> make_table() {
       {"CLogPrintDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CLogPrintDlg>(services, "C:\\kavrel\\data\\log\\");
+       }},
+      {"CPrintAllTLXDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPrintAllTLXDlg>(services, "C:\\kavrel\\data\\tlx\\");
+       }},
+      {"CQFPrintDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CQFPrintDlg>(services, "C:\\kavrel\\data\\tlx\\");
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
