@@ -4,7 +4,9 @@
 #include <iterator>
 
 #include "archive/CLogPrintDlg.h"
+#include "archive/CPrintAllTLXDlg.h"
 #include "archive/CQFModifyDlg.h"
+#include "archive/CQFPrintDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
 #include "mainwindow/copy_flow.h"
@@ -184,13 +186,21 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kCorrectReports:
       correct_reports();
       break;
+    case Command::kPrintSelected: {
+      CQFPrintDlg dialog(services(), context_.folders.reports);
+      services().windows.run_modal(dialog);
+      break;
+    }
+    case Command::kPrintAll: {
+      CPrintAllTLXDlg dialog(services(), context_.folders.reports);
+      services().windows.run_modal(dialog);
+      break;
+    }
     case Command::kPrintLogbook: {
       CLogPrintDlg dialog(services(), context_.folders.logbook);
       services().windows.run_modal(dialog);
       break;
     }
-    case Command::kPrintSelected:
-    case Command::kPrintAll:
     case Command::kCopyReport:
     case Command::kVosClim:
       services().messages.error(id::kNotInThisVersion);

@@ -1151,6 +1151,7 @@ inline constexpr Id kNoReportExists{43958};
 inline constexpr Id kNoLogbookSelected{43959};
 inline constexpr Id kPrint{43960};
 inline constexpr Id kSaveAsPdf{43961};
+inline constexpr Id kReportsChosen{43962};
 inline constexpr Id kFirstPage{43963};
 inline constexpr Id kPreviousPage{43964};
 inline constexpr Id kNextPage{43965};
@@ -1169,6 +1170,8 @@ inline constexpr Id kPdfSaved{43977};
 inline constexpr Id kPdfNotSaved{43978};
 inline constexpr Id kPdfNotMade{43979};
 inline constexpr Id kNoReportFolder{43980};
+inline constexpr Id kNoLogbookFolder{43981};
+inline constexpr Id kReportTooLong{43982};
 
 // Correcting a report
 inline constexpr Id kCorrectingTitle{43900};
