@@ -86,7 +86,7 @@ void CVelmaranApp::check_folder(WorkingFolder which) {
   if (check.state == FolderState::kUncertain && may_be_used(folder, check.why)) return;
   if (check.state == FolderState::kGone) folder.clear();
   const auto write = [this](std::string_view key, std::string_view chosen) {
-    keep([&](CIniEx& ini) { return ini.set_value(kSection, key, chosen); });
+    keep_folder(key, chosen);
   };
   folder = dialogs_.working_folder(services_, which, settings_.data_folder, write).value_or(folder);
 }
@@ -124,7 +124,11 @@ void CVelmaranApp::ask_key_items() {
 }
 
 void CVelmaranApp::show_main_window() {
-  dialogs_.main_window(services_, {ship_, items_, settings_.folders, [this] { save_ship(); }});
+  mainwindow::MainWindowContext context{ship_, items_, settings_.folders, [this] { save_ship(); }};
+  context.keep_folder = [this](std::string_view key, std::string_view folder) {
+    keep_folder(key, folder);
+  };
+  dialogs_.main_window(services_, context);
 }
 
 void CVelmaranApp::keep(const std::function<bool(CIniEx&)>& set) {
@@ -133,6 +137,10 @@ void CVelmaranApp::keep(const std::function<bool(CIniEx&)>& set) {
   if (error == FileError::kNone) error = set(ini) ? ini.save() : FileError::kBadName;
   if (error != FileError::kNone)
     messages_.file_error(text::id::kSettingsNotSaved, places_.live, error);
+}
+
+void CVelmaranApp::keep_folder(std::string_view key, std::string_view folder) {
+  keep([&](CIniEx& ini) { return ini.set_value(kSection, key, folder); });
 }
 
 void CVelmaranApp::write_settings() {

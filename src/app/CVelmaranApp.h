@@ -68,6 +68,7 @@ class CVelmaranApp {
   [[nodiscard]] bool may_be_used(const std::string& folder, platform::FileError why);
   /// Writes FIXDATA.DAT; the officer is told when that fails.
   void save_ship();
+  void keep_folder(std::string_view key, std::string_view folder);
   /// Sets values in the file and saves it; the officer is told when that fails.
   void keep(const std::function<bool(CIniEx&)>& set);
 

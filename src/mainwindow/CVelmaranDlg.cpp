@@ -4,9 +4,12 @@
 #include <iterator>
 
 #include "archive/CLogPrintDlg.h"
+#include "archive/CPrintAllTLXDlg.h"
 #include "archive/CQFModifyDlg.h"
+#include "archive/CQFPrintDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
+#include "mainwindow/copy_flow.h"
 #include "mainwindow/correction.h"
 #include "mainwindow/entry_messages.h"
 #include "mainwindow/last_position.h"
@@ -183,17 +186,27 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kCorrectReports:
       correct_reports();
       break;
+    case Command::kPrintSelected: {
+      CQFPrintDlg dialog(services(), context_.folders.reports);
+      services().windows.run_modal(dialog);
+      break;
+    }
+    case Command::kPrintAll: {
+      CPrintAllTLXDlg dialog(services(), context_.folders.reports);
+      services().windows.run_modal(dialog);
+      break;
+    }
     case Command::kPrintLogbook: {
       CLogPrintDlg dialog(services(), context_.folders.logbook);
       services().windows.run_modal(dialog);
       break;
     }
-    case Command::kPrintSelected:
-    case Command::kPrintAll:
     case Command::kCopyReport:
-    case Command::kCopyLogbook:
     case Command::kVosClim:
       services().messages.error(id::kNotInThisVersion);
+      break;
+    case Command::kCopyLogbook:
+      mainwindow::copy_logbook(services(), context_);
       break;
     case Command::kExit:
       exit();

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "ship/data/KeyObservationItems.h"
 #include "ship/data/ShipFixedData.h"
@@ -34,6 +35,8 @@ struct MainWindowContext {
   /// True when a position lies on land or in a coastal region; degrees, north and east positive.
   /// Not set: no land is known.
   std::function<bool(double latitude, double longitude)> is_on_land = {};
+  /// Keeps a folder under a key of the settings file.
+  std::function<void(std::string_view key, std::string_view folder)> keep_folder = {};
 };
 
 }  // namespace mainwindow

@@ -1,10 +1,9 @@
 #include "mainwindow/save_flow.h"
 
-#include <algorithm>
-
 #include "archive/CShowStatusDlg.h"
 #include "elements/CSaveErrorInfoDlg.h"
 #include "elements/form/cross_rules.h"
+#include "media/removable_disk.h"
 #include "observation/control_characters.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
@@ -36,37 +35,6 @@ void append_line(std::string& lines, std::string_view text) {
 bool has_date(const Saving& saving) {
   return observation::report_file_name(saving.record) != observation::kReportExtension &&
          observation::has_valid_date(saving.record);
-}
-
-bool is_removable(const platform::Drives& drives, char letter) {
-  const auto list = drives.drives();
-  return std::any_of(list.begin(), list.end(), [&](const platform::Drive& drive) {
-    return drive.letter == letter && drive.type == platform::DriveType::kRemovable;
-  });
-}
-
-char drive_of(const std::string& folder) {
-  const char letter = folder.size() > 1 && folder[1] == ':' ? folder.front() : '\0';
-  return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
-// Asks until a disk with room lies in a removable drive; false when the officer gives up. The disk
-// is looked for anew after every answer, for it may have been exchanged.
-bool disk_is_ready(ui::Services& services, const std::string& folder, std::uint64_t bytes) {
-  const char letter = drive_of(folder);
-  if (!is_removable(services.drives, letter)) return true;
-  text::Id insert = id::kInsertDisk;
-  while (true) {
-    text::Id asked;
-    if (!services.drives.medium_present(letter)) {
-      asked = std::exchange(insert, id::kInsertDiskAgain);
-    } else if (const auto room = services.files.free_space(folder); room && *room < bytes) {
-      asked = id::kDiskFull;
-    } else {
-      return true;
-    }
-    if (services.messages.question(asked, ui::QuestionMode::kOkCancel) != ui::kOk) return false;
-  }
 }
 
 SaveEnd end_with(ui::Services& services, text::Id message, SaveEnd end) {
@@ -131,7 +99,7 @@ std::optional<observation::SaveResult> write(ui::Services& services, const Savin
       request.replace = true;
     }
     for (const std::string& folder : {saving.folders.reports, saving.folders.logbook})
-      if (!disk_is_ready(services, folder, bytes)) return given_up(services);
+      if (!media::disk_is_ready(services, folder, bytes)) return given_up(services);
     const auto result = observation::save(services.files, request);
     tell_recovery(services, saving.folders, result.recovered);
     if (result.recovered.unreachable) {
@@ -243,7 +211,12 @@ void tell_recovery(ui::Services& services, const Folders& folders,
 }
 
 std::string recover_save(ui::Services& services, const Folders& folders) {
-  const auto recovery = observation::recover(services.files, folders.reports, folders.logbook);
+  const auto recovery = recover_and_tell(services, folders);
+  return recovery.outcome == observation::Recovered::kFinished ? recovery.report : std::string();
+}
+
+observation::Recovery recover_and_tell(ui::Services& services, const Folders& folders) {
+  auto recovery = observation::recover(services.files, folders.reports, folders.logbook);
   tell_recovery(services, folders, recovery);
   if (recovery.unreachable)
     services.messages.error_filled(id::kSaveUnreachable,
@@ -251,7 +224,7 @@ std::string recover_save(ui::Services& services, const Folders& folders) {
                                     services.texts.get(text::reason_of(recovery.error))});
   else if (recovery.error != platform::FileError::kNone)
     services.messages.file_error(id::kSaveNotRecovered, recovery.failed, recovery.error);
-  return recovery.outcome == observation::Recovered::kFinished ? recovery.report : std::string();
+  return recovery;
 }
 
 }  // namespace mainwindow

@@ -56,5 +56,7 @@ void tell_recovery(ui::Services& services, const Folders& folders,
 /// it, or why it can be neither now. The name of the report whose saving was finished, empty when
 /// none was.
 std::string recover_save(ui::Services& services, const Folders& folders);
+/// The same for whoever goes on to use the two files.
+observation::Recovery recover_and_tell(ui::Services& services, const Folders& folders);
 
 }  // namespace mainwindow

@@ -1,10 +1,10 @@
 #include "media/CLogDiskSavePathDlg.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "archive/CCreateDir.h"
 #include "archive/names.h"
+#include "media/removable_disk.h"
 #include "platform/paths.h"
 #include "text/ids.h"
 
@@ -100,7 +100,7 @@ void CLogDiskSavePathDlg::on_ok() {
   }
   const platform::Look found = services().files.look(folder);
   // A removable drive is taken without its disk, which may be put in later.
-  if (found.there != There::kFolder && !is_on_removable_drive(folder)) {
+  if (found.there != There::kFolder && !media::is_on_removable_drive(services().drives, folder)) {
     if (found.there != There::kCannotTell) {
       refuse(tree, id::kFolderGone);
       return;
@@ -127,11 +127,4 @@ bool CLogDiskSavePathDlg::is_source(const std::string& folder) const {
   return !source.empty() &&
          // The names as well: without the disk nobody can tell whether both are one folder.
          (archive::equal_ignoring_case(folder, source) || services().files.same(folder, source));
-}
-
-bool CLogDiskSavePathDlg::is_on_removable_drive(const std::string& folder) const {
-  const auto all = services().drives.drives();
-  return std::any_of(all.begin(), all.end(), [&](const platform::Drive& drive) {
-    return drive.type == platform::DriveType::kRemovable && drive.letter == folder.front();
-  });
 }

@@ -49,7 +49,6 @@ class CLogDiskSavePathDlg : public ui::OkCancelDialog {
   /// Message that refuses the folder, 0 when it is taken.
   [[nodiscard]] text::Id refusal(const std::string& folder) const;
   [[nodiscard]] bool is_source(const std::string& folder) const;
-  [[nodiscard]] bool is_on_removable_drive(const std::string& folder) const;
 
   Mode mode_;
   Folders folders_;

@@ -1151,6 +1151,7 @@ inline constexpr Id kNoReportExists{43958};
 inline constexpr Id kNoLogbookSelected{43959};
 inline constexpr Id kPrint{43960};
 inline constexpr Id kSaveAsPdf{43961};
+inline constexpr Id kReportsChosen{43962};
 inline constexpr Id kFirstPage{43963};
 inline constexpr Id kPreviousPage{43964};
 inline constexpr Id kNextPage{43965};
@@ -1169,6 +1170,8 @@ inline constexpr Id kPdfSaved{43977};
 inline constexpr Id kPdfNotSaved{43978};
 inline constexpr Id kPdfNotMade{43979};
 inline constexpr Id kNoReportFolder{43980};
+inline constexpr Id kNoLogbookFolder{43981};
+inline constexpr Id kReportTooLong{43982};
 
 // Correcting a report
 inline constexpr Id kCorrectingTitle{43900};
@@ -1198,5 +1201,37 @@ inline constexpr Id kCorrectNoDate{43923};
 inline constexpr Id kCorrectNoLine{43924};
 inline constexpr Id kCorrectLogbookUnreadable{43925};
 inline constexpr Id kCorrectMetresPerSecond{43926};
+// Copying reports and the logbook
+inline constexpr Id kNoLogbook{44000};
+inline constexpr Id kAskOverwriteLogbook{44001};
+inline constexpr Id kLogbookCopyCancelled{44002};
+inline constexpr Id kLogbookCopyFailed{44003};
+inline constexpr Id kLogbookCopied{44004};
+inline constexpr Id kAskDeleteLogbook{44005};
+inline constexpr Id kNoReports{44010};
+inline constexpr Id kAskOverwriteReport{44011};
+inline constexpr Id kReportCopyCancelled{44012};
+inline constexpr Id kReportCopyFailed{44013};
+inline constexpr Id kReportCopied{44014};
+inline constexpr Id kAskDeleteReport{44015};
+inline constexpr Id kFileAndReason{44020};
+inline constexpr Id kReasonReadBackDiffers{44021};
+inline constexpr Id kReasonSaveInterrupted{44022};
+inline constexpr Id kSourceNotDeleted{44023};
+inline constexpr Id kReasonNotTheCopy{44024};
+inline constexpr Id kAskCopyOn{44025};
+inline constexpr Id kCopyEnded{44026};
+inline constexpr Id kAskOverwriteReports{44027};
+inline constexpr Id kButtonOverwriteAll{44028};
+inline constexpr Id kButtonKeepAll{44029};
+inline constexpr Id kButtonAskEach{44030};
+inline constexpr Id kReportsCopied{44031};
+inline constexpr Id kAskDeleteReports{44032};
+inline constexpr Id kButtonDeleteAll{44033};
+inline constexpr Id kNowCopying{44034};
+inline constexpr Id kSelectReportsTitle{44035};
+
+// Printed pages
+inline constexpr Id kPageOfPages{44050};
 
 }  // namespace text::id

@@ -2,7 +2,9 @@
 
 #include "archive/CCreateDir.h"
 #include "archive/CLogPrintDlg.h"
+#include "archive/CPrintAllTLXDlg.h"
 #include "archive/CQFModifyDlg.h"
+#include "archive/CQFPrintDlg.h"
 #include "archive/CShowStatusDlg.h"
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CICECiDlg.h"
@@ -84,6 +86,14 @@ std::vector<ScreenCase> make_table() {
       {"CQFModifyDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CQFModifyDlg>(services, "C:\\kavrel\\data\\tlx\\");
+       }},
+      {"CPrintAllTLXDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPrintAllTLXDlg>(services, "C:\\kavrel\\data\\tlx\\");
+       }},
+      {"CQFPrintDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CQFPrintDlg>(services, "C:\\kavrel\\data\\tlx\\");
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},

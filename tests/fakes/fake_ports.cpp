@@ -35,7 +35,8 @@ void FakeWindows::expect_screen(std::string class_name, std::function<void(ui::S
   expected_.push_back({0, {}, {}, std::move(class_name), std::move(act)});
 }
 
-void FakeWindows::answer_all(std::string answer) {
+void FakeWindows::answer_all(std::string answer, std::function<void(ui::Screen&)> act) {
+  act_in_all_ = std::move(act);
   answer_to_all_ = std::move(answer);
 }
 
@@ -83,7 +84,8 @@ int FakeWindows::run_modal(ui::Screen& screen) {
   if (screen.result()) return *screen.result();
   if (answer_to_all_) {
     notices.push_back("modal " + screen.class_name());
-    screen.close_box();
+    if (act_in_all_) act_in_all_(screen);
+    if (!screen.result()) screen.close_box();
     return screen.result().value_or(ui::kCancel);
   }
   if (expected_.empty() || expected_.front().screen != screen.class_name()) {

@@ -96,8 +96,8 @@ class FakeWindows : public ui::Windows {
   /// Next, a screen of this class opens; `act` is the officer and must close it.
   void expect_screen(std::string class_name, std::function<void(ui::Screen&)> act);
   /// From now on nothing is a surprise: a message is answered with this button, or by its close box
-  /// where it has no such button, and a screen that opens is closed by its close box.
-  void answer_all(std::string answer);
+  /// where it has no such button, and a screen that opens is closed by its close box, or by `act`.
+  void answer_all(std::string answer, std::function<void(ui::Screen&)> act = {});
   /// Nothing expected may be left; also checked by the destructor.
   void verify();
 
@@ -127,6 +127,7 @@ class FakeWindows : public ui::Windows {
   };
   std::deque<Expected> expected_;
   std::optional<std::string> answer_to_all_;
+  std::function<void(ui::Screen&)> act_in_all_;
 };
 
 /// A Files where nothing exists and nothing can be written; for screens that touch no file.

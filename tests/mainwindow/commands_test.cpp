@@ -14,10 +14,7 @@ namespace id = text::id;
 using main_window::Opened;
 
 constexpr const char* kLater[] = {
-    "File/Print/Selected weather report",
-    "File/Print/All weather reports",
     "File/Copy a weather report",
-    "File/Copy the marine meteorological logbook",
     " VOSClim",
 };
 

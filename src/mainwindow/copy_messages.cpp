@@ -1,0 +1,51 @@
+#include "mainwindow/copy_messages.h"
+
+#include "text/ids.h"
+#include "text/reasons.h"
+
+namespace mainwindow {
+
+namespace id = text::id;
+using media::CopyOutcome;
+
+bool CopyMessages::wants(text::Id question, std::initializer_list<std::string_view> arguments) {
+  const text::Texts& texts = services_.texts;
+  return services_.messages.question(text::fill(texts.get(question), arguments),
+                                     texts.get(id::kExitQuestionTitle), ui::QuestionMode::kYesNo,
+                                     question) == ui::kYes;
+}
+
+void CopyMessages::told(text::Id message, const std::string& path, text::Id reason) {
+  const text::Texts& texts = services_.texts;
+  services_.messages.error_filled(
+      message, {}, text::fill(texts.get(id::kFileAndReason), {path, texts.get(reason)}));
+}
+
+void CopyMessages::told(text::Id message, const std::string& path, platform::FileError why) {
+  told(message, path, text::reason_of(why));
+}
+
+void CopyMessages::failed(text::Id message, const media::CopyResult& result) {
+  if (result.outcome == CopyOutcome::kDiffers)
+    told(message, result.failed, id::kReasonReadBackDiffers);
+  else
+    told(message, result.failed, result.error);
+}
+
+void CopyMessages::not_removed(const std::string& source, const std::string& reason) {
+  services_.messages.error_filled(id::kSourceNotDeleted, {source, reason});
+}
+
+void CopyMessages::not_removed(const std::string& source, const media::CopyResult& result) {
+  const text::Texts& texts = services_.texts;
+  if (result.outcome == CopyOutcome::kDone) return;
+  std::string reason(texts.get(result.outcome == CopyOutcome::kFailed
+                                   ? text::reason_of(result.error)
+                                   : id::kReasonNotTheCopy));
+  // The copy may be what could not be read.
+  if (!result.failed.empty() && result.failed != source && result.outcome == CopyOutcome::kFailed)
+    reason.insert(0, result.failed + ": ");
+  not_removed(source, reason);
+}
+
+}  // namespace mainwindow
