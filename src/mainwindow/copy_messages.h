@@ -13,7 +13,8 @@ class CopyMessages {
   explicit CopyMessages(ui::Services& services) : services_(services) {}
 
   /// Yes or No.
-  [[nodiscard]] bool wants(text::Id question, std::initializer_list<std::string_view> arguments = {});
+  [[nodiscard]] bool wants(text::Id question,
+                           std::initializer_list<std::string_view> arguments = {});
 
   /// The message, and below it the file and the cause.
   void told(text::Id message, const std::string& path, text::Id reason);

@@ -125,11 +125,14 @@ class Opening {
         lines.complete(record(), *line.value);
         return;
       }
-      if (line.ok() || line.error == FileError::kNotFound)
+      if (line.ok() || line.error == FileError::kNotFound) {
         note(id::kCorrectNoLine, {logbook});
-      else
-        note(id::kCorrectLogbookUnreadable,
-             {logbook, services_.texts.get(text::reason_of(line.error))});
+      } else {
+        // A look tells a folder from a file that may not be read.
+        const FileError seen = platform::why_no_file(services_.files.look(logbook));
+        const text::Id why = text::reason_of(seen == FileError::kNone ? line.error : seen);
+        note(id::kCorrectLogbookUnreadable, {logbook, services_.texts.get(why)});
+      }
     }
     do_without_line();
   }

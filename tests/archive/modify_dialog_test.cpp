@@ -37,8 +37,8 @@ struct Opened {
 TEST(ModifyDialog, ListsTheReportsWithoutTheirExtensionTheNewestFirst) {
   for (const bool japanese : {false, true}) {
     Opened opened(japanese);
-    for (const char* const name : {"14111506.tlx", "14111512.tlx", "14111512.tlx.bak", "immt5.log",
-                                   "note.tlx", "A.TLX"})
+    for (const char* const name :
+         {"14111506.tlx", "14111512.tlx", "14111512.tlx.bak", "immt5.log", "note.tlx", "A.TLX"})
       opened.put(name);
     CQFModifyDlg& dialog = opened.open();
     EXPECT_EQ(dialog.title(),
@@ -115,11 +115,11 @@ TEST(ModifyDialog, SaysWhyAFolderCannotBeRead) {
     opened.files.fail_next(fakes::FakeFiles::Operation::kList, platform::FileError::kAccessDenied);
     CQFModifyDlg& dialog = opened.open();
     EXPECT_TRUE(dialog.reports.items.empty());
-    EXPECT_EQ(dialog.remark.content.find(japanese
-                                             ? "気象電報のフォルダを読み取れません。\nC:\\tlx\\"
-                                             : "The folder of the weather reports can not be "
-                                               "read:\nC:\\tlx\\"),
-              0U)
+    EXPECT_EQ(
+        dialog.remark.content.find(japanese ? "気象電報のフォルダを読み取れません。\nC:\\tlx\\"
+                                            : "The folder of the weather reports can not be "
+                                              "read:\nC:\\tlx\\"),
+        0U)
         << dialog.remark.content;
   }
 }

@@ -63,9 +63,9 @@ class Officer {
     record.Month = "11";
     record.YY = "15";
     record.GG = "12";
-    for (auto field : {&Struct_Weather::VosClim1, &Struct_Weather::VosClim2,
-                       &Struct_Weather::VosClim3, &Struct_Weather::VosClim4,
-                       &Struct_Weather::VosClim5})
+    for (auto field :
+         {&Struct_Weather::VosClim1, &Struct_Weather::VosClim2, &Struct_Weather::VosClim3,
+          &Struct_Weather::VosClim4, &Struct_Weather::VosClim5})
       record.*field = form.ship.vosclim && flip() ? kVosClim[entries_.pick(5)] : "";
     return record;
   }
@@ -79,7 +79,8 @@ class Officer {
     std::string text;
     for (int i = 1 + entries_.pick(3); i > 0; --i)
       text.push_back(static_cast<char>('0' + entries_.pick(10)));
-    if (entries_.pick(4) == 0) text.append(".").append(1, static_cast<char>('0' + entries_.pick(10)));
+    if (entries_.pick(4) == 0)
+      text.append(".").append(1, static_cast<char>('0' + entries_.pick(10)));
     if (entries_.pick(8) == 0) text.insert(0, "-");
     return text;
   }
@@ -196,8 +197,8 @@ TEST(CorrectedWithoutAChange, IsSavedAgainThroughTheWindow) {
     const std::string line =
         observation::encode_logbook(record, officer.form.ship, officer.form.items);
     const auto opened = std::make_unique<Opened>(officer.form.ship, officer.form.items);
-    opened->files.add_file(
-        kReport, observation::report_file_content(report_of(record, officer.form.ship)));
+    opened->files.add_file(kReport,
+                           observation::report_file_content(report_of(record, officer.form.ship)));
     opened->files.add_file(kLogbook, line + "\n");
     const auto before = opened->files.content(kReport);
     opened->world.windows.expect_screen("CQFModifyDlg", [](ui::Screen& screen) {
@@ -214,9 +215,8 @@ TEST(CorrectedWithoutAChange, IsSavedAgainThroughTheWindow) {
                                  opened->world.texts)
              .empty();
     if (listed)
-      opened->world.windows.expect_screen("CSaveErrorInfoDlg", [](ui::Screen& screen) {
-        screen.press(*screen.find("save_as"));
-      });
+      opened->world.windows.expect_screen(
+          "CSaveErrorInfoDlg", [](ui::Screen& screen) { screen.press(*screen.find("save_as")); });
     opened->world.windows.expect(id::kAskReplaceReport, "yes");
     opened->world.windows.expect(id::kSaved);
     opened->menu("Save weather report");

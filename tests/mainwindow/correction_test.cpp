@@ -86,20 +86,29 @@ TEST(Correcting, BringsEveryValueBackAndCountsAsSaved) {
     EXPECT_EQ(opened->window.title(), japanese ? "KAVREL for WIN - 14111512.tlx を訂正中"
                                                : "KAVREL for WIN - correcting 14111512.tlx");
     EXPECT_EQ(opened->window.report(), kText);
-    const std::pair<const char*, const char*> shown[] = {
-        {"Year", "2014"},       {"Month", "11"},      {"YY", "15"},
-        {"GG", "12"},           {"LaDeg", "35"},      {"LaMin", "42"},
-        {"PPPP", "1013.2"},     {"reading", ""},      {"air_temperature", "15.2"},
-        {"dew_point", "11.4"},  {"dd", "27"},         {"ff", "18"},
-        {"TwTwTw", "17.8"},     {"HwHw", "2.0"},      {"dw2dw2", "00"},
-        {"relative_humidity", "78.0"}};
+    const std::pair<const char*, const char*> shown[] = {{"Year", "2014"},
+                                                         {"Month", "11"},
+                                                         {"YY", "15"},
+                                                         {"GG", "12"},
+                                                         {"LaDeg", "35"},
+                                                         {"LaMin", "42"},
+                                                         {"PPPP", "1013.2"},
+                                                         {"reading", ""},
+                                                         {"air_temperature", "15.2"},
+                                                         {"dew_point", "11.4"},
+                                                         {"dd", "27"},
+                                                         {"ff", "18"},
+                                                         {"TwTwTw", "17.8"},
+                                                         {"HwHw", "2.0"},
+                                                         {"dw2dw2", "00"},
+                                                         {"relative_humidity", "78.0"}};
     for (const auto& [name, text] : shown) EXPECT_EQ(opened->shown(name), text) << name;
     EXPECT_EQ(opened->control("north_south").selected, 0);
     EXPECT_EQ(opened->window.focused()->name, "Year");
     opened->type("VV", "96");
-    EXPECT_EQ(opened->window.title(), japanese
-                                          ? "KAVREL for WIN - 14111512.tlx を訂正中（未保存） *"
-                                          : "KAVREL for WIN - correcting 14111512.tlx - not saved *");
+    EXPECT_EQ(opened->window.title(),
+              japanese ? "KAVREL for WIN - 14111512.tlx を訂正中（未保存） *"
+                       : "KAVREL for WIN - correcting 14111512.tlx - not saved *");
   }
 }
 
@@ -144,11 +153,10 @@ TEST(Correcting, WithoutALineSaysSoAndHasNoSecondSwell) {
   };
   std::string other = line_of("0780", "00");
   other[30] = '9';
-  for (const Row& row :
-       {Row{std::nullopt, FileError::kNone, "has no line that agrees"},
-        Row{"", FileError::kNone, "has no line that agrees"},
-        Row{other + "\n", FileError::kNone, "has no line that agrees"},
-        Row{other + "\n", FileError::kMediumMissing, "can not be read"}}) {
+  for (const Row& row : {Row{std::nullopt, FileError::kNone, "has no line that agrees"},
+                         Row{"", FileError::kNone, "has no line that agrees"},
+                         Row{other + "\n", FileError::kNone, "has no line that agrees"},
+                         Row{other + "\n", FileError::kMediumMissing, "can not be read"}}) {
     for (const bool observed : {true, false}) {
       const auto opened = std::make_unique<Correcting>();
       opened->items.set_observed(ObservationItem::dw2Pw2Hw2, observed);
@@ -318,7 +326,8 @@ TEST(Correcting, TellsWhereNameAndReportContradictEachOther) {
 }
 
 TEST(Correcting, AsksForTheDateThatANameDoesNotTell) {
-  for (const char* const name : {"copy.tlx", "14131512.tlx", "14113112.tlx", "14111524.tlx", "クラ14.tlx", "114111512.tlx"}) {
+  for (const char* const name : {"copy.tlx", "14131512.tlx", "14113112.tlx", "14111524.tlx",
+                                 "クラ14.tlx", "114111512.tlx"}) {
     const auto opened = std::make_unique<Correcting>();
     const std::string path = std::string("C:\\out\\") + name;
     const std::string told = opened->correct(kText, path, true);
@@ -339,7 +348,8 @@ TEST(Correcting, AsksForTheDateThatANameDoesNotTell) {
 
 TEST(Correcting, TakesDayAndHourFromTheNameWhereTheReportLacksThem) {
   const auto opened = std::make_unique<Correcting>();
-  const std::string told = opened->correct("BBXX JXKV 1512 99357 11653 41497 62718 .....", kReport, true);
+  const std::string told =
+      opened->correct("BBXX JXKV 1512 99357 11653 41497 62718 .....", kReport, true);
   EXPECT_NE(told.find(": 1512 (not a group"), std::string::npos) << told;
   EXPECT_EQ(told.find("contradict"), std::string::npos) << told;
   EXPECT_EQ(opened->shown("YY") + opened->shown("GG"), "1512");
