@@ -21,8 +21,8 @@ using observation::ReportDate;
 
 constexpr std::size_t kFewestOfName = 12;  // "14111512.tlx"
 constexpr std::size_t kMostOfName = 28;    // a longer name moves its own line only
-constexpr std::size_t kDate = 13;      // "2014/11/15 12"
-constexpr std::size_t kPosition = 13;  // "35.7N  165.3E"
+constexpr std::size_t kDate = 13;          // "2014/11/15 12"
+constexpr std::size_t kPosition = 13;      // "35.7N  165.3E"
 constexpr std::string_view kGap = "   ";
 
 std::string shown_name(const ListedReport& report, ReportNames names) {
@@ -34,9 +34,8 @@ std::string shown_name(const ListedReport& report, ReportNames names) {
 
 std::string shown_date(const ReportDate& date) {
   std::string text = date.year;
-  for (const auto& [gap, part] : {std::pair<char, const std::string&>{'/', date.month},
-                                  {'/', date.day},
-                                  {' ', date.hour}}) {
+  for (const auto& [gap, part] :
+       {std::pair<char, const std::string&>{'/', date.month}, {'/', date.day}, {' ', date.hour}}) {
     text.push_back(gap);
     text.append(part);
   }

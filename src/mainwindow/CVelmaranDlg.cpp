@@ -184,9 +184,11 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     }
     case Command::kPrintSelected:
     case Command::kPrintAll:
-    case Command::kCopyReport:
     case Command::kVosClim:
       services().messages.error(id::kNotInThisVersion);
+      break;
+    case Command::kCopyReport:
+      mainwindow::copy_reports(services(), context_);
       break;
     case Command::kCopyLogbook:
       mainwindow::copy_logbook(services(), context_);

@@ -57,9 +57,12 @@ TEST_F(AReportList, SignsAPositionByItsQuadrant) {
   struct Row {
     std::string_view groups, shown;
   };
-  const Row rows[] = {{"99357 11653", "35.7N  165.3E"}, {"99004 31653", " 0.4S  165.3E"},
-                      {"99357 50009", "35.7S    0.9W"}, {"99900 71800", "90.0N  180.0W"},
-                      {"99357 1////", ""},              {"99/// 11653", ""}};
+  const Row rows[] = {{"99357 11653", "35.7N  165.3E"},
+                      {"99004 31653", " 0.4S  165.3E"},
+                      {"99357 50009", "35.7S    0.9W"},
+                      {"99900 71800", "90.0N  180.0W"},
+                      {"99357 1////", ""},
+                      {"99/// 11653", ""}};
   for (const Row& row : rows) {
     put("14111512.tlx", "BBXX JABC 15124 " + std::string(row.groups) + " 41396 72818 222// ;");
     std::string expected = "14111512.tlx   2014/11/15 12   ";
@@ -98,11 +101,12 @@ TEST_F(AReportList, KeepsItsColumnsWhateverTheFilesHold) {
   put("14111512.tlx", std::string(observation::kLargestReport + 1, 'x'));
   put("東京湾の気象.tlx", "no report");
   put("a very long name that somebody gave to a copy.tlx", "\xFF\xFE\0\n");
-  EXPECT_EQ(lines(),
-            (Lines{"14111512.tlx                   2014/11/15 12                   2014/11/15  09:05",
-                   "a very long name that somebody gave to a copy.tlx"
-                   "                                   2014/11/15  09:05",
-                   "東京湾の気象.tlx                                               2014/11/15  09:05"}));
+  EXPECT_EQ(
+      lines(),
+      (Lines{"14111512.tlx                   2014/11/15 12                   2014/11/15  09:05",
+             "a very long name that somebody gave to a copy.tlx"
+             "                                   2014/11/15  09:05",
+             "東京湾の気象.tlx                                               2014/11/15  09:05"}));
 }
 
 TEST_F(AReportList, TellsWhyAFolderCannotBeRead) {

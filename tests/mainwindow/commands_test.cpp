@@ -16,7 +16,6 @@ using main_window::Opened;
 constexpr const char* kLater[] = {
     "File/Print/Selected weather report",
     "File/Print/All weather reports",
-    "File/Copy a weather report",
     "File/Correct weather reports",
     " VOSClim",
 };

@@ -28,8 +28,8 @@ std::string line_of(const Struct_Weather& record, const ShipFixedData& fixed = s
 
 /// What the record's report gives back, with the year and month of the file's name.
 Struct_Weather reported(const Struct_Weather& record, bool wet_bulb = true) {
-  auto read = observation::read_report(observation::make_report(record, wet_bulb).text,
-                                       records::fresh());
+  auto read =
+      observation::read_report(observation::make_report(record, wet_bulb).text, records::fresh());
   EXPECT_TRUE(read);
   read->record.Year = record.Year;
   read->record.Month = record.Month;
@@ -43,7 +43,8 @@ LogbookLines lines_of(const Struct_Weather& report) {
 TEST(LogbookColumns, SayOfEveryFieldWhetherAReportCarriesIt) {
   for (const LogbookColumn& column : observation::logbook_columns()) {
     if (column.field == nullptr) continue;
-    bool carried = column.field == &Struct_Weather::Year || column.field == &Struct_Weather::Month ||
+    bool carried = column.field == &Struct_Weather::Year ||
+                   column.field == &Struct_Weather::Month ||
                    column.field == &Struct_Weather::CallSign;
     for (const observation::GroupRow& row : observation::group_rows())
       for (const observation::Symbol& symbol : row.used())
@@ -108,8 +109,8 @@ TEST(LogbookLines, TellASecondSwellThatWasNoneFromOneThatWasNotObserved) {
   for (const Row& row : {Row{"00", "00"}, {"//", "//"}, {"", "//"}}) {
     for (const char* const first : {"25", "99", "//", ""}) {
       Struct_Weather record = full();
-      records::set(record, {{"dw1dw1", first}, {"dw2dw2", row.second}, {"Pw2Pw2", ""},
-                            {"Hw2Hw2", ""}});
+      records::set(record,
+                   {{"dw1dw1", first}, {"dw2dw2", row.second}, {"Pw2Pw2", ""}, {"Hw2Hw2", ""}});
       Struct_Weather report = reported(record);
       const LogbookLines lines = lines_of(report);
       ASSERT_TRUE(lines.holds(line_of(record))) << row.second << first;
@@ -202,7 +203,8 @@ TEST(LastLine, IsAskedForInPiecesAndItsErrorComesBack) {
   using platform::FileError;
   EXPECT_EQ(observation::find_last_line(log.files, kLog, log.lines).error, FileError::kNotFound);
   (void)log.found(std::string(600000, 'x'));
-  for (const std::string& operation : log.files.log()) EXPECT_TRUE(operation.starts_with("read_part"));
+  for (const std::string& operation : log.files.log())
+    EXPECT_TRUE(operation.starts_with("read_part"));
   for (int n = 1; n <= 4; ++n) {
     log.files.fail_at(n, FileError::kMediumMissing);
     EXPECT_EQ(observation::find_last_line(log.files, kLog, log.lines).error,
