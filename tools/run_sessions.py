@@ -20,7 +20,8 @@ The comment block at the top of a session may hold, in lines of the form "# key:
   status         exit status, 0 when left out (1: an expectation failed, 2: a command could not be carried out)
   clock          UTC (2014-11-15T11:50)
   tz             time zone of the local clock (UTC0)
-  root-files     folder roots/NAME that is copied to where C: is; later ones are laid over earlier ones
+  root-files     folder roots/NAME that is copied to where C: is; later ones are laid over earlier ones; all files bear the
+                 time of the clock
   program-files  folder roots/NAME that is copied to the program folder (program)
   read-only      a path on C: that nobody may write
   printer        none
@@ -30,6 +31,7 @@ On a difference NAME.actual (NAME.en.actual) is left beside the session; scripts
 """
 import argparse
 import collections
+import datetime
 import difflib
 import fnmatch
 import os
@@ -151,6 +153,14 @@ def lay_out(folder, names, target):
         shutil.copytree(source, target, symlinks=True, dirs_exist_ok=True, ignore=shutil.ignore_patterns(".keep"))
 
 
+def set_time(root, clock):
+    """Lists show when a file was written, which no checkout keeps."""
+    moment = datetime.datetime.fromisoformat(clock).replace(tzinfo=datetime.timezone.utc).timestamp()
+    for folder, _, names in os.walk(root):
+        for name in names:
+            os.utime(os.path.join(folder, name), (moment, moment), follow_symlinks=False)
+
+
 def set_writable(path, writable):
     mode = stat.S_IMODE(os.stat(path).st_mode)
     os.chmod(path, mode | 0o200 if writable else mode & ~0o222)
@@ -195,6 +205,7 @@ def play_it(cli, folder, play):
         os.makedirs(program)
         lay_out(folder, options["root-files"], root)
         lay_out(folder, options["program-files"] or ["program"], program)
+        set_time(root, options["clock"])
         locked = [on_disk(root, path) for path in options["read-only"]]
         for target in locked:
             set_writable(target, False)

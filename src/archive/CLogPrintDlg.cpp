@@ -25,7 +25,10 @@ CLogPrintDlg::CLogPrintDlg(ui::Services& services, std::string folder)
 }
 
 void CLogPrintDlg::on_open() {
-  if (folder_.empty()) return;
+  if (folder_.empty()) {
+    pages.remark.content = services().texts.get(id::kNoLogbookFolder);
+    return;
+  }
   const FileError error =
       CFindFile(services().files).find(folder_, observation::kLogbookName, logbooks.items);
   std::sort(logbooks.items.begin(), logbooks.items.end(), archive::comes_before);

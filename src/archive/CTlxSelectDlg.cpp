@@ -32,8 +32,7 @@ CTlxSelectDlg::CTlxSelectDlg(ui::Services& services, std::vector<archive::Listed
 
 void CTlxSelectDlg::on_open() {
   heading.font = ui::kFixedPitch;
-  heading.literal_caption =
-      archive::report_heading(listed_, ReportNames::kWhole, services().texts);
+  heading.literal_caption = archive::report_heading(listed_, ReportNames::kWhole, services().texts);
   archive::show_reports(reports, listed_, ReportNames::kWhole);
   // A line to begin with: Space ticks the one that the arrows have led to.
   if (!listed_.empty()) reports.selected = 0;

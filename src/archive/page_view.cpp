@@ -34,13 +34,14 @@ PageView::PageView(ui::Screen& screen, ui::Services& services, Print what)
       cancel(screen, "cancel", {id::kCancelLabel}, ui::Role::kDismiss),
       services_(services),
       what_(std::move(what)) {
-  page.font = "monospace";
+  page.font = ui::kFixedPitch;
   page.max_length = kWidestHeading;
+  page.on_page = [this](bool forward) { turn_by(forward); };
   // Beyond the ends there is nothing to turn to. No button is ever disabled: the focus would leave
   // it, and the key that turns the pages would do something else.
   first_page.on_press = [this] { turn_to(0); };
-  previous_page.on_press = [this] { turn_to(shown_ - std::min<std::size_t>(shown_, 1)); };
-  next_page.on_press = [this] { turn_to(shown_ + 1); };
+  previous_page.on_press = [this] { turn_by(false); };
+  next_page.on_press = [this] { turn_by(true); };
   last_page.on_press = [this] { turn_to(pages()); };
   print.on_press = [this] { print_it(); };
   save_pdf.on_press = [this] { save_it(); };
@@ -98,6 +99,10 @@ void PageView::show(std::shared_ptr<const ui::Document> document) {
 std::size_t PageView::pages() const {
   if (document_ == nullptr) return 0;
   return (document_->size() + room_.lines - 1) / room_.lines;
+}
+
+void PageView::turn_by(bool forward) {
+  turn_to(forward ? shown_ + 1 : shown_ - std::min<std::size_t>(shown_, 1));
 }
 
 void PageView::turn_to(std::size_t page_number) {

@@ -45,6 +45,7 @@ class PageView {
  private:
   [[nodiscard]] std::size_t pages() const;
   void turn_to(std::size_t page_number);
+  void turn_by(bool forward);
   /// The document of this moment, shown at the page that was open; nothing when there is none.
   std::shared_ptr<const ui::Document> renewed();
   void print_it();

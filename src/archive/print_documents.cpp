@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "archive/report_list.h"
 #include "text/numbers.h"
 #include "text/strings.h"
 #include "ui/printer.h"
@@ -32,7 +33,7 @@ std::string two_figures(int value) {
 }
 
 std::string time_line(const platform::DateTime& now) {
-  return std::string(kTimeCaption).append(dated(now));
+  return std::string(kTimeCaption).append(file_time(now));
 }
 
 // What a file holds, each line end one "\n" and none at its end.
@@ -58,11 +59,6 @@ std::string printable_name(std::string_view name) {
 }
 
 }  // namespace
-
-std::string dated(const platform::DateTime& time) {
-  return text::format_int(time.year) + "/" + two_figures(time.month) + "/" + two_figures(time.day) +
-         "  " + two_figures(time.hour) + ":" + two_figures(time.minute);
-}
 
 std::string stamp(const platform::DateTime& time) {
   return text::format_int(time.year) + two_figures(time.month) + two_figures(time.day) + "_" +

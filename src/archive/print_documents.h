@@ -13,10 +13,7 @@
 
 namespace archive {
 
-/// "2014/11/5  09:05", local time: how the lists date a file, and the printouts themselves.
-[[nodiscard]] std::string dated(const platform::DateTime& time);
-
-/// "20141105_0905": the same in a file's name.
+/// "20141105_0905", local time, for the names of files.
 [[nodiscard]] std::string stamp(const platform::DateTime& time);
 
 /// The lines of a text, without the empty ones at its end, which would only cost a page.

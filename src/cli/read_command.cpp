@@ -5,6 +5,7 @@
 #include "observation/report_reader.h"
 #include "observation/report_text.h"
 #include "text/strings.h"
+#include "text/texts.h"
 
 namespace cli {
 namespace {
@@ -16,25 +17,7 @@ constexpr std::size_t kLongestReport = 16U << 10U;
 using observation::Unplaced;
 
 std::string_view reason_of(Unplaced why) {
-  switch (why) {
-    case Unplaced::kOutsideReport:
-      return "outside the report";
-    case Unplaced::kCallSign:
-      return "not a call sign";
-    case Unplaced::kNotAGroup:
-      return "not a group of five figures";
-    case Unplaced::kOutOfRange:
-      return "not the group expected here";
-    case Unplaced::kNoField:
-      return "a group without a field";
-    case Unplaced::kRepeated:
-      return "a group that was there before";
-    case Unplaced::kOtherSection:
-      return "section 3 or later";
-    case Unplaced::kIcePlainText:
-      return "ice in plain language";
-  }
-  return "";
+  return text::resolve({observation::words_of(why)}, text::Language::kEnglish);
 }
 
 // Comment lines, so that the output can be encoded again.

@@ -1,100 +1,154 @@
 #include "desktop/desktop_printer.h"
 
 #include <QApplication>
-#include <QBuffer>
-#include <QFontDatabase>
-#include <QPainter>
-#include <QPdfWriter>
+#include <QLibraryInfo>
+#include <QPageSize>
 #include <QPrintDialog>
+#include <QPrintEngine>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <algorithm>
-#include <cmath>
+#include <QTemporaryFile>
+#include <QTranslator>
 
-#include "desktop/drawing_painter.h"
+#include "desktop/printed_pages.h"
 
 namespace desktop {
 namespace {
 
-QPalette paper() {
-  return {Qt::black, Qt::white, Qt::white, Qt::darkGray, Qt::gray,
-          Qt::black, Qt::white, Qt::white, Qt::white};
+// The paper that a printer has by itself or was given in the dialog.
+QPageLayout paper_in(const QPrinter& printer) {
+  QPageLayout layout = printer.pageLayout();
+  layout.setUnits(QPageLayout::Point);
+  const QMarginsF least = layout.minimumMargins() | layout.margins();
+  return paper_of(layout.pageSize(), least, layout.orientation());
 }
 
-// Of a drawing on the width of a page: the shape that it has on the screen.
-double height_of(const ui::Drawing& drawing, double width, const QFontMetricsF& metrics) {
-  if (drawing.same_scale)
-    return width *
-           std::abs((drawing.y.last - drawing.y.first) / (drawing.x.last - drawing.x.first));
-  return width * drawing.lines * metrics.height() /
-         (drawing.characters * metrics.horizontalAdvance(QLatin1Char('0')));
+QPageLayout usual_paper(Patience patience) {
+  if (ask_scheduler(patience) == Scheduler::kAnswers) {
+    const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
+    if (!usual.isNull()) {
+      QPrinter printer(usual, QPrinter::HighResolution);
+      printer.setPageSize(usual.defaultPageSize());  // Qt itself begins with that of the locale
+      return paper_in(printer);
+    }
+  }
+  return paper_of(QPageSize(QPageSize::A4));
+}
+
+// Qt's own words in the language of the program for as long as its dialog is open.
+class QtWords {
+ public:
+  explicit QtWords(text::Language language) {
+    if (language == text::Language::kJapanese &&
+        words_.load("qtbase_ja", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+      QCoreApplication::installTranslator(&words_);
+  }
+  ~QtWords() { QCoreApplication::removeTranslator(&words_); }
+  QtWords(const QtWords&) = delete;
+  QtWords& operator=(const QtWords&) = delete;
+
+ private:
+  QTranslator words_;
+};
+
+class WaitCursor {
+ public:
+  WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+bool choose(QPrinter& printer, text::Language language) {
+  const QtWords words(language);
+  QWidget never_shown;
+  QPrintDialog dialog(&printer, QApplication::activeWindow());
+  // Without page range, selection, current page and print-to-file. Where a queue could print a
+  // range by itself Qt shows its box of ranges all the same, whenever the dialog is shown.
+  dialog.setOptions(QAbstractPrintDialog::PrintCollateCopies |
+                    QAbstractPrintDialog::PrintShowPageSize);
+  if (auto* const ranges = dialog.findChild<QWidget*>("gbPrintRange"))
+    ranges->setParent(&never_shown);
+  return dialog.exec() == QDialog::Accepted;
+}
+
+// What was chosen in the dialog, in the words of the scheduler.
+std::vector<std::pair<QByteArray, QByteArray>> options_of(const QPrinter& printer) {
+  std::vector<std::pair<QByteArray, QByteArray>> options;
+  options.emplace_back("media", printer.pageLayout().pageSize().key().toUtf8());
+  if (printer.copyCount() > 1) {
+    options.emplace_back("copies", QByteArray::number(printer.copyCount()));
+    options.emplace_back("Collate", printer.collateCopies() ? "True" : "False");
+  }
+  if (printer.duplex() == QPrinter::DuplexNone) options.emplace_back("sides", "one-sided");
+  if (printer.duplex() == QPrinter::DuplexLongSide || printer.duplex() == QPrinter::DuplexAuto)
+    options.emplace_back("sides", "two-sided-long-edge");
+  if (printer.duplex() == QPrinter::DuplexShortSide)
+    options.emplace_back("sides", "two-sided-short-edge");
+  if (printer.pageOrder() == QPrinter::LastPageFirst)
+    options.emplace_back("outputorder", "reverse");
+  if (printer.colorMode() == QPrinter::GrayScale)
+    options.emplace_back("print-color-mode", "monochrome");
+  // The rest (when to print, several pages on a sheet, what is the printer's own) Qt keeps as a
+  // list of names and values under a key that it has no name for in its public headers.
+  constexpr auto kOptions = QPrintEngine::PrintEnginePropertyKey(0xfe00);
+  const QStringList rest = printer.printEngine()->property(kOptions).toStringList();
+  for (qsizetype i = 0; i + 1 < rest.size(); i += 2)
+    if (!rest[i + 1].isEmpty()) options.emplace_back(rest[i].toUtf8(), rest[i + 1].toUtf8());
+  return options;
+}
+
+bool send_pages(const ui::Sheets& sheets, const QPrinter& printer, Patience patience) {
+  QTemporaryFile file;
+  if (!file.open()) return false;
+  const auto take = [&file](std::string_view bytes) {
+    const auto size = static_cast<qint64>(bytes.size());
+    return file.write(bytes.data(), size) == size;
+  };
+  if (!write_pdf(sheets, paper_in(printer), take) || !file.flush()) return false;
+  // The part behind a slash is a set of options of the same queue.
+  const QString queue = printer.printerName().section('/', 0, 0);
+  return send({queue, QString::fromStdString(sheets.name), file.fileName(), options_of(printer)},
+              patience);
 }
 
 }  // namespace
 
 bool DesktopPrinter::has_default_printer() const {
+  switch (ask_scheduler(patience_)) {
+    case Scheduler::kAbsent:
+      return false;
+    case Scheduler::kSilent:
+      return true;
+    case Scheduler::kAnswers:
+      break;
+  }
   return !QPrinterInfo::defaultPrinter().isNull();
 }
 
-ui::PageRoom DesktopPrinter::page_room(const ui::Sheets& /*sheets*/) const {
-  return {60, 92};
+ui::PageRoom DesktopPrinter::page_room(const ui::Sheets& sheets) const {
+  return measure_page(sheets, usual_paper(patience_)).room;
 }
 
 ui::PrintResult DesktopPrinter::print(const ui::Sheets& sheets) {
+  // Qt's dialog would wait for the scheduler for ever.
+  if (ask_scheduler(patience_) != Scheduler::kAnswers) return ui::PrintResult::kFailed;
   QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
-  QPrintDialog dialog(&printer, QApplication::activeWindow());
-  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-  dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
-  dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
-  if (dialog.exec() != QDialog::Accepted) return ui::PrintResult::kCancelled;
-  printer.setDocName(QString::fromStdString(sheets.name));
-  return print_on(printer, sheets) ? ui::PrintResult::kSuccess : ui::PrintResult::kFailed;
+  if (!choose(printer, sheets.language)) return ui::PrintResult::kCancelled;
+  const WaitCursor cursor;
+  return send_pages(sheets, printer, patience_) ? ui::PrintResult::kSuccess
+                                                : ui::PrintResult::kFailed;
 }
 
 std::optional<std::string> DesktopPrinter::pdf(const ui::Sheets& sheets) const {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  QPdfWriter writer(&buffer);
-  if (!print_on(writer, sheets)) return std::nullopt;
-  return bytes.toStdString();
-}
-
-bool print_on(QPagedPaintDevice& device, const ui::Sheets& sheets) {
-  QPainter painter;
-  if (!painter.begin(&device)) return false;
-  // A report lines up under its ruler only in a fixed pitch. 92 characters must fit the narrow side
-  // of the paper.
-  constexpr int kPointSize = 8;
-  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  font.setPointSize(kPointSize);
-  // Points of the paper: without the device they would be those of the screen.
-  painter.setFont(QFont(font, &device));
-  const QFontMetricsF metrics(painter.font(), &device);
-  const double page_height = device.height();
-  double y = 0;
-  // What comes first never begins with an empty sheet, however low the paper is.
-  const auto make_room = [&](double height) {
-    if (y == 0 || y + height <= page_height) return true;
-    y = 0;
-    return device.newPage();
+  const WaitCursor cursor;
+  std::string bytes;
+  const auto take = [&bytes](std::string_view more) {
+    bytes.append(more);
+    return true;
   };
-  const std::size_t count = sheets.lines == nullptr ? 0 : sheets.lines->size();
-  for (std::size_t at = 0; at < count; ++at) {
-    const std::string line = sheets.lines->lines(at, 1).front();
-    if (!make_room(metrics.lineSpacing())) return false;
-    painter.drawText(QPointF(0, y + metrics.ascent()), QString::fromStdString(line));
-    y += metrics.lineSpacing();
-  }
-  for (const ui::Drawing& drawing : sheets.drawings) {
-    if (y > 0) y += metrics.lineSpacing();
-    const double width = device.width();
-    const double height = std::min(height_of(drawing, width, metrics), page_height);
-    if (!make_room(height)) return false;
-    paint(painter, QRectF(0, y, width, height), drawing, paper());
-    y += height;
-  }
-  return painter.end();
+  if (!write_pdf(sheets, usual_paper(patience_), take)) return std::nullopt;
+  return bytes;
 }
 
 }  // namespace desktop

@@ -1,25 +1,27 @@
 #pragma once
-// The printer port in Qt: the default printer, the system's print dialog, lines and drawings on
-// pages.
+// The printer port in Qt: the default printer, the system's print dialog, and pages that go to the
+// queue chosen in it as a PDF, the same that is kept as a file.
 
+#include "desktop/print_queue.h"
 #include "ui/printer.h"
-
-class QPagedPaintDevice;
 
 namespace desktop {
 
 class DesktopPrinter : public ui::Printer {
  public:
+  /// `patience` is how long a scheduler that does not answer is waited for.
+  explicit DesktopPrinter(Patience patience = std::chrono::seconds(3)) : patience_(patience) {}
+
+  /// True as well where the scheduler does not answer: it may have one. Printing then fails.
   [[nodiscard]] bool has_default_printer() const override;
   [[nodiscard]] ui::PageRoom page_room(const ui::Sheets& sheets) const override;
-  /// Page numbers, selection and print-to-file are hidden in the dialog.
+  /// Page numbers, selection and print-to-file are hidden in the dialog. Success: the queue has
+  /// taken all pages; one that is stopped prints them when it goes on.
   [[nodiscard]] ui::PrintResult print(const ui::Sheets& sheets) override;
   [[nodiscard]] std::optional<std::string> pdf(const ui::Sheets& sheets) const override;
-};
 
-/// Lays the lines and drawings out on pages, in the colours of white paper. A new page starts where
-/// one is full, and for a drawing that the rest of a page has no room for; a drawing is as wide as
-/// the page, and never higher. False when the device cannot be painted on.
-[[nodiscard]] bool print_on(QPagedPaintDevice& device, const ui::Sheets& sheets);
+ private:
+  Patience patience_;
+};
 
 }  // namespace desktop

@@ -4,12 +4,17 @@
 #include <iterator>
 
 #include "archive/CLogPrintDlg.h"
+#include "archive/CPrintAllTLXDlg.h"
+#include "archive/CQFModifyDlg.h"
+#include "archive/CQFPrintDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
 #include "mainwindow/copy_flow.h"
+#include "mainwindow/correction.h"
 #include "mainwindow/entry_messages.h"
 #include "mainwindow/last_position.h"
 #include "mainwindow/save_flow.h"
+#include "observation/report_file.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CKeyObserveDlg.h"
 #include "text/ids.h"
@@ -35,6 +40,10 @@ class Raised {
 }  // namespace
 
 std::string CVelmaranDlg::title() const {
+  if (correcting())
+    return text::fill(
+        services().texts.get(unsaved() ? id::kCorrectingTitleNotSaved : id::kCorrectingTitle),
+        {correction_.file});
   const text::Id which = unsaved()     ? id::kMainTitleNotSaved
                          : saved_once_ ? id::kMainTitleSaved
                                        : id::kMainTitle;
@@ -177,13 +186,21 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kCorrectReports:
       correct_reports();
       break;
+    case Command::kPrintSelected: {
+      CQFPrintDlg dialog(services(), context_.folders.reports);
+      services().windows.run_modal(dialog);
+      break;
+    }
+    case Command::kPrintAll: {
+      CPrintAllTLXDlg dialog(services(), context_.folders.reports);
+      services().windows.run_modal(dialog);
+      break;
+    }
     case Command::kPrintLogbook: {
       CLogPrintDlg dialog(services(), context_.folders.logbook);
       services().windows.run_modal(dialog);
       break;
     }
-    case Command::kPrintSelected:
-    case Command::kPrintAll:
     case Command::kVosClim:
       services().messages.error(id::kNotInThisVersion);
       break;
@@ -227,16 +244,38 @@ void CVelmaranDlg::correct_reports() {
                                      services().texts.get(id::kExitQuestionTitle));
     if (answer == ui::kCancel || (answer == ui::kOk && !save())) return;
   }
-  services().messages.error(id::kNotInThisVersion);
+  CQFModifyDlg dialog(services(), context_.folders.reports);
+  if (services().windows.run_modal(dialog) == ui::kOk) correct(dialog.chosen());
+}
+
+void CVelmaranDlg::correct(const std::string& path) {
+  const auto opened = mainwindow::open_report(services(), context_, path);
+  if (!opened) return;
+  form_.load_record(opened->record);
+  correction_ = opened->correction;
+  typing_ = false;
+  refresh();
+  focus(*fields_.front().control);
+  tab_flags_.arm();
+  mainwindow::tell_notes(services(), *opened);
+}
+
+// A new date or hour is another report: the next observation may be entered over the last one, and
+// the file that was opened then stays as it is.
+bool CVelmaranDlg::correcting() const {
+  return !correction_.file.empty() &&
+         observation::report_file_name(form_.record()) == correction_.goes_to;
 }
 
 void CVelmaranDlg::edit_fixed_data() {
   CFixDataDlg dialog(services(), context_.folders.fixed_data, false, context_.folders.reports,
                      context_.folders.logbook, context_.ship);
   if (services().windows.run_modal(dialog) != ui::kOk) return;
+  const std::string before = elements::ship_mark(context_.ship);
   context_.ship = dialog.values();
   if (context_.save_fixed_data) context_.save_fixed_data();
-  form_.ship_changed();
+  // An OK without a change leaves a report that is being corrected as it was sent.
+  if (elements::ship_mark(context_.ship) != before) form_.ship_changed();
   show_menu();
   refresh();
   tell_doubts();
@@ -280,12 +319,20 @@ bool CVelmaranDlg::save() {
   std::vector<std::string> remarks;
   for (const elements::Notice& notice : form_.remarks())
     remarks.push_back(mainwindow::worded(notice, services().texts));
+  if (correcting()) {
+    for (const elements::Notice& notice : form_.unacceptable())
+      remarks.push_back(mainwindow::worded(notice, services().texts));
+    for (std::string& line : mainwindow::unplaced_lines(services(), correction_))
+      remarks.push_back(std::move(line));
+  }
   const mainwindow::SaveEnd end = mainwindow::save_observation(
       services(), {form_.record(), context_.ship, context_.items, context_.folders, remarks,
                    [this] { keeper_.drop(draft()); }});
   if (end != mainwindow::SaveEnd::kSaved) return false;
   // The officer has seen in the list what was refused, and saved without it.
   form_.saved();
+  // The file holds what the form does now: there is nothing left to be told of an earlier one.
+  correction_ = {};
   typing_ = false;
   saved_once_ = true;
   find_last_position();

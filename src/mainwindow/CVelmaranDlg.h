@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "elements/form/correction.h"
 #include "elements/form/draft.h"
 #include "elements/form/observation_form.h"
 #include "mainwindow/context.h"
@@ -113,6 +114,11 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
 
   // Commands.
   void correct_reports();
+  /// Brings the report of the file into the form; nothing changes when there is none in it.
+  void correct(const std::string& path);
+  /// The form is on the report that was opened: it still has its date and hour, so that a save
+  /// replaces that file.
+  [[nodiscard]] bool correcting() const;
   void edit_fixed_data();
   void edit_observation_items();
   void switch_language(text::Language language);
@@ -144,6 +150,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   ui::Control* call_sign_ = nullptr;
   ui::Control* ice_word_ = nullptr;
   std::string last_quadrant_;
+  elements::Correction correction_;
   mainwindow::TabFlags tab_flags_;
   bool typing_ = false;  ///< the field that has the focus holds a text that was not taken yet
   bool command_in_progress_ = false;

@@ -53,7 +53,7 @@ std::string CVelmaranDlg::draft() const {
   const bool in_group = typing && field_of(focused()) == nullptr;
   return elements::encode_draft({context_.ship.call_sign, elements::ship_mark(context_.ship),
                                  form_.entries(), typing ? focused()->name : std::string(),
-                                 in_group ? focused()->content : std::string()});
+                                 in_group ? focused()->content : std::string(), correction_});
 }
 
 void CVelmaranDlg::on_idle(bool undisturbed) {
@@ -130,6 +130,7 @@ void CVelmaranDlg::load(elements::ObservationForm& form, const elements::Draft& 
 
 void CVelmaranDlg::take_over(const elements::Draft& draft) {
   load(form_, draft);
+  correction_ = draft.correction;
   refresh();
   ui::Control* const typing_in = find(draft.typing_in);
   if (typing_in == nullptr || !typing_in->can_focus()) return;

@@ -101,11 +101,11 @@ class CopyReports {
 
   bool choose_folder() {
     Folders& folders = context_.folders;
-    CLogDiskSavePathDlg dialog(services_, CLogDiskSavePathDlg::Mode::kReportCopy,
-                               {folders.report_copies,
-                                folders.report_copies.empty() ? folders.removable_root : "",
-                                folders.reports},
-                               context_.keep_folder);
+    CLogDiskSavePathDlg dialog(
+        services_, CLogDiskSavePathDlg::Mode::kReportCopy,
+        {folders.report_copies, folders.report_copies.empty() ? folders.removable_root : "",
+         folders.reports},
+        context_.keep_folder);
     if (services_.windows.run_modal(dialog) != ui::kOk) return false;
     folders.report_copies = dialog.folder();
     for (Report& report : reports_) report.to = platform::join(dialog.folder(), report.name);
@@ -150,9 +150,8 @@ class CopyReports {
       if (report.allowed.content) ++existing;
     }
     if (existing == 0) return true;
-    const std::string question =
-        text::fill(services_.texts.get(id::kAskOverwriteReports),
-                   {number(existing), number(reports_.size())});
+    const std::string question = text::fill(services_.texts.get(id::kAskOverwriteReports),
+                                            {number(existing), number(reports_.size())});
     switch (messages_.ask_for_all(question, id::kAskOverwriteReports, id::kButtonOverwriteAll)) {
       case ForAll::kYes:
         existing_ = Existing::kOverwrite;
@@ -175,8 +174,7 @@ class CopyReports {
         return Step::kEnd;
       }
       const auto place = media::look_at_place(services_.files, report.to);
-      if (!place.ok())
-        return failed({CopyOutcome::kFailed, place.error, report.to}, left);
+      if (!place.ok()) return failed({CopyOutcome::kFailed, place.error, report.to}, left);
       if (place.value->content) {
         if (existing_ == Existing::kKeep) return Step::kNext;
         if (is_asked || place.value->content != report.allowed.content) {

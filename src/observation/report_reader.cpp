@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bitset>
+#include <iterator>
 
 #include "codetables/tables/code_tables.h"
 #include "codetables/tables/minutes.h"
@@ -10,6 +11,7 @@
 #include "observation/report_groups.h"
 #include "observation/report_text.h"
 #include "observation/ship_values.h"
+#include "text/ids.h"
 #include "text/strings.h"
 
 namespace observation {
@@ -224,6 +226,17 @@ class Reader {
 };
 
 }  // namespace
+
+text::Id words_of(Unplaced why) {
+  namespace id = text::id;
+  constexpr text::Id kWords[] = {id::kUnplacedOutside,       id::kUnplacedCallSign,
+                                 id::kUnplacedNotAGroup,     id::kUnplacedOutOfRange,
+                                 id::kUnplacedNoField,       id::kUnplacedRepeated,
+                                 id::kUnplacedOtherSection,  id::kUnplacedIcePlainText,
+                                 id::kUnplacedOtherCallSign, id::kUnplacedWetBulb};
+  static_assert(std::size(kWords) == kUnplacedReasons);
+  return kWords[static_cast<std::size_t>(why)];
+}
 
 std::optional<ReadReport> read_report(std::string_view text, const Struct_Weather& start) {
   const auto found = find_report(text);

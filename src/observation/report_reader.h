@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "observation/Struct_Weather.h"
+#include "text/id.h"
 
 namespace observation {
 
@@ -21,7 +22,14 @@ enum class Unplaced : std::uint8_t {
   kRepeated,       ///< a group that was already there
   kOtherSection,   ///< section 3 and later sections
   kIcePlainText,   ///< ice in plain language, or not five figures behind ICE
+  // What read_report() places and who corrects the report does not.
+  kOtherCallSign,  ///< not the ship's that corrects it
+  kWetBulb,        ///< the wet-bulb group, on a ship that does not send it
 };
+inline constexpr int kUnplacedReasons = 10;
+
+/// The words for it ("not a group of five figures").
+[[nodiscard]] text::Id words_of(Unplaced why);
 
 struct UnplacedText {
   std::string text;

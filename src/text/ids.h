@@ -1151,6 +1151,7 @@ inline constexpr Id kNoReportExists{43958};
 inline constexpr Id kNoLogbookSelected{43959};
 inline constexpr Id kPrint{43960};
 inline constexpr Id kSaveAsPdf{43961};
+inline constexpr Id kReportsChosen{43962};
 inline constexpr Id kFirstPage{43963};
 inline constexpr Id kPreviousPage{43964};
 inline constexpr Id kNextPage{43965};
@@ -1169,7 +1170,37 @@ inline constexpr Id kPdfSaved{43977};
 inline constexpr Id kPdfNotSaved{43978};
 inline constexpr Id kPdfNotMade{43979};
 inline constexpr Id kNoReportFolder{43980};
+inline constexpr Id kNoLogbookFolder{43981};
+inline constexpr Id kReportTooLong{43982};
 
+// Correcting a report
+inline constexpr Id kCorrectingTitle{43900};
+inline constexpr Id kCorrectingTitleNotSaved{43901};
+inline constexpr Id kModifyTitle{43902};
+inline constexpr Id kModifyNothingChosen{43903};
+inline constexpr Id kModifyFolderUnreadable{43904};
+inline constexpr Id kCorrectUnreadable{43905};
+inline constexpr Id kCorrectNoReport{43906};
+inline constexpr Id kCorrectEmpty{43907};
+inline constexpr Id kCorrectTooLarge{43908};
+inline constexpr Id kCorrectNotes{43909};
+inline constexpr Id kUnplacedOutside{43910};
+inline constexpr Id kUnplacedCallSign{43911};
+inline constexpr Id kUnplacedNotAGroup{43912};
+inline constexpr Id kUnplacedOutOfRange{43913};
+inline constexpr Id kUnplacedNoField{43914};
+inline constexpr Id kUnplacedRepeated{43915};
+inline constexpr Id kUnplacedOtherSection{43916};
+inline constexpr Id kUnplacedIcePlainText{43917};
+inline constexpr Id kUnplacedOtherCallSign{43918};
+inline constexpr Id kUnplacedWetBulb{43919};
+inline constexpr Id kUnplaced{43920};
+inline constexpr Id kUnplacedMore{43921};
+inline constexpr Id kCorrectOtherDate{43922};
+inline constexpr Id kCorrectNoDate{43923};
+inline constexpr Id kCorrectNoLine{43924};
+inline constexpr Id kCorrectLogbookUnreadable{43925};
+inline constexpr Id kCorrectMetresPerSecond{43926};
 // Copying reports and the logbook
 inline constexpr Id kNoLogbook{44000};
 inline constexpr Id kAskOverwriteLogbook{44001};
@@ -1201,5 +1232,8 @@ inline constexpr Id kNowCopying{44034};
 inline constexpr Id kAskDeleteOn{44037};
 inline constexpr Id kSelectReportsTitle{44035};
 inline constexpr Id kReportsToCopy{44036};
+
+// Printed pages
+inline constexpr Id kPageOfPages{44050};
 
 }  // namespace text::id

@@ -83,7 +83,8 @@ TEST_F(LogbookPrinting, FolderNeedsNoBackslash) {
 
 TEST_F(LogbookPrinting, ListsNothingWithoutAFolderAndTellsOfOneThatCannotBeRead) {
   EXPECT_EQ(open(-1, "").logbooks.items, Lines());
-  EXPECT_EQ(open(-1, "").pages.remark.content, "");
+  EXPECT_EQ(open(-1, "").pages.remark.content,
+            "No folder is set for the marine meteorological logbook.");
   const CLogPrintDlg& away = open(-1, "C:\\away\\");
   EXPECT_EQ(away.logbooks.items, Lines());
   EXPECT_EQ(away.pages.remark.content, "C:\\away\\ can not be read (no such file or folder).");

@@ -113,10 +113,9 @@ TEST(PreparedReport, IsPlainAsciiOfTheSameWidthWhateverTheFileHolds) {
 
 // ---- Times
 
-TEST(Dated, IsYearMonthDayAndTwoBlanksAndTheMinute) {
-  EXPECT_EQ(archive::dated({2014, 11, 15, 20, 50, 59}), "2014/11/15  20:50");
-  EXPECT_EQ(archive::dated({2014, 1, 2, 3, 4, 5}), "2014/01/02  03:04");
-  EXPECT_EQ(archive::dated({987, 12, 31, 0, 0, 0}), "987/12/31  00:00");
+TEST(Stamp, IsADateAndAMinuteThatAFileNameCanHave) {
+  EXPECT_EQ(archive::stamp({2014, 11, 15, 20, 50, 59}), "20141115_2050");
+  EXPECT_EQ(archive::stamp({2014, 1, 2, 3, 4, 5}), "20140102_0304");
 }
 
 // ---- Lines

@@ -6,16 +6,15 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QPdfWriter>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cmath>
 #include <memory>
 #include <vector>
 
-#include "desktop/desktop_printer.h"
 #include "desktop/drawing_painter.h"
 #include "desktop/picture_label.h"
+#include "desktop/printed_pages.h"
 #include "desktop/screen_window.h"
 #include "desktop/style.h"
 #include "desktop_world.h"
@@ -322,35 +321,37 @@ TEST_F(Pictures, ThatOpenSomethingDoSoAlsoAsTheirCaption) {
 
 // ---- On paper
 
-// The pages of a document printed to a file; 0 when it could not be.
-int pages_of(const ui::Sheets& sheets, const QString& path) {
-  QPdfWriter writer(path);
-  if (!desktop::print_on(writer, sheets)) return 0;
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return 0;
-  return static_cast<int>(file.readAll().count("/Type /Page\n"));
+// The pages of a document printed to a PDF; 0 when it could not be.
+int pages_of(const ui::Sheets& sheets, bool disk_has_room = true) {
+  std::string pdf;
+  const auto take = [&](std::string_view bytes) {
+    pdf.append(bytes);
+    return disk_has_room;
+  };
+  const QPageLayout paper = desktop::paper_of(QPageSize(QPageSize::A4));
+  if (!desktop::write_pdf(sheets, paper, take)) return 0;
+  return static_cast<int>(QByteArray::fromStdString(pdf).count("/Type /Page\n"));
 }
 
 TEST(Printed, ADrawingStandsWholeBelowTheLinesWhereThePageHasRoomForIt) {
-  const QTemporaryDir folder;
-  const QString path = folder.filePath("sheets.pdf");
   ui::Drawing drawing = unit_drawing();
   drawing.shapes = {ui::Polyline{{{0, 0}, {10, 10}}}, ui::ShortText{{5, 5}, "東京"}};
   const auto few = ui::document_of(std::vector<std::string>(3, "BBXX"));
-  const auto page = ui::document_of(std::vector<std::string>(60, "BBXX"));
+  const QPageLayout a4 = desktop::paper_of(QPageSize(QPageSize::A4));
+  const std::size_t room = desktop::measure_page({"Pressure", few}, a4).room.lines;
+  const auto page = ui::document_of(std::vector<std::string>(room, "BBXX"));
   for (const bool same_scale : {false, true}) {
     drawing.same_scale = same_scale;
-    EXPECT_EQ(pages_of({"Pressure", {}, {drawing}}, path), 1);
-    EXPECT_EQ(pages_of({"Pressure", few, {drawing}}, path), 1);
-    EXPECT_EQ(pages_of({"Pressure", page, {drawing}}, path), 2);
+    EXPECT_EQ(pages_of({"Pressure", {}, {drawing}}), 1);
+    EXPECT_EQ(pages_of({"Pressure", few, {drawing}}), 1);
+    EXPECT_EQ(pages_of({"Pressure", page, {drawing}}), 2);
   }
   // Three squares as wide as the page: never two on one.
-  EXPECT_EQ(pages_of({"Maps", few, {drawing, drawing, drawing}}, path), 3);
+  EXPECT_EQ(pages_of({"Maps", few, {drawing, drawing, drawing}}), 3);
   drawing.y.last = drawing.y.first + 100 * (drawing.y.last - drawing.y.first);
-  EXPECT_EQ(pages_of({"A tower", {}, {drawing}}, path), 1);
-  EXPECT_EQ(pages_of({"Listing", ui::document_of(std::vector<std::string>(250, "BBXX"))}, path), 3);
-  EXPECT_EQ(pages_of({"Nothing", {}, {}}, path), 1);
-  EXPECT_EQ(pages_of({"Nowhere", few, {drawing}}, folder.filePath("no/such/folder.pdf")), 0);
+  EXPECT_EQ(pages_of({"A tower", {}, {drawing}}), 1);
+  EXPECT_EQ(pages_of({"Nothing", {}, {}}), 1);
+  EXPECT_EQ(pages_of({"Nowhere", few, {drawing}}, false), 0);
 }
 
 }  // namespace

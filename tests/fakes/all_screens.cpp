@@ -2,6 +2,9 @@
 
 #include "archive/CCreateDir.h"
 #include "archive/CLogPrintDlg.h"
+#include "archive/CPrintAllTLXDlg.h"
+#include "archive/CQFModifyDlg.h"
+#include "archive/CQFPrintDlg.h"
 #include "archive/CShowStatusDlg.h"
 #include "archive/CTlxSelectDlg.h"
 #include "codetables/CCodeTableDlg.h"
@@ -80,6 +83,18 @@ std::vector<ScreenCase> make_table() {
       {"CLogPrintDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CLogPrintDlg>(services, "C:\\kavrel\\data\\log\\");
+       }},
+      {"CQFModifyDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CQFModifyDlg>(services, "C:\\kavrel\\data\\tlx\\");
+       }},
+      {"CPrintAllTLXDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPrintAllTLXDlg>(services, "C:\\kavrel\\data\\tlx\\");
+       }},
+      {"CQFPrintDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CQFPrintDlg>(services, "C:\\kavrel\\data\\tlx\\");
        }},
       {"CTlxSelectDlg",
        [](ui::Services& services) -> Made {

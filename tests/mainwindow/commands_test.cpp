@@ -14,9 +14,6 @@ namespace id = text::id;
 using main_window::Opened;
 
 constexpr const char* kLater[] = {
-    "File/Print/Selected weather report",
-    "File/Print/All weather reports",
-    "File/Correct weather reports",
     " VOSClim",
 };
 

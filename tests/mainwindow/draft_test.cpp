@@ -341,7 +341,7 @@ TEST(KeptEntries, ThatCannotBeUsedAreNamedAndPutAside) {
       {"is damaged", id::kDraftDamaged,
        [](Computer& c) { c.files.add_file(kDraft, std::string(1U << 20U, '\n')); }},
       {"later version", id::kDraftLaterVersion,
-       [](Computer& c) { c.files.add_file(kDraft, "draft=2\ncheck=5AE5125F\n"); }},
+       [](Computer& c) { c.files.add_file(kDraft, "draft=3\ncheck=43FE231E\n"); }},
       {"of another ship (JXKV)", id::kDraftOtherShip,
        [](Computer& c) { c.ship.call_sign = "JABC"; }},
   };

@@ -16,6 +16,8 @@ struct PrintCommand {
   const char* screen;
 };
 constexpr PrintCommand kPrintCommands[] = {
+    {"File/Print/Selected weather report", "CQFPrintDlg"},
+    {"File/Print/All weather reports", "CPrintAllTLXDlg"},
     {"File/Print/Marine meteorological logbook", "CLogPrintDlg"},
 };
 

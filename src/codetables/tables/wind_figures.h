@@ -30,6 +30,11 @@ struct WindFigures {
 };
 [[nodiscard]] WindFigures wind_figures(std::string_view direction, std::string_view speed);
 
+/// True when iw (code table 1855) says that the speeds beside it are in metres a second.
+[[nodiscard]] inline bool is_metres_per_second(std::string_view iw) {
+  return iw == "0" || iw == "1";
+}
+
 /// A wind speed of the record in knots: `speed` is in the unit that iw tells (code table 1855; metres
 /// a second for "0" and "1", knots for any other). Nothing when it is no number.
 [[nodiscard]] std::optional<Knot> knots_of(std::string_view speed, std::string_view iw);

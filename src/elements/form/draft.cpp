@@ -15,7 +15,9 @@ namespace {
 
 using std::string_view;
 
+// The first one knew of no corrections, and is written still where there is none.
 constexpr int kVersion = 1;
+constexpr int kVersionOfCorrection = 2;
 constexpr string_view kVersionName = "draft=";
 constexpr string_view kCheckName = "check=";
 constexpr string_view kFigures = "0123456789ABCDEF";
@@ -110,6 +112,10 @@ class Writer {
   void number(string_view name, int value, int none, int /*lowest*/, int /*highest*/) {
     if (value != none) line(name, text::format_int(value));
   }
+  /// True when a list goes on with a line of this name and number.
+  [[nodiscard]] bool goes_on(string_view /*name*/, std::size_t at, std::size_t size) const {
+    return at < size;
+  }
   [[nodiscard]] std::string& out() { return out_; }
 
  private:
@@ -131,6 +137,10 @@ class Reader {
   void number(string_view name, int& value, int none, int lowest, int highest) {
     const auto found = of(name);
     value = found ? std::clamp(text::leading_int(*found), lowest, highest) : none;
+  }
+
+  [[nodiscard]] bool goes_on(string_view name, std::size_t /*at*/, std::size_t /*size*/) const {
+    return of(name).has_value();
   }
 
  private:
@@ -161,6 +171,20 @@ void describe_fields(Lines& lines, Entries& entries) {
 }
 
 template <class Lines>
+void describe_correction(Lines& lines, Correction& correction) {
+  lines.text("correcting", correction.file);
+  lines.text("goes_to", correction.goes_to);
+  auto& unplaced = correction.unplaced;
+  for (std::size_t at = 0;; ++at) {
+    const std::string number = text::format_int(static_cast<int>(at));
+    if (!lines.goes_on("unplaced." + number, at, unplaced.size())) break;
+    if (at == unplaced.size()) unplaced.emplace_back();
+    lines.text("unplaced." + number, unplaced[at].text);
+    describe_enum(lines, "why." + number, unplaced[at].why, 0, observation::kUnplacedReasons - 1);
+  }
+}
+
+template <class Lines>
 void describe(Lines& lines, Draft& draft) {
   Entries& form = draft.form;
   lines.text("call_sign", draft.call_sign);
@@ -181,6 +205,13 @@ void describe(Lines& lines, Draft& draft) {
   lines.flag("doubled_pressure_due", form.doubled_pressure_due);
   lines.text("typing_in", draft.typing_in);
   lines.text("group_text", draft.group_text);
+  lines.flag("dew_point_as_sent", form.dew_point_as_sent);
+  describe_correction(lines, draft.correction);
+}
+
+int version_of(const Draft& draft) {
+  return draft.correction.file.empty() && !draft.form.dew_point_as_sent ? kVersion
+                                                                        : kVersionOfCorrection;
 }
 
 // The lines between version and checksum; nothing when one is no NAME=VALUE.
@@ -244,7 +275,7 @@ std::string ship_mark(const ShipFixedData& ship) {
 
 std::string encode_draft(const Draft& draft) {
   Writer writer;
-  writer.out().append(kVersionName).append(text::format_int(kVersion)).append("\n");
+  writer.out().append(kVersionName).append(text::format_int(version_of(draft))).append("\n");
   Draft copy = draft;
   describe(writer, copy);
   std::string text = std::move(writer.out());
@@ -259,7 +290,7 @@ DraftRead decode_draft(string_view text) {
   if (text.substr(body.size()) != std::string(kCheckName) + checksum(body) + "\n") return {};
   const string_view version = body.substr(kVersionName.size(), body.find('\n') + 1);
   // Behind the checksum: a draft of a later version is whole, not damaged.
-  if (text::leading_int(version) > kVersion) return {DraftFault::kLaterVersion, {}};
+  if (text::leading_int(version) > kVersionOfCorrection) return {DraftFault::kLaterVersion, {}};
   const auto lines = lines_of(body);
   if (!lines) return {};
   DraftRead read{DraftFault::kNone, {}};

@@ -1,7 +1,7 @@
 #pragma once
 // An observation that was not saved, as a text that outlives the program.
 //
-//   draft=1                     version of this layout
+//   draft=1                     version of this layout: 2 for a report that is being corrected
 //   call_sign=JXKV              whose observation it is
 //   ship=5A1C22F0               what of the ship the values were computed with
 //   record.YY=15                fields of the record, as in an observation file
@@ -10,6 +10,9 @@
 //   wrong.ww=1                  it is marked wrong
 //   aside.VV=97                 an entry put aside while its element is switched off
 //   ...
+//   correcting=14111512.tlx     file of the report that is being corrected
+//   unplaced.0=70033            what of that file is not in the form, and why
+//   why.0=4
 //   check=0F2E6A11              checksum of all that stands above
 //
 // UTF-8, one line each, in one order; what is empty, not set or not chosen has no line. "%" and
@@ -21,6 +24,7 @@
 #include <string>
 #include <string_view>
 
+#include "elements/form/correction.h"
 #include "elements/form/entries.h"
 
 namespace elements {
@@ -31,6 +35,7 @@ struct Draft {
   Entries form;            ///< the working values of the record are not kept
   std::string typing_in;   ///< name of the control that was being typed into; empty: none was
   std::string group_text;  ///< what stood in it, when it is a group of the report
+  Correction correction = {};
 };
 
 /// Changes with every value of the ship that the form computes with: a draft with another one has

@@ -80,6 +80,9 @@ void store(Entries& entries, Field field, const std::string& value, const ShipFi
       store_temperature(entries, row, value, ship);
       break;
     case Codec::kSpeed: {
+      // What is entered is in knots; a report that was sent by others may have had another unit.
+      if (codetables::is_metres_per_second(record.iw))
+        record.iw = Struct_Weather(ship, KeyObservationItems()).iw;
       const codetables::WindFigures figures = codetables::wind_figures({}, value);
       record.*row.member = figures.ff;
       record.*row.beside = figures.fff;

@@ -47,6 +47,9 @@ struct Entries {
   std::string pppp_of_reading;
   /// SnTd and TdTdTd as the bulbs gave them. Others were typed, and outlive the bulbs.
   std::string dew_point_of_bulbs;
+  /// The dew point is that of a report that was sent: the reading it was computed with is not known,
+  /// so it stays until a bulb or a reading is entered, whatever becomes of ship and card.
+  bool dew_point_as_sent = false;
   DewPointMethod dew_point_method = DewPointMethod::kDirect;  ///< the texts are made for it
   /// Ss is made for it. Another method in Ss was chosen for this observation alone, and stays.
   SeaTemperatureMethod sea_temperature_method = SeaTemperatureMethod::kIntake;

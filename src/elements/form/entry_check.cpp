@@ -184,6 +184,17 @@ CheckedEntry check_pressure(std::string_view typed) {
                   codetables::pressure_text({*number}));
 }
 
+bool is_acceptable(const Entries& entries, const Surroundings& around, Field field) {
+  const std::string& text = entries.entered(field);
+  const bool untested = field == Field::kYear || field == Field::kReading;
+  if (untested || text.find_first_not_of('/') == std::string::npos) return true;
+  if (field == Field::kPPPP) return check_pressure(text).answer.kind != Answer::Kind::kRefused;
+  if (field == Field::kHumidity)
+    return check_read_humidity(text, around.ship).verdict != Verdict::kRefused;
+  return check_field(row_of(field).editor, text, bounds_of(field, entries.record, around.clock))
+             .verdict != Verdict::kRefused;
+}
+
 bool is_impossible(Field field, const Struct_Weather& record) {
   switch (field) {
     case Field::kYY:

@@ -38,6 +38,10 @@ struct CheckedEntry {
 /// answer may be a question.
 [[nodiscard]] CheckedEntry check_pressure(std::string_view typed);
 
+/// True when the field's own test would take what is accepted in it; also for what no entry can be
+/// tested on: nothing, solidi, and the year, whose bounds are those of new observations.
+[[nodiscard]] bool is_acceptable(const Entries& entries, const Surroundings& around, Field field);
+
 /// What a change of the month or year, or of the degrees, has made impossible: the day that the
 /// month does not have, and minutes beyond the pole and the date line. The entry that was changed
 /// is right; it is this one that is to be corrected.

@@ -115,6 +115,9 @@ enum class Follows : std::uint8_t {
 [[nodiscard]] constexpr Follows operator|(Follows a, Follows b) {
   return static_cast<Follows>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
 }
+[[nodiscard]] constexpr Follows without(Follows all, Follows one) {
+  return static_cast<Follows>(static_cast<unsigned>(all) & ~static_cast<unsigned>(one));
+}
 [[nodiscard]] constexpr bool has(Follows all, Follows one) {
   return (static_cast<unsigned>(all) & static_cast<unsigned>(one)) != 0;
 }

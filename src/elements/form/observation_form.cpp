@@ -5,6 +5,7 @@
 #include "codetables/tables/quadrant.h"
 #include "codetables/tables/sea_temperature_figures.h"
 #include "codetables/tables/temperature_figures.h"
+#include "codetables/tables/wind_figures.h"
 #include "elements/form/derivation.h"
 #include "elements/form/entry_check.h"
 #include "elements/form/field_codes.h"
@@ -45,12 +46,24 @@ std::vector<Notice> ObservationForm::remarks() const {
     notices.push_back(std::move(notice));
   }
   const ShipFixedData& ship = around_.ship;
-  if (ship.dew_point_method == DewPointMethod::kComputed && dew_point_is_of_bulbs(now_)) {
+  if (ship.dew_point_method == DewPointMethod::kComputed && dew_point_is_of_bulbs(now_) &&
+      !now_.dew_point_as_sent) {
     if (!dew_point_of_bulbs(now_, ship)) {
       notices.push_back({id::kDewPointOfEarlierBulbs});
     } else if (ship.card.type == CardType::kNotChosen) {
       notices.push_back({id::kDoubledPressure});
     }
+  }
+  return notices;
+}
+
+std::vector<Notice> ObservationForm::unacceptable() const {
+  std::vector<Notice> notices;
+  for (const FieldRow& row : field_rows()) {
+    if (in_error(row.field) || is_unused(row) || is_acceptable(now_, around_, row.field)) continue;
+    Notice notice = range_notice(row.field, record(), around_.clock);
+    notice.below = {};
+    notices.push_back(std::move(notice));
   }
   return notices;
 }
@@ -86,6 +99,7 @@ Answer ObservationForm::leave(Field field, Confirmed confirmed) {
     value = std::move(checked.value);
   }
   const Struct_Weather before = record();
+  const bool had_wind = true_wind_of(now_).has_value();
   const std::string earlier = entry.entered();
   // Where there was no reading, the pressure was typed by hand and is not of one.
   const bool nothing_to_clear = field == Field::kReading && earlier.empty();
@@ -97,7 +111,7 @@ Answer ObservationForm::leave(Field field, Confirmed confirmed) {
   entry.show(value);
   // Not everything that is entered goes into the record (the apparent wind).
   if (value != earlier) now_.modified = true;
-  finish(before, row_of(field).follows, {field});
+  follow(before, row_of(field).follows, had_wind, {field});
   if (confirmed != kEveryQuestion) now_.error_flag = false;
   return {};
 }
@@ -112,8 +126,23 @@ Answer ObservationForm::leave(observation::Group group, std::string_view typed,
   show_changes(now_, before, around_.ship);
   Follows what = Follows::kNothing;
   for (const Field field : entry.changed) what = what | row_of(field).follows;
-  finish(before, what);
+  follow(before, what, true_wind_of(now_).has_value());
   return {};
+}
+
+// What every entry ends with.
+void ObservationForm::follow(const Struct_Weather& before, Follows what, bool had_wind,
+                             const std::vector<Field>& but) {
+  if (has(what, Follows::kDewPoint)) now_.dew_point_as_sent = false;
+  // Until the apparent wind is whole it says nothing, and a true wind that was sent stays; a text
+  // that was refused there does not, for the fields are locked.
+  if (has(what, Follows::kTrueWind) && !had_wind && !true_wind_of(now_)) {
+    what = without(what, Follows::kTrueWind);
+    for (const Field field : {Field::kdd, Field::kff}) {
+      if (now_[field].before_typing) now_[field].show(now_.entered(field));
+    }
+  }
+  finish(before, what, but);
 }
 
 // What every change of the record ends with.
@@ -121,6 +150,9 @@ void ObservationForm::finish(const Struct_Weather& before, Follows what,
                              const std::vector<Field>& but) {
   now_ = derived(std::move(now_), around_.ship, what);
   show_changes(now_, before, around_.ship, but);
+  // Whoever enters weather observes it, whatever the report said that is being corrected.
+  if (record().ww != before.ww || record().W1 != before.W1 || record().W2 != before.W2)
+    now_.record.iX = Struct_Weather(around_.ship, around_.items).iX;
   if (!(record() == before)) now_.modified = true;
 }
 
@@ -155,6 +187,7 @@ void ObservationForm::store_put(Field field, std::string_view text) {
 
 void ObservationForm::put(const std::vector<Value>& values, std::optional<WetBulbState> wet_bulb) {
   const Struct_Weather before = record();
+  const bool had_wind = true_wind_of(now_).has_value();
   Follows what = wet_bulb ? Follows::kDewPoint : Follows::kNothing;
   now_.wet_bulb = wet_bulb.value_or(now_.wet_bulb);
   std::vector<Field> fields;
@@ -169,7 +202,7 @@ void ObservationForm::put(const std::vector<Value>& values, std::optional<WetBul
     if (const std::string wet = entered(Field::kWetBulb); !wet.empty())
       store(now_, Field::kWetBulb, wet, around_.ship);
   }
-  finish(before, what, fields);
+  follow(before, what, had_wind, fields);
 }
 
 void ObservationForm::change(const std::function<void(Struct_Weather&)>& change,
@@ -187,7 +220,7 @@ void ObservationForm::ship_changed() {
   const bool was_modified = modified();
   Struct_Weather& record = now_.record;
   const Struct_Weather fresh(ship, around_.items);
-  record.iw = fresh.iw;
+  if (!codetables::is_metres_per_second(record.iw)) record.iw = fresh.iw;
   record.CallSign = fresh.CallSign;
   record.ShipFixed = fresh.ShipFixed;
   if (std::exchange(now_.dew_point_method, ship.dew_point_method) != ship.dew_point_method) {
@@ -206,7 +239,7 @@ void ObservationForm::ship_changed() {
   put_unused_aside();
   // Taken once the ship's own texts are in: they alone make nothing unsaved.
   const Struct_Weather as_entered = record;
-  Follows what = Follows::kReductionAgain | Follows::kDewPoint;
+  Follows what = of_card();
   // Without a whole apparent wind a true one that stands there was entered as such.
   if (true_wind_of(now_)) what = what | Follows::kTrueWind;
   finish(before, what);
@@ -215,12 +248,17 @@ void ObservationForm::ship_changed() {
 
 void ObservationForm::card_changed() {
   // A copy, for finish() compares with what was there before.
-  finish(Struct_Weather(record()), Follows::kReductionAgain | Follows::kDewPoint);
+  finish(Struct_Weather(record()), of_card());
+}
+
+// What a change of ship or card brings with it.
+Follows ObservationForm::of_card() const {
+  const Follows what = Follows::kReductionAgain | Follows::kDewPoint;
+  return now_.dew_point_as_sent ? without(what, Follows::kDewPoint) : what;
 }
 
 void ObservationForm::items_changed() {
   const bool was_modified = modified();
-  now_.record.iX = Struct_Weather(around_.ship, around_.items).iX;
   put_unused_aside();
   now_.modified = was_modified;
 }
@@ -238,6 +276,9 @@ void ObservationForm::put_unused_aside() {
     // Present and past weather are filled, so that their group says "not observed"; other elements
     // stay empty.
     const bool filled = !row.not_observed.empty();
+    // With them goes the indicator of their group. An observation that was sent keeps its own until
+    // one of the items is another.
+    if (filled) now_.record.iX = Struct_Weather(around_.ship, around_.items).iX;
     if (entry.put_aside) {
       const std::string back = *std::exchange(entry.put_aside, std::nullopt);
       if (filled) clear(now_, row.field);
@@ -277,6 +318,7 @@ void ObservationForm::load_record(const Struct_Weather& record) {
   }
   // A dew point beside its bulbs is theirs, and does not outlive them.
   if (record.has_wet_bulb()) loaded.dew_point_of_bulbs = record.SnTd + record.TdTdTd;
+  loaded.dew_point_as_sent = true;
   now_ = std::move(loaded);
 }
 

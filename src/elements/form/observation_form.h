@@ -59,6 +59,9 @@ class ObservationForm {
   /// What the list of a save says beside groups and rules: the refused entries that still stand in
   /// their fields, and what is doubtful about a computed dew point.
   [[nodiscard]] std::vector<Notice> remarks() const;
+  /// The same for values that came with a record and that their fields would have refused; solidi
+  /// and years long ago are none. For the list of a save that replaces that report.
+  [[nodiscard]] std::vector<Notice> unacceptable() const;
   /// The observation was changed since the last saved(). Ship data and items are no observation:
   /// they count only where a value that was entered gives another one now.
   [[nodiscard]] bool modified() const { return now_.modified; }
@@ -121,8 +124,9 @@ class ObservationForm {
   void load(const Entries& entries);
   /// Takes a whole record over, as it was sent: every field shows what it holds, nothing is
   /// computed over it or put aside, and it counts as saved. A record has no barometer reading and
-  /// no apparent wind; what is entered from then on is computed without them until they are entered
-  /// too.
+  /// no apparent wind: its true wind stays until a whole apparent one is entered, its dew point
+  /// until a bulb or a reading is, and then without a reading it is computed as for any observation
+  /// without one.
   void load_record(const Struct_Weather& record);
   void saved() { now_.modified = false; }
   /// What came up since the last call.
@@ -130,7 +134,10 @@ class ObservationForm {
 
  private:
   void store_put(Field field, std::string_view text);
+  void follow(const Struct_Weather& before, Follows what, bool had_wind,
+              const std::vector<Field>& but = {});
   void finish(const Struct_Weather& before, Follows what, const std::vector<Field>& but = {});
+  [[nodiscard]] Follows of_card() const;
   [[nodiscard]] bool is_unused(const FieldRow& row) const;
   void put_unused_aside();
 

@@ -214,7 +214,7 @@ TEST(Draft, WithTheRightChecksumIsStillTestedLineByLine) {
 }
 
 TEST(Draft, OfALaterVersionIsNamedSo) {
-  EXPECT_EQ(elements::decode_draft(with_checksum("draft=2\nanything at all\n")).fault,
+  EXPECT_EQ(elements::decode_draft(with_checksum("draft=3\nanything at all\n")).fault,
             DraftFault::kLaterVersion);
   for (const char* const version : {"0", "-1", "", "x", "01", "1.0"})
     EXPECT_EQ(elements::decode_draft(with_checksum(std::string("draft=") + version + "\n")).fault,

@@ -1,0 +1,46 @@
+#pragma once
+// Lines and drawings on pages of paper, as a PDF: what is printed, what is kept as a file, and what
+// a view of the pages has to break like are one layout.
+
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QString>
+#include <cstddef>
+#include <functional>
+#include <string_view>
+
+#include "ui/printer.h"
+
+namespace desktop {
+
+/// Paper of this size whose margins are those in points, but nowhere less than ten millimetres.
+[[nodiscard]] QPageLayout paper_of(const QPageSize& size, const QMarginsF& least = {},
+                                   QPageLayout::Orientation orientation = QPageLayout::Portrait);
+
+/// A family in whose letters lines stand in columns: every Latin character is as wide as any other,
+/// a Japanese one exactly twice as wide. The system's fixed font where no installed family is like
+/// that; characters that it does not have are put into their columns one by one.
+[[nodiscard]] QString print_family();
+/// True for a family that print_family() looks for.
+[[nodiscard]] bool keeps_columns(const QString& family);
+
+/// What one page has room for, and how large its letters are (ui::PrintSize).
+struct PageMeasures {
+  ui::PageRoom room;
+  int letter_height = 1;   ///< of the font, in dots
+  double column = 1;       ///< width of one, in dots
+  double line_height = 1;  ///< in dots
+};
+[[nodiscard]] PageMeasures measure_page(const ui::Sheets& sheets, const QPageLayout& paper);
+
+/// Takes the next bytes of a file; false when they have no room.
+using TakeBytes = std::function<bool(std::string_view)>;
+
+/// Draws the pages and hands their PDF on while it grows. A new page starts where one is full, and
+/// for a drawing that the rest of a page has no room for; a drawing is as wide as the page, and
+/// never higher. False when the bytes were not taken; what came before is then of no use.
+[[nodiscard]] bool write_pdf(const ui::Sheets& sheets, const QPageLayout& paper,
+                             const TakeBytes& take);
+
+}  // namespace desktop
