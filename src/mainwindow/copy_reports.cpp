@@ -123,9 +123,9 @@ class CopyReports {
 
   /// False when the officer has ended it.
   bool copy_all() {
-    std::optional<CShowStatusDlg> notice;
-    notice.emplace(services_, id::kNowCopying);
     if (are_many() && !ask_about_existing()) return false;
+    std::optional<CShowStatusDlg> notice;
+    if (are_many()) notice.emplace(services_, id::kNowCopying);
     for (std::size_t i = 0; i < reports_.size(); ++i) {
       const std::size_t left = reports_.size() - i - 1;
       const Step step = copy_one(reports_[i], left);
@@ -182,12 +182,18 @@ class CopyReports {
         }
       }
       report.allowed = *place.value;
-      const CopyResult result =
-          media::copy_file(services_.files, report.from, report.to, report.allowed);
+      const CopyResult result = copy_file(report);
       if (result.outcome == CopyOutcome::kDone) return Step::kCopied;
       if (result.outcome != CopyOutcome::kPlaceChanged) return failed(result, left);
       is_asked = true;
     }
+  }
+
+  CopyResult copy_file(const Report& report) {
+    // Of many there is one notice for all of them; of few each has gone before it is told.
+    std::optional<CShowStatusDlg> notice;
+    if (!are_many()) notice.emplace(services_, id::kNowCopying);
+    return media::copy_file(services_.files, report.from, report.to, report.allowed);
   }
 
   /// What follows when a report that exists may not be overwritten; nothing when it may.
