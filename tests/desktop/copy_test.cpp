@@ -56,8 +56,7 @@ std::string on_top() {
   // What a window manager does when the window above has gone.
   if (QApplication::focusWidget() == nullptr) window->activateWindow();
   if (!window->isAncestorOf(QApplication::focusWidget())) return {};
-  return qobject_cast<QMessageBox*>(window) != nullptr ? "box"
-                                                       : window->objectName().toStdString();
+  return qobject_cast<QMessageBox*>(window) != nullptr ? "box" : window->objectName().toStdString();
 }
 
 /// Opens the main window and runs the item of the menu "File" that so many arrows lead to; each
@@ -161,15 +160,14 @@ TEST(CopyByKeys, EscapeKeepsTheLogbookAndTheOlderCopy) {
 TEST(CopyByKeys, SpaceTakesTheTickOffAReportAndTheOthersAreCopied) {
   Computer computer;
   computer.temp.write("copy/14111506.tlx", "old");
-  const Lines told =
-      run(computer, kToReports,
-          {{"CTlxSelectDlg", keys({Qt::Key_Down, Qt::Key_Space, Qt::Key_Return})},
-           {"CLogDiskSavePathDlg", keys({Qt::Key_Return})},
-           {"box", keys({Qt::Key_Return})},  // the first was copied
-           {"box", button(1)},               // and stays
-           {"box", button(0)},               // the third is overwritten
-           {"box", keys({Qt::Key_Return})},
-           {"box", button(1)}});
+  const Lines told = run(computer, kToReports,
+                         {{"CTlxSelectDlg", keys({Qt::Key_Down, Qt::Key_Space, Qt::Key_Return})},
+                          {"CLogDiskSavePathDlg", keys({Qt::Key_Return})},
+                          {"box", keys({Qt::Key_Return})},  // the first was copied
+                          {"box", button(1)},               // and stays
+                          {"box", button(0)},               // the third is overwritten
+                          {"box", keys({Qt::Key_Return})},
+                          {"box", button(1)}});
   ASSERT_EQ(told.size(), 5U);
   EXPECT_TRUE(told[2].starts_with("The weather report (14111506.tlx) already exists")) << told[2];
   EXPECT_EQ(computer.temp.names("copy"), (Lines{"14111506.tlx", "14111518.tlx"}));
