@@ -26,6 +26,7 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
+#include "fakes/sample_archive.h"
 #include "fakes/sample_ship.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "media/CLogDiskSavePathDlg.h"
@@ -64,6 +65,29 @@ class MainWindow : private Owned, public CVelmaranDlg {
       : CVelmaranDlg(services, {ship, items, folders, {}}) {}
 };
 
+// A dialog on the sample folders, one line of its list chosen and, where they have boxes, ticked.
+template <class Dialog>
+class OfArchive : private SampleArchive, public Dialog {
+ public:
+  OfArchive(ui::Services& services, const char* folder, int line)
+      : SampleArchive(services), Dialog(archive_services_, folder), line_(line) {}
+
+ protected:
+  void on_open() override {
+    Dialog::on_open();
+    for (ui::Control* const control : this->controls()) {
+      if (control->kind != ui::Kind::kList) continue;
+      control->selected = line_;
+      if (!control->item_ticked.empty())
+        control->item_ticked[static_cast<std::size_t>(line_)] = true;
+      if (control->on_change) control->on_change();
+    }
+  }
+
+ private:
+  int line_;
+};
+
 // Every dialog that picks codes, on the last line of each of its tables.
 Made make_picker(ui::Services& services, const codetables::CodePicker& picker) {
   Struct_Weather record(sample_ship(), KeyObservationItems());
@@ -74,161 +98,154 @@ Made make_picker(ui::Services& services, const codetables::CodePicker& picker) {
 
 std::vector<ScreenCase> make_table() {
   std::vector<ScreenCase> table = {
-    // archive
-    {"CCreateDir",
-     [](ui::Services& services) -> Made {
-       return std::make_unique<CCreateDir>(services, "C:\\kavrel\\data");
-     }},
-    {"CLogPrintDlg",
-     [](ui::Services& services) -> Made {
-       return std::make_unique<CLogPrintDlg>(services, "C:\\kavrel\\data\\log\\");
-     }},
-    {"CQFModifyDlg", [](ui::Services& services) -> Made {
-       return std::make_unique<CQFModifyDlg>(services, "C:\\kavrel\\data\\tlx\\");
-       {"CPrintAllTLXDlg",
-        [](ui::Services& services) -> Made {
-          return std::make_unique<CPrintAllTLXDlg>(services, "C:\\kavrel\\data\\tlx\\");
-        }},
-           {"CQFPrintDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CQFPrintDlg>(services, "C:\\kavrel\\data\\tlx\\");
-            }},
-           {"CShowStatusDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CShowStatusDlg>(services);
-            }},
-           // codetables, and below every picker
-           {"CNowWeatherDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CNowWeatherDlg>(services, "07");
-            }},
-           {"CPastWeatherDlg1",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CPastWeatherDlg1>(services, 6, 2);
-            }},
-           {"CSwellWaveDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CSwellWaveDlg>(
-                  services, CSwellWaveDlg::Values{{"27", "08", "2.0"}, {"05", "12", "0.2"}});
-            }},
-           {"CWaveLengthDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CWaveLengthDlg>(services);
-            }},
-           {"CWindDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CWindDlg>(services, CWindDlg::Values{"05", "1.5"},
-                                                codetables::Knot{18});
-            }},
-           {"CICECiDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CICECiDlg>(services, "4");
-            }},
-           {"CSeaIceDialog",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CSeaIceDialog>(services,
-                                                     CSeaIceDialog::Values{"3", "05", "1"});
-            }},
-           // elements
-           {"CCountDewDlg",
-            [](ui::Services& services) -> Made {
-              CCountDewDlg::Values values;
-              values.dry = "18.3";
-              values.wet = "15.1";
-              return std::make_unique<CCountDewDlg>(services, values);
-            }},
-           {"CHour3ErrorDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CHour3ErrorDlg>(services, "Waning: Ship's position\r\n");
-            }},
-           {"CLookWindDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CLookWindDlg>(
-                  services, elements::ApparentWindTexts{"045", " 18.5", "090", "092", "12.5"});
-            }},
-           {"CPositionDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CPositionDlg>(
-                  services, CPositionDlg::Values{"35", "12", "139", "48", "1"}, "1",
-                  [](double, double) { return false; });
-            }},
-           {"CPresureTendencyDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CPresureTendencyDlg>(services, "3", "012");
-            }},
-           {"CSaveErrorInfoDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CSaveErrorInfoDlg>(services,
-                                                         "Group4PPPP   No value input\r\n"
-                                                         "Group5appp   No value input\r\n");
-            }},
-           {"CSeaSurfacePressureDlg",
-            [](ui::Services& services) -> Made {
-              CSeaSurfacePressureDlg::Values values;
-              values.reading = "1013.2";
-              values.air_temperature = "18.3";
-              values.card = full_ship().card;
-              return std::make_unique<CSeaSurfacePressureDlg>(
-                  services, values, CSeaSurfacePressureDlg::CardActions{});
-            }},
-           {"CSea_SurfaceTemperatureDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CSea_SurfaceTemperatureDlg>(
-                  services, CSea_SurfaceTemperatureDlg::Values{"0", "184"},
-                  SeaTemperatureMethod::kIntake);
-            }},
-           {"CTemperatureAndDewDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CTemperatureAndDewDlg>(
-                  services, CTemperatureAndDewDlg::Values{"18.3", "12.0"});
-            }},
-           {"CThumidityDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CThumidityDlg>(services, "68", 1.0);
-            }},
-           {"CTrueDirWindDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CTrueDirWindDlg>(services, "18", "12");
-            }},
-           {"CUTCTimeDlg1",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CUTCTimeDlg1>(services,
-                                                    CUTCTimeDlg1::Values{"2014", "11", "15", "12"});
-            }},
-           // mainwindow
-           {"CVelmaranDlg",
-            [](ui::Services& services) -> Made { return std::make_unique<MainWindow>(services); }},
-           // media
-           {"CLogDiskSavePathDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CLogDiskSavePathDlg>(
-                  services, CLogDiskSavePathDlg::Mode::kReport,
-                  CLogDiskSavePathDlg::Folders{{}, "C:\\kavrel\\data", {}},
-                  [](std::string_view, std::string_view) {});
-            }},
-           // ship
-           {"CFixDataDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CFixDataDlg>(services, "C:\\none", false,
-                                                   "C:\\kavrel\\data\\tlx", "C:\\kavrel\\data\\log",
-                                                   full_ship());
-            }},
-           {"CFullEmptySelect",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CFullEmptySelect>(services);
-            }},
-           {"CKataInputDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CKataInputDlg>(services, full_ship().card);
-            }},
-           {"CKataSelectDlg",
-            [](ui::Services& services) -> Made {
-              return std::make_unique<CKataSelectDlg>(services, CardType::kTotalCorrection);
-            }},
-           {"CKeyObserveDlg", [](ui::Services& services) -> Made {
-              return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
-            }},
-     };
+      // archive
+      {"CCreateDir",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CCreateDir>(services, "C:\\kavrel\\data");
+       }},
+      {"CLogPrintDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<OfArchive<CLogPrintDlg>>(services, kSampleLogbook, 0);
+       }},
+      {"CQFModifyDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<OfArchive<CQFModifyDlg>>(services, kSampleReports, 1);
+       }},
+      {"CPrintAllTLXDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<OfArchive<CPrintAllTLXDlg>>(services, kSampleReports, 1);
+       }},
+      {"CQFPrintDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<OfArchive<CQFPrintDlg>>(services, kSampleReports, 1);
+       }},
+      {"CShowStatusDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
+      // codetables, and below every picker
+      {"CNowWeatherDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CNowWeatherDlg>(services, "07");
+       }},
+      {"CPastWeatherDlg1",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPastWeatherDlg1>(services, 6, 2);
+       }},
+      {"CSwellWaveDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSwellWaveDlg>(
+             services, CSwellWaveDlg::Values{{"27", "08", "2.0"}, {"05", "12", "0.2"}});
+       }},
+      {"CWaveLengthDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CWaveLengthDlg>(services); }},
+      {"CWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CWindDlg>(services, CWindDlg::Values{"05", "1.5"},
+                                           codetables::Knot{18});
+       }},
+      {"CICECiDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<CICECiDlg>(services, "4"); }},
+      {"CSeaIceDialog",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSeaIceDialog>(services, CSeaIceDialog::Values{"3", "05", "1"});
+       }},
+      // elements
+      {"CCountDewDlg",
+       [](ui::Services& services) -> Made {
+         CCountDewDlg::Values values;
+         values.dry = "18.3";
+         values.wet = "15.1";
+         return std::make_unique<CCountDewDlg>(services, values);
+       }},
+      {"CHour3ErrorDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CHour3ErrorDlg>(services, "Waning: Ship's position\r\n");
+       }},
+      {"CLookWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CLookWindDlg>(
+             services, elements::ApparentWindTexts{"045", " 18.5", "090", "092", "12.5"});
+       }},
+      {"CPositionDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPositionDlg>(services,
+                                               CPositionDlg::Values{"35", "12", "139", "48", "1"},
+                                               "1", [](double, double) { return false; });
+       }},
+      {"CPresureTendencyDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPresureTendencyDlg>(services, "3", "012");
+       }},
+      {"CSaveErrorInfoDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSaveErrorInfoDlg>(services,
+                                                    "Group4PPPP   No value input\r\n"
+                                                    "Group5appp   No value input\r\n");
+       }},
+      {"CSeaSurfacePressureDlg",
+       [](ui::Services& services) -> Made {
+         CSeaSurfacePressureDlg::Values values;
+         values.reading = "1013.2";
+         values.air_temperature = "18.3";
+         values.card = full_ship().card;
+         return std::make_unique<CSeaSurfacePressureDlg>(services, values,
+                                                         CSeaSurfacePressureDlg::CardActions{});
+       }},
+      {"CSea_SurfaceTemperatureDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CSea_SurfaceTemperatureDlg>(
+             services, CSea_SurfaceTemperatureDlg::Values{"0", "184"},
+             SeaTemperatureMethod::kIntake);
+       }},
+      {"CTemperatureAndDewDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CTemperatureAndDewDlg>(
+             services, CTemperatureAndDewDlg::Values{"18.3", "12.0"});
+       }},
+      {"CThumidityDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CThumidityDlg>(services, "68", 1.0);
+       }},
+      {"CTrueDirWindDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CTrueDirWindDlg>(services, "18", "12");
+       }},
+      {"CUTCTimeDlg1",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CUTCTimeDlg1>(services,
+                                               CUTCTimeDlg1::Values{"2014", "11", "15", "12"});
+       }},
+      // mainwindow
+      {"CVelmaranDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<MainWindow>(services); }},
+      // media
+      {"CLogDiskSavePathDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CLogDiskSavePathDlg>(
+             services, CLogDiskSavePathDlg::Mode::kReport,
+             CLogDiskSavePathDlg::Folders{{}, "C:\\kavrel\\data", {}},
+             [](std::string_view, std::string_view) {});
+       }},
+      // ship
+      {"CFixDataDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CFixDataDlg>(services, "C:\\none", false, "C:\\kavrel\\data\\tlx",
+                                              "C:\\kavrel\\data\\log", full_ship());
+       }},
+      {"CFullEmptySelect",
+       [](ui::Services& services) -> Made { return std::make_unique<CFullEmptySelect>(services); }},
+      {"CKataInputDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CKataInputDlg>(services, full_ship().card);
+       }},
+      {"CKataSelectDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CKataSelectDlg>(services, CardType::kTotalCorrection);
+       }},
+      {"CKeyObserveDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
+       }},
+  };
   // codetables, by their rows
   for (const codetables::CodePicker* const picker : codetables::code_pickers()) {
     table.push_back({picker->class_name, [picker](ui::Services& services) -> Made {
