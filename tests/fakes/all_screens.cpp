@@ -98,13 +98,16 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CTlxSelectDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CTlxSelectDlg>(
-             services,
-             std::vector<archive::ListedReport>{{"C:\\kavrel\\data\\tlx\\14111512.tlx",
-                                                 "14111512.tlx",
-                                                 observation::ReportDate{"2014", "11", "15", "12"},
-                                                 {},
-                                                 platform::DateTime{2014, 11, 15, 21, 5, 0}}});
+         std::vector<archive::ListedReport> listed;
+         for (const char* const hour : {"18", "12", "06"}) {
+           const std::string name = std::string("141115") + hour + ".tlx";
+           listed.push_back({"C:\\kavrel\\data\\tlx\\" + name,
+                             name,
+                             observation::ReportDate{"2014", "11", "15", hour},
+                             {},
+                             platform::DateTime{2014, 11, 15, 21, 5, 0}});
+         }
+         return std::make_unique<CTlxSelectDlg>(services, std::move(listed));
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
