@@ -99,13 +99,14 @@ std::vector<ScreenCase> make_table() {
       {"CTlxSelectDlg",
        [](ui::Services& services) -> Made {
          std::vector<archive::ListedReport> listed;
-         for (const char* const hour : {"18", "12", "06"}) {
-           const std::string name = std::string("141115") + hour + ".tlx";
+         for (int day = 30; day > 10; --day) {
+           const std::string figures = std::to_string(day);
+           const std::string name = "1411" + figures + "12.tlx";
            listed.push_back({"C:\\kavrel\\data\\tlx\\" + name,
                              name,
-                             observation::ReportDate{"2014", "11", "15", hour},
+                             observation::ReportDate{"2014", "11", figures, "12"},
                              {},
-                             platform::DateTime{2014, 11, 15, 21, 5, 0}});
+                             platform::DateTime{2014, 11, day, 21, 5, 0}});
          }
          return std::make_unique<CTlxSelectDlg>(services, std::move(listed));
        }},

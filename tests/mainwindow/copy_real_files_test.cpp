@@ -72,13 +72,12 @@ TEST(CopyRealFiles, TheSourceFolderIsRefusedHoweverItIsSpelt) {
   for (const char* const folder : {"log", "tlx"})
     std::filesystem::create_directory_symlink(c.temp / folder,
                                               c.temp / (std::string("to-") + folder));
-  for (const char* const spelt :
-       {"C:\\log\\", "C:\\log", "c:\\log\\", "C:\\LOG\\", "C:\\\\log\\\\", "C:\\.\\log\\.\\",
-        "C:\\copy\\..\\log", "C:\\to-log"}) {
+  for (const char* const spelt : {"C:\\log\\", "C:\\log", "c:\\log\\", "C:\\LOG\\", "C:\\\\log\\\\",
+                                  "C:\\.\\log\\.\\", "C:\\copy\\..\\log", "C:\\to-log"}) {
     c.folders.logbook = spelt;
     if (!c.files.is_file(std::string(spelt) + "\\immt5.log")) continue;  // another name here
-    for (const std::string& chosen : {std::string("C:\\log"), std::string("C:\\to-log"),
-                                      c.on_z("log"), c.on_z("to-log")}) {
+    for (const std::string& chosen :
+         {std::string("C:\\log"), std::string("C:\\to-log"), c.on_z("log"), c.on_z("to-log")}) {
       c.refuse(chosen);
       c.copy_logbook();
     }
@@ -123,8 +122,9 @@ TEST(CopyRealFiles, AnyBytesUnderAnyNameAreCopiedAsTheyAre) {
   std::string binary;
   for (int i = 0; i < (3 << 20); ++i) binary.push_back(static_cast<char>(i * 7));
   const std::pair<std::string, std::string> files[] = {
-      {"14111512.tlx", "BBXX\r\n"}, {"気象 電報.tlx", "x"},   {".tlx", "hidden"},
-      {"empty.tlx", ""},            {"binary.tlx", binary}, {"long.tlx", std::string(5000, 'x')},
+      {"14111512.tlx", "BBXX\r\n"}, {"気象 電報.tlx", "x"},
+      {".tlx", "hidden"},           {"empty.tlx", ""},
+      {"binary.tlx", binary},       {"long.tlx", std::string(5000, 'x')},
   };
   for (const auto& [name, content] : files) c.temp.write("tlx/" + name, content);
   c.temp.folder("tlx/folder.tlx");
