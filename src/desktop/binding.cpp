@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QTextLayout>
@@ -136,14 +137,35 @@ class ReadOnlyBinding : public Binding {
   QLineEdit* edit_;
 };
 
+// A page breaks its lines where the paper does, and is as high as the display has room for.
+class PageText : public QPlainTextEdit {
+ public:
+  explicit PageText(QWidget* parent) : QPlainTextEdit(parent) {
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+  }
+  [[nodiscard]] QSize sizeHint() const override {
+    constexpr int kLines = 30;
+    return {QPlainTextEdit::sizeHint().width(), fontMetrics().lineSpacing() * kLines};
+  }
+};
+
 class MemoBinding : public Binding {
  public:
   MemoBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
-      : Binding(s, c, std::move(hand)), edit_(new QPlainTextEdit(parent)) {
+      : Binding(s, c, std::move(hand)),
+        edit_(c.max_length > 0 ? new PageText(parent) : new QPlainTextEdit(parent)) {
     edit_->setReadOnly(true);
     edit_->setTabChangesFocus(true);
   }
   [[nodiscard]] QWidget* widget() const override { return edit_; }
+  [[nodiscard]] bool scrolls(ui::Key page_key) const override {
+    QScrollBar& bar = *edit_->verticalScrollBar();
+    const bool forward = page_key == ui::Key::kPageDown;
+    if (bar.value() == (forward ? bar.maximum() : bar.minimum())) return false;
+    bar.triggerAction(forward ? QAbstractSlider::SliderPageStepAdd
+                              : QAbstractSlider::SliderPageStepSub);
+    return true;
+  }
   [[nodiscard]] Shown shown() const override { return {edit_->toPlainText(), {}, {}, -1, false}; }
 
  protected:
