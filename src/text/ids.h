@@ -1231,7 +1231,4 @@ inline constexpr Id kButtonDeleteAll{44033};
 inline constexpr Id kNowCopying{44034};
 inline constexpr Id kSelectReportsTitle{44035};
 
-// Printed pages
-inline constexpr Id kPageOfPages{44050};
-
 }  // namespace text::id
