@@ -26,20 +26,19 @@ CLogPrintDlg::CLogPrintDlg(ui::Services& services, std::string folder)
 
 void CLogPrintDlg::on_open() {
   if (folder_.empty()) {
-    pages.remark.content = services().texts.get(id::kNoLogbookFolder);
+    pages.tell(std::string(services().texts.get(id::kNoLogbookFolder)));
     return;
   }
   const FileError error =
       CFindFile(services().files).find(folder_, observation::kLogbookName, logbooks.items);
   std::sort(logbooks.items.begin(), logbooks.items.end(), archive::comes_before);
-  if (error != FileError::kNone)
-    pages.remark.content = archive::unreadable(services().texts, folder_, error);
+  if (error != FileError::kNone) pages.tell(archive::unreadable(services().texts, folder_, error));
 }
 
 void CLogPrintDlg::chosen() {
   if (path().empty()) {
     listing_ = nullptr;
-    pages.remark.content.clear();
+    pages.tell({});
   } else {
     read();
   }
@@ -50,8 +49,8 @@ void CLogPrintDlg::read() {
   listing_ =
       std::make_shared<archive::LogbookListing>(services().files, path(), services().clock.local());
   const FileError error = listing_->error();
-  pages.remark.content =
-      error == FileError::kNone ? "" : archive::unreadable(services().texts, path(), error);
+  pages.tell(error == FileError::kNone ? std::string()
+                                       : archive::unreadable(services().texts, path(), error));
 }
 
 std::shared_ptr<const ui::Document> CLogPrintDlg::document() {

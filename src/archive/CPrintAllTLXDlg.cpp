@@ -40,8 +40,10 @@ CPrintAllTLXDlg::CPrintAllTLXDlg(ui::Services& services, std::string folder)
 }
 
 void CPrintAllTLXDlg::on_open() {
-  listed_ = archive::list_for_printing(services(), folder_, heading, reports, pages.remark);
+  listed_ = archive::list_for_printing(services(), folder_, heading, reports, pages);
   reports.item_ticked.assign(listed_.size(), false);
+  // The lines of the list stand behind their boxes.
+  heading.literal_caption.insert(0, 3, ' ');
   read();
   show_document();
   focus(reports);
@@ -58,10 +60,12 @@ void CPrintAllTLXDlg::read() {
     if (unread++ == 0) first = text.remark;
   }
   if (listed_.empty()) return;
-  pages.remark.content.clear();
-  if (unread == 0) return;
-  pages.remark.content = text::fill(services().texts.get(id::kSomeUnreadable), {number(unread)});
-  pages.remark.content.append(" ").append(first);
+  std::string remark;
+  if (unread > 0) {
+    remark = text::fill(services().texts.get(id::kSomeUnreadable), {number(unread)});
+    remark.append(" ").append(first);
+  }
+  pages.tell(std::move(remark));
 }
 
 void CPrintAllTLXDlg::tick_all(bool on) {
@@ -81,8 +85,8 @@ std::shared_ptr<const ui::Document> CPrintAllTLXDlg::assembled() {
   for (std::size_t i = 0; i < blocks_.size(); ++i) {
     if (all || ticked[i]) printed.push_back(&blocks_[i]);
   }
-  chosen.content = text::fill(services().texts.get(id::kReportsChosen),
-                              {number(printed.size()), number(blocks_.size())});
+  chosen.literal_caption = text::fill(services().texts.get(id::kReportsChosen),
+                                      {number(printed.size()), number(blocks_.size())});
   if (printed.empty()) return nullptr;
   return ui::document_of(
       archive::lines_of(archive::all_reports_text(printed, services().clock.local())));

@@ -18,7 +18,7 @@ class CPrintAllTLXDlg : public ui::Screen {
   ui::Label heading;  ///< above the columns of the list
   ui::List reports;   ///< the newest first; none is ticked when the screen opens
   ui::Button select_all, select_none;
-  ui::ReadOnly chosen;  ///< how many reports are printed
+  ui::Label chosen;  ///< how many reports are printed
   archive::PageView pages;
 
  protected:

@@ -21,7 +21,7 @@ CQFPrintDlg::CQFPrintDlg(ui::Services& services, std::string folder)
 }
 
 void CQFPrintDlg::on_open() {
-  listed_ = archive::list_for_printing(services(), folder_, heading, reports, pages.remark);
+  listed_ = archive::list_for_printing(services(), folder_, heading, reports, pages);
   focus(reports);
 }
 
@@ -32,10 +32,12 @@ const archive::ListedReport* CQFPrintDlg::chosen() const {
 
 std::shared_ptr<const ui::Document> CQFPrintDlg::read() {
   const archive::ListedReport* const report = chosen();
-  pages.remark.content.clear();
-  if (report == nullptr) return nullptr;
+  if (report == nullptr) {
+    pages.tell({});
+    return nullptr;
+  }
   const archive::ReadReport text = archive::read_report(services(), report->path);
-  pages.remark.content = text.remark;
+  pages.tell(text.remark);
   return ui::document_of(archive::lines_of(
       archive::single_report_text(report->name, text.content, services().clock.local())));
 }

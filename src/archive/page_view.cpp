@@ -23,17 +23,18 @@ std::string number(std::size_t value) {
 
 PageView::PageView(ui::Screen& screen, ui::Services& services, Print what)
     : page(screen, "page", {id::kAsPrinted}),
-      position(screen, "position"),
       first_page(screen, "first_page", {id::kFirstPage}),
       previous_page(screen, "previous_page", {id::kPreviousPage}),
       next_page(screen, "next_page", {id::kNextPage}),
       last_page(screen, "last_page", {id::kLastPage}),
+      position(screen, "position"),
       remark(screen, "remark"),
       save_pdf(screen, "save_pdf", {id::kSaveAsPdf}),
       print(screen, "print", {id::kPrint}),
       cancel(screen, "cancel", {id::kCancelLabel}, ui::Role::kDismiss),
       services_(services),
       what_(std::move(what)) {
+  remark.visible = false;
   page.font = ui::kFixedPitch;
   page.max_length = kWidestHeading;
   page.on_page = [this](bool forward) { turn_by(forward); };
@@ -45,6 +46,11 @@ PageView::PageView(ui::Screen& screen, ui::Services& services, Print what)
   last_page.on_press = [this] { turn_to(pages()); };
   print.on_press = [this] { print_it(); };
   save_pdf.on_press = [this] { save_it(); };
+}
+
+void PageView::tell(std::string what) {
+  remark.content = std::move(what);
+  remark.visible = !remark.content.empty();
 }
 
 bool PageView::enter(ui::Key key, const ui::Control* focused) {
@@ -108,14 +114,14 @@ void PageView::turn_by(bool forward) {
 void PageView::turn_to(std::size_t page_number) {
   const std::size_t count = pages();
   page.content.clear();
-  position.content.clear();
+  position.literal_caption.clear();
   if (count == 0) return;
   shown_ = std::min(page_number, count - 1);
   for (const std::string& line : document_->lines(shown_ * room_.lines, room_.lines))
     page.content.append(line).append("\n");
   // A line end behind the last line would be a line more.
   if (!page.content.empty()) page.content.pop_back();
-  position.content =
+  position.literal_caption =
       text::fill(services_.texts.get(id::kPageOf), {number(shown_ + 1), number(count)});
 }
 

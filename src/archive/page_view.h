@@ -32,13 +32,15 @@ class PageView {
 
   /// Shows the first page of the document; nothing: an empty page.
   void show(std::shared_ptr<const ui::Document> document);
+  /// Tells what is wrong with the document; nothing when the text is empty.
+  void tell(std::string what);
   /// Of the screen's Screen::on_enter_or_escape(): Enter prints, but on a button it presses that.
   bool enter(ui::Key key, const ui::Control* focused);
 
   ui::Memo page;
-  ui::ReadOnly position;  ///< "Page 2 of 7"
   ui::Button first_page, previous_page, next_page, last_page;
-  ui::ReadOnly remark;  ///< what is wrong with the document, empty when nothing is
+  ui::Label position;   ///< "Page 2 of 7"
+  ui::ReadOnly remark;  ///< what is wrong with the document; hidden while nothing is
   ui::Button save_pdf;
   ui::Button print, cancel;
 

@@ -4,21 +4,22 @@
 #include <string>
 #include <vector>
 
+#include "archive/page_view.h"
 #include "archive/report_list.h"
 #include "ui/services.h"
 
 namespace archive {
 
 /// Fills the list and the heading above it with the reports of the folder. What stands in the way
-/// of a list comes into `remark`.
+/// of a list is told in the view.
 [[nodiscard]] std::vector<ListedReport> list_for_printing(ui::Services& services,
                                                           const std::string& folder,
                                                           ui::Control& heading, ui::Control& list,
-                                                          ui::Control& remark);
+                                                          PageView& pages);
 
 struct ReadReport {
   std::string content;  ///< empty for a file that cannot be read or is longer than any report
-  std::string remark;   ///< why, for the person; empty when it was read
+  std::string remark;   ///< its name and why, for the person; empty when it was read
 };
 [[nodiscard]] ReadReport read_report(const ui::Services& services, const std::string& path);
 

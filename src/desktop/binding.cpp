@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QTextLayout>
@@ -136,14 +137,35 @@ class ReadOnlyBinding : public Binding {
   QLineEdit* edit_;
 };
 
+// A page breaks its lines where the paper does, and is as high as the display has room for.
+class PageText : public QPlainTextEdit {
+ public:
+  explicit PageText(QWidget* parent) : QPlainTextEdit(parent) {
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+  }
+  [[nodiscard]] QSize sizeHint() const override {
+    constexpr int kLines = 30;
+    return {QPlainTextEdit::sizeHint().width(), fontMetrics().lineSpacing() * kLines};
+  }
+};
+
 class MemoBinding : public Binding {
  public:
   MemoBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
-      : Binding(s, c, std::move(hand)), edit_(new QPlainTextEdit(parent)) {
+      : Binding(s, c, std::move(hand)),
+        edit_(c.max_length > 0 ? new PageText(parent) : new QPlainTextEdit(parent)) {
     edit_->setReadOnly(true);
     edit_->setTabChangesFocus(true);
   }
   [[nodiscard]] QWidget* widget() const override { return edit_; }
+  [[nodiscard]] bool scrolls(ui::Key page_key) const override {
+    QScrollBar& bar = *edit_->verticalScrollBar();
+    const bool forward = page_key == ui::Key::kPageDown;
+    if (bar.value() == (forward ? bar.maximum() : bar.minimum())) return false;
+    bar.triggerAction(forward ? QAbstractSlider::SliderPageStepAdd
+                              : QAbstractSlider::SliderPageStepSub);
+    return true;
+  }
   [[nodiscard]] Shown shown() const override { return {edit_->toPlainText(), {}, {}, -1, false}; }
 
  protected:
@@ -675,12 +697,10 @@ class TreeBinding : public Binding {
       : Binding(s, c, std::move(hand)), tree_(new QTreeWidget(parent)) {
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
-    connect(tree_, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
-      tell([&] { screen().expand(control(), static_cast<std::size_t>(row_of(item))); });
-    });
-    connect(tree_, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
-      tell([&] { screen().collapse(control(), static_cast<std::size_t>(row_of(item))); });
-    });
+    connect(tree_, &QTreeWidget::itemExpanded, this,
+            [this](QTreeWidgetItem* item) { tell_later(item, &ui::Screen::expand); });
+    connect(tree_, &QTreeWidget::itemCollapsed, this,
+            [this](QTreeWidgetItem* item) { tell_later(item, &ui::Screen::collapse); });
     connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] {
       // A tree that is emptied selects nothing; that was nobody's choice.
       if (chosen() >= 0) tell([&] { screen().choose(control(), chosen()); });
@@ -718,6 +738,18 @@ class TreeBinding : public Binding {
 
  private:
   static int row_of(const QTreeWidgetItem* item) { return item->data(0, Qt::UserRole).toInt(); }
+
+  // Not while the tree deals with the key or click: it goes on with its rows afterwards, and the
+  // screen's answer makes new ones, so that the arrow would lead to another row than the one opened.
+  void tell_later(const QTreeWidgetItem* item,
+                  void (ui::Screen::*what)(ui::Control&, std::size_t)) {
+    const auto row = static_cast<std::size_t>(row_of(item));
+    const auto act = [this, row, what, path = rows_.at(row).path] {
+      if (row >= rows_.size() || rows_[row].path != path) return;
+      tell([&] { (screen().*what)(control(), row); });
+    };
+    QMetaObject::invokeMethod(tree_, act, Qt::QueuedConnection);
+  }
 
   // The current row alone is none that was chosen: the focus makes the first one current.
   [[nodiscard]] int chosen() const {

@@ -41,6 +41,9 @@ class Binding : public QObject {
     QWidget* picture = nullptr;
   };
   virtual void stand_beside(int columns, const std::vector<BesideLine>& pictures);
+  /// A page key shows more of what does not fit the widget. False where there is no more of it in
+  /// that direction.
+  [[nodiscard]] virtual bool scrolls(ui::Key /*page_key*/) const { return false; }
   /// The control's state on the widget.
   void show();
   /// The state read back from the widget, for tests: content, selected line, tick.

@@ -460,6 +460,7 @@ bool ScreenWindow::choose_line(const QWidget& widget, const QKeyEvent& pressed) 
   const bool steps = key && means_line(target->control(), *key);
   const QString character = ui::finds_lines(kind) ? character_of(pressed) : QString();
   if (!steps && character.isEmpty()) return false;
+  if (steps && target->scrolls(*key)) return true;
   settle_focus();
   hand([&] {
     if (screen_.focused() != &target->control()) return;

@@ -73,7 +73,7 @@ TEST_F(LogbookPrinting, ListsEveryLogbookOfTheFolderByItsPathAndChoosesNone) {
   EXPECT_EQ(screen.logbooks.items, Lines({kLog, "C:\\log\\old immt5.log.1"}));
   EXPECT_EQ(screen.logbooks.selected, -1);
   EXPECT_EQ(screen.pages.page.content, "");
-  EXPECT_EQ(screen.pages.position.content, "");
+  EXPECT_EQ(screen.pages.position.literal_caption, "");
   EXPECT_EQ(screen.pages.remark.content, "");
 }
 
@@ -115,31 +115,31 @@ TEST_F(LogbookPrinting, PagesBreakWhereThePaperDoes) {
   world.printer.room = {58, 90};
   CLogPrintDlg& screen = open(0);
   // 2 + 3 * 50 lines
-  EXPECT_EQ(screen.pages.position.content, "Page 1 of 3");
+  EXPECT_EQ(screen.pages.position.literal_caption, "Page 1 of 3");
   const Lines first = page_of(screen.pages);
   EXPECT_EQ(first.size(), 58U);
   EXPECT_EQ(first.front().substr(0, 16), "File   immt5.log");
   EXPECT_EQ(first[2].substr(0, 12), "  1       1.");
   screen.press(screen.pages.next_page);
   EXPECT_EQ(page_of(screen.pages).front().substr(0, 12), "          ..");
-  EXPECT_EQ(screen.pages.position.content, "Page 2 of 3");
+  EXPECT_EQ(screen.pages.position.literal_caption, "Page 2 of 3");
   screen.press(screen.pages.next_page);
   EXPECT_EQ(page_of(screen.pages).size(), 152U - 116U);
   screen.press(screen.pages.next_page);
-  EXPECT_EQ(screen.pages.position.content, "Page 3 of 3");
+  EXPECT_EQ(screen.pages.position.literal_caption, "Page 3 of 3");
   screen.press(screen.pages.previous_page);
-  EXPECT_EQ(screen.pages.position.content, "Page 2 of 3");
+  EXPECT_EQ(screen.pages.position.literal_caption, "Page 2 of 3");
   screen.press(screen.pages.first_page);
   EXPECT_EQ(page_of(screen.pages), first);
   screen.press(screen.pages.previous_page);
-  EXPECT_EQ(screen.pages.position.content, "Page 1 of 3");
+  EXPECT_EQ(screen.pages.position.literal_caption, "Page 1 of 3");
   screen.press(screen.pages.last_page);
-  EXPECT_EQ(screen.pages.position.content, "Page 3 of 3");
+  EXPECT_EQ(screen.pages.position.literal_caption, "Page 3 of 3");
 }
 
 TEST_F(LogbookPrinting, PageIsToldInJapanese) {
   world.japanese();
-  EXPECT_EQ(open(0).pages.position.content, "1／3 ページ");
+  EXPECT_EQ(open(0).pages.position.literal_caption, "1／3 ページ");
 }
 
 TEST_F(LogbookPrinting, PagesOfNarrowPaperAreFoldedAsThePaperFoldsThem) {
@@ -152,7 +152,7 @@ TEST_F(LogbookPrinting, PagesOfNarrowPaperAreFoldedAsThePaperFoldsThem) {
 
 TEST_F(LogbookPrinting, PaperWithoutRoomShowsALineAPage) {
   world.printer.room = {0, 90};
-  EXPECT_EQ(open(0).pages.position.content, "Page 1 of 152");
+  EXPECT_EQ(open(0).pages.position.literal_caption, "Page 1 of 152");
 }
 
 // ---- Printing
@@ -175,7 +175,7 @@ TEST_F(LogbookPrinting, PrintsTheListingUnderTheTimeOfPrinting) {
   EXPECT_EQ(sheets.lines->lines(0, 1).front(),
             archive::logbook_heading({2014, 11, 15, 20, 58, 0})[0]);
   // The page that was open stays open.
-  EXPECT_EQ(screen.pages.position.content, "Page 3 of 3");
+  EXPECT_EQ(screen.pages.position.literal_caption, "Page 3 of 3");
   EXPECT_FALSE(screen.result());
 }
 
@@ -233,7 +233,7 @@ TEST_F(LogbookPrinting, EnterPrintsButPressesAButtonThatHasTheFocus) {
   EXPECT_EQ(world.printer.printed.size(), 2U);
   ASSERT_TRUE(screen.move_focus(screen.pages.next_page));
   screen.key(ui::Key::kEnter);
-  EXPECT_EQ(screen.pages.position.content, "Page 2 of 3");
+  EXPECT_EQ(screen.pages.position.literal_caption, "Page 2 of 3");
   screen.key(ui::Key::kEscape);
   EXPECT_EQ(screen.result(), ui::kCancel);
 }

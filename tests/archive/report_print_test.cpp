@@ -110,7 +110,7 @@ TEST_F(ReportPrinting, SingleShowsTheChosenReportAsItIsPrinted) {
                           "BBXX JABC 15124 99345 11395 41/98 40210 10152",
                           " 22263 00180 1"};
   EXPECT_EQ(lines_in(screen->pages.page.content), expected);
-  EXPECT_EQ(screen->pages.position.content, "Page 1 of 1");
+  EXPECT_EQ(screen->pages.position.literal_caption, "Page 1 of 1");
   EXPECT_EQ(printed(*screen), expected);
   EXPECT_EQ(world.printer.printed.back().name, "Print");
   ASSERT_TRUE(screen->move_focus(screen->reports));
@@ -177,13 +177,12 @@ TEST_F(ReportPrinting, SingleReportThatCannotBeReadHasNoText) {
   const Lines expected = {"File        14111518.tlx", std::string(60 - 39, ' ') + kTime, "",
                           kRuler};
   EXPECT_EQ(lines_in(screen->pages.page.content), expected);
-  EXPECT_EQ(screen->pages.remark.content, "C:\\out\\14111518.tlx can not be read (not permitted).");
+  EXPECT_EQ(screen->pages.remark.content, "14111518.tlx can not be read (not permitted).");
   EXPECT_EQ(printed(*screen), expected);
   files.heal();
   ASSERT_EQ(files.remove("C:\\out\\14111506.tlx"), FileError::kNone);
   screen->choose(screen->reports, 2);
-  EXPECT_EQ(screen->pages.remark.content,
-            "C:\\out\\14111506.tlx can not be read (no such file or folder).");
+  EXPECT_EQ(screen->pages.remark.content, "14111506.tlx can not be read (no such file or folder).");
   screen->choose(screen->reports, 1);
   EXPECT_EQ(screen->pages.remark.content, "");
 }
@@ -194,8 +193,7 @@ TEST_F(ReportPrinting, FileThatIsLongerThanAnyReportIsNotRead) {
   files.add_file("C:\\out\\14111600.tlx", std::string(longest + 1, 'x'));
   const auto screen = single();
   screen->choose(screen->reports, 0);
-  EXPECT_EQ(screen->pages.remark.content,
-            "C:\\out\\14111600.tlx is too long for a weather report.");
+  EXPECT_EQ(screen->pages.remark.content, "14111600.tlx is too long for a weather report.");
   EXPECT_EQ(lines_in(screen->pages.page.content).size(), 4U);
   screen->choose(screen->reports, 1);
   EXPECT_EQ(screen->pages.remark.content, "");
@@ -249,7 +247,7 @@ TEST_F(ReportPrinting, AllArePrintedInListOrderWhenNoneIsTicked) {
   EXPECT_EQ(screen->reports.item_ticked, std::vector<bool>(3, false));
   const Lines expected = all_lines({kNewestBlock, kMiddleBlock, kOldestBlock});
   EXPECT_EQ(lines_in(screen->pages.page.content), expected);
-  EXPECT_EQ(screen->chosen.content, "Weather reports to print: 3 of 3");
+  EXPECT_EQ(screen->chosen.literal_caption, "Weather reports to print: 3 of 3");
   EXPECT_EQ(printed(*screen), expected);
   world.japanese();
   EXPECT_EQ(screen->title(), "全ての船舶気象報の印刷");
@@ -259,7 +257,7 @@ TEST_F(ReportPrinting, AllPrintsOnlyTheTickedOnesWhenThereAreSuch) {
   const auto screen = all();
   screen->tick_line(screen->reports, 2, true);
   EXPECT_EQ(lines_in(screen->pages.page.content), all_lines({kOldestBlock}));
-  EXPECT_EQ(screen->chosen.content, "Weather reports to print: 1 of 3");
+  EXPECT_EQ(screen->chosen.literal_caption, "Weather reports to print: 1 of 3");
   screen->tick_line(screen->reports, 0, true);
   EXPECT_EQ(printed(*screen), all_lines({kNewestBlock, kOldestBlock}));
   screen->press(screen->select_all);
@@ -275,10 +273,10 @@ TEST_F(ReportPrinting, AllPrintsOnlyTheTickedOnesWhenThereAreSuch) {
 TEST_F(ReportPrinting, AllKeepsItsPageWhileTheListIsGoneThrough) {
   world.printer.room = {4, 92};
   const auto screen = all();
-  EXPECT_EQ(screen->pages.position.content, "Page 1 of 2");
+  EXPECT_EQ(screen->pages.position.literal_caption, "Page 1 of 2");
   screen->press(screen->pages.next_page);
   screen->choose(screen->reports, 1);
-  EXPECT_EQ(screen->pages.position.content, "Page 2 of 2");
+  EXPECT_EQ(screen->pages.position.literal_caption, "Page 2 of 2");
 }
 
 TEST_F(ReportPrinting, AllTellsThatThereIsNone) {
@@ -305,7 +303,7 @@ TEST_F(ReportPrinting, AllPrintsTheNameAloneOfWhatCannotBeRead) {
   const auto screen = all();
   EXPECT_EQ(screen->pages.remark.content,
             "Weather reports that can not be read: 1. Their names are printed alone. "
-            "C:\\out\\14111512.tlx can not be read (not permitted).");
+            "14111512.tlx can not be read (not permitted).");
   EXPECT_EQ(printed(*screen), all_lines({kNewestBlock, {"14111512.tlx"}, kOldestBlock}));
 }
 

@@ -6,6 +6,7 @@
 #include "archive/CQFModifyDlg.h"
 #include "archive/CQFPrintDlg.h"
 #include "archive/CShowStatusDlg.h"
+#include "archive/CTlxSelectDlg.h"
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CICECiDlg.h"
 #include "codetables/CNowWeatherDlg.h"
@@ -26,6 +27,7 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
+#include "fakes/sample_archive.h"
 #include "fakes/sample_ship.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "media/CLogDiskSavePathDlg.h"
@@ -64,6 +66,29 @@ class MainWindow : private Owned, public CVelmaranDlg {
       : CVelmaranDlg(services, {ship, items, folders, {}}) {}
 };
 
+// A dialog on the sample folders, one line of its list chosen and, where they have boxes, ticked.
+template <class Dialog>
+class OfArchive : private SampleArchive, public Dialog {
+ public:
+  OfArchive(ui::Services& services, const char* folder, int line)
+      : SampleArchive(services), Dialog(archive_services_, folder), line_(line) {}
+
+ protected:
+  void on_open() override {
+    Dialog::on_open();
+    for (ui::Control* const control : this->controls()) {
+      if (control->kind != ui::Kind::kList) continue;
+      control->selected = line_;
+      if (!control->item_ticked.empty())
+        control->item_ticked[static_cast<std::size_t>(line_)] = true;
+      if (control->on_change) control->on_change();
+    }
+  }
+
+ private:
+  int line_;
+};
+
 // Every dialog that picks codes, on the last line of each of its tables.
 Made make_picker(ui::Services& services, const codetables::CodePicker& picker) {
   Struct_Weather record(sample_ship(), KeyObservationItems());
@@ -81,19 +106,29 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CLogPrintDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CLogPrintDlg>(services, "C:\\kavrel\\data\\log\\");
+         return std::make_unique<OfArchive<CLogPrintDlg>>(services, kSampleLogbook, 0);
        }},
       {"CQFModifyDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CQFModifyDlg>(services, "C:\\kavrel\\data\\tlx\\");
+         return std::make_unique<OfArchive<CQFModifyDlg>>(services, kSampleReports, 1);
        }},
       {"CPrintAllTLXDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CPrintAllTLXDlg>(services, "C:\\kavrel\\data\\tlx\\");
+         return std::make_unique<OfArchive<CPrintAllTLXDlg>>(services, kSampleReports, 1);
        }},
       {"CQFPrintDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CQFPrintDlg>(services, "C:\\kavrel\\data\\tlx\\");
+         return std::make_unique<OfArchive<CQFPrintDlg>>(services, kSampleReports, 1);
+       }},
+      {"CTlxSelectDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CTlxSelectDlg>(
+             services,
+             std::vector<archive::ListedReport>{{"C:\\kavrel\\data\\tlx\\14111512.tlx",
+                                                 "14111512.tlx",
+                                                 observation::ReportDate{"2014", "11", "15", "12"},
+                                                 {},
+                                                 platform::DateTime{2014, 11, 15, 21, 5, 0}}});
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},
