@@ -15,7 +15,7 @@ CQFModifyDlg::CQFModifyDlg(ui::Services& services, std::string folder)
       reports(*this, "reports"),
       remark(*this, "remark"),
       folder_(std::move(folder)) {
-  reports.on_press = [this] { press(ok); };
+  reports.on_press = [this] { on_ok(); };
 }
 
 void CQFModifyDlg::on_open() {

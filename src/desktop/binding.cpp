@@ -697,12 +697,10 @@ class TreeBinding : public Binding {
       : Binding(s, c, std::move(hand)), tree_(new QTreeWidget(parent)) {
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
-    connect(tree_, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
-      tell([&] { screen().expand(control(), static_cast<std::size_t>(row_of(item))); });
-    });
-    connect(tree_, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
-      tell([&] { screen().collapse(control(), static_cast<std::size_t>(row_of(item))); });
-    });
+    connect(tree_, &QTreeWidget::itemExpanded, this,
+            [this](QTreeWidgetItem* item) { tell_later(item, &ui::Screen::expand); });
+    connect(tree_, &QTreeWidget::itemCollapsed, this,
+            [this](QTreeWidgetItem* item) { tell_later(item, &ui::Screen::collapse); });
     connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] {
       // A tree that is emptied selects nothing; that was nobody's choice.
       if (chosen() >= 0) tell([&] { screen().choose(control(), chosen()); });
@@ -740,6 +738,18 @@ class TreeBinding : public Binding {
 
  private:
   static int row_of(const QTreeWidgetItem* item) { return item->data(0, Qt::UserRole).toInt(); }
+
+  // Not while the tree deals with the key or click: it goes on with its rows afterwards, and the
+  // screen's answer makes new ones, so that the arrow would lead to another row than the one opened.
+  void tell_later(const QTreeWidgetItem* item,
+                  void (ui::Screen::*what)(ui::Control&, std::size_t)) {
+    const auto row = static_cast<std::size_t>(row_of(item));
+    const auto act = [this, row, what, path = rows_.at(row).path] {
+      if (row >= rows_.size() || rows_[row].path != path) return;
+      tell([&] { (screen().*what)(control(), row); });
+    };
+    QMetaObject::invokeMethod(tree_, act, Qt::QueuedConnection);
+  }
 
   // The current row alone is none that was chosen: the focus makes the first one current.
   [[nodiscard]] int chosen() const {

@@ -29,7 +29,8 @@ Connection connect(Patience patience) {
 Scheduler ask_scheduler(Patience patience) {
   const Connection connection = connect(patience);
   if (connection == nullptr) return Scheduler::kAbsent;
-  ipp_t* const answer = cupsDoRequest(connection.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/");
+  ipp_t* const answer =
+      cupsDoRequest(connection.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/");
   ippDelete(answer);
   // "There is no default" is an answer as well.
   return answer == nullptr ? Scheduler::kSilent : Scheduler::kAnswers;

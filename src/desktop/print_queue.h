@@ -22,8 +22,8 @@ enum class Scheduler {
 
 struct PrintJob {
   QString queue;
-  QString name;  ///< among the jobs of the queue
-  QString file;  ///< a PDF
+  QString name;                                                 ///< among the jobs of the queue
+  QString file;                                                 ///< a PDF
   std::vector<std::pair<QByteArray, QByteArray>> options = {};  ///< as the scheduler names them
 };
 

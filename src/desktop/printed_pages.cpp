@@ -97,9 +97,8 @@ class LinePainter {
         at += character_at(line, at).size();
         column += wide ? 2 : 1;
       } while (!alone && at < line.size() && goes_on(character_at(line, at), wide));
-      painter_.drawText(
-          QPointF(left + static_cast<double>(first_column) * column_, baseline),
-          line.mid(from, at - from));
+      painter_.drawText(QPointF(left + static_cast<double>(first_column) * column_, baseline),
+                        line.mid(from, at - from));
     }
   }
 
@@ -173,10 +172,11 @@ class Pages {
   [[nodiscard]] std::vector<Spot> place_drawings(const QFontMetricsF& metrics) const {
     std::vector<Spot> spots;
     const double width = paper_.width();
-    const double most = paper_.height() - static_cast<double>(kLinesOfFooter) * measures_.line_height;
+    const double most =
+        paper_.height() - static_cast<double>(kLinesOfFooter) * measures_.line_height;
     std::size_t page = pages_of_lines() - 1;
-    double y = static_cast<double>(line_count() - page * measures_.room.lines) *
-               measures_.line_height;
+    double y =
+        static_cast<double>(line_count() - page * measures_.room.lines) * measures_.line_height;
     for (const ui::Drawing& drawing : sheets_.drawings) {
       if (y > 0) y += measures_.line_height;
       const double height = std::min(height_of(drawing, width, metrics), most);
@@ -205,9 +205,8 @@ class Pages {
   // On a line of its own at the foot of the paper.
   void draw_footer(QPainter& painter, std::size_t page, std::size_t count) const {
     painter.setFont(font_of(family_, small_letters()));
-    const std::string words =
-        text::fill(text::bilingual(text::id::kPageOfPages, sheets_.language),
-                   {std::to_string(page), std::to_string(count)});
+    const std::string words = text::fill(text::bilingual(text::id::kPageOfPages, sheets_.language),
+                                         {std::to_string(page), std::to_string(count)});
     const double column = proportions_of(family_).column * small_letters();
     const double width = static_cast<double>(ui::columns_of(words)) * column;
     LinePainter(painter, family_, column)
@@ -253,8 +252,8 @@ QPageLayout paper_of(const QPageSize& size, const QMarginsF& least,
   const auto margin = [](double points) {
     return std::max(kLeastMargin, points * kMillimetresOfAPoint);
   };
-  const QMarginsF margins(margin(least.left()), margin(least.top()),
-                          margin(least.right()), margin(least.bottom()));
+  const QMarginsF margins(margin(least.left()), margin(least.top()), margin(least.right()),
+                          margin(least.bottom()));
   return {size, orientation, margins, QPageLayout::Millimeter, margins};
 }
 
@@ -269,7 +268,8 @@ bool keeps_columns(const QString& family) {
     const auto columns = static_cast<double>(ui::columns_of(text.toStdString()));
     return std::abs(metrics.horizontalAdvance(text) - columns * column) < 1;
   };
-  const QStringList samples = {"iiii", "WWWW", "..__", "----", "((//", "漢字", "あア", "Ａ９", "　。", "ｱｶ"};
+  const QStringList samples = {"iiii", "WWWW", "..__", "----", "((//",
+                               "漢字", "あア", "Ａ９", "　。", "ｱｶ"};
   return std::all_of(samples.begin(), samples.end(), is_as_wide);
 }
 
@@ -277,7 +277,8 @@ QString print_family() {
   static const QString family = [] {
     const QString usual = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
     // Those that are known to be good to read on paper, then whatever there is.
-    QStringList families = {usual, "IPAGothic", "Noto Sans Mono CJK JP", "MS Gothic", "TakaoGothic"};
+    QStringList families = {usual, "IPAGothic", "Noto Sans Mono CJK JP", "MS Gothic",
+                            "TakaoGothic"};
     families += QFontDatabase::families(QFontDatabase::Japanese);
     for (const QString& candidate : std::as_const(families))
       if (QFontDatabase::hasFamily(candidate) && keeps_columns(candidate)) return candidate;

@@ -201,9 +201,11 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
       services().windows.run_modal(dialog);
       break;
     }
-    case Command::kCopyReport:
     case Command::kVosClim:
       services().messages.error(id::kNotInThisVersion);
+      break;
+    case Command::kCopyReport:
+      mainwindow::copy_reports(services(), context_);
       break;
     case Command::kCopyLogbook:
       mainwindow::copy_logbook(services(), context_);

@@ -74,11 +74,11 @@ class CopyLogbook {
 
   bool choose_place() {
     Folders& folders = context_.folders;
-    CLogDiskSavePathDlg dialog(services_, CLogDiskSavePathDlg::Mode::kLogbookCopy,
-                               {folders.logbook_copies,
-                                folders.logbook_copies.empty() ? folders.removable_root : "",
-                                folders.logbook},
-                               context_.keep_folder);
+    CLogDiskSavePathDlg dialog(
+        services_, CLogDiskSavePathDlg::Mode::kLogbookCopy,
+        {folders.logbook_copies, folders.logbook_copies.empty() ? folders.removable_root : "",
+         folders.logbook},
+        context_.keep_folder);
     if (services_.windows.run_modal(dialog) != ui::kOk) return false;
     folders.logbook_copies = dialog.folder();
     to_ = platform::join(dialog.folder(), observation::kLogbookName);
@@ -126,8 +126,7 @@ class CopyLogbook {
     if (!(*lock.value)->is_locked())
       services_.messages.error_filled_once(id::kLogbookWithoutLock, {from_});
     if (is_noted()) {
-      messages_.not_removed(from_,
-                            std::string(services_.texts.get(id::kReasonSaveInterrupted)));
+      messages_.not_removed(from_, std::string(services_.texts.get(id::kReasonSaveInterrupted)));
       return;
     }
     messages_.not_removed(from_, media::remove_copied(services_.files, from_, to_));
@@ -135,8 +134,7 @@ class CopyLogbook {
 
   /// What is noted of an interrupted save tells of this very logbook.
   [[nodiscard]] bool is_noted() const {
-    return services_.files
-               .look(platform::join(context_.folders.logbook, observation::kJournalName))
+    return services_.files.look(platform::join(context_.folders.logbook, observation::kJournalName))
                .there != There::kNo;
   }
 

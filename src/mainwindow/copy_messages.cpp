@@ -15,6 +15,33 @@ bool CopyMessages::wants(text::Id question, std::initializer_list<std::string_vi
                                      question) == ui::kYes;
 }
 
+int CopyMessages::wants_or_end(text::Id question,
+                               std::initializer_list<std::string_view> arguments) {
+  const text::Texts& texts = services_.texts;
+  return services_.messages.question(text::fill(texts.get(question), arguments),
+                                     texts.get(id::kExitQuestionTitle),
+                                     ui::QuestionMode::kYesNoCancel, question);
+}
+
+ForAll CopyMessages::ask_for_all(const std::string& question, text::Id question_id, text::Id yes) {
+  const text::Texts& texts = services_.texts;
+  ui::CMessageBox2 box(
+      question, std::string(texts.get(yes)), std::string(texts.get(id::kButtonKeepAll)),
+      std::string(texts.get(id::kButtonAskEach)), std::string(texts.get(id::kExitQuestionTitle)));
+  box.box().buttons[0].name = "all";
+  box.box().buttons[1].name = "none";
+  box.box().buttons[2].name = "each";
+  box.box().text_id = question_id;
+  switch (services_.messages.show(box)) {
+    case ui::kOk:
+      return ForAll::kYes;
+    case ui::kNo:
+      return ForAll::kNo;
+    default:
+      return ForAll::kEach;
+  }
+}
+
 void CopyMessages::told(text::Id message, const std::string& path, text::Id reason) {
   const text::Texts& texts = services_.texts;
   services_.messages.error_filled(

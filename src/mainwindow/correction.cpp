@@ -10,6 +10,7 @@
 #include "observation/report_encoder.h"
 #include "observation/report_file.h"
 #include "observation/report_reader.h"
+#include "platform/paths.h"
 #include "ship/data/ship_text.h"
 #include "text/ids.h"
 #include "text/reasons.h"
@@ -29,14 +30,10 @@ bool is_not_told(std::string_view figures) {
   return figures.find_first_not_of('/') == std::string_view::npos;
 }
 
-std::string name_of(const std::string& path) {
-  return path.substr(path.find_last_of("\\/:") + 1);
-}
-
 // Any bytes as a short text in one line.
 std::string readable(const ui::Services& services, const std::string& bytes) {
   std::string text = from_ship_bytes(bytes, services.code_page);
-  std::replace_if(text.begin(), text.end(), text::is_control, ' ');
+  std::replace_if(text.begin(), text.end(), text::is_control, '?');
   const std::string_view begin = text::first(text, kLongestWord);
   return begin.size() == text.size() ? text : std::string(begin).append("...");
 }
@@ -49,7 +46,7 @@ class Opening {
       : services_(services),
         context_(context),
         has_wet_bulb_(report.has_wet_bulb),
-        opened_{report.record, {name_of(path), {}, report.unplaced}, {}} {}
+        opened_{report.record, {std::string(platform::name_part(path)), {}, report.unplaced}, {}} {}
 
   OpenedReport run() {
     take_call_sign();
@@ -78,9 +75,22 @@ class Opening {
     record().ShipFixed = own.ShipFixed;
   }
 
+  /// Of the file's name; nothing when that is no day of the calendar or no hour.
+  [[nodiscard]] std::optional<observation::ReportDate> date_of_name() const {
+    auto named = observation::report_date(opened_.correction.file);
+    if (!named) return named;
+    Struct_Weather of_name = opened_.record;
+    of_name.Year = named->year;
+    of_name.Month = named->month;
+    of_name.YY = named->day;
+    of_name.GG = named->hour;
+    if (!observation::has_valid_date(of_name)) named.reset();
+    return named;
+  }
+
   void take_date() {
     const std::string& file = opened_.correction.file;
-    const auto named = observation::report_date(file);
+    const auto named = date_of_name();
     if (named) {
       record().Year = named->year;
       record().Month = named->month;
@@ -115,11 +125,14 @@ class Opening {
         lines.complete(record(), *line.value);
         return;
       }
-      if (line.ok() || line.error == FileError::kNotFound)
+      if (line.ok() || line.error == FileError::kNotFound) {
         note(id::kCorrectNoLine, {logbook});
-      else
-        note(id::kCorrectLogbookUnreadable,
-             {logbook, services_.texts.get(text::reason_of(line.error))});
+      } else {
+        // A look tells a folder from a file that may not be read.
+        const FileError seen = platform::why_no_file(services_.files.look(logbook));
+        const text::Id why = text::reason_of(seen == FileError::kNone ? line.error : seen);
+        note(id::kCorrectLogbookUnreadable, {logbook, services_.texts.get(why)});
+      }
     }
     do_without_line();
   }
@@ -163,8 +176,7 @@ std::optional<OpenedReport> open_report(ui::Services& services, const MainWindow
     services.messages.file_error(id::kCorrectUnreadable, path, why);
     return std::nullopt;
   }
-  const auto report =
-      observation::read_report(text, Struct_Weather(context.ship, context.items));
+  const auto report = observation::read_report(text, Struct_Weather(context.ship, context.items));
   if (!report) {
     const bool empty = text::trim(text).empty();
     services.messages.error_filled(empty ? id::kCorrectEmpty : id::kCorrectNoReport, {path});
@@ -183,9 +195,9 @@ std::vector<std::string> unplaced_lines(const ui::Services& services,
       lines.push_back(text::fill(texts.get(id::kUnplacedMore), {more}));
       break;
     }
-    lines.push_back(text::fill(
-        texts.get(id::kUnplaced), {correction.file, readable(services, each.text),
-                                   texts.get(observation::words_of(each.why))}));
+    lines.push_back(
+        text::fill(texts.get(id::kUnplaced), {correction.file, readable(services, each.text),
+                                              texts.get(observation::words_of(each.why))}));
   }
   return lines;
 }

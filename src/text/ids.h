@@ -1229,7 +1229,9 @@ inline constexpr Id kReportsCopied{44031};
 inline constexpr Id kAskDeleteReports{44032};
 inline constexpr Id kButtonDeleteAll{44033};
 inline constexpr Id kNowCopying{44034};
+inline constexpr Id kAskDeleteOn{44037};
 inline constexpr Id kSelectReportsTitle{44035};
+inline constexpr Id kReportsToCopy{44036};
 
 // Printed pages
 inline constexpr Id kPageOfPages{44050};

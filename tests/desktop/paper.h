@@ -49,7 +49,10 @@ inline std::vector<PrintedPage> pages_of_pdf(const std::string& pdf) {
     const auto word = kWord.match(line);
     if (!word.hasMatch() || pages.empty()) continue;
     QString content = word.captured(5);
-    content.replace("&lt;", "<").replace("&gt;", ">").replace("&quot;", "\"").replace("&apos;", "'");
+    content.replace("&lt;", "<")
+        .replace("&gt;", ">")
+        .replace("&quot;", "\"")
+        .replace("&apos;", "'");
     content.replace("&amp;", "&");
     pages.back().words.push_back({word.captured(1).toDouble(), word.captured(2).toDouble(),
                                   word.captured(3).toDouble(), word.captured(4).toDouble(),

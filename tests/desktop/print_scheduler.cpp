@@ -163,8 +163,7 @@ QString PrintScheduler::run(const QString& command, const QStringList& arguments
 
 std::string PrintScheduler::next_paper() {
   const QString paper = folder_.filePath("papers/" + QString::number(++jobs_));
-  while (scheduler_.state() == QProcess::Running && !QFile::exists(paper + ".pdf"))
-    QTest::qWait(5);
+  while (scheduler_.state() == QProcess::Running && !QFile::exists(paper + ".pdf")) QTest::qWait(5);
   QFile options(paper + ".options");
   if (options.open(QIODevice::ReadOnly)) options_ = QString::fromUtf8(options.readAll());
   QFile pdf(paper + ".pdf");

@@ -86,7 +86,8 @@ std::vector<std::string> listing(std::size_t count, std::size_t columns) {
   std::vector<std::string> lines;
   for (std::size_t i = 0; i < count; ++i) {
     std::string line = std::to_string(i + 1);
-    while (line.size() < columns) line.append("....*....").push_back(static_cast<char>('1' + i % 9));
+    while (line.size() < columns)
+      line.append("....*....").push_back(static_cast<char>('1' + i % 9));
     line.resize(columns);
     lines.push_back(line);
   }
@@ -189,7 +190,7 @@ TEST(PrintedPages, GoOnInTheNextLineWhereALineHasNoRoomInTheSmallestLetters) {
 TEST(PrintedPages, LineUpLatinAndJapanese) {
   const std::vector<std::string> lines = {
       "....*....1....*....2....*....3....*....4", "東京湾.* 13 北太平洋  気象電報 14111512.tlx",
-      "ｱｲｳ       x 東  京 y １２３ abc",         "保存データの印刷    end",
+      "ｱｲｳ       x 東  京 y １２３ abc", "保存データの印刷    end",
       "  あいう  漢字かな混じり文   99"};
   for (const QPageSize::PageSizeId size : kPapers)
     EXPECT_EQ(print(sheets_of(lines), desktop::paper_of(QPageSize(size))).lines, full(lines));
@@ -200,9 +201,11 @@ TEST(PrintedPages, SurviveAnyBytesAndKeepTheColumnsBehindThem) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all.push_back(static_cast<char>(byte));
   EXPECT_EQ(print(sheets_of({"before", all, "behind"}), paper).lines.back(), "behind");
-  const std::vector<std::string> odd = {
-      std::string("a\tb\0c\x1b[1m\rd", 12),  // one column each
-      "\xF0\x9F\x9A\xA2 ship", "a\xC3\xA9" "b e", "\xE2\x80\xAE right to left"};
+  const std::vector<std::string> odd = {std::string("a\tb\0c\x1b[1m\rd", 12),  // one column each
+                                        "\xF0\x9F\x9A\xA2 ship",
+                                        "a\xC3\xA9"
+                                        "b e",
+                                        "\xE2\x80\xAE right to left"};
   const std::vector<std::string> printed = print(sheets_of(odd), paper).lines;
   ASSERT_EQ(printed.size(), odd.size());
   EXPECT_EQ(printed[0], "a b c [1m d");
@@ -237,7 +240,8 @@ class LongDocument : public ui::Document {
     std::vector<std::string> result;
     for (std::size_t i = first; i < std::min(first + count, size_); ++i) {
       ++asked_;
-      result.push_back("  " + std::to_string(i / 3 + 1) + std::string(70, static_cast<char>('0' + i % 10)));
+      result.push_back("  " + std::to_string(i / 3 + 1) +
+                       std::string(70, static_cast<char>('0' + i % 10)));
     }
     return result;
   }

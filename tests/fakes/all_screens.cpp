@@ -6,6 +6,7 @@
 #include "archive/CQFModifyDlg.h"
 #include "archive/CQFPrintDlg.h"
 #include "archive/CShowStatusDlg.h"
+#include "archive/CTlxSelectDlg.h"
 #include "codetables/CCodeTableDlg.h"
 #include "codetables/CICECiDlg.h"
 #include "codetables/CNowWeatherDlg.h"
@@ -118,6 +119,16 @@ std::vector<ScreenCase> make_table() {
       {"CQFPrintDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<OfArchive<CQFPrintDlg>>(services, kSampleReports, 1);
+       }},
+      {"CTlxSelectDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CTlxSelectDlg>(
+             services,
+             std::vector<archive::ListedReport>{{"C:\\kavrel\\data\\tlx\\14111512.tlx",
+                                                 "14111512.tlx",
+                                                 observation::ReportDate{"2014", "11", "15", "12"},
+                                                 {},
+                                                 platform::DateTime{2014, 11, 15, 21, 5, 0}}});
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},

@@ -14,7 +14,6 @@ namespace id = text::id;
 using main_window::Opened;
 
 constexpr const char* kLater[] = {
-    "File/Copy a weather report",
     " VOSClim",
 };
 

@@ -34,8 +34,8 @@ TEST(CopyLogbook, CopiesAndKeepsTheSourceAndTheFolder) {
   in_both_languages([](Copying& c) {
     with_logbook(c);
     c.choose("C:\\copy", [&](ui::Screen& screen) {
-      EXPECT_EQ(screen.title(), japanese(c) ? "船舶気象観測表のコピー"
-                                            : "Copy marine meteorological logbook");
+      EXPECT_EQ(screen.title(),
+                japanese(c) ? "船舶気象観測表のコピー" : "Copy marine meteorological logbook");
     });
     c.world.windows.expect(id::kLogbookCopied);
     c.world.windows.expect(id::kAskDeleteLogbook, "no");
@@ -132,11 +132,11 @@ TEST(CopyLogbook, ALogbookOfWhichOneCannotTellIsNotCalledMissing) {
     c.files.fail_look(kFrom, FileError::kAccessDenied);
     c.world.windows.expect(id::kLogbookCopyFailed);
     copy(c);
-    EXPECT_EQ(c.box(0).text,
-              japanese(c)
-                  ? "船舶気象観測表(immt5.log)のコピーに失敗しました。\nC:\\log\\immt5.log（許可されていません）"
-                  : "Copy of the marine meteorological logbook (immt5.log) failed.\n"
-                    "C:\\log\\immt5.log (not permitted)");
+    EXPECT_EQ(c.box(0).text, japanese(c)
+                                 ? "船舶気象観測表(immt5.log)のコピーに失敗しました。\nC:"
+                                   "\\log\\immt5.log（許可されていません）"
+                                 : "Copy of the marine meteorological logbook (immt5.log) failed.\n"
+                                   "C:\\log\\immt5.log (not permitted)");
   });
 }
 
@@ -187,11 +187,12 @@ TEST(CopyLogbook, AnExistingCopyIsReplacedOnlyAfterYes) {
       EXPECT_EQ(c.files.content(kTo), yes ? kLines : kOld);
       EXPECT_EQ(c.files.content(kFrom), kLines);
       EXPECT_EQ(c.box(0).title, "Brenmoor");
-      EXPECT_EQ(c.box(0).text,
-                japanese(c)
-                    ? "コピー先に船舶気象観測表(immt5.log)が既にあります。\n上書きしますか？"
-                    : "The marine meteorological logbook (immt5.log) already exists in destination. "
-                      "\nDo you wish to overwrite (Yes/No)? ");
+      EXPECT_EQ(
+          c.box(0).text,
+          japanese(c)
+              ? "コピー先に船舶気象観測表(immt5.log)が既にあります。\n上書きしますか？"
+              : "The marine meteorological logbook (immt5.log) already exists in destination. "
+                "\nDo you wish to overwrite (Yes/No)? ");
       if (!yes) {
         EXPECT_EQ(c.box(1).text,
                   japanese(c) ? "船舶気象観測表(immt5.log)のコピーを中止しました。"
@@ -223,11 +224,11 @@ TEST(CopyLogbook, AFailureNamesTheFileAndTheCause) {
     c.files.set_free_space('C', 3);
     c.world.windows.expect(id::kLogbookCopyFailed);
     copy(c);
-    EXPECT_EQ(c.box(0).text,
-              japanese(c) ? "船舶気象観測表(immt5.log)のコピーに失敗しました。\n"
-                            "C:\\copy\\immt5.log（空き容量がありません）"
-                          : "Copy of the marine meteorological logbook (immt5.log) failed.\n"
-                            "C:\\copy\\immt5.log (no space left)");
+    EXPECT_EQ(c.box(0).text, japanese(c)
+                                 ? "船舶気象観測表(immt5.log)のコピーに失敗しました。\n"
+                                   "C:\\copy\\immt5.log（空き容量がありません）"
+                                 : "Copy of the marine meteorological logbook (immt5.log) failed.\n"
+                                   "C:\\copy\\immt5.log (no space left)");
     EXPECT_EQ(c.files.snapshot(), (std::map<std::string, std::string>{{kFrom, kLines}}));
   });
 }
@@ -270,11 +271,12 @@ TEST(CopyLogbook, ALineThatCameSinceTheCopyIsNotDeleted) {
     copy(c);
     EXPECT_EQ(c.files.content(kFrom), kLines + "LINE3\n");
     EXPECT_EQ(c.files.content(kTo), kLines);
-    EXPECT_EQ(c.box(2).text,
-              japanese(c)
-                  ? "ファイル C:\\log\\immt5.log は削除していません（コピーした内容と一致しません）。"
-                  : "The file C:\\log\\immt5.log was not deleted (it is not, or no longer, equal to "
-                    "its copy).");
+    EXPECT_EQ(
+        c.box(2).text,
+        japanese(c)
+            ? "ファイル C:\\log\\immt5.log は削除していません（コピーした内容と一致しません）。"
+            : "The file C:\\log\\immt5.log was not deleted (it is not, or no longer, equal to "
+              "its copy).");
   });
 }
 
@@ -404,9 +406,10 @@ TEST(CopyLogbook, WhatCannotBePutInOrderIsToldAndNotCopied) {
     c.world.windows.expect(id::kLogbookCopyFailed);
     copy(c);
     EXPECT_EQ(c.files.content(kTo), std::nullopt);
-    EXPECT_NE(c.box(1).text.find(japanese(c) ? "中断された保存の後処理が終わっていません"
-                                             : "an interrupted saving has not been put in order yet"),
-              std::string::npos);
+    EXPECT_NE(
+        c.box(1).text.find(japanese(c) ? "中断された保存の後処理が終わっていません"
+                                       : "an interrupted saving has not been put in order yet"),
+        std::string::npos);
   });
 }
 

@@ -36,8 +36,7 @@ struct Copying {
 
   /// A: is a removable drive.
   void with_floppy() {
-    world.drives.list.insert(world.drives.list.begin(),
-                             {'A', platform::DriveType::kRemovable, 2});
+    world.drives.list.insert(world.drives.list.begin(), {'A', platform::DriveType::kRemovable, 2});
     files.add_folder("A:\\");
   }
 
@@ -54,7 +53,9 @@ struct Copying {
     world.windows.expect_screen(screen_class,
                                 [](ui::Screen& screen) { screen.press(*screen.find("cancel")); });
   }
-  [[nodiscard]] const ui::MessageBox& box(std::size_t at) const { return world.windows.boxes.at(at); }
+  [[nodiscard]] const ui::MessageBox& box(std::size_t at) const {
+    return world.windows.boxes.at(at);
+  }
 };
 
 /// Runs the check in English and in Japanese.

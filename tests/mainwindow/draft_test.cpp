@@ -771,4 +771,49 @@ TEST(KeptEntries, BearTheCallSignOfTheShip) {
   EXPECT_TRUE(next.window.report().starts_with("BBXX JXKV ")) << next.window.report();
 }
 
+// ---- A report that is being corrected
+
+TEST(DraftOfACorrection, StillNamesItsFileAndTellsWhatFoundNoPlace) {
+  constexpr const char* kText =
+      "BBXX JXKV 15123 99357 11653 41497 62718 30123 10152 20114 40132 52014 72582 84531 22213 "
+      "00178 20604 30000 333 91119 .....";
+  Computer computer;
+  computer.files.add_file("C:\\out\\14111512.tlx", kText);
+  {
+    Copy copy(computer);
+    copy.start();
+    copy.world.windows.expect_screen("CQFModifyDlg", [](ui::Screen& screen) {
+      screen.choose(*screen.find("reports"), 0);
+      screen.press(*screen.find("ok"));
+    });
+    copy.world.windows.expect(id::kCorrectNotes);
+    copy.window.run({0, 0, mainwindow::Command::kCorrectReports});
+    copy.window.idle();
+    EXPECT_EQ(computer.files.content(kDraft), std::nullopt) << "the file has it all";
+    copy.type("VV", "96");
+    copy.window.idle();
+    ASSERT_NE(computer.files.content(kDraft), std::nullopt);
+  }
+  Copy copy(computer);
+  copy.world.windows.expect(id::kDraftFound, "yes");
+  copy.start();
+  EXPECT_EQ(copy.window.title(), "KAVREL for WIN - correcting 14111512.tlx - not saved *");
+  std::string errors;
+  copy.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+    errors = screen.find("errors")->content;
+    screen.press(*screen.find("save_as"));
+  });
+  copy.world.windows.expect(id::kAskReplaceReport, "yes");
+  copy.world.windows.expect(id::kSaved);
+  copy.window.run({0, 0, mainwindow::Command::kSave});
+  EXPECT_EQ(errors,
+            "Not taken over from 14111512.tlx: 30123 (a group without a field)\r\n"
+            "Not taken over from 14111512.tlx: 333 (section 3 or later)\r\n"
+            "Not taken over from 14111512.tlx: 91119 (section 3 or later)\r\n");
+  EXPECT_EQ(computer.files.content("C:\\out\\14111512.tlx"),
+            "BBXX JXKV 15123 99357 11653 41496 62718 10152 20114 40132 52014 72582 84531 22213 "
+            "00178 20604 30000 .....");
+  EXPECT_EQ(computer.files.content(kDraft), std::nullopt);
+}
+
 }  // namespace

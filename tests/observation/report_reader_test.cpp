@@ -447,4 +447,14 @@ TEST(RealReports, SeveralAreReadFieldByField) {
                 "LAOO5");
 }
 
+// Minutes whose hour was not entered go out as three figures, and come back.
+TEST(ReportReader, ReadsMinutesWithoutTheirHour) {
+  const auto read = read_report("BBXX JXKV 15124 99357 71653 41697 52712 930 22232 930 .....",
+                                Struct_Weather({}, {}));
+  ASSERT_TRUE(read);
+  EXPECT_EQ(read->record.gg + "|" + read->record.GGExact, "30|");
+  ASSERT_EQ(read->unplaced.size(), 1U) << "section 2 has no exact time";
+  EXPECT_EQ(read->unplaced[0].text, "930");
+}
+
 }  // namespace

@@ -91,6 +91,7 @@ TEST(Help, EveryDialogHasItsTopic) {
       {"CFixDataDlg", "4-1"},
       {"CKeyObserveDlg", "4-2"},
       {"CVosClimDlg", "7"},
+      {"CTlxSelectDlg", "8"},
   };
   EXPECT_EQ(std::size(rows), text::dialog_topics().size());
   for (const TopicRow& row : rows) {

@@ -213,6 +213,41 @@ TEST(Draft, WithTheRightChecksumIsStillTestedLineByLine) {
         << line;
 }
 
+TEST(Draft, OfACorrectionNamesItsFileAndWhatFoundNoPlace) {
+  using observation::Unplaced;
+  Form form;
+  form.form->load_record(form.record());
+  ASSERT_TRUE(form.enter(Field::kVV, "97"));
+  elements::Correction correction{"クラ 1.tlx", "14111512.tlx", {}};
+  for (int why = 0; why < observation::kUnplacedReasons; ++why)
+    correction.unplaced.push_back({"word\xff\r\n%" + std::to_string(why), Unplaced(why)});
+  const std::string text = elements::encode_draft({form.ship.call_sign,
+                                                   elements::ship_mark(form.ship),
+                                                   form.form->entries(),
+                                                   {},
+                                                   {},
+                                                   correction});
+  EXPECT_TRUE(text.starts_with("draft=2\n")) << text;
+  const elements::DraftRead read = elements::decode_draft(text);
+  ASSERT_EQ(read.fault, DraftFault::kNone) << text;
+  EXPECT_EQ(read.draft.correction, correction);
+  EXPECT_TRUE(read.draft.form.dew_point_as_sent);
+  // Another reason than there are, and a list with a gap.
+  for (const auto& [line, other] :
+       {std::pair{"why.9=9\n", "why.9=10\n"}, {"unplaced.3=", "unplaced.30="}}) {
+    std::string damaged = text.substr(0, text.rfind("check="));
+    damaged.replace(damaged.find(line), std::string_view(line).size(), other);
+    EXPECT_EQ(elements::decode_draft(with_checksum(damaged)).fault, DraftFault::kDamaged) << other;
+  }
+}
+
+// A program that knows of no corrections reads every other draft.
+TEST(Draft, WithoutACorrectionIsOfTheFirstVersion) {
+  Form form;
+  EXPECT_TRUE(encoded(form).starts_with("draft=1\n"));
+  EXPECT_EQ(encoded(form).find("correct"), std::string::npos);
+}
+
 TEST(Draft, OfALaterVersionIsNamedSo) {
   EXPECT_EQ(elements::decode_draft(with_checksum("draft=3\nanything at all\n")).fault,
             DraftFault::kLaterVersion);

@@ -11,6 +11,7 @@
 #include "codetables/tables/quadrant.h"
 #include "codetables/tables/temperature_figures.h"
 #include "elements/form/field_codes.h"
+#include "elements/form/field_editors.h"
 #include "elements/form/random_entries.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
@@ -195,6 +196,191 @@ TEST(LoadedRecord, KeepsElementsThatAreSwitchedOffByNow) {
   form.form->items_changed();
   EXPECT_EQ(form.record().VV + form.record().ww, "9761");
   EXPECT_EQ(form.form->text(Field::kVV), "97");
+}
+
+// ---- What was computed before it was sent stays until one of its inputs is entered
+
+Struct_Weather sent() {
+  const auto read = observation::read_report(
+      "BBXX JXKV 15123 99357 11653 41497 62718 10152 20114 40132 52014 72582 84531 22213 00178 "
+      "20604 30000 80130 .....",
+      Struct_Weather(fakes::psychrometer_ship(), {}));
+  Struct_Weather record = read->record;
+  record.Year = "2014";
+  record.Month = "11";
+  record.LogExtra = "0780";
+  return record;
+}
+
+TEST(LoadedRecord, KeepsItsDewPointWhateverBecomesOfShipAndCard) {
+  Form form;
+  form.form->load_record(sent());
+  form.ship.card = fakes::height_card();
+  form.form->card_changed();
+  form.form->ship_changed();
+  form.ship.card.loading_state = LoadingState::kInBallast;
+  form.form->card_changed();
+  form.ship.card = {};
+  form.form->ship_changed();
+  EXPECT_TRUE(form.record() == sent());
+  EXPECT_TRUE(form.remarks().empty()) << form.remarks().front();
+  EXPECT_FALSE(form.form->take_doubts().doubled_pressure);
+}
+
+TEST(LoadedRecord, ComputesItsDewPointOnceABulbOrAReadingIsEntered) {
+  for (const auto& [field, text] : {std::pair{Field::kDryBulb, "18.0"},
+                                    {Field::kWetBulb, "12.0"},
+                                    {Field::kReading, "900.0"}}) {
+    Form form;
+    form.suppressed = true;
+    form.form->load_record(sent());
+    ASSERT_TRUE(form.enter(field, text));
+    // As a form computes it in which the same was entered.
+    Form entered;
+    entered.suppressed = true;
+    ASSERT_TRUE(entered.enter(Field::kDryBulb, "15.2"));
+    ASSERT_TRUE(entered.enter(Field::kWetBulb, "13.0"));
+    ASSERT_TRUE(entered.enter(field, text));
+    EXPECT_EQ(form.record().TdTdTd, entered.record().TdTdTd);
+    EXPECT_EQ(form.record().LogExtra, entered.record().LogExtra);
+    EXPECT_NE(form.record().TdTdTd, "114");
+    // And from then on it follows the card.
+    const std::string before = form.record().TdTdTd;
+    form.ship.card = fakes::total_card("+70.0");
+    form.form->card_changed();
+    EXPECT_NE(form.record().TdTdTd, before);
+  }
+}
+
+TEST(LoadedRecord, ReadWithoutBulbsKeepsItsDewPointOnAShipThatHasThem) {
+  Struct_Weather record = sent();
+  record.Sw.clear();
+  record.TbTbTb.clear();
+  Form form;
+  form.form->load_record(record);
+  ASSERT_TRUE(form.enter(Field::kDryBulb, "15.3"));
+  EXPECT_EQ(form.record().TdTdTd, "114");
+  EXPECT_EQ(form.form->report().text.find(" 8////"), std::string::npos);
+}
+
+TEST(LoadedRecord, KeepsItsPressureWithoutAReading) {
+  Form form;
+  form.form->load_record(sent());
+  ASSERT_TRUE(form.enter(Field::kDryBulb, "25.0"));
+  form.ship.card = fakes::height_card();
+  form.form->card_changed();
+  ASSERT_TRUE(form.enter(Field::kReading, ""));
+  EXPECT_EQ(form.record().PPPP + form.record().a + form.record().ppp, "01322014");
+  ASSERT_TRUE(form.enter(Field::kReading, "1000.0"));
+  EXPECT_NE(form.record().PPPP, "0132");
+}
+
+TEST(LoadedRecord, KeepsItsTrueWindUntilAWholeApparentOneIsEntered) {
+  Form form;
+  form.ship.wind_input_method = WindInputMethod::kApparentWind;
+  form.form->load_record(sent());
+  const std::pair<Field, const char*> apparent[] = {{Field::kApparentDirection, "45"},
+                                                    {Field::kApparentSpeed, "20.0"},
+                                                    {Field::kHeading, "90"},
+                                                    {Field::kCourse, "90"}};
+  for (const auto& [field, text] : apparent) {
+    ASSERT_TRUE(form.enter(field, text));
+    EXPECT_EQ(form.record().dd + form.record().ff, "2718");
+  }
+  // Begun and taken back.
+  for (const auto& [field, text] : apparent) {
+    ASSERT_TRUE(form.enter(field, ""));
+    EXPECT_EQ(form.record().dd + form.record().ff, "2718");
+  }
+  for (const auto& [field, text] : apparent) ASSERT_TRUE(form.enter(field, text));
+  ASSERT_TRUE(form.enter(Field::kShipSpeed, "10.0"));
+  const std::string computed = form.record().dd + form.record().ff;
+  EXPECT_NE(computed, "2718");
+  EXPECT_EQ(computed.size(), 4U);
+  ASSERT_TRUE(form.enter(Field::kShipSpeed, ""));
+  EXPECT_EQ(form.record().dd + form.record().ff, "") << "the wind of an input that has gone";
+}
+
+TEST(LoadedRecord, KeepsItsWeatherIndicatorUntilWeatherIsEnteredOrSwitched) {
+  for (const char* const iX : {"1", "3", "6"}) {
+    Struct_Weather record = sent();
+    record.iX = iX;
+    Form form;
+    form.form->load_record(record);
+    form.form->items_changed();
+    form.form->ship_changed();
+    ASSERT_TRUE(form.enter(Field::kVV, "96"));
+    EXPECT_EQ(form.record().iX, iX);
+    ASSERT_TRUE(form.enter(Field::kww, "61"));
+    EXPECT_EQ(form.record().iX, "1");
+    form.form->load_record(record);
+    for (const ObservationItem item : {ObservationItem::ww, ObservationItem::W1W2})
+      form.items.set_observed(item, false);
+    form.form->items_changed();
+    EXPECT_EQ(form.record().iX, "3");
+  }
+}
+
+TEST(LoadedRecord, KeepsMetresPerSecondUntilASpeedIsEntered) {
+  for (const auto& [sent_as, entered_as] :
+       {std::pair{"0", "3"}, {"1", "3"}, {"3", "3"}, {"4", "4"}}) {
+    Struct_Weather record = sent();
+    record.iw = sent_as;
+    Form form;
+    form.form->load_record(record);
+    ASSERT_TRUE(form.enter(Field::kdd, "28"));
+    EXPECT_EQ(form.record().iw, sent_as);
+    ASSERT_TRUE(form.enter(Field::kff, "20"));
+    EXPECT_EQ(form.record().iw, entered_as);
+  }
+  Struct_Weather record = sent();
+  record.iw = "1";
+  Form form;
+  form.form->load_record(record);
+  form.ship.wind_speed_method = WindSpeedMethod::kAnemometer;
+  form.form->ship_changed();
+  EXPECT_EQ(form.record().iw, "1") << "its speed is still in metres a second";
+}
+
+// Each figure of a report by one that is another may give a value that its field refuses; then the
+// list of a save names it, and nothing that the field takes.
+TEST(LoadedRecord, NamesEveryValueThatItsFieldWouldRefuse) {
+  const std::string text =
+      "BBXX JXKV 15123 99357 11653 41497 62718 10152 20114 40132 52014 72582 84531 11150 22213 "
+      "00178 10604 20604 32531 40905 51103 61023 80130 ICE 12345 .....";
+  int named = 0;
+  for (std::size_t at = text.find("99357"); at < text.size(); ++at) {
+    if (text[at] < '0' || text[at] > '9') continue;
+    for (const char figure : {'0', '9'}) {
+      std::string other = text;
+      other[at] = figure;
+      const auto read =
+          observation::read_report(other, Struct_Weather(fakes::psychrometer_ship(), {}));
+      ASSERT_TRUE(read);
+      Form form;
+      form.ship.wave_recorder = true;
+      form.suppressed = true;
+      form.form->load_record(read->record);
+      const bool unacceptable = !form.form->unacceptable().empty();
+      named += unacceptable ? 1 : 0;
+      // Typing every value anew: a field refuses one if and only if it was named (a dew point
+      // beside bulbs stands in no field; rules between fields have lines of their own).
+      bool refused = false;
+      for (const FieldRow& row : elements::field_rows()) {
+        const std::string shown = form.form->text(row.field);
+        if (shown.empty() || row.field == Field::kYear) continue;
+        const elements::Checked checked = elements::check_field(row.editor, shown);
+        if (row.codec == Codec::kPressure || row.codec == Codec::kHumidity) continue;
+        refused = refused || (checked.verdict == elements::Verdict::kRefused &&
+                              shown.find_first_not_of('/') != std::string::npos);
+      }
+      const bool pressure_is_right =
+          codetables::pppp_range(std::stoi("1" + read->record.PPPP) % 10000) !=
+          codetables::PressureRange::kRefused;
+      EXPECT_EQ(unacceptable, refused || !pressure_is_right) << other;
+    }
+  }
+  EXPECT_GT(named, 5);
 }
 
 }  // namespace
