@@ -7,17 +7,8 @@
 #include "archive/print_service.h"
 #include "archive/printed_reports.h"
 #include "text/ids.h"
-#include "text/numbers.h"
 
 namespace id = text::id;
-
-namespace {
-
-std::string number(std::size_t value) {
-  return text::format_int(static_cast<long long>(value));
-}
-
-}  // namespace
 
 CPrintAllTLXDlg::CPrintAllTLXDlg(ui::Services& services, std::string folder)
     : Screen(services, "CPrintAllTLXDlg", {id::kPrintAllTitle}),
@@ -40,10 +31,7 @@ CPrintAllTLXDlg::CPrintAllTLXDlg(ui::Services& services, std::string folder)
 }
 
 void CPrintAllTLXDlg::on_open() {
-  listed_ = archive::list_for_printing(services(), folder_, heading, reports, pages);
-  reports.item_ticked.assign(listed_.size(), false);
-  // The lines of the list stand behind their boxes.
-  heading.literal_caption.insert(0, 3, ' ');
+  listed_ = archive::list_for_printing(services(), folder_, heading, reports, pages, false);
   read();
   show_document();
   focus(reports);
@@ -62,7 +50,7 @@ void CPrintAllTLXDlg::read() {
   if (listed_.empty()) return;
   std::string remark;
   if (unread > 0) {
-    remark = text::fill(services().texts.get(id::kSomeUnreadable), {number(unread)});
+    remark = text::fill(services().texts.get(id::kSomeUnreadable), {std::to_string(unread)});
     remark.append(" ").append(first);
   }
   pages.tell(std::move(remark));
@@ -85,8 +73,9 @@ std::shared_ptr<const ui::Document> CPrintAllTLXDlg::assembled() {
   for (std::size_t i = 0; i < blocks_.size(); ++i) {
     if (all || ticked[i]) printed.push_back(&blocks_[i]);
   }
-  chosen.literal_caption = text::fill(services().texts.get(id::kReportsChosen),
-                                      {number(printed.size()), number(blocks_.size())});
+  chosen.literal_caption =
+      text::fill(services().texts.get(id::kReportsChosen),
+                 {std::to_string(printed.size()), std::to_string(blocks_.size())});
   if (printed.empty()) return nullptr;
   return ui::document_of(
       archive::lines_of(archive::all_reports_text(printed, services().clock.local())));

@@ -26,9 +26,7 @@ void CQFModifyDlg::on_open() {
                           {folder_, texts.get(text::reason_of(list.error))}));
   remark.visible = !remark.content.empty();
   listed_ = std::move(list.reports);
-  archive::show_reports(reports, listed_, ReportNames::kWithoutExtension);
-  heading.font = ui::kFixedPitch;
-  heading.literal_caption = archive::report_heading(listed_, ReportNames::kWithoutExtension, texts);
+  archive::show_reports(heading, reports, listed_, ReportNames::kWithoutExtension, texts);
   focus(reports);
 }
 

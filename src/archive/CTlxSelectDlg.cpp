@@ -4,18 +4,9 @@
 #include <utility>
 
 #include "text/ids.h"
-#include "text/numbers.h"
 
 namespace id = text::id;
 using archive::ReportNames;
-
-namespace {
-
-std::string number(std::size_t value) {
-  return text::format_int(static_cast<long long>(value));
-}
-
-}  // namespace
 
 CTlxSelectDlg::CTlxSelectDlg(ui::Services& services, std::vector<archive::ListedReport> listed)
     : OkCancelHelpDialog(services, "CTlxSelectDlg", {id::kSelectReportsTitle}),
@@ -31,15 +22,10 @@ CTlxSelectDlg::CTlxSelectDlg(ui::Services& services, std::vector<archive::Listed
 }
 
 void CTlxSelectDlg::on_open() {
-  heading.font = ui::kFixedPitch;
-  // The boxes take up the room of some characters in front of each line.
-  heading.literal_caption = "   ";
-  heading.literal_caption +=
-      archive::report_heading(listed_, ReportNames::kWhole, services().texts);
-  archive::show_reports(reports, listed_, ReportNames::kWhole);
+  archive::show_reports(heading, reports, listed_, ReportNames::kWhole, services().texts, true);
   // A line to begin with: Space ticks the one that the arrows have led to.
   if (!listed_.empty()) reports.selected = 0;
-  tick_all(true);
+  show_count();
   focus(reports);
 }
 
@@ -50,8 +36,9 @@ void CTlxSelectDlg::tick_all(bool on) {
 
 void CTlxSelectDlg::show_count() {
   const auto ticked = std::count(reports.item_ticked.begin(), reports.item_ticked.end(), true);
-  count.content = text::fill(services().texts.get(id::kReportsToCopy),
-                             {number(static_cast<std::size_t>(ticked)), number(listed_.size())});
+  count.content = text::fill(
+      services().texts.get(id::kReportsToCopy),
+      {std::to_string(static_cast<std::size_t>(ticked)), std::to_string(listed_.size())});
 }
 
 void CTlxSelectDlg::on_ok() {

@@ -5,7 +5,6 @@
 
 #include "archive/print_service.h"
 #include "text/ids.h"
-#include "text/numbers.h"
 
 namespace id = text::id;
 
@@ -14,10 +13,6 @@ namespace {
 
 // The heading of all reports, the widest of the three.
 constexpr int kWidestHeading = 92;
-
-std::string number(std::size_t value) {
-  return text::format_int(static_cast<long long>(value));
-}
 
 }  // namespace
 
@@ -121,8 +116,8 @@ void PageView::turn_to(std::size_t page_number) {
     page.content.append(line).append("\n");
   // A line end behind the last line would be a line more.
   if (!page.content.empty()) page.content.pop_back();
-  position.literal_caption =
-      text::fill(services_.texts.get(id::kPageOf), {number(shown_ + 1), number(count)});
+  position.literal_caption = text::fill(services_.texts.get(id::kPageOf),
+                                        {std::to_string(shown_ + 1), std::to_string(count)});
 }
 
 }  // namespace archive

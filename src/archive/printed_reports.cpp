@@ -13,11 +13,9 @@ namespace archive {
 
 std::vector<ListedReport> list_for_printing(ui::Services& services, const std::string& folder,
                                             ui::Control& heading, ui::Control& list,
-                                            PageView& pages) {
+                                            PageView& pages, std::optional<bool> ticked) {
   ReportList found = list_reports(services.files, folder);
-  show_reports(list, found.reports, ReportNames::kWhole);
-  heading.font = ui::kFixedPitch;
-  heading.literal_caption = report_heading(found.reports, ReportNames::kWhole, services.texts);
+  show_reports(heading, list, found.reports, ReportNames::kWhole, services.texts, ticked);
   if (folder.empty()) pages.tell(std::string(services.texts.get(id::kNoReportFolder)));
   if (found.error != FileError::kNone) pages.tell(unreadable(services.texts, folder, found.error));
   return std::move(found.reports);

@@ -23,6 +23,7 @@ constexpr std::size_t kFewestOfName = 12;  // "14111512.tlx"
 constexpr std::size_t kMostOfName = 28;    // a longer name moves its own line only
 constexpr std::size_t kDate = 13;          // "2014/11/15 12"
 constexpr std::size_t kPosition = 13;      // "35.7N  165.3E"
+constexpr std::size_t kRoomOfBox = 3;
 constexpr std::string_view kGap = "   ";
 
 std::string shown_name(const ListedReport& report, ReportNames names) {
@@ -118,8 +119,15 @@ ReportList list_reports(platform::Files& files, const std::string& folder) {
   return list;
 }
 
-void show_reports(ui::Control& list, std::span<const ListedReport> reports, ReportNames names) {
+void show_reports(ui::Control& heading, ui::Control& list, std::span<const ListedReport> reports,
+                  ReportNames names, const text::Texts& texts, std::optional<bool> ticked) {
   const Columns columns = columns_for(reports, names);
+  const auto word = [&](text::Id which) { return std::string(texts.get(which)); };
+  heading.font = ui::kFixedPitch;
+  heading.literal_caption = line_of(columns, word(id::kReportListName), word(id::kReportListDate),
+                                    word(id::kReportListPosition), texts.get(id::kReportListTime));
+  // The boxes take up the room of some characters in front of each line.
+  if (ticked) heading.literal_caption.insert(0, kRoomOfBox, ' ');
   list.font = ui::kFixedPitch;
   list.selected = -1;
   list.items.clear();
@@ -129,13 +137,8 @@ void show_reports(ui::Control& list, std::span<const ListedReport> reports, Repo
                                  report.position ? shown_position(*report.position) : std::string(),
                                  report.modified ? file_time(*report.modified) : std::string()));
   }
-}
-
-std::string report_heading(std::span<const ListedReport> reports, ReportNames names,
-                           const text::Texts& texts) {
-  const auto word = [&](text::Id which) { return std::string(texts.get(which)); };
-  return line_of(columns_for(reports, names), word(id::kReportListName), word(id::kReportListDate),
-                 word(id::kReportListPosition), texts.get(id::kReportListTime));
+  list.item_ticked.clear();
+  if (ticked) list.item_ticked.assign(reports.size(), *ticked);
 }
 
 std::string file_time(const platform::DateTime& time) {

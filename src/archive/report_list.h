@@ -38,12 +38,11 @@ struct ReportList {
 enum class ReportNames { kWhole, kWithoutExtension };
 
 /// Fills a list with a line for each report, in columns: name, date and hour of the observation,
-/// position, time of the file. What is not known is left blank. The list takes a font of fixed
-/// pitch; nothing is selected.
-void show_reports(ui::Control& list, std::span<const ListedReport> reports, ReportNames names);
-/// What stands above these columns, in the language of the moment.
-[[nodiscard]] std::string report_heading(std::span<const ListedReport> reports, ReportNames names,
-                                         const text::Texts& texts);
+/// position, time of the file; and the label above it with their heading, in the language of the
+/// moment. What is not known is left blank. Both take a font of fixed pitch; nothing is selected.
+/// With `ticked` each line has a box, and all are ticked or none is.
+void show_reports(ui::Control& heading, ui::Control& list, std::span<const ListedReport> reports,
+                  ReportNames names, const text::Texts& texts, std::optional<bool> ticked = {});
 
 /// "2014/11/15  09:05": year, month and day, two blanks, hour and minute.
 [[nodiscard]] std::string file_time(const platform::DateTime& time);

@@ -17,7 +17,6 @@
 #include "observation/report_file.h"
 #include "platform/paths.h"
 #include "text/ids.h"
-#include "text/numbers.h"
 
 namespace mainwindow {
 namespace {
@@ -44,10 +43,6 @@ enum class Step {
   kEnd,   ///< the officer has ended the command
 };
 
-std::string number(std::size_t value) {
-  return text::format_int(static_cast<long long>(value));
-}
-
 class CopyReports {
  public:
   CopyReports(ui::Services& services, const MainWindowContext& context)
@@ -62,13 +57,14 @@ class CopyReports {
     if (!copy_all()) {
       // Of a single report its own message has said it.
       if (reports_.size() > 1)
-        services_.messages.error_filled(id::kCopyEnded,
-                                        {number(copied_.size()), number(reports_.size())});
+        services_.messages.error_filled(
+            id::kCopyEnded, {std::to_string(copied_.size()), std::to_string(reports_.size())});
       return;
     }
     if (!are_many()) return;
-    services_.messages.error_filled(copied_.empty() ? id::kCopyEnded : id::kReportsCopied,
-                                    {number(copied_.size()), number(reports_.size())});
+    services_.messages.error_filled(
+        copied_.empty() ? id::kCopyEnded : id::kReportsCopied,
+        {std::to_string(copied_.size()), std::to_string(reports_.size())});
     if (!copied_.empty()) remove_many();
   }
 
@@ -151,8 +147,9 @@ class CopyReports {
       if (report.allowed.content) ++existing;
     }
     if (existing == 0) return true;
-    const std::string question = text::fill(services_.texts.get(id::kAskOverwriteReports),
-                                            {number(existing), number(reports_.size())});
+    const std::string question =
+        text::fill(services_.texts.get(id::kAskOverwriteReports),
+                   {std::to_string(existing), std::to_string(reports_.size())});
     switch (messages_.ask_for_all(question, id::kAskOverwriteReports, id::kButtonOverwriteAll)) {
       case ForAll::kYes:
         existing_ = Existing::kOverwrite;
@@ -208,14 +205,14 @@ class CopyReports {
   Step failed(const CopyResult& result, std::size_t left) {
     messages_.failed(id::kReportCopyFailed, result);
     if (left == 0) return Step::kNext;
-    return messages_.wants(id::kAskCopyOn, {number(left)}) ? Step::kNext : Step::kEnd;
+    return messages_.wants(id::kAskCopyOn, {std::to_string(left)}) ? Step::kNext : Step::kEnd;
   }
 
   // ---- Deleting
 
   void remove_many() {
     const std::string question =
-        text::fill(services_.texts.get(id::kAskDeleteReports), {number(copied_.size())});
+        text::fill(services_.texts.get(id::kAskDeleteReports), {std::to_string(copied_.size())});
     const ForAll answer =
         messages_.ask_for_all(question, id::kAskDeleteReports, id::kButtonDeleteAll);
     if (answer == ForAll::kNo) return;
@@ -227,7 +224,7 @@ class CopyReports {
         if (one == ui::kNo) continue;
       }
       if (!remove(*copied_[i]) && answer == ForAll::kYes && left > 0 &&
-          !messages_.wants(id::kAskDeleteOn, {number(left)}))
+          !messages_.wants(id::kAskDeleteOn, {std::to_string(left)}))
         return;
     }
   }

@@ -31,14 +31,16 @@ class AReportList : public testing::Test {
       result.push_back(report.name);
     return result;
   }
-  Lines lines(ReportNames names = ReportNames::kWhole) {
-    archive::show_reports(list, archive::list_reports(files, std::string(kFolder)).reports, names);
+  Lines lines(ReportNames names = ReportNames::kWhole, std::optional<bool> ticked = {}) {
+    archive::show_reports(heading, list, archive::list_reports(files, std::string(kFolder)).reports,
+                          names, world.texts, ticked);
     return list.items;
   }
 
   fakes::FakeFiles files;
   fakes::World world;
   ui::Screen screen{world.services, "CReportListTestDlg", {}};
+  ui::Label heading{screen, "heading"};
   ui::List list{screen, "reports"};
 };
 
@@ -127,12 +129,26 @@ TEST_F(AReportList, ShowsAFileThatVanishesWhileItIsReadByItsName) {
 
 TEST_F(AReportList, HasAHeadingOverItsColumnsInBothLanguages) {
   put("14111512.tlx");
-  const auto found = archive::list_reports(files, std::string(kFolder)).reports;
-  EXPECT_EQ(archive::report_heading(found, ReportNames::kWhole, world.texts),
+  lines();
+  EXPECT_EQ(heading.literal_caption,
             "Report         Date and hour   Position        Time of the file");
+  EXPECT_EQ(heading.font, ui::kFixedPitch);
+  EXPECT_TRUE(list.item_ticked.empty());
   world.texts.language = text::Language::kJapanese;
-  EXPECT_EQ(archive::report_heading(found, ReportNames::kWhole, world.texts),
+  lines();
+  EXPECT_EQ(heading.literal_caption,
             "気象電報       観測日時(UTC)   位置            ファイルの日時");
+}
+
+TEST_F(AReportList, HasABoxBesideEachLineWhereReportsAreTicked) {
+  put("14111512.tlx");
+  put("14111515.tlx");
+  lines(ReportNames::kWhole, true);
+  EXPECT_EQ(list.item_ticked, (std::vector{true, true}));
+  EXPECT_EQ(heading.literal_caption,
+            "   Report         Date and hour   Position        Time of the file");
+  lines(ReportNames::kWhole, false);
+  EXPECT_EQ(list.item_ticked, (std::vector{false, false}));
 }
 
 }  // namespace
