@@ -283,7 +283,7 @@ bool keeps_columns(const QString& family) {
 
 QString print_family() {
   static const QString family = [] {
-    const QString usual = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    QString usual = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
     // Those that are known to be good to read on paper, then whatever there is.
     QStringList families = {usual, "IPAGothic", "Noto Sans Mono CJK JP", "MS Gothic",
                             "TakaoGothic"};

@@ -210,7 +210,7 @@ ui::PrintResult ScriptWindows::print(const ui::Sheets& sheets) {
                               sheets.name,
                               {{"Print", "print", ui::kOk}, {"Cancel", "cancel", ui::kCancel}},
                               ui::kCancel,
-                              0};
+                              text::Id{}};
   if (ask(dialog, "printing") != ui::kOk) return ui::PrintResult::kCancelled;
   if (options_.paper == Paper::kFails) {
     say("printing failed");
