@@ -4,13 +4,18 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QBuffer>
 #include <QLineEdit>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QPixmapCache>
 #include <QTest>
+#include <algorithm>
 #include <memory>
 
 #include "desktop/desktop_windows.h"
 #include "desktop/picture_label.h"
+#include "desktop/printed_pages.h"
 #include "desktop/screen_window.h"
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
@@ -48,6 +53,20 @@ void open_pictures(benchmark::State& state, const fakes::ScreenCase& screen_case
     show(window);
   }
   desktop::set_picture_folder({});
+}
+
+const std::string kRecordLine =
+    "  1       520141115121352213980419682513015201014015220090211512345JXKV  6789012345678901234";
+
+// The length of the PDF; its bytes go nowhere.
+std::size_t bytes_of(const ui::Sheets& sheets) {
+  std::size_t bytes = 0;
+  const auto take = [&bytes](std::string_view more) {
+    bytes += more.size();
+    return true;
+  };
+  if (!desktop::write_pdf(sheets, desktop::paper_of(QPageSize(QPageSize::A4)), take)) return 0;
+  return bytes;
 }
 
 bool has_pictures(const fakes::ScreenCase& screen_case) {
@@ -118,6 +137,54 @@ void key_in_bare_field(benchmark::State& state) {
   state.SetItemsProcessed(2 * state.iterations());
 }
 BENCHMARK(key_in_bare_field)->Unit(benchmark::kMillisecond);
+
+// A report on paper, before the printer has it.
+void report_on_paper(benchmark::State& state) {
+  const ui::Sheets sheets{"Print", ui::document_of(std::vector<std::string>(7, kRecordLine))};
+  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(bytes_of(sheets));
+}
+BENCHMARK(report_on_paper)->Unit(benchmark::kMillisecond);
+
+// A logbook of 100,000 records, three lines each.
+class Logbook : public ui::Document {
+ public:
+  [[nodiscard]] std::size_t size() const override { return 300'000; }
+  [[nodiscard]] std::size_t widest() const override { return kRecordLine.size(); }
+  [[nodiscard]] std::vector<std::string> lines(std::size_t first,
+                                               std::size_t count) const override {
+    return std::vector<std::string>(std::min(count, size() - first), kRecordLine);
+  }
+};
+void logbook_on_paper(benchmark::State& state) {
+  const ui::Sheets sheets{"Print", std::make_shared<Logbook>()};
+  for ([[maybe_unused]] auto round : state) benchmark::DoNotOptimize(bytes_of(sheets));
+}
+BENCHMARK(logbook_on_paper)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// The same lines drawn one below the other, without columns, folding and numbers of pages.
+void floor_of_the_logbook_on_paper(benchmark::State& state) {
+  const ui::Sheets sheets{"Print", std::make_shared<Logbook>()};
+  const QPageLayout paper = desktop::paper_of(QPageSize(QPageSize::A4));
+  const desktop::PageMeasures measures = desktop::measure_page(sheets, paper);
+  QFont font(desktop::print_family());
+  font.setPixelSize(measures.letter_height);
+  const QString line = QString::fromStdString(kRecordLine);
+  for ([[maybe_unused]] auto round : state) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setPageLayout(paper);
+    writer.setResolution(sheets.size.dots_per_inch);
+    QPainter painter(&writer);
+    painter.setFont(font);
+    for (std::size_t i = 0; i < sheets.lines->size(); ++i) {
+      const std::size_t below = i % measures.room.lines;
+      if (i > 0 && below == 0) writer.newPage();
+      painter.drawText(QPointF(0, static_cast<double>(below + 1) * measures.line_height), line);
+    }
+  }
+}
+BENCHMARK(floor_of_the_logbook_on_paper)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace
 

@@ -24,7 +24,8 @@ The comment block at the top of a session may hold, in lines of the form "# key:
                  time of the clock
   program-files  folder roots/NAME that is copied to the program folder (program)
   read-only      a path on C: that nobody may write
-  printer        none
+  printer        none: there is none; fails: its queue takes nothing (left out: "answer print" prints each line of the
+                 document into the transcript; a PDF file that is saved holds the lines alone, and says so)
   leaves         a path on C: (the last part may be a pattern) whose content the transcript ends with
 
 On a difference NAME.actual (NAME.en.actual) is left beside the session; scripts/accept-sessions NAME takes it over.
@@ -81,6 +82,8 @@ def read_options(path):
                 raise Wrong(f"{path}:{number}: unknown option {key}")
     if options["status"] not in {"0", "1", "2"}:
         raise Wrong(f"{path}: status is 0, 1 or 2")
+    if options["printer"] not in {"", "none", "fails"}:
+        raise Wrong(f"{path}: printer is none or fails")
     if options["locales"] is not None and (len(options["locales"]) < 2 or not set(options["locales"]) <= set(LANGUAGES)):
         raise Wrong(f"{path}: locales are {' '.join(LANGUAGES)}")
     return options
@@ -211,8 +214,8 @@ def play_it(cli, folder, play):
             set_writable(target, False)
         command = [cli, "session", "--root", root, "--program", program, "--locale", play.locale,
                    "--clock", options["clock"]]
-        if options["printer"] == "none":
-            command.append("--no-printer")
+        if options["printer"]:
+            command += ["--printer", options["printer"]]
         environment = {"PATH": os.defpath, "HOME": room, "TZ": options["tz"], "LC_ALL": "C"}
         for name_kept in ("ASAN_OPTIONS", "UBSAN_OPTIONS"):
             if name_kept in os.environ:

@@ -87,7 +87,8 @@ class Sessions(unittest.TestCase):
 
     def test_unknown_option_wrong_status_and_missing_root_are_named(self):
         for script, reason in [("# colour: red\n", "unknown option colour"), ("# status: 3\n", "status is 0, 1 or 2"),
-                               ("# root-files: nowhere\n", "nowhere"), ("# read-only: D:\\x\n", "not on C:")]:
+                               ("# printer: laser\n", "printer is none or fails"), ("# root-files: nowhere\n", "nowhere"),
+                               ("# read-only: D:\\x\n", "not on C:")]:
             with self.subTest(script=script):
                 self.session(script, script)
                 self.assert_fails(reason, "one")

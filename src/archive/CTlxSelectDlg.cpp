@@ -32,7 +32,10 @@ CTlxSelectDlg::CTlxSelectDlg(ui::Services& services, std::vector<archive::Listed
 
 void CTlxSelectDlg::on_open() {
   heading.font = ui::kFixedPitch;
-  heading.literal_caption = archive::report_heading(listed_, ReportNames::kWhole, services().texts);
+  // The boxes take up the room of some characters in front of each line.
+  heading.literal_caption = "   ";
+  heading.literal_caption +=
+      archive::report_heading(listed_, ReportNames::kWhole, services().texts);
   archive::show_reports(reports, listed_, ReportNames::kWhole);
   // A line to begin with: Space ticks the one that the arrows have led to.
   if (!listed_.empty()) reports.selected = 0;

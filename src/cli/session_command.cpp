@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view kUsage =
     "usage: kavrel-cli session [--root DIR] [--program DIR] [--locale en|ja]\n"
-    "                          [--clock 2014-11-15T11:50] [--no-printer] [SCRIPT]\n";
+    "                          [--clock 2014-11-15T11:50] [--printer none|fails] [SCRIPT]\n";
 
 struct SessionArguments {
   platform::posix::SystemOptions system;
@@ -35,8 +35,11 @@ std::optional<SessionArguments> read_arguments(const std::vector<std::string>& a
   SessionArguments result;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& word = arguments[i];
-    if (word == "--no-printer") {
-      result.session.has_printer = false;
+    if (word == "--printer") {
+      const std::string_view printer = ++i == arguments.size() ? "" : arguments[i];
+      if (printer != "none" && printer != "fails") return std::nullopt;
+      result.session.paper =
+          printer == "none" ? headless::Paper::kNoPrinter : headless::Paper::kFails;
     } else if (std::string* const place = place_of(word, result.system)) {
       if (++i == arguments.size()) return std::nullopt;
       *place = arguments[i];

@@ -15,6 +15,10 @@
 namespace desktop {
 namespace {
 
+// Milliseconds. Who goes through a list of reports asks for the room of a page again and again, and
+// a scheduler that does not answer must not stop him each time.
+constexpr qint64 kPaperIsGood = 60'000;
+
 // The paper that a printer has by itself or was given in the dialog.
 QPageLayout paper_in(const QPrinter& printer) {
   QPageLayout layout = printer.pageLayout();
@@ -23,8 +27,10 @@ QPageLayout paper_in(const QPrinter& printer) {
   return paper_of(layout.pageSize(), least, layout.orientation());
 }
 
+// That of the default printer, A4 when there is none that answers.
 QPageLayout usual_paper(Patience patience) {
   if (ask_scheduler(patience) == Scheduler::kAnswers) {
+    const SilenceGuard guard(patience);
     const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
     if (!usual.isNull()) {
       QPrinter printer(usual, QPrinter::HighResolution);
@@ -114,6 +120,14 @@ bool send_pages(const ui::Sheets& sheets, const QPrinter& printer, Patience pati
 
 }  // namespace
 
+QPageLayout DesktopPrinter::paper() const {
+  if (!paper_ || paper_age_.hasExpired(kPaperIsGood)) {
+    paper_ = usual_paper(patience_);
+    paper_age_.start();
+  }
+  return *paper_;
+}
+
 bool DesktopPrinter::has_default_printer() const {
   switch (ask_scheduler(patience_)) {
     case Scheduler::kAbsent:
@@ -123,18 +137,22 @@ bool DesktopPrinter::has_default_printer() const {
     case Scheduler::kAnswers:
       break;
   }
+  const SilenceGuard guard(patience_);
   return !QPrinterInfo::defaultPrinter().isNull();
 }
 
 ui::PageRoom DesktopPrinter::page_room(const ui::Sheets& sheets) const {
-  return measure_page(sheets, usual_paper(patience_)).room;
+  return measure_page(sheets, paper()).room;
 }
 
 ui::PrintResult DesktopPrinter::print(const ui::Sheets& sheets) {
-  // Qt's dialog would wait for the scheduler for ever.
+  paper_.reset();
+  // Qt would ask on, and wait for a minute each time.
   if (ask_scheduler(patience_) != Scheduler::kAnswers) return ui::PrintResult::kFailed;
+  std::optional<SilenceGuard> guard(std::in_place, patience_);
   QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
   if (!choose(printer, sheets.language)) return ui::PrintResult::kCancelled;
+  guard.reset();  // what is sent now has a patience of its own, and many pages take long
   const WaitCursor cursor;
   return send_pages(sheets, printer, patience_) ? ui::PrintResult::kSuccess
                                                 : ui::PrintResult::kFailed;
@@ -147,7 +165,7 @@ std::optional<std::string> DesktopPrinter::pdf(const ui::Sheets& sheets) const {
     bytes.append(more);
     return true;
   };
-  if (!write_pdf(sheets, usual_paper(patience_), take)) return std::nullopt;
+  if (!write_pdf(sheets, paper(), take)) return std::nullopt;
   return bytes;
 }
 

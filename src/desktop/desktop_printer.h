@@ -2,6 +2,10 @@
 // The printer port in Qt: the default printer, the system's print dialog, and pages that go to the
 // queue chosen in it as a PDF, the same that is kept as a file.
 
+#include <QElapsedTimer>
+#include <QPageLayout>
+#include <optional>
+
 #include "desktop/print_queue.h"
 #include "ui/printer.h"
 
@@ -10,7 +14,7 @@ namespace desktop {
 class DesktopPrinter : public ui::Printer {
  public:
   /// `patience` is how long a scheduler that does not answer is waited for.
-  explicit DesktopPrinter(Patience patience = std::chrono::seconds(3)) : patience_(patience) {}
+  explicit DesktopPrinter(Patience patience = std::chrono::seconds(5)) : patience_(patience) {}
 
   /// True as well where the scheduler does not answer: it may have one. Printing then fails.
   [[nodiscard]] bool has_default_printer() const override;
@@ -21,7 +25,11 @@ class DesktopPrinter : public ui::Printer {
   [[nodiscard]] std::optional<std::string> pdf(const ui::Sheets& sheets) const override;
 
  private:
+  [[nodiscard]] QPageLayout paper() const;
+
   Patience patience_;
+  mutable std::optional<QPageLayout> paper_;  ///< of the default printer, as last asked for
+  mutable QElapsedTimer paper_age_;
 };
 
 }  // namespace desktop

@@ -56,14 +56,20 @@ Proportions proportions_of(const QString& family) {
           metrics.lineSpacing() / kMeasured};
 }
 
-bool is_wide(const QString& character) {
-  return ui::columns_of(character.toStdString()) > 1;
-}
-
-// One character of a text, also where it takes two units.
-QString character_at(const QString& text, qsizetype at) {
-  const bool pair = text[at].isHighSurrogate() && at + 1 < text.size();
-  return text.mid(at, pair ? 2 : 1);
+// One character of a text, which may take two units.
+struct Character {
+  char32_t code = 0;
+  qsizetype units = 1;
+  bool wide = false;
+};
+Character character_at(const QString& text, qsizetype at) {
+  const QChar first = text[at];
+  if (first.unicode() < 0x80) return {first.unicode()};  // nearly all there is, and quickly told
+  const bool pair = first.isHighSurrogate() && at + 1 < text.size();
+  const char32_t code =
+      pair ? QChar::surrogateToUcs4(first, text[at + 1]) : char32_t{first.unicode()};
+  const qsizetype units = pair ? 2 : 1;
+  return {code, units, ui::columns_of(text.mid(at, units).toStdString()) > 1};
 }
 
 // A line on paper: what would move the print head or the text behind it takes one blank column.
@@ -79,35 +85,35 @@ QString shown(const std::string& line) {
 // alone.
 class LinePainter {
  public:
-  LinePainter(QPainter& painter, const QString& family, double column)
+  /// In the painter's font.
+  LinePainter(QPainter& painter, bool wide_in_columns, double column)
       : painter_(painter),
         raw_(QRawFont::fromFont(painter.font(), QFontDatabase::Japanese)),
         column_(column),
-        wide_in_columns_(keeps_columns(family)) {}
+        wide_in_columns_(wide_in_columns) {}
 
   void draw(const QString& line, double left, double baseline) {
     std::size_t column = 0;
     for (qsizetype at = 0; at < line.size();) {
       const qsizetype from = at;
       const std::size_t first_column = column;
-      const QString first = character_at(line, at);
-      const bool wide = is_wide(first);
-      const bool alone = stands_alone(first, wide);
+      Character next = character_at(line, at);
+      const bool wide = next.wide;
+      const bool alone = stands_alone(next);
       do {
-        at += character_at(line, at).size();
+        at += next.units;
         column += wide ? 2 : 1;
-      } while (!alone && at < line.size() && goes_on(character_at(line, at), wide));
+        if (at < line.size()) next = character_at(line, at);
+      } while (at < line.size() && !alone && next.wide == wide && !stands_alone(next));
       painter_.drawText(QPointF(left + static_cast<double>(first_column) * column_, baseline),
                         line.mid(from, at - from));
     }
   }
 
  private:
-  [[nodiscard]] bool stands_alone(const QString& character, bool wide) const {
-    return (wide && !wide_in_columns_) || !raw_.supportsCharacter(character.toUcs4().front());
-  }
-  [[nodiscard]] bool goes_on(const QString& character, bool wide) const {
-    return is_wide(character) == wide && !stands_alone(character, wide);
+  [[nodiscard]] bool stands_alone(const Character& character) const {
+    if (character.code < 0x80) return false;  // every family has these
+    return (character.wide && !wide_in_columns_) || !raw_.supportsCharacter(character.code);
   }
 
   QPainter& painter_;
@@ -140,6 +146,7 @@ class Pages {
         measures_(measure_page(sheets, paper)),
         lines_(ui::folded(sheets.lines, measures_.room.columns)),
         family_(print_family()),
+        wide_in_columns_(keeps_columns(family_)),
         paper_(paper.paintRectPixels(sheets.size.dots_per_inch).size()) {}
 
   /// Ends early, with false, when `goes_well` says that the rest is of no use.
@@ -194,7 +201,7 @@ class Pages {
     const std::size_t first = page * measures_.room.lines;
     if (first >= line_count()) return;
     painter.setFont(font_of(family_, measures_.letter_height));
-    LinePainter columns(painter, family_, measures_.column);
+    LinePainter columns(painter, wide_in_columns_, measures_.column);
     double baseline = QFontMetricsF(painter.font(), painter.device()).ascent();
     for (const std::string& line : lines_->lines(first, measures_.room.lines)) {
       columns.draw(shown(line), 0, baseline);
@@ -205,11 +212,11 @@ class Pages {
   // On a line of its own at the foot of the paper.
   void draw_footer(QPainter& painter, std::size_t page, std::size_t count) const {
     painter.setFont(font_of(family_, small_letters()));
-    const std::string words = text::fill(text::bilingual(text::id::kPageOfPages, sheets_.language),
+    const std::string words = text::fill(text::bilingual(text::id::kPageOf, sheets_.language),
                                          {std::to_string(page), std::to_string(count)});
     const double column = proportions_of(family_).column * small_letters();
     const double width = static_cast<double>(ui::columns_of(words)) * column;
-    LinePainter(painter, family_, column)
+    LinePainter(painter, wide_in_columns_, column)
         .draw(shown(words), (paper_.width() - width) / 2,
               paper_.height() - QFontMetricsF(painter.font(), painter.device()).descent());
   }
@@ -223,6 +230,7 @@ class Pages {
   PageMeasures measures_;
   std::shared_ptr<const ui::Document> lines_;
   QString family_;
+  bool wide_in_columns_;
   QSizeF paper_;
 };
 

@@ -212,6 +212,10 @@ ui::PrintResult ScriptWindows::print(const ui::Sheets& sheets) {
                               ui::kCancel,
                               0};
   if (ask(dialog, "printing") != ui::kOk) return ui::PrintResult::kCancelled;
+  if (options_.paper == Paper::kFails) {
+    say("printing failed");
+    return ui::PrintResult::kFailed;
+  }
   for (const std::string& line : printed_lines(sheets)) say("printed " + ui::quoted(line));
   for (const ui::Drawing& drawing : sheets.drawings) {
     for (const std::string& line : ui::describe(drawing)) say("printed drawing " + line);
@@ -220,7 +224,7 @@ ui::PrintResult ScriptWindows::print(const ui::Sheets& sheets) {
 }
 
 std::optional<std::string> ScriptWindows::pdf(const ui::Sheets& sheets) const {
-  std::string text;
+  std::string text = "(a session draws no pages: the lines alone)\n";
   for (const std::string& line : printed_lines(sheets)) text.append(line).append("\n");
   return text;
 }

@@ -41,10 +41,12 @@ class ScriptWindows : public ui::Windows, public platform::HelpViewer, public ui
 
   bool show(const std::string& path) override;
 
-  [[nodiscard]] bool has_default_printer() const override { return options_.has_printer; }
+  [[nodiscard]] bool has_default_printer() const override {
+    return options_.paper != Paper::kNoPrinter;
+  }
   [[nodiscard]] ui::PageRoom page_room(const ui::Sheets& sheets) const override;
   [[nodiscard]] ui::PrintResult print(const ui::Sheets& sheets) override;
-  /// A session has no pages to draw: the lines, as they would be printed.
+  /// A session has no pages to draw: a line that says so, and the lines as they would be printed.
   [[nodiscard]] std::optional<std::string> pdf(const ui::Sheets& sheets) const override;
 
   /// The open screens, the one on top last.

@@ -32,8 +32,15 @@ enum class Status {
   kCannot = 2,  ///< a command could not be carried out
 };
 
+/// What printing comes to after the print dialog.
+enum class Paper {
+  kPrinted,
+  kFails,      ///< the queue takes nothing
+  kNoPrinter,  ///< and there is no dialog
+};
+
 struct Options {
-  bool has_printer = true;
+  Paper paper = Paper::kPrinted;
 };
 
 /// Plays the script. The reason of a failure is the transcript's last line, and is also handed to

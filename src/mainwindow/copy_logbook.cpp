@@ -87,6 +87,7 @@ class CopyLogbook {
 
   /// Nothing once the officer has given up, and been told of it.
   std::optional<CopyResult> copy() {
+    platform::clear_staged(services_.files, context_.folders.logbook_copies);
     // A disk may have been exchanged, and somebody may have put a file there, while it was asked.
     while (true) {
       if (!media::disk_is_ready(services_, context_.folders.logbook_copies, bytes_)) {

@@ -123,6 +123,7 @@ class CopyReports {
 
   /// False when the officer has ended it.
   bool copy_all() {
+    platform::clear_staged(services_.files, context_.folders.report_copies);
     if (are_many() && !ask_about_existing()) return false;
     std::optional<CShowStatusDlg> notice;
     if (are_many()) notice.emplace(services_, id::kNowCopying);

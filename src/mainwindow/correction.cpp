@@ -33,7 +33,10 @@ bool is_not_told(std::string_view figures) {
 // Any bytes as a short text in one line.
 std::string readable(const ui::Services& services, const std::string& bytes) {
   std::string text = from_ship_bytes(bytes, services.code_page);
-  std::replace_if(text.begin(), text.end(), text::is_control, '?');
+  for (char& c : text) {
+    if (c == '\r' || c == '\n' || c == '\t') c = ' ';
+    if (text::is_control(c)) c = '?';
+  }
   const std::string_view begin = text::first(text, kLongestWord);
   return begin.size() == text.size() ? text : std::string(begin).append("...");
 }

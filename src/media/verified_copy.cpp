@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "platform/paths.h"
 #include "text/checksum.h"
 
 namespace media {
@@ -95,7 +94,6 @@ Result<Place> look_at_place(const Files& files, const std::string& path) {
 CopyResult copy_file(Files& files, const std::string& from, const std::string& to,
                      const Place& place) {
   if (files.same(from, to)) return {CopyOutcome::kSameFile};
-  platform::clear_staged(files, std::string(platform::folder_part(to)));
   Pieces source(files, from);
   const auto staged = files.stage_pieces(to, [&] { return source.next(); });
   if (!staged.ok()) {

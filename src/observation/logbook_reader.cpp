@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "observation/report_text.h"
+#include "text/strings.h"
 
 namespace observation {
 namespace {
@@ -85,14 +86,16 @@ void LogbookLines::complete(Struct_Weather& record, std::string_view line) const
 platform::Result<std::string> find_last_line(const platform::Files& files, const std::string& path,
                                              const LogbookLines& lines) {
   constexpr std::uint64_t kPiece = 1U << 18U;
-  // No line of the layout is longer, so more of one that is need not be kept.
-  constexpr std::size_t kLongest = kLogbookColumns + 2;
+  // No line of the layout is longer, an editor's byte order mark and line end included, so more of
+  // one that is need not be kept.
+  constexpr std::size_t kLongest = kLogbookColumns + 8;
   std::string found;
   std::string begun;  // of the line that goes on in the next piece
   const auto end_line = [&](std::string_view more) {
     begun.append(more.substr(0, kLongest));
     if (begun.ends_with('\r')) begun.pop_back();
-    if (lines.holds(begun)) found = begun;
+    const std::string_view line = text::without_byte_order_mark(begun);
+    if (lines.holds(line)) found = line;
     begun.clear();
   };
   for (std::uint64_t from = 0;;) {

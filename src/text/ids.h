@@ -1233,7 +1233,4 @@ inline constexpr Id kAskDeleteOn{44037};
 inline constexpr Id kSelectReportsTitle{44035};
 inline constexpr Id kReportsToCopy{44036};
 
-// Printed pages
-inline constexpr Id kPageOfPages{44050};
-
 }  // namespace text::id

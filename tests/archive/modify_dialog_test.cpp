@@ -51,7 +51,7 @@ TEST(ModifyDialog, ListsTheReportsWithoutTheirExtensionTheNewestFirst) {
     EXPECT_EQ(dialog.reports.selected, -1);
     EXPECT_EQ(dialog.focused(), &dialog.reports);
     EXPECT_NE(dialog.heading.literal_caption, "");
-    EXPECT_EQ(dialog.remark.content, "");
+    EXPECT_FALSE(dialog.remark.visible);
   }
 }
 
@@ -115,6 +115,7 @@ TEST(ModifyDialog, SaysWhyAFolderCannotBeRead) {
     opened.files.fail_next(fakes::FakeFiles::Operation::kList, platform::FileError::kAccessDenied);
     CQFModifyDlg& dialog = opened.open();
     EXPECT_TRUE(dialog.reports.items.empty());
+    EXPECT_TRUE(dialog.remark.visible);
     EXPECT_EQ(
         dialog.remark.content.find(japanese ? "気象電報のフォルダを読み取れません。\nC:\\tlx\\"
                                             : "The folder of the weather reports can not be "

@@ -2,6 +2,7 @@
 
 #include <cups/cups.h>
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 
 #include <QFile>
 #include <QTest>
@@ -121,6 +122,8 @@ PrintScheduler::PrintScheduler() {
 
   scheduler_.setProcessEnvironment(with_system_programs());
   scheduler_.setProcessChannelMode(QProcess::ForwardedChannels);
+  // It ends with the test, however that ends.
+  scheduler_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
   scheduler_.start("/usr/sbin/cupsd",
                    {"-f", "-c", top + "/cupsd.conf", "-s", top + "/cups-files.conf"});
   EXPECT_TRUE(scheduler_.waitForStarted(-1)) << "cupsd: " << scheduler_.errorString().toStdString();

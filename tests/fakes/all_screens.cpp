@@ -122,13 +122,17 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CTlxSelectDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CTlxSelectDlg>(
-             services,
-             std::vector<archive::ListedReport>{{"C:\\kavrel\\data\\tlx\\14111512.tlx",
-                                                 "14111512.tlx",
-                                                 observation::ReportDate{"2014", "11", "15", "12"},
-                                                 {},
-                                                 platform::DateTime{2014, 11, 15, 21, 5, 0}}});
+         std::vector<archive::ListedReport> listed;
+         for (int day = 30; day > 10; --day) {
+           const std::string figures = std::to_string(day);
+           const std::string name = "1411" + figures + "12.tlx";
+           listed.push_back({"C:\\kavrel\\data\\tlx\\" + name,
+                             name,
+                             observation::ReportDate{"2014", "11", figures, "12"},
+                             {},
+                             platform::DateTime{2014, 11, day, 21, 5, 0}});
+         }
+         return std::make_unique<CTlxSelectDlg>(services, std::move(listed));
        }},
       {"CShowStatusDlg",
        [](ui::Services& services) -> Made { return std::make_unique<CShowStatusDlg>(services); }},

@@ -19,8 +19,8 @@ using test_form::Played;
 constexpr std::string_view kOpened = "> start\n  screen CFormDlg \"Help\" opened\n";
 
 // The transcript behind the opening of the form, which every script has.
-std::string after_start(const std::string& commands) {
-  const Played played = play("start\n" + commands);
+std::string after_start(const std::string& commands, const headless::Options& options = {}) {
+  const Played played = play("start\n" + commands, options);
   EXPECT_EQ(played.status, 0) << played.transcript;
   EXPECT_TRUE(played.transcript.starts_with(kOpened)) << played.transcript;
   return played.transcript.substr(std::min(kOpened.size(), played.transcript.size()));
@@ -172,6 +172,17 @@ TEST(Session, PrintsThroughTheSystemsPrintDialog) {
             "  printed drawing line text (0 0) (1 1)\n"
             "    note: \"\" -> \"printed\"\n");
   EXPECT_NE(after_start("menu OK/Help\nclose\n").find("\"not printed\""), std::string::npos);
+}
+
+TEST(Session, PrintsNothingWhereTheQueueTakesNothing) {
+  headless::Options options;
+  options.paper = headless::Paper::kFails;
+  EXPECT_EQ(after_start("menu OK/Help\nanswer print\n", options),
+            "> menu OK/Help\n  printing \"print\": \"Listing\" [Print] [Cancel]\n"
+            "> answer print\n  printing failed\n    note: \"\" -> \"not printed\"\n");
+  EXPECT_EQ(after_start("menu OK/Help\nanswer cancel\n", options),
+            "> menu OK/Help\n  printing \"print\": \"Listing\" [Print] [Cancel]\n"
+            "> answer cancel\n    note: \"\" -> \"not printed\"\n");
 }
 
 TEST(Session, RunsAMenuCommandByItsEnglishTexts) {

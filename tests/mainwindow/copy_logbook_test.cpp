@@ -60,6 +60,18 @@ TEST(CopyLogbook, CopiesAndKeepsTheSourceAndTheFolder) {
   });
 }
 
+TEST(CopyLogbook, ClearsWhatAKilledCopyLeftInTheFolder) {
+  Copying c;
+  with_logbook(c);
+  c.files.add_file("C:\\copy\\.kavrel-999999999-7.part", "half");
+  c.choose("C:\\copy");
+  c.world.windows.expect(id::kLogbookCopied);
+  c.world.windows.expect(id::kAskDeleteLogbook, "no");
+  copy(c);
+  EXPECT_EQ(c.files.snapshot(),
+            (std::map<std::string, std::string>{{kFrom, kLines}, {kTo, kLines}}));
+}
+
 TEST(CopyLogbook, YesDeletesTheSource) {
   in_both_languages([](Copying& c) {
     with_logbook(c);

@@ -100,6 +100,17 @@ TEST(CopyReports, CopiesOneAfterAnotherAndAsksForEachWhetherToDeleteIt) {
   });
 }
 
+TEST(CopyReports, ClearsWhatAKilledCopyLeftInTheFolder) {
+  Copying c;
+  put(c, {kThree[0]});
+  c.files.add_file("C:\\copy\\.kavrel-999999999-7.part", "half");
+  select_and_choose(c);
+  c.world.windows.expect(id::kReportCopied);
+  c.world.windows.expect(id::kAskDeleteReport, "no");
+  copy(c);
+  EXPECT_EQ(c.files.snapshot().size(), 2U);
+}
+
 TEST(CopyReports, OnlyThoseChosenAreCopied) {
   Copying c;
   put(c, kThree);

@@ -53,7 +53,7 @@ class Officer {
   /// A few entries more, and the observation as it is then saved.
   Struct_Weather observe() {
     for (int i = entries_.pick(24); i > 0; --i) {
-      if (entries_.pick(4) == 0)
+      if (entries_.pick(10) == 0)
         entries_.step(form);
       else
         (void)form.enter(static_cast<Field>(entries_.pick(elements::kFields)), figures());

@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <random>
+#include <sstream>
 #include <string>
 #include <vector>
 
+#include "mainwindow/correction.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_file.h"
 #include "observation/report_reader.h"
@@ -231,20 +234,21 @@ TEST(Correcting, LeavesTheObservationWhereThereIsNoReport) {
   }
 }
 
-TEST(Correcting, NamesAFileThatVanishedOrBecameAFolder) {
-  for (const bool folder : {false, true}) {
+TEST(Correcting, NamesAFileThatVanishedOrIsAnotherThingByNow) {
+  for (const std::string_view now : {"nothing", "folder", "pipe"}) {
     const auto opened = std::make_unique<Correcting>();
     opened->files.add_file(kReport, kText);
     opened->world.windows.expect_screen("CQFModifyDlg", [&](ui::Screen& screen) {
       screen.choose(*screen.find("reports"), 0);
       (void)opened->files.remove(kReport);
-      if (folder) opened->files.add_folder(kReport);
+      if (now == "folder") opened->files.add_folder(kReport);
+      if (now == "pipe") opened->files.add_other(kReport);
       screen.press(*screen.find("ok"));
     });
     opened->world.windows.expect(id::kCorrectUnreadable);
     opened->menu(kMenu);
     const std::string& told = opened->world.windows.boxes.back().text;
-    const FileError why = folder ? FileError::kNotAFile : FileError::kNotFound;
+    const FileError why = now == "nothing" ? FileError::kNotFound : FileError::kNotAFile;
     EXPECT_NE(told.find(opened->world.texts.get(text::reason_of(why))), std::string::npos) << told;
     EXPECT_EQ(opened->window.title(), "KAVREL for WIN");
   }
@@ -459,6 +463,77 @@ TEST(Correcting, IsItselfAskedAboutBeforeTheNextOne) {
   opened->menu(kMenu);
   EXPECT_EQ(opened->shown("VV"), "96");
   EXPECT_FALSE(opened->window.unsaved());
+}
+
+// ---- Any bytes
+
+// A report with bytes of it exchanged, taken out, doubled: whatever comes of it can be saved, kept
+// as a draft and taken over again, and every word is in the form or named.
+TEST(Correcting, SurvivesAnyBytesInTheFile) {
+  std::mt19937 random(14111512);
+  const auto pick = [&](std::size_t count) {
+    return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
+  };
+  FakeFiles files;
+  fakes::World world(files);
+  ShipFixedData ship = fakes::psychrometer_ship();
+  KeyObservationItems items;
+  mainwindow::Folders folders;
+  folders.logbook = "C:\\log\\";
+  files.add_file(kLogbook, line_of("0780", "00") + "\n");
+  world.windows.answer_all("ok");
+  int opened_files = 0;
+  for (int i = 0; i < 3000; ++i) {
+    std::string text = kText;
+    for (std::size_t changes = 1 + pick(6); changes > 0 && !text.empty(); --changes) {
+      const std::size_t at = pick(text.size());
+      const std::size_t size = 1 + pick(8);
+      switch (pick(4)) {
+        case 0:
+          text[at] = static_cast<char>(pick(256));
+          break;
+        case 1:
+          text.erase(at, size);
+          break;
+        case 2:
+          text.insert(at, text.substr(pick(text.size()), size));
+          break;
+        default:
+          text[at] = "0123456789/ \n=.XB"[pick(18)];
+          break;
+      }
+    }
+    files.add_file(kReport, text);
+    const auto opened =
+        mainwindow::open_report(world.services, {ship, items, folders, {}}, kReport);
+    if (!opened) continue;
+    ++opened_files;
+    elements::ObservationForm form(ship, items, world.clock);
+    form.load_record(opened->record);
+    const std::string report = form.report().text;
+    EXPECT_EQ(observation::encode_logbook(form.record(), ship, items).size(), 172U);
+    for (const char c : report) ASSERT_FALSE(text::is_control(c)) << text;
+    (void)form.unacceptable();
+    (void)mainwindow::unplaced_lines(world.services, opened->correction);
+    const std::string draft = elements::encode_draft(
+        {ship.call_sign, elements::ship_mark(ship), form.entries(), {}, {}, opened->correction});
+    const elements::DraftRead read = elements::decode_draft(draft);
+    ASSERT_EQ(read.fault, elements::DraftFault::kNone) << draft;
+    elements::ObservationForm restored(ship, items, world.clock);
+    restored.load(read.draft.form);
+    restored.items_changed();
+    ASSERT_EQ(restored.report().text, report) << text;
+    // Every group of the file is one of the report or is named; solidi may be left out.
+    std::string named;
+    for (const auto& each : opened->correction.unplaced) named += " " + each.text + " ";
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+      const bool is_group = word.size() == 5 && text::is_all_digits(word);
+      if (!is_group || named.find(word) != std::string::npos) continue;
+      ASSERT_NE(report.find(word), std::string::npos) << word << " of " << text << "\n" << report;
+    }
+  }
+  EXPECT_GT(opened_files, 2000);
 }
 
 }  // namespace

@@ -182,6 +182,7 @@ TEST(LastLine, IsTheLastOneThatAgreesWhateverStandsBehindIt) {
   EXPECT_EQ(log.found(first + "\r\n" + last), last) << "other line ends, and none";
   EXPECT_EQ(log.found(std::string(400000, 'x') + "\n" + last + "\n" + std::string(400000, '\0')),
             last);
+  EXPECT_EQ(log.found("\xEF\xBB\xBF" + last + "\r\n"), last) << "saved by an editor";
   EXPECT_EQ(log.found("x" + last + "\n" + last + "x\n"), "") << "whole lines only";
 }
 

@@ -348,6 +348,11 @@ TEST(LoadedRecord, NamesEveryValueThatItsFieldWouldRefuse) {
   const std::string text =
       "BBXX JXKV 15123 99357 11653 41497 62718 10152 20114 40132 52014 72582 84531 11150 22213 "
       "00178 10604 20604 32531 40905 51103 61023 80130 ICE 12345 .....";
+  Form whole;
+  whole.ship.wave_recorder = true;
+  whole.form->load_record(
+      observation::read_report(text, Struct_Weather(whole.ship, whole.items))->record);
+  EXPECT_TRUE(whole.form->unacceptable().empty());
   int named = 0;
   for (std::size_t at = text.find("99357"); at < text.size(); ++at) {
     if (text[at] < '0' || text[at] > '9') continue;
