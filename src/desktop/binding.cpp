@@ -62,9 +62,12 @@ QString broken(const QString& text, const QWidget& widget, int characters) {
   return lines.join(QLatin1Char('\n'));
 }
 
-// The font family that the control asks for; empty for the usual one.
-QString family_of(const ui::Control& control) {
-  return control.font == ui::kFixedPitch ? fixed_pitch_family() : text_of(control.font);
+// The font that the control asks for, beside the usual one.
+QFont font_of(const ui::Control& control, const QFont& usual) {
+  if (control.font == ui::kFixedPitch) return fixed_pitch_font(usual);
+  QFont font = usual;
+  font.setFamily(text_of(control.font));
+  return font;
 }
 
 // What the widget itself cuts at; 0 for nothing. A field that goes on in another must see its
@@ -867,11 +870,14 @@ void Binding::show() {
     if (unit_label->text() != unit) unit_label->setText(unit);
   }
   show_property("mark", text_of(control_.mark));
-  if (const QString family = family_of(control_);
-      !family.isEmpty() && shown_widget->font().family() != family) {
-    QFont font = shown_widget->font();
-    font.setFamily(family);
-    shown_widget->setFont(font);
+  if (!control_.font.empty()) {
+    // The window's font, also when the system's was changed meanwhile.
+    const QWidget* const around = shown_widget->parentWidget();
+    const QFont wanted =
+        font_of(control_, around == nullptr ? QApplication::font() : around->font());
+    if (shown_widget->font().family() != wanted.family() ||
+        shown_widget->font().pointSizeF() != wanted.pointSizeF())
+      shown_widget->setFont(wanted);
   }
   // Screen readers say the caption; whoever wonders why a field is locked is told.
   QString spoken = caption();

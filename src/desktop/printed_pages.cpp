@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "desktop/drawing_painter.h"
+#include "desktop/fixed_pitch.h"
 #include "text/ids.h"
 #include "text/texts.h"
 
@@ -145,7 +146,7 @@ class Pages {
       : sheets_(sheets),
         measures_(measure_page(sheets, paper)),
         lines_(ui::folded(sheets.lines, measures_.room.columns)),
-        family_(print_family()),
+        family_(fixed_pitch_family()),
         wide_in_columns_(keeps_columns(family_)),
         paper_(paper.paintRectPixels(sheets.size.dots_per_inch).size()) {}
 
@@ -265,38 +266,8 @@ QPageLayout paper_of(const QPageSize& size, const QMarginsF& least,
   return {size, orientation, margins, QPageLayout::Millimeter, margins};
 }
 
-bool keeps_columns(const QString& family) {
-  const QFont font = font_of(family, kMeasured);
-  const QRawFont raw = QRawFont::fromFont(font, QFontDatabase::Japanese);
-  const QFontMetricsF metrics(font);
-  const double column = metrics.horizontalAdvance(QLatin1Char('0'));
-  const auto is_as_wide = [&](const QString& text) {
-    for (const char32_t character : text.toUcs4())
-      if (!raw.supportsCharacter(character)) return false;
-    const auto columns = static_cast<double>(ui::columns_of(text.toStdString()));
-    return std::abs(metrics.horizontalAdvance(text) - columns * column) < 1;
-  };
-  const QStringList samples = {"iiii", "WWWW", "..__", "----", "((//",
-                               "漢字", "あア", "Ａ９", "　。", "ｱｶ"};
-  return std::all_of(samples.begin(), samples.end(), is_as_wide);
-}
-
-QString print_family() {
-  static const QString family = [] {
-    QString usual = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-    // Those that are known to be good to read on paper, then whatever there is.
-    QStringList families = {usual, "IPAGothic", "Noto Sans Mono CJK JP", "MS Gothic",
-                            "TakaoGothic"};
-    families += QFontDatabase::families(QFontDatabase::Japanese);
-    for (const QString& candidate : std::as_const(families))
-      if (QFontDatabase::hasFamily(candidate) && keeps_columns(candidate)) return candidate;
-    return usual;
-  }();
-  return family;
-}
-
 PageMeasures measure_page(const ui::Sheets& sheets, const QPageLayout& paper) {
-  const Proportions proportions = proportions_of(print_family());
+  const Proportions proportions = proportions_of(fixed_pitch_family());
   const double dots_of_a_point = sheets.size.dots_per_inch / kPointsOfAnInch;
   const int least = static_cast<int>(std::ceil(sheets.size.least_points * dots_of_a_point));
   const int most = static_cast<int>(sheets.size.most_points * dots_of_a_point);

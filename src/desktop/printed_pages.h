@@ -18,13 +18,6 @@ namespace desktop {
 [[nodiscard]] QPageLayout paper_of(const QPageSize& size, const QMarginsF& least = {},
                                    QPageLayout::Orientation orientation = QPageLayout::Portrait);
 
-/// A family in whose letters lines stand in columns: every Latin character is as wide as any other,
-/// a Japanese one exactly twice as wide. The system's fixed font where no installed family is like
-/// that; characters that it does not have are put into their columns one by one.
-[[nodiscard]] QString print_family();
-/// True for a family that print_family() looks for.
-[[nodiscard]] bool keeps_columns(const QString& family);
-
 /// What one page has room for, and how large its letters are (ui::PrintSize).
 struct PageMeasures {
   ui::PageRoom room;

@@ -1,5 +1,6 @@
 // Lines on paper, read back from the PDF by another program.
 #include "desktop/printed_pages.h"
+#include "desktop/fixed_pitch.h"
 
 #include <gtest/gtest.h>
 
@@ -101,13 +102,30 @@ ui::Sheets sheets_of(std::vector<std::string> lines) {
 }  // namespace
 
 TEST(PrintedPages, StandInLettersThatKeepColumnsAndHaveJapanese) {
-  EXPECT_TRUE(desktop::keeps_columns(desktop::print_family()))
+  EXPECT_TRUE(desktop::keeps_columns(desktop::fixed_pitch_family()))
       << "no fixed font with Japanese letters is installed; the program asks for "
-      << desktop::print_family().toStdString();
+      << desktop::fixed_pitch_family().toStdString();
   // A proportional one and one without Japanese are no such fonts.
   EXPECT_FALSE(desktop::keeps_columns("DejaVu Sans"));
   EXPECT_FALSE(desktop::keeps_columns("DejaVu Sans Mono"));
   EXPECT_FALSE(desktop::keeps_columns("IPAPGothic"));
+}
+
+TEST(FixedPitch, HasFiguresAsLargeAsThoseOfTheFontBesideIt) {
+  const auto room = [](const QFont& font) {
+    const QFontMetricsF metrics(font);
+    return metrics.tightBoundingRect("0").height() * metrics.horizontalAdvance('0');
+  };
+  QFont usual("DejaVu Sans");
+  for (const double points : {20.0, 60.0}) {
+    usual.setPointSizeF(points);
+    const QFont fixed = desktop::fixed_pitch_font(usual);
+    EXPECT_EQ(fixed.family(), desktop::fixed_pitch_family());
+    EXPECT_GT(fixed.pointSizeF(), 1.05 * points);  // IPAGothic is narrow
+    EXPECT_NEAR(room(fixed) / room(usual), 1, 0.1) << points;
+  }
+  usual.setPixelSize(100);
+  EXPECT_NEAR(room(desktop::fixed_pitch_font(usual)) / room(usual), 1, 0.05);
 }
 
 TEST(PrintedPages, HaveMarginsOfTenMillimetresAndOfWhatThePrinterCannotReach) {
