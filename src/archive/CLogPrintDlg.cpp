@@ -55,7 +55,7 @@ void CLogPrintDlg::read() {
 
 std::shared_ptr<const ui::Document> CLogPrintDlg::document() {
   if (path().empty()) {
-    services().messages.error(id::kNoLogbookSelected, "NO FILE SELECTED");
+    services().messages.error(id::kNoFileSelected, "NO FILE SELECTED");
     return nullptr;
   }
   read();

@@ -46,7 +46,7 @@ void CTlxSelectDlg::on_ok() {
   for (std::size_t i = 0; i < listed_.size(); ++i)
     if (reports.item_ticked[i]) chosen.push_back(listed_[i]);
   if (chosen.empty()) {
-    services().messages.error(id::kNoLogbookSelected, "NO FILE SELECTED");
+    services().messages.error(id::kNoFileSelected, "NO FILE SELECTED");
     focus(reports);
     return;
   }

@@ -1148,7 +1148,7 @@ inline constexpr Id kPrintFailed{43955};
 inline constexpr Id kNoPrinter{43956};
 inline constexpr Id kNoReportToPrint{43957};
 inline constexpr Id kNoReportExists{43958};
-inline constexpr Id kNoLogbookSelected{43959};
+inline constexpr Id kNoFileSelected{43959};
 inline constexpr Id kPrint{43960};
 inline constexpr Id kSaveAsPdf{43961};
 inline constexpr Id kReportsChosen{43962};

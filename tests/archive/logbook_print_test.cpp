@@ -95,14 +95,14 @@ TEST_F(LogbookPrinting, NothingChosenIsTold) {
     CLogPrintDlg& screen = open(-1, folder);
     const std::string before = fakes::dump(screen);
     for (ui::Button* const button : {&screen.pages.print, &screen.pages.save_pdf}) {
-      world.windows.expect(id::kNoLogbookSelected);
+      world.windows.expect(id::kNoFileSelected);
       screen.press(*button);
     }
     EXPECT_EQ(fakes::dump(screen), before);
   }
   EXPECT_EQ(world.windows.boxes.front().text, "No file selected");
   world.japanese();
-  world.windows.expect(id::kNoLogbookSelected);
+  world.windows.expect(id::kNoFileSelected);
   CLogPrintDlg& screen = open();
   screen.press(screen.pages.print);
   EXPECT_EQ(world.windows.boxes.back().text, "ファイルが選択されていません。");
