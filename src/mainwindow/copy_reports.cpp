@@ -131,7 +131,9 @@ class CopyReports {
       copied_.push_back(&reports_[i]);
       if (are_many()) continue;
       services_.messages.error_filled(id::kReportCopied, {reports_[i].name});
-      if (messages_.wants(id::kAskDeleteReport, {reports_[i].name})) (void)remove(reports_[i]);
+      const int answer = ask(id::kAskDeleteReport, reports_[i], left);
+      if (answer == ui::kOk) (void)remove(reports_[i]);
+      if (answer == ui::kCancel) return false;
     }
     return true;
   }

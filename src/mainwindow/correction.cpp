@@ -30,6 +30,12 @@ bool is_not_told(std::string_view figures) {
   return figures.find_first_not_of('/') == std::string_view::npos;
 }
 
+std::string in_capitals(std::string text) {
+  for (char& c : text)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  return text;
+}
+
 // Any bytes as a short text in one line.
 std::string readable(const ui::Services& services, const std::string& bytes) {
   std::string text = from_ship_bytes(bytes, services.code_page);
@@ -56,6 +62,7 @@ class Opening {
     take_date();
     take_position();
     look_at_wet_bulb();
+    look_at_precipitation();
     take_logbook_line();
     if (codetables::is_metres_per_second(record().iw)) note(id::kCorrectMetresPerSecond, {});
     return std::move(opened_);
@@ -119,6 +126,20 @@ class Opening {
         {observation::group_text(record(), observation::Group::k8SwTbTbTb), Unplaced::kWetBulb});
   }
 
+  // iR of 0, 1 or 2 announces a group 6RRRtR. One that is lost may not be announced, and the officer
+  // has no field for iR.
+  void look_at_precipitation() {
+    const std::string& told = record().iR;
+    const auto& unplaced = opened_.correction.unplaced;
+    const bool is_lost =
+        std::any_of(unplaced.begin(), unplaced.end(), [](const observation::UnplacedText& each) {
+          return (each.why == Unplaced::kNoField || each.why == Unplaced::kOtherSection) &&
+                 each.text.starts_with('6');
+        });
+    if (is_lost && (told == "0" || told == "1" || told == "2"))
+      record().iR = Struct_Weather(context_.ship, context_.items).iR;
+  }
+
   void take_logbook_line() {
     if (!context_.folders.logbook.empty()) {
       const std::string logbook = observation::logbook_path(context_.folders.logbook);
@@ -142,7 +163,8 @@ class Opening {
 
   void do_without_line() {
     const Struct_Weather& r = record();
-    const bool first_swell = !is_not_told(r.dw1dw1);
+    // "00": no swell at all, and then the second direction stays as it was sent.
+    const bool first_swell = !is_not_told(r.dw1dw1) && r.dw1dw1 != "00";
     const bool second_swell = !is_not_told(r.dw2dw2) || !r.Pw2Pw2.empty() || !r.Hw2Hw2.empty();
     if (first_swell && !second_swell && context_.items.observed(ObservationItem::dw2Pw2Hw2))
       record().dw2dw2 = "00";
@@ -179,7 +201,10 @@ std::optional<OpenedReport> open_report(ui::Services& services, const MainWindow
     services.messages.file_error(id::kCorrectUnreadable, path, why);
     return std::nullopt;
   }
-  const auto report = observation::read_report(text, Struct_Weather(context.ship, context.items));
+  const Struct_Weather start(context.ship, context.items);
+  auto report = observation::read_report(text, start);
+  // Somebody's editor may have made small letters of it; figures have none.
+  if (!report) report = observation::read_report(in_capitals(text), start);
   if (!report) {
     const bool empty = text::trim(text).empty();
     services.messages.error_filled(empty ? id::kCorrectEmpty : id::kCorrectNoReport, {path});

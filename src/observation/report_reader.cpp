@@ -134,9 +134,15 @@ class Reader {
       name(word, Unplaced::kNotAGroup);
       return;
     }
+    // Section 1 ends with the clouds, but for 9GGgg. The sea temperature alone begins with a figure
+    // that no group of section 1 has, so it tells that 222 was lost.
+    const bool is_behind_clouds = !in_section_2_ && placed(Group::k8NhCLCMCH) && word.front() < '8';
+    if (is_behind_clouds && word.front() == '0') in_section_2_ = true;
     const GroupRow* row = find_row(word);
     if (row == nullptr)
       name(word, Unplaced::kNoField);
+    else if (is_behind_clouds && !in_section_2_)
+      name(word, Unplaced::kOutOfRange);
     else
       place(*row, word);
   }

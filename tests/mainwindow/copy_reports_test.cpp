@@ -239,6 +239,26 @@ TEST(CopyReports, CancelEndsTheCommandAndTellsWhatWasCopied) {
   }
 }
 
+TEST(CopyReports, TheQuestionWhetherToDeleteIsAWayOutToo) {
+  for (const char* const answer : {"cancel", "close"}) {
+    in_both_languages([&](Copying& c) {
+      put(c, kThree);
+      select_and_choose(c);
+      c.world.windows.expect(id::kReportCopied);
+      c.world.windows.expect(id::kAskDeleteReport, "yes");
+      c.world.windows.expect(id::kReportCopied);
+      c.world.windows.expect(id::kAskDeleteReport, answer);
+      c.world.windows.expect_text(
+          japanese(c) ? "コピーを終了しました。気象電報 2 通（全 3 通）をコピーしました。"
+                      : "Copying has ended: 2 of 3 weather reports were copied.");
+      copy(c);
+      EXPECT_EQ(copied(c, kThree), (Names{kThree[0], kThree[1]}));
+      EXPECT_EQ(left(c, kThree), (Names{kThree[1], kThree[2]}));
+      EXPECT_EQ(c.box(1).buttons.size(), 3U);
+    });
+  }
+}
+
 TEST(CopyReports, ASingleOneIsAskedAboutWithYesOrNo) {
   Copying c;
   put(c, {kThree[0]});
@@ -473,12 +493,12 @@ TEST(CopyReports, FewAreAsManyAsTheirOwnMessagesServe) {
   for (const std::size_t count : {mainwindow::kFewReports, mainwindow::kFewReports + 1}) {
     Copying c;
     put(c, names(static_cast<int>(count)));
-    c.world.windows.answer_all("none", [](ui::Screen& screen) {
+    const bool few = count == mainwindow::kFewReports;
+    c.world.windows.answer_all(few ? "no" : "none", [](ui::Screen& screen) {
       if (ui::Control* const tree = screen.find("tree")) screen.reveal(*tree, "C:\\copy");
       screen.press(*screen.find("ok"));
     });
     copy(c);
-    const bool few = count == mainwindow::kFewReports;
     EXPECT_EQ(c.world.windows.boxes.size(), few ? 2 * count : 2U);
   }
 }

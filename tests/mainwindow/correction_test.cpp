@@ -174,6 +174,21 @@ TEST(Correcting, WithoutALineSaysSoAndHasNoSecondSwell) {
   }
 }
 
+// Where there was no first swell, zeros for the second would say more than was sent.
+TEST(Correcting, WithoutALineEverySwellGoesOutAsItWasSent) {
+  for (const char* const groups :
+       {"30000", "300//", "300// 40905", "399//", "327// 40905", "32727 40905 50602"}) {
+    std::string text = kText;
+    text.replace(text.find("327// 40905"), 11, groups);
+    const auto opened = std::make_unique<Correcting>();
+    opened->correct(text, kReport, true);
+    EXPECT_NE(opened->window.report().find(std::string(" 20604 ").append(groups)),
+              std::string::npos)
+        << groups << "\n"
+        << opened->window.report();
+  }
+}
+
 TEST(Correcting, WithoutALineComputesAHumidityThatTheShipComputes) {
   ShipFixedData ship = main_window::sample_ship();
   for (const bool computed : {true, false}) {
@@ -310,6 +325,41 @@ TEST(Correcting, TellsVeryMuchInFewLinesThatCanBeRead) {
   EXPECT_LT(told.size(), 2000U);
   EXPECT_NE(told.find("... and 991 more\n"), std::string::npos) << told;
   for (const char c : told) EXPECT_FALSE(text::is_control(c) && c != '\n');
+}
+
+// A group of precipitation has no field, so the report must not announce one; nobody could enter it.
+TEST(Correcting, AnnouncesNoPrecipitationThatFoundNoPlace) {
+  struct Row {
+    const char *iR, *groups, *sent;
+  };
+  for (const Row& row : {Row{"1", "60102 70211", "4"},
+                         {"0", "60102 333 60101", "4"},
+                         {"2", "333 60101", "4"},
+                         {"3", "70211", "3"},
+                         {"1", "70211", "1"},
+                         {"4", "30123", "4"}}) {
+    SCOPED_TRACE(std::string(row.iR).append(" ").append(row.groups));
+    const auto opened = std::make_unique<Correcting>();
+    std::string text = "BBXX JXKV 15123 99357 11653 ";
+    text.append(row.iR).append("1497 62718 10152 ").append(row.groups).append(" .....");
+    opened->correct(text, kReport, true);
+    EXPECT_EQ(opened->window.form().record().iR, row.sent);
+    EXPECT_FALSE(opened->window.unsaved());
+  }
+}
+
+// Somebody's editor or a receiver may have turned the letters round; figures have none.
+TEST(Correcting, ReadsSmallLettersAsCapitals) {
+  const auto opened = with_line(line_of("0780", "00"));
+  std::string text = kText;
+  text.insert(text.find("....."), "ICE 35124 ");
+  for (char& c : text)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  opened->correct(text, kReport, true);
+  EXPECT_NE(opened->window.report().find("BBXX JXKV 15123 99357 11653 41497 62718 10152"),
+            std::string::npos);
+  EXPECT_NE(opened->window.report().find(" ICE 35124 ....."), std::string::npos);
+  EXPECT_EQ(opened->window.title(), "KAVREL for WIN - correcting 14111512.tlx");
 }
 
 // ---- Date and name
@@ -530,7 +580,12 @@ TEST(Correcting, SurvivesAnyBytesInTheFile) {
     for (std::string word; words >> word;) {
       const bool is_group = word.size() == 5 && text::is_all_digits(word);
       if (!is_group || named.find(word) != std::string::npos) continue;
-      ASSERT_NE(report.find(word), std::string::npos) << word << " of " << text << "\n" << report;
+      // Beside a lost group that begins with 6 no precipitation is announced.
+      const bool is_announcement = named.find(" 6") != std::string::npos &&
+                                   report.find("4" + word.substr(1)) != std::string::npos;
+      ASSERT_TRUE(is_announcement || report.find(word) != std::string::npos)
+          << word << " of " << text << "\n"
+          << report;
     }
   }
   EXPECT_GT(opened_files, 2000);

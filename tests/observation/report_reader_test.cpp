@@ -324,6 +324,65 @@ TEST(ReportReader, SameFiguresMeanAnotherGroupBehind222) {
   EXPECT_TRUE(report.has_wet_bulb);
 }
 
+// Waves must never become a dew point, and swell no pressure.
+TEST(ReportReader, WithoutIts222Section2IsKnownByTheSeaTemperature) {
+  const std::string section_1 = "BBXX ABC 15124 99357 11653 41/// 22215 10152 81234 ";
+  for (const char* const exact : {"", "91230 "}) {
+    const auto report = read(section_1 + exact + "00178 10706 20204 32531 40905 51103 80130");
+    expect_fields(report.record,
+                  {{"CallSign", "ABC"},
+                   {"YY", "15"},
+                   {"GG", "12"},
+                   {"iw", "4"},
+                   {"LaDeg", "35"},
+                   {"LaMin", "42"},
+                   {"Qc", "1"},
+                   {"LoDeg", "165"},
+                   {"LoMin", "18"},
+                   {"iR", "4"},
+                   {"iX", "1"},
+                   {"h", "/"},
+                   {"VV", "//"},
+                   {"N", "2"},
+                   {"dd", "22"},
+                   {"ff", "15"},
+                   {"SnT", "0"},
+                   {"TTT", "152"},
+                   {"Nh", "1"},
+                   {"CL", "2"},
+                   {"CM", "3"},
+                   {"CH", "4"},
+                   {"Ss", "0"},
+                   {"TwTwTw", "178"},
+                   {"PwaPwa", "07"},
+                   {"HwaHwa", "06"},
+                   {"PwPw", "02"},
+                   {"HwHw", "04"},
+                   {"dw1dw1", "25"},
+                   {"dw2dw2", "31"},
+                   {"Pw1Pw1", "09"},
+                   {"Hw1Hw1", "05"},
+                   {"Pw2Pw2", "11"},
+                   {"Hw2Hw2", "03"},
+                   {"Sw", "0"},
+                   {"TbTbTb", "130"},
+                   {"GGExact", *exact == '\0' ? "" : "12"},
+                   {"gg", *exact == '\0' ? "" : "30"}},
+                  exact);
+    EXPECT_TRUE(report.unplaced.empty());
+  }
+  // Without one nobody can tell: no group of section 1 comes so late, but for 9GGgg.
+  const auto report = read(section_1 + "10706 20204 32531 40905 51103 70211 91230");
+  EXPECT_EQ(report.unplaced, (UnplacedList{{"10706", Unplaced::kOutOfRange},
+                                           {"20204", Unplaced::kOutOfRange},
+                                           {"32531", Unplaced::kNoField},
+                                           {"40905", Unplaced::kOutOfRange},
+                                           {"51103", Unplaced::kOutOfRange},
+                                           {"70211", Unplaced::kOutOfRange}}));
+  EXPECT_EQ(report.record.TTT + report.record.TdTdTd + report.record.PPPP + report.record.a, "152");
+  EXPECT_EQ(report.record.gg, "30");
+}
+
 TEST(ReportReader, HighWindFollowsNddff) {
   const auto report = read("BBXX ABC 15124 99357 11653 41/// 62799 00105 10152 22223 00178 .....");
   EXPECT_EQ(report.record.fff, "105");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "codetables/tables/code_tables.h"
 #include "codetables/tables/humidity_figures.h"
 #include "codetables/tables/pressure_figures.h"
 #include "codetables/tables/pressure_tendency.h"
@@ -67,6 +68,14 @@ Checked check_read_humidity(std::string_view typed, const ShipFixedData& ship) {
       codetables::check_humidity(typed, whole) == codetables::HumidityCheck::kAccepted;
   return {accepted ? Verdict::kAccepted : Verdict::kRefused,
           codetables::shown_humidity(typed, whole)};
+}
+
+// A dialog offers every line of a code table, also those that its field does not take: the zeros of
+// sea ice.
+bool is_offered(const FieldRow& row, std::string_view text) {
+  const codetables::CodeTable* const table =
+      row.editor.width == 1 ? codetables::table_of(row.name) : nullptr;
+  return table != nullptr && codetables::holds(*table, text);
 }
 
 // The rules that this field's editor raises, tested on the form as it would be.
@@ -191,6 +200,7 @@ bool is_acceptable(const Entries& entries, const Surroundings& around, Field fie
   if (field == Field::kPPPP) return check_pressure(text).answer.kind != Answer::Kind::kRefused;
   if (field == Field::kHumidity)
     return check_read_humidity(text, around.ship).verdict != Verdict::kRefused;
+  if (is_offered(row_of(field), text)) return true;
   return check_field(row_of(field).editor, text, bounds_of(field, entries.record, around.clock))
              .verdict != Verdict::kRefused;
 }

@@ -39,7 +39,8 @@ struct CheckedEntry {
 [[nodiscard]] CheckedEntry check_pressure(std::string_view typed);
 
 /// True when the field's own test would take what is accepted in it; also for what no entry can be
-/// tested on: nothing, solidi, and the year, whose bounds are those of new observations.
+/// tested on: nothing, solidi, the year, whose bounds are those of new observations, and a code that
+/// only the element's dialog offers.
 [[nodiscard]] bool is_acceptable(const Entries& entries, const Surroundings& around, Field field);
 
 /// What a change of the month or year, or of the degrees, has made impossible: the day that the
