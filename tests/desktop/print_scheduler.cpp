@@ -12,9 +12,11 @@ namespace tests {
 namespace {
 
 // The last one in the path's place: programs of the system's administrator are no plain user's.
+// What they answer is read, so it is not in the language of the locale.
 QProcessEnvironment with_system_programs() {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("PATH", environment.value("PATH") + ":/usr/sbin:/sbin");
+  environment.insert("LC_ALL", "C");
   return environment;
 }
 
