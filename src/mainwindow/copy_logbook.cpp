@@ -4,9 +4,9 @@
 
 #include "archive/CShowStatusDlg.h"
 #include "mainwindow/copy_flow.h"
+#include "mainwindow/copy_folder.h"
 #include "mainwindow/copy_messages.h"
 #include "mainwindow/save_flow.h"
-#include "media/CLogDiskSavePathDlg.h"
 #include "media/removable_disk.h"
 #include "media/verified_copy.h"
 #include "observation/report_file.h"
@@ -73,15 +73,9 @@ class CopyLogbook {
   }
 
   bool choose_place() {
-    Folders& folders = context_.folders;
-    CLogDiskSavePathDlg dialog(
-        services_, CLogDiskSavePathDlg::Mode::kLogbookCopy,
-        {folders.logbook_copies, folders.logbook_copies.empty() ? folders.removable_root : "",
-         folders.logbook},
-        context_.keep_folder);
-    if (services_.windows.run_modal(dialog) != ui::kOk) return false;
-    folders.logbook_copies = dialog.folder();
-    to_ = platform::join(dialog.folder(), observation::kLogbookName);
+    const auto folder = choose_copy_folder(services_, context_, Copied::kLogbook);
+    if (!folder) return false;
+    to_ = platform::join(*folder, observation::kLogbookName);
     return true;
   }
 

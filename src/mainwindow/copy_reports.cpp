@@ -9,9 +9,9 @@
 #include "archive/CTlxSelectDlg.h"
 #include "archive/report_list.h"
 #include "mainwindow/copy_flow.h"
+#include "mainwindow/copy_folder.h"
 #include "mainwindow/copy_messages.h"
 #include "mainwindow/save_flow.h"
-#include "media/CLogDiskSavePathDlg.h"
 #include "media/removable_disk.h"
 #include "media/verified_copy.h"
 #include "observation/report_file.h"
@@ -96,15 +96,9 @@ class CopyReports {
   }
 
   bool choose_folder() {
-    Folders& folders = context_.folders;
-    CLogDiskSavePathDlg dialog(
-        services_, CLogDiskSavePathDlg::Mode::kReportCopy,
-        {folders.report_copies, folders.report_copies.empty() ? folders.removable_root : "",
-         folders.reports},
-        context_.keep_folder);
-    if (services_.windows.run_modal(dialog) != ui::kOk) return false;
-    folders.report_copies = dialog.folder();
-    for (Report& report : reports_) report.to = platform::join(dialog.folder(), report.name);
+    const auto folder = choose_copy_folder(services_, context_, Copied::kReports);
+    if (!folder) return false;
+    for (Report& report : reports_) report.to = platform::join(*folder, report.name);
     return true;
   }
 
