@@ -324,6 +324,15 @@ bool CVelmaranDlg::save() {
       remarks.push_back(mainwindow::worded(notice, services().texts));
     for (std::string& line : mainwindow::unplaced_lines(services(), correction_))
       remarks.push_back(std::move(line));
+  } else {
+    for (const elements::Field field : form_.sent_though_unused()) {
+      std::string element(elements::row_of(field).name);
+      element.append(" ").append(form_.text(field));
+      remarks.push_back(text::fill(
+          services().texts.get(id::kFileAndReason),
+          {element, services().texts.get(form_.switched_off(field) ? id::kWhyNotObserved
+                                                                   : id::kWhyNoWaveRecorder)}));
+    }
   }
   const mainwindow::SaveEnd end = mainwindow::save_observation(
       services(), {form_.record(), context_.ship, context_.items, context_.folders, remarks,

@@ -476,6 +476,42 @@ TEST(Correcting, TellsAWindSpeedInMetresPerSecond) {
   EXPECT_EQ(opened->window.report(), text);
 }
 
+// Such values are locked; over the corrected report the next observation may be entered, and theirs
+// they are not.
+TEST(Correcting, NamesValuesOfElementsNoLongerObservedOnceTheHourIsAnother) {
+  for (const bool observed : {true, false}) {
+    for (const bool japanese : {false, true}) {
+      const auto opened = std::make_unique<Correcting>();
+      if (japanese) opened->world.japanese();
+      opened->items.set_observed(ObservationItem::ciSibiDizi, observed);
+      opened->items.set_observed(ObservationItem::ww, observed);
+      std::string text = kText;
+      text.insert(text.find("....."), "ICE 3/124 ");
+      opened->correct(text, kReport, true);
+      opened->expect_save();
+      opened->menu("Save weather report");
+      EXPECT_EQ(opened->files.content(kReport), text);
+      opened->type("GG", "18");
+      if (observed) {
+        opened->world.windows.expect(id::kSaved);
+        opened->menu("Save weather report");
+        continue;
+      }
+      opened->world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+        opened->errors = screen.find("errors")->content;
+        screen.press(*screen.find("correct"));
+      });
+      opened->menu("Save weather report");
+      const std::string why = japanese
+                                  ? "（観測項目の選択により入力しません）\r\n"
+                                  : " (Switched off by the selection of observation items)\r\n";
+      for (const char* const named : {"ci 3", "bi 1", "Di 2", "zi 4", "ww 25"})
+        EXPECT_NE(opened->errors.find(named + why), std::string::npos) << named << opened->errors;
+      EXPECT_EQ(opened->errors.find("Si"), std::string::npos);
+    }
+  }
+}
+
 // ---- What is asked before
 
 TEST(Correcting, KeepsTheObservationWhenTheListIsCancelled) {

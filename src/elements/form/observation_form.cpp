@@ -68,6 +68,15 @@ std::vector<Notice> ObservationForm::unacceptable() const {
   return notices;
 }
 
+std::vector<Field> ObservationForm::sent_though_unused() const {
+  std::vector<Field> fields;
+  for (const FieldRow& row : field_rows()) {
+    const bool says_something = now_[row.field].text.find_first_not_of('/') != std::string::npos;
+    if (is_unused(row) && says_something) fields.push_back(row.field);
+  }
+  return fields;
+}
+
 observation::Report ObservationForm::report() const {
   return observation::make_report(record(), observation::wants_wet_bulb(around_.ship));
 }

@@ -62,6 +62,9 @@ class ObservationForm {
   /// The same for values that came with a record and that their fields would have refused; solidi
   /// and years long ago are none. For the list of a save that replaces that report.
   [[nodiscard]] std::vector<Notice> unacceptable() const;
+  /// Fields that the ship does not use and whose values go out all the same: they came with a record
+  /// and are locked. Right for that record; the next observation may be entered over it.
+  [[nodiscard]] std::vector<Field> sent_though_unused() const;
   /// The observation was changed since the last saved(). Ship data and items are no observation:
   /// they count only where a value that was entered gives another one now.
   [[nodiscard]] bool modified() const { return now_.modified; }
