@@ -9,7 +9,8 @@
 //
 // Killed or failed anywhere, the source is untouched and the copy's place holds the old file or the
 // new one; a ".part" that a killed program left is cleared by platform::clear_staged(), which who
-// copies into a folder calls once, for its list may be long. One moment is left: another program that puts a file into the place between the last look and the
+// copies into a folder calls once, for its list may be long. One moment is left: another program
+// that puts a file into the place between the last look and the
 // rename is not noticed when a file was to be replaced.
 //
 // Nothing is held whole: a logbook may have some hundred megabytes.

@@ -18,6 +18,22 @@ namespace elements {
 
 namespace id = text::id;
 
+namespace {
+
+bool is_same_hour(const Struct_Weather& a, const Struct_Weather& b) {
+  return a.Year == b.Year && a.Month == b.Month && a.YY == b.YY && a.GG == b.GG;
+}
+
+// They came with a report that is being corrected, and no field shows them: they must not go into
+// the logbook with the next observation, which is entered over this one.
+void forget_vosclim(Struct_Weather& record) {
+  for (std::string* const value :
+       {&record.VosClim1, &record.VosClim2, &record.VosClim3, &record.VosClim4, &record.VosClim5})
+    value->clear();
+}
+
+}  // namespace
+
 ObservationForm::ObservationForm(const ShipFixedData& ship, const KeyObservationItems& items,
                                  const platform::Clock& clock)
     : around_{ship, items, clock} {
@@ -162,6 +178,7 @@ void ObservationForm::finish(const Struct_Weather& before, Follows what,
   // Whoever enters weather observes it, whatever the report said that is being corrected.
   if (record().ww != before.ww || record().W1 != before.W1 || record().W2 != before.W2)
     now_.record.iX = Struct_Weather(around_.ship, around_.items).iX;
+  if (!is_same_hour(record(), before)) forget_vosclim(now_.record);
   if (!(record() == before)) now_.modified = true;
 }
 

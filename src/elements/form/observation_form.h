@@ -130,6 +130,7 @@ class ObservationForm {
   /// no apparent wind: its true wind stays until a whole apparent one is entered, its dew point
   /// until a bulb or a reading is, and then without a reading it is computed as for any observation
   /// without one.
+  /// VOSClim data, which no field shows, do not outlive the record's hour.
   void load_record(const Struct_Weather& record);
   void saved() { now_.modified = false; }
   /// What came up since the last call.

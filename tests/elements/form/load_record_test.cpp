@@ -165,6 +165,33 @@ TEST(LoadedRecord, WithoutASecondSwellHasNone) {
 }
 
 // The dew point of the bulbs goes with a bulb that turns out wrong; it is not sent without it.
+TEST(LoadedRecord, HasVosclimDataThatDoNotOutliveTheirHour) {
+  Struct_Weather record({}, {});
+  record.Month = "11";
+  record.YY = "15";
+  record.GG = "12";
+  record.VosClim1 = "030";
+  record.VosClim2 = "12";
+  record.VosClim3 = "175";
+  record.VosClim4 = "14";
+  record.VosClim5 = "178";
+  struct Row {
+    Field field;
+    const char* entered;
+  };
+  for (const Row& row : {Row{Field::kGG, "09"}, Row{Field::kYY, "14"}, Row{Field::kMonth, "10"},
+                         Row{Field::kYear, "2014"}}) {
+    Form form;
+    record.Year = row.field == Field::kYear ? "2013" : "2014";
+    form.form->load_record(record);
+    ASSERT_TRUE(form.enter(Field::kVV, "96"));
+    EXPECT_EQ(form.record().VosClim1 + form.record().VosClim5, "030178");
+    ASSERT_TRUE(form.enter(row.field, row.entered)) << row.entered;
+    const Struct_Weather& r = form.record();
+    EXPECT_EQ(r.VosClim1 + r.VosClim2 + r.VosClim3 + r.VosClim4 + r.VosClim5, "") << row.entered;
+  }
+}
+
 TEST(LoadedRecord, HasADewPointThatDoesNotOutliveItsBulbs) {
   Form observed;
   ASSERT_TRUE(observed.enter(Field::kDryBulb, "20.0"));
