@@ -14,6 +14,7 @@
 #include <memory>
 
 #include "desktop/desktop_windows.h"
+#include "desktop/fixed_pitch.h"
 #include "desktop/picture_label.h"
 #include "desktop/printed_pages.h"
 #include "desktop/screen_window.h"
@@ -166,7 +167,7 @@ void floor_of_the_logbook_on_paper(benchmark::State& state) {
   const ui::Sheets sheets{"Print", std::make_shared<Logbook>()};
   const QPageLayout paper = desktop::paper_of(QPageSize(QPageSize::A4));
   const desktop::PageMeasures measures = desktop::measure_page(sheets, paper);
-  QFont font(desktop::print_family());
+  QFont font(desktop::fixed_pitch_family());
   font.setPixelSize(measures.letter_height);
   const QString line = QString::fromStdString(kRecordLine);
   for ([[maybe_unused]] auto round : state) {
