@@ -36,7 +36,8 @@ std::optional<SessionArguments> read_arguments(const std::vector<std::string>& a
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string& word = arguments[i];
     if (word == "--printer") {
-      const std::string_view printer = ++i == arguments.size() ? "" : arguments[i];
+      if (++i == arguments.size()) return std::nullopt;
+      const std::string& printer = arguments[i];
       if (printer != "none" && printer != "fails") return std::nullopt;
       result.session.paper =
           printer == "none" ? headless::Paper::kNoPrinter : headless::Paper::kFails;
