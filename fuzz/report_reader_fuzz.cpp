@@ -42,6 +42,8 @@ std::size_t placed_characters(const Struct_Weather& before, const Struct_Weather
     if (!placed) continue;
     sum += row.width();
     if (row.group == observation::Group::kICE) --sum;  // the blank behind the word
+    // Minutes whose hour was not entered go out, and are read, as "930".
+    if (row.group == observation::Group::k9GGgg && record.GGExact.empty()) sum -= 2;
   }
   return sum;
 }
