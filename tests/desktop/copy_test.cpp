@@ -9,6 +9,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "desktop_world.h"
 #include "fakes/temp_folder.h"
@@ -71,17 +72,22 @@ Lines run(Computer& computer, int arrows, std::deque<Step> steps) {
   Lines told;
   QTimer officer;
   bool acting = false;
+  const QWidget* busy_with = nullptr;
   QObject::connect(&officer, &QTimer::timeout, [&] {
     if (acting || steps.empty() || on_top() != steps.front().window) return;
+    if (busy_with != nullptr && busy_with == QApplication::activeModalWidget()) return;
     const Step step = std::move(steps.front());
     steps.pop_front();
     if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
       told.push_back(box->text().toStdString());
     // A timer does not ring again while its own handler runs, and a key may open the next window.
     acting = true;
-    QTimer::singleShot(0, QApplication::activeModalWidget(), [&acting, step] {
+    QTimer::singleShot(0, QApplication::activeModalWidget(), [&acting, &busy_with, step] {
       acting = false;
+      // The next step is not for the window that this one is still pressing keys in.
+      const QWidget* const before = std::exchange(busy_with, QApplication::activeModalWidget());
       step.act();
+      busy_with = before;
     });
   });
   world.windows.on_shown = [&](desktop::ScreenWindow& window) {
@@ -123,6 +129,11 @@ std::function<void()> button(int index) {
   return [index] {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     ASSERT_NE(nullptr, box);
+    if (index >= box->buttons().size()) {
+      ADD_FAILURE() << "no such button: " << box->text().toStdString();
+      tests::press(Qt::Key_Escape);  // else nobody would ever close it
+      return;
+    }
     for (int i = 0; i < 5 && QApplication::focusWidget() != box->buttons().at(index); ++i)
       tests::press(Qt::Key_Tab);
     ASSERT_EQ(box->buttons().at(index), QApplication::focusWidget());
