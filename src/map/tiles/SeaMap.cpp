@@ -1,0 +1,78 @@
+#include "map/tiles/SeaMap.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <utility>
+
+#include "platform/paths.h"
+
+namespace map {
+namespace {
+
+// A ship is at the corner of four at most; a view of the map may want some more.
+constexpr std::size_t kKept = 9;
+// The largest has about a megabyte.
+constexpr std::uint64_t kLargestTile = 8U << 20U;
+constexpr double kMilesOfDegree = 60.0;
+constexpr double kHalfTurn = 180.0;
+constexpr double kPole = 90.0;
+
+}  // namespace
+
+SeaMap::SeaMap(const platform::Files& files, std::string folder)
+    : files_(files), folder_(std::move(folder)) {}
+
+Land SeaMap::at(Place place) {
+  const Tile own = tile_of(place);
+  const auto here = coast(own);
+  if (here != nullptr && here->is_land(place)) return Land::kYes;
+  const double up = kCoastalMiles / kMilesOfDegree;
+  // Near a pole the whole row is in reach.
+  const double nearest_pole = std::min(std::abs(place.latitude) + up, kPole);
+  const double shorter = std::cos(nearest_pole * std::acos(-1.0) / kHalfTurn);
+  const double across = shorter * kHalfTurn > up ? up / shorter : kHalfTurn;
+  bool known = here != nullptr;
+  for (const Tile& tile : tiles_within(place.longitude - across, place.latitude - up,
+                                       place.longitude + across, place.latitude + up)) {
+    const auto there = coast(tile);
+    if (there == nullptr)
+      known = false;
+    else if (there->is_near(place, kCoastalMiles))
+      return Land::kYes;
+  }
+  return known ? Land::kNo : Land::kNotKnown;
+}
+
+std::shared_ptr<const Coast> SeaMap::coast(const Tile& tile) {
+  const auto at =
+      std::find_if(kept_.begin(), kept_.end(), [&](const Kept& kept) { return kept.tile == tile; });
+  if (at != kept_.end()) {
+    kept_.splice(kept_.begin(), kept_, at);
+    return kept_.front().coast;
+  }
+  if (std::find(unusable_.begin(), unusable_.end(), tile) != unusable_.end()) return nullptr;
+  auto read_now = read(tile);
+  if (read_now == nullptr) {
+    unusable_.push_back(tile);
+    return nullptr;
+  }
+  kept_.push_front({tile, std::move(read_now)});
+  if (kept_.size() > kKept) kept_.pop_back();
+  return kept_.front().coast;
+}
+
+std::shared_ptr<const Coast> SeaMap::read(const Tile& tile) {
+  const std::string path = platform::join(folder_, file_name(tile));
+  const auto text = files_.read(path, kLargestTile);
+  auto coast = text.ok() ? parse_coast(*text.value, tile) : std::nullopt;
+  if (coast) return std::make_shared<const Coast>(*std::move(coast));
+  troubles_.push_back({path, text.error});
+  return nullptr;
+}
+
+std::vector<TileTrouble> SeaMap::take_troubles() {
+  return std::exchange(troubles_, {});
+}
+
+}  // namespace map
