@@ -268,7 +268,6 @@ inline constexpr Id kLabelPercent{11068};
 inline constexpr Id kLabelTensOfDegrees{11069};
 inline constexpr Id kLabelKnots{11070};
 inline constexpr Id kLabelSeconds{11071};
-inline constexpr Id kLabelMap{11072};
 inline constexpr Id kLabelLoadingState{11073};
 
 // Main window: menus
@@ -1251,5 +1250,9 @@ inline constexpr Id kMapHeight{44113};
 inline constexpr Id kMapArrowHours{44114};
 inline constexpr Id kMapArrow{44115};
 inline constexpr Id kMapNoPosition{44116};
+
+// Sea map
+inline constexpr Id kSeaMapUnusable{44140};
+inline constexpr Id kReasonDamaged{44141};
 
 }  // namespace text::id
