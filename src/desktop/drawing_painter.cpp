@@ -70,7 +70,7 @@ class Brush {
       case ui::Marker::Sign::kSpeck:
         painter_.setPen(Qt::NoPen);
         painter_.setBrush(colour);
-        painter_.drawEllipse(at, letter_ * 0.1, letter_ * 0.1);
+        painter_.drawEllipse(at, letter_ * 0.12, letter_ * 0.12);
         break;
       case ui::Marker::Sign::kCross:
         painter_.drawLine(at + QPointF(-half, -half), at + QPointF(half, half));
@@ -84,8 +84,10 @@ class Brush {
     const QRectF box = box_of(text);
     if (text.edge != ui::ShortText::Edge::kNone) {
       const QRectF shown(point_of(place_.corner()), QSizeF(place_.width(), place_.height()));
+      // Two names that touch are read as one.
+      const QRectF apart = box.adjusted(-letter_ * 0.4, 0, letter_ * 0.4, 0);
       const bool covers = std::ranges::any_of(
-          taken_, [&box](const QRectF& other) { return other.intersects(box); });
+          taken_, [&apart](const QRectF& other) { return other.intersects(apart); });
       if (covers || !shown.contains(box)) return;
       taken_.push_back(box);
     }
@@ -164,6 +166,7 @@ class Brush {
 
 void paint(QPainter& painter, const QRectF& room, const ui::Drawing& drawing,
            const QPalette& palette) {
+  if (room.isEmpty()) return;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(room, palette.color(QPalette::Base));

@@ -70,6 +70,7 @@ void CSeaMapDlg::draw() {
   ui::Drawing drawing = map::map_drawing(ship_, view, kPixels, sea_map_, services().texts);
   drawing.characters = kCharacters;
   drawing.lines = kLines;
+  drawing.grows = true;
   picture.drawing = std::make_shared<const ui::Drawing>(std::move(drawing));
   const text::Texts& texts = services().texts;
   legend.literal_caption =

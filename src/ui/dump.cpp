@@ -100,6 +100,7 @@ std::string flags_of(const ControlView& view) {
   if (!view.enabled) add_flag(flags, "disabled");
   if (view.locked) add_flag(flags, "locked");
   if (!view.why.empty()) add_flag(flags, "why " + quoted(view.why));
+  if (!view.shortcut.empty()) add_flag(flags, "key " + view.shortcut);
   if (view.focused) add_flag(flags, "focus");
   // Elsewhere it is only how wide the field is drawn.
   const bool typed = view.kind == Kind::kEdit || view.kind == Kind::kCombo;
@@ -180,6 +181,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   view.focused = screen.focused() == &control;
   view.max_length = control.max_length;
   view.why = control.why_locked;
+  view.shortcut = control.shortcut;
   return view;
 }
 

@@ -28,7 +28,8 @@ struct ControlView {
   bool locked = false;
   bool focused = false;
   int max_length = 0;
-  std::string why;  ///< why it is locked or disabled
+  std::string why;            ///< why it is locked or disabled
+  std::string shortcut = {};  ///< keys that press it
   bool operator==(const ControlView&) const = default;
 };
 
