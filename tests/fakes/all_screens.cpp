@@ -36,6 +36,7 @@
 #include "ship/CKataInputDlg.h"
 #include "ship/CKataSelectDlg.h"
 #include "ship/CKeyObserveDlg.h"
+#include "ship/CVosClimDlg.h"
 
 namespace fakes {
 namespace {
@@ -259,6 +260,10 @@ std::vector<ScreenCase> make_table() {
       {"CKeyObserveDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
+       }},
+      {"CVosClimDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CVosClimDlg>(services, CVosClimDlg::Values{"07", "-12"});
        }},
   };
   // codetables, by their rows
