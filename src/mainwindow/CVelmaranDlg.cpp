@@ -18,6 +18,7 @@
 #include "observation/report_file.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CKeyObserveDlg.h"
+#include "ship/CVosClimDlg.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/reasons.h"
@@ -207,7 +208,7 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
       break;
     }
     case Command::kVosClim:
-      services().messages.error(id::kNotInThisVersion);
+      edit_vosclim_loading();
       break;
     case Command::kCopyReport:
       mainwindow::copy_reports(services(), context_);
@@ -286,6 +287,12 @@ void CVelmaranDlg::edit_fixed_data() {
   show_menu();
   refresh();
   tell_doubts();
+}
+
+// The observation does not hold these: they go into its line of the logbook when it is saved.
+void CVelmaranDlg::edit_vosclim_loading() {
+  if (enter_vosclim_loading(services(), context_.ship) && context_.save_fixed_data)
+    context_.save_fixed_data();
 }
 
 void CVelmaranDlg::edit_observation_items() {

@@ -122,6 +122,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   /// replaces that file.
   [[nodiscard]] bool correcting() const;
   void edit_fixed_data();
+  void edit_vosclim_loading();
   void edit_observation_items();
   void switch_language(text::Language language);
   void exit();
