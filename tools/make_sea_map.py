@@ -102,16 +102,19 @@ def unwrapped(ring):
 # ---- Cutting at the limits
 
 
-def crossings(start, end, axis, limits):
-    """The points of an edge where it goes over limits of one axis, in order and rounded along the limit."""
+def crossings(start, end, axis, limits, avoided=()):
+    """The points of an edge where it goes over limits of one axis, in order and rounded along the limit, but not to an
+    avoided place unless all of the edge is there."""
     (a, b) = (start[axis], end[axis])
     other = 1 - axis
     points = []
     for limit in limits:
         if min(a, b) < limit < max(a, b):
-            # Half a unit is rounded up in whichever direction the edge is walked.
             over, under = (end[other] - start[other]) * (limit - a), b - a
             along = start[other] + (2 * over + under) // (2 * under)
+            if along in avoided:
+                middle = start[other] + end[other] - 2 * along
+                along += (middle > 0) - (middle < 0)
             points.append((limit, along) if axis == 0 else (along, limit))
     return sorted(points, key=lambda point: abs(point[axis] - a))
 
@@ -134,7 +137,8 @@ def cut(path):
     for end in by_row[1:]:
         start = points[-1]
         row = row_of(start[1] + end[1])
-        points += crossings(start, end, 0, meridians_between(start[0], end[0], row)) + [end]
+        # A corner that was made by rounding would leave a piece of the edge along the parallel.
+        points += crossings(start, end, 0, meridians_between(start[0], end[0], row), PARALLELS) + [end]
     return points
 
 

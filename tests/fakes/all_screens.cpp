@@ -38,6 +38,7 @@
 #include "ship/CKataInputDlg.h"
 #include "ship/CKataSelectDlg.h"
 #include "ship/CKeyObserveDlg.h"
+#include "ship/CVosClimDlg.h"
 
 namespace fakes {
 namespace {
@@ -271,6 +272,10 @@ std::vector<ScreenCase> make_table() {
       {"CKeyObserveDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CKeyObserveDlg>(services, "C:\\none", false);
+       }},
+      {"CVosClimDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CVosClimDlg>(services, CVosClimDlg::Values{"07", "-12"});
        }},
   };
   // codetables, by their rows

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "text/checksum.h"
+#include "text/numbers.h"
 
 namespace map {
 namespace {
@@ -41,12 +42,20 @@ class Words {
 };
 
 template <class Number>
-std::optional<Number> whole(std::string_view word, int base = 10) {
+std::optional<Number> whole(std::string_view word) {
   Number number = 0;
   const char* const end = word.data() + word.size();
-  const auto [stop, error] = std::from_chars(word.data(), end, number, base);
+  const auto [stop, error] = std::from_chars(word.data(), end, number);
   if (word.empty() || error != std::errc() || stop != end) return std::nullopt;
   return number;
+}
+
+std::string hexadecimal(std::uint64_t number) {
+  constexpr int kFigures = 16;
+  std::string figures(kFigures, '0');
+  for (auto figure = figures.rbegin(); figure != figures.rend(); ++figure, number /= kFigures)
+    *figure = "0123456789abcdef"[number % kFigures];
+  return figures;
 }
 
 // "-17.12" as -17120. Figures, and at most three of them behind a point.
@@ -136,14 +145,15 @@ class Reader {
            latitude >= tile_.south * kUnitsOfDegree && latitude <= tile_.north * kUnitsOfDegree;
   }
 
+  // Compared as a text: no other spelling of the same numbers passes.
   bool end(std::string_view line) {
-    Words words(line);
-    words.next();
-    constexpr int kHexadecimal = 16;
-    done_ = lines_ >= 2 && missing_ == 0 && whole<std::size_t>(words.next()) == rings_.size() &&
-            whole<std::size_t>(words.next()) == points_ &&
-            whole<std::uint64_t>(words.next(), kHexadecimal) == sum_.value() &&
-            words.next().empty();
+    std::string expected = "end ";
+    expected.append(text::format_int(static_cast<long long>(rings_.size())));
+    expected.push_back(' ');
+    expected.append(text::format_int(static_cast<long long>(points_)));
+    expected.push_back(' ');
+    expected.append(hexadecimal(sum_.value()));
+    done_ = lines_ >= 2 && missing_ == 0 && line == expected;
     return done_;
   }
 

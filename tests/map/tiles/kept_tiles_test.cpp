@@ -7,16 +7,12 @@
 #include <sstream>
 #include <string>
 
-#include "map/tiles/coast.h"
+#include "map/tiles/kept_tiles.h"
 
 namespace {
 
-std::string folder() {
-  return std::string(KAVREL_SOURCE).append("/resources/SeaMap/");
-}
-
 std::string content(const map::Tile& tile) {
-  std::ifstream file(folder() + map::file_name(tile), std::ios::binary);
+  std::ifstream file(kept_tiles::folder() + map::file_name(tile), std::ios::binary);
   std::ostringstream text;
   text << file.rdbuf();
   return std::move(text).str();
@@ -43,7 +39,7 @@ TEST(KeptTiles, HaveShortLinesAndAreSmallTogether) {
 
 TEST(KeptTiles, AreNoOthers) {
   std::size_t files = 0;
-  for (const auto& entry : std::filesystem::directory_iterator(folder()))
+  for (const auto& entry : std::filesystem::directory_iterator(kept_tiles::folder()))
     files += entry.path().extension() == ".src" ? 1 : 0;
   EXPECT_EQ(files, map::all_tiles().size());
 }
