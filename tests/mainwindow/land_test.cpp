@@ -179,6 +179,19 @@ TEST(SeaMapTrouble, IsToldOnceForATileAndStopsNothing) {
   EXPECT_EQ(ship.opened.world.windows.boxes.size(), 1U);
 }
 
+TEST(SeaMapTrouble, IsOneWhereTheWholeFolderIsAway) {
+  fakes::FakeFiles files;
+  map::SeaMap map(files, kTiles);
+  EXPECT_EQ(map.at({10, 50}), map::Land::kNotKnown);
+  EXPECT_EQ(map.at({10, 100}), map::Land::kNotKnown);
+  const auto troubles = map.take_troubles();
+  ASSERT_EQ(troubles.size(), 1U);
+  EXPECT_EQ(troubles[0].path, kTiles);
+  EXPECT_EQ(troubles[0].error, platform::FileError::kNotFound);
+  EXPECT_EQ(map.at({-10, 150}), map::Land::kNotKnown);
+  EXPECT_TRUE(map.take_troubles().empty());
+}
+
 TEST(SeaMapTrouble, NamesADamagedTile) {
   WithMap ship;
   const map::Place red_sea{15, 41};
