@@ -47,10 +47,12 @@ class Brush {
     if (line.dashed) pen.setStyle(Qt::DashLine);
     painter_.setPen(pen);
     painter_.setBrush(Qt::NoBrush);
-    const QPolygonF pixels = pixels_of(line.points);
+    QPolygonF pixels = pixels_of(line.points);
+    if (line.arrow && pixels.size() > 1) {
+      draw_head(pixels, pen.color());
+      painter_.setPen(pen);
+    }
     painter_.drawPolyline(pixels);
-    if (line.arrow && pixels.size() > 1)
-      draw_head(pixels[pixels.size() - 2], pixels.back(), pen.color());
   }
 
   void operator()(const ui::Marker& marker) const {
@@ -70,7 +72,7 @@ class Brush {
       case ui::Marker::Sign::kSpeck:
         painter_.setPen(Qt::NoPen);
         painter_.setBrush(colour);
-        painter_.drawEllipse(at, letter_ * 0.1, letter_ * 0.1);
+        painter_.drawEllipse(at, letter_ * 0.12, letter_ * 0.12);
         break;
       case ui::Marker::Sign::kCross:
         painter_.drawLine(at + QPointF(-half, -half), at + QPointF(half, half));
@@ -84,8 +86,10 @@ class Brush {
     const QRectF box = box_of(text);
     if (text.edge != ui::ShortText::Edge::kNone) {
       const QRectF shown(point_of(place_.corner()), QSizeF(place_.width(), place_.height()));
+      // Two names that touch are read as one.
+      const QRectF apart = box.adjusted(-letter_ * 0.4, 0, letter_ * 0.4, 0);
       const bool covers = std::ranges::any_of(
-          taken_, [&box](const QRectF& other) { return other.intersects(box); });
+          taken_, [&apart](const QRectF& other) { return other.intersects(apart); });
       if (covers || !shown.contains(box)) return;
       taken_.push_back(box);
     }
@@ -132,15 +136,18 @@ class Brush {
     return box;
   }
 
-  void draw_head(QPointF from, QPointF to, const QColor& colour) const {
-    const QPointF along = to - from;
+  // At the end of the line, which is shortened: else its own end would stick out at the tip.
+  void draw_head(QPolygonF& line, const QColor& colour) const {
+    const QPointF tip = line.back();
+    const QPointF along = tip - line[line.size() - 2];
     const double length = std::hypot(along.x(), along.y());
     if (!(length > 0)) return;
-    const QPointF back = along / length * letter_ * 0.55;
+    const QPointF back = along / length * std::min(letter_ * 0.6, length);
     const QPointF aside(-back.y() * 0.45, back.x() * 0.45);
     painter_.setPen(Qt::NoPen);
     painter_.setBrush(colour);
-    painter_.drawPolygon(QPolygonF({to, to - back + aside, to - back - aside}));
+    painter_.drawPolygon(QPolygonF({tip, tip - back + aside, tip - back - aside}));
+    line.back() = tip - back * 0.6;
   }
 
   [[nodiscard]] QPolygonF pixels_of(const std::vector<ui::Point>& points) const {
@@ -164,6 +171,7 @@ class Brush {
 
 void paint(QPainter& painter, const QRectF& room, const ui::Drawing& drawing,
            const QPalette& palette) {
+  if (room.isEmpty()) return;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(room, palette.color(QPalette::Base));

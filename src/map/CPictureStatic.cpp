@@ -16,6 +16,7 @@ constexpr int kPixels = 400;
 std::shared_ptr<const ui::Drawing> with_room(ui::Drawing drawing) {
   drawing.characters = kCharacters;
   drawing.lines = kLines;
+  drawing.grows = true;
   return std::make_shared<const ui::Drawing>(std::move(drawing));
 }
 
@@ -25,21 +26,23 @@ CPictureStatic::CPictureStatic(ui::Screen& owner, std::string_view control_name,
                                ui::Services& services, map::SeaMap& sea_map)
     : ui::Picture(owner, control_name, text), services_(services), sea_map_(sea_map) {
   drawing = with_room({});
+  drawing_repeats = true;
   shortcut = "F7";
   on_press = [this] { open_larger(); };
 }
 
-void CPictureStatic::show(const map::ShipOnMap& ship) {
+void CPictureStatic::show(map::ShipOnMap ship) {
+  ship = map::on_globe(std::move(ship));
   const text::Language language = services_.texts.language;
   if (ship == ship_ && language == language_) return;
-  ship_ = ship;
+  ship_ = std::move(ship);
   language_ = language;
-  if (!ship.at) {
+  if (!ship_.at) {
     drawing = with_room({});
     return;
   }
-  const map::MapView view = map::view_around(*ship.at, map::Step::kTile);
-  drawing = with_room(map::map_drawing(ship, view, kPixels, sea_map_, services_.texts));
+  const map::MapView view = map::view_around(*ship_.at, map::Step::kTile);
+  drawing = with_room(map::map_drawing(ship_, view, kPixels, sea_map_, services_.texts));
 }
 
 void CPictureStatic::open_larger() {

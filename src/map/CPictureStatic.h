@@ -19,7 +19,7 @@ class CPictureStatic : public ui::Picture {
                  ui::Services& services, map::SeaMap& sea_map);
 
   /// Draws anew only when something differs from what is shown, the language included.
-  void show(const map::ShipOnMap& ship);
+  void show(map::ShipOnMap ship);
 
  private:
   void open_larger();

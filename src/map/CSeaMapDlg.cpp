@@ -31,10 +31,10 @@ CSeaMapDlg::CSeaMapDlg(ui::Services& services, map::SeaMap& sea_map, map::ShipOn
       shown(
           *this, "shown", {id::kMapShown},
           {{id::kMapWholeTile}, {id::kMapTenDegrees}, {id::kMapFiveDegrees}, {id::kMapOneDegree}}),
-      closer(*this, "closer", {id::kMapCloser}),
-      wider(*this, "wider", {id::kMapWider}),
       position(*this, "position"),
       legend(*this, "legend"),
+      closer(*this, "closer", {id::kMapCloser}),
+      wider(*this, "wider", {id::kMapWider}),
       help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
       sea_map_(sea_map),
       ship_(std::move(ship)) {
@@ -70,6 +70,7 @@ void CSeaMapDlg::draw() {
   ui::Drawing drawing = map::map_drawing(ship_, view, kPixels, sea_map_, services().texts);
   drawing.characters = kCharacters;
   drawing.lines = kLines;
+  drawing.grows = true;
   picture.drawing = std::make_shared<const ui::Drawing>(std::move(drawing));
   const text::Texts& texts = services().texts;
   legend.literal_caption =

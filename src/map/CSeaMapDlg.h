@@ -12,10 +12,10 @@ class CSeaMapDlg : public ui::OkDialog {
 
   ui::Picture picture;
   ui::Choice shown;  ///< the steps (map::Step)
-  ui::Button closer;
-  ui::Button wider;
   ui::Label position;
   ui::Label legend;  ///< what a length on the map is
+  ui::Button closer;
+  ui::Button wider;
   ui::Button help;
 
  protected:

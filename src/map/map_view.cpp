@@ -12,7 +12,7 @@ constexpr double kMilesOfDegree = 60.0;
 // Wider than the room of any map, which cuts the sides off.
 constexpr double kWidthOfHeight = 2.4;
 // So far from the middle, in heights of the map, the ship is not yet at its rim.
-constexpr double kWellWithin = 0.3;
+constexpr double kWellWithin = 0.2;
 // So much of the height may lie beyond a pole, for a ship that is there and its arrow.
 constexpr double kBeyondPole = 0.125;
 
@@ -48,6 +48,15 @@ int hours_for(double height) {
 
 }  // namespace
 
+ShipOnMap on_globe(ShipOnMap ship) {
+  const auto is_none = [](const Place& place) {
+    return !(std::abs(place.latitude) <= kPole) || !std::isfinite(place.longitude);
+  };
+  if (ship.at && is_none(*ship.at)) ship.at.reset();
+  std::erase_if(ship.track, is_none);
+  return ship;
+}
+
 double MapView::near_middle(double longitude) const {
   return middle() + wrapped(longitude - middle());
 }
@@ -69,7 +78,9 @@ MapView view_around(Place ship, Step step) {
   const double tile_middle = (tile.west + tile.east) / 2.0;
   const double longitude = tile_middle + wrapped(ship.longitude - tile_middle);
   const double middle = std::clamp(tile_middle, longitude - aside, longitude + aside);
-  const double half = std::min(kHalfTurn, kWidthOfHeight / 2 * height / view.x_unit);
+  constexpr double kTenths = 10.0;
+  const double half =
+      std::min(kHalfTurn, std::ceil(kWidthOfHeight / 2 * height / view.x_unit * kTenths) / kTenths);
   view.west = middle - half;
   view.east = middle + half;
   view.arrow_hours = hours_for(height);
@@ -78,7 +89,7 @@ MapView view_around(Place ship, Step step) {
 
 std::optional<Arrow> arrow_of(const ShipOnMap& ship, const MapView& view) {
   constexpr double kShortest = 0.1;  // in heights of the map
-  constexpr double kLongest = 0.4;
+  constexpr double kLongest = 0.3;
   if (!ship.at || !ship.course || !ship.speed) return std::nullopt;
   if (!(*ship.speed > 0) || !std::isfinite(*ship.speed) || !std::isfinite(*ship.course))
     return std::nullopt;

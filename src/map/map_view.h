@@ -17,6 +17,9 @@ struct ShipOnMap {
   bool operator==(const ShipOnMap&) const = default;
 };
 
+/// Without positions that are none, which have no place on a map.
+[[nodiscard]] ShipOnMap on_globe(ShipOnMap ship);
+
 /// How much of the globe is shown around the ship, from south to north, the widest first.
 enum class Step { kTile, kTenDegrees, kFiveDegrees, kOneDegree };
 inline constexpr int kSteps = 4;

@@ -6,6 +6,7 @@
 
 #include "ship/CKataInputDlg.h"
 #include "ship/CKataSelectDlg.h"
+#include "ship/CVosClimDlg.h"
 #include "ship/data/ship_identity.h"
 #include "text/ids.h"
 #include "text/strings.h"
@@ -143,7 +144,7 @@ void CFixDataDlg::set_up_methods() {
   humidity_method.on_change = [this] { apply_humidity_method(); };
   aws_fitted.on_change = [this] { apply_aws(); };
   vosclim.on_change = [this] { apply_vosclim(); };
-  vosclim_inputting.on_press = [this] { services().messages.error(id::kVosClimNotAvailable); };
+  vosclim_inputting.on_press = [this] { edit_vosclim(); };
 }
 
 void CFixDataDlg::read_file() {
@@ -275,6 +276,12 @@ void CFixDataDlg::apply_vosclim() {
   vosclim_inputting.enabled = registered;
   vosclim_inputting.why_locked =
       registered ? std::string_view() : services().texts.get(id::kFixLockedVosClim);
+}
+
+void CFixDataDlg::edit_vosclim() {
+  if (!enter_vosclim_loading(services(), draft_)) return;
+  // On to the next field, so that Enter does not open it again.
+  if (focused() == &vosclim_inputting) focus(*neighbour(&vosclim_inputting, true));
 }
 
 void CFixDataDlg::edit_card() {

@@ -85,6 +85,7 @@ class CFixDataDlg : public ui::OkCancelHelpDialog {
   void apply_aws();
   void apply_humidity_method();
   void apply_vosclim();
+  void edit_vosclim();
   void edit_card();
   bool check_card();
 

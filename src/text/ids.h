@@ -131,7 +131,13 @@ inline constexpr Id kCallSignForm{40011};
 inline constexpr Id kImoNumberForm{40012};
 inline constexpr Id kManufacturerForm{40013};
 inline constexpr Id kApparentWithBeaufort{40014};
-inline constexpr Id kVosClimNotAvailable{40099};
+
+// CVosClimDlg
+inline constexpr Id kVosClimTitle{42750};
+inline constexpr Id kVosClimShip{42751};
+inline constexpr Id kVosClimCargoHeight{42752};
+inline constexpr Id kVosClimDeparture{42753};
+inline constexpr Id kVosClimUnit{42754};
 
 // CKeyObserveDlg
 inline constexpr Id kItemsTitle{11900};
@@ -268,7 +274,6 @@ inline constexpr Id kLabelPercent{11068};
 inline constexpr Id kLabelTensOfDegrees{11069};
 inline constexpr Id kLabelKnots{11070};
 inline constexpr Id kLabelSeconds{11071};
-inline constexpr Id kLabelMap{11072};
 inline constexpr Id kLabelLoadingState{11073};
 
 // Main window: menus
@@ -308,7 +313,6 @@ inline constexpr Id kAskSaveOnExit{40500};
 inline constexpr Id kAskExit{40501};
 inline constexpr Id kAskSaveBeforeCorrecting{40502};
 inline constexpr Id kNoSubWindow{40503};
-inline constexpr Id kNotInThisVersion{40504};
 inline constexpr Id kExitQuestionTitle{40505};
 inline constexpr Id kMainTitle{40506};
 inline constexpr Id kMainTitleNotSaved{40507};
@@ -1251,5 +1255,9 @@ inline constexpr Id kMapHeight{44113};
 inline constexpr Id kMapArrowHours{44114};
 inline constexpr Id kMapArrow{44115};
 inline constexpr Id kMapNoPosition{44116};
+
+// Sea map
+inline constexpr Id kSeaMapUnusable{44140};
+inline constexpr Id kReasonDamaged{44141};
 
 }  // namespace text::id

@@ -224,7 +224,7 @@ TEST(TappedAlt, ComesBackToTheFieldAfterTheMessageOfACommand) {
     s.screen.on_command = [&s] {
       QTimer::singleShot(
           0, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
-      s.world.messages.error(text::id::kNotInThisVersion);
+      s.world.messages.error(text::id::kVersionInformation);
     };
     tap_alt();
     key(in_a_menu ? Qt::Key_Down : Qt::Key_Right);

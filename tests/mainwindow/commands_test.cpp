@@ -13,25 +13,48 @@ namespace {
 namespace id = text::id;
 using main_window::Opened;
 
-constexpr const char* kLater[] = {
-    " VOSClim",
-};
-
 ShipFixedData vosclim_ship() {
   ShipFixedData ship = main_window::sample_ship();
   ship.vosclim = true;
   return ship;
 }
 
-TEST(MainWindowMenu, SaysWhichCommandsAreNotThereYet) {
-  for (const char* const path : kLater) {
-    const auto opened = std::make_unique<Opened>(vosclim_ship());
-    opened->world.windows.expect(id::kNotInThisVersion);
-    const std::string before = opened->state();
-    opened->menu(path);
-    EXPECT_EQ(before, opened->state()) << path;
-    EXPECT_FALSE(opened->window.command_in_progress()) << path;
-  }
+TEST(MainWindowMenu, TakesVosClimDataIntoTheShipAndKeepsThemAtOnce) {
+  const auto opened = std::make_unique<Opened>(vosclim_ship());
+  opened->type("YY", "15");
+  const std::string before = opened->state();
+  opened->world.windows.expect_screen("CVosClimDlg", [](ui::Screen& screen) {
+    EXPECT_EQ("", screen.find("cargo_height")->content + screen.find("departure")->content);
+    EXPECT_TRUE(fakes::enter(screen, *screen.find("cargo_height"), "7"));
+    EXPECT_TRUE(fakes::enter(screen, *screen.find("departure"), "-12"));
+    screen.press(*screen.find("ok"));
+  });
+  opened->menu(" VOSClim");
+  ShipFixedData wanted = vosclim_ship();
+  wanted.vosclim_cargo_height = "07";
+  wanted.vosclim_load_line_departure = "-12";
+  EXPECT_EQ(wanted, opened->ship);
+  EXPECT_EQ((std::vector<std::string>{"fixed data"}), opened->told);
+  EXPECT_EQ(before, opened->state()) << "nothing of it stands in the form";
+  EXPECT_FALSE(opened->window.command_in_progress());
+  // Confirmed as it opens it is the same again.
+  opened->world.windows.expect_screen("CVosClimDlg",
+                                      [](ui::Screen& screen) { screen.press(*screen.find("ok")); });
+  opened->menu(" VOSClim");
+  EXPECT_EQ(wanted, opened->ship);
+}
+
+TEST(MainWindowMenu, LeavesTheShipWhenVosClimDataAreCancelled) {
+  const auto opened = std::make_unique<Opened>(vosclim_ship());
+  const std::string before = opened->state();
+  opened->world.windows.expect_screen("CVosClimDlg", [](ui::Screen& screen) {
+    EXPECT_TRUE(fakes::enter(screen, *screen.find("cargo_height"), "7"));
+    screen.close_box();
+  });
+  opened->menu(" VOSClim");
+  EXPECT_EQ(vosclim_ship(), opened->ship);
+  EXPECT_TRUE(opened->told.empty());
+  EXPECT_EQ(before, opened->state());
 }
 
 TEST(MainWindowMenu, DoesNotOpenVosClimForAnUnregisteredShip) {

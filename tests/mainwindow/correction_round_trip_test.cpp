@@ -63,17 +63,20 @@ class Officer {
     record.Month = "11";
     record.YY = "15";
     record.GG = "12";
-    for (auto field :
-         {&Struct_Weather::VosClim1, &Struct_Weather::VosClim2, &Struct_Weather::VosClim3,
-          &Struct_Weather::VosClim4, &Struct_Weather::VosClim5})
-      record.*field = form.ship.vosclim && flip() ? kVosClim[entries_.pick(5)] : "";
+    // What the fields tell, or what another program may have written into the line.
+    if (form.ship.vosclim && flip()) {
+      for (auto field :
+           {&Struct_Weather::VosClim1, &Struct_Weather::VosClim2, &Struct_Weather::VosClim3,
+            &Struct_Weather::VosClim4, &Struct_Weather::VosClim5})
+        record.*field = kVosClim[entries_.pick(6)];
+    }
     return record;
   }
 
   Form form;
 
  private:
-  static constexpr const char* kVosClim[] = {"", "7", "12", "085", "12.5"};
+  static constexpr const char* kVosClim[] = {"", "7", "12", "085", "12.5", "000"};
   bool flip() { return entries_.pick(2) == 0; }
   std::string figures() {
     std::string text;
@@ -89,6 +92,13 @@ class Officer {
 
 std::string report_of(const Struct_Weather& record, const ShipFixedData& ship) {
   return observation::make_report(record, observation::wants_wet_bulb(ship)).text;
+}
+
+std::string vosclim_of(const Struct_Weather& r) {
+  std::string all;
+  for (const std::string& value : {r.VosClim1, r.VosClim2, r.VosClim3, r.VosClim4, r.VosClim5})
+    all.append(value).append(";");
+  return all;
 }
 
 /// The folders of a ship's computer.
@@ -125,6 +135,7 @@ TEST(CorrectedWithoutAChange, AnyObservationIsTheSameReportAndLine) {
   Computer computer;
   std::set<std::string> different;
   std::unique_ptr<Officer> officer;
+  int with_vosclim = 0;
   for (int i = 0; different.size() < kObservations; ++i) {
     if (i % kOfAnOfficer == 0) officer = std::make_unique<Officer>(static_cast<unsigned>(i + 1));
     const Struct_Weather record = officer->observe();
@@ -143,6 +154,19 @@ TEST(CorrectedWithoutAChange, AnyObservationIsTheSameReportAndLine) {
     ASSERT_EQ(corrected.report().text, report);
     ASSERT_EQ(observation::encode_logbook(corrected.record(), form.ship, form.items), line)
         << report;
+    const bool told = vosclim_of(record) == vosclim_of(form.record());
+    if (told && vosclim_of(record) != ";;;;;") {
+      ++with_vosclim;
+      // Each field of the apparent wind entered once more says the same again.
+      elements::ObservationForm again(form.ship, form.items, form.world.clock);
+      again.load_record(opened->record);
+      for (const Field field : {Field::kApparentDirection, Field::kApparentSpeed, Field::kHeading,
+                                Field::kShipSpeed, Field::kCourse}) {
+        again.type(field, std::string(again.text(field)));
+        ASSERT_TRUE(again.leave(field).accepted());
+        ASSERT_EQ(vosclim_of(again.record()), vosclim_of(record)) << elements::name_of(field);
+      }
+    }
     // An OK in the dialogs of ship, card and items changes nothing either.
     corrected.ship_changed();
     corrected.card_changed();
@@ -151,6 +175,7 @@ TEST(CorrectedWithoutAChange, AnyObservationIsTheSameReportAndLine) {
     ASSERT_EQ(observation::encode_logbook(corrected.record(), form.ship, form.items), line)
         << report;
   }
+  EXPECT_GT(with_vosclim, 1000);
 }
 
 TEST(CorrectedWithoutAChange, EveryRealReportIsTheSameReportAndLine) {

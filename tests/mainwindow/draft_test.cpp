@@ -341,7 +341,7 @@ TEST(KeptEntries, ThatCannotBeUsedAreNamedAndPutAside) {
       {"is damaged", id::kDraftDamaged,
        [](Computer& c) { c.files.add_file(kDraft, std::string(1U << 20U, '\n')); }},
       {"later version", id::kDraftLaterVersion,
-       [](Computer& c) { c.files.add_file(kDraft, "draft=3\ncheck=43FE231E\n"); }},
+       [](Computer& c) { c.files.add_file(kDraft, "draft=4\ncheck=0CBFB5D9\n"); }},
       {"of another ship (JXKV)", id::kDraftOtherShip,
        [](Computer& c) { c.ship.call_sign = "JABC"; }},
   };

@@ -470,11 +470,60 @@ TEST(FixedDataScreen, OffersVosClimDataToRegisteredShipsOnly) {
     EXPECT_TRUE(bench.world.windows.boxes.empty());
     screen.choose(screen.vosclim, 0);
     EXPECT_TRUE(screen.vosclim_inputting.enabled);
-    bench.world.windows.expect(id::kVosClimNotAvailable);
+    bench.world.windows.expect_screen("CVosClimDlg", [](ui::Screen& s) { press(s, "cancel"); });
     press(screen, "vosclim_inputting");
     screen.choose(screen.vosclim, 1);
     EXPECT_FALSE(screen.vosclim_inputting.enabled);
   }
+}
+
+TEST(FixedDataScreen, TakesVosClimDataIntoWhatItsOkHandsBack) {
+  const auto enters = [](ui::Screen& s) {
+    EXPECT_EQ(s.find("cargo_height")->content, "07");
+    EXPECT_EQ(s.find("departure")->content, "-12");
+    EXPECT_TRUE(enter(s, *s.find("cargo_height"), "9"));
+    EXPECT_TRUE(enter(s, *s.find("departure"), "4"));
+    press(s, "ok");
+  };
+  ShipFixedData registered = valid_ship();
+  registered.vosclim = true;
+  ShipFixedData entered = registered;
+  entered.vosclim_cargo_height = "09";
+  entered.vosclim_load_line_departure = "+04";
+  for (const char* const end : {"ok", "cancel"}) {
+    Bench bench;
+    bench.put(registered);
+    const auto files = bench.files.snapshot();
+    CFixDataDlg screen(bench.world.services, kPath, false);
+    screen.open();
+    bench.world.windows.expect_screen("CVosClimDlg", enters);
+    press(screen, "vosclim_inputting");
+    EXPECT_NE(screen.focused(), &screen.vosclim_inputting) << "Enter would open it again";
+    EXPECT_EQ(screen.values(), registered) << "before OK";
+    // Opened again it shows what was entered, not the file.
+    bench.world.windows.expect_screen("CVosClimDlg", [](ui::Screen& s) {
+      EXPECT_EQ(s.find("cargo_height")->content + s.find("departure")->content, "09+04");
+      EXPECT_TRUE(enter(s, *s.find("departure"), "-1"));
+      press(s, "cancel");
+    });
+    press(screen, "vosclim_inputting");
+    press(screen, end);
+    EXPECT_EQ(screen.values(), std::string(end) == "ok" ? entered : registered) << end;
+    EXPECT_EQ(bench.files.snapshot(), files) << "the screen never writes";
+  }
+}
+
+TEST(FixedDataScreen, KeepsVosClimDataOfAnotherChoiceUntilOk) {
+  Bench bench;
+  ShipFixedData data = valid_ship();
+  data.vosclim = true;
+  bench.put(data);
+  CFixDataDlg screen(bench.world.services, kPath, false);
+  screen.open();
+  screen.choose(screen.vosclim, 1);
+  screen.choose(screen.vosclim, 0);
+  press(screen, "ok");
+  EXPECT_EQ(screen.values(), data);
 }
 
 // ---- The card

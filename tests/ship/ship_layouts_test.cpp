@@ -12,6 +12,7 @@
 #include "ship/CKataInputDlg.h"
 #include "ship/CKataSelectDlg.h"
 #include "ship/CKeyObserveDlg.h"
+#include "ship/CVosClimDlg.h"
 #include "ui/layout.h"
 
 namespace {
@@ -32,6 +33,7 @@ TEST(ShipLayouts, PlaceEachControlOnceInTabOrder) {
   expect_placed_in_order(CKataSelectDlg(world.services, CardType::kNotChosen));
   expect_placed_in_order(CKataInputDlg(world.services, {}));
   expect_placed_in_order(CFullEmptySelect(world.services));
+  expect_placed_in_order(CVosClimDlg(world.services, {}));
 }
 
 }  // namespace

@@ -26,6 +26,7 @@
 #include "fakes/fake_ports.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CKataInputDlg.h"
+#include "ship/CVosClimDlg.h"
 #include "ship/data/ship_files.h"
 
 namespace {
@@ -114,6 +115,9 @@ const std::map<std::string_view, std::function<Texts(const ui::Screen&)>>& hande
        })},
       {"CKataInputDlg",
        reader<CKataInputDlg>([](const CKataInputDlg& d) { return of_card(d.card()); })},
+      {"CVosClimDlg", reader<CVosClimDlg>([](const CVosClimDlg& d) {
+         return Texts{d.values().cargo_height, d.values().departure};
+       })},
   };
   return kTable;
 }

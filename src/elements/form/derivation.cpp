@@ -6,6 +6,7 @@
 #include "codetables/tables/pressure_figures.h"
 #include "codetables/tables/temperature_figures.h"
 #include "elements/form/field_codes.h"
+#include "elements/form/vosclim_fields.h"
 #include "elements/formulas/barometer_correction.h"
 #include "elements/formulas/psychrometer.h"
 #include "elements/formulas/relative_humidity.h"
@@ -124,6 +125,8 @@ Entries derived(Entries entries, const ShipFixedData& ship, Follows what) {
   if (has(what, Follows::kDewPoint)) compute_dew_point(entries, ship);
   if (has(what, Follows::kHumidity)) compute_humidity(entries, ship);
   if (has(what, Follows::kTrueWind)) compute_true_wind(entries, ship);
+  // Behind the true wind, which brings the record back to knots.
+  if (!entries.vosclim_as_sent) set_vosclim(entries, ship);
   return entries;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // What follows from entries on a ship: the pressure at sea level of the reading, the dew point of
-// the bulbs, the humidity of air and dew point, the true wind of the apparent one.
+// the bulbs, the humidity of air and dew point, the true wind of the apparent one, and the VOSClim
+// values, which are what the fields of the apparent wind say (vosclim_fields.h).
 //
 // A value is computed from what is accepted in the fields alone, with two exceptions that history
 // forces, both told by Entries: a pressure that was typed over the reduced one stays, and so do a

@@ -18,6 +18,8 @@ using std::string_view;
 // The first one knew of no corrections, and is written still where there is none.
 constexpr int kVersion = 1;
 constexpr int kVersionOfCorrection = 2;
+// Of one whose line of the logbook has VOSClim values.
+constexpr int kVersionOfVosclim = 3;
 constexpr string_view kVersionName = "draft=";
 constexpr string_view kCheckName = "check=";
 constexpr string_view kFigures = "0123456789ABCDEF";
@@ -206,10 +208,12 @@ void describe(Lines& lines, Draft& draft) {
   lines.text("typing_in", draft.typing_in);
   lines.text("group_text", draft.group_text);
   lines.flag("dew_point_as_sent", form.dew_point_as_sent);
+  lines.flag("VosClim_as_sent", form.vosclim_as_sent);
   describe_correction(lines, draft.correction);
 }
 
 int version_of(const Draft& draft) {
+  if (draft.form.vosclim_as_sent) return kVersionOfVosclim;
   return draft.correction.file.empty() && !draft.form.dew_point_as_sent ? kVersion
                                                                         : kVersionOfCorrection;
 }
@@ -270,6 +274,8 @@ std::string ship_mark(const ShipFixedData& ship) {
         static_cast<int>(ship.wave_recorder), static_cast<int>(ship.humidity_method)})
     add(value);
   add(ship.humidity_unit);
+  // Only where it is so: to a ship that is not registered its mark is that of earlier versions.
+  if (ship.vosclim) values.append("VOSClim ");
   return checksum(values.append(ship.call_sign).append(" ").append(ship.imo_number));
 }
 
@@ -290,7 +296,7 @@ DraftRead decode_draft(string_view text) {
   if (text.substr(body.size()) != std::string(kCheckName) + checksum(body) + "\n") return {};
   const string_view version = body.substr(kVersionName.size(), body.find('\n') + 1);
   // Behind the checksum: a draft of a later version is whole, not damaged.
-  if (text::leading_int(version) > kVersionOfCorrection) return {DraftFault::kLaterVersion, {}};
+  if (text::leading_int(version) > kVersionOfVosclim) return {DraftFault::kLaterVersion, {}};
   const auto lines = lines_of(body);
   if (!lines) return {};
   DraftRead read{DraftFault::kNone, {}};

@@ -1,7 +1,8 @@
 #pragma once
 // An observation that was not saved, as a text that outlives the program.
 //
-//   draft=1                     version of this layout: 2 for a report that is being corrected
+//   draft=1                     version of this layout: 2 for a report that is being corrected,
+//                               3 when that came with VOSClim values
 //   call_sign=JXKV              whose observation it is
 //   ship=5A1C22F0               what of the ship the values were computed with
 //   record.YY=15                fields of the record, as in an observation file

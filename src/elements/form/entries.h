@@ -50,6 +50,9 @@ struct Entries {
   /// The dew point is that of a report that was sent: the reading it was computed with is not known,
   /// so it stays until a bulb or a reading is entered, whatever becomes of ship and card.
   bool dew_point_as_sent = false;
+  /// The VOSClim values, and the true wind beside them, are those of a report that was sent, so they
+  /// stay until something of the apparent wind is entered or the hour is another.
+  bool vosclim_as_sent = false;
   DewPointMethod dew_point_method = DewPointMethod::kDirect;  ///< the texts are made for it
   /// Ss is made for it. Another method in Ss was chosen for this observation alone, and stays.
   SeaTemperatureMethod sea_temperature_method = SeaTemperatureMethod::kIntake;

@@ -10,6 +10,7 @@
 #include "elements/form/entry_check.h"
 #include "elements/form/field_codes.h"
 #include "elements/form/typed_group.h"
+#include "elements/form/vosclim_fields.h"
 #include "elements/formulas/barometer_correction.h"
 #include "text/ids.h"
 #include "text/strings.h"
@@ -22,14 +23,6 @@ namespace {
 
 bool is_same_hour(const Struct_Weather& a, const Struct_Weather& b) {
   return a.Year == b.Year && a.Month == b.Month && a.YY == b.YY && a.GG == b.GG;
-}
-
-// They came with a report that is being corrected, and no field shows them: they must not go into
-// the logbook with the next observation, which is entered over this one.
-void forget_vosclim(Struct_Weather& record) {
-  for (std::string* const value :
-       {&record.VosClim1, &record.VosClim2, &record.VosClim3, &record.VosClim4, &record.VosClim5})
-    value->clear();
 }
 
 }  // namespace
@@ -159,6 +152,7 @@ Answer ObservationForm::leave(observation::Group group, std::string_view typed,
 void ObservationForm::follow(const Struct_Weather& before, Follows what, bool had_wind,
                              const std::vector<Field>& but) {
   if (has(what, Follows::kDewPoint)) now_.dew_point_as_sent = false;
+  if (has(what, Follows::kTrueWind)) now_.vosclim_as_sent = false;
   // Until the apparent wind is whole it says nothing, and a true wind that was sent stays; a text
   // that was refused there does not, for the fields are locked.
   if (has(what, Follows::kTrueWind) && !had_wind && !true_wind_of(now_)) {
@@ -173,12 +167,13 @@ void ObservationForm::follow(const Struct_Weather& before, Follows what, bool ha
 // What every change of the record ends with.
 void ObservationForm::finish(const Struct_Weather& before, Follows what,
                              const std::vector<Field>& but) {
+  // The next observation is entered over the one that was sent: it has no values but its own.
+  if (!is_same_hour(record(), before)) now_.vosclim_as_sent = false;
   now_ = derived(std::move(now_), around_.ship, what);
   show_changes(now_, before, around_.ship, but);
   // Whoever enters weather observes it, whatever the report said that is being corrected.
   if (record().ww != before.ww || record().W1 != before.W1 || record().W2 != before.W2)
     now_.record.iX = Struct_Weather(around_.ship, around_.items).iX;
-  if (!is_same_hour(record(), before)) forget_vosclim(now_.record);
   if (!(record() == before)) now_.modified = true;
 }
 
@@ -267,7 +262,11 @@ void ObservationForm::ship_changed() {
   const Struct_Weather as_entered = record;
   Follows what = of_card();
   // Without a whole apparent wind a true one that stands there was entered as such.
-  if (true_wind_of(now_)) what = what | Follows::kTrueWind;
+  // So was the one of a report that was sent, which shows what it was computed from.
+  if (now_.vosclim_as_sent)
+    show_vosclim(now_, ship);
+  else if (true_wind_of(now_))
+    what = what | Follows::kTrueWind;
   finish(before, what);
   now_.modified = was_modified || !(record == as_entered);
 }
@@ -345,6 +344,8 @@ void ObservationForm::load_record(const Struct_Weather& record) {
   // A dew point beside its bulbs is theirs, and does not outlive them.
   if (record.has_wet_bulb()) loaded.dew_point_of_bulbs = record.SnTd + record.TdTdTd;
   loaded.dew_point_as_sent = true;
+  loaded.vosclim_as_sent = has_any_vosclim(record);
+  show_vosclim(loaded, ship);
   now_ = std::move(loaded);
 }
 

@@ -126,11 +126,12 @@ class ObservationForm {
   /// and items_changed()'s to follow.
   void load(const Entries& entries);
   /// Takes a whole record over, as it was sent: every field shows what it holds, nothing is
-  /// computed over it or put aside, and it counts as saved. A record has no barometer reading and
-  /// no apparent wind: its true wind stays until a whole apparent one is entered, its dew point
-  /// until a bulb or a reading is, and then without a reading it is computed as for any observation
-  /// without one.
-  /// VOSClim data, which no field shows, do not outlive the record's hour.
+  /// computed over it or put aside, and it counts as saved. A record has no barometer reading, and
+  /// an apparent wind only in its VOSClim values: its true wind stays until something of a whole
+  /// apparent one is entered, its dew point until a bulb or a reading is, and then without a reading
+  /// it is computed as for any observation without one.
+  /// VOSClim values stay with the true wind. Where this ship has no field that shows them they do
+  /// not outlive the record's hour.
   void load_record(const Struct_Weather& record);
   void saved() { now_.modified = false; }
   /// What came up since the last call.

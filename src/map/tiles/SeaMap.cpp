@@ -57,7 +57,10 @@ std::shared_ptr<const Coast> SeaMap::read(const Tile& tile) {
   const auto text = files_.read(path, kLargestTile);
   auto coast = text.ok() ? parse_coast(*text.value, tile) : std::nullopt;
   if (coast) return std::make_shared<const Coast>(*std::move(coast));
-  troubles_.push_back({path, text.error});
+  // Without the folder there is one thing to tell, not one for each tile.
+  const bool of_folder = text.error == platform::FileError::kNotFound && !files_.is_folder(folder_);
+  if (!of_folder || !folder_told_) troubles_.push_back({of_folder ? folder_ : path, text.error});
+  folder_told_ = folder_told_ || of_folder;
   return nullptr;
 }
 

@@ -241,6 +241,31 @@ TEST(Draft, OfACorrectionNamesItsFileAndWhatFoundNoPlace) {
   }
 }
 
+// A program that knows of corrections, and of none with VOSClim values, reads every other one.
+TEST(Draft, OfACorrectionWithVosclimValuesKeepsThemAsTheyWereSent) {
+  for (const bool registered : {false, true}) {
+    Form form;
+    form.ship.vosclim = registered;
+    form.ship.wind_input_method = WindInputMethod::kApparentWind;
+    Struct_Weather record = form.record();
+    record.VosClim3 = "000";  // by a program that says so of a ship that lies
+    record.VosClim4 = "12";
+    form.form->load_record(record);
+    const std::string text = encoded(form);
+    EXPECT_TRUE(text.starts_with("draft=3\n")) << text;
+    const elements::DraftRead read = elements::decode_draft(text);
+    ASSERT_EQ(read.fault, DraftFault::kNone) << text;
+    elements::ObservationForm loaded(form.ship, form.items, form.world.clock);
+    loaded.load(read.draft.form);
+    EXPECT_EQ(loaded.text(Field::kShipSpeed), registered ? "12.0" : "");
+    loaded.ship_changed();
+    loaded.put(Field::kVV, "97");
+    EXPECT_EQ(loaded.record().VosClim3 + loaded.record().VosClim4, "00012");
+    loaded.put(Field::kHeading, "90");
+    EXPECT_EQ(loaded.record().VosClim3 + loaded.record().VosClim4, registered ? "09012" : "");
+  }
+}
+
 // A program that knows of no corrections reads every other draft.
 TEST(Draft, WithoutACorrectionIsOfTheFirstVersion) {
   Form form;
@@ -249,7 +274,7 @@ TEST(Draft, WithoutACorrectionIsOfTheFirstVersion) {
 }
 
 TEST(Draft, OfALaterVersionIsNamedSo) {
-  EXPECT_EQ(elements::decode_draft(with_checksum("draft=3\nanything at all\n")).fault,
+  EXPECT_EQ(elements::decode_draft(with_checksum("draft=4\nanything at all\n")).fault,
             DraftFault::kLaterVersion);
   for (const char* const version : {"0", "-1", "", "x", "01", "1.0"})
     EXPECT_EQ(elements::decode_draft(with_checksum(std::string("draft=") + version + "\n")).fault,
@@ -274,6 +299,7 @@ TEST(Draft, MarkOfTheShipChangesWithWhatTheFormComputesWith) {
       [](ShipFixedData& s) { s.sea_temperature_method = SeaTemperatureMethod::kBucket; },
       [](ShipFixedData& s) { s.dew_point_method = DewPointMethod::kComputed; },
       [](ShipFixedData& s) { s.wave_recorder = true; },
+      [](ShipFixedData& s) { s.vosclim = true; },
       [](ShipFixedData& s) { s.humidity_method = HumidityMethod::kComputed; },
       [](ShipFixedData& s) { s.humidity_unit = 1.0; },
       [](ShipFixedData& s) { s.imo_number = "9074729"; },
