@@ -77,9 +77,14 @@ def rounded(degrees, limits):
     """To whole units, but never onto a limit: two such points in a row would make a coast look like a cut."""
     exact = degrees * UNIT
     units = round(exact)
-    if units in limits and abs(exact - units) > 1e-6:
-        units += 1 if exact > units else -1
-    return units
+    if units not in limits:
+        return units
+    on_limit = abs(exact - units) < 1e-6
+    # At the date line the data itself is cut. Other meridians are there by chance, since their distance from it is a ninth
+    # of the globe, and so a whole number of the data's own units.
+    if on_limit and abs(units) == DATE_LINE:
+        return units
+    return units + (1 if on_limit or exact > units else -1)
 
 
 ALL_MERIDIANS = frozenset(x for meridians in MERIDIANS for x in meridians) | {DATE_LINE}

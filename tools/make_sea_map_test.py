@@ -297,9 +297,14 @@ class MadeUp(unittest.TestCase):
         self.assertTrue(maker.is_marker([(-0.005, -0.004), (0.005, -0.004), (0.005, 0.005)]))
         self.assertFalse(maker.is_marker([(-0.005, 0.1), (0.005, 0.1), (0.005, 0.11)]))
 
-    def test_no_point_is_rounded_onto_a_limit_that_it_was_not_on(self):
-        self.assertEqual(maker.in_units([(20.0003, 50.1234), (19.9998, 40.0001), (20, 39.9999), (-180, -60), (30, 30)]),
-                         [(20001, 50123), (19999, 40001), (20000, 39999), (-180000, -60000), (30000, 30000)])
+    def test_no_point_is_rounded_onto_a_limit(self):
+        self.assertEqual(maker.in_units([(20.0003, 50.1234), (19.9998, 40.0001), (30, 39.9999), (30.0006, 30)]),
+                         [(20001, 50123), (19999, 40001), (30000, 39999), (30001, 30000)])
+        self.assertEqual(maker.in_units([(179.9998, 50), (-179.9998, 50)]), [(179999, 50000), (-179999, 50000)])
+
+    def test_a_point_of_the_data_on_a_limit_is_moved_off_it_but_not_at_the_date_line(self):
+        self.assertEqual(maker.in_units([(100, -2.7), (100, -2.8), (-60.0000000001, 40), (180, 1), (-180, 1)]),
+                         [(100001, -2700), (100001, -2800), (-59999, 40001), (180000, 1000), (-180000, 1000)])
 
     # ---- What is written
 

@@ -14,11 +14,18 @@ namespace id = text::id;
 using main_window::Opened;
 
 constexpr const char* kTiles = "C:\\program\\SeaMap";
-// An island between 30 and 31 N, 150 and 151 E; the window has a map of its tile and no other one.
+// An island between 30 and 31 N, 150 and 151 E, and sea all around the globe.
 constexpr map::Place kIsland{30.5, 150.5};
 
 struct WithMap {
-  WithMap() { fakes::add_tile(files, kTiles, kIsland, {{"land", "150 30 151 30 151 31 150 31"}}); }
+  WithMap() {
+    for (const map::Tile& tile : map::all_tiles())
+      files.add_file(path_of(tile), fakes::tile_text(tile, {}));
+    fakes::add_tile(files, kTiles, kIsland, {{"land", "150 30 151 30 151 31 150 31"}});
+  }
+  static std::string path_of(const map::Tile& tile) {
+    return std::string(kTiles) + "\\" + map::file_name(tile);
+  }
   fakes::FakeFiles files;
   map::SeaMap map{files, kTiles};
   Opened opened{fakes::sample_ship(), {}, false, &map};
@@ -167,6 +174,7 @@ TEST(Land, IsNotKnownWithoutAMap) {
 
 TEST(SeaMapTrouble, IsToldOnceForATileAndStopsNothing) {
   WithMap ship;
+  ASSERT_EQ(ship.files.remove("C:\\program\\SeaMap\\E020N40.src"), platform::FileError::kNone);
   ship.opened.world.windows.expect(id::kSeaMapUnusable);
   ship.type_position("10", "30", "050", "30");
   ASSERT_EQ(ship.opened.world.windows.boxes.size(), 1U);
@@ -177,6 +185,19 @@ TEST(SeaMapTrouble, IsToldOnceForATileAndStopsNothing) {
   ship.opened.type("LaMin", "31");
   ship.opened.type("LoMin", "31");
   EXPECT_EQ(ship.opened.world.windows.boxes.size(), 1U);
+}
+
+TEST(SeaMapTrouble, IsOneWhereTheWholeFolderIsAway) {
+  fakes::FakeFiles files;
+  map::SeaMap map(files, kTiles);
+  EXPECT_EQ(map.at({10, 50}), map::Land::kNotKnown);
+  EXPECT_EQ(map.at({10, 100}), map::Land::kNotKnown);
+  const auto troubles = map.take_troubles();
+  ASSERT_EQ(troubles.size(), 1U);
+  EXPECT_EQ(troubles[0].path, kTiles);
+  EXPECT_EQ(troubles[0].error, platform::FileError::kNotFound);
+  EXPECT_EQ(map.at({-10, 150}), map::Land::kNotKnown);
+  EXPECT_TRUE(map.take_troubles().empty());
 }
 
 TEST(SeaMapTrouble, NamesADamagedTile) {
@@ -209,7 +230,6 @@ TEST(ShipOnMap, IsEmptyWithoutAWholePosition) {
 
 TEST(ShipOnMap, IsSouthAndWestOfZeroByItsHemispheres) {
   WithMap ship;
-  fakes::add_tile(ship.files, kTiles, {-30, -100.5}, {});
   ship.opened.choose("north_south", 1);
   ship.opened.choose("east_west", 1);
   for (const auto& [name, text] : {std::pair{"LaDeg", "30"}, std::pair{"LaMin", "30"},
