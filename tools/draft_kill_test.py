@@ -23,7 +23,10 @@ class Program:
     """One copy of the program on the files of `room`."""
 
     def __init__(self, cli, room):
-        command = [cli, "session", "--root", os.path.join(room, "root"), "--program", os.path.join(room, "program"),
+        program = os.path.join(room, "program")
+        if not os.path.exists(os.path.join(program, "SeaMap")):
+            os.symlink(os.path.join(os.path.dirname(os.path.abspath(cli)), "SeaMap"), os.path.join(program, "SeaMap"))
+        command = [cli, "session", "--root", os.path.join(room, "root"), "--program", program,
                    "--locale", "en", "--clock", "2014-11-15T11:50"]
         self.process = subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
                                         env={"PATH": os.defpath, "HOME": room, "TZ": "UTC0", "LC_ALL": "C"})

@@ -32,6 +32,11 @@ RULES = {
 METRES = ["49", "99", "199", "299", "599", "999", "1499", "1999", "2499", "2500"]  # cloud base of each code figure
 KNOTS = 3600 / 1852
 
+# Latitude and longitude groups of the reports that were sent from a coast or a harbour, by the chart: the Firth of Clyde,
+# Dublin, the Flemish coast (twice), Cook Strait, the coast of Holland, Galveston. There the program warns of land.
+NEAR_LAND = {("99556", "70051"), ("99533", "70062"), ("99513", "10032"), ("99413", "31748"), ("99524", "10048"),
+             ("99293", "70948")}
+
 
 def split(text):
     """The report's groups by name. Section 2 begins behind 222DsVs; what no name fits is "other"."""
@@ -119,6 +124,8 @@ class Typed:
         self.set("LoDeg", lon[1:4])
         self.set("LoMin", f"{int(lon[4]) * 6:02}")
         self.lines.append(f"choose east_west {0 if lon[0] in '13' else 1}")
+        if (lat, lon) in NEAR_LAND:
+            self.lines.append("press ok")
         self.out += ["BBXX", "JABC", time[:4] + iw, lat, lon]
 
     def type_wind(self):

@@ -23,6 +23,8 @@ The comment block at the top of a session may hold, in lines of the form "# key:
   root-files     folder roots/NAME that is copied to where C: is; later ones are laid over earlier ones; all files bear the
                  time of the clock
   program-files  folder roots/NAME that is copied to the program folder (program)
+  map            none: the sea map's tiles do not lie in the program folder (left out: those that lie beside the program
+                 do, but where program-files brings its own)
   read-only      a path on C: that nobody may write
   printer        none: there is none; fails: its queue takes nothing (left out: "answer print" prints each line of the
                  document into the transcript; a PDF file that is saved holds the lines alone, and says so)
@@ -45,7 +47,7 @@ import sys
 import tempfile
 
 LANGUAGES = ("en", "ja")
-DEFAULTS = {"status": "0", "locale": "en", "clock": "2014-11-15T11:50", "tz": "UTC0", "printer": ""}
+DEFAULTS = {"status": "0", "locale": "en", "clock": "2014-11-15T11:50", "tz": "UTC0", "printer": "", "map": ""}
 LISTS = {"root-files", "program-files", "read-only", "leaves"}
 
 
@@ -208,6 +210,9 @@ def play_it(cli, folder, play):
         os.makedirs(program)
         lay_out(folder, options["root-files"], root)
         lay_out(folder, options["program-files"] or ["program"], program)
+        tiles = os.path.join(program, "SeaMap")
+        if options["map"] != "none" and not os.path.exists(tiles):
+            os.symlink(os.path.join(os.path.dirname(os.path.abspath(cli)), "SeaMap"), tiles)
         set_time(root, options["clock"])
         locked = [on_disk(root, path) for path in options["read-only"]]
         for target in locked:

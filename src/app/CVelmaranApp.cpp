@@ -14,6 +14,8 @@ using platform::There;
 
 namespace {
 
+constexpr std::string_view kSeaMapFolder = "SeaMap";  // beside the program
+
 // There is something, readable or not. Where one cannot tell, a screen must not accept itself as if
 // it knew.
 bool is_there(There there) {
@@ -29,7 +31,10 @@ CVelmaranApp::CVelmaranApp(const Ports& ports, Dialogs dialogs)
                 ports.printer, ports.windows, texts_,       messages_,   help_},
       dialogs_(std::move(dialogs)),
       places_(settings_places(system_root(ports.drives),
-                              CAssistantClass(ports.drives, ports.files).program_folder())) {}
+                              CAssistantClass(ports.drives, ports.files).program_folder())),
+      sea_map_(ports.files,
+               platform::join(CAssistantClass(ports.drives, ports.files).program_folder(),
+                              kSeaMapFolder)) {}
 
 int CVelmaranApp::run() {
   if (!read_settings()) return 1;
@@ -128,6 +133,7 @@ void CVelmaranApp::show_main_window() {
   context.keep_folder = [this](std::string_view key, std::string_view folder) {
     keep_folder(key, folder);
   };
+  context.sea_map = &sea_map_;
   dialogs_.main_window(services_, context);
 }
 

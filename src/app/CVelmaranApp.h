@@ -7,6 +7,7 @@
 
 #include "app/Settings.h"
 #include "app/dialogs.h"
+#include "map/tiles/SeaMap.h"
 #include "platform/ports.h"
 #include "text/help.h"
 #include "text/texts.h"
@@ -79,6 +80,7 @@ class CVelmaranApp {
   Dialogs dialogs_;
   SettingsPlaces places_;
   Settings settings_;
+  map::SeaMap sea_map_;
   ShipFixedData ship_;
   KeyObservationItems items_;
 };

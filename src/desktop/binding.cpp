@@ -39,6 +39,13 @@ QStringList lines_of(const std::vector<std::string>& lines) {
   return result;
 }
 
+// What a control is called and by which keys it is pressed; empty without keys.
+QString with_keys(const QString& name, std::string_view shortcut) {
+  const auto keys = QString::fromLatin1(shortcut.data(), static_cast<qsizetype>(shortcut.size()));
+  if (keys.isEmpty()) return {};
+  return name.contains(keys) ? name : QStringLiteral("%1 (%2)").arg(name, keys);
+}
+
 // Room for so many figures or letters, and the frame.
 int width_for(const QWidget& widget, int characters) {
   return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters +
@@ -884,10 +891,9 @@ void Binding::show() {
   spoken.remove(QLatin1Char('&'));
   if (shown_widget->accessibleName() != spoken) shown_widget->setAccessibleName(spoken);
   const QString why = text_of(control_.why_locked);
-  if (shown_widget->toolTip() != why) {
-    shown_widget->setToolTip(why);
-    shown_widget->setAccessibleDescription(why);
-  }
+  if (shown_widget->accessibleDescription() != why) shown_widget->setAccessibleDescription(why);
+  const QString tip = why.isEmpty() ? with_keys(spoken, control_.shortcut) : why;
+  if (shown_widget->toolTip() != tip) shown_widget->setToolTip(tip);
 }
 
 std::unique_ptr<Binding> make_binding(ui::Screen& screen, ui::Control& control, QWidget* parent,

@@ -65,6 +65,9 @@ bool PictureLabel::show_file(const QString& name, bool fitted) {
 void PictureLabel::show_drawing(std::shared_ptr<const ui::Drawing> drawing) {
   if (drawing_ == drawing) return;
   drawing_ = std::move(drawing);
+  const bool grows = drawing_ != nullptr && drawing_->grows;
+  const QSizePolicy::Policy policy = grows ? QSizePolicy::Expanding : QSizePolicy::Preferred;
+  if (sizePolicy().verticalPolicy() != policy) setSizePolicy(policy, policy);
   update();
 }
 

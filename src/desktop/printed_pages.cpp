@@ -126,8 +126,8 @@ class LinePainter {
 // Of a drawing on the width of a page: the shape that it has on the screen.
 double height_of(const ui::Drawing& drawing, double width, const QFontMetricsF& metrics) {
   if (drawing.same_scale)
-    return width *
-           std::abs((drawing.y.last - drawing.y.first) / (drawing.x.last - drawing.x.first));
+    return width * std::abs((drawing.y.last - drawing.y.first) /
+                            ((drawing.x.last - drawing.x.first) * drawing.x_unit));
   return width * drawing.lines * metrics.height() /
          (drawing.characters * metrics.horizontalAdvance(QLatin1Char('0')));
 }

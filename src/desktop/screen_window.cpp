@@ -473,6 +473,23 @@ bool ScreenWindow::choose_line(const QWidget& widget, const QKeyEvent& pressed) 
   return true;
 }
 
+bool ScreenWindow::press_shortcut(const QKeyEvent& pressed) {
+  QString keys = character_of(pressed);
+  if (keys.isEmpty()) {
+    const auto modifiers = pressed.modifiers() & ~Qt::KeypadModifier;
+    keys = QKeySequence(QKeyCombination(modifiers, static_cast<Qt::Key>(pressed.key())))
+               .toString(QKeySequence::PortableText);
+  }
+  const std::string told = keys.toStdString();
+  if (screen_.pressed_by(told) == nullptr) return false;
+  settle_focus();
+  hand([&] {
+    // Leaving a field may have switched it off.
+    if (ui::Control* const control = screen_.pressed_by(told)) screen_.press(*control);
+  });
+  return true;
+}
+
 bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   // A list got more lines, a text a second line: asked once all of this event has been laid out.
   if (watched == content_ && event->type() == QEvent::LayoutRequest) {
@@ -502,6 +519,7 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   // A message or the help beside this window has keys of its own.
   if (widget == nullptr || widget->window() != this) return QDialog::eventFilter(watched, event);
   if (!screen_.menu().empty() && does_nothing(pressed)) return true;
+  if (press_shortcut(pressed)) return true;
   if (choose_line(*widget, pressed)) return true;
   const auto key = key_in(kWindowKeys, pressed);
   if (!key) return QDialog::eventFilter(watched, event);

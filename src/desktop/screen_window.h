@@ -60,6 +60,8 @@ class ScreenWindow : public QDialog {
   void settle_focus();
   [[nodiscard]] Binding* binding_of(const QWidget* part) const;
   [[nodiscard]] bool is_in_menu(const QWidget* widget) const;
+  /// Keys that press a control of the screen. True when they were such.
+  bool press_shortcut(const QKeyEvent& pressed);
   /// Keys that choose a line of the control that the widget belongs to. True when it was one.
   bool choose_line(const QWidget& widget, const QKeyEvent& pressed);
   void run_command(const ui::MenuItem& item);

@@ -25,17 +25,27 @@ struct Colours {
 
 // Lines, signs and texts of a drawing are read on its paper, land, water and ice alike.
 constexpr Colours kLight = {
-    "#1565c0", "#0b4a8f",
-    "#fff4cc", "#000000",
-    "#ffdcdc", "#000000",
-    "#c00000", "#1565c0",
-    "#ffffff", {"", "#b0b0b0", "#0b4a8f", "#efe4c4", "#d8ebf8", "#f7fbff", "#7a4a00", "#b00000"}};
+    "#1565c0",
+    "#0b4a8f",
+    "#fff4cc",
+    "#000000",
+    "#ffdcdc",
+    "#000000",
+    "#c00000",
+    "#1565c0",
+    "#ffffff",
+    {"", "#b0b0b0", "#0b4a8f", "#efe4c4", "#d8ebf8", "#f7fbff", "#7a4a00", "#b00000", "#8a7a55"}};
 constexpr Colours kDark = {
-    "#64b5f6", "#8ec7ff",
-    "#4d431c", "#fff4cc",
-    "#5c1a1a", "#ffffff",
-    "#ff6b6b", "#1565c0",
-    "#ffffff", {"", "#6a6a6a", "#8ec7ff", "#4a4530", "#1c3448", "#38434c", "#ffd27f", "#ff9c9c"}};
+    "#64b5f6",
+    "#8ec7ff",
+    "#4d431c",
+    "#fff4cc",
+    "#5c1a1a",
+    "#ffffff",
+    "#ff6b6b",
+    "#1565c0",
+    "#ffffff",
+    {"", "#6a6a6a", "#8ec7ff", "#4a4530", "#1c3448", "#38434c", "#ffd27f", "#ff9c9c", "#a89a6c"}};
 
 // What has the focus is framed by FocusFrame. A drop-down gets no frame here: a style sheet that
 // frames one draws it anew, and its text moves.

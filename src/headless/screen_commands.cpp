@@ -303,12 +303,15 @@ void ScreenCommands::key() {
   }
   if (const ui::MenuItem* const item = item_with_shortcut(screen_.menu(), wanted)) {
     screen_.command(*item);
+  } else if (ui::Control* const control = screen_.pressed_by(wanted)) {
+    if (control->can_focus()) watch_.expect_focus(control);
+    screen_.press(*control);
   } else if (text::length(wanted) == 1) {
     screen_.find_line(wanted);
   } else {
     cannot("no key " + ui::quoted(text::first(wanted, 40)) +
            "; F1, Enter, Escape, Tab, Shift+Tab, an arrow, Home, End, PageUp, PageDown, Space, one "
-           "character or the keys of a menu command");
+           "character or the keys of a menu command or a control");
   }
 }
 

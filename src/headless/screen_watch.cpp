@@ -53,7 +53,9 @@ void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new
     if (!caption_is_value(is.kind) && was.caption != is.caption)
       out.push_back(is.name + " caption: " + arrow(was.caption, is.caption));
     if (was.unit != is.unit) out.push_back(is.name + " unit: " + arrow(was.unit, is.unit));
-    if (was.drawing != is.drawing) {
+    if (was.drawing != is.drawing && is.drawing_repeats) {
+      out.push_back(is.name + ": drawn anew");
+    } else if (was.drawing != is.drawing) {
       out.push_back(is.name + " drawing:");
       for (const std::string& line : is.drawing) out.push_back("  " + line);
     }

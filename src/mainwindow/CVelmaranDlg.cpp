@@ -14,12 +14,14 @@
 #include "mainwindow/entry_messages.h"
 #include "mainwindow/last_position.h"
 #include "mainwindow/save_flow.h"
+#include "mainwindow/ship_on_map.h"
 #include "observation/report_file.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CKeyObserveDlg.h"
 #include "ship/CVosClimDlg.h"
 #include "text/ids.h"
 #include "text/numbers.h"
+#include "text/reasons.h"
 
 namespace {
 
@@ -61,10 +63,11 @@ std::vector<std::pair<std::string, std::string>> CVelmaranDlg::record_fields() c
 }
 
 void CVelmaranDlg::on_open() {
-  find_last_position();
+  find_last_positions();
   show_menu();
   refresh();
   offer_drafts();
+  tell_map_troubles();
   tab_flags_.arm();  // the first field gets the focus without being entered
 }
 
@@ -117,7 +120,9 @@ bool CVelmaranDlg::open_element(int element, const ui::Control* last) {
     return false;
   }
   if (use_of(*row, context_) != mainwindow::Use::kInUse) return false;
-  mainwindow::Opening opening{services(), context_, form_, last_quadrant_};
+  const std::string last_quadrant =
+      last_positions_.empty() ? std::string() : text::format_int(last_positions_.front().quadrant);
+  mainwindow::Opening opening{services(), context_, form_, last_quadrant, &land_};
   const bool confirmed = row->open(opening);
   refresh();
   if (confirmed) {
@@ -255,10 +260,12 @@ void CVelmaranDlg::correct(const std::string& path) {
   form_.load_record(opened->record);
   correction_ = opened->correction;
   typing_ = false;
+  find_last_positions();
   refresh();
   focus(*fields_.front().control);
   tab_flags_.arm();
   mainwindow::tell_notes(services(), *opened);
+  tell_map_troubles();
 }
 
 // A new date or hour is another report: the next observation may be entered over the last one, and
@@ -351,13 +358,16 @@ bool CVelmaranDlg::save() {
   correction_ = {};
   typing_ = false;
   saved_once_ = true;
-  find_last_position();
+  find_last_positions();
+  show_map();
   return true;
 }
 
-void CVelmaranDlg::find_last_position() {
-  const auto position = mainwindow::last_saved_position(services().files, context_.folders.reports);
-  last_quadrant_ = position ? text::format_int(position->quadrant) : std::string();
+void CVelmaranDlg::find_last_positions() {
+  constexpr std::size_t kTrack = 8;  // a day, where every synoptic hour is reported
+  last_positions_ =
+      mainwindow::last_saved_positions(services().files, context_.folders.reports, kTrack,
+                                       correcting() ? correction_.goes_to : std::string());
 }
 
 // Warnings only: is the ship where it can be, after a new date, hour or position; and is the dew
@@ -366,7 +376,32 @@ void CVelmaranDlg::tell_doubts() {
   const elements::Doubts doubts = form_.take_doubts();
   if (doubts.doubled_pressure) services().messages.error(id::kDoubledPressure);
   if (!doubts.review) return;
-  CHour3ErrorDlg::show(services(), elements::review_position(
-                                       form_.record(), services().files, context_.folders.reports,
-                                       context_.is_on_land, services().texts));
+  const auto here = elements::signed_position(form_.record());
+  CHour3ErrorDlg::show(
+      services(),
+      elements::review_position(
+          form_.record(), services().files, context_.folders.reports,
+          [this](double latitude, double longitude) {
+            return land_.is_land({latitude, longitude});
+          },
+          services().texts, here && land_.is_confirmed({here->latitude, here->longitude})));
+  tell_map_troubles();
+}
+
+void CVelmaranDlg::show_map() {
+  if (map_ != nullptr) map_->show(mainwindow::ship_on_map(form_, last_positions_));
+}
+
+void CVelmaranDlg::tell_map_troubles() {
+  if (context_.sea_map == nullptr) return;
+  const text::Texts& texts = services().texts;
+  std::string files;
+  for (const map::TileTrouble& trouble : context_.sea_map->take_troubles()) {
+    const text::Id why = trouble.error == platform::FileError::kNone
+                             ? id::kReasonDamaged
+                             : text::reason_of(trouble.error);
+    files.append("\n").append(
+        text::fill(texts.get(id::kFileAndReason), {trouble.path, texts.get(why)}));
+  }
+  if (!files.empty()) services().messages.error_filled(id::kSeaMapUnusable, {files});
 }

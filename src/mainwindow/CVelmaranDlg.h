@@ -14,12 +14,14 @@
 #include "elements/form/correction.h"
 #include "elements/form/draft.h"
 #include "elements/form/observation_form.h"
+#include "mainwindow/LandWatch.h"
 #include "mainwindow/context.h"
 #include "mainwindow/draft_keeper.h"
 #include "mainwindow/element_openers.h"
 #include "mainwindow/form_rows.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/tab_flags.h"
+#include "map/CPictureStatic.h"
 #include "ui/observation_view.h"
 #include "ui/screen.h"
 
@@ -128,7 +130,11 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void end();
   /// True when the report was written; the entries stay.
   bool save();
-  void find_last_position();
+  /// Looks for the ship's last reports, before the one that is being corrected where there is one.
+  void find_last_positions();
+  void show_map();
+  /// Says which tiles of the sea map cannot be used, each once.
+  void tell_map_troubles();
   void tell_doubts();
 
   // Drafts: entries that outlive the program.
@@ -150,7 +156,9 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   std::vector<ReportGroup> groups_;
   ui::Control* call_sign_ = nullptr;
   ui::Control* ice_word_ = nullptr;
-  std::string last_quadrant_;
+  CPictureStatic* map_ = nullptr;  ///< none without a sea map
+  mainwindow::LandWatch land_;
+  std::vector<TenthsPosition> last_positions_;  ///< of the last reports, the newest first
   elements::Correction correction_;
   mainwindow::TabFlags tab_flags_;
   bool typing_ = false;  ///< the field that has the focus holds a text that was not taken yet

@@ -25,11 +25,15 @@ CVelmaranDlg::CVelmaranDlg(ui::Services& services, mainwindow::MainWindowContext
     : Screen(services, "CVelmaranDlg", {id::kMainTitle, 0}),
       context_(std::move(context)),
       form_(context_.ship, context_.items, services.clock),
-      keeper_(services.files, context_.folders.drafts) {
+      keeper_(services.files, context_.folders.drafts),
+      land_(context_.sea_map) {
   select_on_focus(kSelectedOnFocus);
   add_labels();
   fields_.reserve(mainwindow::field_rows().size());
   for (const mainwindow::FieldRow& row : mainwindow::field_rows()) add_field(row);
+  if (context_.sea_map != nullptr)
+    map_ = &add<CPictureStatic>("position_map", text::Ref{id::kMapCaption}, services,
+                                *context_.sea_map);
   add_report();
 }
 
@@ -141,6 +145,7 @@ void CVelmaranDlg::refresh() {
   }
   show_choices();
   show_report();
+  show_map();
 }
 
 // The reason, none for a field that is open.

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "map/tiles/SeaMap.h"
 #include "ship/data/KeyObservationItems.h"
 #include "ship/data/ShipFixedData.h"
 
@@ -32,9 +33,9 @@ struct MainWindowContext {
   KeyObservationItems& items;
   Folders& folders;
   std::function<void()> save_fixed_data;  ///< writes `ship` to FIXDATA.DAT
-  /// True when a position lies on land or in a coastal region; degrees, north and east positive.
-  /// Not set: no land is known.
-  std::function<bool(double latitude, double longitude)> is_on_land = {};
+  /// What is land, and what the position is drawn on; none: no land is known, and no position is
+  /// drawn.
+  map::SeaMap* sea_map = nullptr;
   /// Keeps a folder under a key of the settings file.
   std::function<void(std::string_view key, std::string_view folder)> keep_folder = {};
 };

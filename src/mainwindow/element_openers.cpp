@@ -25,6 +25,7 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
+#include "elements/form/position_review.h"
 #include "elements/formulas/sea_level_pressure.h"
 #include "mainwindow/entry_messages.h"
 #include "mainwindow/form_rows.h"
@@ -151,18 +152,29 @@ bool open_time(Opening& opening) {
 
 bool open_position(Opening& opening) {
   const R& record = opening.form.record();
+  LandWatch no_land(nullptr);
+  LandWatch& land = opening.land == nullptr ? no_land : *opening.land;
   CPositionDlg dialog(opening.services,
                       {record.LaDeg, record.LaMin, record.LoDeg, record.LoMin, record.Qc},
-                      opening.last_quadrant, opening.context.is_on_land,
+                      opening.last_quadrant,
+                      [&](double latitude, double longitude) {
+                        const map::Place place{latitude, longitude};
+                        return !land.is_confirmed(place) && land.is_land(place);
+                      },
                       {opening.form.entries().north_south, opening.form.entries().east_west});
   const CPositionDlg::Values& v = dialog.values();
-  return fill_record(opening, dialog,
-                     {{&R::LaDeg, v.LaDeg},
-                      {&R::LaMin, v.LaMin},
-                      {&R::LoDeg, v.LoDeg},
-                      {&R::LoMin, v.LoMin},
-                      {&R::Qc, v.Qc}},
-                     {Field::kLaDeg, Field::kLaMin, Field::kLoDeg, Field::kLoMin});
+  if (!fill_record(opening, dialog,
+                   {{&R::LaDeg, v.LaDeg},
+                    {&R::LaMin, v.LaMin},
+                    {&R::LoDeg, v.LoDeg},
+                    {&R::LoMin, v.LoMin},
+                    {&R::Qc, v.Qc}},
+                   {Field::kLaDeg, Field::kLaMin, Field::kLoDeg, Field::kLoMin}))
+    return false;
+  // Whatever the question was, it is answered.
+  if (const auto at = elements::signed_position(record))
+    land.confirm({at->latitude, at->longitude});
+  return true;
 }
 
 // The reading is taken as if it had been typed: an unusual pressure at sea level asks, and No keeps

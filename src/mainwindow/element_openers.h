@@ -5,6 +5,7 @@
 #include <string>
 
 #include "elements/form/observation_form.h"
+#include "mainwindow/LandWatch.h"
 #include "mainwindow/context.h"
 #include "ui/services.h"
 
@@ -16,6 +17,7 @@ struct Opening {
   MainWindowContext& context;
   elements::ObservationForm& form;
   std::string last_quadrant;  ///< Qc of the ship's last saved report, empty when there is none
+  LandWatch* land = nullptr;  ///< none: no land is known
 };
 
 /// Constructs the element's dialog from the form's values, runs it, and on OK puts its result back.

@@ -274,7 +274,6 @@ inline constexpr Id kLabelPercent{11068};
 inline constexpr Id kLabelTensOfDegrees{11069};
 inline constexpr Id kLabelKnots{11070};
 inline constexpr Id kLabelSeconds{11071};
-inline constexpr Id kLabelMap{11072};
 inline constexpr Id kLabelLoadingState{11073};
 
 // Main window: menus
@@ -1237,5 +1236,28 @@ inline constexpr Id kNowCopying{44034};
 inline constexpr Id kAskDeleteOn{44037};
 inline constexpr Id kSelectReportsTitle{44035};
 inline constexpr Id kReportsToCopy{44036};
+
+// Position map
+inline constexpr Id kMapCaption{44100};
+inline constexpr Id kMapTitle{44101};
+inline constexpr Id kMapMissing{44102};
+inline constexpr Id kMapDegrees{44103};
+inline constexpr Id kMapMinutes{44104};
+inline constexpr Id kMapShown{44105};
+inline constexpr Id kMapWholeTile{44106};
+inline constexpr Id kMapTenDegrees{44107};
+inline constexpr Id kMapFiveDegrees{44108};
+inline constexpr Id kMapOneDegree{44109};
+inline constexpr Id kMapCloser{44110};
+inline constexpr Id kMapWider{44111};
+inline constexpr Id kMapPosition{44112};
+inline constexpr Id kMapHeight{44113};
+inline constexpr Id kMapArrowHours{44114};
+inline constexpr Id kMapArrow{44115};
+inline constexpr Id kMapNoPosition{44116};
+
+// Sea map
+inline constexpr Id kSeaMapUnusable{44140};
+inline constexpr Id kReasonDamaged{44141};
 
 }  // namespace text::id

@@ -85,6 +85,9 @@ class Control {
   std::vector<TreeRow> rows;  ///< tree only
   /// Picture only: what is drawn, instead of a file. Another drawing is another object.
   std::shared_ptr<const Drawing> drawing;
+  /// Picture only: its drawing tells what other controls say already. Where changes are listed, its
+  /// name is enough.
+  bool drawing_repeats = false;
   int selected = -1;  ///< line of a drop-down, list, choice or tree
   int beside_line =
       -1;  ///< picture: the line of the screen's choice that it shows, where it shows one
@@ -99,6 +102,9 @@ class Control {
   std::string mark;    ///< state that a front end may show ("missing", "wrong"); empty for none
   Control* continues_in = nullptr;  ///< the field of the decimals: a point goes on to it
   bool unchecked = false;  ///< typed into, or left, without its check since; kept by the screen
+  /// Keys that press it whatever field of the screen has the focus ("F7"), or a character that does
+  /// where it can not be typed ("+"); empty for none. The text outlives the control.
+  std::string_view shortcut;
   std::string why_locked;  ///< why it is locked or disabled, for the person; empty when it is not
 
   /// Runs when the focus leaves after the content was narrowed; false refuses: the focus comes back

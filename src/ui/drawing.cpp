@@ -48,7 +48,7 @@ std::string written(const Axis& axis) {
 }
 
 std::string_view name_of(Marker::Sign sign) {
-  static constexpr std::array<std::string_view, 3> kNames = {"dot", "ring", "cross"};
+  static constexpr std::array<std::string_view, 4> kNames = {"dot", "ring", "cross", "speck"};
   return kNames[static_cast<std::size_t>(sign)];
 }
 
@@ -66,6 +66,7 @@ struct Describe {
     std::string out;
     if (line.thick) out += "thick ";
     if (line.dashed) out += "dashed ";
+    if (line.arrow) out += "arrow ";
     return out.append("line ").append(ui::name_of(line.ink)) + written(line.points);
   }
   std::string operator()(const Marker& marker) const {
@@ -77,6 +78,23 @@ struct Describe {
            std::string(name_of(text.side)) + " " + written(text.at);
   }
 };
+
+// Its inks in the order in which they are painted, then its texts.
+std::string written_ground(const std::vector<Shape>& ground) {
+  std::vector<std::string_view> inks;
+  std::string texts;
+  for (const Shape& shape : ground) {
+    const Ink ink = std::visit([](const auto& any) { return any.ink; }, shape);
+    if (const auto* const text = std::get_if<ShortText>(&shape)) {
+      texts.append(" ").append(quoted(text->text));
+    } else if (std::find(inks.begin(), inks.end(), ui::name_of(ink)) == inks.end()) {
+      inks.push_back(ui::name_of(ink));
+    }
+  }
+  std::string out = "ground of";
+  for (const std::string_view ink : inks) out.append(" ").append(ink);
+  return out.append(texts);
+}
 
 bool is_within(const Axis& axis, double value) {
   return value >= std::min(axis.first, axis.last) && value <= std::max(axis.first, axis.last);
@@ -91,7 +109,7 @@ double share(const Axis& axis, double value) {
 
 std::string_view name_of(Ink ink) {
   static constexpr std::array<std::string_view, kInks> kNames = {
-      "text", "faint", "mark", "land", "water", "ice", "caution", "alarm"};
+      "text", "faint", "mark", "land", "water", "ice", "caution", "alarm", "coast"};
   return kNames[static_cast<std::size_t>(ink)];
 }
 
@@ -101,6 +119,7 @@ bool is_inside(const Drawing& drawing, Point point) {
 
 std::vector<std::string> describe(const Drawing& drawing) {
   std::vector<std::string> lines{written(drawing.x) + ", " + written(drawing.y)};
+  if (!drawing.ground.empty()) lines.push_back(written_ground(drawing.ground));
   const std::size_t shown = std::min(drawing.shapes.size(), kShapesShown);
   for (std::size_t i = 0; i < shown; ++i)
     lines.push_back(std::visit(Describe{}, drawing.shapes[i]));
@@ -114,9 +133,19 @@ DrawingPlace::DrawingPlace(const Drawing& drawing, double width, double height)
   if (!drawing.same_scale) return;
   const double across = std::abs(x_.last - x_.first);
   const double up = std::abs(y_.last - y_.first);
-  const double scale = std::min(width_ / across, height_ / up);
-  corner_ = {(width_ - across * scale) / 2, (height_ - up * scale) / 2};
-  width_ = across * scale;
+  const double unit = drawing.x_unit;
+  const double fitting = width_ / (across * unit);
+  const double scale = drawing.sides_cut ? height_ / up : std::min(fitting, height_ / up);
+  if (scale > fitting) {
+    // In a room of no height there is nothing to choose from.
+    const double middle = (x_.first + x_.last) / 2;
+    const double shown = (x_.last - x_.first) * fitting / scale;
+    x_.first = middle - shown / 2;
+    x_.last = middle + shown / 2;
+    return;
+  }
+  corner_ = {(width_ - across * unit * scale) / 2, (height_ - up * scale) / 2};
+  width_ = across * unit * scale;
   height_ = up * scale;
 }
 

@@ -3,6 +3,7 @@
 // curves and pictures of waves are drawings; every front end paints them in its own colours and
 // size, a printer prints them, and a script reads what is on them.
 
+#include <cmath>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,8 +28,9 @@ enum class Ink {
   kIce,      ///< for areas
   kCaution,  ///< what is to be looked at
   kAlarm,    ///< what is wrong
+  kCoast,    ///< where land and water meet
 };
-inline constexpr int kInks = 8;
+inline constexpr int kInks = 9;
 
 /// "text", "faint" … as `show` prints it.
 [[nodiscard]] std::string_view name_of(Ink ink);
@@ -38,6 +40,7 @@ struct Polyline {
   Ink ink = Ink::kText;
   bool thick = false;
   bool dashed = false;
+  bool arrow = false;  ///< ends in a head of the size of a letter
   bool operator==(const Polyline&) const = default;
 };
 
@@ -50,7 +53,7 @@ struct Area {
 
 /// A sign of the size of a letter, whatever the scale.
 struct Marker {
-  enum class Sign { kDot, kRing, kCross };
+  enum class Sign { kDot, kRing, kCross, kSpeck };  ///< a speck is as small as can be seen
   Point at;
   Sign sign = Sign::kDot;
   Ink ink = Ink::kMark;
@@ -64,6 +67,10 @@ struct ShortText {
   std::string text;
   Side side = Side::kCentre;  ///< where it stands, seen from the point
   Ink ink = Ink::kText;
+  /// Names a line of a grid: stands beside the line at this edge of what is shown, wherever that
+  /// edge is, and is left out where it would be cut or cover a marker or another text.
+  enum class Edge { kNone, kLeft, kBottom };
+  Edge edge = Edge::kNone;
   bool operator==(const ShortText&) const = default;
 };
 
@@ -84,16 +91,27 @@ struct Drawing {
   bool same_scale = false;
   int characters = 40;  ///< least width, in figures of the usual font
   int lines = 12;       ///< least height
+  bool grows = false;  ///< takes up the room that is left across and down
   /// Painted in this order; what lies outside the range is cut off.
   std::vector<Shape> shapes = {};
+  /// Painted before all others, its areas to the pixel, so that two that share an edge leave no gap.
+  /// It may be of many shapes: what is told of it is short.
+  std::vector<Shape> ground = {};
+  /// With `same_scale`: what one unit across is in units up (on a map less than 1, since the
+  /// meridians come together towards a pole).
+  double x_unit = 1;
+  /// With `same_scale`: the height is always filled, and of the width as much is shown around its
+  /// middle as there is room for.
+  bool sides_cut = false;
   bool operator==(const Drawing&) const = default;
 };
 
 /// True when the point lies within both axes, edges included.
 [[nodiscard]] bool is_inside(const Drawing& drawing, Point point);
 
-/// The axes on the first line, then a line for each shape; many shapes, and a shape of many points,
-/// are cut short with their number.
+/// The axes on the first line, what the ground is made of and the texts on it on the second, then a
+/// line for each other shape; many shapes, and a shape of many points, are cut short with their
+/// number.
 [[nodiscard]] std::vector<std::string> describe(const Drawing& drawing);
 
 /// Where a drawing lies in a room of so many pixels, and so where its points are and what a click
@@ -107,6 +125,9 @@ class DrawingPlace {
   [[nodiscard]] Point corner() const { return corner_; }
   [[nodiscard]] double width() const { return width_; }
   [[nodiscard]] double height() const { return height_; }
+
+  /// Pixels of one unit up.
+  [[nodiscard]] double scale() const { return height_ / std::abs(y_.last - y_.first); }
 
   /// Pixels from the top left corner of the room.
   [[nodiscard]] Point pixel_of(Point point) const;

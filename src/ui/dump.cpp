@@ -100,6 +100,7 @@ std::string flags_of(const ControlView& view) {
   if (!view.enabled) add_flag(flags, "disabled");
   if (view.locked) add_flag(flags, "locked");
   if (!view.why.empty()) add_flag(flags, "why " + quoted(view.why));
+  if (!view.shortcut.empty()) add_flag(flags, "key " + view.shortcut);
   if (view.focused) add_flag(flags, "focus");
   // Elsewhere it is only how wide the field is drawn.
   const bool typed = view.kind == Kind::kEdit || view.kind == Kind::kCombo;
@@ -170,6 +171,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   for (const TreeRow& row : control.rows) view.lines.push_back(row_line(row));
   if (control.kind == Kind::kChoice) view.line_codes = control.item_codes;
   if (control.drawing != nullptr) view.drawing = describe(*control.drawing);
+  view.drawing_repeats = control.drawing_repeats;
   const auto& disabled = control.item_disabled;
   if (std::find(disabled.begin(), disabled.end(), true) != disabled.end())
     view.line_disabled = disabled;
@@ -180,6 +182,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   view.focused = screen.focused() == &control;
   view.max_length = control.max_length;
   view.why = control.why_locked;
+  view.shortcut = control.shortcut;
   return view;
 }
 

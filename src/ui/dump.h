@@ -23,12 +23,14 @@ struct ControlView {
   std::vector<bool> line_disabled;      ///< choice only; empty when all can be picked
   std::vector<bool> line_ticked;        ///< list only; empty when its lines have no boxes
   std::vector<std::string> drawing;     ///< describe() of a picture's drawing; empty without one
+  bool drawing_repeats = false;         ///< Control::drawing_repeats
   bool enabled = true;
   bool visible = true;
   bool locked = false;
   bool focused = false;
   int max_length = 0;
-  std::string why;  ///< why it is locked or disabled
+  std::string why;            ///< why it is locked or disabled
+  std::string shortcut = {};  ///< keys that press it
   bool operator==(const ControlView&) const = default;
 };
 

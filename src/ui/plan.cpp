@@ -246,7 +246,7 @@ Extent extent_of(const Control& control) {
       break;
     case Kind::kPicture:
       if (control.drawing == nullptr) break;
-      return {control.drawing->characters, 0, control.drawing->lines, false};
+      return {control.drawing->characters, 0, control.drawing->lines, control.drawing->grows};
   }
   return {};
 }

@@ -32,6 +32,14 @@ bool is_too_long(std::string_view text, const Control& field) {
   return field.max_length > 0 && text::length(text) > static_cast<std::size_t>(field.max_length);
 }
 
+bool same_keys(std::string_view a, std::string_view b) {
+  const auto small = [](char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [&](char one, char other) { return small(one) == small(other); });
+}
+
 }  // namespace
 
 // One event at a time: a message shown by a handler makes a windowing system send focus events of
@@ -70,6 +78,17 @@ std::string Screen::title() const {
 Control* Screen::find(std::string_view name) const {
   const auto at = std::find_if(controls_.begin(), controls_.end(),
                                [&](const Control* c) { return c->name == name; });
+  return at == controls_.end() ? nullptr : *at;
+}
+
+Control* Screen::pressed_by(std::string_view keys) const {
+  const bool character = text::length(keys) == 1;
+  const bool is_typed = focused_ != nullptr && !focused_->read_only &&
+                        (focused_->kind == Kind::kEdit || focused_->kind == Kind::kCombo);
+  if (keys.empty() || (character && is_typed)) return nullptr;
+  const auto at = std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) {
+    return c->enabled && c->visible && same_keys(c->shortcut, keys);
+  });
   return at == controls_.end() ? nullptr : *at;
 }
 

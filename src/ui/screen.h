@@ -56,6 +56,9 @@ class Screen {
   [[nodiscard]] virtual std::string title() const;
   [[nodiscard]] std::span<Control* const> controls() const { return controls_; }
   [[nodiscard]] Control* find(std::string_view name) const;
+  /// The control that these keys press now (Control::shortcut, in any case): nothing where it is
+  /// hidden or disabled, or where a character is typed into the field that has the focus.
+  [[nodiscard]] Control* pressed_by(std::string_view keys) const;
   [[nodiscard]] std::string caption(const Control& control) const;
   [[nodiscard]] std::string english_caption(const Control& control) const;
   [[nodiscard]] std::string unit(const Control& control) const;

@@ -84,7 +84,10 @@ std::vector<ui::ControlView> widget_views(const desktop::ScreenWindow& window) {
     view.enabled = binding->widget()->isEnabledTo(binding->widget()->parentWidget());
     view.visible = !binding->widget()->isHidden();
     view.locked = control.kind == ui::Kind::kReadOnly ? false : is_locked(binding->widget());
-    view.why = binding->widget()->toolTip().toStdString();
+    view.why = binding->widget()->accessibleDescription().toStdString();
+    const std::string tip = binding->widget()->toolTip().toStdString();
+    EXPECT_TRUE(view.why.empty() || tip == view.why) << control.name;
+    if (tip.find(control.shortcut) != std::string::npos) view.shortcut = control.shortcut;
     view.focused = binding->owns(window.focusWidget());
     views.push_back(std::move(view));
   }

@@ -28,8 +28,10 @@
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
 #include "fakes/sample_archive.h"
+#include "fakes/sample_sea_map.h"
 #include "fakes/sample_ship.h"
 #include "mainwindow/CVelmaranDlg.h"
+#include "map/CSeaMapDlg.h"
 #include "media/CLogDiskSavePathDlg.h"
 #include "ship/CFixDataDlg.h"
 #include "ship/CFullEmptySelect.h"
@@ -88,6 +90,13 @@ class OfArchive : private SampleArchive, public Dialog {
 
  private:
   int line_;
+};
+
+class LargerMap : private SampleSeaMap, public CSeaMapDlg {
+ public:
+  explicit LargerMap(ui::Services& services)
+      : CSeaMapDlg(services, sea_map,
+                   {map::Place{33.5, 141.5}, 135.0, 14.0, {{36.5, 138.5}, {35.2, 140.3}}}) {}
 };
 
 // Every dialog that picks codes, on the last line of each of its tables.
@@ -233,6 +242,9 @@ std::vector<ScreenCase> make_table() {
       // mainwindow
       {"CVelmaranDlg",
        [](ui::Services& services) -> Made { return std::make_unique<MainWindow>(services); }},
+      // map
+      {"CSeaMapDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<LargerMap>(services); }},
       // media
       {"CLogDiskSavePathDlg",
        [](ui::Services& services) -> Made {

@@ -14,6 +14,7 @@ class CMapDlg : public ui::Screen {
     map.on_point = [this](ui::Point at) { draw(at); };
     picture.content = "waves.png";
     picture.on_press = [this] { note.content = "pressed"; };
+    picture.shortcut = "F7";
   }
   ui::Edit note{*this, "note"};
   ui::Picture map{*this, "map"};
@@ -56,7 +57,7 @@ TEST(ScriptedPicture, IsToldByShow) {
       << played.transcript;
   EXPECT_NE(played.transcript.find("    dot mark (135 35)\n"), std::string::npos)
       << played.transcript;
-  EXPECT_NE(played.transcript.find("picture picture = \"waves.png\"\n"), std::string::npos);
+  EXPECT_NE(played.transcript.find("picture picture = \"waves.png\" [key F7]\n"), std::string::npos);
 }
 
 TEST(ScriptedPicture, IsClickedAtAPlaceAndTellsWhatIsDrawnThen) {
@@ -73,6 +74,12 @@ TEST(ScriptedPicture, IsClickedAtAPlaceAndTellsWhatIsDrawnThen) {
 TEST(ScriptedPicture, IsClickedWithoutAPlaceAsALabelIs) {
   const auto played = play("start\nclick picture\nexpect note pressed\nclose\n");
   EXPECT_EQ(played.status, 0) << played.error;
+}
+
+TEST(ScriptedPicture, IsPressedByItsKeys) {
+  const auto played = play("start\nkey f7\nexpect note pressed\nclose\n");
+  EXPECT_EQ(played.status, 0) << played.error;
+  EXPECT_EQ(play("start\nkey F8\nclose\n").status, 2);
 }
 
 TEST(ScriptedPicture, CannotBeClickedWhereThereIsNoPlace) {

@@ -377,7 +377,7 @@ TEST(Session, StopsWithStatusTwoLineAndReasonWhenACommandCannotBeCarriedOut) {
       {"start\nkey F2\n",
        "line 2: no key \"F2\"; F1, Enter, Escape, Tab, Shift+Tab, an arrow, Home, End, PageUp, "
        "PageDown, Space, one "
-       "character or the keys of a menu command"},
+       "character or the keys of a menu command or a control"},
       {"start\nanswer ok\n", "line 2: there is no question to answer"},
       {"start\npress ask\nanswer maybe\n", "line 3: no button \"maybe\"; there are [YES] [NO]"},
       {"start\npress ask\nset note x\n",

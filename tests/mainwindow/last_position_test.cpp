@@ -19,11 +19,11 @@ TEST(LastPosition, IsThatOfTheNewestReportByItsName) {
   files.add_file("C:\\out\\14123118.tlx", report("99353 11400"));
   files.add_file("C:\\out\\15010100.tlx", report("99101 71200"));
   files.add_file("C:\\out\\14111512.tlx", report("99200 31400"));
-  const auto position = mainwindow::last_saved_position(files, kFolder);
-  ASSERT_TRUE(position.has_value());
-  EXPECT_EQ(7, position->quadrant);
-  EXPECT_EQ(101, position->latitude);
-  EXPECT_EQ(1200, position->longitude);
+  const auto positions = mainwindow::last_saved_positions(files, kFolder, 1);
+  ASSERT_EQ(1U, positions.size());
+  EXPECT_EQ(7, positions[0].quadrant);
+  EXPECT_EQ(101, positions[0].latitude);
+  EXPECT_EQ(1200, positions[0].longitude);
 }
 
 TEST(LastPosition, PassesOverReportsWithoutAReadablePosition) {
@@ -33,19 +33,39 @@ TEST(LastPosition, PassesOverReportsWithoutAReadablePosition) {
   files.add_file("C:\\out\\14111518.tlx", "no report at all");
   files.add_file("C:\\out\\14111521.tlx", report("99100 51400"));
   files.fail_next(fakes::FakeFiles::Operation::kRead, platform::FileError::kAccessDenied);
-  const auto position = mainwindow::last_saved_position(files, kFolder);
-  ASSERT_TRUE(position.has_value());
-  EXPECT_EQ(3, position->quadrant);
+  const auto positions = mainwindow::last_saved_positions(files, kFolder, 2);
+  ASSERT_EQ(1U, positions.size());
+  EXPECT_EQ(3, positions[0].quadrant);
 }
 
 TEST(LastPosition, IsNothingWithoutReports) {
   fakes::FakeFiles files;
-  EXPECT_FALSE(mainwindow::last_saved_position(files, "").has_value());
-  EXPECT_FALSE(mainwindow::last_saved_position(files, "C:\\nowhere\\").has_value());
+  EXPECT_TRUE(mainwindow::last_saved_positions(files, "", 1).empty());
+  EXPECT_TRUE(mainwindow::last_saved_positions(files, "C:\\nowhere\\", 1).empty());
   files.add_folder(kFolder);
   files.add_file("C:\\out\\notes.txt", report("99353 11400"));
   files.add_file("C:\\out\\last.tlx", report("99353 11400"));
-  EXPECT_FALSE(mainwindow::last_saved_position(files, kFolder).has_value());
+  EXPECT_TRUE(mainwindow::last_saved_positions(files, kFolder, 1).empty());
+}
+
+TEST(LastPositions, AreTheNewestFirstAndThoseBeforeAReport) {
+  fakes::FakeFiles files;
+  files.add_file("C:\\out\\14123118.tlx", report("99353 11400"));
+  files.add_file("C:\\out\\15010100.tlx", report("99101 71200"));
+  files.add_file("C:\\out\\14111512.tlx", report("99200 31400"));
+  const auto latitudes = [&](std::size_t count, std::string_view before) {
+    std::vector<int> found;
+    for (const auto& at : mainwindow::last_saved_positions(files, kFolder, count, before))
+      found.push_back(at.latitude);
+    return found;
+  };
+  using Found = std::vector<int>;
+  EXPECT_EQ(latitudes(8, ""), (Found{101, 353, 200}));
+  EXPECT_EQ(latitudes(2, ""), (Found{101, 353}));
+  EXPECT_EQ(latitudes(8, "15010100.tlx"), (Found{353, 200}));
+  EXPECT_EQ(latitudes(8, "14111512.tlx"), Found{});
+  EXPECT_EQ(latitudes(8, "15010103.tlx"), (Found{101, 353, 200}));
+  EXPECT_EQ(latitudes(8, "no date.tlx"), (Found{101, 353, 200}));
 }
 
 }  // namespace

@@ -22,8 +22,8 @@ using fakes::sample_ship;
 
 struct Opened {
   explicit Opened(ShipFixedData with = sample_ship(), KeyObservationItems observed = {},
-                  bool japanese_system = false)
-      : ship(std::move(with)), items(observed) {
+                  bool japanese_system = false, map::SeaMap* map = nullptr)
+      : ship(std::move(with)), items(observed), sea_map(map) {
     files.add_folder(kReports);
     files.add_folder("C:\\log\\");
     files.add_folder("C:\\kavrel\\file\\");
@@ -64,10 +64,11 @@ struct Opened {
   fakes::World world{files};
   ShipFixedData ship;
   KeyObservationItems items;
+  map::SeaMap* sea_map;  ///< none: no land is known
   mainwindow::Folders folders;
   std::vector<std::string> told;  ///< the callbacks that were called
   CVelmaranDlg window{world.services,
-                      {ship, items, folders, [this] { told.emplace_back("fixed data"); }}};
+                      {ship, items, folders, [this] { told.emplace_back("fixed data"); }, sea_map}};
 };
 
 inline void Opened::menu(std::string_view path) {

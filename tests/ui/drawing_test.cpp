@@ -62,6 +62,23 @@ TEST(Drawing, CutsLongTellingsShortWithTheirNumber) {
   EXPECT_EQ(ui::describe(drawing).back(), "… (61 shapes)");
 }
 
+TEST(Drawing, TellsItsGroundInOneLineByInksAndTexts) {
+  ui::Drawing drawing = chart();
+  ui::Polyline arrow{{{131, 31}, {132, 32}}, ui::Ink::kMark};
+  arrow.arrow = true;
+  drawing.shapes = {arrow, ui::Marker{{131, 31}, ui::Marker::Sign::kSpeck}};
+  drawing.ground.assign(100, ui::Area{{{130, 30}, {135, 30}, {130, 34.5}}, ui::Ink::kWater});
+  drawing.ground.emplace_back(ui::Area{});
+  drawing.ground.emplace_back(ui::Polyline{{}, ui::Ink::kCoast});
+  drawing.ground.emplace_back(ui::Area{});
+  drawing.ground.emplace_back(ui::ShortText{{140, 35}, "35°N"});
+  drawing.ground.emplace_back(ui::ShortText{{140, 35}, "a \"b\""});
+  EXPECT_EQ(ui::describe(drawing),
+            (std::vector<std::string>{"longitude 130 to 150, latitude 30 to 40",
+                                      "ground of water land coast \"35°N\" \"a \\\"b\\\"\"",
+                                      "arrow line mark (131 31) (132 32)", "speck mark (131 31)"}));
+}
+
 TEST(Drawing, EveryInkHasANameOfItsOwn) {
   std::set<std::string_view> names;
   for (int ink = 0; ink < ui::kInks; ++ink) names.insert(ui::name_of(static_cast<ui::Ink>(ink)));
@@ -98,6 +115,36 @@ TEST(DrawingPlace, KeepsTheShapeOfThingsInTheMiddleOfItsRoom) {
   EXPECT_EQ(high.height(), 50);
   EXPECT_EQ(high.point_at({0, 0}), std::nullopt);
   EXPECT_EQ(high.point_at({100, 225}), (Point{150, 40}));
+}
+
+TEST(DrawingPlace, KnowsAUnitAcrossThatIsShorterThanOneUp) {
+  ui::Drawing drawing = chart();
+  drawing.same_scale = true;
+  drawing.x_unit = 0.5;  // as wide as high
+  const ui::DrawingPlace place(drawing, 300, 100);
+  EXPECT_EQ(place.corner(), (Point{100, 0}));
+  EXPECT_EQ(place.width(), 100);
+  EXPECT_EQ(place.pixel_of({140, 35}), (Point{150, 50}));
+}
+
+TEST(DrawingPlace, FillsItsHeightAndCutsTheSides) {
+  ui::Drawing drawing = chart();
+  drawing.same_scale = true;
+  drawing.sides_cut = true;
+  const ui::DrawingPlace narrow(drawing, 50, 100);
+  EXPECT_EQ(narrow.corner(), (Point{0, 0}));
+  EXPECT_EQ(narrow.width(), 50);
+  EXPECT_EQ(narrow.height(), 100);
+  EXPECT_EQ(narrow.pixel_of({140, 35}), (Point{25, 50}));
+  EXPECT_EQ(narrow.point_at({0, 0}), (Point{137.5, 40}));
+  EXPECT_EQ(narrow.point_at({50, 100}), (Point{142.5, 30}));
+  // Wider than all there is: in the middle, as any other.
+  const ui::DrawingPlace wide(drawing, 500, 100);
+  EXPECT_EQ(wide.corner(), (Point{150, 0}));
+  EXPECT_EQ(wide.width(), 200);
+  EXPECT_EQ(wide.pixel_of({130, 40}), (Point{150, 0}));
+  for (const auto& [width, height] : {std::pair{0.0, 0.0}, {0.0, 50.0}, {50.0, 0.0}})
+    EXPECT_EQ(ui::DrawingPlace(drawing, width, height).point_at({0, 0}), std::nullopt);
 }
 
 TEST(DrawingPlace, FindsThePointUnderEveryPixelAgain) {
@@ -216,6 +263,9 @@ TEST_F(AChart, HasTheRoomThatItsDrawingWants) {
   drawing.lines = 7;
   screen.map.drawing = std::make_shared<const ui::Drawing>(drawing);
   EXPECT_TRUE(ui::extent_of(screen.map) == (ui::Extent{33, 0, 7, false}));
+  drawing.grows = true;
+  screen.map.drawing = std::make_shared<const ui::Drawing>(drawing);
+  EXPECT_TRUE(ui::extent_of(screen.map) == (ui::Extent{33, 0, 7, true}));
   EXPECT_TRUE(ui::extent_of(screen.file) == ui::Extent{});
 }
 

@@ -66,13 +66,10 @@ EarlierPosition earlier_position(const Struct_Weather& record, const platform::F
 
 std::string review_position(const Struct_Weather& record, const platform::Files& files,
                             const std::string& report_folder, const LandTest& is_on_land,
-                            const text::Texts& texts) {
+                            const text::Texts& texts, bool land_confirmed) {
   const auto here = signed_position(record);
   if (!here) return {};
   std::string warnings;
-  if (is_on_land && is_on_land(here->latitude, here->longitude))
-    // The text of the dialog's question; here it only warns.
-    warnings += on_one_line(texts.get(id::kOnLandQuestion));
   const auto current = record.position();
   const auto earlier = earlier_position(record, files, report_folder);
   if (current && earlier.unreadable != platform::FileError::kNone)
@@ -84,6 +81,10 @@ std::string review_position(const Struct_Weather& record, const platform::Files&
         message)
       warnings += on_one_line(texts.get(message));
   }
+  const bool news = !land_confirmed || !warnings.empty();
+  if (news && is_on_land && is_on_land(here->latitude, here->longitude))
+    // The text of the dialog's question; here it only warns, and comes first.
+    warnings.insert(0, on_one_line(texts.get(id::kOnLandQuestion)));
   return warnings;
 }
 

@@ -40,10 +40,12 @@ struct EarlierPosition {
 /// one about the movement since three hours earlier, or that the report of then cannot be read and
 /// so nothing was compared. Each without its line breaks, ended by CR LF;
 /// empty when there is nothing to warn of. Warnings only: nothing is refused. Without a land test
-/// the sea is everywhere.
+/// the sea is everywhere. That the ship is on land is no news where the officer has confirmed it
+/// (`land_confirmed`): it is told beside other warnings then, never alone.
 [[nodiscard]] std::string review_position(const Struct_Weather& record,
                                           const platform::Files& files,
                                           const std::string& report_folder,
-                                          const LandTest& is_on_land, const text::Texts& texts);
+                                          const LandTest& is_on_land, const text::Texts& texts,
+                                          bool land_confirmed = false);
 
 }  // namespace elements

@@ -1,7 +1,6 @@
 #include "map/tiles/SeaMap.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <utility>
 
@@ -14,9 +13,6 @@ namespace {
 constexpr std::size_t kKept = 9;
 // The largest has about a megabyte.
 constexpr std::uint64_t kLargestTile = 8U << 20U;
-constexpr double kMilesOfDegree = 60.0;
-constexpr double kHalfTurn = 180.0;
-constexpr double kPole = 90.0;
 
 }  // namespace
 
@@ -24,17 +20,11 @@ SeaMap::SeaMap(const platform::Files& files, std::string folder)
     : files_(files), folder_(std::move(folder)) {}
 
 Land SeaMap::at(Place place) {
-  const Tile own = tile_of(place);
-  const auto here = coast(own);
+  const auto here = coast(tile_of(place));
   if (here != nullptr && here->is_land(place)) return Land::kYes;
-  const double up = kCoastalMiles / kMilesOfDegree;
-  // Near a pole the whole row is in reach.
-  const double nearest_pole = std::min(std::abs(place.latitude) + up, kPole);
-  const double shorter = std::cos(nearest_pole * std::acos(-1.0) / kHalfTurn);
-  const double across = shorter * kHalfTurn > up ? up / shorter : kHalfTurn;
   bool known = here != nullptr;
-  for (const Tile& tile : tiles_within(place.longitude - across, place.latitude - up,
-                                       place.longitude + across, place.latitude + up)) {
+  for (const Tile& tile : all_tiles()) {
+    if (miles_to(tile, place) > kCoastalMiles) continue;
     const auto there = coast(tile);
     if (there == nullptr)
       known = false;
@@ -67,7 +57,10 @@ std::shared_ptr<const Coast> SeaMap::read(const Tile& tile) {
   const auto text = files_.read(path, kLargestTile);
   auto coast = text.ok() ? parse_coast(*text.value, tile) : std::nullopt;
   if (coast) return std::make_shared<const Coast>(*std::move(coast));
-  troubles_.push_back({path, text.error});
+  // Without the folder there is one thing to tell, not one for each tile.
+  const bool of_folder = text.error == platform::FileError::kNotFound && !files_.is_folder(folder_);
+  if (!of_folder || !folder_told_) troubles_.push_back({of_folder ? folder_ : path, text.error});
+  folder_told_ = folder_told_ || of_folder;
   return nullptr;
 }
 

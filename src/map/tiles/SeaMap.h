@@ -21,7 +21,7 @@ enum class Land {
   kNotKnown,  ///< a tile that decides it cannot be used
 };
 
-/// A tile that cannot be used.
+/// A tile that cannot be used, or the whole folder where it is not there.
 struct TileTrouble {
   std::string path;
   platform::FileError error = platform::FileError::kNone;  ///< kNone: read, but damaged
@@ -54,6 +54,7 @@ class SeaMap {
   std::list<Kept> kept_;  ///< the one asked for last comes first
   std::vector<Tile> unusable_;
   std::vector<TileTrouble> troubles_;
+  bool folder_told_ = false;
 };
 
 }  // namespace map

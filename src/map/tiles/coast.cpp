@@ -6,14 +6,14 @@
 #include <utility>
 
 #include "text/checksum.h"
+#include "text/numbers.h"
 
 namespace map {
 namespace {
 
 constexpr int kBandsOfDegree = 4;
-constexpr double kMilesOfDegree = 60.0;
 constexpr int kAround = 360;
-constexpr int kDecimals = 3;
+constexpr int kDecimals = 3;  // and as many figures before the point, at most
 
 constexpr double degrees(std::int32_t units) {
   return static_cast<double>(units) / kUnitsOfDegree;
@@ -41,34 +41,42 @@ class Words {
 };
 
 template <class Number>
-std::optional<Number> whole(std::string_view word, int base = 10) {
+std::optional<Number> whole(std::string_view word) {
   Number number = 0;
   const char* const end = word.data() + word.size();
-  const auto [stop, error] = std::from_chars(word.data(), end, number, base);
+  const auto [stop, error] = std::from_chars(word.data(), end, number);
   if (word.empty() || error != std::errc() || stop != end) return std::nullopt;
   return number;
 }
 
-// "-17.12" as -17120. Figures, and at most three of them behind a point.
+std::string hexadecimal(std::uint64_t number) {
+  constexpr int kFigures = 16;
+  std::string figures(kFigures, '0');
+  for (auto figure = figures.rbegin(); figure != figures.rend(); ++figure, number /= kFigures)
+    *figure = "0123456789abcdef"[number % kFigures];
+  return figures;
+}
+
+// "-17.12" as -17120. One to three figures, and where there is a point one to three behind it.
 std::optional<std::int32_t> units(std::string_view word) {
   const bool negative = word.starts_with('-');
   if (negative) word.remove_prefix(1);
-  constexpr std::size_t kLongest = 7;  // 179.123
-  if (word.empty() || word.size() > kLongest) return std::nullopt;
   std::int32_t number = 0;
-  int decimals = -1;
+  int figures = 0;  // on this side of the point
+  bool behind_point = false;
   for (const char c : word) {
-    if (c == '.' && decimals < 0) {
-      decimals = 0;
-    } else if (c >= '0' && c <= '9' && decimals < kDecimals) {
+    if (c == '.' && figures > 0 && !behind_point) {
+      behind_point = true;
+      figures = 0;
+    } else if (c >= '0' && c <= '9' && figures < kDecimals) {
       number = number * 10 + (c - '0');
-      if (decimals >= 0) ++decimals;
+      ++figures;
     } else {
       return std::nullopt;
     }
   }
-  if (word == "." || word.ends_with('.')) return std::nullopt;
-  for (int figure = std::max(decimals, 0); figure < kDecimals; ++figure) number *= 10;
+  if (figures == 0) return std::nullopt;
+  for (int have = behind_point ? figures : 0; have < kDecimals; ++have) number *= 10;
   return negative ? -number : number;
 }
 
@@ -136,14 +144,15 @@ class Reader {
            latitude >= tile_.south * kUnitsOfDegree && latitude <= tile_.north * kUnitsOfDegree;
   }
 
+  // Compared as a text: no other spelling of the same numbers passes.
   bool end(std::string_view line) {
-    Words words(line);
-    words.next();
-    constexpr int kHexadecimal = 16;
-    done_ = lines_ >= 2 && missing_ == 0 && whole<std::size_t>(words.next()) == rings_.size() &&
-            whole<std::size_t>(words.next()) == points_ &&
-            whole<std::uint64_t>(words.next(), kHexadecimal) == sum_.value() &&
-            words.next().empty();
+    std::string expected = "end ";
+    expected.append(text::format_int(static_cast<long long>(rings_.size())));
+    expected.push_back(' ');
+    expected.append(text::format_int(static_cast<long long>(points_)));
+    expected.push_back(' ');
+    expected.append(hexadecimal(sum_.value()));
+    done_ = lines_ >= 2 && missing_ == 0 && line == expected;
     return done_;
   }
 
@@ -232,10 +241,9 @@ bool Coast::is_land(Place place) const {
 // Within so few miles the globe is flat: a degree of longitude is shorter by the cosine of the
 // latitude.
 bool Coast::is_near(Place place, double miles) const {
-  const double reach = miles / kMilesOfDegree;
+  const double reach = miles / kMilesOfLatitudeDegree;
   if (place.latitude + reach < tile_.south || place.latitude - reach > tile_.north) return false;
-  constexpr double kHalfTurn = 180.0;
-  const double shorter = std::max(std::cos(place.latitude * std::acos(-1.0) / kHalfTurn), 1e-6);
+  const double shorter = shortening(place.latitude);
   const double middle = (tile_.west + tile_.east) / 2.0;
   const double longitude = middle + wrapped(place.longitude - middle);
   const std::size_t first = band_of(place.latitude - reach);

@@ -36,6 +36,11 @@ double wrapped(double longitude) {
   return (turned < 0 ? turned + kAround : turned) - kDateLine;
 }
 
+double shortening(double latitude) {
+  constexpr double kLeast = 1e-6;
+  return std::max(std::cos(latitude * std::acos(-1.0) / kDateLine), kLeast);
+}
+
 std::vector<Tile> all_tiles() {
   std::vector<Tile> tiles;
   for (const Row& row : kRows) {
@@ -65,6 +70,14 @@ std::vector<Tile> tiles_within(double west, double south, double east, double no
     }
   }
   return tiles;
+}
+
+double miles_to(const Tile& tile, Place place) {
+  const double middle = (tile.west + tile.east) / 2.0;
+  const double beside = std::abs(wrapped(place.longitude - middle)) - (tile.east - tile.west) / 2.0;
+  const double above = std::max(place.latitude - tile.north, tile.south - place.latitude);
+  return kMilesOfLatitudeDegree *
+         std::hypot(std::max(beside, 0.0) * shortening(place.latitude), std::max(above, 0.0));
 }
 
 std::string file_name(const Tile& tile) {

@@ -6,6 +6,9 @@
 
 namespace map {
 
+/// In a degree of latitude.
+inline constexpr double kMilesOfLatitudeDegree = 60.0;
+
 /// A place in degrees, north and east positive.
 struct Place {
   double latitude = 0;   ///< -90 to 90
@@ -34,8 +37,17 @@ struct Tile {
 /// `east` may lead over the date line (170 to 190, or -190 to -170), at most once around the globe.
 [[nodiscard]] std::vector<Tile> tiles_within(double west, double south, double east, double north);
 
+/// How far it is from a place to the nearest point of a tile, in nautical miles; 0 within it. Exact
+/// enough for a few miles: the globe is taken for flat, with degrees of longitude as short as they
+/// are at the place.
+[[nodiscard]] double miles_to(const Tile& tile, Place place);
+
 /// "W020N40.src": the north-west corner.
 [[nodiscard]] std::string file_name(const Tile& tile);
+
+/// How much shorter a degree of longitude is there than one of latitude: the cosine of the latitude,
+/// but never nothing.
+[[nodiscard]] double shortening(double latitude);
 
 /// The same longitude from -180 up to but not including 180.
 [[nodiscard]] double wrapped(double longitude);
