@@ -83,6 +83,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   template <class C, class... Arguments>
   C& add(Arguments&&... arguments);
   void add_labels();
+  void add_map();
   void add_field(const mainwindow::FieldRow& row);
   void add_edit(const mainwindow::FieldRow& row, text::Ref label);
   void add_hemispheres(const mainwindow::FieldRow& row, text::Id first, text::Id second);

@@ -31,9 +31,7 @@ CVelmaranDlg::CVelmaranDlg(ui::Services& services, mainwindow::MainWindowContext
   add_labels();
   fields_.reserve(mainwindow::field_rows().size());
   for (const mainwindow::FieldRow& row : mainwindow::field_rows()) add_field(row);
-  if (context_.sea_map != nullptr)
-    map_ = &add<CPictureStatic>("position_map", text::Ref{id::kMapCaption}, services,
-                                *context_.sea_map);
+  if (context_.sea_map != nullptr) add_map();
   add_report();
 }
 
@@ -53,6 +51,13 @@ void CVelmaranDlg::add_labels() {
     label.on_press = [this, &row] { label_clicked(row); };
   }
   add<ui::Label>("label_report", label_ref(id::kLabelWeatherMessage));
+}
+
+void CVelmaranDlg::add_map() {
+  auto& title = add<ui::Label>("label_map", text::Ref{id::kMapCaption});
+  map_ =
+      &add<CPictureStatic>("position_map", text::Ref{id::kMapTitle}, services(), *context_.sea_map);
+  title.on_press = map_->on_press;
 }
 
 void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {

@@ -89,9 +89,12 @@ class Ground {
     seen_.resize(columns_ * rows_);
   }
 
+  /// Empty for a tile that only touches the view: it need not be read.
   [[nodiscard]] Box part_of(const Tile& tile, int turn) const {
-    return common(box_, {static_cast<double>(tile.west + turn), static_cast<double>(tile.south),
-                         static_cast<double>(tile.east + turn), static_cast<double>(tile.north)});
+    const Box all{static_cast<double>(tile.west + turn), static_cast<double>(tile.south),
+                  static_cast<double>(tile.east + turn), static_cast<double>(tile.north)};
+    const Box view{view_.west, view_.south, view_.east, view_.north};
+    return common(view, all).is_empty() ? Box{} : common(box_, all);
   }
 
   void add_sea(const Box& part) {
@@ -246,10 +249,10 @@ void add_ground(const MapView& view, int pixels, double ship_latitude, SeaMap& s
                 const text::Texts& texts, Drawing& drawing) {
   Ground ground(view, pixels, drawing);
   for (const Tile& tile : tiles_within(view.west, view.south, view.east, view.north)) {
-    const auto coast = sea_map.coast(tile);
     for (const int turn : {-kAround, 0, kAround}) {
       const Box part = ground.part_of(tile, turn);
       if (part.is_empty()) continue;
+      const auto coast = sea_map.coast(tile);
       if (coast == nullptr) {
         add_no_map(part, view, ship_latitude, texts, drawing);
         continue;
@@ -274,9 +277,11 @@ int latitude_step(double height) {
 }
 
 int longitude_step(int latitude_minutes, double x_unit) {
+  constexpr double kCloser = 0.75;  // than the parallels
   constexpr std::array<int, 11> kSteps = {10, 20, 30, 60, 120, 300, 600, 1200, 1800, 2700, 5400};
-  const auto* const at = std::find_if(kSteps.begin(), kSteps.end(),
-                                      [&](int step) { return step * x_unit >= latitude_minutes; });
+  const auto* const at = std::find_if(kSteps.begin(), kSteps.end(), [&](int step) {
+    return step * x_unit >= kCloser * latitude_minutes;
+  });
   return at == kSteps.end() ? kSteps.back() : *at;
 }
 

@@ -34,16 +34,16 @@ double height_of(const Tile& tile, Step step) {
   return tile.north - tile.south;
 }
 
-// A ship of 15 knots has an arrow of a seventh to a quarter of the height.
+// A ship of 15 knots has an arrow of a tenth to a quarter of the height.
 int hours_for(double height) {
   constexpr struct {
     double height;
     int hours;
-  } kRows[] = {{1, 1}, {5, 3}, {10, 6}, {30, 24}};
+  } kRows[] = {{1, 1}, {5, 3}, {10, 6}};
   for (const auto& row : kRows) {
     if (height <= row.height) return row.hours;
   }
-  return 48;
+  return 24;  // the day's run
 }
 
 }  // namespace
@@ -73,16 +73,11 @@ MapView view_around(Place ship, Step step) {
   view.south = latitude - height / 2;
   view.north = latitude + height / 2;
   view.x_unit = std::cos(radians(latitude));
-  const double aside = room / view.x_unit;
-  // The ship on the tile's side of the date line.
-  const double tile_middle = (tile.west + tile.east) / 2.0;
-  const double longitude = tile_middle + wrapped(ship.longitude - tile_middle);
-  const double middle = std::clamp(tile_middle, longitude - aside, longitude + aside);
   constexpr double kTenths = 10.0;
   const double half =
       std::min(kHalfTurn, std::ceil(kWidthOfHeight / 2 * height / view.x_unit * kTenths) / kTenths);
-  view.west = middle - half;
-  view.east = middle + half;
+  view.west = wrapped(ship.longitude) - half;
+  view.east = wrapped(ship.longitude) + half;
   view.arrow_hours = hours_for(height);
   return view;
 }

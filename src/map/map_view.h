@@ -39,9 +39,9 @@ struct MapView {
   [[nodiscard]] double near_middle(double longitude) const;
 };
 
-/// The ship is in the middle, but with kTile: the map keeps its tile there as long as the ship is
-/// well within it. Much is to be seen to both sides of a pole's neighbourhood, beyond it nothing.
-/// The view is wider than high; what shows it may cut the sides off.
+/// The ship is in the middle, but with kTile only between west and east: from south to north the map
+/// keeps its tile as long as the ship is well within. Nor is much of what is beyond a pole shown,
+/// where nothing is. The view is wider than high; what shows it may cut the sides off.
 [[nodiscard]] MapView view_around(Place ship, Step step);
 
 /// Where the arrow of the ship ends: in the direction in which the map shows the course, as far as

@@ -124,6 +124,13 @@ class Planner {
     into.children.push_back(std::move(lines));
   }
 
+  bool grows_down(const PlanNode& node) const {
+    const Control* const control = node.type == Type::kControl ? screen_.find(node.name) : nullptr;
+    if (control != nullptr && control->drawing != nullptr && control->drawing->grows) return true;
+    return std::any_of(node.children.begin(), node.children.end(),
+                       [this](const PlanNode& child) { return grows_down(child); });
+  }
+
   void add_box(const LayoutNode& from, Type type, PlanNode& into) {
     PlanNode box;
     box.type = type;
@@ -132,8 +139,9 @@ class Planner {
       placed_.insert(from.name);
     }
     for (const LayoutNode& child : from.children) add(child, box);
-    // Beside a higher column its rows stay together at the top.
-    if (type == Type::kRows && into.type == Type::kColumns) {
+    // Beside a higher column its rows stay together at the top, but for a picture that takes the
+    // room.
+    if (type == Type::kRows && into.type == Type::kColumns && !grows_down(box)) {
       box.children.emplace_back();
       box.children.back().type = Type::kSpace;
     }

@@ -14,6 +14,7 @@
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
 #include "fakes/sample_observation.h"
+#include "fakes/sample_sea_map.h"
 
 namespace {
 
@@ -43,6 +44,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   desktop::prepare_application();
   desktop::set_picture_folder(QStringLiteral(KAVREL_PICTURES));
+  fakes::take_tiles_from(KAVREL_SEA_MAP);
   if (argc != 4) {
     std::fputs("usage: pictures FOLDER en|ja PERCENT\n", stderr);
     return 2;

@@ -61,12 +61,13 @@ struct Owned {
   KeyObservationItems items;
   mainwindow::Folders folders{
       "C:\\kavrel\\data\\tlx\\", "C:\\kavrel\\data\\log\\", {}, {}, {}, "C:\\none", "C:\\none"};
+  SampleSeaMap sea;
 };
 
 class MainWindow : private Owned, public CVelmaranDlg {
  public:
   explicit MainWindow(ui::Services& services)
-      : CVelmaranDlg(services, {ship, items, folders, {}}) {}
+      : CVelmaranDlg(services, {ship, items, folders, {}, &sea.sea_map}) {}
 };
 
 // A dialog on the sample folders, one line of its list chosen and, where they have boxes, ticked.

@@ -69,7 +69,7 @@ SampleShip::SampleShip() {
 }
 
 SampleMainWindow::SampleMainWindow(ui::Services& services)
-    : CVelmaranDlg(services, {ship_, items_, folders_, {}}) {}
+    : CVelmaranDlg(services, {ship_, items_, folders_, {}, &sea_.sea_map}) {}
 
 bool enter_sample(ui::Screen& main_window) {
   for (const Entry& entry : kEntries) {

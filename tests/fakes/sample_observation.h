@@ -4,6 +4,7 @@
 
 #include <span>
 
+#include "fakes/sample_sea_map.h"
 #include "mainwindow/CVelmaranDlg.h"
 
 namespace fakes {
@@ -28,6 +29,7 @@ class SampleShip {
   ShipFixedData ship_;
   KeyObservationItems items_;
   mainwindow::Folders folders_;
+  SampleSeaMap sea_;
 };
 class SampleMainWindow : private SampleShip, public CVelmaranDlg {
  public:

@@ -15,12 +15,15 @@ inline constexpr const char* kSampleSeaMap = "C:\\kavrel\\SeaMap";
 [[nodiscard]] map::Ring ring_of(bool water, const std::vector<double>& degrees);
 
 /// The text of a tile's file.
-[[nodiscard]] std::string tile_text(const map::Tile& tile, const std::vector<map::Ring>& rings);
+[[nodiscard]] std::string file_of(const map::Tile& tile, const std::vector<map::Ring>& rings);
 
 /// All 33 tiles in kSampleSeaMap. Land is from 30 to 36 N between 130 and 142 E, cut at 140 E, with
 /// a lake from 32 to 34 N and 133 to 136 E; a triangle about 170 E, 20 N; and a rock of two points
 /// at 150 E, 25 N.
 void add_sea_map(FakeFiles& files);
+
+/// From now on the tiles of this folder of the computer are taken instead: for pictures of screens.
+void take_tiles_from(const std::string& folder);
 
 /// The small sea map in files of its own.
 struct SampleSeaMap {

@@ -187,7 +187,7 @@ TEST_F(TheLargerMap, TellsWhereTheShipIsAndWhatALengthIs) {
             "From south to north 600 nautical miles. The arrow is the run of 6 h.");
   larger.key(ui::Key::kHome);
   EXPECT_EQ(larger.caption(larger.legend),
-            "From south to north 3000 nautical miles. The arrow is the run of 48 h.");
+            "From south to north 3000 nautical miles. The arrow is the run of 24 h.");
   larger.key(ui::Key::kEnd);
   EXPECT_EQ(larger.caption(larger.legend),
             "From south to north 60 nautical miles. The arrow is the run of 1 h.");

@@ -9,8 +9,8 @@
 namespace map {
 namespace {
 
-// A ship is at the corner of four at most; a view of the map may want some more.
-constexpr std::size_t kKept = 9;
+// A view of the map holds parts of two rows at most, where it goes around the globe all of both.
+constexpr std::size_t kKept = 18;
 // The largest has about a megabyte.
 constexpr std::uint64_t kLargestTile = 8U << 20U;
 
