@@ -279,9 +279,16 @@ void CFixDataDlg::apply_vosclim() {
 }
 
 void CFixDataDlg::edit_vosclim() {
-  if (!enter_vosclim_loading(services(), draft_)) return;
-  // On to the next field, so that Enter does not open it again.
-  if (focused() == &vosclim_inputting) focus(*neighbour(&vosclim_inputting, true));
+  if (enter_vosclim_loading(services(), draft_)) go_on_from(vosclim_inputting);
+}
+
+// On to the next field, so that Enter opens neither this dialog again nor that of the next button.
+void CFixDataDlg::go_on_from(const ui::Button& button) {
+  if (focused() != &button) return;
+  ui::Control* next = neighbour(&button, true);
+  while (next->kind == ui::Kind::kButton && next->role == ui::Role::kNone)
+    next = neighbour(next, true);
+  focus(*next);
 }
 
 void CFixDataDlg::edit_card() {
@@ -292,8 +299,7 @@ void CFixDataDlg::edit_card() {
   if (!renew_card(services(), copy)) return;
   draft_.card = std::move(copy);
   show_card();
-  // On to the next field, so that Enter does not open the card again.
-  if (focused() == &card_button) focus(*neighbour(&card_button, true));
+  go_on_from(card_button);
 }
 
 bool CFixDataDlg::check_card() {

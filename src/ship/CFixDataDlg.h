@@ -87,6 +87,7 @@ class CFixDataDlg : public ui::OkCancelHelpDialog {
   void apply_vosclim();
   void edit_vosclim();
   void edit_card();
+  void go_on_from(const ui::Button& button);
   bool check_card();
 
   std::string path_;

@@ -5,7 +5,6 @@
 #include <QAbstractButton>
 #include <QMenu>
 #include <QMessageBox>
-#include <QTimer>
 #include <deque>
 #include <functional>
 #include <string>
@@ -14,6 +13,7 @@
 #include "desktop_world.h"
 #include "fakes/temp_folder.h"
 #include "mainwindow/CVelmaranDlg.h"
+#include "officer.h"
 #include "platform/posix/posix_files.h"
 
 namespace {
@@ -44,52 +44,16 @@ struct Computer {
   }
 };
 
-/// What the officer does when a window of that class, or a box, is the one on top.
-struct Step {
-  std::string window;  ///< class of a screen; "box" for a message or question
-  std::function<void()> act;
-};
-
-std::string on_top() {
-  QWidget* const window = QApplication::activeModalWidget();
-  // Nobody types before the window has the keyboard, or when it has closed.
-  if (window == nullptr || !window->isVisible()) return {};
-  // What a window manager does when the window above has gone.
-  if (QApplication::focusWidget() == nullptr) window->activateWindow();
-  if (!window->isAncestorOf(QApplication::focusWidget())) return {};
-  return qobject_cast<QMessageBox*>(window) != nullptr ? "box" : window->objectName().toStdString();
-}
-
 /// Opens the main window and runs the item of the menu "File" that so many arrows lead to; each
 /// step is taken when its window is on top. What the boxes said.
-Lines run(Computer& computer, int arrows, std::deque<Step> steps) {
+Lines run(Computer& computer, int arrows, std::deque<tests::Step> steps) {
   tests::DesktopWorld world;
   ui::Services services = {world.fake.clock, world.fake.locale,    world.fake.drives,
                            computer.files,   world.fake.code_page, world.fake.printer,
                            world.windows,    world.fake.texts,     world.messages,
                            world.fake.help};
   CVelmaranDlg screen(services, {computer.ship, computer.items, computer.folders, {}});
-  Lines told;
-  QTimer officer;
-  bool acting = false;
-  const QWidget* busy_with = nullptr;
-  QObject::connect(&officer, &QTimer::timeout, [&] {
-    if (acting || steps.empty() || on_top() != steps.front().window) return;
-    if (busy_with != nullptr && busy_with == QApplication::activeModalWidget()) return;
-    const Step step = std::move(steps.front());
-    steps.pop_front();
-    if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-      told.push_back(box->text().toStdString());
-    // A timer does not ring again while its own handler runs, and a key may open the next window.
-    acting = true;
-    QTimer::singleShot(0, QApplication::activeModalWidget(), [&acting, &busy_with, step] {
-      acting = false;
-      // The next step is not for the window that this one is still pressing keys in.
-      const QWidget* const before = std::exchange(busy_with, QApplication::activeModalWidget());
-      step.act();
-      busy_with = before;
-    });
-  });
+  tests::Officer officer(std::move(steps));
   world.windows.on_shown = [&](desktop::ScreenWindow& window) {
     if (window.objectName() != "CVelmaranDlg") return;
     window.activateWindow();
@@ -105,14 +69,14 @@ Lines run(Computer& computer, int arrows, std::deque<Step> steps) {
       return true;
     };
     for (int i = 0; i < arrows; ++i) EXPECT_TRUE(popup_key(Qt::Key_Down));
-    officer.start(1);
+    officer.begin();
     EXPECT_TRUE(popup_key(Qt::Key_Return));
     QApplication::processEvents();
-    EXPECT_TRUE(steps.empty()) << "waited for " << steps.front().window;
+    officer.expect_done();
     window.done(0);
   };
   world.windows.run_modal(screen);
-  return told;
+  return officer.told();
 }
 
 constexpr int kToReports = 2;

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/sample_tile.h"
+#include "fakes/sample_sea_map.h"
 #include "mainwindow/ship_on_map.h"
 #include "mainwindow/window.h"
 #include "ui/windows.h"
@@ -13,21 +13,24 @@ namespace {
 namespace id = text::id;
 using main_window::Opened;
 
-constexpr const char* kTiles = "C:\\program\\SeaMap";
+using fakes::kSampleSeaMap;
 // An island between 30 and 31 N, 150 and 151 E, and sea all around the globe.
 constexpr map::Place kIsland{30.5, 150.5};
 
 struct WithMap {
   WithMap() {
-    for (const map::Tile& tile : map::all_tiles())
-      files.add_file(path_of(tile), fakes::tile_text(tile, {}));
-    fakes::add_tile(files, kTiles, kIsland, {{"land", "150 30 151 30 151 31 150 31"}});
+    for (const map::Tile& tile : map::all_tiles()) {
+      std::vector<map::Ring> rings;
+      if (tile == map::tile_of(kIsland))
+        rings.push_back(fakes::ring_of(false, {150, 30, 151, 30, 151, 31, 150, 31}));
+      files.add_file(path_of(tile), fakes::tile_text(tile, rings));
+    }
   }
   static std::string path_of(const map::Tile& tile) {
-    return std::string(kTiles) + "\\" + map::file_name(tile);
+    return std::string(kSampleSeaMap) + "\\" + map::file_name(tile);
   }
   fakes::FakeFiles files;
-  map::SeaMap map{files, kTiles};
+  map::SeaMap map{files, kSampleSeaMap};
   Opened opened{fakes::sample_ship(), {}, false, &map};
 
   void type_time(const char* hour = "12") {
@@ -174,12 +177,12 @@ TEST(Land, IsNotKnownWithoutAMap) {
 
 TEST(SeaMapTrouble, IsToldOnceForATileAndStopsNothing) {
   WithMap ship;
-  ASSERT_EQ(ship.files.remove("C:\\program\\SeaMap\\E020N40.src"), platform::FileError::kNone);
+  ASSERT_EQ(ship.files.remove("C:\\kavrel\\SeaMap\\E020N40.src"), platform::FileError::kNone);
   ship.opened.world.windows.expect(id::kSeaMapUnusable);
   ship.type_position("10", "30", "050", "30");
   ASSERT_EQ(ship.opened.world.windows.boxes.size(), 1U);
   const std::string& told = ship.opened.world.windows.boxes[0].text;
-  EXPECT_NE(told.find("C:\\program\\SeaMap\\E020N40.src"), std::string::npos) << told;
+  EXPECT_NE(told.find("C:\\kavrel\\SeaMap\\E020N40.src"), std::string::npos) << told;
   EXPECT_NE(told.find("no such file"), std::string::npos) << told;
   EXPECT_EQ(ship.position(), "10 30 050 30");
   ship.opened.type("LaMin", "31");
@@ -189,12 +192,12 @@ TEST(SeaMapTrouble, IsToldOnceForATileAndStopsNothing) {
 
 TEST(SeaMapTrouble, IsOneWhereTheWholeFolderIsAway) {
   fakes::FakeFiles files;
-  map::SeaMap map(files, kTiles);
+  map::SeaMap map(files, kSampleSeaMap);
   EXPECT_EQ(map.at({10, 50}), map::Land::kNotKnown);
   EXPECT_EQ(map.at({10, 100}), map::Land::kNotKnown);
   const auto troubles = map.take_troubles();
   ASSERT_EQ(troubles.size(), 1U);
-  EXPECT_EQ(troubles[0].path, kTiles);
+  EXPECT_EQ(troubles[0].path, kSampleSeaMap);
   EXPECT_EQ(troubles[0].error, platform::FileError::kNotFound);
   EXPECT_EQ(map.at({-10, 150}), map::Land::kNotKnown);
   EXPECT_TRUE(map.take_troubles().empty());
@@ -203,7 +206,7 @@ TEST(SeaMapTrouble, IsOneWhereTheWholeFolderIsAway) {
 TEST(SeaMapTrouble, NamesADamagedTile) {
   WithMap ship;
   const map::Place red_sea{15, 41};
-  ship.files.add_file("C:\\program\\SeaMap\\E020N40.src",
+  ship.files.add_file("C:\\kavrel\\SeaMap\\E020N40.src",
                       fakes::tile_text(map::tile_of(red_sea), {}) + "x");
   ship.opened.world.windows.expect(id::kSeaMapUnusable);
   ship.type_position("10", "30", "050", "30");

@@ -14,16 +14,16 @@ constexpr int kFullCircle = 360;
 constexpr int kDirectionFigures = 3;
 
 struct Row {
-  Field field;
   std::string Struct_Weather::*value;
+  Field field;
   bool is_speed;
 };
 constexpr Row kRows[] = {
-    {Field::kApparentDirection, &Struct_Weather::VosClim1, false},
-    {Field::kApparentSpeed, &Struct_Weather::VosClim2, true},
-    {Field::kHeading, &Struct_Weather::VosClim3, false},
-    {Field::kShipSpeed, &Struct_Weather::VosClim4, true},
-    {Field::kCourse, &Struct_Weather::VosClim5, false},
+    {&Struct_Weather::VosClim1, Field::kApparentDirection, false},
+    {&Struct_Weather::VosClim2, Field::kApparentSpeed, true},
+    {&Struct_Weather::VosClim3, Field::kHeading, false},
+    {&Struct_Weather::VosClim4, Field::kShipSpeed, true},
+    {&Struct_Weather::VosClim5, Field::kCourse, false},
 };
 
 // Whole knots of what is entered; nothing where no number is.

@@ -234,6 +234,34 @@ TEST(KeptTiles, HaveRingsThatArePaintedInTheirOrder) {
   }
 }
 
+// Rings of the data that meet no limit are whole. Counted in the data itself, the mark at 0 N 0 E
+// left out: 4002 with 190,585 points, among them rocks of two points and of three.
+TEST(KeptTiles, HaveEveryRingThatMeetsNoLimitWithAllItsPoints) {
+  std::size_t rings = 0;
+  std::size_t points = 0;
+  std::map<std::size_t, int> of_size;
+  for (const map::Tile& tile : map::all_tiles()) {
+    const auto coast = map::parse_coast(content(tile), tile);
+    ASSERT_TRUE(coast) << map::file_name(tile);
+    for (const map::Ring& ring : coast->rings()) {
+      constexpr int kUnits = map::kUnitsOfDegree;
+      if (ring.south_west.longitude == tile.west * kUnits ||
+          ring.north_east.longitude == tile.east * kUnits ||
+          ring.south_west.latitude == tile.south * kUnits ||
+          ring.north_east.latitude == tile.north * kUnits)
+        continue;
+      ++rings;
+      points += ring.points.size();
+      ++of_size[ring.points.size()];
+    }
+  }
+  EXPECT_EQ(rings, 4002U);
+  EXPECT_EQ(points, 190'585U);
+  EXPECT_EQ(of_size[1], 0);
+  EXPECT_EQ(of_size[2], 13);
+  EXPECT_EQ(of_size[3], 81);
+}
+
 // The area of the globe that is land, from the edges alone: 28.77 %, which is also what the uncut
 // data has. Neither a lost ring nor one too many, nor a pole left open, would give it.
 TEST(KeptTiles, HaveTheLandThatTheGlobeHas) {
@@ -261,8 +289,8 @@ TEST(KeptTiles, HaveTheLandThatTheGlobeHas) {
     }
   }
   EXPECT_NEAR(share * 100, 28.765, 0.002);
-  // Of the data's 404,000 points none was left out.
-  EXPECT_GT(points, 404'000U);
+  // The data has so many, and cutting adds some.
+  EXPECT_GT(points, 404'874U);
 }
 
 }  // namespace
