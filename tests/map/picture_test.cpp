@@ -203,7 +203,7 @@ TEST_F(TheLargerMap, DoesNotCallAnArrowARunThatIsNone) {
   slow.speed.reset();
   CSeaMapDlg still(world.services, sample.sea_map, slow);
   still.open();
-  EXPECT_EQ(still.caption(still.legend), "From south to north 600 nautical miles. ");
+  EXPECT_EQ(still.caption(still.legend), "From south to north 600 nautical miles.");
 }
 
 TEST_F(TheLargerMap, SpeaksJapanese) {

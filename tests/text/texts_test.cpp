@@ -88,6 +88,7 @@ TEST(Help, EveryDialogHasItsTopic) {
       {"CNewZiDlg", "11-25"},
       {"CTrueDirWindDlg", "11-26"},
       {"CThumidityDlg", "11-27"},
+      {"CSeaMapDlg", "11-28"},
       {"CFixDataDlg", "4-1"},
       {"CKeyObserveDlg", "4-2"},
       {"CVosClimDlg", "7"},
