@@ -188,7 +188,8 @@ Coast::Coast(const Tile& tile, std::vector<Ring> rings) : tile_(tile), rings_(st
     }
   };
   // Counted first, then put in their places.
-  const auto bands = static_cast<std::size_t>((tile.north - tile.south) * kBandsOfDegree);
+  const int all_bands = (tile.north - tile.south) * kBandsOfDegree;
+  const auto bands = static_cast<std::size_t>(all_bands);
   band_begins_.assign(bands + 1, 0);
   each_edge([this](const Edge&, std::size_t first, std::size_t last) {
     for (std::size_t band = first; band <= last; ++band) ++band_begins_[band + 1];
