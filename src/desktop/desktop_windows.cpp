@@ -20,6 +20,12 @@ QString text_of(const std::string& utf8) {
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+// Behind a question about an entry stands what was entered, not what stood there before the key.
+void show_what_was_taken() {
+  auto* const window = qobject_cast<ScreenWindow*>(QApplication::activeWindow());
+  if (window != nullptr) window->show_controls();
+}
+
 }  // namespace
 
 void prepare_application() {
@@ -44,6 +50,7 @@ DesktopWindows::DesktopWindows(PathMap paths)
 DesktopWindows::~DesktopWindows() = default;
 
 int DesktopWindows::show_message(const ui::MessageBox& box) {
+  show_what_was_taken();
   QMessageBox window(QApplication::activeWindow());
   window.setWindowTitle(text_of(box.title));
   window.setTextFormat(Qt::PlainText);
@@ -67,6 +74,7 @@ int DesktopWindows::show_message(const ui::MessageBox& box) {
 int DesktopWindows::run_modal(ui::Screen& screen) {
   screen.open();
   if (screen.result()) return *screen.result();
+  show_what_was_taken();
   ScreenWindow window(screen, QApplication::activeWindow());
   if (on_shown) QTimer::singleShot(0, &window, [this, &window] { on_shown(window); });
   open_.push_back(&screen);

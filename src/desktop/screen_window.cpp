@@ -356,9 +356,14 @@ void ScreenWindow::refresh() {
   }
   const QString title = QString::fromStdString(screen_.title());
   if (windowTitle() != title) setWindowTitle(title);
-  for (const auto& binding : bindings_) binding->show();
+  show_controls();
   show_menu();
   apply_focus();
+}
+
+void ScreenWindow::show_controls() {
+  if (!built_ || screen_.result()) return;
+  for (const auto& binding : bindings_) binding->show();
 }
 
 void ScreenWindow::add_items(QWidget& menu, std::span<const ui::MenuItem> items) {

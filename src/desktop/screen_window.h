@@ -31,6 +31,9 @@ class ScreenWindow : public QDialog {
   void hand(const std::function<void()>& event);
   /// Everything the screen holds, on the widgets; closes the window when the screen has a result.
   void refresh();
+  /// What the controls hold, on the widgets, while a handler of the screen is still running. The
+  /// focus stays where it is.
+  void show_controls();
   [[nodiscard]] const std::vector<std::unique_ptr<Binding>>& bindings() const { return bindings_; }
   [[nodiscard]] Binding* binding(const ui::Control& control) const;
   [[nodiscard]] Binding* binding(std::string_view name) const;

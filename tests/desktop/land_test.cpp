@@ -30,6 +30,14 @@ void type_position() {
   press(Qt::Key_Down);
 }
 
+desktop::ScreenWindow* window_of(const char* class_name) {
+  for (QWidget* const widget : QApplication::topLevelWidgets()) {
+    if (widget->objectName() == QLatin1String(class_name))
+      return qobject_cast<desktop::ScreenWindow*>(widget);
+  }
+  return nullptr;
+}
+
 struct MainWindow {
   explicit MainWindow(std::deque<tests::Step> steps) : officer(std::move(steps)) {}
 
@@ -50,9 +58,7 @@ struct MainWindow {
     world.windows.run_modal(screen);
   }
   void activate() {
-    for (QWidget* const widget : QApplication::topLevelWidgets()) {
-      if (widget->objectName() == QStringLiteral("CVelmaranDlg")) widget->activateWindow();
-    }
+    window_of("CVelmaranDlg")->activateWindow();
     QApplication::processEvents();
   }
   void tab_to(std::string_view name) {
@@ -108,13 +114,20 @@ TEST(LandInAWindow, IsAskedAboutUntilTheOfficerSaysYes) {
 }
 
 TEST(LandInAWindow, IsWarnedOfWhenItIsTypedAndReturnGoesOn) {
-  MainWindow window({{"CHour3ErrorDlg", [] { press(Qt::Key_Return); }}});
+  std::string seen_behind;
+  MainWindow window(
+      {{"CHour3ErrorDlg", [&] {
+          seen_behind =
+              window_of("CVelmaranDlg")->binding("group_QcLoLoLoLo")->shown().content.toStdString();
+          press(Qt::Key_Return);
+        }}});
   window.run(
       [&] {
         window.tab_to("LaDeg");
         type_position();
       },
       [&] { EXPECT_NE(window.screen.report().find(" 99351 11393 "), std::string::npos); });
+  EXPECT_EQ(seen_behind, "11393") << "the window behind shows what the review is about";
 }
 
 TEST(LandInAWindow, IsSeenOnTheLargerMapByF7FromTheForm) {
