@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <fstream>
 #include <iterator>
-#include <utility>
+#include <string_view>
 
-#include "fakes/sample_tile.h"
+#include "text/checksum.h"
 #include "text/numbers.h"
 
 namespace fakes {
@@ -14,6 +14,14 @@ namespace {
 
 // Where real tiles are taken from; empty: those of this file.
 std::string real_tiles;
+
+std::string hexadecimal(std::uint64_t value) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string written(16, '0');
+  for (std::size_t i = written.size(); i > 0; --i, value >>= 4U)
+    written[i - 1] = kDigits[value & 15U];
+  return written;
+}
 
 std::string degrees(std::int32_t units) {
   return text::format_fixed(static_cast<double>(units) / map::kUnitsOfDegree, 3);
@@ -32,8 +40,12 @@ map::Ring ring_of(bool water, const std::vector<double>& degrees) {
   return ring;
 }
 
-std::string file_of(const map::Tile& tile, const std::vector<map::Ring>& rings) {
-  std::string text = beginning_of(tile);
+std::string tile_text(const map::Tile& tile, const std::vector<map::Ring>& rings) {
+  std::string text = "kavrel sea map 1\ntile ";
+  text.append(map::file_name(tile));
+  for (const int limit : {tile.west, tile.north, tile.east, tile.south})
+    text.append(" ").append(text::format_int(limit));
+  text.push_back('\n');
   std::size_t points = 0;
   for (const map::Ring& ring : rings) {
     text.append(ring.water ? "water " : "land ");
@@ -45,7 +57,11 @@ std::string file_of(const map::Tile& tile, const std::vector<map::Ring>& rings) 
     }
     points += ring.points.size();
   }
-  return with_end(std::move(text), rings.size(), points);
+  text::Checksum sum;
+  sum.add(text);
+  text.append("end ").append(text::format_int(static_cast<long long>(rings.size())));
+  text.append(" ").append(text::format_int(static_cast<long long>(points)));
+  return text.append(" ").append(hexadecimal(sum.value())).append("\n");
 }
 
 void take_tiles_from(const std::string& folder) {
@@ -68,7 +84,7 @@ void add_sea_map(FakeFiles& files) {
       rings = {ring_of(false, {140, 30, 142, 30, 142, 36, 140, 36}),
                ring_of(false, {169, 19, 171, 19, 170, 21}), ring_of(false, {150, 25, 150.001, 25})};
     }
-    files.add_file(path, file_of(tile, rings));
+    files.add_file(path, tile_text(tile, rings));
   }
 }
 

@@ -15,7 +15,7 @@ inline constexpr const char* kSampleSeaMap = "C:\\kavrel\\SeaMap";
 [[nodiscard]] map::Ring ring_of(bool water, const std::vector<double>& degrees);
 
 /// The text of a tile's file.
-[[nodiscard]] std::string file_of(const map::Tile& tile, const std::vector<map::Ring>& rings);
+[[nodiscard]] std::string tile_text(const map::Tile& tile, const std::vector<map::Ring>& rings);
 
 /// All 33 tiles in kSampleSeaMap. Land is from 30 to 36 N between 130 and 142 E, cut at 140 E, with
 /// a lake from 32 to 34 N and 133 to 136 E; a triangle about 170 E, 20 N; and a rock of two points

@@ -72,7 +72,7 @@ class AMap : public testing::Test {
   /// Another tile in the place of the one that bears this name.
   void put(const map::Tile& tile, const std::vector<map::Ring>& rings) {
     sample.files.add_file(std::string(fakes::kSampleSeaMap) + "\\" + map::file_name(tile),
-                          fakes::file_of(tile, rings));
+                          fakes::tile_text(tile, rings));
   }
 
   fakes::SampleSeaMap sample;
@@ -292,7 +292,7 @@ TEST_F(AMap, SurvivesRingsOfAnyShape) {
       fakes::FakeFiles files;
       fakes::add_sea_map(files);
       files.add_file(std::string(fakes::kSampleSeaMap) + "\\" + map::file_name(tile),
-                     fakes::file_of(tile, {fakes::ring_of(water, degrees)}));
+                     fakes::tile_text(tile, {fakes::ring_of(water, degrees)}));
       map::SeaMap odd(files, fakes::kSampleSeaMap);
       ASSERT_NE(odd.coast(tile), nullptr);
       for (const Step step : kAllSteps) {
