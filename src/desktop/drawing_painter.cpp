@@ -105,8 +105,8 @@ class Brush {
         taken_.push_back(box_of(*text));
     } else if (const auto* const marker = std::get_if<ui::Marker>(&shape)) {
       if (marker->sign != ui::Marker::Sign::kSpeck && is_somewhere(marker->at))
-        taken_.push_back(QRectF(point_of(place_.pixel_of(marker->at)) - QPointF(half, half),
-                                QSizeF(2 * half, 2 * half)));
+        taken_.emplace_back(point_of(place_.pixel_of(marker->at)) - QPointF(half, half),
+                            QSizeF(2 * half, 2 * half));
     }
   }
 

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "fakes/sample_sea_map.h"
-#include "fakes/sample_tile.h"
 #include "mainwindow/ship_on_map.h"
 #include "mainwindow/window.h"
 #include "ui/windows.h"
@@ -21,8 +20,9 @@ constexpr map::Place kIsland{30.5, 150.5};
 struct WithMap {
   WithMap() {
     for (const map::Tile& tile : map::all_tiles()) {
-      std::vector<fakes::SampleRing> rings;
-      if (tile == map::tile_of(kIsland)) rings.push_back({"land", "150 30 151 30 151 31 150 31"});
+      std::vector<map::Ring> rings;
+      if (tile == map::tile_of(kIsland))
+        rings.push_back(fakes::ring_of(false, {150, 30, 151, 30, 151, 31, 150, 31}));
       files.add_file(path_of(tile), fakes::tile_text(tile, rings));
     }
   }
