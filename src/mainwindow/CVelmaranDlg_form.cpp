@@ -54,7 +54,7 @@ void CVelmaranDlg::add_labels() {
 }
 
 void CVelmaranDlg::add_map() {
-  auto& title = add<ui::Label>("label_map", text::Ref{id::kMapCaption});
+  auto& title = add<ui::Label>("label_map", label_ref(id::kLabelMap));
   map_ =
       &add<CPictureStatic>("position_map", text::Ref{id::kMapTitle}, services(), *context_.sea_map);
   title.on_press = map_->on_press;

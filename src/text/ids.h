@@ -274,6 +274,7 @@ inline constexpr Id kLabelPercent{11068};
 inline constexpr Id kLabelTensOfDegrees{11069};
 inline constexpr Id kLabelKnots{11070};
 inline constexpr Id kLabelSeconds{11071};
+inline constexpr Id kLabelMap{11072};
 inline constexpr Id kLabelLoadingState{11073};
 
 // Main window: menus
@@ -1238,7 +1239,6 @@ inline constexpr Id kSelectReportsTitle{44035};
 inline constexpr Id kReportsToCopy{44036};
 
 // Position map
-inline constexpr Id kMapCaption{44100};
 inline constexpr Id kMapTitle{44101};
 inline constexpr Id kMapMissing{44102};
 inline constexpr Id kMapDegrees{44103};

@@ -223,7 +223,6 @@ TEST(MainWindowLanguage, EveryLabelHasATextInBothLanguages) {
   }
   for (int number = 11000; number <= 11073; ++number) {
     const text::Id label{number};
-    if (number == 11072) continue;  // the map's: it stands with the map's other texts
     EXPECT_TRUE(text::has_entry(label)) << label;
     EXPECT_TRUE(text::has_entry(label + elements::kLabelsToEnglish)) << label;
   }
