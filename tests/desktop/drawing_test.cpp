@@ -18,26 +18,12 @@
 #include "desktop/screen_window.h"
 #include "desktop/style.h"
 #include "desktop_world.h"
+#include "palettes.h"
 #include "text/ids.h"
 
 namespace {
 
 using ui::Ink;
-
-QPalette palette_of(bool dark) {
-  const QColor window(45, 45, 48);
-  const QColor text(230, 230, 230);
-  if (!dark) return {QColor(239, 239, 239)};
-  return {text,
-          window.lighter(115),
-          window.lighter(130),
-          window.darker(150),
-          window.darker(120),
-          text,
-          Qt::white,
-          QColor(30, 30, 32),
-          window};
-}
 
 ui::Drawing unit_drawing() {
   ui::Drawing drawing;
@@ -56,7 +42,7 @@ QImage painted(const ui::Drawing& drawing, const QPalette& palette, int size = 2
 
 class Drawn : public testing::TestWithParam<bool> {
  protected:
-  QPalette palette = palette_of(GetParam());
+  QPalette palette = tests::palette_of(GetParam());
 };
 
 TEST_P(Drawn, AreasFillTheirPlaceInTheColourOfTheirInk) {

@@ -17,20 +17,10 @@
 
 #include "desktop/style.h"
 #include "desktop_world.h"
+#include "palettes.h"
 #include "text/ids.h"
 
 namespace {
-
-QPalette dark_palette() {
-  const QColor window(45, 45, 48);
-  const QColor text(230, 230, 230);
-  QPalette palette(text, window.lighter(115), window.lighter(130), window.darker(150),
-                   window.darker(120), text, Qt::white, QColor(30, 30, 32), window);
-  palette.setColor(QPalette::ButtonText, text);
-  palette.setColor(QPalette::Highlight, QColor(90, 160, 230));
-  palette.setColor(QPalette::HighlightedText, text);
-  return palette;
-}
 
 // Every kind that takes the focus, with and without something chosen, and every mark.
 class LookScreen : public ui::Screen {
@@ -68,7 +58,7 @@ class Look : public testing::TestWithParam<bool> {
  protected:
   void SetUp() override {
     before_ = QApplication::palette();
-    QApplication::setPalette(GetParam() ? dark_palette() : QPalette(QColor(239, 239, 239)));
+    QApplication::setPalette(tests::palette_of(GetParam()));
     desktop::prepare_application();
     screen = std::make_unique<LookScreen>(world.services);
     screen->open();

@@ -23,6 +23,7 @@
 #include "map/CPictureStatic.h"
 #include "map/CSeaMapDlg.h"
 #include "map/map_drawing.h"
+#include "palettes.h"
 #include "text/ids.h"
 
 namespace {
@@ -176,12 +177,6 @@ TEST_F(LargerMapInAWindow, GrowsWithItsWindow) {
 
 // ---- What is painted
 
-QPalette dark_palette() {
-  return {QColor(230, 230, 230), QColor(50, 50, 54),    QColor(60, 60, 64), QColor(25, 25, 28),
-          QColor(40, 40, 44),    QColor(230, 230, 230), Qt::white,          QColor(30, 30, 32),
-          QColor(45, 45, 48)};
-}
-
 class Painted : public testing::TestWithParam<bool> {
  protected:
   QImage of(const ui::Drawing& drawing, QSize size) {
@@ -193,7 +188,7 @@ class Painted : public testing::TestWithParam<bool> {
   }
   QRgb ink(ui::Ink which) { return desktop::colour_of(which, palette).rgb(); }
 
-  QPalette palette = GetParam() ? dark_palette() : QPalette(QColor(239, 239, 239));
+  QPalette palette = tests::palette_of(GetParam());
   fakes::SampleSeaMap sample;
   text::Texts texts;
 };

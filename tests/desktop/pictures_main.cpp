@@ -1,12 +1,13 @@
-// Takes a picture of every screen: pictures FOLDER LANGUAGE PERCENT writes
-// CLASS-LANGUAGE[-PERCENT].png, and observation-LANGUAGE[-PERCENT].png: the main window with a
-// complete observation.
+// Takes a picture of every screen: pictures FOLDER LANGUAGE PERCENT [dark] writes
+// CLASS-LANGUAGE[-PERCENT][-dark].png, and observation-...: the main window with a complete
+// observation.
 
 #include <QApplication>
 #include <QFont>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
 #include "desktop/desktop_windows.h"
 #include "desktop/picture_label.h"
@@ -15,6 +16,7 @@
 #include "fakes/fake_ports.h"
 #include "fakes/sample_observation.h"
 #include "fakes/sample_sea_map.h"
+#include "palettes.h"
 
 namespace {
 
@@ -42,11 +44,13 @@ bool take(ui::Screen& screen, const std::string& name) {
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
+  const bool dark = argc == 5 && std::string_view(argv[4]) == "dark";
+  QApplication::setPalette(dark ? tests::palette_of(true) : QApplication::palette());
   desktop::prepare_application();
   desktop::set_picture_folder(QStringLiteral(KAVREL_PICTURES));
   fakes::take_tiles_from(KAVREL_SEA_MAP);
-  if (argc != 4) {
-    std::fputs("usage: pictures FOLDER en|ja PERCENT\n", stderr);
+  if (argc != 4 && !dark) {
+    std::fputs("usage: pictures FOLDER en|ja PERCENT [dark]\n", stderr);
     return 2;
   }
   const std::string folder = argv[1];
@@ -55,8 +59,9 @@ int main(int argc, char** argv) {
   QFont font = QApplication::font();
   font.setPointSizeF(font.pointSizeF() * percent / 100);
   QApplication::setFont(font);
-  const std::string ending =
-      "-" + language + (percent == 100 ? "" : "-" + std::to_string(percent)) + ".png";
+  const std::string ending = "-" + language +
+                             (percent == 100 ? "" : "-" + std::to_string(percent)) +
+                             (dark ? "-dark" : "") + ".png";
   for (const fakes::ScreenCase& row : fakes::all_screens()) {
     World world(language);
     const auto screen = row.make(world.services);
