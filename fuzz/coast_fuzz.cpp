@@ -1,6 +1,6 @@
 // Any bytes as a tile of the sea map. A checksum is hard to guess, so the bytes are tried twice: as
 // they are, and with the last line that they should have. What is taken is a tile in which every
-// place can be asked for, and nothing that differs from it by a byte is taken.
+// place can be asked for and that can be drawn, and nothing that differs from it by a byte is taken.
 
 #include "map/tiles/coast.h"
 
@@ -9,9 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "fakes/fake_files.h"
+#include "fakes/tile_text.h"
 #include "fuzz.h"
-#include "map/tiles/tile_text.h"
+#include "map/map_drawing.h"
+#include "map/map_view.h"
 #include "text/checksum.h"
+#include "text/texts.h"
 
 namespace {
 
@@ -93,6 +97,37 @@ void check(const map::Coast& coast) {
     (void)(coast.is_land(place) || coast.is_near(place, 2));
 }
 
+bool is_somewhere(ui::Point point) {
+  return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+bool is_drawn(const ui::Shape& shape) {
+  if (const auto* const area = std::get_if<ui::Area>(&shape))
+    return area->outline.size() > 2 && std::ranges::all_of(area->outline, is_somewhere);
+  if (const auto* const line = std::get_if<ui::Polyline>(&shape))
+    return line->points.size() > 1 && std::ranges::all_of(line->points, is_somewhere);
+  if (const auto* const marker = std::get_if<ui::Marker>(&shape)) return is_somewhere(marker->at);
+  return is_somewhere(std::get<ui::ShortText>(shape).at);
+}
+
+// At every step, from the middle of the tile, from a corner and from over its rim.
+void draw(const std::string& tile) {
+  fakes::FakeFiles files;
+  files.add_file(std::string("C:\\SeaMap\\").append(map::file_name(kTile)), tile);
+  map::SeaMap sea_map(files, "C:\\SeaMap");
+  const text::Texts texts;
+  for (const map::Place ship : {map::Place{15, -40}, {40, -20}, {-10.5, -60.5}}) {
+    for (int step = 0; step < map::kSteps; ++step) {
+      const map::MapView view = map::view_around(ship, static_cast<map::Step>(step));
+      const ui::Drawing drawing =
+          map::map_drawing({.at = ship, .course = 45.0, .speed = 12.0}, view, 200, sea_map, texts);
+      fuzz::expect(std::ranges::all_of(drawing.ground, is_drawn) &&
+                       std::ranges::all_of(drawing.shapes, is_drawn),
+                   "what is drawn has a place");
+    }
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -102,6 +137,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto coast = map::parse_coast(whole, kTile);
   if (!coast) return 0;
   check(*coast);
+  draw(whole);
   for (std::size_t at = 0; at < whole.size(); at += 1 + whole.size() / 64) {
     fuzz::expect(!map::parse_coast(whole.substr(0, at), kTile), "no part is taken");
     std::string changed = whole;

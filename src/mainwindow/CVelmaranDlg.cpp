@@ -120,8 +120,9 @@ bool CVelmaranDlg::open_element(int element, const ui::Control* last) {
     return false;
   }
   if (use_of(*row, context_) != mainwindow::Use::kInUse) return false;
-  const std::string last_quadrant =
-      last_positions_.empty() ? std::string() : text::format_int(last_positions_.front().quadrant);
+  const std::string last_quadrant = last_positions_.empty()
+                                        ? std::string()
+                                        : text::format_int(last_positions_.front().at.quadrant);
   mainwindow::Opening opening{services(), context_, form_, last_quadrant, &land_};
   const bool confirmed = row->open(opening);
   refresh();
@@ -260,7 +261,6 @@ void CVelmaranDlg::correct(const std::string& path) {
   form_.load_record(opened->record);
   correction_ = opened->correction;
   typing_ = false;
-  find_last_positions();
   refresh();
   focus(*fields_.front().control);
   tab_flags_.arm();
@@ -364,10 +364,10 @@ bool CVelmaranDlg::save() {
 }
 
 void CVelmaranDlg::find_last_positions() {
-  constexpr std::size_t kTrack = 8;  // a day, where every synoptic hour is reported
-  last_positions_ =
-      mainwindow::last_saved_positions(services().files, context_.folders.reports, kTrack,
-                                       correcting() ? correction_.goes_to : std::string());
+  constexpr std::size_t kTrack = 16;  // two days, where every synoptic hour is reported
+  last_positions_before_ = observation::report_file_name(form_.record());
+  last_positions_ = mainwindow::last_saved_positions(services().files, context_.folders.reports,
+                                                     kTrack, last_positions_before_);
 }
 
 // Warnings only: is the ship where it can be, after a new date, hour or position; and is the dew
@@ -389,7 +389,13 @@ void CVelmaranDlg::tell_doubts() {
 }
 
 void CVelmaranDlg::show_map() {
-  if (map_ != nullptr) map_->show(mainwindow::ship_on_map(form_, last_positions_));
+  // A new hour may be before reports that were there.
+  if (observation::report_file_name(form_.record()) != last_positions_before_)
+    find_last_positions();
+  if (map_ != nullptr) {
+    const auto track = mainwindow::track_of(last_positions_, last_positions_before_);
+    map_->show(mainwindow::ship_on_map(form_, track));
+  }
 }
 
 void CVelmaranDlg::tell_map_troubles() {

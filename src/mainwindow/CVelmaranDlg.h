@@ -19,6 +19,7 @@
 #include "mainwindow/draft_keeper.h"
 #include "mainwindow/element_openers.h"
 #include "mainwindow/form_rows.h"
+#include "mainwindow/last_position.h"
 #include "mainwindow/main_menu.h"
 #include "mainwindow/tab_flags.h"
 #include "map/CPictureStatic.h"
@@ -131,7 +132,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void end();
   /// True when the report was written; the entries stay.
   bool save();
-  /// Looks for the ship's last reports, before the one that is being corrected where there is one.
+  /// Looks for the ship's last reports, before this observation as soon as it has a date and hour.
   void find_last_positions();
   void show_map();
   /// Says which tiles of the sea map cannot be used, each once.
@@ -159,7 +160,8 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   ui::Control* ice_word_ = nullptr;
   CPictureStatic* map_ = nullptr;  ///< none without a sea map
   mainwindow::LandWatch land_;
-  std::vector<TenthsPosition> last_positions_;  ///< of the last reports, the newest first
+  std::vector<mainwindow::SavedPosition> last_positions_;  ///< the newest first
+  std::string last_positions_before_;  ///< report name of the observation that they are before
   elements::Correction correction_;
   mainwindow::TabFlags tab_flags_;
   bool typing_ = false;  ///< the field that has the focus holds a text that was not taken yet

@@ -131,7 +131,6 @@ void CVelmaranDlg::load(elements::ObservationForm& form, const elements::Draft& 
 void CVelmaranDlg::take_over(const elements::Draft& draft) {
   load(form_, draft);
   correction_ = draft.correction;
-  find_last_positions();
   refresh();
   ui::Control* const typing_in = find(draft.typing_in);
   if (typing_in == nullptr || !typing_in->can_focus()) return;

@@ -18,7 +18,8 @@ class LandWatch {
     return sea_map_ != nullptr && sea_map_->at(place) == map::Land::kYes;
   }
   [[nodiscard]] bool is_confirmed(map::Place place) const { return confirmed_ == place; }
-  /// The officer said Yes to this position; of another one he has said nothing any more.
+  /// The officer said Yes to this position; of another one he has said nothing any more. The next
+  /// start of the program asks anew.
   void confirm(map::Place place) { confirmed_ = place; }
 
  private:

@@ -7,41 +7,60 @@
 #include "archive/CFindFile.h"
 #include "observation/report_file.h"
 #include "observation/report_reader.h"
+#include "platform/calendar.h"
+#include "text/numbers.h"
 
 namespace mainwindow {
 namespace {
 
-// Sorts by date; nothing for the name of no report.
-std::optional<std::string> key_of(const std::string& path) {
+constexpr int kHoursOfDay = 24;
+
+// Since the beginning of 2000; nothing for the name of no report.
+std::optional<int> hour_of(std::string_view path) {
   const auto date = observation::report_date(path);
   if (!date) return std::nullopt;
-  std::string key = date->year;
-  return key.append(date->month).append(date->day).append(date->hour);
+  const int day = platform::day_number(
+      text::leading_int(date->year), text::leading_int(date->month), text::leading_int(date->day));
+  return day * kHoursOfDay + text::leading_int(date->hour);
 }
 
 }  // namespace
 
-std::vector<TenthsPosition> last_saved_positions(platform::Files& files, const std::string& folder,
-                                                 std::size_t count, std::string_view before) {
+std::vector<SavedPosition> last_saved_positions(platform::Files& files, const std::string& folder,
+                                                std::size_t count, std::string_view before) {
   if (folder.empty()) return {};
   std::vector<std::string> found;
   CFindFile(files).find(folder, observation::kReportExtension, found);
-  const auto end = key_of(std::string(before));
-  std::vector<std::pair<std::string, std::string>> dated;  // date in figures, path
+  const auto end = hour_of(before);
+  std::vector<std::pair<int, std::string>> dated;
   for (const std::string& path : found) {
-    auto key = key_of(path);
-    if (key && (!end || *key < *end)) dated.emplace_back(*std::move(key), path);
+    const auto hour = hour_of(path);
+    if (hour && (!end || *hour < *end)) dated.emplace_back(*hour, path);
   }
   std::sort(dated.rbegin(), dated.rend());
-  std::vector<TenthsPosition> positions;
-  for (const auto& [date, path] : dated) {
+  std::vector<SavedPosition> positions;
+  for (const auto& [hour, path] : dated) {
     if (positions.size() == count) break;
     const platform::Result<std::string> text = files.read(path, observation::kLargestReport);
     if (!text.ok()) continue;
     if (const auto position = observation::read_report_position(*text.value))
-      positions.push_back(*position);
+      positions.push_back({*position, hour});
   }
   return positions;
+}
+
+std::vector<TenthsPosition> track_of(const std::vector<SavedPosition>& saved,
+                                     std::string_view observation) {
+  // What is older belongs to another passage: a line to it would cross land.
+  constexpr int kLongestAgo = 2 * kHoursOfDay;
+  std::vector<TenthsPosition> track;
+  if (saved.empty()) return track;
+  const int now = hour_of(observation).value_or(saved.front().hour);
+  for (const SavedPosition& position : saved) {
+    if (position.hour < now - kLongestAgo) break;
+    track.push_back(position.at);
+  }
+  return track;
 }
 
 }  // namespace mainwindow

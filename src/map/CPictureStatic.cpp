@@ -35,14 +35,14 @@ void CPictureStatic::show(map::ShipOnMap ship) {
   ship = map::on_globe(std::move(ship));
   const text::Language language = services_.texts.language;
   if (ship == ship_ && language == language_) return;
+  if (ship.at) {
+    const map::MapView view = map::view_around(*ship.at, map::Step::kTile);
+    drawing = with_room(map::map_drawing(ship, view, kPixels, sea_map_, services_.texts));
+  } else {
+    drawing = with_room({});
+  }
   ship_ = std::move(ship);
   language_ = language;
-  if (!ship_.at) {
-    drawing = with_room({});
-    return;
-  }
-  const map::MapView view = map::view_around(*ship_.at, map::Step::kTile);
-  drawing = with_room(map::map_drawing(ship_, view, kPixels, sea_map_, services_.texts));
 }
 
 void CPictureStatic::open_larger() {

@@ -271,8 +271,10 @@ int latitude_step(double height) {
     double height;
     int minutes;
   } kRows[] = {{1, 10}, {5, 60}, {10, 120}};
+  // The difference of two edges is not to the last bit what they were made from.
+  constexpr double kRounding = 1e-6;
   for (const auto& row : kRows) {
-    if (height <= row.height) return row.minutes;
+    if (height <= row.height + kRounding) return row.minutes;
   }
   return 10 * kMinutes;
 }

@@ -159,6 +159,8 @@ void second_swell(std::string& line, const Source& source) {
   }
 }
 
+// The loading is what the ship's data hold, registered or not, and what they hold now, also in the
+// line of a report that is corrected.
 void cargo_height(std::string& line, const Source& source) {
   write_zero(line, source.ship.vosclim_cargo_height, 2, false);
 }

@@ -13,4 +13,15 @@ bool is_calendar_date(int year, int month, int day) {
   return year >= 1 && year <= 9999 && day >= 1 && day <= days_in_month(year, month);
 }
 
+int day_number(int year, int month, int day) {
+  constexpr int kFirstYear = 2000;
+  constexpr int kMonths = 12;
+  int days = day - 1;
+  for (int before = kFirstYear; before <= year; ++before) {
+    for (int each = 1; each <= (before < year ? kMonths : month - 1); ++each)
+      days += days_in_month(before, each);
+  }
+  return days;
+}
+
 }  // namespace platform

@@ -9,4 +9,7 @@ namespace platform {
 /// True for a day of the Gregorian calendar, year 1 to 9999.
 [[nodiscard]] bool is_calendar_date(int year, int month, int day);
 
+/// Days since 1 January 2000 of a day from then on.
+[[nodiscard]] int day_number(int year, int month, int day);
+
 }  // namespace platform

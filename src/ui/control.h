@@ -58,7 +58,7 @@ class Control {
           Role closing_role = Role::kNone);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
-  ~Control() = default;
+  virtual ~Control() = default;  // a screen may own controls that hold more than this
 
   const std::string name;  ///< stable: layouts, scripts and tests use it
   const Kind kind;

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "text/checksum.h"
+#include "fakes/tile_text.h"
 #include "text/numbers.h"
 
 namespace fakes {
@@ -14,14 +14,6 @@ namespace {
 
 // Where real tiles are taken from; empty: those of this file.
 std::string real_tiles;
-
-std::string hexadecimal(std::uint64_t value) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  std::string written(16, '0');
-  for (std::size_t i = written.size(); i > 0; --i, value >>= 4U)
-    written[i - 1] = kDigits[value & 15U];
-  return written;
-}
 
 std::string degrees(std::int32_t units) {
   return text::format_fixed(static_cast<double>(units) / map::kUnitsOfDegree, 3);
@@ -41,11 +33,7 @@ map::Ring ring_of(bool water, const std::vector<double>& degrees) {
 }
 
 std::string tile_text(const map::Tile& tile, const std::vector<map::Ring>& rings) {
-  std::string text = "kavrel sea map 1\ntile ";
-  text.append(map::file_name(tile));
-  for (const int limit : {tile.west, tile.north, tile.east, tile.south})
-    text.append(" ").append(text::format_int(limit));
-  text.push_back('\n');
+  std::string text = ::tile_text::head(tile);
   std::size_t points = 0;
   for (const map::Ring& ring : rings) {
     text.append(ring.water ? "water " : "land ");
@@ -57,11 +45,7 @@ std::string tile_text(const map::Tile& tile, const std::vector<map::Ring>& rings
     }
     points += ring.points.size();
   }
-  text::Checksum sum;
-  sum.add(text);
-  text.append("end ").append(text::format_int(static_cast<long long>(rings.size())));
-  text.append(" ").append(text::format_int(static_cast<long long>(points)));
-  return text.append(" ").append(hexadecimal(sum.value())).append("\n");
+  return ::tile_text::ended(text, static_cast<int>(rings.size()), static_cast<int>(points));
 }
 
 void take_tiles_from(const std::string& folder) {

@@ -285,6 +285,30 @@ TEST(ShipOnMap, TakesCourseAndSpeedOfTheApparentWindBeforeTheirCodes) {
   }
 }
 
+// What is drawn besides the ship: specks of the track.
+int specks(main_window::Opened& opened) {
+  int found = 0;
+  for (const ui::Shape& shape : opened.control("position_map").drawing->shapes) {
+    const auto* const marker = std::get_if<ui::Marker>(&shape);
+    if (marker != nullptr && marker->sign == ui::Marker::Sign::kSpeck) ++found;
+  }
+  return found;
+}
+
+TEST(ShipOnMap, TheTrackFollowsTheHourOfTheObservation) {
+  WithMap ship;
+  for (const char* const name : {"14111300", "14111412", "14111506", "14111509", "14111512"})
+    ship.opened.files.add_file(std::string("C:\\out\\") + name + ".tlx",
+                               "BBXX JXKV 15094 99305 11600 41498 52710");
+  ship.type_time("12");
+  ship.type_position("30", "30", "160", "06");
+  EXPECT_EQ(specks(ship.opened), 3) << "not its own, which is being written again";
+  ship.opened.type("GG", "09");
+  EXPECT_EQ(specks(ship.opened), 2);
+  ship.opened.type("YY", "20");
+  EXPECT_EQ(specks(ship.opened), 0) << "another passage";
+}
+
 TEST(ShipOnMap, HasTheTrackFromTheOldestReportOn) {
   WithMap ship;
   ship.type_position("30", "30", "160", "06");

@@ -205,6 +205,21 @@ TEST_F(AMap, HasLinesAReadableWayApartInEveryStepAndPlace) {
   }
 }
 
+// The edges of a view are sums: their difference is not always to the last bit the step's degrees.
+TEST_F(AMap, HasEnoughLinesAtEveryMinute) {
+  constexpr int kPrime = 13;  // so that every minute of an hour comes up
+  for (int minutes = -80 * 60; minutes <= 80 * 60; minutes += kPrime) {
+    for (const Step step : {Step::kTenDegrees, Step::kFiveDegrees, Step::kOneDegree}) {
+      const ui::Drawing drawing = draw({minutes / 60.0, 10}, step);
+      const auto lines = all_of<ui::Polyline>(drawing.ground, Ink::kFaint);
+      const auto parallels = std::count_if(lines.begin(), lines.end(), [](const auto& line) {
+        return line.points[0].y == line.points[1].y;
+      });
+      ASSERT_GE(parallels, 4) << minutes << " minutes, step " << static_cast<int>(step);
+    }
+  }
+}
+
 TEST_F(AMap, ShowsTheShipWithHerArrowAndTrack) {
   const ShipOnMap ship{Place{20, 150}, 90, 15, {{18, 147}, {19, 148.5}}};
   const ui::Drawing drawing = draw(ship, Step::kTenDegrees);

@@ -183,14 +183,17 @@ TEST_F(TheLargerMap, TellsWhereTheShipIsAndWhatALengthIs) {
   CSeaMapDlg larger(world.services, sample.sea_map, kShip);
   larger.open();
   EXPECT_EQ(larger.caption(larger.position), "Position 33°N 141°E");
-  EXPECT_EQ(larger.caption(larger.legend),
-            "From south to north 600 nautical miles. The arrow is the run of 6 h.");
+  EXPECT_EQ(
+      larger.caption(larger.legend),
+      "Not for navigation. From south to north 600 nautical miles. The arrow is the run of 6 h.");
   larger.key(ui::Key::kHome);
-  EXPECT_EQ(larger.caption(larger.legend),
-            "From south to north 3000 nautical miles. The arrow is the run of 24 h.");
+  EXPECT_EQ(
+      larger.caption(larger.legend),
+      "Not for navigation. From south to north 3000 nautical miles. The arrow is the run of 24 h.");
   larger.key(ui::Key::kEnd);
-  EXPECT_EQ(larger.caption(larger.legend),
-            "From south to north 60 nautical miles. The arrow is the run of 1 h.");
+  EXPECT_EQ(
+      larger.caption(larger.legend),
+      "Not for navigation. From south to north 60 nautical miles. The arrow is the run of 1 h.");
 }
 
 TEST_F(TheLargerMap, DoesNotCallAnArrowARunThatIsNone) {
@@ -199,11 +202,12 @@ TEST_F(TheLargerMap, DoesNotCallAnArrowARunThatIsNone) {
   CSeaMapDlg larger(world.services, sample.sea_map, slow);
   larger.open();
   EXPECT_EQ(larger.caption(larger.legend),
-            "From south to north 600 nautical miles. The arrow is the course.");
+            "Not for navigation. From south to north 600 nautical miles. The arrow is the course.");
   slow.speed.reset();
   CSeaMapDlg still(world.services, sample.sea_map, slow);
   still.open();
-  EXPECT_EQ(still.caption(still.legend), "From south to north 600 nautical miles.");
+  EXPECT_EQ(still.caption(still.legend),
+            "Not for navigation. From south to north 600 nautical miles.");
 }
 
 TEST_F(TheLargerMap, SpeaksJapanese) {
@@ -213,7 +217,8 @@ TEST_F(TheLargerMap, SpeaksJapanese) {
   EXPECT_EQ(larger.title(), "位置図");
   EXPECT_EQ(larger.shown.selected_text(), "10度");
   EXPECT_EQ(larger.caption(larger.position), "船位 33°N 141°E");
-  EXPECT_EQ(larger.caption(larger.legend), "南北 600 海里。矢印は 6 時間の航程。");
+  EXPECT_EQ(larger.caption(larger.legend),
+            "航海には使用しないこと。南北 600 海里。矢印は 6 時間の航程。");
 }
 
 TEST_F(TheLargerMap, ClosesByEscapeAndEnterAndHasHelp) {

@@ -11,7 +11,8 @@
 // IMMT-5 counts directions from 001 to 360: north, and a wind from right ahead, are 360. 000 says
 // that there is none, a calm or a ship that does not move, so it stands beside a speed of 0 whatever
 // direction was entered; beside a speed that is missing nobody knows what an entered 0 means. A ship
-// that lies has a heading all the same, by which its wind from the bow is read: it stays as it is.
+// that lies has a heading all the same, by which its wind from the bow is read: it stays as it is,
+// also where 000 for "no movement" would be allowed.
 //
 // Speeds are whole knots, rounded as for the true wind, which so comes out the same from what the
 // logbook holds. A value that is missing, or does not fit into its column, is empty.

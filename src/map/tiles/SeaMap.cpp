@@ -11,8 +11,8 @@ namespace {
 
 // A view of the map holds parts of two rows at most, where it goes around the globe all of both.
 constexpr std::size_t kKept = 18;
-// The largest has about a megabyte.
-constexpr std::uint64_t kLargestTile = 8U << 20U;
+// The largest has some 700 kB. What is much larger is none, and would take memory for nothing.
+constexpr std::uint64_t kLargestTile = 2U << 20U;
 
 }  // namespace
 

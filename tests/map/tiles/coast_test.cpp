@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "fakes/tile_text.h"
 #include "map/tiles/kept_tiles.h"
-#include "map/tiles/tile_text.h"
 
 namespace {
 

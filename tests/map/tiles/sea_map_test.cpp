@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "fakes/fake_files.h"
-#include "map/tiles/tile_text.h"
+#include "fakes/tile_text.h"
 
 namespace {
 
