@@ -91,7 +91,7 @@ struct Drawing {
   bool same_scale = false;
   int characters = 40;  ///< least width, in figures of the usual font
   int lines = 12;       ///< least height
-  bool grows = false;  ///< takes up the room that is left across and down
+  bool grows = false;   ///< takes up the room that is left across and down
   /// Painted in this order; what lies outside the range is cut off.
   std::vector<Shape> shapes = {};
   /// Painted before all others, its areas to the pixel, so that two that share an edge leave no gap.

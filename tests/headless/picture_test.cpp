@@ -57,7 +57,8 @@ TEST(ScriptedPicture, IsToldByShow) {
       << played.transcript;
   EXPECT_NE(played.transcript.find("    dot mark (135 35)\n"), std::string::npos)
       << played.transcript;
-  EXPECT_NE(played.transcript.find("picture picture = \"waves.png\" [key F7]\n"), std::string::npos);
+  EXPECT_NE(played.transcript.find("picture picture = \"waves.png\" [key F7]\n"),
+            std::string::npos);
 }
 
 TEST(ScriptedPicture, IsClickedAtAPlaceAndTellsWhatIsDrawnThen) {
