@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <optional>
-#include <ranges>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -333,9 +332,9 @@ void add_track(const std::vector<Place>& track, Point ship, Drawing& drawing) {
   Polyline line;
   line.ink = Ink::kMark;
   line.points = {ship};
-  for (const Place& place : std::views::reverse(track)) {
+  for (auto place = track.rbegin(); place != track.rend(); ++place) {
     const double before = line.points.back().x;
-    line.points.push_back({before + wrapped(place.longitude - before), place.latitude});
+    line.points.push_back({before + wrapped(place->longitude - before), place->latitude});
   }
   if (line.points.size() < 2) return;
   std::reverse(line.points.begin(), line.points.end());
