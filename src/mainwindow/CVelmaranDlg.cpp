@@ -359,7 +359,6 @@ bool CVelmaranDlg::save() {
   typing_ = false;
   saved_once_ = true;
   find_last_positions();
-  show_map();
   return true;
 }
 

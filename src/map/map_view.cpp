@@ -8,7 +8,6 @@ namespace {
 
 constexpr double kPole = 90.0;
 constexpr double kHalfTurn = 180.0;
-constexpr double kMilesOfDegree = 60.0;
 // Wider than the room of any map, which cuts the sides off.
 constexpr double kWidthOfHeight = 2.4;
 // So far from the middle, in heights of the map, the ship is not yet at its rim.
@@ -93,7 +92,7 @@ std::optional<Arrow> arrow_of(const ShipOnMap& ship, const MapView& view) {
   const double here = std::max(std::cos(radians(ship.at->latitude)), 1e-6);
   const double right = std::sin(radians(*ship.course)) * view.x_unit / here;
   const double up = std::cos(radians(*ship.course));
-  const double run = *ship.speed * view.arrow_hours / kMilesOfDegree;
+  const double run = *ship.speed * view.arrow_hours / kMilesOfLatitudeDegree;
   const double length = std::clamp(run, kShortest * view.height(), kLongest * view.height());
   const double stretched = std::hypot(right, up);
   Arrow arrow;
