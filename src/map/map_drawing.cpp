@@ -25,8 +25,6 @@ using ui::Point;
 using ui::Polyline;
 using ui::ShortText;
 
-constexpr double kPole = 90.0;
-constexpr int kAround = 360;
 constexpr int kMinutes = 60;  // of a degree
 
 struct Box {
@@ -308,8 +306,8 @@ void add_name(Point at, std::string name, ShortText::Edge edge, std::vector<Shor
 }
 
 void add_graticule(const MapView& view, const text::Texts& texts, Drawing& drawing) {
-  const double south = std::max(view.south, -kPole);
-  const double north = std::min(view.north, kPole);
+  const double south = std::max<double>(view.south, -kPole);
+  const double north = std::min<double>(view.north, kPole);
   const int up = latitude_step(view.height());
   const int across = longitude_step(up, view.x_unit);
   std::vector<ShortText> names;

@@ -6,7 +6,6 @@
 namespace map {
 namespace {
 
-constexpr double kPole = 90.0;
 constexpr double kHalfTurn = 180.0;
 // Wider than the room of any map, which cuts the sides off.
 constexpr double kWidthOfHeight = 2.4;

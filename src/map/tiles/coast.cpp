@@ -12,7 +12,6 @@ namespace map {
 namespace {
 
 constexpr int kBandsOfDegree = 4;
-constexpr int kAround = 360;
 constexpr int kDecimals = 3;  // and as many figures before the point, at most
 
 constexpr double degrees(std::int32_t units) {
@@ -222,8 +221,7 @@ bool Coast::is_cut(CoastPoint from, CoastPoint to) const {
 // as above it, so that a place on the north limit is one within; the south pole, which is no tile's
 // north limit, is looked at from just above.
 bool Coast::is_land(Place place) const {
-  constexpr double kPole = -90.0;
-  constexpr double kJustAbove = kPole + 0.5 / kUnitsOfDegree;
+  constexpr double kJustAbove = -kPole + 0.5 / kUnitsOfDegree;
   const double y = std::max(place.latitude, kJustAbove) * kUnitsOfDegree;
   double x = wrapped(place.longitude);
   if (x < tile_.west) x += kAround;

@@ -10,7 +10,6 @@
 namespace map {
 namespace {
 
-constexpr int kAround = 360;
 constexpr int kDateLine = 180;
 
 struct Row {

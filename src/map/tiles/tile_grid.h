@@ -8,6 +8,9 @@ namespace map {
 
 /// In a degree of latitude.
 inline constexpr double kMilesOfLatitudeDegree = 60.0;
+/// Degrees of longitude around the globe, and of latitude to a pole.
+inline constexpr int kAround = 360;
+inline constexpr int kPole = 90;
 
 /// A place in degrees, north and east positive.
 struct Place {
