@@ -41,7 +41,7 @@ void take_over(const elements::Draft& draft) {
   taken.form.record.ShipFixed = ship.imo_number;
   fuzz::expect(
       elements::encode_draft({draft.call_sign, draft.ship_mark, form.entries(), draft.typing_in,
-                              draft.group_text}) == elements::encode_draft(taken),
+                              draft.group_text, draft.correction}) == elements::encode_draft(taken),
       "a form holds what it took over");
   form.ship_changed();
   form.items_changed();
