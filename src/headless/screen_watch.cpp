@@ -47,13 +47,13 @@ void add_tick_changes(const ui::ControlView& was, const ui::ControlView& is,
 
 void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new_language,
                  std::vector<std::string>& out) {
-  if (!(new_language && caption_is_value(is.kind)) && was.text != is.text)
+  if (!(new_language && caption_is_value(is.kind)) && was.text != is.text && !is.repeats)
     out.push_back(is.name + ": " + arrow(was.text, is.text));
   if (!new_language) {
     if (!caption_is_value(is.kind) && was.caption != is.caption)
       out.push_back(is.name + " caption: " + arrow(was.caption, is.caption));
     if (was.unit != is.unit) out.push_back(is.name + " unit: " + arrow(was.unit, is.unit));
-    if (was.drawing != is.drawing && is.drawing_repeats) {
+    if (was.drawing != is.drawing && is.repeats) {
       out.push_back(is.name + ": drawn anew");
     } else if (was.drawing != is.drawing) {
       out.push_back(is.name + " drawing:");

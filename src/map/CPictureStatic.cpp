@@ -26,7 +26,7 @@ CPictureStatic::CPictureStatic(ui::Screen& owner, std::string_view control_name,
                                ui::Services& services, map::SeaMap& sea_map)
     : ui::Picture(owner, control_name, text), services_(services), sea_map_(sea_map) {
   drawing = with_room({});
-  drawing_repeats = true;
+  repeats = true;
   shortcut = "F7";
   on_press = [this] { open_larger(); };
 }

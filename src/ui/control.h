@@ -85,9 +85,9 @@ class Control {
   std::vector<TreeRow> rows;  ///< tree only
   /// Picture only: what is drawn, instead of a file. Another drawing is another object.
   std::shared_ptr<const Drawing> drawing;
-  /// Picture only: its drawing tells what other controls say already. Where changes are listed, its
-  /// name is enough.
-  bool drawing_repeats = false;
+  /// What it shows tells what other controls say already. Where changes are listed, a picture's name
+  /// is enough, and a text is not listed.
+  bool repeats = false;
   int selected = -1;  ///< line of a drop-down, list, choice or tree
   int beside_line =
       -1;  ///< picture: the line of the screen's choice that it shows, where it shows one

@@ -171,7 +171,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   for (const TreeRow& row : control.rows) view.lines.push_back(row_line(row));
   if (control.kind == Kind::kChoice) view.line_codes = control.item_codes;
   if (control.drawing != nullptr) view.drawing = describe(*control.drawing);
-  view.drawing_repeats = control.drawing_repeats;
+  view.repeats = control.repeats;
   const auto& disabled = control.item_disabled;
   if (std::find(disabled.begin(), disabled.end(), true) != disabled.end())
     view.line_disabled = disabled;

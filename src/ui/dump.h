@@ -23,7 +23,7 @@ struct ControlView {
   std::vector<bool> line_disabled;      ///< choice only; empty when all can be picked
   std::vector<bool> line_ticked;        ///< list only; empty when its lines have no boxes
   std::vector<std::string> drawing;     ///< describe() of a picture's drawing; empty without one
-  bool drawing_repeats = false;         ///< Control::drawing_repeats
+  bool repeats = false;                 ///< Control::repeats
   bool enabled = true;
   bool visible = true;
   bool locked = false;
