@@ -148,7 +148,7 @@ def read_texts(strings, ids):
                 text = re.sub(r"\\(.)", lambda m: {"n": " ", "r": "", "t": " ", "\\": "\\"}[m[1]], text)
                 table[int(number)] = tuple(text.split("/*E*/")) if "/*E*/" in text else (text, text)
     for first, last, to_english in LABEL_PAIRS:
-        for number in range(first, last + 1):
+        for number in set(table) & set(range(first, last + 1)):
             table[number] = (table[number + to_english][0], table[number][1])
     with open(ids, encoding="utf-8") as source:
         return {name: table[int(number)] for name, number in re.findall(r"constexpr Id (k\w+){(\d+)};", source.read())}
