@@ -15,7 +15,7 @@ import sys
 
 ERROR_EN, ERROR_JA = 'Error: Input data is out of range.\\nIt must be \\"{}\\"', "エラー：（{}）\\nの範囲を超えています。"
 WARN_EN = 'Warning: Input data is out of standard range.\\nIt takes normally the value of \\"{}\\".\\nIs it correct '
-WARN_JA = "警告：（{}）\\nの標準範囲を超えています。\\nこの値でよろしいですか？"
+WARN_JA = "警告：（{}）\\nの通常の範囲を超えています。\\nこの値でよろしいですか？"
 
 TYPED = ["folders", "ship_all_typed", "items_all"]      # true wind and dew point typed, a wave recorder
 DERIVED = ["folders", "ship_instruments", "items_all"]  # apparent wind, dry and wet bulb
@@ -124,13 +124,13 @@ class LeftAlone(Bad):
 STEADY = ("Error: If Element(Type of tendency) equal 4\\nElement(Amount of change) equal 000 ",
           "エラー：気圧変化の型が4のときは、\\n気圧変化量は000でなければなりません。")
 LOWEST_ABOVE_TOTAL = ("Error: Element(Lowest cloud) must be smaller than or equal to the Element(Total cloud)",
-                      "エラー：最低雲量は全雲量以下でなければなりません。")
+                      "エラー：最下層の雲量は全雲量以下でなければなりません。")
 NO_TYPES = ("Error: If Element(Total cloud) is 1 or more\\nall Elements(Cloud type) must not be 0.",
             "エラー：全雲量が1以上のときは、\\n雲形をすべて0にすることはできません。")
 NO_LOWEST = ("Error: If Element(Lowest cloud) equal 0\\nElement(Lower cloud) and Element(Middle cloud) equal 0.",
-             "エラー：最低雲量が0のときは、\\n下層雲と中層雲は0でなければなりません。")
+             "エラー：最下層の雲量が0のときは、\\n下層雲と中層雲は0でなければなりません。")
 LOWEST_OF_NONE = ("Error: If Element(Lower cloud) and Element(Middle cloud) equal 0\\nElement(Lowest cloud) equal 0.",
-                  "エラー：下層雲と中層雲が0のときは、\\n最低雲量は0でなければなりません。")
+                  "エラー：下層雲と中層雲が0のときは、\\n最下層の雲量は0でなければなりません。")
 DATE_INVALID = ("Date is invalid", "日付が正しくありません")
 DEW_ABOVE_AIR = ("Error: Element(Dew point temp) must be smaller or equal than Element(Air temp)",
                  "エラー：露点温度は気温以下でなければなりません。")
@@ -201,7 +201,7 @@ ROWS = [
         [("0", "00", "11400"), ("59", "59", "11409"), ("０６", "06", "11401")], ["60", "99", "5x", "-1", "//"],
         outside("00<=Latitude(min)<=59", "00<=経度(分)<=59"), setup=EAST + put("LoDeg", "140"), empty="1140*"),
     one_figure("Ds", "The ship's direction over three hours.", "group_222DsVs", "222{}*", "222**",
-               "0<=Ship course/3hr<=8,9,/", "0<=3時間の船の針路<=8,9,/"),
+               "0<=Ship course/3hr<=8,9,/", "0<=前3時間の船の針路<=8,9,/"),
     one_figure("Vs", "The ship's speed over three hours.", "group_222DsVs", "222*{}", "222**", "0<=Ship speed<=9,/",
                "0<=船の速度<=9,/"),
     Row("reading", "The barometer's reading; its card corrects nothing here. Decimals behind the first are cut.",
@@ -307,7 +307,7 @@ ROWS = [
                      Bad("1", NO_TYPES), Good("0"),
                      Good("", setup=put("CL", "") + put("CM", "") + put("CH", "") + put("Nh", ""))]),
     one_figure("Nh", "The lowest clouds' amount, with the total and with the types of cloud.", "group_8NhCLCMCH", "8{}***",
-               "8****", "0<=Lowest cloud<=9,/", "0<=最低雲量<=9,/",
+               "8****", "0<=Lowest cloud<=9,/", "0<=最下層の雲量<=9,/",
                more=[Bad("6", LOWEST_ABOVE_TOTAL, put("Nh", "") + put("N", "5")), Good("5"),
                      Good("9", setup=put("N", "/")), Bad("0", NO_LOWEST, put("Nh", "") + put("CL", "5")), Good("1"),
                      Good("", setup=[]), Good("0", setup=put("CL", "0") + put("CM", "0")), Bad("1", LOWEST_OF_NONE),
@@ -336,7 +336,7 @@ ROWS = [
         [("0", "00", "6*00*"), ("99", "99", "6*99*"), ("５", "05", "6*05*")], ["//", "/", "1x", "-1"],
         outside("0<=Thickness<=99", "0<=着氷の厚さ<=99"), empty="6****"),
     one_figure("Rs", "How the ice on the ship changes.", "group_6IsEsEsRs", "6***{}", "6****", "0<=Rate<=5",
-               "0<=着氷の速度<=5", 0, 5, False),
+               "0<=着氷の変化<=5", 0, 5, False),
     one_figure("ci", "Sea ice: concentration.", "group_ciSibiDizi", "{}****", "*****", "1<=Concentration<=9,/",
                "1<=密接度<=9,/", 1),
     one_figure("Si", "Sea ice: stage of development.", "group_ciSibiDizi", "*{}***", "*****",
@@ -346,7 +346,7 @@ ROWS = [
     one_figure("Di", "Sea ice: bearing of the edge.", "group_ciSibiDizi", "***{}*", "*****", "1<=Bearing of ice edge<=9,/",
                "1<=氷縁の方位<=9,/", 1),
     one_figure("zi", "Sea ice: trend over three hours.", "group_ciSibiDizi", "****{}", "*****", "1<=Trend over 3 hours<=9,/",
-               "1<=3時間の変化<=9,/", 1),
+               "1<=海氷の状況・前3時間の変化<=9,/", 1),
 ]
 
 

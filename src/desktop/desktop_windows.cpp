@@ -32,7 +32,6 @@ void prepare_application() {
   // QApplication sets the process locale; a decimal comma in a report is a wrong report.
   std::setlocale(LC_NUMERIC, "C");
   QApplication::setPalette(readable(QApplication::palette()));
-  qApp->setStyleSheet(style_sheet(QApplication::palette()));
 }
 
 DesktopWindows::DesktopWindows(PathMap paths)

@@ -158,6 +158,7 @@ void ScreenWindow::build() {
   scroll_->setWidget(content_);
   if (plan.has_menu) {
     menu_bar_ = new QMenuBar(this);
+    show_titles_reached(*menu_bar_);
     outer->setMenuBar(menu_bar_);
   }
   outer->addWidget(scroll_);
@@ -317,7 +318,9 @@ QWidget* ScreenWindow::build_group(const ui::PlanNode& node) {
   column->setSpacing(compact_ ? 2 : 6);
   if (!node.name.empty()) {
     QWidget* const title = binding(node.name)->widget();
-    title->setProperty("title", true);
+    QFont bold;  // says nothing else, so it follows the window's
+    bold.setBold(true);
+    title->setFont(bold);
     column->addWidget(title);
   }
   for (const ui::PlanNode& child : node.children) build_node(child, *column);

@@ -118,7 +118,7 @@ TEST(ModifyDialog, SaysWhyAFolderCannotBeRead) {
     EXPECT_TRUE(dialog.remark.visible);
     EXPECT_EQ(
         dialog.remark.content.find(japanese ? "気象電報のフォルダを読み取れません。\nC:\\tlx\\"
-                                            : "The folder of the weather reports can not be "
+                                            : "The folder of the weather reports cannot be "
                                               "read:\nC:\\tlx\\"),
         0U)
         << dialog.remark.content;

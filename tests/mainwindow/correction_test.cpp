@@ -159,7 +159,7 @@ TEST(Correcting, WithoutALineSaysSoAndHasNoSecondSwell) {
   for (const Row& row : {Row{std::nullopt, FileError::kNone, "has no line that agrees"},
                          Row{"", FileError::kNone, "has no line that agrees"},
                          Row{other + "\n", FileError::kNone, "has no line that agrees"},
-                         Row{other + "\n", FileError::kMediumMissing, "can not be read"}}) {
+                         Row{other + "\n", FileError::kMediumMissing, "cannot be read"}}) {
     for (const bool observed : {true, false}) {
       const auto opened = std::make_unique<Correcting>();
       opened->items.set_observed(ObservationItem::dw2Pw2Hw2, observed);

@@ -164,7 +164,7 @@ TEST(PositionReview, ReportThatCannotBeReadIsNamedWithTheReason) {
     EXPECT_EQ(r.warnings(), row.english == nullptr
                                 ? ""
                                 : "The report " + path +
-                                      " of three hours earlier can not be read (" + row.english +
+                                      " of three hours earlier cannot be read (" + row.english +
                                       "), so the ship's movement is not checked.\r\n");
     r.texts.language = text::Language::kJapanese;
     EXPECT_EQ(r.warnings(), row.japanese == nullptr
