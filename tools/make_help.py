@@ -43,6 +43,8 @@ WAY_OUT = {
          "[[Capter2|すべてのキー]]",
 }
 ORDER = re.compile(r"(observed|purpose) type example (codes )?refuses")
+# Headings no larger than a narrow window bears: the help stands beside a dialog.
+STYLE = "<style>h1 { font-size: x-large } h2 { font-size: large }</style>"
 TABLE = '<table border="1" cellspacing="0" cellpadding="4" style="border-collapse: collapse; border-color: #808080">\n'
 
 
@@ -326,7 +328,7 @@ class Pages:
         names = [row["name"] for row in self.facts["groups"]]
         if [name for name, _ in told] != names:
             fail(f"{page}: the groups are {names}")
-        head = {"E": ["Group", "Figures", "What they are", "Example"], "J": ["群", "けた数", "内容", "例"]}[language]
+        head = {"E": ["Group", "What it holds", "Example"], "J": ["群", "内容", "例"]}[language]
         rows = [head]
         for row, (name, words) in zip(self.facts["groups"], told):
             widths = "+".join(str(width) for width in row["widths"])
@@ -334,7 +336,7 @@ class Pages:
             shown = [group for group in (self.facts["examples"][example][name] for example in examples
                                          if self.facts["examples"][example][name] in self.facts["examples"][example]["report"])
                      if re.search("[0-9]", group[len(row["indicator"]):])]
-            rows.append([f"<b>{html.escape(name)}</b>", figures, self.inline(words, page, language),
+            rows.append([f"<b>{html.escape(name)}</b><br>{figures}", self.inline(words, page, language),
                          shown[0] if shown else fail(f"{page}: no example has {name}")])
         return shown_table(rows)
 
@@ -387,7 +389,7 @@ class Pages:
         os.makedirs(os.path.dirname(path), exist_ok=True)
         with open(path, "w", encoding="utf-8") as out:
             out.write(f'<!DOCTYPE html>\n<html lang="{"en" if language == "E" else "ja"}">\n<head><meta charset="utf-8">'
-                      f"<title>{html.escape(title)}</title></head>\n<body>\n<h1>{html.escape(title)}</h1>\n"
+                      f"{STYLE}<title>{html.escape(title)}</title></head>\n<body>\n<h1>{html.escape(title)}</h1>\n"
                       f"{self.body(page, language)}{way_out}{back}</body>\n</html>\n")
 
 
