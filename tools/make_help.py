@@ -256,7 +256,9 @@ class Pages:
     def figure(self, name, page, language):
         """What stands for {name}: a text of the program, or what an example gave."""
         if name in self.texts:
-            return self.texts[name][LANGUAGES[language]].strip().replace("%s", "…")
+            # As it is read: places that are filled stay open, access keys are not told.
+            shown = re.sub(r"\(&\w\)|&", "", self.texts[name][LANGUAGES[language]])
+            return shown.strip().replace("%s", "…")
         word, _, item = name.partition(".")
         if word == "period" and item in self.facts["wave_periods"]:
             return self.facts["wave_periods"][item]
