@@ -20,6 +20,7 @@
 #include "desktop/desktop_help.h"
 #include "desktop/screen_window.h"
 #include "desktop_world.h"
+#include "elements/CPositionDlg.h"
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
 #include "fakes/temp_folder.h"
@@ -270,6 +271,38 @@ TEST(HelpKeys, LetADialogThatGaveWayGoBack) {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   QApplication::processEvents();
   EXPECT_EQ(modal.pos(), before);
+}
+
+// The whole road: F1 in a field of a dialog, the page beside it, and back into the field.
+TEST(HelpKeys, LeadFromAFieldToItsPageAndBack) {
+  tests::DesktopWorld world;
+  desktop::DesktopHelp viewer(
+      [](const std::string& path) -> std::optional<std::string> { return path; });
+  text::HelpLauncher launcher(world.fake.texts, viewer, "C:\\program");
+  ui::Services services{world.fake.clock,     world.fake.locale,
+                        world.fake.drives,    world.fake.no_files,
+                        world.fake.code_page, world.fake.printer,
+                        world.windows,        world.fake.texts,
+                        world.messages,       launcher};
+  CPositionDlg screen(services, {"35", "12", "139", "48", "1"}, "1", CPositionDlg::LandTest{});
+  screen.open();
+  desktop::ScreenWindow window(screen, nullptr);
+  window.setModal(true);
+  tests::show(window);
+  tests::press(Qt::Key_Tab);
+  ASSERT_EQ(screen.focused(), &screen.latitude_minutes);
+  const QWidget* const field = QApplication::focusWidget();
+  tests::press(Qt::Key_F1);
+  ASSERT_NE(viewer.window(), nullptr);
+  EXPECT_TRUE(viewer.window()->isVisible());
+  EXPECT_FALSE(viewer.window()->frameGeometry().intersects(window.frameGeometry()));
+  tests::press(Qt::Key_Escape);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+  EXPECT_EQ(viewer.window(), nullptr);
+  EXPECT_TRUE(window.isVisible()) << "Escape is the help's alone";
+  EXPECT_EQ(QApplication::focusWidget(), field);
+  EXPECT_EQ(screen.focused(), &screen.latitude_minutes);
 }
 
 // ---- Seen
