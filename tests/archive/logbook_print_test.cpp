@@ -139,7 +139,7 @@ TEST_F(LogbookPrinting, PagesBreakWhereThePaperDoes) {
 
 TEST_F(LogbookPrinting, PageIsToldInJapanese) {
   world.japanese();
-  EXPECT_EQ(open(0).pages.position.literal_caption, "1／3 ページ");
+  EXPECT_EQ(open(0).pages.position.literal_caption, "1／3ページ");
 }
 
 TEST_F(LogbookPrinting, PagesOfNarrowPaperAreFoldedAsThePaperFoldsThem) {

@@ -302,7 +302,7 @@ TEST_F(ReportPrinting, AllPrintsTheNameAloneOfWhatCannotBeRead) {
   files.fail_path("C:\\out\\14111512.tlx", FileError::kAccessDenied);
   const auto screen = all();
   EXPECT_EQ(screen->pages.remark.content,
-            "Weather reports that cannot be read: 1. Their names are printed alone. "
+            "Weather reports that cannot be read: 1. Only their names are printed. "
             "14111512.tlx cannot be read (not permitted).");
   EXPECT_EQ(printed(*screen), all_lines({kNewestBlock, {"14111512.tlx"}, kOldestBlock}));
 }

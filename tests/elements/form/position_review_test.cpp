@@ -169,8 +169,8 @@ TEST(PositionReview, ReportThatCannotBeReadIsNamedWithTheReason) {
     r.texts.language = text::Language::kJapanese;
     EXPECT_EQ(r.warnings(), row.japanese == nullptr
                                 ? ""
-                                : "３時間前の気象電報 " + path + " を読み込めない（" +
-                                      row.japanese + "）ため、船の移動は確認していません。\r\n");
+                                : "3時間前の気象電報 " + path + " を読み込めない（" + row.japanese +
+                                      "）ため、船の移動は確認していません。\r\n");
   }
 }
 
