@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QPointer>
 #include <QString>
+#include <QStyle>
 #include <QWidget>
 
 #include "ui/drawing.h"
@@ -13,8 +14,16 @@ namespace desktop {
 /// The style sheet of the application for a light or dark palette.
 [[nodiscard]] QString style_sheet(const QPalette& palette);
 
-/// The palette with selected lines and texts that can be read: its own when they can, else ours.
+/// The palette with selected lines, selected texts and disabled texts that can be read: its own when
+/// they can, else ours.
 [[nodiscard]] QPalette readable(QPalette palette);
+
+/// The colour of a frame that is seen on the window and on paper of this palette.
+[[nodiscard]] QColor frame_colour(const QPalette& palette);
+
+/// The style of the program's widgets: one and the same on every desktop, with frames that are seen.
+/// The frame of what is disabled is dotted.
+[[nodiscard]] QStyle* make_style();
 
 /// The colour of what a drawing says with this ink, on paper of this palette (QPalette::Base).
 [[nodiscard]] QColor colour_of(ui::Ink ink, const QPalette& palette);
@@ -24,6 +33,8 @@ namespace desktop {
 
 /// The least contrast that small letters are read with in poor light.
 inline constexpr double kReadable = 4.5;
+/// The same of what is no text: frames, and what is drawn.
+inline constexpr double kSeen = 3;
 
 /// A frame around what has the focus. It stands outside the widget, so that nothing moves when the
 /// focus does, and nothing that has only the focus looks chosen.
