@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Follows a guide of docs/ on a copy: takes its files, builds them and runs its tests.
 
-  follow_guide.py SOURCE GUIDE COMPILER [LIBRARY...]
+  follow_guide.py SOURCE GUIDE COMPILER HELP_FACTS [LIBRARY...]
 
 Blocks of the guide that begin ```LANGUAGE file=PATH are whole files; those with add=PATH after="LINE" or before="LINE" are put
 there. Tests of the project that the guide runs beside its own are named by test=PATH. The string table, the layouts and the
@@ -58,7 +58,7 @@ def run(*command):
         sys.exit("failed: " + " ".join(command))
 
 
-def make_resources(copy, generated):
+def make_resources(copy, generated, help_facts):
     def tool(name, *arguments):
         run(sys.executable, os.path.join(copy.source, "tools", name), *arguments)
 
@@ -72,12 +72,13 @@ def make_resources(copy, generated):
          os.path.join(generated, "string_table.inc"))
     tool("embed_layouts.py", os.path.join(generated, "layouts.inc"),
          *sorted(os.path.join(layouts, name) for name in os.listdir(layouts)))
-    tool("make_help.py", copy.path("resources/help/topics.txt"), os.path.join(generated, "help"),
+    tool("make_help.py", copy.path("resources/help/topics.txt"), os.path.join(generated, "help"), help_facts,
+         copy.path("resources/strings.txt"), copy.path("src/text/ids.h"),
          *(copy.path("src/" + name) for name in ("text/help.cpp", "mainwindow/main_menu.cpp", "mainwindow/main_menu.h")))
 
 
 def main():
-    source, name, compiler, *libraries = sys.argv[1:]
+    source, name, compiler, help_facts, *libraries = sys.argv[1:]
     with open(os.path.join(source, "docs", name), encoding="utf-8") as page:
         guide = page.read()
     with tempfile.TemporaryDirectory(prefix="kavrel-guide-") as folder:
@@ -88,7 +89,7 @@ def main():
                 copy.take(*found.groups(), body)
             tests += re.findall(r"test=(\S+)", info)
         generated = os.path.join(folder, "generated")
-        make_resources(copy, generated)
+        make_resources(copy, generated, help_facts)
         # Texts and layouts hold the embedded tables; built here, they stand in for the library's, and so does what the
         # guide changed.
         sources = [path for path in copy.changed if path.endswith(".cpp")] + tests

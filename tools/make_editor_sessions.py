@@ -15,7 +15,7 @@ import sys
 
 ERROR_EN, ERROR_JA = 'Error: Input data is out of range.\\nIt must be \\"{}\\"', "エラー：（{}）\\nの範囲を超えています。"
 WARN_EN = 'Warning: Input data is out of standard range.\\nIt takes normally the value of \\"{}\\".\\nIs it correct '
-WARN_JA = "警告：（{}）\\nの標準範囲を超えています。\\nこの値でよろしいですか？"
+WARN_JA = "警告：（{}）\\nの通常の範囲を超えています。\\nこの値でよろしいですか？"
 
 TYPED = ["folders", "ship_all_typed", "items_all"]      # true wind and dew point typed, a wave recorder
 DERIVED = ["folders", "ship_instruments", "items_all"]  # apparent wind, dry and wet bulb
@@ -124,13 +124,13 @@ class LeftAlone(Bad):
 STEADY = ("Error: If Element(Type of tendency) equal 4\\nElement(Amount of change) equal 000 ",
           "エラー：気圧変化の型が4のときは、\\n気圧変化量は000でなければなりません。")
 LOWEST_ABOVE_TOTAL = ("Error: Element(Lowest cloud) must be smaller than or equal to the Element(Total cloud)",
-                      "エラー：最低雲量は全雲量以下でなければなりません。")
+                      "エラー：最下層の雲量は全雲量以下でなければなりません。")
 NO_TYPES = ("Error: If Element(Total cloud) is 1 or more\\nall Elements(Cloud type) must not be 0.",
             "エラー：全雲量が1以上のときは、\\n雲形をすべて0にすることはできません。")
 NO_LOWEST = ("Error: If Element(Lowest cloud) equal 0\\nElement(Lower cloud) and Element(Middle cloud) equal 0.",
-             "エラー：最低雲量が0のときは、\\n下層雲と中層雲は0でなければなりません。")
+             "エラー：最下層の雲量が0のときは、\\n下層雲と中層雲は0でなければなりません。")
 LOWEST_OF_NONE = ("Error: If Element(Lower cloud) and Element(Middle cloud) equal 0\\nElement(Lowest cloud) equal 0.",
-                  "エラー：下層雲と中層雲が0のときは、\\n最低雲量は0でなければなりません。")
+                  "エラー：下層雲と中層雲が0のときは、\\n最下層の雲量は0でなければなりません。")
 DATE_INVALID = ("Date is invalid", "日付が正しくありません")
 DEW_ABOVE_AIR = ("Error: Element(Dew point temp) must be smaller or equal than Element(Air temp)",
                  "エラー：露点温度は気温以下でなければなりません。")
@@ -188,20 +188,20 @@ ROWS = [
         put("GG", "12") + put("GGExact", "12"), empty="912"),
     Row("LaDeg", "Degrees of latitude, 00 to 90.", "group_99LaLaLa",
         [("0", "00", "99000"), ("90", "90", "99900"), ("４５", "45", "99450")], ["91", "99", "4x", "-5", "//"],
-        outside("00<=Latitude(deg)<=90", "00<=緯度(度)<=90"), setup=put("LaMin", "00"), empty="99**0"),
+        outside("00<=Latitude(deg)<=90", "00<=緯度の度<=90"), setup=put("LaMin", "00"), empty="99**0"),
     Row("LaMin", "Minutes of latitude, 00 to 59; the report has tenths of a degree, cut.", "group_99LaLaLa",
         [("0", "00", "99350"), ("5", "05", "99350"), ("06", "06", "99351"), ("59", "59", "99359"), ("３０", "30", "99355")],
-        ["60", "99", "5x", "-1", "//"], outside("00<=Latitude(min)<=59", "00<=緯度(分)<=59"), setup=put("LaDeg", "35"),
+        ["60", "99", "5x", "-1", "//"], outside("00<=Latitude(min)<=59", "00<=緯度の分<=59"), setup=put("LaDeg", "35"),
         empty="9935*"),
     Row("LoDeg", "Degrees of longitude, 000 to 180.", "group_QcLoLoLoLo",
         [("0", "000", "10000"), ("180", "180", "11800"), ("99", "099", "10990"), ("１４０", "140", "11400")],
-        ["181", "999", "1 2", "14x", "-14", "///"], outside("000<=Longitude(deg)<=180", "000<=経度(度)<=180"),
+        ["181", "999", "1 2", "14x", "-14", "///"], outside("000<=Longitude(deg)<=180", "000<=経度の度<=180"),
         setup=EAST + put("LoMin", "00"), empty="1***0"),
     Row("LoMin", "Minutes of longitude, 00 to 59; the English message says latitude.", "group_QcLoLoLoLo",
         [("0", "00", "11400"), ("59", "59", "11409"), ("０６", "06", "11401")], ["60", "99", "5x", "-1", "//"],
-        outside("00<=Latitude(min)<=59", "00<=経度(分)<=59"), setup=EAST + put("LoDeg", "140"), empty="1140*"),
+        outside("00<=Latitude(min)<=59", "00<=経度の分<=59"), setup=EAST + put("LoDeg", "140"), empty="1140*"),
     one_figure("Ds", "The ship's direction over three hours.", "group_222DsVs", "222{}*", "222**",
-               "0<=Ship course/3hr<=8,9,/", "0<=3時間の船の針路<=8,9,/"),
+               "0<=Ship course/3hr<=8,9,/", "0<=前3時間の船の針路<=8,9,/"),
     one_figure("Vs", "The ship's speed over three hours.", "group_222DsVs", "222*{}", "222**", "0<=Ship speed<=9,/",
                "0<=船の速度<=9,/"),
     Row("reading", "The barometer's reading; its card corrects nothing here. Decimals behind the first are cut.",
@@ -245,7 +245,7 @@ ROWS = [
     Row("relative_humidity", "Relative humidity in percent.", None,
         [("0", "00.0", None), ("100", "100.0", None), ("５３．５", "53.5", None)],
         ["100.1", "101", "-1", "999", "1 2", "1..2", "x", "//"],
-        outside("0<=Relative Humidity(%)<=100", "0<=相対湿度(%)<=100")),
+        outside("0<=Relative Humidity(%)<=100", "0<=相対湿度（%）<=100")),
     Row("dd", "The true wind's direction, in tens of degrees.", "group_Nddff",
         [("0", "00", "*00**"), ("1", "01", "*01**"), ("36", "36", "*36**"), ("99", "99", "*99**"), ("//", "//", "*//**"),
          ("１８", "18", "*18**")], ["37", "98", "/", "1x", "-1"], outside("0<=Wind dir<=36,99,//", "0<=風向<=36,99,//"),
@@ -270,7 +270,7 @@ ROWS = [
         [("0", "0.0", None), ("99.9", "99.9", None), ("１２", "12.0", None)], ["100", "999", "-0.1", "1 2", "1..2", "//", "x"],
         outside("0<=Ship speed<=99.9", "0<=船速<=99.9"), roots=DERIVED),
     temperature("TwTwTw", "The sea's surface temperature; the sign tells the method too.", "group_0SsTwTwTw", "0",
-                outside("-2<=Sea surface temp(degC)<=37.0", "-2<=海面水温(℃)<=37.0"), empty="0****", low=-2, high=37),
+                outside("-2<=Sea surface temp(degC)<=37.0", "-2<=海面水温（°C）<=37.0"), empty="0****", low=-2, high=37),
     period("PwPw", "The wind waves' period; no period, no height.", "group_2PwPwHwHw", "2{}**", "2****", *WIND_WAVE, 20,
            WIND_WAVE_ASKED, True, more=[Bad("00", NO_WAVES, put("PwPw", "") + put("HwHw", "1.0")), Good("01"),
                                         Good("00", setup=put("HwHw", "0.2")), Bad("1.0", NO_WAVES, field="HwHw"),
@@ -279,13 +279,13 @@ ROWS = [
     Row("dw1dw1", "The first swell's direction.", "group_3dw1dw1dw2dw2",
         [("0", "00", "300**"), ("1", "01", "301**"), ("36", "36", "336**"), ("99", "99", "399**"), ("//", "//", "3//**"),
          ("２７", "27", "327**")], ["37", "98", "/", "1x", "-1"],
-        outside("01<=Swell dir<=36,99,//,00", "01<=うねり方向<=36,99,//,00"), empty="3****"),
+        outside("01<=Swell dir<=36,99,//,00", "01<=うねりの方向<=36,99,//,00"), empty="3****"),
     period("Pw1Pw1", "The first swell's period.", "group_4Pw1Pw1Hw1Hw1", "4{}**", "4****", *SWELL, 25, SWELL_ASKED, False),
     height("Hw1Hw1", "The first swell's height in metres.", "group_4Pw1Pw1Hw1Hw1", "4**", "4****"),
     Row("dw2dw2", "The second swell's direction; 00 says that there is none, and it cannot be confused.",
         "group_3dw1dw1dw2dw2",
         [("0", "00", "327**"), ("1", "01", "32701"), ("36", "36", "32736"), ("//", "//", "327//"), ("１８", "18", "32718")],
-        ["37", "98", "99", "/", "1x", "-1"], outside("01<=Swell dir<=36,//,00", "01<=うねり方向<=36,//,00"),
+        ["37", "98", "99", "/", "1x", "-1"], outside("01<=Swell dir<=36,//,00", "01<=うねりの方向<=36,//,00"),
         setup=put("dw1dw1", "27"), empty="327**"),
     period("Pw2Pw2", "The second swell's period.", "group_5Pw2Pw2Hw2Hw2", "5{}**", "5****", *SWELL, 25, SWELL_ASKED, False),
     height("Hw2Hw2", "The second swell's height in metres.", "group_5Pw2Pw2Hw2Hw2", "5**", "5****"),
@@ -307,7 +307,7 @@ ROWS = [
                      Bad("1", NO_TYPES), Good("0"),
                      Good("", setup=put("CL", "") + put("CM", "") + put("CH", "") + put("Nh", ""))]),
     one_figure("Nh", "The lowest clouds' amount, with the total and with the types of cloud.", "group_8NhCLCMCH", "8{}***",
-               "8****", "0<=Lowest cloud<=9,/", "0<=最低雲量<=9,/",
+               "8****", "0<=Lowest cloud<=9,/", "0<=最下層の雲量<=9,/",
                more=[Bad("6", LOWEST_ABOVE_TOTAL, put("Nh", "") + put("N", "5")), Good("5"),
                      Good("9", setup=put("N", "/")), Bad("0", NO_LOWEST, put("Nh", "") + put("CL", "5")), Good("1"),
                      Good("", setup=[]), Good("0", setup=put("CL", "0") + put("CM", "0")), Bad("1", LOWEST_OF_NONE),
@@ -336,7 +336,7 @@ ROWS = [
         [("0", "00", "6*00*"), ("99", "99", "6*99*"), ("５", "05", "6*05*")], ["//", "/", "1x", "-1"],
         outside("0<=Thickness<=99", "0<=着氷の厚さ<=99"), empty="6****"),
     one_figure("Rs", "How the ice on the ship changes.", "group_6IsEsEsRs", "6***{}", "6****", "0<=Rate<=5",
-               "0<=着氷の速度<=5", 0, 5, False),
+               "0<=着氷の変化<=5", 0, 5, False),
     one_figure("ci", "Sea ice: concentration.", "group_ciSibiDizi", "{}****", "*****", "1<=Concentration<=9,/",
                "1<=密接度<=9,/", 1),
     one_figure("Si", "Sea ice: stage of development.", "group_ciSibiDizi", "*{}***", "*****",
@@ -346,7 +346,7 @@ ROWS = [
     one_figure("Di", "Sea ice: bearing of the edge.", "group_ciSibiDizi", "***{}*", "*****", "1<=Bearing of ice edge<=9,/",
                "1<=氷縁の方位<=9,/", 1),
     one_figure("zi", "Sea ice: trend over three hours.", "group_ciSibiDizi", "****{}", "*****", "1<=Trend over 3 hours<=9,/",
-               "1<=3時間の変化<=9,/", 1),
+               "1<=海氷の状況・前3時間の変化<=9,/", 1),
 ]
 
 

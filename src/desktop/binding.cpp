@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QMap>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -85,10 +86,34 @@ int largest_length(const ui::Control& control) {
   return control.continues_in == nullptr ? control.max_length : 0;
 }
 
+// A refused entry has a frame of its own, which those see who cannot tell its paper from another.
+class FieldEdit : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+  void show_wrong(bool wrong) {
+    if (wrong_ == wrong) return;
+    wrong_ = wrong;
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QLineEdit::paintEvent(event);
+    if (!wrong_) return;
+    constexpr int kWidth = 2;
+    QPainter painter(this);
+    painter.setPen(QPen(wrong_frame(), kWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+  }
+
+ private:
+  bool wrong_ = false;
+};
+
 class LineBinding : public Binding {
  public:
   LineBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
-      : Binding(s, c, std::move(hand)), edit_(new QLineEdit(parent)) {
+      : Binding(s, c, std::move(hand)), edit_(new FieldEdit(parent)) {
     // The person's alone: textChanged would answer to setText() as well.
     connect(edit_, &QLineEdit::textEdited, this, [this](const QString& typed) {
       tell([&] { screen().type(control(), typed.toStdString()); });
@@ -116,12 +141,13 @@ class LineBinding : public Binding {
       // A long text that nobody is typing shows its beginning.
       if (!edit_->hasFocus()) edit_->setCursorPosition(0);
     }
+    edit_->show_wrong(control().mark == "wrong");
     make_room();
     if (edit_->isReadOnly() != control().read_only) edit_->setReadOnly(control().read_only);
   }
 
  private:
-  QLineEdit* edit_;
+  FieldEdit* edit_;
 };
 
 // A value that is shown, never typed: looks like a field, takes no focus.
@@ -247,7 +273,6 @@ class ComboBinding : public Binding {
       const QString wanted = text_of(control().content);
       if (edit->text() != wanted) edit->setText(wanted);
       edit->setReadOnly(control().read_only);
-      show_property("locked", control().read_only);
     }
   }
   // The field within has the focus.
@@ -868,13 +893,20 @@ void Binding::make_room(int besides) {
   shown_widget.setSizePolicy(QSizePolicy::Preferred, shown_widget.sizePolicy().verticalPolicy());
 }
 
-void Binding::show_property(const char* name, const QVariant& value) {
-  QWidget* const shown_widget = widget();
-  if (shown_widget->property(name) == value) return;
-  shown_widget->setProperty(name, value);
-  // A style sheet looks at properties only when it is asked to.
-  shown_widget->style()->unpolish(shown_widget);
-  shown_widget->style()->polish(shown_widget);
+// A locked value and one that is only shown stand on the window's paper.
+void Binding::show_dress() {
+  const bool field = control_.kind == ui::Kind::kEdit || control_.kind == ui::Kind::kCombo;
+  const bool shown_only = control_.kind == ui::Kind::kReadOnly;
+  if (!field && !shown_only) return;
+  const Dress wanted = control_.mark == ui::kWrongMark     ? Dress::kWrong
+                       : control_.mark == ui::kMissingMark ? Dress::kMissing
+                       : control_.read_only || shown_only  ? Dress::kLocked
+                                                           : Dress::kPlain;
+  const qint64 palette = QApplication::palette().cacheKey();
+  if (wanted == dress_ && (palette == palette_ || wanted == Dress::kPlain)) return;
+  dress_ = wanted;
+  palette_ = palette;
+  dress(*widget(), wanted);
 }
 
 void Binding::show() {
@@ -896,7 +928,7 @@ void Binding::show() {
     const QString unit = QString::fromStdString(screen_.unit(control_));
     if (unit_label->text() != unit) unit_label->setText(unit);
   }
-  show_property("mark", text_of(control_.mark));
+  show_dress();
   if (!control_.font.empty()) {
     // The window's font, also when the system's was changed meanwhile.
     const QWidget* const around = shown_widget->parentWidget();

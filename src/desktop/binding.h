@@ -5,13 +5,13 @@
 
 #include <QLabel>
 #include <QObject>
-#include <QVariant>
 #include <QWidget>
 #include <functional>
 #include <memory>
 #include <vector>
 
 #include "desktop/clickable_label.h"
+#include "desktop/style.h"
 #include "ui/plan.h"
 
 namespace desktop {
@@ -71,8 +71,6 @@ class Binding : public QObject {
   /// The room that the control wants now (ui::extent_of), in characters and lines of the widget's
   /// font, and `besides` pixels beside the characters.
   void make_room(int besides = 0);
-  /// A property of the widget that the style sheet asks for.
-  void show_property(const char* name, const QVariant& value);
   [[nodiscard]] ui::Screen& screen() const { return screen_; }
   [[nodiscard]] QString caption() const {
     return QString::fromStdString(screen_.caption(control_));
@@ -87,9 +85,13 @@ class Binding : public QObject {
   ui::Screen& screen_;
   ui::Control& control_;
   Hand hand_;
+  void show_dress();
+
   ui::Extent room_;  ///< made last
   QString spoken_name_;
   QString spoken_state_;
+  Dress dress_ = Dress::kPlain;
+  qint64 palette_ = 0;  ///< the application's that it was dressed in
 };
 
 /// The binding for the control's kind, its widget a child of `parent`.

@@ -2,13 +2,20 @@
 
 #include <QMouseEvent>
 
+#include "desktop/style.h"
+
 namespace desktop {
 
 void ClickableLabel::set_clickable(bool on) {
   if (clickable_ == on) return;
   clickable_ = on;
   setCursor(on ? Qt::PointingHandCursor : Qt::ArrowCursor);
-  setProperty("clickable", on);
+  dress(*this, on ? Dress::kLink : Dress::kPlain);
+}
+
+void ClickableLabel::changeEvent(QEvent* event) {
+  QLabel::changeEvent(event);
+  if (clickable_ && event->type() == QEvent::ApplicationPaletteChange) dress(*this, Dress::kLink);
 }
 
 void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {

@@ -17,6 +17,7 @@ class ClickableLabel : public QLabel {
   void clicked(QPointF position);
 
  protected:
+  void changeEvent(QEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:

@@ -95,8 +95,9 @@ QIcon program_icon() {
 void take_palette() {
   if (const QPalette wanted = readable(QApplication::palette()); wanted != QApplication::palette())
     QApplication::setPalette(wanted);
-  if (const QString sheet = style_sheet(QApplication::palette()); sheet != qApp->styleSheet())
-    qApp->setStyleSheet(sheet);
+  // What has colours of its own is dressed anew.
+  for (QWidget* const window : QApplication::topLevelWidgets())
+    if (auto* const screen = qobject_cast<ScreenWindow*>(window)) screen->show_controls();
 }
 
 // The person may change from light to dark while the program runs.

@@ -15,6 +15,7 @@
 #include <ranges>
 #include <utility>
 
+#include "desktop/flow_layout.h"
 #include "desktop/qt_words.h"
 #include "ui/line_keys.h"
 #include "ui/spoken.h"
@@ -119,7 +120,9 @@ ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent
   // On the application: a part of a widget, as the field of a drop-down, has its keys first.
   qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-    focus_frame_->surround(binding_of(now) == nullptr ? nullptr : now);
+    const bool is_field = binding_of(now) != nullptr;
+    for (FocusFrame* const frame : focus_frames_)
+      frame->surround(is_field && frame->parentWidget()->isAncestorOf(now) ? now : nullptr);
     // The focus has already moved; the screen is asked once the event that moved it is through.
     if (now != nullptr && now->window() == this) {
       QMetaObject::invokeMethod(
@@ -157,20 +160,32 @@ void ScreenWindow::build() {
     binding->show();
   }
   compact_ = plan.has_menu;
-  auto* const column = new QVBoxLayout(content_);
-  const int margin = compact_ ? 6 : 10;
-  column->setContentsMargins(margin, margin, margin, margin);
-  column->setSpacing(compact_ ? 4 : 8);
-  for (const ui::PlanNode& child : plan.body.children) build_node(child, *column);
+  build_part(plan.body, *content_);
   scroll_->setWidget(content_);
   if (plan.has_menu) {
     menu_bar_ = new QMenuBar(this);
+    show_titles_reached(*menu_bar_);
     outer->setMenuBar(menu_bar_);
   }
-  outer->addWidget(scroll_);
+  outer->addWidget(scroll_, 1);
+  focus_frames_.push_back(new FocusFrame(content_));
+  if (!plan.foot.children.empty()) {
+    foot_ = new QWidget(this);
+    build_part(plan.foot, *foot_);
+    outer->addWidget(foot_);
+    focus_frames_.push_back(new FocusFrame(foot_));
+  }
   set_tab_order();
-  focus_frame_ = new FocusFrame(content_);
   built_ = true;
+}
+
+void ScreenWindow::build_part(const ui::PlanNode& part, QWidget& on) {
+  auto* const column = new QVBoxLayout(&on);
+  const int margin = compact_ ? 6 : 10;
+  // The foot stands as near to the body as the parts of the body to each other.
+  column->setContentsMargins(margin, &on == foot_ ? 0 : margin, margin, margin);
+  column->setSpacing(compact_ ? 4 : 8);
+  for (const ui::PlanNode& child : part.children) build_node(child, *column);
 }
 
 void ScreenWindow::watch(const std::function<void()>& call) {
@@ -246,6 +261,9 @@ void ScreenWindow::build_node(const ui::PlanNode& node, QBoxLayout& into) {
     case Type::kButtons:
       build_box(node, QBoxLayout::LeftToRight, 8, into);
       break;
+    case Type::kFlow:
+      build_flow(node, into);
+      break;
     case Type::kGroup:
       into.addWidget(build_group(node));
       break;
@@ -270,6 +288,29 @@ void ScreenWindow::build_box(const ui::PlanNode& node, QBoxLayout::Direction dir
   box->setSpacing(spacing);
   into.addLayout(box);
   for (const ui::PlanNode& child : node.children) build_node(child, *box);
+}
+
+void ScreenWindow::build_flow(const ui::PlanNode& node, QBoxLayout& into) {
+  const bool of_controls =
+      !node.children.empty() && node.children.front().type == ui::PlanNode::Type::kControl;
+  // Fields under their captions stand near each other; columns are as far apart as their parts.
+  auto* const flow =
+      of_controls ? new FlowLayout(6, 2) : new FlowLayout(into.spacing(), into.spacing());
+  into.addLayout(flow, 1);
+  for (const ui::PlanNode& child : node.children) {
+    if (child.type == ui::PlanNode::Type::kControl) {
+      flow->addWidget(placed(child));
+      continue;
+    }
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(into.spacing());
+    flow->add_column(column);
+    if (child.type != ui::PlanNode::Type::kRows) {
+      build_node(child, *column);
+      continue;
+    }
+    for (const ui::PlanNode& part : child.children) build_node(part, *column);
+  }
 }
 
 // Each control has two of the grid's columns, so that captions and values line up; without a
@@ -325,7 +366,9 @@ QWidget* ScreenWindow::build_group(const ui::PlanNode& node) {
   column->setSpacing(compact_ ? 2 : 6);
   if (!node.name.empty()) {
     QWidget* const title = binding(node.name)->widget();
-    title->setProperty("title", true);
+    QFont bold;  // says nothing else, so it follows the window's
+    bold.setBold(true);
+    title->setFont(bold);
     column->addWidget(title);
   }
   for (const ui::PlanNode& child : node.children) build_node(child, *column);
@@ -444,9 +487,16 @@ void ScreenWindow::apply_focus() {
 
 // With its title or caption, which is above or to the left.
 void ScreenWindow::bring_into_view(const Binding& target) const {
+  if (!content_->isAncestorOf(target.widget())) return;
   constexpr int kRight = 40;
-  const QSize around(kRight, target.widget()->height() * 3);
-  scroll_->ensureWidgetVisible(target.widget(), around.width(), around.height());
+  const QWidget& widget = *target.widget();
+  const QRect place(widget.mapTo(content_, QPoint(0, 0)), widget.size());
+  // Of a field the area would show the caret only. Where it is low, the field comes before its title.
+  const int above =
+      std::min(place.height() * 3, (scroll_->viewport()->height() - place.height()) / 2);
+  const QPoint middle = place.center();
+  scroll_->ensureVisible(middle.x(), middle.y(), place.width() / 2 + kRight,
+                         place.height() / 2 + std::max(above, 0));
 }
 
 const QWidget* ScreenWindow::spoken_of() const {
@@ -514,7 +564,8 @@ bool ScreenWindow::press_shortcut(const QKeyEvent& pressed) {
 
 bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   // A list got more lines, a text a second line: asked once all of this event has been laid out.
-  if (watched == content_ && event->type() == QEvent::LayoutRequest) {
+  if ((watched == content_ || (watched == foot_ && foot_ != nullptr)) &&
+      event->type() == QEvent::LayoutRequest) {
     QMetaObject::invokeMethod(
         this, [this] { grow_to_content(); }, Qt::QueuedConnection);
   }
@@ -528,7 +579,7 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   }
   if (const QEvent::Type type = event->type(); type == QEvent::Move || type == QEvent::Resize ||
                                                type == QEvent::Show || type == QEvent::Hide)
-    focus_frame_->place();
+    for (FocusFrame* const frame : focus_frames_) frame->place();
   if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
   const auto* const widget = qobject_cast<QWidget*>(watched);
   const auto& pressed = *static_cast<QKeyEvent*>(event);
@@ -591,8 +642,13 @@ QSize ScreenWindow::fitting_size() const {
   // How high the frame is, a window knows only when it is shown.
   constexpr int kTitleBar = 32;
   const QSize room = screen()->availableGeometry().size() - QSize(0, kTitleBar);
-  const int menu = menu_bar_ == nullptr ? 0 : menu_bar_->sizeHint().height();
-  QSize wanted = content_->sizeHint() + QSize(2, menu + 2);
+  QSize wanted = content_->sizeHint() + QSize(2, 2);
+  // What flows is as high as its width makes it.
+  if (content_->hasHeightForWidth()) {
+    wanted.setWidth(std::min(wanted.width(), room.width()));
+    wanted.setHeight(content_->heightForWidth(wanted.width()) + 2);
+  }
+  wanted.rheight() += height_around(wanted.width());
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const bool wide = wanted.width() > room.width();
   const bool high = wanted.height() > room.height();
@@ -601,12 +657,22 @@ QSize ScreenWindow::fitting_size() const {
   return wanted.boundedTo(room);
 }
 
+int ScreenWindow::height_around(int width) const {
+  const int menu = menu_bar_ == nullptr ? 0 : menu_bar_->sizeHint().height();
+  if (foot_ == nullptr) return menu;
+  return menu +
+         (foot_->hasHeightForWidth() ? foot_->heightForWidth(width) : foot_->sizeHint().height());
+}
+
 void ScreenWindow::fit_to_screen() {
   settle_layouts(*content_);
+  if (foot_ != nullptr) settle_layouts(*foot_);
   resize(fitting_size());
 }
 
 void ScreenWindow::grow_to_content() {
+  // A main window has the size that the person gave it, and its form scrolls.
+  if (menu_bar_ != nullptr) return;
   const QSize wanted = size().expandedTo(fitting_size());
   if (wanted == size()) return;
   resize(wanted);

@@ -56,7 +56,10 @@ class ScreenWindow : public QDialog {
                  QBoxLayout& into);
   void build_grid(const ui::PlanNode& node, QBoxLayout& into);
   void build_lines(const ui::PlanNode& node, QBoxLayout& into);
+  void build_flow(const ui::PlanNode& node, QBoxLayout& into);
   QWidget* build_group(const ui::PlanNode& node);
+  /// The children of the body or of the foot, on this widget.
+  void build_part(const ui::PlanNode& part, QWidget& on);
   /// The control with its unit, and its caption where that stands beside it or above.
   QWidget* placed(const ui::PlanNode& node);
   ClickableLabel* caption_of(Binding& binding);
@@ -76,6 +79,8 @@ class ScreenWindow : public QDialog {
   void watch(const std::function<void()>& call);
   /// The field that has the screen's focus has the window's too.
   void give_focus_back();
+  /// Of the menu bar and the foot in a window so wide.
+  [[nodiscard]] int height_around(int width) const;
   [[nodiscard]] QSize fitting_size() const;
   void fit_to_screen();
   /// A window never shrinks under the person's hands.
@@ -86,8 +91,10 @@ class ScreenWindow : public QDialog {
   std::vector<std::unique_ptr<Binding>> bindings_;
   QScrollArea* scroll_ = nullptr;
   QWidget* content_ = nullptr;
+  QWidget* foot_ = nullptr;  ///< stays in view below the content; none where the plan has none
   QMenuBar* menu_bar_ = nullptr;
-  FocusFrame* focus_frame_ = nullptr;
+  /// One for the content, which scrolls with it, and one for the foot.
+  std::vector<FocusFrame*> focus_frames_;
   unsigned focus_serial_ = 0;
   unsigned menu_serial_ = 0;
   bool compact_ = false;  ///< a form of many fields has small gaps

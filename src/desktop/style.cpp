@@ -1,5 +1,6 @@
 #include "desktop/style.h"
 
+#include <QApplication>
 #include <QColor>
 #include <QPainter>
 #include <QProxyStyle>
@@ -52,20 +53,6 @@ constexpr Colours kDark = {
     "#1565c0",
     "#ffffff",
     {"", "#6a6a6a", "#8ec7ff", "#4a4530", "#1c3448", "#38434c", "#ffd27f", "#ff9c9c", "#a89a6c"}};
-
-// What has the focus is framed by FocusFrame. A drop-down gets no frame here: a style sheet that
-// frames one draws it anew, and its text moves.
-// Without a menu open, some styles show a title that the keyboard is on like all others.
-constexpr const char* kSheet = R"(
-  QLineEdit:read-only, QComboBox[locked="true"] { background: %locked_paper; }
-  QLineEdit:disabled, QComboBox:disabled { background: palette(window); }
-  QLineEdit[mark="missing"], QComboBox[mark="missing"] { background: %missing_paper; color: %missing_text; }
-  QLineEdit[mark="wrong"], QComboBox[mark="wrong"] { background: %wrong_paper; color: %wrong_text; }
-  QLineEdit[mark="wrong"] { border: 2px solid %wrong_frame; }
-  QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }
-  QLabel[title="true"] { font-weight: bold; }
-  QLabel[clickable="true"] { color: %link; }
-)";
 
 const Colours& colours_for(const QPalette& palette) {
   constexpr int kHalf = 128;
@@ -187,6 +174,8 @@ QPalette readable(QPalette palette) {
     if (palette.color(QPalette::Disabled, role) != disabled)
       palette.setColor(QPalette::Disabled, role, disabled);
   }
+  if (palette.color(QPalette::Disabled, QPalette::Base) != window)
+    palette.setColor(QPalette::Disabled, QPalette::Base, window);
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
     if (contrast(palette.color(group, QPalette::Highlight),
                  palette.color(group, QPalette::HighlightedText)) >= kReadable)
@@ -197,17 +186,41 @@ QPalette readable(QPalette palette) {
   return palette;
 }
 
-QString style_sheet(const QPalette& palette) {
-  const Colours& colours = colours_for(palette);
-  QString sheet = QString::fromLatin1(kSheet);
-  sheet.replace(QLatin1String("%locked_paper"), QLatin1String(colours.locked));
-  sheet.replace(QLatin1String("%link"), QLatin1String(colours.link));
-  sheet.replace(QLatin1String("%missing_paper"), QLatin1String(colours.missing));
-  sheet.replace(QLatin1String("%missing_text"), QLatin1String(colours.missing_text));
-  sheet.replace(QLatin1String("%wrong_paper"), QLatin1String(colours.wrong));
-  sheet.replace(QLatin1String("%wrong_text"), QLatin1String(colours.wrong_text));
-  sheet.replace(QLatin1String("%wrong_frame"), QLatin1String(colours.wrong_frame));
-  return sheet;
+void dress(QWidget& widget, Dress as) {
+  const QPalette usual = QApplication::palette();
+  const Colours& colours = colours_for(usual);
+  QPalette own;  // says nothing yet, so the rest stays the application's
+  const auto paper = [&own](const QColor& colour, const QColor& text) {
+    own.setColor(QPalette::Base, colour);
+    own.setColor(QPalette::Text, text);
+  };
+  switch (as) {
+    case Dress::kPlain:
+      break;
+    case Dress::kLocked:
+      own.setColor(QPalette::Base, QLatin1String(colours.locked));
+      break;
+    case Dress::kMissing:
+      paper(QLatin1String(colours.missing), QLatin1String(colours.missing_text));
+      break;
+    case Dress::kWrong:
+      paper(QLatin1String(colours.wrong), QLatin1String(colours.wrong_text));
+      break;
+    case Dress::kLink:
+      own.setColor(QPalette::WindowText, QLatin1String(colours.link));
+      break;
+  }
+  widget.setPalette(own);
+}
+
+QColor wrong_frame() {
+  return QLatin1String(colours_for(QApplication::palette()).wrong_frame);
+}
+
+void show_titles_reached(QMenuBar& bar) {
+  bar.setStyleSheet(
+      QStringLiteral("QMenuBar::item:selected { background: palette(highlight); color: "
+                     "palette(highlighted-text); }"));
 }
 
 FocusFrame::FocusFrame(QWidget* parent) : QWidget(parent) {

@@ -1,18 +1,36 @@
 #pragma once
 // The look of the widgets: what has the focus, what is missing, what is wrong, what can be clicked.
 
+#include <QColor>
+#include <QMenuBar>
 #include <QPalette>
 #include <QPointer>
-#include <QString>
 #include <QStyle>
 #include <QWidget>
+#include <cstdint>
 
 #include "ui/drawing.h"
 
 namespace desktop {
 
-/// The style sheet of the application for a light or dark palette.
-[[nodiscard]] QString style_sheet(const QPalette& palette);
+/// What a widget tells by its colours alone.
+enum class Dress : std::uint8_t {
+  kPlain,
+  kLocked,   ///< a value that is shown and not typed
+  kMissing,  ///< a group that is not complete
+  kWrong,    ///< a refused entry
+  kLink,     ///< a title or caption that opens a dialog
+};
+/// The colours of the widget for it, in the application's palette of the moment. Set as a palette
+/// and not by a style sheet, which would lay a style of its own over every widget and take a third
+/// of a start.
+void dress(QWidget& widget, Dress as);
+/// The colour of the frame around a refused entry.
+[[nodiscard]] QColor wrong_frame();
+
+/// Menu titles that the keyboard is on are shown like those whose menu is open: without a menu
+/// open, some styles show them like all others.
+void show_titles_reached(QMenuBar& bar);
 
 /// The palette with selected lines, selected texts and disabled texts that can be read: its own when
 /// they can, else ours.

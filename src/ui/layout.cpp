@@ -51,8 +51,9 @@ LayoutNode row_of(const std::vector<std::string_view>& names) {
 }
 
 bool is_verb(std::string_view word) {
-  static constexpr std::string_view kVerbs[] = {"rows", "columns", "group", "grid", "lines",
-                                                "row",  "buttons", "space", "end"};
+  static constexpr std::string_view kVerbs[] = {"rows",    "columns", "flow",  "foot",
+                                                "group",   "grid",    "lines", "row",
+                                                "buttons", "space",   "end"};
   return std::find(std::begin(kVerbs), std::end(kVerbs), word) != std::end(kVerbs);
 }
 
@@ -91,6 +92,11 @@ std::string take_line(const std::vector<std::string_view>& words, std::vector<La
     node.type = LayoutNode::Type::kRows;
   } else if (verb == "columns") {
     node.type = LayoutNode::Type::kColumns;
+  } else if (verb == "flow" && words.size() == 1) {
+    node.type = LayoutNode::Type::kFlow;
+  } else if (verb == "foot" && words.size() == 1) {
+    if (open.size() != 1) return "foot within something else";
+    node.type = LayoutNode::Type::kFoot;
   } else if (verb == "group" && words.size() == 2) {
     node.type = LayoutNode::Type::kGroup;
     node.name = words[1];
@@ -128,6 +134,12 @@ LayoutResult parse_layout(std::string_view source) {
     source.remove_prefix(end == std::string_view::npos ? source.size() : end + 1);
     ++number;
     if (line.empty() || line.front() == '#') continue;
+    // What came behind it would be drawn above it.
+    if (open.size() == 1 && !open.front().children.empty() &&
+        open.front().children.back().type == LayoutNode::Type::kFoot) {
+      result.error = "line " + text::format_int(number) + ": something behind the foot";
+      return result;
+    }
     if (std::string reason = take_line(words_of(line), open); !reason.empty()) {
       result.error = "line " + text::format_int(number) + ": " + reason;
       return result;

@@ -4,7 +4,11 @@
 //
 //   rows                 children one below the other …
 //   columns              … or side by side
-//   group NAME           a frame titled by the label NAME (its caption is the frame's title; a
+//   flow                 children side by side, going on below where the width is short; the names of
+//                        its rows flow one by one
+//   foot                 at the end of a layout: what stays in view below all the rest when that
+//                        scrolls; children one below the other
+//   group NAME NAME …    a frame titled by the label NAME (its caption is the frame's title; a
 //                        label with on_press makes the title clickable); children one below the
 //                        other
 //   grid N               N cells a line, filled in order, so that captions and values line up
@@ -13,7 +17,7 @@
 //   row NAME NAME …      controls on one line; a line of names alone is a row too
 //   buttons NAME …       the line of buttons at the bottom, right-aligned
 //   space                takes up what room is left
-//   end                  closes rows, columns, group, grid and lines
+//   end                  closes rows, columns, flow, foot, group, grid and lines
 //
 // A caption stands left of its control; NAME^ puts it above, NAME- leaves it out. "#" starts a
 // comment line. Each control is placed exactly once. A screen without a layout has its controls
@@ -26,7 +30,19 @@
 namespace ui {
 
 struct LayoutNode {
-  enum class Type { kRows, kColumns, kGroup, kGrid, kLines, kRow, kButtons, kSpace, kControl };
+  enum class Type {
+    kRows,
+    kColumns,
+    kFlow,
+    kFoot,
+    kGroup,
+    kGrid,
+    kLines,
+    kRow,
+    kButtons,
+    kSpace,
+    kControl
+  };
   enum class Caption { kLeft, kAbove, kNone };
 
   Type type = Type::kRows;

@@ -30,14 +30,21 @@ class Planner {
  public:
   explicit Planner(const Screen& screen) : screen_(screen) {}
 
-  PlanNode body(const LayoutNode& root) {
-    PlanNode body;
-    for (const LayoutNode& child : root.children) add(child, body);
+  Plan plan(const LayoutNode& root) {
+    Plan plan;
+    plan.has_menu = !screen_.menu().empty();
+    for (const LayoutNode& child : root.children) {
+      if (child.type == LayoutType::kFoot) {
+        for (const LayoutNode& part : child.children) add(part, plan.foot);
+      } else {
+        add(child, plan.body);
+      }
+    }
     for (const Control* const control : screen_.controls()) {
       // What a layout forgot is shown all the same: nobody can correct what nobody sees.
-      if (!placed_.contains(control->name)) body.children.push_back(bare(*control));
+      if (!placed_.contains(control->name)) plan.body.children.push_back(bare(*control));
     }
-    return body;
+    return plan;
   }
 
  private:
@@ -124,6 +131,20 @@ class Planner {
     into.children.push_back(std::move(lines));
   }
 
+  // The rows of names within it are no lines: where one ends is the width's to say.
+  void add_flow(const LayoutNode& from, PlanNode& into) {
+    PlanNode flow;
+    flow.type = Type::kFlow;
+    for (const LayoutNode& child : from.children) {
+      if (child.type != LayoutType::kRow) {
+        add(child, flow);
+        continue;
+      }
+      for (const LayoutNode& name : child.children) add_control(name, CaptionPlace::kBeside, flow);
+    }
+    into.children.push_back(std::move(flow));
+  }
+
   bool grows_down(const PlanNode& node) const {
     const Control* const control = node.type == Type::kControl ? screen_.find(node.name) : nullptr;
     if (control != nullptr && control->drawing != nullptr && control->drawing->grows) return true;
@@ -141,7 +162,8 @@ class Planner {
     for (const LayoutNode& child : from.children) add(child, box);
     // Beside a higher column its rows stay together at the top, but for a picture that takes the
     // room.
-    if (type == Type::kRows && into.type == Type::kColumns && !grows_down(box)) {
+    const bool beside = into.type == Type::kColumns || into.type == Type::kFlow;
+    if (type == Type::kRows && beside && !grows_down(box)) {
       box.children.emplace_back();
       box.children.back().type = Type::kSpace;
     }
@@ -154,6 +176,10 @@ class Planner {
         return add_box(from, Type::kRows, into);
       case LayoutType::kColumns:
         return add_box(from, Type::kColumns, into);
+      case LayoutType::kFlow:
+        return add_flow(from, into);
+      case LayoutType::kFoot:  // never within something else
+        return;
       case LayoutType::kGroup:
         return add_box(from, Type::kGroup, into);
       case LayoutType::kGrid:
@@ -222,7 +248,7 @@ Plan plan_of(const Screen& screen) {
 }
 
 Plan plan_of(const Screen& screen, const LayoutNode& root) {
-  return {!screen.menu().empty(), Planner(screen).body(root)};
+  return Planner(screen).plan(root);
 }
 
 bool shows_own_caption(Kind kind) {

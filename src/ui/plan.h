@@ -25,9 +25,11 @@ struct PlanNode {
   enum class Type {
     kRows,     ///< children one below the other
     kColumns,  ///< children side by side
-    kGroup,    ///< a frame around children one below the other, titled by the label `name`
-    kGrid,     ///< children are its lines; the cells of those that are a kLine stand in columns
-    kLine,     ///< children side by side, at most `columns` of them in a grid
+    kFlow,  ///< the same, going on below where the width is short; where a child of a line can take
+            ///< up room it takes what is left
+    kGroup,  ///< a frame around children one below the other, titled by the label `name`
+    kGrid,   ///< children are its lines; the cells of those that are a kLine stand in columns
+    kLine,   ///< children side by side, at most `columns` of them in a grid
     kLines,  ///< the lines of the choice `name`, `columns` side by side; children are the pictures
              ///< that stand left of theirs. Lines without one stand side by side above
     kButtons,  ///< the same for buttons
@@ -48,8 +50,11 @@ struct Plan {
   /// A menu bar stands above the body and stays there when the body scrolls. Such a window is a
   /// form of many fields: its gaps are small.
   bool has_menu = false;
-  /// A kRows. It scrolls as a whole, and only where the display has no room for all of it.
+  /// A kRows. It scrolls as a whole, and only where the display has no room for all of it; one with
+  /// a flow up and down only.
   PlanNode body;
+  /// A kRows that stands below the body and stays there when the body scrolls; no children: nothing.
+  PlanNode foot;
 };
 
 /// The plan of an open screen by its class's layout. A screen that has none, or one that is not

@@ -275,8 +275,8 @@ TEST(CannotTell, AnotherFolderMayBeChosenForOneThatCannotBeLookedAt) {
     EXPECT_EQ(start.run(dialogs), 0);
     ASSERT_EQ(start.world.windows.boxes.size(), 1U);
     EXPECT_EQ(start.world.windows.boxes[0].text,
-              "The folder C:\\tlx\\ can not be looked at (not permitted).\n"
-              "Use it all the same? With No another one can be chosen.");
+              "The folder C:\\tlx\\ cannot be checked (not permitted).\n"
+              "Use it all the same? Choose NO to pick another one.");
     EXPECT_EQ(in_force, choose ? "C:\\other\\" : kReports);
     EXPECT_EQ(start.files.content(kLive)->find("TLX=C:\\tlx\\\n") == std::string::npos, choose);
   }

@@ -357,7 +357,7 @@ TEST_F(StartUp, OfficerIsToldWhenTheMainWindowCannotSaveTheShipData) {
   in_main_window = [&](ui::Services&, const mainwindow::MainWindowContext& context) {
     files.fail_path(kFixed, FileError::kAccessDenied);
     world.windows.expect_text(
-        "The file C:\\kavrel\\file\\FIXDATA.DAT can not be saved (not permitted).");
+        "The file C:\\kavrel\\file\\FIXDATA.DAT cannot be saved (not permitted).");
     context.save_fixed_data();
   };
   EXPECT_EQ(run(), 0);

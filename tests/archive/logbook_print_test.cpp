@@ -87,7 +87,7 @@ TEST_F(LogbookPrinting, ListsNothingWithoutAFolderAndTellsOfOneThatCannotBeRead)
             "No folder is set for the marine meteorological logbook.");
   const CLogPrintDlg& away = open(-1, "C:\\away\\");
   EXPECT_EQ(away.logbooks.items, Lines());
-  EXPECT_EQ(away.pages.remark.content, "C:\\away\\ can not be read (no such file or folder).");
+  EXPECT_EQ(away.pages.remark.content, "C:\\away\\ cannot be read (no such file or folder).");
 }
 
 TEST_F(LogbookPrinting, NothingChosenIsTold) {
@@ -139,7 +139,7 @@ TEST_F(LogbookPrinting, PagesBreakWhereThePaperDoes) {
 
 TEST_F(LogbookPrinting, PageIsToldInJapanese) {
   world.japanese();
-  EXPECT_EQ(open(0).pages.position.literal_caption, "1／3 ページ");
+  EXPECT_EQ(open(0).pages.position.literal_caption, "1／3ページ");
 }
 
 TEST_F(LogbookPrinting, PagesOfNarrowPaperAreFoldedAsThePaperFoldsThem) {
@@ -242,7 +242,7 @@ TEST_F(LogbookPrinting, LogbookThatCannotBeReadIsNamedAndNotPrinted) {
   CLogPrintDlg& screen = open();
   files.fail_path(kLog, FileError::kAccessDenied);
   screen.choose(screen.logbooks, 0);
-  EXPECT_EQ(screen.pages.remark.content, std::string(kLog) + " can not be read (not permitted).");
+  EXPECT_EQ(screen.pages.remark.content, std::string(kLog) + " cannot be read (not permitted).");
   world.windows.expect(id::kUnreadable);
   world.windows.expect(id::kPrintFailed);
   screen.press(screen.pages.print);

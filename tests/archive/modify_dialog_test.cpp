@@ -117,8 +117,8 @@ TEST(ModifyDialog, SaysWhyAFolderCannotBeRead) {
     EXPECT_TRUE(dialog.reports.items.empty());
     EXPECT_TRUE(dialog.remark.visible);
     EXPECT_EQ(
-        dialog.remark.content.find(japanese ? "気象電報のフォルダを読み取れません。\nC:\\tlx\\"
-                                            : "The folder of the weather reports can not be "
+        dialog.remark.content.find(japanese ? "気象電報のフォルダを読み込めません。\nC:\\tlx\\"
+                                            : "The folder of the weather reports cannot be "
                                               "read:\nC:\\tlx\\"),
         0U)
         << dialog.remark.content;

@@ -70,7 +70,7 @@ TEST_F(RealFolders, ReportThatVanishesIsNamed) {
   screen.open();
   std::filesystem::remove(at("14111512.tlx"));
   screen.choose(screen.reports, 0);
-  EXPECT_EQ(screen.pages.remark.content, "14111512.tlx can not be read (no such file or folder).");
+  EXPECT_EQ(screen.pages.remark.content, "14111512.tlx cannot be read (no such file or folder).");
 }
 
 TEST_F(RealFolders, LogbookMayBecomeShorterOrGoAwayWhileItIsListed) {

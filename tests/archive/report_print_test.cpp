@@ -165,7 +165,7 @@ TEST_F(ReportPrinting, FolderNeedsNoBackslash) {
 }
 
 TEST_F(ReportPrinting, FolderThatCannotBeReadIsNamed) {
-  const std::string told = "C:\\away\\ can not be read (no such file or folder).";
+  const std::string told = "C:\\away\\ cannot be read (no such file or folder).";
   EXPECT_EQ(single("C:\\away\\")->pages.remark.content, told);
   EXPECT_EQ(all("C:\\away\\")->pages.remark.content, told);
 }
@@ -177,12 +177,12 @@ TEST_F(ReportPrinting, SingleReportThatCannotBeReadHasNoText) {
   const Lines expected = {"File        14111518.tlx", std::string(60 - 39, ' ') + kTime, "",
                           kRuler};
   EXPECT_EQ(lines_in(screen->pages.page.content), expected);
-  EXPECT_EQ(screen->pages.remark.content, "14111518.tlx can not be read (not permitted).");
+  EXPECT_EQ(screen->pages.remark.content, "14111518.tlx cannot be read (not permitted).");
   EXPECT_EQ(printed(*screen), expected);
   files.heal();
   ASSERT_EQ(files.remove("C:\\out\\14111506.tlx"), FileError::kNone);
   screen->choose(screen->reports, 2);
-  EXPECT_EQ(screen->pages.remark.content, "14111506.tlx can not be read (no such file or folder).");
+  EXPECT_EQ(screen->pages.remark.content, "14111506.tlx cannot be read (no such file or folder).");
   screen->choose(screen->reports, 1);
   EXPECT_EQ(screen->pages.remark.content, "");
 }
@@ -302,8 +302,8 @@ TEST_F(ReportPrinting, AllPrintsTheNameAloneOfWhatCannotBeRead) {
   files.fail_path("C:\\out\\14111512.tlx", FileError::kAccessDenied);
   const auto screen = all();
   EXPECT_EQ(screen->pages.remark.content,
-            "Weather reports that can not be read: 1. Their names are printed alone. "
-            "14111512.tlx can not be read (not permitted).");
+            "Weather reports that cannot be read: 1. Only their names are printed. "
+            "14111512.tlx cannot be read (not permitted).");
   EXPECT_EQ(printed(*screen), all_lines({kNewestBlock, {"14111512.tlx"}, kOldestBlock}));
 }
 

@@ -113,11 +113,11 @@ TEST(IceAccretion, ShowsItsHeadingsAndLinesInBothLanguages) {
     dialog.open();
     const auto caption = [&](const ui::Control& c) { return dialog.caption(c); };
     EXPECT_EQ(dialog.title(), japanese ? "船体着氷" : "Ice accretion on ships");
-    EXPECT_EQ(caption(dialog.kind_group), japanese ? "着氷の種類" : "Kind of ice accretion");
+    EXPECT_EQ(caption(dialog.kind_group), japanese ? "着氷の原因" : "Kind of ice accretion");
     EXPECT_EQ(caption(dialog.thickness), japanese ? "着氷の厚さ" : "Thickness of ice accretion");
-    EXPECT_EQ(caption(dialog.rate_heading), japanese ? "着氷の速度" : "Speed of ice accretion");
+    EXPECT_EQ(caption(dialog.rate_heading), japanese ? "着氷の変化" : "Speed of ice accretion");
     EXPECT_EQ(caption(dialog.rate_group),
-              japanese ? "[着氷の速度（3時間前との比較）]"
+              japanese ? "[着氷の変化（3時間前との比較）]"
                        : "[Speed of ice accretion (Compare with 3 hours before)]");
     expect_lines(dialog.kind, kKinds, japanese);
     expect_lines(dialog.rate, kRates, japanese);

@@ -311,12 +311,12 @@ const Notice kRange1[] = {
     {id::kSwell1DirectionRange, "Number Impossable",
      "Error: Input data is out of range.\nIt must be \"01<=Swell dir<=36,99,//,00\""},
     {id::kSwell1DirectionRange, "入力できない値です",
-     "エラー：（01<=うねり方向<=36,99,//,00）\nの範囲を超えています。"}};
+     "エラー：（01<=うねりの方向<=36,99,//,00）\nの範囲を超えています。"}};
 const Notice kRange2[] = {
     {id::kSwell2DirectionRange, "Number Impossable",
      "Error: Input data is out of range.\nIt must be \"01<=Swell dir<=36,//,00\""},
     {id::kSwell2DirectionRange, "入力できない値です",
-     "エラー：（01<=うねり方向<=36,//,00）\nの範囲を超えています。"}};
+     "エラー：（01<=うねりの方向<=36,//,00）\nの範囲を超えています。"}};
 const Notice kPair[] = {{id::kSwell2DirectionMustBeUnknown, "Number Impossable2",
                          "Error: Input data is wrong. It must be \"Shell 2 Dir = //\""},
                         {id::kSwell2DirectionMustBeUnknown, "入力できない値です",
@@ -531,7 +531,8 @@ TEST(Swell, WhatTheShipDoesNotObserveIsLockedWhateverIsChosen) {
     EXPECT_EQ(s.open().substr(3), "---");
     EXPECT_EQ(s.boxes().substr(s.boxes().size() - 9), "(o)(o)(o)");
     EXPECT_FALSE(s.screen.length2.enabled);
-    EXPECT_EQ(s.screen.direction2.why_locked, "Switched off by the selection of observation items");
+    EXPECT_EQ(s.screen.direction2.why_locked,
+              "Not observed on this ship (menu \"Observation item\")");
     s.ok();
     EXPECT_EQ(s.screen.result(), ui::kOk);
     EXPECT_EQ(s.screen.values().second, (CSwellWaveDlg::Swell{"", "", ""}));
@@ -635,15 +636,15 @@ TEST(WaveLength, RefusesWhatGivesNoPeriodThatIsReported) {
   };
   const Row rows[] = {
       {"", id::kWaveLengthNoNumber, "The wave length must be a number in metres.",
-       "波長はメートル単位の数字で入力して下さい。"},
+       "波長はメートル単位の数字で入力してください。"},
       {"x", id::kWaveLengthNoNumber, "The wave length must be a number in metres.",
-       "波長はメートル単位の数字で入力して下さい。"},
+       "波長はメートル単位の数字で入力してください。"},
       {"0", id::kWaveLengthNoNumber, "The wave length must be a number in metres.",
-       "波長はメートル単位の数字で入力して下さい。"},
+       "波長はメートル単位の数字で入力してください。"},
       {"-5", id::kWaveLengthNoNumber, "The wave length must be a number in metres.",
-       "波長はメートル単位の数字で入力して下さい。"},
+       "波長はメートル単位の数字で入力してください。"},
       {"1.5", id::kWaveLengthTooShort, "A wave of this length has a period under 1 second.",
-       "この波長の波の周期は１秒未満です。"},
+       "この波長の波の周期は1秒未満です。"},
       {"976", id::kWaveLengthTooLong, "A wave of this length has a period over 25 seconds.",
        "この波長の波の周期は25秒を超えます。"},
       {"999999", id::kWaveLengthTooLong, "A wave of this length has a period over 25 seconds.",

@@ -27,11 +27,13 @@ class EveryPlanDrawn : public testing::TestWithParam<std::tuple<std::size_t, tex
     window = std::make_unique<desktop::ScreenWindow>(*screen, nullptr);
     tests::show(*window);
     content = window->findChild<QScrollArea*>()->widget();
+    place_in = content;
   }
 
   [[nodiscard]] QRect place_of(const QWidget* widget) const {
     if (widget == nullptr || widget->isHidden()) return {};
-    return {widget->mapTo(content, QPoint(0, 0)), widget->size()};
+    EXPECT_TRUE(place_in->isAncestorOf(widget)) << widget->accessibleName().toStdString();
+    return {widget->mapTo(place_in, QPoint(0, 0)), widget->size()};
   }
 
   // All of a control; nothing when it is hidden.
@@ -43,7 +45,7 @@ class EveryPlanDrawn : public testing::TestWithParam<std::tuple<std::size_t, tex
     EXPECT_EQ(bound->caption_label != nullptr, node.caption != CaptionPlace::kNone) << node.name;
     EXPECT_EQ(bound->unit_label != nullptr, node.has_unit) << node.name;
     if (!value.isNull()) {
-      EXPECT_TRUE(QRect(QPoint(0, 0), content->size()).contains(value)) << node.name;
+      EXPECT_TRUE(QRect(QPoint(0, 0), place_in->size()).contains(value)) << node.name;
       if (!unit.isNull()) {
         EXPECT_LT(value.right(), unit.left()) << node.name;
       }
@@ -95,6 +97,7 @@ class EveryPlanDrawn : public testing::TestWithParam<std::tuple<std::size_t, tex
   QRect check(const ui::PlanNode& node) const {
     if (node.type == Type::kControl) return check_control(node);
     if (node.type == Type::kLines) return check_lines(node);
+    if (node.type == Type::kFlow) return check_flow(node);
     const bool across =
         node.type == Type::kColumns || node.type == Type::kLine || node.type == Type::kButtons;
     QRect all;
@@ -109,6 +112,25 @@ class EveryPlanDrawn : public testing::TestWithParam<std::tuple<std::size_t, tex
       all = all.united(one);
     }
     if (node.type == Type::kGrid) check_columns(node);
+    return all;
+  }
+
+  // Each child stands right of the one before, or at the left below all that stands there already.
+  QRect check_flow(const ui::PlanNode& node) const {
+    QRect all;
+    QRect before;
+    for (const ui::PlanNode& child : node.children) {
+      const QRect one = check(child);
+      if (one.isNull()) continue;
+      if (!before.isNull() && one.left() <= before.right()) {
+        EXPECT_LT(all.bottom(), one.top()) << child.name;
+        EXPECT_LE(one.left(), all.left() + one.width()) << child.name;
+      } else if (!before.isNull()) {
+        EXPECT_LT(one.top(), before.bottom()) << child.name;
+      }
+      before = one;
+      all = all.united(one);
+    }
     return all;
   }
 
@@ -134,12 +156,20 @@ class EveryPlanDrawn : public testing::TestWithParam<std::tuple<std::size_t, tex
   std::unique_ptr<ui::Screen> screen;
   std::unique_ptr<desktop::ScreenWindow> window;
   QWidget* content = nullptr;
+  const QWidget* place_in = nullptr;  // the content, or the foot below it
 };
 
 TEST_P(EveryPlanDrawn, IsWhereThePlanSays) {
   const ui::Plan plan = ui::plan_of(*screen);
   const QRect all = check(plan.body);
   EXPECT_FALSE(all.isNull());
+  if (plan.foot.children.empty()) return;
+  const QScrollArea* const area = window->findChild<QScrollArea*>();
+  place_in = window.get();
+  const QRect foot = check(plan.foot);
+  EXPECT_FALSE(foot.isNull());
+  // In the window itself, below what scrolls.
+  EXPECT_GT(foot.top(), area->geometry().bottom());
 }
 
 INSTANTIATE_TEST_SUITE_P(

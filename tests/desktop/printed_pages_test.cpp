@@ -243,7 +243,7 @@ TEST(PrintedPages, TellTheirNumberBelowTheLinesWhereThereAreSeveral) {
   sheets.language = text::Language::kJapanese;
   sheets.lines = ui::document_of(listing(2 * per_page + 1, 80));
   EXPECT_EQ(print(sheets, paper).footers,
-            (std::vector<std::string>{"1／3 ページ", "2／3 ページ", "3／3 ページ"}));
+            (std::vector<std::string>{"1／3ページ", "2／3ページ", "3／3ページ"}));
 }
 
 // Counts the lines that are asked for at once, and how often each is.

@@ -13,6 +13,7 @@
 
 #include "desktop/desktop_windows.h"
 #include "fakes/fake_ports.h"
+#include "palettes.h"
 #include "text/ids.h"
 #include "widget_views.h"
 
@@ -232,12 +233,37 @@ TEST(ScreenWindow, WidgetsShowWhatTheControlsHold) {
 
 TEST(ScreenWindow, AWrongFieldIsMarkedAndTheMarkGoesAgain) {
   Shown s;
+  const auto* const field = s.widget<QLineEdit>("second");
+  const auto frame_and_paper = [&] {
+    s.window->refresh();
+    const QImage picture = s.window->binding("second")->widget()->grab().toImage();
+    return std::pair(picture.pixelColor(0, picture.height() / 2),
+                     field->palette().color(QPalette::Base));
+  };
+  const auto usual = frame_and_paper();
   s.screen.second.mark = "wrong";
-  s.window->refresh();
-  EXPECT_EQ(s.widget<QLineEdit>("second")->property("mark"), "wrong");
+  const auto wrong = frame_and_paper();
+  EXPECT_EQ(wrong.first, desktop::wrong_frame());
+  EXPECT_NE(wrong.second, usual.second);
   s.screen.second.mark.clear();
+  EXPECT_EQ(frame_and_paper(), usual);
+}
+
+// The system's colours may change at dusk while the window is open.
+TEST(ScreenWindow, MarksAndLinksFollowTheColoursOfTheMoment) {
+  const QPalette before = QApplication::palette();
+  Shown s;
+  s.screen.second.mark = "missing";
   s.window->refresh();
-  EXPECT_EQ(s.widget<QLineEdit>("second")->property("mark"), "");
+  const auto* const field = s.widget<QLineEdit>("second");
+  const QColor light = field->palette().color(QPalette::Base);
+  QApplication::setPalette(tests::palette_of(true));
+  s.window->refresh();
+  const QPalette dark = field->palette();
+  QApplication::setPalette(before);
+  EXPECT_NE(light, dark.color(QPalette::Base));
+  EXPECT_GE(desktop::contrast(dark.color(QPalette::Base), dark.color(QPalette::Text)),
+            desktop::kReadable);
 }
 
 }  // namespace

@@ -252,7 +252,7 @@ TEST(CopyLogbook, IsNotTakenWhileAnotherProgramHoldsIt) {
   c.choose("C:\\copy");
   c.world.windows.expect_text(
       "Copy of the marine meteorological logbook (immt5.log) failed.\n"
-      "C:\\log\\immt5.log (another program holds it)");
+      "C:\\log\\immt5.log (another program is using it)");
   copy(c);
   EXPECT_EQ(c.files.content(kTo), std::nullopt);
 }

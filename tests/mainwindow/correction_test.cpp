@@ -159,7 +159,7 @@ TEST(Correcting, WithoutALineSaysSoAndHasNoSecondSwell) {
   for (const Row& row : {Row{std::nullopt, FileError::kNone, "has no line that agrees"},
                          Row{"", FileError::kNone, "has no line that agrees"},
                          Row{other + "\n", FileError::kNone, "has no line that agrees"},
-                         Row{other + "\n", FileError::kMediumMissing, "can not be read"}}) {
+                         Row{other + "\n", FileError::kMediumMissing, "cannot be read"}}) {
     for (const bool observed : {true, false}) {
       const auto opened = std::make_unique<Correcting>();
       opened->items.set_observed(ObservationItem::dw2Pw2Hw2, observed);
@@ -285,7 +285,7 @@ TEST(Correcting, TellsWhatFoundNoPlaceWhenOpenedAndBeforeItIsReplaced) {
       {"BBXX JXKV 15123 99357 41653 41497 62718 .....",
        "Not taken over from 14111512.tlx: 41653 (not the group expected here)"},
       {"BBXX JXKV 15123 99357 11653 41497 62718 10152 10153 .....",
-       "Not taken over from 14111512.tlx: 10153 (a group that was there before)"},
+       "Not taken over from 14111512.tlx: 10153 (a group that is repeated)"},
       {"BBXX JXKV 15123 99357 11653 41497 62718 333 91119 .....",
        "Not taken over from 14111512.tlx: 91119 (section 3 or later)"},
       {"BBXX JXKV 15123 99357 11653 41497 62718 22213 ICE MOSTLY OPEN .....",
@@ -405,7 +405,7 @@ TEST(Correcting, TakesDayAndHourFromTheNameWhereTheReportLacksThem) {
   const std::string told =
       opened->correct("BBXX JXKV 1512 99357 11653 41497 62718 .....", kReport, true);
   EXPECT_NE(told.find(": 1512 (not a group"), std::string::npos) << told;
-  EXPECT_EQ(told.find("contradict"), std::string::npos) << told;
+  EXPECT_EQ(told.find("do not agree"), std::string::npos) << told;
   EXPECT_EQ(opened->shown("YY") + opened->shown("GG"), "1512");
 }
 
@@ -503,8 +503,8 @@ TEST(Correcting, NamesValuesOfElementsNoLongerObservedOnceTheHourIsAnother) {
       });
       opened->menu("Save weather report");
       const std::string why = japanese
-                                  ? "（観測項目の選択により入力しません）\r\n"
-                                  : " (Switched off by the selection of observation items)\r\n";
+                                  ? "（この船では観測しない項目です（メニューの「観測項目」））\r\n"
+                                  : " (Not observed on this ship (menu \"Observation item\"))\r\n";
       for (const char* const named : {"ci 3", "bi 1", "Di 2", "zi 4", "ww 25"})
         EXPECT_NE(opened->errors.find(named + why), std::string::npos) << named << opened->errors;
       EXPECT_EQ(opened->errors.find("Si"), std::string::npos);

@@ -342,7 +342,7 @@ TEST(KeptEntries, ThatCannotBeUsedAreNamedAndPutAside) {
        [](Computer& c) { c.files.add_file(kDraft, std::string(1U << 20U, '\n')); }},
       {"later version", id::kDraftLaterVersion,
        [](Computer& c) { c.files.add_file(kDraft, "draft=4\ncheck=0CBFB5D9\n"); }},
-      {"of another ship (JXKV)", id::kDraftOtherShip,
+      {"belongs to another ship (JXKV)", id::kDraftOtherShip,
        [](Computer& c) { c.ship.call_sign = "JABC"; }},
   };
   for (const Case& c : cases) {

@@ -100,7 +100,7 @@ TEST(MainMenu, OffersOnlyEnglishWhenItIsJapanese) {
 TEST(MainMenu, IsInJapaneseThroughout) {
   const std::vector<std::string> lines = lines_of(Menu::kJapanese, Language::kJapanese, true);
   ASSERT_EQ(21U, lines.size());
-  EXPECT_EQ("ファイル/気象電報の修正", lines[0]);
+  EXPECT_EQ("ファイル/船舶気象報の訂正", lines[0]);
   EXPECT_EQ("言語/English（英語）", lines[11]);
   EXPECT_EQ("ヘルプ/バージョン情報", lines[20]);
 }

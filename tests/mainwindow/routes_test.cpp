@@ -613,7 +613,7 @@ TEST(SwitchedOffElements, AreLockedAndSayWhy) {
       ++locked;
       ui::Control& control = opened->control(row.name);
       EXPECT_TRUE(control.read_only) << row.name;
-      EXPECT_EQ("Switched off by the selection of observation items", control.why_locked);
+      EXPECT_EQ("Not observed on this ship (menu \"Observation item\")", control.why_locked);
       const std::string before = opened->state();
       opened->window.move_focus(control);
       opened->window.type(control, "1");

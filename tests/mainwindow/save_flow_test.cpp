@@ -378,7 +378,7 @@ TEST(SaveFlow, AHeldLogbookIsTriedAgainOrLeft) {
     expect_words(box, id::kLogbookLocked, language, {kLogbook});
     const bool english = language == text::Language::kEnglish;
     EXPECT_EQ(box.buttons.at(0).label, english ? "Retry" : "再試行");
-    EXPECT_EQ(box.buttons.at(1).label, english ? "Cancel" : "キャンセル");
+    EXPECT_EQ(box.buttons.at(1).label, english ? "Cancel" : "ｷｬﾝｾﾙ");
     EXPECT_EQ(box.close_result, box.buttons.at(1).result);
 
     s.world.windows.expect(id::kLogbookLocked, "retry");

@@ -218,7 +218,7 @@ TEST_F(TheLargerMap, SpeaksJapanese) {
   EXPECT_EQ(larger.shown.selected_text(), "10度");
   EXPECT_EQ(larger.caption(larger.position), "船位 33°N 141°E");
   EXPECT_EQ(larger.caption(larger.legend),
-            "航海には使用しないこと。南北 600 海里。矢印は 6 時間の航程。");
+            "航海には使用しないこと。南北600海里。矢印は6時間の航程。");
 }
 
 TEST_F(TheLargerMap, ClosesByEscapeAndEnterAndHasHelp) {

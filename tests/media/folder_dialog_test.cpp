@@ -235,7 +235,7 @@ TEST_F(FolderDialog, FolderThatCannotBeLookedAtIsRefusedWithTheReasonInBothLangu
   const struct {
     bool japanese;
     const char* told;
-  } rows[] = {{false, "The folder C:\\log\\ can not be looked at (not permitted)."},
+  } rows[] = {{false, "The folder C:\\log\\ cannot be checked (not permitted)."},
               {true, "フォルダ C:\\log\\ を確認できません（許可されていません）。"}};
   for (const auto& row : rows) {
     if (row.japanese) world.japanese();

@@ -647,7 +647,7 @@ TEST_F(Cli, SaveGivesUpAHeldLogbook) {
   const Outcome outcome = run("save --reports reports --logbook logbook " + name);
   ::close(held);
   EXPECT_EQ(outcome.status, 2);
-  EXPECT_NE(outcome.error.find("immt5.log cannot be written: another program holds it"),
+  EXPECT_NE(outcome.error.find("immt5.log cannot be written: another program is using it"),
             std::string::npos)
       << outcome.error;
   EXPECT_EQ(slurp(folder_ / "logbook/immt5.log"), "held\n");

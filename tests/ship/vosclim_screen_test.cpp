@@ -37,8 +37,8 @@ TEST(VosClimScreen, ShowsTheTwoValuesUnderTheirHeading) {
                 "Height of deck cargo in meters above summer maximum load line",
                 "Departure of summer maximum load line from actual sea level"}},
               {Language::kJapanese,
-               {"ＶＯＳＣｌｉｍのデータ入力", "ＶＯＳＣｌｉｍ登録船",
-                "夏期満載喫水線からの甲板積荷の高さ", "夏期満載喫水線と実際の海面との差"}}};
+               {"ＶＯＳＣｌｉｍのデータ入力", "VOSClim登録船", "夏期満載喫水線からの甲板積荷の高さ",
+                "夏期満載喫水線と実際の海面との差"}}};
   for (const auto& row : rows) {
     Bench b({"07", "-12"}, row.language);
     EXPECT_EQ((std::vector<std::string>{b.screen.title(), b.screen.caption(b.screen.registration),

@@ -44,6 +44,17 @@ TEST(Layout, NestsRowsColumnsGroupsAndGrids) {
   EXPECT_EQ(layout.root.children[1].type, Type::kButtons);
 }
 
+TEST(Layout, HasFlowsAndAFootAtItsEnd) {
+  const auto layout = ui::parse_layout(
+      "flow\n  rows\n    a\n  end\n  b\nend\n# below\nfoot\n  flow\n    c\n  end\nend\n\n");
+  ASSERT_EQ(layout.error, "");
+  ASSERT_EQ(layout.root.children.size(), 2U);
+  EXPECT_EQ(layout.root.children[0].type, Type::kFlow);
+  EXPECT_EQ(layout.root.children[1].type, Type::kFoot);
+  EXPECT_EQ(layout.root.children[1].children[0].type, Type::kFlow);
+  EXPECT_EQ(ui::placed_names(layout.root), (std::vector<std::string>{"a", "b", "c"}));
+}
+
 TEST(Layout, TakesALineOfNamesForARow) {
   const auto layout = ui::parse_layout("grid 2\n  a b^\n  c-\nend\n");
   ASSERT_EQ(layout.error, "");
@@ -93,6 +104,12 @@ TEST(Layout, SaysLineAndReasonOfAMistake) {
       {"row a\nta/ble 3\n", "line 2: unknown: ta/ble"},
       {"group a b\nend\n", "line 1: unknown: group"},
       {"a b^^\n", "line 1: unknown: a"},
+      {"flow 2\nend\n", "line 1: unknown: flow"},
+      {"flow\na\n", "an end is missing"},
+      {"foot a\nend\n", "line 1: unknown: foot"},
+      {"rows\nfoot\na\nend\nend\n", "line 2: foot within something else"},
+      {"foot\nfoot\nend\nend\n", "line 2: foot within something else"},
+      {"foot\na\nend\n\nb\n", "line 5: something behind the foot"},
   };
   for (const auto& row : rows) EXPECT_EQ(ui::parse_layout(row.source).error, row.error);
 }

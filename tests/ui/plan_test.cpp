@@ -21,9 +21,9 @@ using ui::CaptionPlace;
 // A plan on one line: "rows(line(left [beside] space) buttons(space ok))".
 std::string written(const ui::PlanNode& node) {
   static const std::map<Type, std::string> kNames = {
-      {Type::kRows, "rows"},  {Type::kColumns, "columns"}, {Type::kGroup, "group"},
-      {Type::kGrid, "grid"},  {Type::kLine, "line"},       {Type::kButtons, "buttons"},
-      {Type::kLines, "lines"}};
+      {Type::kRows, "rows"},   {Type::kColumns, "columns"}, {Type::kGroup, "group"},
+      {Type::kGrid, "grid"},   {Type::kLine, "line"},       {Type::kButtons, "buttons"},
+      {Type::kLines, "lines"}, {Type::kFlow, "flow"}};
   static const std::map<CaptionPlace, std::string> kCaptions = {{CaptionPlace::kNone, ""},
                                                                 {CaptionPlace::kBeside, "<"},
                                                                 {CaptionPlace::kAbove, "^"},
@@ -107,6 +107,22 @@ TEST_F(APlan, KeepsRowsBesideAColumnTogether) {
       "rows(columns(rows(line(number<+unit space) space) "
       "group title(line(value< space) line(bare space))) "
       "rows(line(remark< tick) space) buttons(space ok cancel))");
+}
+
+TEST_F(APlan, LetsTheNamesOfAFlowsRowsFlowOneByOne) {
+  EXPECT_EQ(by("flow\n  row number^ value-\n  bare\n  rows\n    remark\n  end\n"
+               "  group title\n    tick\n  end\nend\nbuttons ok cancel\n"),
+            "rows(flow(number^+unit+room value bare rows(line(remark<) space) "
+            "group title(line(tick space))) buttons(space ok cancel))");
+}
+
+TEST_F(APlan, KeepsTheFootOutOfTheBody) {
+  const auto parsed = ui::parse_layout("number value\nfoot\n  bare\n  buttons ok cancel\nend\n");
+  EXPECT_EQ(parsed.error, "");
+  const ui::Plan plan = ui::plan_of(screen, parsed.root);
+  // What the layout forgot scrolls with the body: the foot has little room.
+  EXPECT_EQ(written(plan.body), "rows(line(number<+unit value< space) title remark tick)");
+  EXPECT_EQ(written(plan.foot), "rows(line(bare space) buttons(space ok cancel))");
 }
 
 TEST_F(APlan, PutsThePicturesOfItsLinesIntoAChoice) {
@@ -204,7 +220,9 @@ class EveryPlan : public testing::TestWithParam<fakes::ScreenCase> {
     screen->open();
     const ui::Plan plan = ui::plan_of(*screen);
     EXPECT_EQ(plan.has_menu, !screen->menu().empty());
-    return plan.body;
+    ui::PlanNode all;
+    all.children = {plan.body, plan.foot};
+    return all;
   }
   fakes::World world;
   std::unique_ptr<ui::Screen> screen;

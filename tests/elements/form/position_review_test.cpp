@@ -164,13 +164,13 @@ TEST(PositionReview, ReportThatCannotBeReadIsNamedWithTheReason) {
     EXPECT_EQ(r.warnings(), row.english == nullptr
                                 ? ""
                                 : "The report " + path +
-                                      " of three hours earlier can not be read (" + row.english +
+                                      " of three hours earlier cannot be read (" + row.english +
                                       "), so the ship's movement is not checked.\r\n");
     r.texts.language = text::Language::kJapanese;
     EXPECT_EQ(r.warnings(), row.japanese == nullptr
                                 ? ""
-                                : "３時間前の気象電報 " + path + " を読み込めない（" +
-                                      row.japanese + "）ため、船の移動は確認していません。\r\n");
+                                : "3時間前の気象電報 " + path + " を読み込めない（" + row.japanese +
+                                      "）ため、船の移動は確認していません。\r\n");
   }
 }
 

@@ -120,7 +120,7 @@ TEST(TypedGroup, ASpeedOf99AndMoreSaysItsRangeAndAsks) {
     EXPECT_EQ(f.record().ff + f.record().fff, "99105");
   }
   EXPECT_EQ(text::bilingual(id::kLargeSpeedRange, text::Language::kEnglish),
-            "Error: Input data is out of range.\nIt must be \"099<=fff<=999,///\"");
+            "Error: Input data is out of range.\nIt must be \"099<=Wind speed (fff)<=999,///\"");
 }
 
 // Nobody confirms a value that is then refused.
