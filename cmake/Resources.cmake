@@ -2,6 +2,7 @@
 # so that a wrong table stops the build and the program needs no data file to start.
 
 set(KAVREL_GENERATED ${PROJECT_BINARY_DIR}/generated)
+configure_file(${PROJECT_SOURCE_DIR}/cmake/version.inc.in ${KAVREL_GENERATED}/version.inc @ONLY)
 file(GLOB KAVREL_LAYOUTS CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/layouts/*.layout)
 
 add_custom_command(

@@ -39,6 +39,7 @@ void CCreateDir::on_ok() {
   // A folder of that name serves as well.
   const FileError error = files.is_folder(path) ? FileError::kNone : files.create_folder(path);
   if (error != FileError::kNone) {
+    const Speaking of(*this, folder_name);
     services().messages.file_error(id::kFolderNotCreated, path, error);
     focus(folder_name);
     return;

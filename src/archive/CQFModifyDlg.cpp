@@ -24,6 +24,7 @@ void CQFModifyDlg::on_open() {
   if (list.error != platform::FileError::kNone)
     remark.set(text::fill(texts.get(id::kModifyFolderUnreadable),
                           {folder_, texts.get(text::reason_of(list.error))}));
+  remark.spoken = {id::kSpokenRemark};
   remark.visible = !remark.content.empty();
   listed_ = std::move(list.reports);
   archive::show_reports(heading, reports, listed_, ReportNames::kWithoutExtension, texts);

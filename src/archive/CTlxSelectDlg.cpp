@@ -16,6 +16,7 @@ CTlxSelectDlg::CTlxSelectDlg(ui::Services& services, std::vector<archive::Listed
       select_none(*this, "select_none", {id::kSelectNone}),
       count(*this, "count"),
       listed_(std::move(listed)) {
+  count.spoken = {id::kSpokenChosen};
   reports.on_change = [this] { show_count(); };
   select_all.on_press = [this] { tick_all(true); };
   select_none.on_press = [this] { tick_all(false); };
@@ -46,6 +47,7 @@ void CTlxSelectDlg::on_ok() {
   for (std::size_t i = 0; i < listed_.size(); ++i)
     if (reports.item_ticked[i]) chosen.push_back(listed_[i]);
   if (chosen.empty()) {
+    const Speaking of(*this, reports);
     services().messages.error(id::kNoFileSelected, "NO FILE SELECTED");
     focus(reports);
     return;

@@ -29,6 +29,7 @@ PageView::PageView(ui::Screen& screen, ui::Services& services, Print what)
       cancel(screen, "cancel", {id::kCancelLabel}, ui::Role::kDismiss),
       services_(services),
       what_(std::move(what)) {
+  remark.spoken = {id::kSpokenRemark};
   remark.visible = false;
   page.font = ui::kFixedPitch;
   page.max_length = kWidestHeading;

@@ -30,7 +30,7 @@ ui::Sheets sheets_of(const ui::Services& services, std::shared_ptr<const ui::Doc
 void tell_printed(ui::Services& services, PrintResult result, std::string_view failed) {
   switch (result) {
     case PrintResult::kSuccess:
-      services.messages.error(id::kPrintSuccess, "Print Success");
+      services.messages.information(id::kPrintSuccess, "Print Success");
       break;
     case PrintResult::kCancelled:
       services.messages.error(id::kPrintCancelled, "Print CANCEL");
@@ -84,7 +84,7 @@ void save_as_pdf(ui::Services& services, const ui::Sheets& sheets, const std::st
     messages.file_error(id::kPdfNotSaved, path, error);
     return;
   }
-  messages.error_filled(id::kPdfSaved, {path});
+  messages.information_filled(id::kPdfSaved, {path});
 }
 
 }  // namespace archive

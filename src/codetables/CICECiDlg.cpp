@@ -58,6 +58,7 @@ CICECiDlg::CICECiDlg(ui::Services& services, std::string ci)
       ci_(std::move(ci)) {
   constexpr int kLineLength = 72;
   concentration.max_length = kLineLength;
+  uniform.spoken = {id::kSpokenUniform};
   place.on_change = [this] { answered(); };
   uniform.on_change = [this] { answered(); };
   concentration.on_change = [this] {

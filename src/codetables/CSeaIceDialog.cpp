@@ -53,6 +53,7 @@ void CSeaIceDialog::on_open() {
 
 // What was handed in is not refused when the focus merely passes through.
 bool CSeaIceDialog::check_thickness() {
+  const Speaking of(*this, thickness);
   if (thickness.content == opened_with_) return true;
   const std::string_view typed = text::trim(thickness.content);
   const std::string figures = thickness_figures(typed);

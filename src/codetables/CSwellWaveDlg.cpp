@@ -206,6 +206,7 @@ void CSwellWaveDlg::on_ok() {
   // A sea of swells from everywhere has no second one with a direction.
   if (is_observed(0) && is_observed(1) && direction1.value() == kWaveIndeterminate &&
       direction2.value() != kWaveUnknown) {
+    const Speaking of(*this, direction2);
     services().messages.error_titled(id::kSwell2DirectionMustBeUnknown, id::kSwellPairCaption);
     focus(direction2);
     return;

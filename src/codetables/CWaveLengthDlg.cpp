@@ -41,6 +41,7 @@ CWaveLengthDlg::CWaveLengthDlg(ui::Services& services)
 }
 
 bool CWaveLengthDlg::check() {
+  const Speaking of(*this, length);
   const Found found = period_of(length.content);
   period_shown.set(found.period);
   if (!found.refusal) return true;

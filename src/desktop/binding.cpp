@@ -25,6 +25,8 @@
 
 #include "desktop/fixed_pitch.h"
 #include "desktop/picture_label.h"
+#include "ui/dump.h"
+#include "ui/spoken.h"
 
 namespace desktop {
 namespace {
@@ -273,6 +275,13 @@ class ComboBinding : public Binding {
       edit->setReadOnly(control().read_only);
     }
   }
+  // The field within has the focus.
+  void speak(const QString& name, const QString& state) override {
+    Binding::speak(name, state);
+    if (box_->lineEdit() == nullptr) return;
+    box_->lineEdit()->setAccessibleName(name);
+    box_->lineEdit()->setAccessibleDescription(state);
+  }
 
  private:
   // As in a tree, what stands apart is written in italics.
@@ -470,6 +479,11 @@ class ChoiceBinding : public Binding {
     if (owns(QApplication::focusWidget()) && group_->checkedButton() != nullptr)
       focus_widget()->setFocus(Qt::OtherFocusReason);
   }
+  // A line has the focus, and says what it is a line of.
+  void speak(const QString& name, const QString& state) override {
+    Binding::speak(name, state);
+    for (QAbstractButton* const line : group_->buttons()) line->setAccessibleDescription(name);
+  }
 
  private:
   void check_chosen(const QList<QAbstractButton*>& buttons) {
@@ -520,6 +534,7 @@ class ChoiceBinding : public Binding {
   QRadioButton* add_button(int index) {
     auto* const button = new QRadioButton(box_);
     group_->addButton(button, index);
+    button->setAccessibleDescription(box_->accessibleName());
     show_line(index);
     return button;
   }
@@ -600,7 +615,7 @@ class ChoiceBinding : public Binding {
     text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     texts_.insert(beside.line, text);
     QRadioButton* const button = add_button(beside.line);
-    button->setText(beside.picture->accessibleName());
+    button->setText(beside.name);
     cell->stands_for(*button);
     auto* const down = new QVBoxLayout;
     down->setSpacing(2);
@@ -856,6 +871,11 @@ bool Binding::owns(const QWidget* candidate) const {
 
 void Binding::select(int /*length*/) {}
 
+void Binding::speak(const QString& name, const QString& state) {
+  widget()->setAccessibleName(name);
+  widget()->setAccessibleDescription(state);
+}
+
 void Binding::stand_beside(int /*columns*/, const std::vector<BesideLine>& /*pictures*/) {}
 
 void Binding::make_room(int besides) {
@@ -878,10 +898,10 @@ void Binding::show_dress() {
   const bool field = control_.kind == ui::Kind::kEdit || control_.kind == ui::Kind::kCombo;
   const bool shown_only = control_.kind == ui::Kind::kReadOnly;
   if (!field && !shown_only) return;
-  const Dress wanted = control_.mark == "wrong"           ? Dress::kWrong
-                       : control_.mark == "missing"       ? Dress::kMissing
-                       : control_.read_only || shown_only ? Dress::kLocked
-                                                          : Dress::kPlain;
+  const Dress wanted = control_.mark == ui::kWrongMark     ? Dress::kWrong
+                       : control_.mark == ui::kMissingMark ? Dress::kMissing
+                       : control_.read_only || shown_only  ? Dress::kLocked
+                                                           : Dress::kPlain;
   const qint64 palette = QApplication::palette().cacheKey();
   if (wanted == dress_ && (palette == palette_ || wanted == Dress::kPlain)) return;
   dress_ = wanted;
@@ -918,13 +938,19 @@ void Binding::show() {
         shown_widget->font().pointSizeF() != wanted.pointSizeF())
       shown_widget->setFont(wanted);
   }
-  // Screen readers say the caption; whoever wonders why a field is locked is told.
-  QString spoken = caption();
-  spoken.remove(QLatin1Char('&'));
-  if (shown_widget->accessibleName() != spoken) shown_widget->setAccessibleName(spoken);
+  const QString name = text_of(ui::spoken_name(screen_, control_, titles));
+  const QString state = text_of(ui::spoken_state(screen_, control_));
+  if (name != spoken_name_ || state != spoken_state_) {
+    spoken_name_ = name;
+    spoken_state_ = state;
+    speak(name, state);
+  }
+  // Whoever wonders why a field is locked is told.
   const QString why = text_of(control_.why_locked);
-  if (shown_widget->accessibleDescription() != why) shown_widget->setAccessibleDescription(why);
-  const QString tip = why.isEmpty() ? with_keys(spoken, control_.shortcut) : why;
+  const QString tip =
+      why.isEmpty()
+          ? with_keys(text_of(ui::without_access_key(screen_.caption(control_))), control_.shortcut)
+          : why;
   if (shown_widget->toolTip() != tip) shown_widget->setToolTip(tip);
 }
 

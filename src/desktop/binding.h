@@ -39,6 +39,7 @@ class Binding : public QObject {
   struct BesideLine {
     int line = -1;
     QWidget* picture = nullptr;
+    QString name;  ///< of the picture
   };
   virtual void stand_beside(int columns, const std::vector<BesideLine>& pictures);
   /// A page key shows more of what does not fit the widget. False where there is no more of it in
@@ -57,12 +58,16 @@ class Binding : public QObject {
   };
   [[nodiscard]] virtual Shown shown() const { return {}; }
 
+  /// Titles of the groups around it; the window knows them.
+  std::vector<const ui::Control*> titles;
   /// The labels beside the widget; the window places them. They stay empty until there is a text.
   ClickableLabel* caption_label = nullptr;
   QLabel* unit_label = nullptr;
 
  protected:
   virtual void show_state() = 0;
+  /// What a screen reader is to say of the widget; called when it is another.
+  virtual void speak(const QString& name, const QString& state);
   /// The room that the control wants now (ui::extent_of), in characters and lines of the widget's
   /// font, and `besides` pixels beside the characters.
   void make_room(int besides = 0);
@@ -83,6 +88,8 @@ class Binding : public QObject {
   void show_dress();
 
   ui::Extent room_;  ///< made last
+  QString spoken_name_;
+  QString spoken_state_;
   Dress dress_ = Dress::kPlain;
   qint64 palette_ = 0;  ///< the application's that it was dressed in
 };

@@ -1,16 +1,15 @@
 #include "desktop/desktop_printer.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QPageSize>
 #include <QPrintDialog>
 #include <QPrintEngine>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTemporaryFile>
-#include <QTranslator>
 
 #include "desktop/printed_pages.h"
+#include "desktop/qt_words.h"
 
 namespace desktop {
 namespace {
@@ -41,22 +40,6 @@ QPageLayout usual_paper(Patience patience) {
   return paper_of(QPageSize(QPageSize::A4));
 }
 
-// Qt's own words in the language of the program for as long as its dialog is open.
-class QtWords {
- public:
-  explicit QtWords(text::Language language) {
-    if (language == text::Language::kJapanese &&
-        words_.load("qtbase_ja", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-      QCoreApplication::installTranslator(&words_);
-  }
-  ~QtWords() { QCoreApplication::removeTranslator(&words_); }
-  QtWords(const QtWords&) = delete;
-  QtWords& operator=(const QtWords&) = delete;
-
- private:
-  QTranslator words_;
-};
-
 class WaitCursor {
  public:
   WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
@@ -66,7 +49,7 @@ class WaitCursor {
 };
 
 bool choose(QPrinter& printer, text::Language language) {
-  const QtWords words(language);
+  speak_qt(language);
   QWidget never_shown;
   QPrintDialog dialog(&printer, QApplication::activeWindow());
   // Without page range, selection, current page and print-to-file. Where a queue could print a

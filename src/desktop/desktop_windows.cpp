@@ -5,11 +5,16 @@
 #include <QClipboard>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QScreen>
 #include <QTimer>
+#include <algorithm>
 #include <clocale>
+#include <iterator>
+#include <utility>
 
 #include "desktop/screen_window.h"
 #include "desktop/style.h"
@@ -21,18 +26,111 @@ QString text_of(const std::string& utf8) {
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+QMessageBox::Icon icon_of(ui::Sign sign) {
+  switch (sign) {
+    case ui::Sign::kInformation:
+      return QMessageBox::Information;
+    case ui::Sign::kQuestion:
+      return QMessageBox::Question;
+    case ui::Sign::kWarning:
+      break;
+  }
+  return QMessageBox::Warning;
+}
+
+ScreenWindow* active_screen() {
+  return qobject_cast<ScreenWindow*>(QApplication::activeWindow());
+}
+
 // Behind a question about an entry stands what was entered, not what stood there before the key.
 void show_what_was_taken() {
-  auto* const window = qobject_cast<ScreenWindow*>(QApplication::activeWindow());
-  if (window != nullptr) window->show_controls();
+  if (ScreenWindow* const window = active_screen()) window->show_controls();
 }
+
+// Where a box of this size stands beside the field and leaves it in sight: right of it, below, above
+// or left, the first that the display has room for. Nothing where none has.
+std::optional<QPoint> beside(const QRect& field, const QSize& box, const QRect& display) {
+  constexpr int kGap = 12;
+  if (box.width() > display.width() || box.height() > display.height()) return std::nullopt;
+  const int across = std::clamp(field.left(), display.left(), display.right() + 1 - box.width());
+  const int down = std::clamp(field.top(), display.top(), display.bottom() + 1 - box.height());
+  const QPoint places[] = {{field.right() + 1 + kGap, down},
+                           {across, field.bottom() + 1 + kGap},
+                           {across, field.top() - kGap - box.height()},
+                           {field.left() - kGap - box.width(), down}};
+  const auto* const at = std::ranges::find_if(
+      places, [&](const QPoint& place) { return display.contains(QRect(place, box)); });
+  return at == std::end(places) ? std::nullopt : std::optional(*at);
+}
+
+// A message that opens beside what it is about.
+class Box : public QMessageBox {
+ public:
+  Box(QWidget* parent, const QWidget* of) : QMessageBox(parent), of_(of) {}
+
+ protected:
+  void showEvent(QShowEvent* event) override {
+    // It has its size now, and is not on the display yet.
+    QMessageBox::showEvent(event);
+    if (of_ == nullptr) return;
+    const QWidget& window = *of_->window();
+    // The frame of a window that is not there yet is as wide as that of the one that is.
+    const QSize frame = window.frameGeometry().size() - window.size();
+    const QRect field(of_->mapToGlobal(QPoint(0, 0)), of_->size());
+    if (const auto place = beside(field, size() + frame, of_->screen()->availableGeometry()))
+      move(*place);
+  }
+
+ private:
+  const QWidget* of_;
+};
+
+QIcon program_icon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64})
+    icon.addFile(QStringLiteral(":/icon/kavrel-%1.png").arg(size), QSize(size, size));
+  return icon;
+}
+
+// The system's palette as it is now, mended where it cannot be read.
+void take_palette() {
+  if (const QPalette wanted = readable(QApplication::palette()); wanted != QApplication::palette())
+    QApplication::setPalette(wanted);
+  // What has colours of its own is dressed anew.
+  for (QWidget* const window : QApplication::topLevelWidgets())
+    if (auto* const screen = qobject_cast<ScreenWindow*>(window)) screen->show_controls();
+}
+
+// The person may change from light to dark while the program runs.
+class PaletteWatch : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange && !taking_) {
+      const auto done = qScopeGuard([this] { taking_ = false; });
+      taking_ = true;
+      take_palette();
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  bool taking_ = false;
+};
 
 }  // namespace
 
 void prepare_application() {
   // QApplication sets the process locale; a decimal comma in a report is a wrong report.
   std::setlocale(LC_NUMERIC, "C");
-  QApplication::setPalette(readable(QApplication::palette()));
+  if (static bool prepared = false; !std::exchange(prepared, true)) {
+    QApplication::setStyle(make_style());
+    QApplication::setWindowIcon(program_icon());
+    qApp->installEventFilter(new PaletteWatch(qApp));
+  }
+  take_palette();
 }
 
 DesktopWindows::DesktopWindows(PathMap paths)
@@ -51,13 +149,14 @@ DesktopWindows::~DesktopWindows() = default;
 
 int DesktopWindows::show_message(const ui::MessageBox& box) {
   show_what_was_taken();
-  QMessageBox window(QApplication::activeWindow());
+  const ScreenWindow* const behind = active_screen();
+  Box window(QApplication::activeWindow(), behind == nullptr ? nullptr : behind->spoken_of());
   window.setWindowTitle(text_of(box.title));
   window.setTextFormat(Qt::PlainText);
   QString text = text_of(box.text);
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
   window.setText(text);
-  window.setIcon(box.buttons.size() > 1 ? QMessageBox::Question : QMessageBox::Warning);
+  window.setIcon(icon_of(box.sign));
   // One role for all: the buttons stay in the given order on every platform.
   std::map<QAbstractButton*, int> results;
   for (const ui::BoxButton& button : box.buttons) {

@@ -51,8 +51,8 @@ class DesktopWindows : public ui::Windows {
   std::map<ui::Screen*, std::unique_ptr<ScreenWindow>> notices_;
 };
 
-/// Style sheet and number locale; call once after the QApplication was made (it sets the process
-/// locale).
+/// Style, icon and number locale; call once after the QApplication was made (it sets the process
+/// locale). From then on the look follows the system's palette.
 void prepare_application();
 
 }  // namespace desktop

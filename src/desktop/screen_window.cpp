@@ -16,7 +16,9 @@
 #include <utility>
 
 #include "desktop/flow_layout.h"
+#include "desktop/qt_words.h"
 #include "ui/line_keys.h"
+#include "ui/spoken.h"
 
 namespace desktop {
 namespace {
@@ -149,9 +151,14 @@ void ScreenWindow::build() {
     bindings_.push_back(make_binding(screen_, *control, content_,
                                      [this](const std::function<void()>& event) { hand(event); }));
   }
-  // Texts go in before the layouts are made, which remember the sizes they find.
-  for (const auto& binding : bindings_) binding->show();
   const ui::Plan plan = ui::plan_of(screen_);
+  const ui::Titles titles = ui::titles_of(screen_, plan);
+  // Texts go in before the layouts are made, which remember the sizes they find.
+  for (const auto& binding : bindings_) {
+    if (const auto of = titles.find(&binding->control()); of != titles.end())
+      binding->titles = of->second;
+    binding->show();
+  }
   compact_ = plan.has_menu;
   build_part(plan.body, *content_);
   scroll_->setWidget(content_);
@@ -341,7 +348,8 @@ void ScreenWindow::build_lines(const ui::PlanNode& node, QBoxLayout& into) {
   std::vector<Binding::BesideLine> pictures;
   for (const ui::PlanNode& child : node.children) {
     const Binding& picture = *binding(child.name);
-    pictures.push_back({picture.control().beside_line, picture.widget()});
+    pictures.push_back({picture.control().beside_line, picture.widget(),
+                        QString::fromStdString(screen_.caption(picture.control()))});
   }
   Binding& choice = *binding(node.name);
   choice.stand_beside(node.columns, pictures);
@@ -405,6 +413,7 @@ void ScreenWindow::refresh() {
     done(*screen_.result());
     return;
   }
+  speak_qt(screen_.language());
   const QString title = QString::fromStdString(screen_.title());
   if (windowTitle() != title) setWindowTitle(title);
   show_controls();
@@ -485,7 +494,7 @@ void ScreenWindow::apply_focus() {
 }
 
 // With its title or caption, which is above or to the left.
-void ScreenWindow::bring_into_view(const Binding& target) {
+void ScreenWindow::bring_into_view(const Binding& target) const {
   if (!content_->isAncestorOf(target.widget())) return;
   constexpr int kRight = 40;
   const QWidget& widget = *target.widget();
@@ -496,6 +505,14 @@ void ScreenWindow::bring_into_view(const Binding& target) {
   const QPoint middle = place.center();
   scroll_->ensureVisible(middle.x(), middle.y(), place.width() / 2 + kRight,
                          place.height() / 2 + std::max(above, 0));
+}
+
+const QWidget* ScreenWindow::spoken_of() const {
+  const Binding* const target =
+      screen_.speaks_of() == nullptr ? nullptr : binding(*screen_.speaks_of());
+  if (target == nullptr || !target->widget()->isVisible()) return nullptr;
+  bring_into_view(*target);
+  return target->widget();
 }
 
 void ScreenWindow::settle_focus() {

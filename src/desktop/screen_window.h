@@ -34,6 +34,10 @@ class ScreenWindow : public QDialog {
   /// What the controls hold, on the widgets, while a handler of the screen is still running. The
   /// focus stays where it is.
   void show_controls();
+  /// The widget that the screen's message is about (ui::Screen::speaks_of), brought into view;
+  /// nullptr for none.
+  [[nodiscard]] const QWidget* spoken_of() const;
+  [[nodiscard]] const ui::Screen& shown_screen() const { return screen_; }
   [[nodiscard]] const std::vector<std::unique_ptr<Binding>>& bindings() const { return bindings_; }
   [[nodiscard]] Binding* binding(const ui::Control& control) const;
   [[nodiscard]] Binding* binding(std::string_view name) const;
@@ -85,7 +89,7 @@ class ScreenWindow : public QDialog {
   void fit_to_screen();
   /// A window never shrinks under the person's hands.
   void grow_to_content();
-  void bring_into_view(const Binding& target);
+  void bring_into_view(const Binding& target) const;
 
   ui::Screen& screen_;
   std::vector<std::unique_ptr<Binding>> bindings_;

@@ -3,9 +3,12 @@
 #include <QApplication>
 #include <QColor>
 #include <QPainter>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 
 namespace desktop {
 namespace {
@@ -18,6 +21,7 @@ struct Colours {
   const char* wrong;         ///< paper of a refused entry
   const char* wrong_text;
   const char* wrong_frame;
+  const char* locked;    ///< paper of a value that is shown and not typed
   const char* selected;  ///< paper of selected lines and texts
   const char* selected_text;
   /// Of a drawing, as ui::Ink has them; no name is the palette's own.
@@ -33,6 +37,7 @@ constexpr Colours kLight = {
     "#ffdcdc",
     "#000000",
     "#c00000",
+    "#d8dde3",
     "#1565c0",
     "#ffffff",
     {"", "#b0b0b0", "#0b4a8f", "#efe4c4", "#d8ebf8", "#f7fbff", "#7a4a00", "#b00000", "#8a7a55"}};
@@ -44,6 +49,7 @@ constexpr Colours kDark = {
     "#5c1a1a",
     "#ffffff",
     "#ff6b6b",
+    "#45484d",
     "#1565c0",
     "#ffffff",
     {"", "#6a6a6a", "#8ec7ff", "#4a4530", "#1c3448", "#38434c", "#ffd27f", "#ff9c9c", "#a89a6c"}};
@@ -62,7 +68,76 @@ double brightness(const QColor& colour) {
          0.0722 * linear(colour.blueF());
 }
 
+// The colour taken towards the other as far as it still passes; itself where it never does.
+QColor faded(const QColor& from, const QColor& to,
+             const std::function<bool(const QColor&)>& passes) {
+  constexpr int kSteps = 32;
+  for (int step = kSteps - 1; step > 0; --step) {
+    const auto mixed = [step](int a, int b) { return a + (b - a) * step / kSteps; };
+    const QColor tried(mixed(from.red(), to.red()), mixed(from.green(), to.green()),
+                       mixed(from.blue(), to.blue()));
+    if (passes(tried)) return tried;
+  }
+  return from;
+}
+
+// The usual style draws frames that are hardly told from the window: ours go over them.
+class FramedStyle : public QProxyStyle {
+ public:
+  FramedStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    switch (element) {
+      case PE_Frame:
+      case PE_FrameLineEdit:
+      case PE_IndicatorCheckBox:
+      case PE_PanelButtonCommand:
+        frame(*option, *painter);
+        break;
+      case PE_IndicatorRadioButton:
+        frame(*option, *painter, true);
+        break;
+      default:
+        break;
+    }
+  }
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox) frame(*option, *painter);
+  }
+
+ private:
+  void frame(const QStyleOption& option, QPainter& painter, bool round = false) const {
+    const bool enabled = (option.state & State_Enabled) != 0;
+    if (palette_ != option.palette.cacheKey()) {
+      palette_ = option.palette.cacheKey();
+      colour_ = frame_colour(option.palette);
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, round);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colour_, 1, enabled ? Qt::SolidLine : Qt::DotLine));
+    const QRect around = option.rect.adjusted(0, 0, -1, -1);
+    if (round) {
+      painter.drawEllipse(around);
+    } else {
+      painter.drawRect(around);
+    }
+    painter.restore();
+  }
+
+  mutable QColor colour_;  ///< of the palette that was drawn with last
+  mutable qint64 palette_ = 0;
+};
+
 }  // namespace
+
+QStyle* make_style() {
+  return new FramedStyle;
+}
 
 QColor colour_of(ui::Ink ink, const QPalette& palette) {
   const QLatin1String name(colours_for(palette).inks[static_cast<std::size_t>(ink)]);
@@ -75,8 +150,32 @@ double contrast(const QColor& a, const QColor& b) {
   return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
+QColor frame_colour(const QPalette& palette) {
+  const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+  const QColor window = palette.color(QPalette::Active, QPalette::Window);
+  const QColor paper = palette.color(QPalette::Active, QPalette::Base);
+  return faded(text, window, [&](const QColor& tried) {
+    return contrast(tried, window) >= kSeen && contrast(tried, paper) >= kSeen;
+  });
+}
+
 QPalette readable(QPalette palette) {
   const Colours& colours = colours_for(palette);
+  const QColor window = palette.color(QPalette::Active, QPalette::Window);
+  const QColor button = palette.color(QPalette::Active, QPalette::Button);
+  const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+  const auto is_readable = [&](const QColor& tried) {
+    return contrast(tried, window) >= kReadable && contrast(tried, button) >= kReadable;
+  };
+  const QColor disabled = faded(text, window, is_readable);
+  for (const QPalette::ColorRole role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    // What is written on the window's colour must be told from what is not disabled, too.
+    if (palette.color(QPalette::Disabled, role) != disabled)
+      palette.setColor(QPalette::Disabled, role, disabled);
+  }
+  if (palette.color(QPalette::Disabled, QPalette::Base) != window)
+    palette.setColor(QPalette::Disabled, QPalette::Base, window);
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
     if (contrast(palette.color(group, QPalette::Highlight),
                  palette.color(group, QPalette::HighlightedText)) >= kReadable)
@@ -99,7 +198,7 @@ void dress(QWidget& widget, Dress as) {
     case Dress::kPlain:
       break;
     case Dress::kLocked:
-      own.setColor(QPalette::Base, usual.color(QPalette::Window));
+      own.setColor(QPalette::Base, QLatin1String(colours.locked));
       break;
     case Dress::kMissing:
       paper(QLatin1String(colours.missing), QLatin1String(colours.missing_text));

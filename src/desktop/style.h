@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QPalette>
 #include <QPointer>
+#include <QStyle>
 #include <QWidget>
 #include <cstdint>
 
@@ -15,7 +16,7 @@ namespace desktop {
 /// What a widget tells by its colours alone.
 enum class Dress : std::uint8_t {
   kPlain,
-  kLocked,   ///< its paper is that of the window
+  kLocked,   ///< a value that is shown and not typed
   kMissing,  ///< a group that is not complete
   kWrong,    ///< a refused entry
   kLink,     ///< a title or caption that opens a dialog
@@ -31,8 +32,16 @@ void dress(QWidget& widget, Dress as);
 /// open, some styles show them like all others.
 void show_titles_reached(QMenuBar& bar);
 
-/// The palette with selected lines and texts that can be read: its own when they can, else ours.
+/// The palette with selected lines, selected texts and disabled texts that can be read: its own when
+/// they can, else ours.
 [[nodiscard]] QPalette readable(QPalette palette);
+
+/// The colour of a frame that is seen on the window and on paper of this palette.
+[[nodiscard]] QColor frame_colour(const QPalette& palette);
+
+/// The style of the program's widgets: one and the same on every desktop, with frames that are seen.
+/// The frame of what is disabled is dotted.
+[[nodiscard]] QStyle* make_style();
 
 /// The colour of what a drawing says with this ink, on paper of this palette (QPalette::Base).
 [[nodiscard]] QColor colour_of(ui::Ink ink, const QPalette& palette);
@@ -42,6 +51,8 @@ void show_titles_reached(QMenuBar& bar);
 
 /// The least contrast that small letters are read with in poor light.
 inline constexpr double kReadable = 4.5;
+/// The same of what is no text: frames, and what is drawn.
+inline constexpr double kSeen = 3;
 
 /// A frame around what has the focus. It stands outside the widget, so that nothing moves when the
 /// focus does, and nothing that has only the focus looks chosen.

@@ -33,6 +33,7 @@ CCountDewDlg::CCountDewDlg(ui::Services& services, Values values)
       values_(std::move(values)),
       state_before_(values_.state) {
   dew_point.unit = {id::kUnitCelsius};
+  wet_bulb_state.spoken = {id::kSpokenWetBulbState};
   humidity.unit = {id::kUnitPercent};
   dry.on_change = [this] { recompute(); };
   wet.on_change = [this] { recompute(); };

@@ -88,6 +88,7 @@ void CLookWindDlg::recompute() {
 }
 
 bool CLookWindDlg::check(const DegreesField& row) {
+  const Speaking of(*this, this->*row.field);
   const std::string& typed = (this->*row.field).content;
   if (text::trim(typed).empty() || text::whole_number(typed, row.lowest, kFullCircle)) {
     recompute();  // full-width figures are figures only now
@@ -105,6 +106,7 @@ text::Id CLookWindDlg::refusal(const SpeedField& row, std::string_view typed) {
 
 bool CLookWindDlg::check(const SpeedField& row) {
   ui::Edit& field = this->*row.field;
+  const Speaking of(*this, field);
   if (text::trim(field.content).empty()) return true;
   if (const text::Id message = refusal(row, field.content); message) {
     services().messages.error(message);

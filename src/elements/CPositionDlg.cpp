@@ -37,6 +37,10 @@ CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string la
       la_min_(services, latitude_minutes, 0, 59, 2, id::kLatitudeMinutesRange),
       lo_deg_(services, longitude_degrees, 0, 180, 3, id::kLongitudeDegreesRange),
       lo_min_(services, longitude_minutes, 0, 59, 2, id::kLongitudeMinutesRange) {
+  latitude_minutes.spoken = {id::kSpokenLatitudeMinutes};
+  latitude_side.spoken = {id::kSpokenNorthSouth};
+  longitude_minutes.spoken = {id::kSpokenLongitudeMinutes};
+  longitude_side.spoken = {id::kSpokenEastWest};
   for (ui::Control* const degrees : {&latitude_degrees, &longitude_degrees})
     degrees->unit = {id::kPositionDegrees};
   for (ui::Control* const minutes : {&latitude_minutes, &longitude_minutes}) {
@@ -103,6 +107,7 @@ bool CPositionDlg::is_on_land() const {
 
 void CPositionDlg::on_ok() {
   if (!complete()) return;
+  const Speaking of(*this, latitude_degrees);
   if (is_on_land() &&
       services().messages.question(id::kOnLandQuestion, ui::QuestionMode::kYesNo) != ui::kYes) {
     focus(latitude_degrees);

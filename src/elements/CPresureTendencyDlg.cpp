@@ -111,6 +111,7 @@ bool CPresureTendencyDlg::leave_amount() {
 
 bool CPresureTendencyDlg::check_amount(const std::string& characteristic_code,
                                        const std::string& typed) {
+  const Speaking of(*this, amount);
   switch (codetables::check_tendency(characteristic_code, typed)) {
     case codetables::TendencyCheck::kAccepted:
       return true;

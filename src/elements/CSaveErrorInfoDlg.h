@@ -2,6 +2,7 @@
 // What a save found missing or wrong, and what the officer wants done about it.
 
 #include <string>
+#include <vector>
 
 #include "ui/screen.h"
 
@@ -11,10 +12,13 @@ class CSaveErrorInfoDlg : public ui::Screen {
   /// nobody asked to save.
   enum Outcome : int { kCorrect = 1, kNoSave = 2, kSaveAs = 3 };
 
-  /// `errors` is shown as it stands, lines ended by CR LF.
-  CSaveErrorInfoDlg(ui::Services& services, const std::string& errors);
+  /// One line for each error, as it is shown.
+  CSaveErrorInfoDlg(ui::Services& services, std::vector<std::string> errors_found);
 
-  ui::Memo errors;
+  /// The error that the officer wants to correct, -1 when he chose none.
+  [[nodiscard]] int chosen() const { return errors.selected; }
+
+  ui::List errors;
   ui::Button no_save;
   ui::Button save_as;
   ui::Button correct;
@@ -22,4 +26,6 @@ class CSaveErrorInfoDlg : public ui::Screen {
  protected:
   void on_open() override;
   void on_cancel() override { close(kCorrect); }
+  /// Enter in the list corrects what is chosen there.
+  bool on_enter_or_escape(ui::Key key) override;
 };

@@ -134,6 +134,7 @@ void CSeaSurfacePressureDlg::recalculate() {
 }
 
 bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, text::Id message) {
+  const Speaking of(*this, field);
   if (!field.content.empty() && !text::is_all_digits(field.content)) {
     services().messages.error(message);
     return false;
@@ -143,6 +144,7 @@ bool CSeaSurfacePressureDlg::check_digits(const ui::Control& field, text::Id mes
 }
 
 bool CSeaSurfacePressureDlg::check_time(ui::Control& field, int largest) {
+  const Speaking of(*this, field);
   // OK asks for a time that is missing, blanks included.
   if (text::trim(field.content).empty()) return true;
   const auto number = text::whole_number(field.content, 0, largest);

@@ -28,6 +28,7 @@ void CSea_SurfaceTemperatureDlg::on_open() {
 }
 
 bool CSea_SurfaceTemperatureDlg::check() {
+  const Speaking of(*this, temperature);
   if (text::trim(temperature.content).empty() || temperature.content == opened_with_) return true;
   const auto value = codetables::sea_temperature(temperature.content);
   if (!value) {

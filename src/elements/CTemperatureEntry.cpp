@@ -11,6 +11,7 @@ CTemperatureEntry::CTemperatureEntry(ui::Screen& owner, ui::Services& services, 
     : group(owner, texts.group_name, {texts.group_label}),
       whole(owner, texts.whole_name, {texts.whole_label}, 3),
       tenths(owner, texts.tenths_name, {id::kTemperatureTenths}, 1),
+      owner_(owner),
       services_(services),
       texts_(texts) {
   for (char digit = '0'; digit <= '9'; ++digit) tenths.items.emplace_back(1, digit);
@@ -64,6 +65,7 @@ ui::Control* CTemperatureEntry::check() {
   // The whole degrees may come after the tenths, so they are asked for by OK only. The tenths of an
   // earlier temperature go with its whole degrees.
   if (tenths_typed_ && text::trim(whole.content).empty() && !text::trim(tenths.content).empty()) {
+    const ui::Screen::Speaking of(owner_, whole);
     services_.messages.error(id::kTenthsAlone);
     return &whole;
   }
@@ -71,6 +73,7 @@ ui::Control* CTemperatureEntry::check() {
 }
 
 bool CTemperatureEntry::check_whole() {
+  const ui::Screen::Speaking of(owner_, whole);
   const std::string degrees(text::trim(whole.content));
   if (degrees.empty()) return true;
   if (!text::is_number(degrees, text::kSignedWhole)) {
@@ -89,6 +92,7 @@ bool CTemperatureEntry::check_whole() {
 }
 
 bool CTemperatureEntry::check_tenths() {
+  const ui::Screen::Speaking of(owner_, tenths);
   const std::string_view decimals = text::trim(tenths.content);
   if (!decimals.empty() && !text::is_all_digits(decimals)) {
     services_.messages.error(id::kInvalidValue);

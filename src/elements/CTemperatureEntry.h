@@ -49,6 +49,7 @@ class CTemperatureEntry {
   bool check_whole();
   bool check_tenths();
 
+  ui::Screen& owner_;
   ui::Services& services_;
   Texts texts_;
   std::string confirmed_;

@@ -24,6 +24,7 @@ void CThumidityDlg::on_open() {
 }
 
 bool CThumidityDlg::check() {
+  const Speaking of(*this, value);
   const std::string_view typed = text::trim(value.content);
   if (typed.empty()) return true;
   switch (codetables::check_humidity(typed, whole_percent_)) {

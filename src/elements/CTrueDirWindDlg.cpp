@@ -66,6 +66,7 @@ void CTrueDirWindDlg::unknown_changed(ui::Edit& field, const ui::Tick& unknown, 
 }
 
 bool CTrueDirWindDlg::check_direction() {
+  const Speaking of(*this, direction_field);
   const std::string typed(text::trim(direction_field.content));
   if (!typed.empty() && !codetables::is_true_direction(typed)) {
     services().messages.error(id::kInputError);
@@ -76,6 +77,7 @@ bool CTrueDirWindDlg::check_direction() {
 }
 
 bool CTrueDirWindDlg::check_speed() {
+  const Speaking of(*this, speed_field);
   const std::string_view typed = text::trim(speed_field.content);
   if (typed.empty() || typed == kUnknown) return true;
   if (!text::is_number(typed, text::kTypedSpeed)) {

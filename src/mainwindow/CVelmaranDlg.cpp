@@ -9,6 +9,7 @@
 #include "archive/CQFPrintDlg.h"
 #include "elements/CHour3ErrorDlg.h"
 #include "elements/form/position_review.h"
+#include "mainwindow/CAboutDlg.h"
 #include "mainwindow/copy_flow.h"
 #include "mainwindow/correction.h"
 #include "mainwindow/entry_messages.h"
@@ -27,6 +28,7 @@ namespace {
 
 namespace id = text::id;
 using mainwindow::Command;
+using mainwindow::SaveError;
 
 // Sets a flag for as long as something runs.
 class Raised {
@@ -147,6 +149,7 @@ bool CVelmaranDlg::open_element(int element, const ui::Control* last) {
 void CVelmaranDlg::on_f1(ui::Control* focused) {
   const Field* const field = field_of(focused);
   if (const text::Id why = field == nullptr ? text::Id() : why_locked(*field->row); why) {
+    const Speaking of(*this, *focused);
     services().messages.error(why);
     return;
   }
@@ -253,9 +256,11 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kPreviousPart:
       go_to_part(kParts - 1);
       break;
-    case Command::kVersion:
-      services().messages.error(id::kVersionInformation);
+    case Command::kVersion: {
+      mainwindow::CAboutDlg about(services());
+      services().windows.run_modal(about);
       break;
+    }
   }
 }
 
@@ -343,29 +348,67 @@ void CVelmaranDlg::end() {
   close(ui::kOk);
 }
 
+// What the list of a save says that the record does not hold.
+std::vector<SaveError> CVelmaranDlg::save_remarks() const {
+  std::vector<SaveError> remarks;
+  const auto add = [&](const std::vector<elements::Remark>& of_form) {
+    for (const elements::Remark& remark : of_form) {
+      remarks.push_back({mainwindow::worded(remark.notice, services().texts), {}});
+      if (remark.of) remarks.back().where.push_back(elements::name_of(*remark.of));
+    }
+  };
+  add(form_.remarks());
+  if (correcting()) {
+    add(form_.unacceptable());
+    for (std::string& line : mainwindow::unplaced_lines(services(), correction_))
+      remarks.push_back({std::move(line)});
+    return remarks;
+  }
+  for (const elements::Field field : form_.sent_though_unused()) {
+    std::string element(elements::name_of(field));
+    element.append(" ").append(form_.text(field));
+    const text::Id why = form_.switched_off(field) ? id::kWhyNotObserved : id::kWhyNoWaveRecorder;
+    remarks.push_back(
+        {text::fill(services().texts.get(id::kFileAndReason), {element, services().texts.get(why)}),
+         {elements::name_of(field)}});
+  }
+  return remarks;
+}
+
+// Where the error is put right: the first of its controls that is empty or wrong, else the first;
+// none that is locked.
+ui::Control* CVelmaranDlg::place_of(const SaveError& error) const {
+  ui::Control* first = nullptr;
+  for (ui::Control* const control : controls()) {
+    const bool named =
+        std::find(error.where.begin(), error.where.end(), control->name) != error.where.end();
+    if (!named || !control->can_focus() || control->read_only) continue;
+    const bool lacks =
+        control->kind == ui::Kind::kChoice ? control->selected < 0 : control->content.empty();
+    if (lacks || control->mark == ui::kWrongMark) return control;
+    if (first == nullptr) first = control;
+  }
+  return first;
+}
+
+// The focus goes to the first place on the form; where none of the errors has one it stays.
+void CVelmaranDlg::lead_to(const std::vector<SaveError>& errors) {
+  std::vector<const ui::Control*> places;
+  for (const SaveError& error : errors) places.push_back(place_of(error));
+  const auto at = std::find_if(controls().begin(), controls().end(), [&](const ui::Control* one) {
+    return std::find(places.begin(), places.end(), one) != places.end();
+  });
+  if (at == controls().end()) return;
+  focus(**at);
+  tab_flags_.arm();
+}
+
 bool CVelmaranDlg::save() {
   if (!settle_focused()) return false;
-  std::vector<std::string> remarks;
-  for (const elements::Notice& notice : form_.remarks())
-    remarks.push_back(mainwindow::worded(notice, services().texts));
-  if (correcting()) {
-    for (const elements::Notice& notice : form_.unacceptable())
-      remarks.push_back(mainwindow::worded(notice, services().texts));
-    for (std::string& line : mainwindow::unplaced_lines(services(), correction_))
-      remarks.push_back(std::move(line));
-  } else {
-    for (const elements::Field field : form_.sent_though_unused()) {
-      std::string element(elements::row_of(field).name);
-      element.append(" ").append(form_.text(field));
-      remarks.push_back(text::fill(
-          services().texts.get(id::kFileAndReason),
-          {element, services().texts.get(form_.switched_off(field) ? id::kWhyNotObserved
-                                                                   : id::kWhyNoWaveRecorder)}));
-    }
-  }
   const mainwindow::SaveEnd end = mainwindow::save_observation(
-      services(), {form_.record(), context_.ship, context_.items, context_.folders, remarks,
-                   [this] { keeper_.drop(draft()); }});
+      services(), {form_.record(), context_.ship, context_.items, context_.folders, save_remarks(),
+                   [this] { keeper_.drop(draft()); },
+                   [this](const std::vector<SaveError>& errors) { lead_to(errors); }});
   if (end != mainwindow::SaveEnd::kSaved) return false;
   // The officer has seen in the list what was refused, and saved without it.
   form_.saved();

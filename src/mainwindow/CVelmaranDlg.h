@@ -22,6 +22,7 @@
 #include "mainwindow/form_rows.h"
 #include "mainwindow/last_position.h"
 #include "mainwindow/main_menu.h"
+#include "mainwindow/save_errors.h"
 #include "mainwindow/tab_flags.h"
 #include "map/CPictureStatic.h"
 #include "ui/observation_view.h"
@@ -97,6 +98,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void add_labels();
   void add_map();
   void add_field(const mainwindow::FieldRow& row);
+  [[nodiscard]] static text::Ref spoken_of(std::string_view name);
   void add_edit(const mainwindow::FieldRow& row, text::Ref label);
   void add_hemispheres(const mainwindow::FieldRow& row, text::Id first, text::Id second);
   void add_commands();
@@ -165,6 +167,9 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void end();
   /// True when the report was written; the entries stay.
   bool save();
+  [[nodiscard]] std::vector<mainwindow::SaveError> save_remarks() const;
+  [[nodiscard]] ui::Control* place_of(const mainwindow::SaveError& error) const;
+  void lead_to(const std::vector<mainwindow::SaveError>& errors);
   /// Looks for the ship's last reports, before this observation as soon as it has a date and hour.
   void find_last_positions();
   void show_map();

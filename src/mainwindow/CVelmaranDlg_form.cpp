@@ -1,6 +1,7 @@
 // The form itself: its controls, what they show, and what is typed into them.
 
 #include <algorithm>
+#include <iterator>
 
 #include "mainwindow/CVelmaranDlg.h"
 #include "mainwindow/entry_messages.h"
@@ -15,8 +16,6 @@ using mainwindow::Use;
 
 constexpr int kSelectedOnFocus = 10;
 constexpr std::string_view kIceWord = "ICE ";
-constexpr std::string_view kMissing = "missing";
-constexpr std::string_view kWrong = "wrong";
 constexpr std::string_view kFiguresFont = "monospace";  // the report's figures stand in columns
 
 }  // namespace
@@ -54,6 +53,25 @@ void CVelmaranDlg::add_map() {
   title.on_press = map_->on_press;
 }
 
+// What a screen reader says of fields that have no caption of their own beside them.
+text::Ref CVelmaranDlg::spoken_of(std::string_view name) {
+  struct Row {
+    std::string_view name;
+    text::Id spoken;
+  };
+  constexpr Row kRows[] = {
+      {"GGExact", id::kSpokenActualHour},
+      {"gg", id::kSpokenActualMinute},
+      {"north_south", id::kSpokenNorthSouth},
+      {"east_west", id::kSpokenEastWest},
+      {"W1", id::kSpokenW1},
+      {"W2", id::kSpokenW2},
+  };
+  const auto* const at = std::find_if(std::begin(kRows), std::end(kRows),
+                                      [&](const Row& row) { return row.name == name; });
+  return at == std::end(kRows) ? text::Ref{} : text::Ref{at->spoken};
+}
+
 void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
   const text::Ref label = label_ref(row.label);
   switch (row.kind) {
@@ -86,6 +104,7 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
       break;
     }
   }
+  fields_.back().control->spoken = spoken_of(row.name);
   fields_.back().control->on_enter = [this] { tab_flags_.arm(); };
 }
 
@@ -174,7 +193,7 @@ void CVelmaranDlg::show_edit(const Field& field) {
   control.read_only = why && shows_value;
   control.why_locked = services().texts.get(why);
   control.set(control.enabled ? std::string_view(form_.text(field.value())) : std::string_view());
-  control.mark = form_.in_error(field.value()) ? kWrong : std::string_view();
+  control.mark = form_.in_error(field.value()) ? ui::kWrongMark : std::string_view();
 }
 
 void CVelmaranDlg::show_choices() {
@@ -209,7 +228,7 @@ void CVelmaranDlg::show_report() {
     const bool half_time = group.row->group == observation::Group::k9GGgg &&
                            form_.record().gg.empty() != form_.record().GGExact.empty();
     const bool lacks = half_time || missing.contains(group.row->group);
-    group.control->mark = lacks ? kMissing : std::string_view();
+    group.control->mark = lacks ? ui::kMissingMark : std::string_view();
   }
 }
 
@@ -218,6 +237,7 @@ bool CVelmaranDlg::settle(const std::function<elements::Answer(elements::Confirm
 }
 
 bool CVelmaranDlg::leave(const Field& field) {
+  const Speaking of(*this, *field.control);
   // Full-width figures were narrowed behind the last key.
   if (field.control->content != form_.text(field.value()))
     form_.type(field.value(), field.control->content);
@@ -230,6 +250,7 @@ bool CVelmaranDlg::leave(const Field& field) {
 }
 
 bool CVelmaranDlg::leave_group(const ReportGroup& group) {
+  const Speaking of(*this, *group.control);
   if (group.control->content == group_shown(group)) {
     typing_ = false;
     return true;
@@ -240,7 +261,7 @@ bool CVelmaranDlg::leave_group(const ReportGroup& group) {
     return form_.leave(group.row->group, typed, confirmed);
   });
   if (!accepted) {
-    group.control->mark = kWrong;
+    group.control->mark = ui::kWrongMark;
     return false;
   }
   typing_ = false;

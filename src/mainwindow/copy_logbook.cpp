@@ -37,7 +37,7 @@ class CopyLogbook {
     if (!result) return;
     switch (result->outcome) {
       case CopyOutcome::kDone:
-        services_.messages.error(id::kLogbookCopied);
+        services_.messages.information(id::kLogbookCopied);
         if (messages_.wants(id::kAskDeleteLogbook)) remove();
         break;
       case CopyOutcome::kSameFile:

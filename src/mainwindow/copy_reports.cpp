@@ -62,10 +62,14 @@ class CopyReports {
       return;
     }
     if (!are_many()) return;
-    services_.messages.error_filled(
-        copied_.empty() ? id::kCopyEnded : id::kReportsCopied,
-        {std::to_string(copied_.size()), std::to_string(reports_.size())});
-    if (!copied_.empty()) remove_many();
+    const std::string copied = std::to_string(copied_.size());
+    const std::string chosen = std::to_string(reports_.size());
+    if (copied_.empty()) {
+      services_.messages.error_filled(id::kCopyEnded, {copied, chosen});
+      return;
+    }
+    services_.messages.information_filled(id::kReportsCopied, {copied, chosen});
+    remove_many();
   }
 
  private:
@@ -124,7 +128,7 @@ class CopyReports {
       if (step != Step::kCopied) continue;
       copied_.push_back(&reports_[i]);
       if (are_many()) continue;
-      services_.messages.error_filled(id::kReportCopied, {reports_[i].name});
+      services_.messages.information_filled(id::kReportCopied, {reports_[i].name});
       const int answer = ask(id::kAskDeleteReport, reports_[i], left);
       if (answer == ui::kOk) (void)remove(reports_[i]);
       if (answer == ui::kCancel) return false;

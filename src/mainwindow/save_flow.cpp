@@ -1,8 +1,9 @@
 #include "mainwindow/save_flow.h"
 
+#include <utility>
+
 #include "archive/CShowStatusDlg.h"
 #include "elements/CSaveErrorInfoDlg.h"
-#include "elements/form/cross_rules.h"
 #include "media/removable_disk.h"
 #include "observation/control_characters.h"
 #include "observation/logbook_encoder.h"
@@ -18,18 +19,33 @@ namespace {
 namespace id = text::id;
 using observation::SaveOutcome;
 
-constexpr std::string_view kLineEnd = "\r\n";
-
 observation::Report report_of(const Saving& saving) {
   return observation::make_report(saving.record, observation::wants_wet_bulb(saving.ship));
 }
 
 // One message is one line: its own line breaks become blanks, so that neither its words nor two
 // messages run together.
-void append_line(std::string& lines, std::string_view text) {
+std::string in_one_line(std::string_view text) {
   std::string line = text::replace_all(text, "\r\n", "\n");
   line = text::replace_all(line, " \n", "\n");
-  lines.append(text::replace_all(line, "\n", " ")).append(kLineEnd);
+  return text::replace_all(line, "\n", " ");
+}
+
+// What the officer wants done about the errors; nothing to save them as they are.
+std::optional<SaveEnd> ask_about(ui::Services& services, const Saving& saving,
+                                 const std::vector<SaveError>& errors) {
+  std::vector<std::string> lines;
+  lines.reserve(errors.size());
+  for (const SaveError& error : errors) lines.push_back(error.text);
+  CSaveErrorInfoDlg dialog(services, std::move(lines));
+  const int answer = services.windows.run_modal(dialog);
+  if (answer == CSaveErrorInfoDlg::kSaveAs) return std::nullopt;
+  if (answer == CSaveErrorInfoDlg::kNoSave) return SaveEnd::kNotSaved;
+  if (saving.correct) {
+    const int chosen = dialog.chosen();
+    saving.correct(chosen < 0 ? errors : std::vector{errors[static_cast<std::size_t>(chosen)]});
+  }
+  return SaveEnd::kCorrect;
 }
 
 bool has_date(const Saving& saving) {
@@ -140,11 +156,10 @@ void tell_failure(ui::Services& services, const std::string& path, platform::Fil
 
 }  // namespace
 
-std::string save_errors(const Saving& saving, const text::Texts& texts) {
-  std::string errors = observation::missing_list(report_of(saving).missing, texts.language);
-  for (const elements::CrossRule* rule : elements::broken_rules(saving.record))
-    append_line(errors, texts.get(rule->message));
-  for (const std::string& remark : saving.remarks) append_line(errors, remark);
+std::vector<SaveError> save_errors(const Saving& saving, const text::Texts& texts) {
+  std::vector<SaveError> errors = errors_of(saving.record, saving.ship, texts);
+  errors.insert(errors.end(), saving.remarks.begin(), saving.remarks.end());
+  for (SaveError& error : errors) error.text = in_one_line(error.text);
   return errors;
 }
 
@@ -155,11 +170,8 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
     return SaveEnd::kNotSaved;
   }
   if (!has_date(saving)) return end_with(services, id::kNoDateEntered, SaveEnd::kNotSaved);
-  if (const std::string errors = save_errors(saving, services.texts); !errors.empty()) {
-    CSaveErrorInfoDlg dialog(services, errors);
-    const int answer = services.windows.run_modal(dialog);
-    if (answer == CSaveErrorInfoDlg::kNoSave) return SaveEnd::kNotSaved;
-    if (answer != CSaveErrorInfoDlg::kSaveAs) return SaveEnd::kCorrect;
+  if (const auto errors = save_errors(saving, services.texts); !errors.empty()) {
+    if (const auto end = ask_about(services, saving, errors)) return *end;
   }
   // Without a folder the files would go wherever the program happens to run.
   if (saving.folders.reports.empty() || saving.folders.logbook.empty())
@@ -174,8 +186,10 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
   if (!result) return SaveEnd::kNotSaved;
   if (result->outcome == SaveOutcome::kSaved && saving.written) saving.written();
   tell_remarks(services, *result, request.logbook_path);
-  if (result->outcome == SaveOutcome::kSaved)
-    return end_with(services, id::kSaved, SaveEnd::kSaved);
+  if (result->outcome == SaveOutcome::kSaved) {
+    services.messages.information(id::kSaved);
+    return SaveEnd::kSaved;
+  }
   tell_failure(services, result->failed, result->error);
   return SaveEnd::kNotSaved;
 }
@@ -194,7 +208,7 @@ void tell_recovery(ui::Services& services, const Folders& folders,
     case Recovered::kNothing:
       break;
     case Recovered::kFinished:
-      services.messages.error_filled(id::kSaveFinished, {recovery.report, line});
+      services.messages.information_filled(id::kSaveFinished, {recovery.report, line});
       break;
     case Recovered::kTakenBack:
       services.messages.error_filled(id::kSaveTakenBack, {recovery.report});

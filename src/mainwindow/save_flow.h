@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "mainwindow/context.h"
+#include "mainwindow/save_errors.h"
 #include "observation/Struct_Weather.h"
 #include "observation/report_file.h"
 #include "ui/services.h"
@@ -32,15 +33,17 @@ struct Saving {
   const ShipFixedData& ship;
   const KeyObservationItems& items;
   const Folders& folders;
-  std::vector<std::string> remarks;
+  std::vector<SaveError> remarks;
   /// Called once both files are written, before the officer is told: a program that is killed while
   /// the message is open has saved all the same.
   std::function<void()> written = {};
+  /// Called when the officer goes back to correct, with the line that he chose, or with all of them.
+  std::function<void(const std::vector<SaveError>& errors)> correct = {};
 };
 
-/// What is missing and wrong, one line each ended by CR LF, in the language of the moment; empty
-/// when the observation is complete and sound.
-[[nodiscard]] std::string save_errors(const Saving& saving, const text::Texts& texts);
+/// What is missing and wrong, each text in one line, in the language of the moment; empty when the
+/// observation is complete and sound.
+[[nodiscard]] std::vector<SaveError> save_errors(const Saving& saving, const text::Texts& texts);
 
 /// Runs the whole save with its messages and questions.
 SaveEnd save_observation(ui::Services& services, const Saving& saving);

@@ -105,6 +105,7 @@ void CLogDiskSavePathDlg::on_ok() {
       refuse(tree, id::kFolderGone);
       return;
     }
+    const Speaking of(*this, tree);
     services().messages.file_error(id::kFolderUncertain, folder, platform::why_no_file(found));
     focus(tree);
     return;

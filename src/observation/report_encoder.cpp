@@ -143,6 +143,11 @@ Report make_report(const Struct_Weather& record, bool wet_bulb_wanted) {
   return report;
 }
 
+std::string missing_line(Group group, text::Language language) {
+  std::string line(text::entry(row_of(group).missing_label));
+  return line.append(text::bilingual(text::id::kNoValueInput, language));
+}
+
 std::string missing_list(const GroupSet& missing, text::Language language) {
   std::string list;
   if (missing.empty()) return list;

@@ -39,6 +39,9 @@ struct Report {
 };
 [[nodiscard]] Report make_report(const Struct_Weather& record, bool wet_bulb_wanted);
 
+/// What is said of a group that lacks something, in one line without its end.
+[[nodiscard]] std::string missing_line(Group group, text::Language language);
+
 /// One line for each missing group, in the order of the message, each ended by CR LF.
 [[nodiscard]] std::string missing_list(const GroupSet& missing, text::Language language);
 

@@ -127,6 +127,10 @@ void CFixDataDlg::set_up_card() {
     shown->unit = {id::kCardUnitPressure};
     shown->max_length = 5;
   }
+  height_full_load.spoken = {id::kSpokenHeightFullLoad};
+  total_correction_full_load.spoken = {id::kSpokenCorrectionFullLoad};
+  height_ballast.spoken = {id::kSpokenHeightBallast};
+  total_correction_ballast.spoken = {id::kSpokenCorrectionBallast};
   height_full_load.unit = height_ballast.unit = {id::kCardUnitHeight};
   // A text takes no focus: the button is for the keyboard.
   card_text.on_press = card_button.on_press = [this] { edit_card(); };

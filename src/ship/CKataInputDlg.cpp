@@ -72,6 +72,10 @@ CKataInputDlg::CKataInputDlg(ui::Services& services, BarometerCard card)
                                &total_correction_full_load, &total_correction_ballast})
     edit->unit = {id::kCardUnitPressure};
   height_full_load.unit = height_ballast.unit = {id::kCardUnitHeight};
+  height_full_load.spoken = {id::kSpokenHeightFullLoad};
+  total_correction_full_load.spoken = {id::kSpokenCorrectionFullLoad};
+  height_ballast.spoken = {id::kSpokenHeightBallast};
+  total_correction_ballast.spoken = {id::kSpokenCorrectionBallast};
   card_type.max_length = 1;
   set_up_checks();
 }

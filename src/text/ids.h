@@ -1285,5 +1285,31 @@ inline constexpr Id kWordsNoWaves{44211};
 inline constexpr Id kWordsConfusedSea{44212};
 inline constexpr Id kWordsBeaufort{44213};
 inline constexpr Id kWordsNoCode{44214};
+// What a screen reader says
+inline constexpr Id kSpokenBetween{42900};  ///< between group, caption and unit
+inline constexpr Id kSpokenMissing{42901};
+inline constexpr Id kSpokenWrong{42902};
+inline constexpr Id kSpokenDrawing{42903};
+inline constexpr Id kSpokenRemark{42908};
+inline constexpr Id kSpokenChosen{42909};
+inline constexpr Id kSpokenNorthSouth{42910};
+inline constexpr Id kSpokenEastWest{42911};
+inline constexpr Id kSpokenLatitudeMinutes{42912};
+inline constexpr Id kSpokenLongitudeMinutes{42913};
+inline constexpr Id kSpokenWetBulbState{42914};
+inline constexpr Id kSpokenHeightFullLoad{42915};
+inline constexpr Id kSpokenCorrectionFullLoad{42916};
+inline constexpr Id kSpokenHeightBallast{42917};
+inline constexpr Id kSpokenCorrectionBallast{42918};
+inline constexpr Id kSpokenActualHour{42919};
+inline constexpr Id kSpokenActualMinute{42920};
+inline constexpr Id kSpokenW1{42921};
+inline constexpr Id kSpokenW2{42922};
+inline constexpr Id kSpokenUniform{42923};
+
+// About box
+inline constexpr Id kAboutTitle{42905};
+inline constexpr Id kAboutSourcesLabel{42906};
+inline constexpr Id kAboutSources{42907};
 
 }  // namespace text::id

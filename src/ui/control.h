@@ -49,6 +49,10 @@ enum class Role { kNone, kAccept, kDismiss, kHelp };
 /// A font of the front end's choice whose characters are all one column wide, and Japanese ones two.
 inline constexpr std::string_view kFixedPitch = "fixed pitch";
 
+// States of a value that a front end shows by a colour and tells in words (Control::mark).
+inline constexpr std::string_view kMissingMark = "missing";  ///< something of it is not entered yet
+inline constexpr std::string_view kWrongMark = "wrong";      ///< what stands there was refused
+
 /// State of one control. Screens declare the kinds below as members, in reading order.
 class Control {
  public:
@@ -69,6 +73,8 @@ class Control {
   /// Instead of `caption` where the text is not in the table (a report group, a date).
   std::string literal_caption;
   text::Ref unit;  ///< behind the value
+  /// What a screen reader says in place of the caption, where that is missing or not its own.
+  text::Ref spoken;
   /// What an edit, combo, memo, read-only text or picture (its file name) holds.
   std::string content;
   std::vector<std::string> items;  ///< lines of a combo, drop-down, list or choice
@@ -99,7 +105,7 @@ class Control {
                        ///< a memo has room for so many side by side
   std::string font;    ///< font family asked for; empty is the usual one; or kFixedPitch
   bool narrow = true;  ///< full-width characters are narrowed before checks
-  std::string mark;    ///< state that a front end may show ("missing", "wrong"); empty for none
+  std::string mark;    ///< kMissingMark or kWrongMark; empty for none
   Control* continues_in = nullptr;  ///< the field of the decimals: a point goes on to it
   bool unchecked = false;  ///< typed into, or left, without its check since; kept by the screen
   /// Keys that press it whatever field of the screen has the focus ("F7"), or a character that does

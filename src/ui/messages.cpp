@@ -39,7 +39,8 @@ CMessageBox1::CMessageBox1(std::string text, std::string yes, std::string no, st
            {{or_default(std::move(yes), "&YES"), "yes", kYes},
             {or_default(std::move(no), "&NO"), "no", kNo}},
            kNo,
-           {}} {}
+           {},
+           Sign::kQuestion} {}
 
 CMessageBox2::CMessageBox2(std::string text, std::string yes, std::string no, std::string cancel,
                            std::string title)
@@ -49,7 +50,8 @@ CMessageBox2::CMessageBox2(std::string text, std::string yes, std::string no, st
             {std::move(no), "no", kNo},
             {std::move(cancel), "cancel", kCancel}},
            kCancel,
-           {}} {}
+           {},
+           Sign::kQuestion} {}
 
 CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, std::string title)
     : box_{or_default(std::move(title), kTitle3),
@@ -57,27 +59,48 @@ CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, st
            {{or_default(std::move(no), "&NO"), "no", kNo},
             {or_default(std::move(yes), "&YES"), "yes", kYes}},
            kNo,
-           {}} {}
+           {},
+           Sign::kQuestion} {}
 
-void Messages::error(text::Id id, std::string_view literal) {
+// The one road of every notice.
+void Messages::notice(std::string title, std::string shown, text::Id id, Sign sign) {
   if (quiet) return;
+  windows_.show_message({std::move(title), std::move(shown), {{"OK", "ok", kOk}}, kOk, id, sign});
+}
+
+std::string Messages::filled(text::Id id, std::initializer_list<std::string_view> arguments,
+                             std::string_view below) const {
+  std::string shown = text::fill(texts_.get(id), arguments);
+  if (!below.empty()) shown.append("\n").append(below);
+  return shown;
+}
+
+std::string Messages::words_of(text::Id id, std::string_view literal) const {
   std::string shown(id ? texts_.get(id) : literal);
   if (shown.empty() && !id) shown = texts_.get(id::kCheckError);
-  windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
+  return shown;
+}
+
+void Messages::error(text::Id id, std::string_view literal) {
+  notice(std::string(kTitle), words_of(id, literal), id, Sign::kWarning);
 }
 
 void Messages::error_titled(text::Id id, text::Id title) {
-  if (quiet) return;
-  windows_.show_message(
-      {std::string(texts_.get(title)), std::string(texts_.get(id)), {{"OK", "ok", kOk}}, kOk, id});
+  notice(std::string(texts_.get(title)), std::string(texts_.get(id)), id, Sign::kWarning);
 }
 
 void Messages::error_filled(text::Id id, std::initializer_list<std::string_view> arguments,
                             std::string_view below) {
-  if (quiet) return;
-  std::string shown = text::fill(texts_.get(id), arguments);
-  if (!below.empty()) shown.append("\n").append(below);
-  windows_.show_message({std::string(kTitle), std::move(shown), {{"OK", "ok", kOk}}, kOk, id});
+  notice(std::string(kTitle), filled(id, arguments, below), id, Sign::kWarning);
+}
+
+void Messages::information(text::Id id, std::string_view literal) {
+  notice(std::string(kTitle), words_of(id, literal), id, Sign::kInformation);
+}
+
+void Messages::information_filled(text::Id id, std::initializer_list<std::string_view> arguments,
+                                  std::string_view below) {
+  notice(std::string(kTitle), filled(id, arguments, below), id, Sign::kInformation);
 }
 
 void Messages::error_filled_once(text::Id id, std::initializer_list<std::string_view> arguments) {

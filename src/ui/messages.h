@@ -71,6 +71,12 @@ class Messages {
   void error_filled(text::Id id, std::initializer_list<std::string_view> arguments,
                     std::string_view below = {});
 
+  /// error() and error_filled() for what went well, or is only told: with another sign, and nothing
+  /// else.
+  void information(text::Id id, std::string_view literal = {});
+  void information_filled(text::Id id, std::initializer_list<std::string_view> arguments,
+                          std::string_view below = {});
+
   /// error_filled(), but the first time of the run only.
   void error_filled_once(text::Id id, std::initializer_list<std::string_view> arguments);
   /// Error notice of a text with two places: the path of a file or folder, and why it could not be
@@ -93,6 +99,11 @@ class Messages {
   int show(const CMessageBox3& box);
 
  private:
+  void notice(std::string title, std::string shown, text::Id id, Sign sign);
+  [[nodiscard]] std::string filled(text::Id id, std::initializer_list<std::string_view> arguments,
+                                   std::string_view below) const;
+  [[nodiscard]] std::string words_of(text::Id id, std::string_view literal) const;
+
   text::Texts& texts_;
   Windows& windows_;
   std::set<text::Id> told_once_;

@@ -132,6 +132,7 @@ void Screen::type(Control& control, std::string_view text) {
 }
 
 void Screen::put_typed(Control& control, std::string_view text) {
+  const Speaking of(*this, control);
   control.unchecked = true;
   control.set(text);
   if (control.on_change) control.on_change();
@@ -170,6 +171,7 @@ void Screen::choose_inside(Control& control, int index) {
       control.item_disabled[static_cast<std::size_t>(index)]) {
     return;
   }
+  const Speaking of(*this, control);
   control.unchecked = true;
   control.selected = valid ? index : -1;
   if (valid && (control.kind == Kind::kCombo || control.kind == Kind::kDropDown)) {
@@ -181,6 +183,7 @@ void Screen::choose_inside(Control& control, int index) {
 void Screen::tick(Control& control, bool on) {
   const Handling handling(*this);
   if (!handling || !control.enabled || !control.visible || control.checked == on) return;
+  const Speaking of(*this, control);
   control.checked = on;
   if (control.on_change) control.on_change();
 }
@@ -279,6 +282,7 @@ bool Screen::leave_focused(const Control& to) {
 
 // What a field goes through when it is left.
 bool Screen::check(Control& field) {
+  const Speaking of(*this, field);
   const bool typed = (field.kind == Kind::kEdit || field.kind == Kind::kCombo) && !field.read_only;
   if (typed && field.enabled && field.unchecked && is_too_long(field.content, field)) {
     services_.messages.error_filled(text::id::kTextTooLong, {text::format_int(field.max_length)});
@@ -470,6 +474,7 @@ void Screen::focus(Control& control) {
 }
 
 bool Screen::refuse(Control& control, text::Id message, std::string_view argument) {
+  const Speaking of(*this, control);
   if (argument.empty()) {
     services_.messages.error(message);
   } else {

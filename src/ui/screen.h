@@ -68,6 +68,9 @@ class Screen {
   [[nodiscard]] unsigned focus_serial() const { return focus_serial_; }
   /// Characters to select when the focus is set; a length of -1 is all.
   [[nodiscard]] int selection_length() const { return selection_length_; }
+  /// The control that a message is about which is shown now: the one that is being checked, chosen
+  /// in or refused. A front end puts the message beside it. Nullptr when it is about none.
+  [[nodiscard]] const Control* speaks_of() const { return speaks_of_; }
   [[nodiscard]] std::span<const MenuItem> menu() const { return menu_; }
   /// Changes whenever the menu bar is to be redrawn.
   [[nodiscard]] unsigned menu_serial() const { return menu_serial_; }
@@ -121,6 +124,21 @@ class Screen {
   /// A front end could not bring one of these to its end, because something threw: tells the person
   /// why. What has been entered stays. Events that the message brings along are dropped.
   void event_failed(const std::exception_ptr& thrown);
+
+  /// While it lives, the messages of this screen are about the control.
+  class Speaking {
+   public:
+    Speaking(Screen& screen, const Control& of) : screen_(screen), before_(screen.speaks_of_) {
+      screen_.speaks_of_ = &of;
+    }
+    ~Speaking() { screen_.speaks_of_ = before_; }
+    Speaking(const Speaking&) = delete;
+    Speaking& operator=(const Speaking&) = delete;
+
+   private:
+    Screen& screen_;
+    const Control* before_;
+  };
 
   // What nobody did.
   /// Nothing has happened for a while. Every open screen is told, also one that lies behind others
@@ -192,6 +210,7 @@ class Screen {
   std::vector<Control*> controls_;
   std::vector<MenuItem> menu_;
   Control* focused_ = nullptr;
+  const Control* speaks_of_ = nullptr;
   unsigned focus_serial_ = 0;
   unsigned menu_serial_ = 0;
   int selection_length_ = -1;

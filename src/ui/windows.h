@@ -23,6 +23,13 @@ struct BoxButton {
   int result = 0;
 };
 
+/// What a message is, seen before it is read.
+enum class Sign {
+  kWarning,      ///< something was refused, failed, or is to be looked after
+  kInformation,  ///< something went well, or is only told
+  kQuestion,
+};
+
 /// A message or question as the person will see it.
 struct MessageBox {
   std::string title;
@@ -30,6 +37,7 @@ struct MessageBox {
   std::vector<BoxButton> buttons;
   int close_result = 0;  ///< result of the close box and of Escape
   text::Id text_id;      ///< in the string table, none for a literal text; for tests
+  Sign sign = Sign::kWarning;
 };
 
 /// Everything that opens a window. Each call returns when the window is closed.

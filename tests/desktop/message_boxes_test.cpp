@@ -113,6 +113,29 @@ TEST(MessageBoxes, TakeAnAccessKeyBehindJapaneseText) {
   EXPECT_EQ(ui::kYes, answered(ask, key(Qt::Key_Y)));
 }
 
+TEST(MessageBoxes, AreSeenForWhatTheyAreBeforeTheyAreRead) {
+  DesktopWorld world;
+  const auto sign = [](const std::function<int()>& ask) {
+    QMessageBox::Icon seen = QMessageBox::NoIcon;
+    answered(ask, [&seen](QMessageBox& box) {
+      seen = box.icon();
+      box.close();
+    });
+    return seen;
+  };
+  ui::Messages& messages = world.messages;
+  EXPECT_EQ(QMessageBox::Warning, sign([&] {
+              messages.error(text::id::kNoValueInput);
+              return 0;
+            }));
+  EXPECT_EQ(QMessageBox::Information, sign([&] {
+              messages.information(text::id::kSaved);
+              return 0;
+            }));
+  EXPECT_EQ(QMessageBox::Question,
+            sign([&] { return messages.question(text::id::kAskExit, ui::QuestionMode::kYesNo); }));
+}
+
 TEST(MessageBoxes, ShowANoticeWithOneButtonAndItsTextAsItIs) {
   DesktopWorld world;
   Seen seen;

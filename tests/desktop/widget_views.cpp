@@ -13,16 +13,24 @@
 namespace tests {
 namespace {
 
-std::string caption_on(const desktop::Binding& binding) {
+// The caption in what a screen reader says, which is the group's and the unit as well; all of it
+// where the caption is not in it.
+std::string spoken_caption(const desktop::Binding& binding, const std::string& caption) {
+  std::string spoken = binding.widget()->accessibleName().toStdString();
+  const std::string line = text::replace_all(caption, "\n", " ");
+  return spoken.find(text::trim(line)) == std::string::npos ? spoken : caption;
+}
+
+std::string caption_on(const desktop::Binding& binding, const std::string& caption) {
   const QWidget* const widget = binding.widget();
   if (const auto* const button = qobject_cast<const QAbstractButton*>(widget))
     return button->text().toStdString();
   // A picture says its caption only where its file is missing; screen readers always do.
-  if (binding.control().kind == ui::Kind::kPicture) return widget->accessibleName().toStdString();
+  if (binding.control().kind == ui::Kind::kPicture) return spoken_caption(binding, caption);
   if (const auto* const label = qobject_cast<const QLabel*>(widget))
     return label->text().toStdString();
   // A layout may leave a caption out where a group's title says it; screen readers still say it.
-  return binding.caption_label == nullptr ? widget->accessibleName().toStdString()
+  return binding.caption_label == nullptr ? spoken_caption(binding, caption)
                                           : binding.caption_label->text().toStdString();
 }
 
@@ -64,7 +72,8 @@ std::vector<ui::ControlView> widget_views(const desktop::ScreenWindow& window) {
     ui::ControlView view;
     view.name = control.name;
     view.kind = control.kind;
-    view.caption = caption_on(*binding);
+    const std::string caption = ui::without_access_key(window.shown_screen().caption(control));
+    view.caption = caption_on(*binding, text::replace_all(caption, "\r\n", "\n"));
     if (binding->unit_label != nullptr) view.unit = binding->unit_label->text().toStdString();
     view.text = text_on(*binding, view);
     if (const auto* const picture = qobject_cast<desktop::PictureLabel*>(binding->widget());
@@ -84,9 +93,9 @@ std::vector<ui::ControlView> widget_views(const desktop::ScreenWindow& window) {
     view.enabled = binding->widget()->isEnabledTo(binding->widget()->parentWidget());
     view.visible = !binding->widget()->isHidden();
     view.locked = control.kind == ui::Kind::kReadOnly ? false : is_locked(binding->widget());
-    view.why = binding->widget()->accessibleDescription().toStdString();
     const std::string tip = binding->widget()->toolTip().toStdString();
-    EXPECT_TRUE(view.why.empty() || tip == view.why) << control.name;
+    const std::string spoken = binding->widget()->accessibleDescription().toStdString();
+    if (!tip.empty() && spoken.ends_with(tip)) view.why = tip;
     if (tip.find(control.shortcut) != std::string::npos) view.shortcut = control.shortcut;
     view.focused = binding->owns(window.focusWidget());
     views.push_back(std::move(view));

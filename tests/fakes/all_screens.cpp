@@ -30,6 +30,7 @@
 #include "fakes/sample_archive.h"
 #include "fakes/sample_sea_map.h"
 #include "fakes/sample_ship.h"
+#include "mainwindow/CAboutDlg.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "map/CSeaMapDlg.h"
 #include "media/CLogDiskSavePathDlg.h"
@@ -201,11 +202,15 @@ std::vector<ScreenCase> make_table() {
        [](ui::Services& services) -> Made {
          return std::make_unique<CPresureTendencyDlg>(services, "3", "012");
        }},
+      {"CAboutDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<mainwindow::CAboutDlg>(services);
+       }},
       {"CSaveErrorInfoDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CSaveErrorInfoDlg>(services,
-                                                    "Group4PPPP   No value input\r\n"
-                                                    "Group5appp   No value input\r\n");
+         return std::make_unique<CSaveErrorInfoDlg>(
+             services, std::vector<std::string>{"Group4PPPP   No value input",
+                                                "Group5appp   No value input"});
        }},
       {"CSeaSurfacePressureDlg",
        [](ui::Services& services) -> Made {

@@ -1,7 +1,10 @@
 #include "fakes/fake_ports.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
+
+#include "text/ids.h"
 
 namespace fakes {
 
@@ -47,7 +50,21 @@ void FakeWindows::verify() {
   expected_.clear();
 }
 
+// What tells that something went well. Every other notice is a warning, so whoever adds one that is
+// not says so here.
+ui::Sign sign_of(const ui::MessageBox& box) {
+  if (box.buttons.size() > 1) return ui::Sign::kQuestion;
+  constexpr text::Id kGood[] = {
+      text::id::kSaved,         text::id::kSaveFinished,  text::id::kReportCopied,
+      text::id::kLogbookCopied, text::id::kReportsCopied, text::id::kPrintSuccess,
+      text::id::kPdfSaved,
+  };
+  const bool good = std::find(std::begin(kGood), std::end(kGood), box.text_id) != std::end(kGood);
+  return good ? ui::Sign::kInformation : ui::Sign::kWarning;
+}
+
 int FakeWindows::show_message(const ui::MessageBox& box) {
+  EXPECT_EQ(sign_of(box), box.sign) << box.text;
   boxes.push_back(box);
   if (while_open) while_open();
   if (answer_to_all_) {
@@ -146,6 +163,12 @@ std::string dump(const ui::Screen& screen) {
               (c->visible ? "visible" : "hidden") + "\n";
   }
   return result;
+}
+
+std::string lines_of(const ui::Control& list) {
+  std::string lines;
+  for (const std::string& line : list.items) lines.append(line).append("\r\n");
+  return lines;
 }
 
 }  // namespace fakes

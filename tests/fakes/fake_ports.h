@@ -84,6 +84,10 @@ class FakeHelp : public platform::HelpViewer {
   }
 };
 
+/// The sign that a message or question of the program is to have, by its id and buttons.
+[[nodiscard]] ui::Sign sign_of(const ui::MessageBox& box);
+
+/// Each box that is shown is held to its sign.
 class FakeWindows : public ui::Windows {
  public:
   ~FakeWindows() override;
@@ -234,6 +238,8 @@ class World {
 bool enter(ui::Screen& screen, ui::Control& control, std::string_view text);
 /// Picks the line that reads so; fails the test when there is none.
 void choose_text(ui::Screen& screen, ui::Control& control, std::string_view line);
+/// The lines of a list, each ended by CR LF.
+[[nodiscard]] std::string lines_of(const ui::Control& list);
 /// name=content/selected/checked/enabled/visible of every control: what a refusal must leave as it
 /// was.
 [[nodiscard]] std::string dump(const ui::Screen& screen);

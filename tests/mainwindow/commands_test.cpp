@@ -103,8 +103,20 @@ TEST(MainWindowMenu, KeepsTheHelpCommandThatHasNoItem) {
 
 TEST(MainWindowMenu, ShowsTheVersion) {
   const auto opened = std::make_unique<Opened>();
-  opened->world.windows.expect(id::kVersionInformation);
-  opened->menu("Help/Version information");
+  for (const bool japanese : {false, true}) {
+    if (japanese) opened->world.japanese();
+    opened->world.windows.expect_screen("CAboutDlg", [&](ui::Screen& screen) {
+      EXPECT_EQ(screen.caption(*screen.find("program")),
+                japanese ? "KAVREL for WIN\nバージョン 1.0" : "KAVREL for WIN\nVersion 1.0");
+      const std::string& sources = screen.find("sources")->content;
+      for (const char* const named :
+           {"FM 13", "IMMT-5", "Goff-Gratch", "Natural Earth", "Qt", "CUPS"})
+        EXPECT_NE(sources.find(named), std::string::npos) << named;
+      EXPECT_EQ(screen.focused(), screen.find("ok"));
+      screen.key(ui::Key::kEnter);
+    });
+    opened->menu("Help/Version information");
+  }
 }
 
 // A second command that comes while the first one's question is open, as a menu of the system's

@@ -258,7 +258,7 @@ TEST(F1, SaysWhyWhereNoDialogOpensForThisShip) {
 
 void expect_saved_as(Opened& opened, std::string& errors) {
   opened.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
-    errors = screen.find("errors")->content;
+    errors = fakes::lines_of(*screen.find("errors"));
     screen.press(*screen.find("save_as"));
   });
   opened.world.windows.expect(id::kSaved);

@@ -65,7 +65,7 @@ struct Correcting : Opened {
   void expect_save(bool listed = false) {
     if (listed)
       world.windows.expect_screen("CSaveErrorInfoDlg", [this](ui::Screen& screen) {
-        errors = screen.find("errors")->content;
+        errors = fakes::lines_of(*screen.find("errors"));
         screen.press(*screen.find("save_as"));
       });
     world.windows.expect(id::kAskReplaceReport, "yes");
@@ -498,7 +498,7 @@ TEST(Correcting, NamesValuesOfElementsNoLongerObservedOnceTheHourIsAnother) {
         continue;
       }
       opened->world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
-        opened->errors = screen.find("errors")->content;
+        opened->errors = fakes::lines_of(*screen.find("errors"));
         screen.press(*screen.find("correct"));
       });
       opened->menu("Save weather report");

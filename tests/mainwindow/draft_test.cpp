@@ -800,7 +800,7 @@ TEST(DraftOfACorrection, StillNamesItsFileAndTellsWhatFoundNoPlace) {
   EXPECT_EQ(copy.window.title(), "KAVREL for WIN - correcting 14111512.tlx - not saved *");
   std::string errors;
   copy.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
-    errors = screen.find("errors")->content;
+    errors = fakes::lines_of(*screen.find("errors"));
     screen.press(*screen.find("save_as"));
   });
   copy.world.windows.expect(id::kAskReplaceReport, "yes");

@@ -33,7 +33,7 @@ struct Save {
   KeyObservationItems items;
   mainwindow::Folders folders;
   Struct_Weather record{ship, items};
-  std::vector<std::string> remarks;
+  std::vector<mainwindow::SaveError> remarks;
 
   Save() {
     folders.reports = "C:\\tlx\\";
@@ -78,7 +78,10 @@ struct Save {
     return save_observation(services, {record, ship, items, folders, remarks});
   }
   [[nodiscard]] std::string errors() const {
-    return save_errors({record, ship, items, folders, remarks}, world.texts);
+    std::string lines;
+    for (const auto& error : save_errors({record, ship, items, folders, remarks}, world.texts))
+      lines.append(error.text).append("\r\n");
+    return lines;
   }
   [[nodiscard]] std::string message() const {
     std::string message;
@@ -235,7 +238,7 @@ TEST(SaveFlow, MissingGroupsBrokenRulesAndRefusedEntriesAreListedTogether) {
   in_both_languages([](Save& s) {
     s.record.PPPP = "";
     s.record.N = "3";
-    s.remarks = {"Error: first\nsecond"};
+    s.remarks = {{"Error: first\nsecond"}};
     const auto language = s.world.texts.language;
     std::string rule(text::bilingual(id::kLowestAboveTotal, language));
     const std::string expected = "Group4PPPP   " +
@@ -244,7 +247,7 @@ TEST(SaveFlow, MissingGroupsBrokenRulesAndRefusedEntriesAreListedTogether) {
     EXPECT_EQ(s.errors(), expected);
     std::string shown;
     s.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
-      shown = screen.find("errors")->content;
+      shown = fakes::lines_of(*screen.find("errors"));
       EXPECT_EQ(screen.title(), text::bilingual(id::kSaveErrorTitle, language));
       screen.press(*screen.find("no_save"));
     });

@@ -55,6 +55,24 @@ struct ModeRow {
   std::vector<std::pair<std::string, int>> answers;
 };
 
+TEST(Information, IsAnErrorNoticeWithAnotherSign) {
+  fakes::World world;
+  world.windows.answer_all("ok");
+  world.messages.information(text::id::kSaved);
+  world.messages.information_filled(text::id::kPdfSaved, {"C:\\a.pdf"}, "below");
+  ASSERT_EQ(world.windows.boxes.size(), 2U);
+  for (const auto& box : world.windows.boxes) {
+    EXPECT_EQ(box.title, "KAVREL for WIN");
+    EXPECT_EQ(box.sign, ui::Sign::kInformation);
+    ASSERT_EQ(box.buttons.size(), 1U);
+  }
+  EXPECT_EQ(world.windows.boxes[0].text, "Save success");
+  EXPECT_EQ(world.windows.boxes[1].text, "Saved as C:\\a.pdf\nbelow");
+  world.messages.quiet = true;
+  world.messages.information(text::id::kSaved);
+  EXPECT_EQ(world.windows.boxes.size(), 2U);
+}
+
 TEST(Question, HasTheLabelsAndResultsOfItsMode) {
   const ModeRow rows[] = {
       {QuestionMode::kOkCancel,

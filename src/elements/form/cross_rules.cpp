@@ -95,8 +95,8 @@ constexpr CrossRule kRules[] = {
     {id::kNoLowestCloudWithTypes, {}, types_without_amount, {Field::kNh, Field::kCL, Field::kCM}},
     {id::kLowestCloudWithoutTypes, {}, amount_without_types, {Field::kNh, Field::kCL, Field::kCM}},
     // Raised by the speed alone: the direction is entered first, beside the speed of before.
-    {id::kCalmDirectionWithSpeed, {}, calm_with_speed, {Field::kff}},
-    {id::kDirectionWithoutSpeed, {}, direction_without_speed, {Field::kff}},
+    {id::kCalmDirectionWithSpeed, {}, calm_with_speed, {Field::kff}, {Field::kdd}},
+    {id::kDirectionWithoutSpeed, {}, direction_without_speed, {Field::kff}, {Field::kdd}},
     {id::kDewPointAboveAir, {}, dew_point_above_air, {Field::kAirTemperature, Field::kDewPoint}},
     {id::kWetBulbAboveAir, {}, wet_bulb_above_air, {Field::kDryBulb, Field::kWetBulb}},
     {id::kPeriodNeedsHeight,
@@ -116,7 +116,7 @@ constexpr CrossRule kRules[] = {
      no_waves_with_height<&W::PwaPwa, &W::HwaHwa>,
      {Field::kPwaPwa, Field::kHwaHwa}},
     // No field raises it, for hour and minute are entered one by one; the list of a save names it.
-    {id::kHalfAnExactTime, {}, half_an_exact_time, {}},
+    {id::kHalfAnExactTime, {}, half_an_exact_time, {}, {Field::kGGExact, Field::kgg}},
 };
 
 }  // namespace

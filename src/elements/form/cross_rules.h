@@ -35,6 +35,8 @@ struct CrossRule {
   bool (*broken)(const Struct_Weather& record);
   /// The fields whose editors raise it; none for a rule that only a save asks for.
   FieldSet raised_by;
+  /// What is to be corrected, beside these.
+  FieldSet also_about = {};
 };
 
 [[nodiscard]] std::span<const CrossRule> cross_rules();

@@ -44,37 +44,37 @@ bool ObservationForm::in_error(Field field) const {
   return now_[field].wrong || is_impossible(field, record());
 }
 
-std::vector<Notice> ObservationForm::remarks() const {
-  std::vector<Notice> notices;
+std::vector<Remark> ObservationForm::remarks() const {
+  std::vector<Remark> remarks;
   for (const FieldRow& row : field_rows()) {
     // A date that does not exist stops a save in its own way.
     const bool wrong = row.field == Field::kYY ? now_[row.field].wrong : in_error(row.field);
     if (!wrong) continue;
     Notice notice = range_notice(row.field, record(), around_.clock);
     notice.below = {};  // the list has one line for each
-    notices.push_back(std::move(notice));
+    remarks.push_back({std::move(notice), row.field});
   }
   const ShipFixedData& ship = around_.ship;
   if (ship.dew_point_method == DewPointMethod::kComputed && dew_point_is_of_bulbs(now_) &&
       !now_.dew_point_as_sent) {
     if (!dew_point_of_bulbs(now_, ship)) {
-      notices.push_back({id::kDewPointOfEarlierBulbs});
+      remarks.push_back({{id::kDewPointOfEarlierBulbs}, Field::kDryBulb});
     } else if (ship.card.type == CardType::kNotChosen) {
-      notices.push_back({id::kDoubledPressure});
+      remarks.push_back({{id::kDoubledPressure}, Field::kReading});
     }
   }
-  return notices;
+  return remarks;
 }
 
-std::vector<Notice> ObservationForm::unacceptable() const {
-  std::vector<Notice> notices;
+std::vector<Remark> ObservationForm::unacceptable() const {
+  std::vector<Remark> remarks;
   for (const FieldRow& row : field_rows()) {
     if (in_error(row.field) || is_unused(row) || is_acceptable(now_, around_, row.field)) continue;
     Notice notice = range_notice(row.field, record(), around_.clock);
     notice.below = {};
-    notices.push_back(std::move(notice));
+    remarks.push_back({std::move(notice), row.field});
   }
-  return notices;
+  return remarks;
 }
 
 std::vector<Field> ObservationForm::sent_though_unused() const {

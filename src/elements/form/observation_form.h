@@ -34,6 +34,12 @@ struct Doubts {
   bool doubled_pressure = false;
 };
 
+/// What the list of a save says, and the field that it is about, if it is about one.
+struct Remark {
+  Notice notice{};
+  std::optional<Field> of{};
+};
+
 class ObservationForm {
  public:
   /// What is referred to must outlive the form; ship and items are read anew at every step, so call
@@ -58,10 +64,10 @@ class ObservationForm {
   [[nodiscard]] bool in_error(Field field) const;
   /// What the list of a save says beside groups and rules: the refused entries that still stand in
   /// their fields, and what is doubtful about a computed dew point.
-  [[nodiscard]] std::vector<Notice> remarks() const;
+  [[nodiscard]] std::vector<Remark> remarks() const;
   /// The same for values that came with a record and that their fields would have refused; solidi
   /// and years long ago are none. For the list of a save that replaces that report.
-  [[nodiscard]] std::vector<Notice> unacceptable() const;
+  [[nodiscard]] std::vector<Remark> unacceptable() const;
   /// Fields that the ship does not use and whose values go out all the same: they came with a record
   /// and are locked. Right for that record; the next observation may be entered over it.
   [[nodiscard]] std::vector<Field> sent_though_unused() const;

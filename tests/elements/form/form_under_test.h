@@ -49,7 +49,7 @@ struct Form {
   }
   [[nodiscard]] std::vector<std::string> remarks() const {
     std::vector<std::string> lines;
-    for (const elements::Notice& notice : form->remarks())
+    for (const auto& [notice, field] : form->remarks())
       lines.push_back(mainwindow::worded(notice, world.texts));
     return lines;
   }

@@ -226,13 +226,41 @@ TEST(SaveErrors, TheScreenHasThreeAnswersAndShowsTheListAsItStands) {
                                         {"save_as", CSaveErrorInfoDlg::kSaveAs},
                                         {"correct", CSaveErrorInfoDlg::kCorrect}}) {
     fakes::World world;
-    CSaveErrorInfoDlg screen(world.services, "one\r\ntwo\r\n");
+    CSaveErrorInfoDlg screen(world.services, {"one", "two"});
     screen.open();
-    EXPECT_EQ(screen.errors.content, "one\r\ntwo\r\n");
+    EXPECT_EQ(screen.errors.items, (std::vector<std::string>{"one", "two"}));
+    EXPECT_EQ(screen.chosen(), -1);
     EXPECT_EQ(screen.title(), "Error message");
     screen.press(*screen.find(button));
     EXPECT_EQ(screen.result(), static_cast<int>(outcome));
   }
+}
+
+TEST(SaveErrors, ALineIsChosenByArrowsAndCorrectedByEnterOrADoubleClick) {
+  for (const bool by_enter : {true, false}) {
+    fakes::World world;
+    CSaveErrorInfoDlg screen(world.services, {"one", "two", "three"});
+    screen.open();
+    EXPECT_EQ(screen.focused(), &screen.correct);
+    ASSERT_TRUE(screen.move_focus(screen.errors));
+    screen.key(ui::Key::kDown);
+    screen.key(ui::Key::kDown);
+    if (by_enter)
+      screen.key(ui::Key::kEnter);
+    else
+      screen.press(screen.errors);
+    EXPECT_EQ(screen.result(), static_cast<int>(CSaveErrorInfoDlg::kCorrect));
+    EXPECT_EQ(screen.chosen(), 1);
+  }
+}
+
+TEST(SaveErrors, EnterOnTheDialogAsOpenedChoosesNoLine) {
+  fakes::World world;
+  CSaveErrorInfoDlg screen(world.services, {"one", "two"});
+  screen.open();
+  screen.key(ui::Key::kEnter);
+  EXPECT_EQ(screen.result(), static_cast<int>(CSaveErrorInfoDlg::kCorrect));
+  EXPECT_EQ(screen.chosen(), -1);
 }
 
 }  // namespace

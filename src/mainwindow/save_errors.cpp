@@ -1,0 +1,74 @@
+#include "mainwindow/save_errors.h"
+
+#include <algorithm>
+
+#include "elements/form/cross_rules.h"
+#include "elements/form/fields.h"
+#include "mainwindow/form_rows.h"
+#include "observation/report_encoder.h"
+#include "observation/report_groups.h"
+
+namespace mainwindow {
+namespace {
+
+using elements::Field;
+using W = Struct_Weather;
+
+// Where figures come from that have no field of their own, or one that the program fills.
+struct Source {
+  std::string W::*figures;
+  std::string_view control;
+};
+constexpr Source kSources[] = {
+    {&W::Qc, "north_south"}, {&W::Qc, "east_west"},
+    {&W::PPPP, "reading"},   {&W::TdTdTd, "wet_bulb"},
+    {&W::dd, "heading"},     {&W::dd, "course"},
+    {&W::dd, "ship_speed"},  {&W::dd, "apparent_direction"},
+    {&W::ff, "ship_speed"},  {&W::ff, "apparent_speed"},
+};
+
+std::vector<std::string_view> fields_of(std::string W::*figures) {
+  std::vector<std::string_view> names;
+  for (const elements::FieldRow& row : elements::field_rows())
+    if (row.member == figures) names.push_back(row.name);
+  for (const Source& source : kSources)
+    if (source.figures == figures) names.push_back(source.control);
+  return names;
+}
+
+std::vector<std::string_view> fields_lacking(const W& record, observation::Group group) {
+  std::vector<std::string_view> names;
+  for (const observation::Symbol& symbol : observation::row_of(group).used()) {
+    if (!(record.*symbol.field).empty()) continue;
+    const auto more = fields_of(symbol.field);
+    names.insert(names.end(), more.begin(), more.end());
+  }
+  // Where every one of these is locked, the group itself can be typed.
+  for (const ReportGroupRow& row : report_group_rows())
+    if (row.group == group) names.push_back(row.name);
+  return names;
+}
+
+std::vector<std::string_view> fields_of(const elements::CrossRule& rule) {
+  std::vector<std::string_view> names;
+  for (const elements::FieldRow& row : elements::field_rows())
+    if (rule.raised_by.contains(row.field) || rule.also_about.contains(row.field))
+      names.push_back(row.name);
+  return names;
+}
+
+}  // namespace
+
+std::vector<SaveError> errors_of(const Struct_Weather& record, const ShipFixedData& ship,
+                                 const text::Texts& texts) {
+  std::vector<SaveError> errors;
+  const auto report = observation::make_report(record, observation::wants_wet_bulb(ship));
+  for (const observation::Group group : report.missing.in_order())
+    errors.push_back(
+        {observation::missing_line(group, texts.language), fields_lacking(record, group)});
+  for (const elements::CrossRule* rule : elements::broken_rules(record))
+    errors.push_back({std::string(texts.get(rule->message)), fields_of(*rule)});
+  return errors;
+}
+
+}  // namespace mainwindow
