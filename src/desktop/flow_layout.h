@@ -12,7 +12,7 @@ namespace desktop {
 /// children that are layouts) share it, and widgets stay as wide as they want to be. Height that is
 /// left goes to the first line that can take it up. What the children want is asked once, until one of them
 /// changes: a scroll area tries many widths.
-class FlowLayout : public QLayout {
+class FlowLayout final : public QLayout {
  public:
   /// `beside` between the children of a line, `below` between lines.
   FlowLayout(int beside, int below);

@@ -384,6 +384,24 @@ TEST_F(StartUp, SettingsFileThatVanishedIsSeededAgainAtExit) {
   EXPECT_EQ(live(), "[KAVREL]\nLANG=ENG\nTLX=\nLOG=\nFD=\n");
 }
 
+TEST_F(StartUp, TheWindowsPlaceIsWrittenAtExitAndHandedToTheNextStart) {
+  settle();
+  in_main_window = [](ui::Services&, const mainwindow::MainWindowContext& context) {
+    EXPECT_EQ(context.place, "");
+    context.keep_place("100 50 1200 700 1");
+  };
+  EXPECT_EQ(run(), 0);
+  EXPECT_EQ(live(), ini("ENG", "C:\\tlx\\", "C:\\log\\") + "FD=\nWINDOW=100 50 1200 700 1\n");
+  const auto before = files.snapshot();
+  std::string handed;
+  in_main_window = [&](ui::Services&, const mainwindow::MainWindowContext& context) {
+    handed = context.place;
+  };
+  EXPECT_EQ(run(), 0);
+  EXPECT_EQ(handed, "100 50 1200 700 1");
+  EXPECT_EQ(files.snapshot(), before) << "a front end without windows leaves it as it is";
+}
+
 TEST_F(StartUp, NothingIsWrittenWhenNothingChanged) {
   settle();
   files.add_file(kLive, "; mine\n" + ini("ENG", "C:\\tlx", "C:\\log") + "FD=\n");

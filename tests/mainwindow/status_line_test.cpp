@@ -77,8 +77,8 @@ TEST(FieldWords, SayTheUnitOfWhatIsMeasured) {
     const char* english;
     const char* japanese;
   } rows[] = {
-      {Field::kDryBulb, "15.2", "15.2 °C", "15.2 ℃"},
-      {Field::kTwTwTw, "-1.8", "-1.8 °C", "-1.8 ℃"},
+      {Field::kDryBulb, "15.2", "15.2 °C", "15.2 °C"},
+      {Field::kTwTwTw, "-1.8", "-1.8 °C", "-1.8 °C"},
       {Field::kff, "18", "18 kn (Beaufort 5)", nullptr},
       {Field::kff, "00", "00 kn (Beaufort 0)", nullptr},
       {Field::kPwPw, "06", "06 s", nullptr},
@@ -122,7 +122,7 @@ TEST(FieldWords, NameWhatEachFieldAccepts) {
   EXPECT_EQ(accepted(Field::kTwTwTw), "-2.0 to 37.0 °C");
   EXPECT_EQ(accepted(Field::kPPPP), "870.0 to 1069.9 hPa");
   EXPECT_EQ(accepted(Field::kHwHw), "0.0 to 14.5 m, //");
-  EXPECT_EQ(accepted(Field::kdd), "00 to 36 x10 deg, 99, //");
+  EXPECT_EQ(accepted(Field::kdd), "00 to 36 ×10°, 99, //");
   EXPECT_EQ(accepted(Field::kIs), "1 to 5");
   for (const elements::FieldRow& row : elements::field_rows())
     EXPECT_NE(accepted(row.field), "") << row.name;

@@ -22,14 +22,14 @@ using W = Struct_Weather;
 
 // Figures of a measured value that are no number of it.
 struct SpecialRow {
-  Field field;
   std::string_view shown;
   text::Id words;
+  Field field;
 };
 constexpr SpecialRow kSpecial[] = {
-    {Field::kPwPw, "00", id::kWordsNoWaves},   {Field::kPwPw, "99", id::kWordsConfusedSea},
-    {Field::kPwaPwa, "00", id::kWordsNoWaves}, {Field::kPwaPwa, "99", id::kWordsConfusedSea},
-    {Field::kPw1Pw1, "00", id::kNoSwell},      {Field::kPw2Pw2, "00", id::kNoSwell},
+    {"00", id::kWordsNoWaves, Field::kPwPw},   {"99", id::kWordsConfusedSea, Field::kPwPw},
+    {"00", id::kWordsNoWaves, Field::kPwaPwa}, {"99", id::kWordsConfusedSea, Field::kPwaPwa},
+    {"00", id::kNoSwell, Field::kPw1Pw1},      {"00", id::kNoSwell, Field::kPw2Pw2},
 };
 
 bool is_missing(std::string_view shown) {
