@@ -376,6 +376,18 @@ TEST(HelpPages, NeedNoSidewaysScrolling) {
   EXPECT_GT(looked_at, 80);
 }
 
+// The pages go to the ship over a line that is paid by the byte.
+TEST(HelpPages, AreSmall) {
+  qint64 bytes = 0;
+  for (QDirIterator files(QStringLiteral(KAVREL_HELP), QDir::Files, QDirIterator::Subdirectories);
+       files.hasNext();) {
+    files.next();
+    bytes += files.fileInfo().size();
+  }
+  EXPECT_GT(bytes, 100000);
+  EXPECT_LT(bytes, 1000000);
+}
+
 // Every picture of every page is there, as the viewer finds it from the page.
 TEST(HelpPages, HaveTheirPictures) {
   int pictures = 0;
