@@ -82,7 +82,7 @@ TEST(FieldWords, SayTheUnitOfWhatIsMeasured) {
       {Field::kff, "18", "18 kn (Beaufort 5)", nullptr},
       {Field::kff, "00", "00 kn (Beaufort 0)", nullptr},
       {Field::kPwPw, "06", "06 s", nullptr},
-      {Field::kPwPw, "99", "confused sea, no one period", "波が錯綜し、周期は定まらない"},
+      {Field::kPwPw, "99", "confused sea, no single period", "海面が乱れ、周期を決められない"},
       {Field::kPwPw, "00", "no waves", "波なし"},
       {Field::kPw1Pw1, "00", "No swell wave", "うねりなし"},
       {Field::kHwHw, "2.5", "2.5 m", nullptr},
