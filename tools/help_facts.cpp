@@ -21,6 +21,7 @@
 #include "codetables/tables/sea_waves.h"
 #include "codetables/tables/temperature_figures.h"
 #include "codetables/tables/wind_figures.h"
+#include "codetables/wave_drawings.h"
 #include "elements/form/observation_form.h"
 #include "elements/formulas/wave_period.h"
 #include "elements/tendency_curves.h"
@@ -51,7 +52,8 @@ Json drawing_json(const ui::Drawing& drawing) {
     } else if (const auto* line = std::get_if<ui::Polyline>(&shape)) {
       shapes.push_back({{"line", points_of(line->points)},
                         {"ink", ui::name_of(line->ink)},
-                        {"thick", line->thick}});
+                        {"thick", line->thick},
+                        {"arrow", line->arrow}});
     }
   }
   return {{"x", {drawing.x.first, drawing.x.last}},
@@ -71,28 +73,52 @@ ui::Drawing curve(char characteristic) {
   return drawing;
 }
 
+/// From where a swell comes, on the compass card of its dialog.
+ui::Drawing swell_from(std::string_view tens) {
+  return *codetables::drawn_directions({text::strict_number(tens)});
+}
+
 Json drawn(std::string_view symbol, std::string_view figures) {
-  if (figures == "/") return {};
+  if (figures == "/" || figures == "//") return {};
   if (symbol == "a") return drawing_json(curve(figures.front()));
+  const bool is_direction = text::whole_number(figures, 1, codetables::kNorthInTens).has_value();
+  if (symbol == "dw1dw1" && is_direction) return drawing_json(swell_from(figures));
   if (symbol == "Di") return drawing_json(codetables::ice_edge(figures, Language::kEnglish));
   if (symbol == "ci") return drawing_json(codetables::ice_field(figures));
   return {};
 }
 
+/// The figures that a page shows: those of the rows, and of directions every third one.
+std::vector<std::string> figures_shown(const codetables::CodeTable& table) {
+  std::vector<std::string> shown;
+  for (const codetables::CodeRow& row : table.rows) {
+    shown.emplace_back(row.figures);
+    if (table.number != "0877" || row.figures != codetables::kNoWaves) continue;
+    for (int tens = 3; tens <= codetables::kNorthInTens; tens += 3)
+      shown.push_back(text::format_digits(tens, 2));
+  }
+  return shown;
+}
+
+std::string_view picture_of(std::string_view symbol, std::string_view figures) {
+  for (const codetables::CodePicker* picker : codetables::code_pickers())
+    for (const codetables::PickedCode& picked : picker->codes)
+      for (const codetables::LinePicture& picture : picked.pictures)
+        if (picked.symbol == symbol && picture.code == figures) return picture.file;
+  return {};
+}
+
 Json code_table(const codetables::CodeTable& table, std::string_view symbol) {
   Json rows = Json::array();
-  for (const codetables::CodeRow& row : table.rows) {
-    Json told{{"figures", row.figures},
+  for (const std::string& figures : figures_shown(table)) {
+    Json told{{"figures", figures},
               {"text",
-               {*codetables::meaning(table, row.figures, Language::kEnglish),
-                *codetables::meaning(table, row.figures, Language::kJapanese)}}};
-    Json drawing = drawn(symbol, row.figures);
+               {*codetables::meaning(table, figures, Language::kEnglish),
+                *codetables::meaning(table, figures, Language::kJapanese)}}};
+    Json drawing = drawn(symbol, figures);
     if (!drawing.is_null() && !drawing["shapes"].empty()) told["drawing"] = std::move(drawing);
-    for (const codetables::CodePicker* picker : codetables::code_pickers())
-      for (const codetables::PickedCode& picked : picker->codes)
-        for (const codetables::LinePicture& picture : picked.pictures)
-          if (picked.symbol == symbol && picture.code == row.figures)
-            told["picture"] = picture.file;
+    if (const auto picture = picture_of(symbol, figures); !picture.empty())
+      told["picture"] = picture;
     rows.push_back(std::move(told));
   }
   return {{"number", table.number}, {"rows", std::move(rows)}};

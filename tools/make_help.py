@@ -197,6 +197,13 @@ def stroke(canvas, points, ink, thick):
                       (x1 - dx + dy, y1 - dy - dx)], ink)
 
 
+def head(canvas, tail, tip, ink, long):
+    """The head of an arrow."""
+    length = ((tip[0] - tail[0]) ** 2 + (tip[1] - tail[1]) ** 2) ** 0.5 or 1
+    dx, dy = (tip[0] - tail[0]) / length * long, (tip[1] - tail[1]) / length * long
+    fill(canvas, [tip, (tip[0] - dx - dy / 2, tip[1] - dy + dx / 2), (tip[0] - dx + dy / 2, tip[1] - dy - dx / 2)], ink)
+
+
 def png(drawing, width, height):
     """The drawing on paper, with a frame around it."""
     inks = [PAPER] + list(INKS.values())
@@ -215,7 +222,10 @@ def png(drawing, width, height):
         if "area" in shape:
             fill(canvas, place(shape["area"]), index[shape["ink"]])
         else:
-            stroke(canvas, place(shape["line"]), index[shape["ink"]], FINE * (3 if shape["thick"] else 1.4))
+            points, ink = place(shape["line"]), index[shape["ink"]]
+            stroke(canvas, points, ink, FINE * (3 if shape["thick"] else 1.4))
+            if shape["arrow"]:
+                head(canvas, points[-2], points[-1], ink, 10 * FINE)
     edge = FINE * 0.5
     right, bottom = width * FINE - edge, height * FINE - edge
     stroke(canvas, [(edge, edge), (right, edge), (right, bottom), (edge, bottom), (edge, edge)], index["faint"], FINE)
@@ -231,8 +241,8 @@ def png(drawing, width, height):
     def chunk(kind, content):
         return struct.pack(">I", len(content)) + kind + content + struct.pack(">I", zlib.crc32(kind + content))
 
-    head = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
-    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", zlib.compress(bytes(pixels), 9)) +
+    header = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(bytes(pixels), 9)) +
             chunk(b"IEND", b""))
 
 
@@ -256,7 +266,9 @@ class Pages:
     def figure(self, name, page, language):
         """What stands for {name}: a text of the program, or what an example gave."""
         if name in self.texts:
-            return self.texts[name][LANGUAGES[language]].strip().replace("%s", "…")
+            # As it is read: places that are filled stay open, access keys are not told.
+            shown = re.sub(r"\(&\w\)|&", "", self.texts[name][LANGUAGES[language]])
+            return shown.strip().replace("%s", "…")
         word, _, item = name.partition(".")
         if word == "period" and item in self.facts["wave_periods"]:
             return self.facts["wave_periods"][item]

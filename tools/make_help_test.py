@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Every fault that a help page may have stops make_help.py with a word about it, and a good page shows what it is told to.
+"""Every fault that a help page may have stops make_help.py with a word about it, a good page shows what it is told to, and the
+pages that we have call things by the names that the program has for them.
 
   make_help_test.py HELP_FACTS
 """
@@ -13,8 +14,8 @@ import unittest
 HERE = os.path.dirname(os.path.abspath(__file__))
 FACTS = os.path.abspath(sys.argv.pop(1))
 
-STRINGS = "33205\tInvalid value/*E*/無効な値です\n11000\t観測日時\n11074\tDate\n40001\tThe file %s/*E*/ファイル %s\n"
-IDS = ("constexpr Id kInvalidValue{33205};\nconstexpr Id kLabelObservationTime{11000};\n"
+STRINGS = "904\t&OK/*E*/了解(&O)\n33205\tInvalid value/*E*/無効な値です\n11000\t観測日時\n11074\tDate\n40001\tThe file %s/*E*/ファイル %s\n"
+IDS = ("constexpr Id kOk{904};\nconstexpr Id kInvalidValue{33205};\nconstexpr Id kLabelObservationTime{11000};\n"
        "constexpr Id kFileNotSaved{40001};\n")
 SOURCE = '{"CDlg", {"Kavrel", "Capter11-1_J.htm", "Capter11-1_E.htm"}}\n{1, k, Command::kHelpFile, "Wind"}\n'
 LOOKS = "".join(f"~ look {force}\n" for force in range(13))
@@ -110,11 +111,11 @@ class MakeHelp(unittest.TestCase):
         scale = pages["BeaufortScale_E/index.htm"].decode()
         self.assertIn("<td><b>5</b></td><td>17-21</td><td>look 5</td><td>2.0</td>", scale)
 
-    def test_shows_labels_of_both_languages_and_leaves_places_open(self):
-        pages = self.make(TOPICS.replace("Look at the clock.", "{kLabelObservationTime} {kFileNotSaved}").replace(
-            "時計を見ます。", "{kLabelObservationTime} {kFileNotSaved}"))
-        self.assertIn("<p>Date The file …</p>", pages["Kavrel_E/Capter11-1_E.htm"].decode())
-        self.assertIn("<p>観測日時 ファイル …</p>", pages["Kavrel_J/Capter11-1_J.htm"].decode())
+    def test_shows_texts_as_they_are_read(self):
+        pages = self.make(TOPICS.replace("Look at the clock.", "{kLabelObservationTime} {kFileNotSaved} {kOk}").replace(
+            "時計を見ます。", "{kLabelObservationTime} {kFileNotSaved} {kOk}"))
+        self.assertIn("<p>Date The file … OK</p>", pages["Kavrel_E/Capter11-1_E.htm"].decode())
+        self.assertIn("<p>観測日時 ファイル … 了解</p>", pages["Kavrel_J/Capter11-1_J.htm"].decode())
 
     def test_draws_what_the_dialog_draws(self):
         pages = self.make(TOPICS.replace("@codes iw", "@codes a CL"))
@@ -173,6 +174,33 @@ class MakeHelp(unittest.TestCase):
 
     def test_refuses_a_scale_with_a_force_less(self):
         self.refused("~ look 12\n", "", "12 looks of the sea")
+
+
+class OurPages(unittest.TestCase):
+    def test_use_the_words_of_the_program(self):
+        rules = []
+        with open(os.path.join(HERE, "../tests/text/vocabulary.txt"), encoding="utf-8") as words:
+            for line in words:
+                parts = [part.strip() for part in line.split("|")]
+                if parts[0] in ("ja", "en"):
+                    longer = [part.strip() for part in parts[3].split(",") if part.strip()]
+                    rules.append((parts[0], parts[1], parts[2], longer))
+        self.assertGreater(len(rules), 20)
+        language, wrong = None, []
+        with open(os.path.join(HERE, "../resources/help/topics.txt"), encoding="utf-8") as topics:
+            for number, line in enumerate(topics, 1):
+                if line.startswith(("#", "==", "@example")):
+                    continue
+                if line.startswith(("E ", "J ")):
+                    language = "en" if line[0] == "E" else "ja"
+                for of, not_this, but_this, unless in rules:
+                    rest = re.sub("{[^}]*}", "", line)
+                    for longer in unless:
+                        rest = rest.replace(longer, "")
+                    found = not_this in rest if of == "ja" else re.search(rf"\b{re.escape(not_this)}\b", rest)
+                    if of == language and found:
+                        wrong.append(f"{number}: {not_this}, want {but_this}")
+        self.assertEqual(wrong, [])
 
 
 if __name__ == "__main__":

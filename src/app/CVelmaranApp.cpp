@@ -62,6 +62,7 @@ bool CVelmaranApp::read_settings() {
   if (!language) return false;
   texts_.language = *language;
   read_folders(ini, settings_.folders);
+  settings_.window_place = ini.value(kSection, kPlaceKey);
   create_folders();
   return true;
 }
@@ -134,6 +135,8 @@ void CVelmaranApp::show_main_window() {
     keep_folder(key, folder);
   };
   context.sea_map = &sea_map_;
+  context.place = settings_.window_place;
+  context.keep_place = [this](const std::string& place) { settings_.window_place = place; };
   dialogs_.main_window(services_, context);
 }
 
@@ -152,6 +155,10 @@ void CVelmaranApp::keep_folder(std::string_view key, std::string_view folder) {
 void CVelmaranApp::write_settings() {
   keep([this](CIniEx& ini) {
     const bool drive = ini.set_value(kSection, kRemovableDriveKey, settings_.removable_letter);
+    // A front end without windows has no place to keep.
+    if (!settings_.window_place.empty() &&
+        !ini.set_value(kSection, kPlaceKey, settings_.window_place))
+      return false;
     return ini.set_value(kSection, kLanguageKey, language_value(texts_.language)) && drive;
   });
 }

@@ -4,7 +4,7 @@
 // The live file is kavrel\kavrel.ini beneath the system root; a copy that lies beside the program
 // is its seed. One section, "KAVREL": LANG ("JPN" or "ENG"), TLX and LOG (folders of reports and
 // logbook), TLXC and LOGC (folders of their copies), FD (letter of the removable drive, written
-// only).
+// only), WINDOW (where the main window stood last, ui/window_place.h).
 
 #include <optional>
 #include <string>
@@ -24,6 +24,7 @@ inline constexpr std::string_view kLogbookKey = "LOG";
 inline constexpr std::string_view kReportCopyKey = "TLXC";
 inline constexpr std::string_view kLogbookCopyKey = "LOGC";
 inline constexpr std::string_view kRemovableDriveKey = "FD";
+inline constexpr std::string_view kPlaceKey = "WINDOW";
 
 struct Settings {
   bool locale_is_japanese = false;
@@ -31,6 +32,7 @@ struct Settings {
   std::string file_folder;       ///< system root + "kavrel\file"
   std::string data_folder;       ///< system root + "kavrel\data"
   std::string removable_letter;  ///< "A", or empty without a floppy-type drive
+  std::string window_place;      ///< of the main window; empty when it is not known
   mainwindow::Folders folders;
 };
 

@@ -37,13 +37,23 @@ QRect within(const QRect& room, QSize size, QPoint place) {
           size};
 }
 
+// Links are blue for light paper, whatever the palette, unless the document says otherwise before
+// it reads a page.
+void show_links(QTextBrowser& browser) {
+  constexpr int kMiddle = 128;
+  const bool dark = browser.palette().color(QPalette::Base).lightness() < kMiddle;
+  browser.document()->setDefaultStyleSheet(dark ? QStringLiteral("a { color: #8cbeff }")
+                                                : QStringLiteral("a { color: #0046b4 }"));
+}
+
 QSize frame_of(const QWidget& window) {
   return window.frameGeometry().size() - window.geometry().size();
 }
 
 }  // namespace
 
-HelpPlace place_help(const QRect& asking, const QRect& display, QSize wanted, QSize least) {
+HelpPlace place_help(const QRect& asking, bool may_move, const QRect& display, QSize wanted,
+                     QSize least) {
   const QRect seen = asking.intersected(display);
   const QRect right(QPoint(seen.right() + 1, display.top()), display.bottomRight());
   const QRect left(display.topLeft(), QPoint(seen.left() - 1, display.bottom()));
@@ -61,18 +71,20 @@ HelpPlace place_help(const QRect& asking, const QRect& display, QSize wanted, QS
     }
   }
   // Enough room on the display, but on both sides of the window: it gives way to the left.
-  if (display.width() - seen.width() >= least.width()) {
+  if (may_move && display.width() - seen.width() >= least.width()) {
     const QRect moved(QPoint(display.left(), asking.top()), asking.size());
     const QRect room(QPoint(moved.right() + 1, display.top()), display.bottomRight());
     return {within(room, wanted, beside_top), moved};
   }
+  QRect stays = asking;
+  if (may_move && holds(display, asking.size())) stays.moveBottomLeft(display.bottomLeft());
   const QSize small = least.boundedTo(display.size());
   QRect best = within(display, small, display.bottomRight());
   for (const QPoint corner : {display.topRight(), display.bottomLeft(), display.topLeft()}) {
     const QRect other = within(display, small, corner);
-    if (overlap(other, seen) < overlap(best, seen)) best = other;
+    if (overlap(other, stays) < overlap(best, stays)) best = other;
   }
-  return {best, asking};
+  return {best, stays};
 }
 
 void DesktopHelp::place(QWidget* asking) {
@@ -91,25 +103,35 @@ void DesktopHelp::place(QWidget* asking) {
   }
   // The help will have the same frame.
   const QSize frame = frame_of(*asking);
-  const HelpPlace found = place_help(asking->frameGeometry(), asking->screen()->availableGeometry(),
-                                     pixels(kWanted) + frame,
+  const HelpPlace found = place_help(asking->frameGeometry(), asking->isModal(),
+                                     asking->screen()->availableGeometry(), pixels(kWanted) + frame,
                                      pixels(asking->isModal() ? kLeast : kLeastOverForm) + frame);
-  if (found.asking.topLeft() != asking->frameGeometry().topLeft())
-    asking->move(found.asking.topLeft());
+  const QPoint before = asking->pos();
+  if (const QPoint given = found.asking.topLeft(); given != before) {
+    asking->move(given);
+    // Unless somebody has put it elsewhere meanwhile.
+    QObject::connect(window_, &QDialog::finished, asking, [asking, before, given] {
+      if (asking->pos() == given) asking->move(before);
+    });
+  }
   window_->move(found.help.topLeft());
   window_->resize(found.help.size() - frame);
 }
 
 bool DesktopHelp::show(const std::string& path) {
-  delete window_;
+  const QPointer<QWidget> field = QApplication::focusWidget();
+  if (window_ != nullptr) {
+    window_->reject();
+    delete window_;
+  }
   // A window of the modal one on the screen is the only kind that can be used beside it.
   QWidget* const modal = QApplication::activeModalWidget();
   QWidget* const asking = modal == nullptr ? QApplication::activeWindow() : modal;
-  const QPointer<QWidget> field = QApplication::focusWidget();
   window_ = new QDialog(asking);
   window_->setAttribute(Qt::WA_DeleteOnClose);
   window_->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   auto* const browser = new QTextBrowser(window_);
+  show_links(*browser);
   browser->document()->setDocumentMargin(browser->fontMetrics().averageCharWidth());
   auto* const layout = new QVBoxLayout(window_);
   layout->setContentsMargins(0, 0, 0, 0);

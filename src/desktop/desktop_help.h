@@ -20,10 +20,10 @@ struct HelpPlace {
 
 /// The help stands beside the window that asked, so that both can be read: on its right, on its
 /// left, below or above it, as large as wanted where there is room and never smaller than `least`.
-/// Where no side has that room and the display has, the asking window gives way to an edge. Where
-/// the display has not, the help stands in the corner where it hides least.
-[[nodiscard]] HelpPlace place_help(const QRect& asking, const QRect& display, QSize wanted,
-                                   QSize least);
+/// Where no side has that room, a window that may move gives way: to the left edge where that is
+/// enough, else to the lower left corner. What is hidden then is the corner where it is least.
+[[nodiscard]] HelpPlace place_help(const QRect& asking, bool may_move, const QRect& display,
+                                   QSize wanted, QSize least);
 
 class DesktopHelp : public platform::HelpViewer {
  public:
@@ -32,7 +32,7 @@ class DesktopHelp : public platform::HelpViewer {
   explicit DesktopHelp(Page page) : page_(std::move(page)) {}
 
   /// Opens the page beside the window in use, which stays usable; Escape closes it and leads back to
-  /// the field that had the focus. The next page takes its window's place. Without a page a notice
+  /// the field that had the focus. A dialog that gave way goes back to its place. The next page takes its window's place. Without a page a notice
   /// says so in its place, and the result is false.
   bool show(const std::string& path) override;
 

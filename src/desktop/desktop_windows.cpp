@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QIcon>
@@ -204,6 +205,10 @@ void DesktopWindows::pause(int milliseconds) {
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
   // What is typed meanwhile waits for the window that comes.
   loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DesktopWindows::copy_text(const std::string& text) {
+  QApplication::clipboard()->setText(text_of(text));
 }
 
 std::optional<std::string> DesktopWindows::browse_for_folder(const std::string& caption,

@@ -116,7 +116,7 @@ ScreenWindow::ScreenWindow(ui::Screen& screen, QWidget* parent) : QDialog(parent
   setObjectName(QString::fromStdString(screen_.class_name()));
   build();
   refresh();
-  fit_to_screen();
+  take_place();
   // On the application: a part of a widget, as the field of a drop-down, has its keys first.
   qApp->installEventFilter(this);
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
@@ -369,7 +369,14 @@ QWidget* ScreenWindow::build_group(const ui::PlanNode& node) {
     QFont bold;  // says nothing else, so it follows the window's
     bold.setBold(true);
     title->setFont(bold);
-    column->addWidget(title);
+    if (node.beside.empty()) {
+      column->addWidget(title);
+    } else {
+      auto* const line = new FlowLayout(18, 2);
+      column->addLayout(line);
+      line->addWidget(title);
+      for (const ui::PlanNode& each : node.beside) line->addWidget(placed(each));
+    }
   }
   for (const ui::PlanNode& child : node.children) build_node(child, *column);
   return frame;
@@ -402,6 +409,7 @@ Binding* ScreenWindow::binding(std::string_view name) const {
 void ScreenWindow::refresh() {
   if (!built_) return;
   if (screen_.result()) {
+    if (isVisible()) screen_.keep_place(place_now());
     done(*screen_.result());
     return;
   }
@@ -662,6 +670,34 @@ int ScreenWindow::height_around(int width) const {
   if (foot_ == nullptr) return menu;
   return menu +
          (foot_->hasHeightForWidth() ? foot_->heightForWidth(width) : foot_->sizeHint().height());
+}
+
+void ScreenWindow::take_place() {
+  fit_to_screen();
+  const auto kept = screen_.kept_place();
+  if (kept && take_kept_place(*kept) && kept->maximised)
+    setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+// A display may have gone since, or be smaller now. The title bar must be where it can be reached.
+bool ScreenWindow::take_kept_place(const ui::WindowPlace& place) {
+  const QRect wanted(place.left, place.top, place.width, place.height);
+  const QScreen* const display =
+      QGuiApplication::screenAt(QPoint(wanted.center().x(), wanted.top()));
+  if (display == nullptr) return false;
+  const QRect room = display->availableGeometry();
+  const QSize size = wanted.size().boundedTo(room.size()).expandedTo(minimumSizeHint());
+  const int left = std::clamp(wanted.left(), room.left(),
+                              std::max(room.left(), room.right() + 1 - size.width()));
+  const int top =
+      std::clamp(wanted.top(), room.top(), std::max(room.top(), room.bottom() + 1 - size.height()));
+  setGeometry(QRect(QPoint(left, top), size));
+  return true;
+}
+
+ui::WindowPlace ScreenWindow::place_now() const {
+  const QRect place = isMaximized() ? normalGeometry() : geometry();
+  return {place.left(), place.top(), place.width(), place.height(), isMaximized()};
 }
 
 void ScreenWindow::fit_to_screen() {

@@ -82,6 +82,10 @@ class ScreenWindow : public QDialog {
   /// Of the menu bar and the foot in a window so wide.
   [[nodiscard]] int height_around(int width) const;
   [[nodiscard]] QSize fitting_size() const;
+  /// Its kept place, as far as a display has it; else as large as its content on this display.
+  void take_place();
+  [[nodiscard]] bool take_kept_place(const ui::WindowPlace& place);
+  [[nodiscard]] ui::WindowPlace place_now() const;
   void fit_to_screen();
   /// A window never shrinks under the person's hands.
   void grow_to_content();

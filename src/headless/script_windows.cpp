@@ -176,6 +176,10 @@ void ScriptWindows::pause(int milliseconds) {
   say("pause " + std::to_string(milliseconds) + " ms");
 }
 
+void ScriptWindows::copy_text(const std::string& text) {
+  say("copied " + ui::quoted(text));
+}
+
 std::optional<std::string> ScriptWindows::browse_for_folder(const std::string& caption,
                                                             const std::string& initial) {
   if (ended_) return std::nullopt;

@@ -241,6 +241,21 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kHelpFile:
       services().help.show({command.help_file, {}, {}});
       break;
+    case Command::kNewWatch:
+      new_watch();
+      break;
+    case Command::kPrintReport:
+      print_report();
+      break;
+    case Command::kCopyText:
+      copy_report();
+      break;
+    case Command::kNextPart:
+      go_to_part(1);
+      break;
+    case Command::kPreviousPart:
+      go_to_part(kParts - 1);
+      break;
     case Command::kVersion: {
       mainwindow::CAboutDlg about(services());
       services().windows.run_modal(about);
@@ -402,6 +417,10 @@ bool CVelmaranDlg::save() {
   typing_ = false;
   saved_once_ = true;
   find_last_positions();
+  const mainwindow::Folders& folders = context_.folders;
+  tell_in_status_line(text::fill(services().texts.get(id::kStatusSaved),
+                                 {observation::report_path(folders.reports, form_.record()),
+                                  observation::logbook_path(folders.logbook)}));
   return true;
 }
 

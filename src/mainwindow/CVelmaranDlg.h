@@ -3,6 +3,7 @@
 // every other dialog. What the fields hold and what follows from an entry is ObservationForm's;
 // the window shows it, and leads the focus, the menus and the dialogs.
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -34,6 +35,10 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   ~CVelmaranDlg() override;
 
   [[nodiscard]] std::string title() const override;
+  [[nodiscard]] std::optional<ui::WindowPlace> kept_place() const override {
+    return ui::window_place(context_.place);
+  }
+  void keep_place(const ui::WindowPlace& place) override;
   [[nodiscard]] std::vector<std::pair<std::string, std::string>> record_fields() const override;
   [[nodiscard]] std::string report() const override { return form_.report().text; }
 
@@ -64,6 +69,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   /// anything.
   bool on_enter_or_escape(ui::Key /*key*/) override { return true; }
   void on_tab(ui::Key key) override;
+  void on_focused() override;
   /// Keeps what was entered since it was kept last.
   void on_idle(bool undisturbed) override;
 
@@ -83,14 +89,21 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
 
   // Building the form.
   template <class C, class... Arguments>
-  C& add(Arguments&&... arguments);
+  C& add(Arguments&&... arguments) {
+    auto control = std::make_unique<C>(*this, std::forward<Arguments>(arguments)...);
+    C& result = *control;
+    owned_.push_back(std::move(control));
+    return result;
+  }
   void add_labels();
   void add_map();
   void add_field(const mainwindow::FieldRow& row);
   [[nodiscard]] static text::Ref spoken_of(std::string_view name);
   void add_edit(const mainwindow::FieldRow& row, text::Ref label);
   void add_hemispheres(const mainwindow::FieldRow& row, text::Id first, text::Id second);
+  void add_commands();
   void add_report();
+  void add_status_line();
 
   // Showing it.
   void show_menu();
@@ -100,6 +113,22 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void show_report();
   [[nodiscard]] text::Id why_locked(const mainwindow::FieldRow& row) const;
   [[nodiscard]] std::string group_shown(const ReportGroup& group) const;
+
+  // The status line: what the field means that has the focus, or what just happened.
+  void show_status();
+  [[nodiscard]] std::string status() const;
+  /// Until the next key or field.
+  void tell_in_status_line(std::string news);
+  /// A field or a group is being typed into.
+  void typed();
+
+  // The parts that F6 goes between.
+  enum class Part : std::uint8_t { kForm, kReport, kStatusLine };
+  static constexpr int kParts = 3;
+  [[nodiscard]] Part part_of(const ui::Control* control) const;
+  /// Where one was in it last.
+  [[nodiscard]] ui::Control* way_into(Part part) const;
+  void go_to_part(int steps);
 
   // Entries.
   bool settle(const std::function<elements::Answer(elements::Confirmed)>& take);
@@ -129,6 +158,10 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void edit_vosclim_loading();
   void edit_observation_items();
   void switch_language(text::Language language);
+  void print_report();
+  void copy_report();
+  /// Begins the next observation.
+  void new_watch();
   void exit();
   /// Closes; what is not saved is given up.
   void end();
@@ -163,6 +196,10 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   std::vector<ReportGroup> groups_;
   ui::Control* call_sign_ = nullptr;
   ui::Control* ice_word_ = nullptr;
+  ui::Control* status_line_ = nullptr;
+  ui::Control* spoken_of_ = nullptr;  ///< by the status line: what has or had the focus
+  std::array<ui::Control*, kParts> last_in_{};
+  std::string news_;               ///< in the status line; empty: what the field means
   CPictureStatic* map_ = nullptr;  ///< none without a sea map
   mainwindow::LandWatch land_;
   std::vector<mainwindow::SavedPosition> last_positions_;  ///< the newest first

@@ -31,18 +31,12 @@ CVelmaranDlg::CVelmaranDlg(ui::Services& services, mainwindow::MainWindowContext
   fields_.reserve(mainwindow::field_rows().size());
   for (const mainwindow::FieldRow& row : mainwindow::field_rows()) add_field(row);
   if (context_.sea_map != nullptr) add_map();
+  add_commands();
   add_report();
+  add_status_line();
 }
 
 CVelmaranDlg::~CVelmaranDlg() = default;
-
-template <class C, class... Arguments>
-C& CVelmaranDlg::add(Arguments&&... arguments) {
-  auto control = std::make_unique<C>(*this, std::forward<Arguments>(arguments)...);
-  C& result = *control;
-  owned_.push_back(std::move(control));
-  return result;
-}
 
 void CVelmaranDlg::add_labels() {
   for (const mainwindow::LabelRow& row : mainwindow::label_rows()) {
@@ -121,6 +115,7 @@ void CVelmaranDlg::add_edit(const mainwindow::FieldRow& row, text::Ref label) {
   edit.on_change = [this, at = fields_.size() - 1] {
     typing_ = true;
     form_.type(fields_[at].value(), fields_[at].control->content);
+    typed();
   };
   edit.on_leave = [this, at = fields_.size() - 1] {
     // A command has seen to what was typed before it began.
@@ -155,7 +150,10 @@ void CVelmaranDlg::add_report() {
     edit.literal_caption = row.caption;
     edit.font = kFiguresFont;
     edit.on_enter = [this] { tab_flags_.arm(); };
-    edit.on_change = [this] { typing_ = true; };
+    edit.on_change = [this] {
+      typing_ = true;
+      typed();
+    };
     groups_.push_back({&row, &edit});
     edit.on_leave = [this, at = groups_.size() - 1] {
       return command_in_progress_ || leave_group(groups_[at]);
@@ -170,6 +168,7 @@ void CVelmaranDlg::refresh() {
   show_choices();
   show_report();
   show_map();
+  show_status();
 }
 
 // The reason, none for a field that is open.

@@ -38,6 +38,10 @@ struct MainWindowContext {
   map::SeaMap* sea_map = nullptr;
   /// Keeps a folder under a key of the settings file.
   std::function<void(std::string_view key, std::string_view folder)> keep_folder = {};
+  /// Where the window stood last (ui/window_place.h); empty: nobody knows.
+  std::string place = {};
+  /// Remembers where the window stands when it is closed.
+  std::function<void(const std::string& place)> keep_place = {};
 };
 
 }  // namespace mainwindow

@@ -52,6 +52,15 @@ constexpr MenuRow kAfterLanguage[] = {
     {1, id::kMenuVersion, Command::kVersion},
 };
 
+// The menus are given; what came later stands where it acts.
+constexpr ShownCommand kShownCommands[] = {
+    {"command_new_watch", id::kCommandNewWatch, Command::kNewWatch, "Ctrl+N"},
+    {"command_print", id::kCommandPrint, Command::kPrintReport, "Ctrl+P"},
+    {"command_copy", id::kCommandCopy, Command::kCopyText, "Ctrl+Shift+C"},
+    {"command_next_part", id::kCommandNextPart, Command::kNextPart, "F6"},
+    {"command_previous_part", id::kCommandPreviousPart, Command::kPreviousPart, "Shift+F6"},
+};
+
 void append(std::vector<MenuRow>& rows, std::span<const MenuRow> more, Command without) {
   for (const MenuRow& row : more) {
     if (without == Command::kNone || row.command != without) rows.push_back(row);
@@ -90,6 +99,10 @@ std::vector<MenuRow> menu_rows(Menu menu) {
   if (menu == Menu::kJapanese) append(rows, kJapaneseLanguages, Command::kJapanese);
   append(rows, kAfterLanguage, Command::kNone);
   return rows;
+}
+
+std::span<const ShownCommand> shown_commands() {
+  return kShownCommands;
 }
 
 std::vector<ui::MenuItem> build_menu(Menu menu, bool vosclim_ship,

@@ -34,6 +34,12 @@ enum class Command {
   kEnglish,
   kHelpFile,
   kVersion,
+  // In no menu:
+  kNewWatch,
+  kPrintReport,
+  kCopyText,
+  kNextPart,
+  kPreviousPart,
 };
 
 /// One line of the menus. Children follow their parent one depth further in.
@@ -55,6 +61,16 @@ struct MenuRow {
 /// ship that is not registered.
 [[nodiscard]] std::vector<ui::MenuItem> build_menu(Menu menu, bool vosclim_ship,
                                                    const std::function<void(const MenuRow&)>& run);
+
+/// A command that stands in no menu: a label beside the report, which its key presses too.
+struct ShownCommand {
+  std::string_view name;  ///< of the label
+  text::Id label;
+  Command command = Command::kNone;
+  std::string_view shortcut;  ///< as in ui::Control
+};
+/// In the order in which they are shown.
+[[nodiscard]] std::span<const ShownCommand> shown_commands();
 
 /// The command that opens the help file on facsimile charts; it has no item in any menu.
 inline constexpr MenuRow kFaxHelp{{}, {}, Command::kHelpFile, "fax"};

@@ -1287,4 +1287,30 @@ inline constexpr Id kAboutTitle{42905};
 inline constexpr Id kAboutSourcesLabel{42906};
 inline constexpr Id kAboutSources{42907};
 
+// Main window: commands with a key
+inline constexpr Id kCommandNewWatch{42830};
+inline constexpr Id kCommandPrint{42831};
+inline constexpr Id kCommandCopy{42832};
+inline constexpr Id kCommandNextPart{42833};
+inline constexpr Id kCommandPreviousPart{42834};
+inline constexpr Id kPrintedNotSaved{42835};
+inline constexpr Id kPrintedNoDate{42836};
+inline constexpr Id kReportTextCopied{42837};
+inline constexpr Id kStatusCaption{42838};
+
+// Main window: status line
+inline constexpr Id kWordsRange{44200};
+inline constexpr Id kStatusAllowed{44201};
+inline constexpr Id kStatusHelp{44202};
+inline constexpr Id kStatusNoValue{44203};
+inline constexpr Id kStatusSaved{44204};
+inline constexpr Id kStatusOfGroup{44205};
+
+// Words of values
+inline constexpr Id kWordsNotObserved{44210};
+inline constexpr Id kWordsNoWaves{44211};
+inline constexpr Id kWordsConfusedSea{44212};
+inline constexpr Id kWordsBeaufort{44213};
+inline constexpr Id kWordsNoCode{44214};
+
 }  // namespace text::id

@@ -97,9 +97,10 @@ std::string take_line(const std::vector<std::string_view>& words, std::vector<La
   } else if (verb == "foot" && words.size() == 1) {
     if (open.size() != 1) return "foot within something else";
     node.type = LayoutNode::Type::kFoot;
-  } else if (verb == "group" && words.size() == 2) {
+  } else if (verb == "group" && words.size() >= 2) {
     node.type = LayoutNode::Type::kGroup;
     node.name = words[1];
+    node.beside = row_of({words.begin() + 2, words.end()}).children;
   } else if (verb == "grid" && words.size() == 2 && text::leading_int(words[1]) > 0) {
     node.type = LayoutNode::Type::kGrid;
     node.grid_columns = text::leading_int(words[1]);
@@ -119,6 +120,7 @@ std::string take_line(const std::vector<std::string_view>& words, std::vector<La
 
 void collect(const LayoutNode& node, std::vector<std::string>& names) {
   if (!node.name.empty()) names.push_back(node.name);
+  for (const LayoutNode& each : node.beside) collect(each, names);
   for (const LayoutNode& child : node.children) collect(child, names);
 }
 

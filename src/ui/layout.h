@@ -10,7 +10,7 @@
 //                        scrolls; children one below the other
 //   group NAME NAME …    a frame titled by the label NAME (its caption is the frame's title; a
 //                        label with on_press makes the title clickable); children one below the
-//                        other
+//                        other. Further names stand beside the title
 //   grid N               N cells a line, filled in order, so that captions and values line up
 //   lines NAME N         the lines of the choice NAME, N side by side, each with its picture of the
 //                        rows within left of it; those without a picture stand together above
@@ -49,6 +49,7 @@ struct LayoutNode {
   std::string name;  ///< of a control, a group's label, or the choice whose lines they are
   int grid_columns = 0;
   Caption caption = Caption::kLeft;
+  std::vector<LayoutNode> beside;  ///< the title of a group: controls
   std::vector<LayoutNode> children;
 };
 

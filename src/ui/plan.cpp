@@ -158,6 +158,9 @@ class Planner {
     if (type == Type::kGroup && screen_.find(from.name) != nullptr) {
       box.name = from.name;
       placed_.insert(from.name);
+      PlanNode beside;
+      for (const LayoutNode& each : from.beside) add_control(each, CaptionPlace::kBeside, beside);
+      box.beside = std::move(beside.children);
     }
     for (const LayoutNode& child : from.children) add(child, box);
     // Beside a higher column its rows stay together at the top, but for a picture that takes the

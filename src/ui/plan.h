@@ -42,6 +42,7 @@ struct PlanNode {
   bool has_unit = false;                       ///< control: a text stands behind the value
   bool room_behind_unit = false;               ///< control: room that is left goes behind the unit
   int columns = 0;  ///< grid: controls on a line, each with its caption and value; lines: pictures
+  std::vector<PlanNode> beside;  ///< group: controls beside its title; they flow with it
   std::vector<PlanNode> children;
   bool operator==(const PlanNode&) const = default;
 };

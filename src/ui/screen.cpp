@@ -263,6 +263,7 @@ bool Screen::move_focus_inside(Control& to) {
   focused_ = &to;
   selection_length_ = selection_on_focus_;
   ++focus_serial_;
+  on_focused();
   return true;
 }
 
@@ -469,6 +470,7 @@ void Screen::focus(Control& control) {
   focused_ = &control;
   selection_length_ = -1;
   ++focus_serial_;
+  on_focused();
 }
 
 bool Screen::refuse(Control& control, text::Id message, std::string_view argument) {
@@ -492,7 +494,8 @@ Control* Screen::neighbour(const Control* from, bool forward) const {
   }
   for (std::size_t i = 0; i < count; ++i) {
     at = forward ? (at + 1) % count : (at + count - 1) % count;
-    if (controls_[at]->can_focus()) return controls_[at];
+    // What repeats others is looked at, not gone through.
+    if (controls_[at]->can_focus() && !controls_[at]->repeats) return controls_[at];
   }
   return nullptr;
 }

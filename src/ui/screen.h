@@ -23,6 +23,7 @@
 #include "ui/control.h"
 #include "ui/menu.h"
 #include "ui/services.h"
+#include "ui/window_place.h"
 
 namespace ui {
 
@@ -76,6 +77,11 @@ class Screen {
   /// Set once the screen has closed.
   [[nodiscard]] std::optional<int> result() const { return result_; }
   [[nodiscard]] text::Language language() const { return services_.texts.language; }
+
+  /// Where its window stood when it was closed last; nothing: it has no place of its own.
+  [[nodiscard]] virtual std::optional<WindowPlace> kept_place() const { return std::nullopt; }
+  /// The window is about to be closed and stands here.
+  virtual void keep_place(const WindowPlace& /*place*/) {}
 
   // What the person did. An event that comes while another is being handled is dropped.
   /// Fills texts, runs on_open() and puts the focus on the first control. Called once by the front
@@ -159,6 +165,8 @@ class Screen {
   [[nodiscard]] virtual bool check_can_wait(const Control& /*from*/, const Control& /*to*/) const {
     return false;
   }
+  /// The focus is on another control now (focused()), whoever gave it.
+  virtual void on_focused() {}
   /// Tab, or Tab with Shift, before the field is checked and the focus moves.
   virtual void on_tab(Key) {}
 
@@ -173,8 +181,8 @@ class Screen {
   /// the text of the table has a place for it, `argument` is filled in. A check that refuses the
   /// field being left (Control::on_leave) only shows its message: the focus stays by itself.
   bool refuse(Control& control, text::Id message, std::string_view argument = {});
-  /// The control after (or before) this one in tab order that can have the focus; the same one when
-  /// there is no other.
+  /// The control after (or before) this one in tab order that can have the focus, and no text that
+  /// repeats others; the same one when there is no other.
   [[nodiscard]] Control* neighbour(const Control* from, bool forward) const;
   /// Texts of all choices in the language of the moment; after a language switch call it again.
   void relabel();

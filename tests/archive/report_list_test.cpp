@@ -131,7 +131,7 @@ TEST_F(AReportList, HasAHeadingOverItsColumnsInBothLanguages) {
   put("14111512.tlx");
   lines();
   EXPECT_EQ(heading.literal_caption,
-            "Report         Date and hour   Position        Time of the file");
+            "Report         Date/hour UTC   Position        Time of the file");
   EXPECT_EQ(heading.font, ui::kFixedPitch);
   EXPECT_TRUE(list.item_ticked.empty());
   world.texts.language = text::Language::kJapanese;
@@ -146,7 +146,7 @@ TEST_F(AReportList, HasABoxBesideEachLineWhereReportsAreTicked) {
   lines(ReportNames::kWhole, true);
   EXPECT_EQ(list.item_ticked, (std::vector{true, true}));
   EXPECT_EQ(heading.literal_caption,
-            "   Report         Date and hour   Position        Time of the file");
+            "   Report         Date/hour UTC   Position        Time of the file");
   lines(ReportNames::kWhole, false);
   EXPECT_EQ(list.item_ticked, (std::vector{false, false}));
 }

@@ -12,14 +12,19 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <algorithm>
+#include <cmath>
 
 #include "desktop/desktop_help.h"
 #include "desktop/screen_window.h"
 #include "desktop_world.h"
+#include "elements/CPositionDlg.h"
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
 #include "fakes/temp_folder.h"
+#include "palettes.h"
 #include "platform/posix/posix_ports.h"
 
 namespace {
@@ -92,7 +97,8 @@ TEST(HelpPlace, IsBesideWhereASideHasTheRoom) {
       {{0, 400, 1366, 368}, {726, 0, 640, 400}},    // and above it
   };
   for (const Row& row : kRows) {
-    const desktop::HelpPlace place = desktop::place_help(row.asking, kDisplay, kWanted, kLeast);
+    const desktop::HelpPlace place =
+        desktop::place_help(row.asking, true, kDisplay, kWanted, kLeast);
     EXPECT_EQ(place.help, row.help) << row.asking.x() << " " << row.asking.y();
     EXPECT_EQ(place.asking, row.asking);
   }
@@ -100,19 +106,26 @@ TEST(HelpPlace, IsBesideWhereASideHasTheRoom) {
 
 TEST(HelpPlace, LetsAWindowInTheMiddleGiveWayToTheEdge) {
   const QRect asking(233, 60, 900, 600);
-  const desktop::HelpPlace place = desktop::place_help(asking, kDisplay, kWanted, kLeast);
+  const desktop::HelpPlace place = desktop::place_help(asking, true, kDisplay, kWanted, kLeast);
   EXPECT_EQ(place.asking, QRect(0, 60, 900, 600));
   EXPECT_EQ(place.help, QRect(900, 60, 466, 700));
 }
 
 TEST(HelpPlace, HidesLeastWhereTheDisplayIsTooSmall) {
-  // Low on the display: the corners above hide nothing but its upper part.
-  const QRect asking(100, 200, 1200, 568);
-  const desktop::HelpPlace place = desktop::place_help(asking, kDisplay, kWanted, kLeast);
-  EXPECT_EQ(place.asking, asking);
-  EXPECT_EQ(place.help, QRect(0, 0, 380, 320)) << "100 pixels of its left side are free";
-  const QRect all = kDisplay;
-  EXPECT_TRUE(kDisplay.contains(desktop::place_help(all, kDisplay, kWanted, kLeast).help));
+  const QRect asking(80, 100, 1200, 568);
+  const desktop::HelpPlace moved = desktop::place_help(asking, true, kDisplay, kWanted, kLeast);
+  EXPECT_EQ(moved.asking, QRect(0, 200, 1200, 568));
+  EXPECT_EQ(moved.help, QRect(986, 0, 380, 320));
+  const desktop::HelpPlace stays = desktop::place_help(asking, false, kDisplay, kWanted, kLeast);
+  EXPECT_EQ(stays.asking, asking);
+  EXPECT_EQ(stays.help, QRect(986, 448, 380, 320)) << "86 pixels at its right, 100 below it";
+}
+
+// The main window fills the display and stays where it is.
+TEST(HelpPlace, LiesOverAWindowThatFillsTheDisplay) {
+  const desktop::HelpPlace place = desktop::place_help(kDisplay, false, kDisplay, kWanted, kLeast);
+  EXPECT_EQ(place.asking, kDisplay);
+  EXPECT_EQ(place.help, QRect(986, 448, 380, 320));
 }
 
 TEST(HelpPlace, StaysOnTheDisplayWhereverTheWindowStands) {
@@ -120,7 +133,8 @@ TEST(HelpPlace, StaysOnTheDisplayWhereverTheWindowStands) {
     for (int y = -200; y < 900; y += 70) {
       for (const QSize size : {QSize(200, 150), QSize(700, 500), QSize(1300, 700)}) {
         const QRect asking(QPoint(x, y), size);
-        const desktop::HelpPlace place = desktop::place_help(asking, kDisplay, kWanted, kLeast);
+        const desktop::HelpPlace place =
+            desktop::place_help(asking, true, kDisplay, kWanted, kLeast);
         EXPECT_TRUE(kDisplay.contains(place.help)) << x << " " << y << " " << size.width();
         EXPECT_GE(place.help.width(), kLeast.width());
         EXPECT_GE(place.help.height(), kLeast.height());
@@ -140,7 +154,7 @@ TEST(HelpPlace, HidesNothingOfAnyDialogThatLeavesTheRoom) {
     const desktop::ScreenWindow window(*screen, nullptr);
     QRect asking(QPoint(), window.size());
     asking.moveCenter(kDisplay.center());
-    const desktop::HelpPlace place = desktop::place_help(asking, kDisplay, kWanted, kLeast);
+    const desktop::HelpPlace place = desktop::place_help(asking, true, kDisplay, kWanted, kLeast);
     const bool room = kDisplay.width() - asking.width() >= kLeast.width() ||
                       kDisplay.height() - asking.height() >= 2 * kLeast.height();
     if (!room) continue;
@@ -235,6 +249,88 @@ TEST(HelpKeys, LeaveTheFieldUsableBesideIt) {
   asking.field->setFocus();
   tests::type("27");
   EXPECT_EQ(asking.field->text().toStdString(), "27");
+}
+
+TEST(HelpKeys, LetADialogThatGaveWayGoBack) {
+  Viewer viewer;
+  const QRect display = QApplication::primaryScreen()->availableGeometry();
+  QDialog modal;
+  modal.setModal(true);
+  modal.resize(display.width() / 2, display.height() * 95 / 100);
+  modal.move(display.width() / 4, 0);
+  modal.show();
+  modal.activateWindow();
+  QApplication::processEvents();
+  const QPoint before = modal.pos();
+  for (int page = 0; page < 2; ++page) {
+    EXPECT_FALSE(viewer.help.show("C:\\p\\help\\Kavrel_E.CHM"));
+    QApplication::processEvents();
+    EXPECT_FALSE(viewer.help.window()->frameGeometry().intersects(modal.frameGeometry()));
+  }
+  tests::press(Qt::Key_Escape);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+  EXPECT_EQ(modal.pos(), before);
+}
+
+// The whole road: F1 in a field of a dialog, the page beside it, and back into the field.
+TEST(HelpKeys, LeadFromAFieldToItsPageAndBack) {
+  tests::DesktopWorld world;
+  desktop::DesktopHelp viewer(
+      [](const std::string& path) -> std::optional<std::string> { return path; });
+  text::HelpLauncher launcher(world.fake.texts, viewer, "C:\\program");
+  ui::Services services{world.fake.clock,     world.fake.locale,
+                        world.fake.drives,    world.fake.no_files,
+                        world.fake.code_page, world.fake.printer,
+                        world.windows,        world.fake.texts,
+                        world.messages,       launcher};
+  CPositionDlg screen(services, {"35", "12", "139", "48", "1"}, "1", CPositionDlg::LandTest{});
+  screen.open();
+  desktop::ScreenWindow window(screen, nullptr);
+  window.setModal(true);
+  tests::show(window);
+  tests::press(Qt::Key_Tab);
+  ASSERT_EQ(screen.focused(), &screen.latitude_minutes);
+  const QWidget* const field = QApplication::focusWidget();
+  tests::press(Qt::Key_F1);
+  ASSERT_NE(viewer.window(), nullptr);
+  EXPECT_TRUE(viewer.window()->isVisible());
+  EXPECT_FALSE(viewer.window()->frameGeometry().intersects(window.frameGeometry()));
+  tests::press(Qt::Key_Escape);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+  EXPECT_EQ(viewer.window(), nullptr);
+  EXPECT_TRUE(window.isVisible()) << "Escape is the help's alone";
+  EXPECT_EQ(QApplication::focusWidget(), field);
+  EXPECT_EQ(screen.focused(), &screen.latitude_minutes);
+}
+
+// ---- Seen
+
+double luminance(const QColor& color) {
+  const auto part = [](double value) {
+    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b) {
+  const auto [dark, light] = std::minmax({luminance(a), luminance(b)});
+  return (light + 0.05) / (dark + 0.05);
+}
+
+TEST(HelpWindow, ShowsLinksThatCanBeReadInTheLightAndInTheDark) {
+  const QPalette before = QApplication::palette();
+  for (const bool dark : {false, true}) {
+    QApplication::setPalette(tests::palette_of(dark));
+    Asking asking;
+    const QTextCharFormat link =
+        asking.browser()->document()->begin().begin().fragment().charFormat();
+    ASSERT_TRUE(link.isAnchor());
+    const QColor paper = asking.browser()->palette().color(QPalette::Base);
+    EXPECT_GE(contrast(link.foreground().color(), paper), 4.5) << dark;
+  }
+  QApplication::setPalette(before);
 }
 
 // The pages that lie beside the program.

@@ -60,6 +60,7 @@ class MainWindowSizes : public testing::TestWithParam<std::tuple<Size, text::Lan
     const ui::Plan plan = ui::plan_of(*screen);
     const auto collect = [&](const auto& self, const ui::PlanNode& node) -> void {
       if (!node.name.empty()) names.insert(node.name);
+      for (const ui::PlanNode& each : node.beside) self(self, each);
       for (const ui::PlanNode& child : node.children) self(self, child);
     };
     collect(collect, plan.foot);

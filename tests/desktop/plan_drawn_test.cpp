@@ -103,6 +103,14 @@ class EveryPlanDrawn : public testing::TestWithParam<std::tuple<std::size_t, tex
     QRect all;
     if (node.type == Type::kGroup && !node.name.empty())
       all = place_of(window->binding(node.name)->widget());
+    if (!node.beside.empty()) {
+      ui::PlanNode beside;
+      beside.type = Type::kFlow;
+      beside.children = node.beside;
+      const QRect line = check_flow(beside);
+      EXPECT_FALSE(all.intersects(line)) << node.name;
+      all = all.united(line);
+    }
     for (const ui::PlanNode& child : node.children) {
       const QRect one = check(child);
       if (!one.isNull() && !all.isNull()) {

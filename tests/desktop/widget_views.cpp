@@ -109,6 +109,7 @@ std::vector<ui::ControlView> control_views(const ui::Screen& screen) {
     ui::ControlView& view = views[i];
     const ui::Control& control = *screen.controls()[i];
     view.max_length = 0;
+    view.repeats = false;  // no widget shows it
     if (view.kind != ui::Kind::kButton && view.kind != ui::Kind::kTick &&
         view.kind != ui::Kind::kLabel) {
       view.caption = ui::without_access_key(view.caption);

@@ -156,6 +156,8 @@ void choose_text(ui::Screen& screen, ui::Control& control, std::string_view line
 std::string dump(const ui::Screen& screen) {
   std::string result;
   for (const ui::Control* const c : screen.controls()) {
+    // A text that only says in words what stands elsewhere, of the field that has the focus.
+    if (c->repeats && c->kind != ui::Kind::kPicture) continue;
     result += c->name + "=" + c->content + "/" + std::to_string(c->selected) + "/" +
               (c->checked ? "on" : "off") + "/" + (c->enabled ? "enabled" : "disabled") + "/" +
               (c->visible ? "visible" : "hidden") + "\n";

@@ -110,6 +110,7 @@ class FakeWindows : public ui::Windows {
   /// "show CLASS", "hide CLASS", "pause 1000", and "modal CLASS" under answer_all(), in order.
   std::vector<std::string> notices;
   std::optional<std::string> browse_answer;
+  std::vector<std::string> copied;  ///< to the clipboard, in order
   /// Called with each box that is open, before it is answered.
   std::function<void()> while_open;
 
@@ -118,6 +119,7 @@ class FakeWindows : public ui::Windows {
   void show_notice(ui::Screen& screen) override;
   void hide_notice(ui::Screen& screen) override;
   void pause(int milliseconds) override;
+  void copy_text(const std::string& text) override { copied.push_back(text); }
   std::optional<std::string> browse_for_folder(const std::string& caption,
                                                const std::string& initial) override;
 

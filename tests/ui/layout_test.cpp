@@ -55,6 +55,17 @@ TEST(Layout, HasFlowsAndAFootAtItsEnd) {
   EXPECT_EQ(ui::placed_names(layout.root), (std::vector<std::string>{"a", "b", "c"}));
 }
 
+TEST(Layout, PutsFurtherNamesBesideTheTitleOfAGroup) {
+  const auto layout = ui::parse_layout("group frame a b-\n  c\nend\n");
+  ASSERT_EQ(layout.error, "");
+  const ui::LayoutNode& group = layout.root.children[0];
+  EXPECT_EQ(group.name, "frame");
+  ASSERT_EQ(group.beside.size(), 2U);
+  EXPECT_EQ(group.beside[1].name, "b");
+  EXPECT_EQ(group.beside[1].caption, Caption::kNone);
+  EXPECT_EQ(ui::placed_names(layout.root), (std::vector<std::string>{"frame", "a", "b", "c"}));
+}
+
 TEST(Layout, TakesALineOfNamesForARow) {
   const auto layout = ui::parse_layout("grid 2\n  a b^\n  c-\nend\n");
   ASSERT_EQ(layout.error, "");
@@ -102,7 +113,6 @@ TEST(Layout, SaysLineAndReasonOfAMistake) {
       {"lines a 2 b\nend\n", "line 1: unknown: lines"},
       {"lines a 2\nrow b\n", "an end is missing"},
       {"row a\nta/ble 3\n", "line 2: unknown: ta/ble"},
-      {"group a b\nend\n", "line 1: unknown: group"},
       {"a b^^\n", "line 1: unknown: a"},
       {"flow 2\nend\n", "line 1: unknown: flow"},
       {"flow\na\n", "an end is missing"},

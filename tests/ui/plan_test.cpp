@@ -36,6 +36,7 @@ std::string written(const ui::PlanNode& node) {
   std::string out = kNames.at(node.type);
   if (!node.name.empty()) out += " " + node.name;
   if (node.columns > 0) out += " " + std::to_string(node.columns);
+  for (const ui::PlanNode& each : node.beside) out += " " + written(each);
   out += "(";
   for (const ui::PlanNode& child : node.children)
     out += (out.back() == '(' ? "" : " ") + written(child);
@@ -44,6 +45,7 @@ std::string written(const ui::PlanNode& node) {
 
 void for_all(const ui::PlanNode& node, const std::function<void(const ui::PlanNode&)>& look) {
   look(node);
+  for (const ui::PlanNode& each : node.beside) for_all(each, look);
   for (const ui::PlanNode& child : node.children) for_all(child, look);
 }
 
@@ -114,6 +116,12 @@ TEST_F(APlan, LetsTheNamesOfAFlowsRowsFlowOneByOne) {
                "  group title\n    tick\n  end\nend\nbuttons ok cancel\n"),
             "rows(flow(number^+unit+room value bare rows(line(remark<) space) "
             "group title(line(tick space))) buttons(space ok cancel))");
+}
+
+TEST_F(APlan, PutsControlsBesideTheTitleOfAGroup) {
+  EXPECT_EQ(by("group title tick value- nobody\n  number bare\nend\nremark\nbuttons ok cancel\n"),
+            "rows(group title tick value(line(number<+unit bare space)) line(remark<) "
+            "buttons(space ok cancel))");
 }
 
 TEST_F(APlan, KeepsTheFootOutOfTheBody) {
