@@ -13,9 +13,13 @@ void ClickableLabel::set_clickable(bool on) {
   dress(*this, on ? Dress::kLink : Dress::kPlain);
 }
 
+void ClickableLabel::dress_anew() {
+  if (clickable_) dress(*this, Dress::kLink);
+}
+
 void ClickableLabel::changeEvent(QEvent* event) {
   QLabel::changeEvent(event);
-  if (clickable_ && event->type() == QEvent::ApplicationPaletteChange) dress(*this, Dress::kLink);
+  if (event->type() == QEvent::ApplicationPaletteChange) dress_anew();
 }
 
 void ClickableLabel::mouseReleaseEvent(QMouseEvent* event) {

@@ -12,6 +12,8 @@ class ClickableLabel : public QLabel {
     setTextFormat(Qt::PlainText);
   }
   void set_clickable(bool on);
+  /// After the application has another palette.
+  void dress_anew();
 
  Q_SIGNALS:
   void clicked(QPointF position);

@@ -97,8 +97,12 @@ void take_palette() {
   if (const QPalette wanted = readable(QApplication::palette()); wanted != QApplication::palette())
     QApplication::setPalette(wanted);
   // What has colours of its own is dressed anew.
-  for (QWidget* const window : QApplication::topLevelWidgets())
-    if (auto* const screen = qobject_cast<ScreenWindow*>(window)) screen->show_controls();
+  for (QWidget* const window : QApplication::topLevelWidgets()) {
+    auto* const screen = qobject_cast<ScreenWindow*>(window);
+    if (screen == nullptr) continue;
+    screen->show_controls();
+    for (ClickableLabel* const label : screen->findChildren<ClickableLabel*>()) label->dress_anew();
+  }
 }
 
 // The person may change from light to dark while the program runs.

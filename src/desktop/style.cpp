@@ -37,7 +37,7 @@ constexpr Colours kLight = {
     "#ffdcdc",
     "#000000",
     "#c00000",
-    "#d8dde3",
+    "#e2e6ea",
     "#1565c0",
     "#ffffff",
     {"", "#b0b0b0", "#0b4a8f", "#efe4c4", "#d8ebf8", "#f7fbff", "#7a4a00", "#b00000", "#8a7a55"}};
@@ -165,7 +165,9 @@ QPalette readable(QPalette palette) {
   const QColor button = palette.color(QPalette::Active, QPalette::Button);
   const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
   const auto is_readable = [&](const QColor& tried) {
-    return contrast(tried, window) >= kReadable && contrast(tried, button) >= kReadable;
+    // A button is lighter at its top.
+    return contrast(tried, window) >= kReadable && contrast(tried, button) >= kReadable &&
+           contrast(tried, button.lighter(130)) >= kReadable;
   };
   const QColor disabled = faded(text, window, is_readable);
   for (const QPalette::ColorRole role :

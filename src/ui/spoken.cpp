@@ -49,6 +49,7 @@ Titles titles_of(const Screen& screen, const Plan& plan) {
   Titles titles;
   std::vector<const Control*> around;
   collect(screen, plan.body, around, titles);
+  collect(screen, plan.foot, around, titles);
   return titles;
 }
 
