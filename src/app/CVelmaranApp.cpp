@@ -62,6 +62,7 @@ bool CVelmaranApp::read_settings() {
   if (!language) return false;
   texts_.language = *language;
   read_folders(ini, settings_.folders);
+  services_.moves_on = moves_on_when_full(ini);
   create_folders();
   return true;
 }

@@ -72,6 +72,10 @@ CKataInputDlg::CKataInputDlg(ui::Services& services, BarometerCard card)
                                &total_correction_full_load, &total_correction_ballast})
     edit->unit = {id::kCardUnitPressure};
   height_full_load.unit = height_ballast.unit = {id::kCardUnitHeight};
+  for (ui::Edit* const edit :
+       {&total_correction, &instrumental_correction, &height_full_load, &total_correction_full_load,
+        &height_ballast, &total_correction_ballast, &barometer_check_date})
+    edit->figures = true;
   card_type.max_length = 1;
   set_up_checks();
 }
