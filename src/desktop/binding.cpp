@@ -92,8 +92,11 @@ int largest_length(const ui::Control& control) {
 class Typing : public QObject {
  public:
   using Told = std::function<void(const QString& text, bool by_key)>;
-  Typing(QLineEdit& edit, Told told) : QObject(&edit), edit_(edit), told_(std::move(told)) {
+  /// `around` hands its keys on to the line without an event of their own: an editable drop-down.
+  Typing(QLineEdit& edit, QWidget* around, Told told)
+      : QObject(&edit), edit_(edit), told_(std::move(told)) {
     edit.installEventFilter(this);
+    if (around != nullptr) around->installEventFilter(this);
     // The person's alone: textChanged would answer to setText() as well.
     connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
       const bool written = std::exchange(written_, false);
@@ -162,7 +165,8 @@ class LineBinding : public Binding {
  public:
   LineBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), edit_(new QLineEdit(parent)) {
-    new Typing(*edit_, [this](const QString& typed, bool by_key) { tell_typed(typed, by_key); });
+    new Typing(*edit_, nullptr,
+               [this](const QString& typed, bool by_key) { tell_typed(typed, by_key); });
     edit_->setDragEnabled(true);
     if (c.figures) edit_->setInputMethodHints(Qt::ImhPreferNumbers);
   }
@@ -276,7 +280,7 @@ class ComboBinding : public Binding {
       box_->setInsertPolicy(QComboBox::NoInsert);
       if (const int largest = largest_length(c); largest > 0)
         box_->lineEdit()->setMaxLength(largest);
-      new Typing(*box_->lineEdit(),
+      new Typing(*box_->lineEdit(), box_,
                  [this](const QString& typed, bool by_key) { tell_typed(typed, by_key); });
       box_->lineEdit()->setDragEnabled(true);
       if (c.figures) {

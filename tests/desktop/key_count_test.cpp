@@ -10,6 +10,7 @@
 #include "desktop_world.h"
 #include "fakes/fake_files.h"
 #include "fakes/sample_observation.h"
+#include "fakes/sample_ship.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "observation/logbook_encoder.h"
 
@@ -37,7 +38,21 @@ struct Count {
   int tabs = 0;
 };
 
-// The ship of the sample observation, with folders to save into.
+// As of the sample observation.
+ShipFixedData ship_of_the_sample() {
+  ShipFixedData ship = fakes::psychrometer_ship();
+  ship.card.total_correction = "+2.4";
+  ship.wind_speed_method = WindSpeedMethod::kAnemometer;
+  return ship;
+}
+KeyObservationItems without_ice() {
+  KeyObservationItems items;
+  items.set_observed(ObservationItem::IsEsEsRs, false);
+  items.set_observed(ObservationItem::ciSibiDizi, false);
+  return items;
+}
+
+// The main window, with folders to save into.
 class CountedWindow {
  public:
   explicit CountedWindow(bool moves_on) {
@@ -45,11 +60,6 @@ class CountedWindow {
     files.add_folder("C:\\log");
     folders.reports = "C:\\out\\";
     folders.logbook = "C:\\log\\";
-    ship = fakes::psychrometer_ship();
-    ship.card.total_correction = "+2.4";
-    ship.wind_speed_method = WindSpeedMethod::kAnemometer;
-    items.set_observed(ObservationItem::IsEsEsRs, false);
-    items.set_observed(ObservationItem::ciSibiDizi, false);
     services.moves_on = moves_on;
     screen.open();
     window = std::make_unique<desktop::ScreenWindow>(screen, nullptr);
@@ -85,8 +95,8 @@ class CountedWindow {
       world.fake.clock,     world.fake.locale,  world.fake.drives, files,
       world.fake.code_page, world.fake.printer, world.windows,     world.fake.texts,
       world.messages,       world.fake.help};
-  ShipFixedData ship;
-  KeyObservationItems items;
+  ShipFixedData ship = ship_of_the_sample();
+  KeyObservationItems items = without_ice();
   mainwindow::Folders folders;
   CVelmaranDlg screen{services, {ship, items, folders, {}}};
   std::unique_ptr<desktop::ScreenWindow> window;
@@ -103,8 +113,7 @@ Count enter_and_save(bool moves_on, bool passes_over) {
   const auto told = tests::messages_of([&w] { w.key(Qt::Key_S, Qt::ControlModifier); });
   EXPECT_EQ((std::vector<std::string>{"Save success"}), told);
   EXPECT_EQ(kReport, w.screen.report());
-  EXPECT_EQ(w.screen.report() + "\r\n",
-            w.files.content("C:\\out\\14111512.tlx").value_or("no report"));
+  EXPECT_EQ(kReport, w.files.content("C:\\out\\14111512.tlx").value_or("no report"));
   // One line of the logbook, and it is that of the record.
   const std::string logbook = w.files.content("C:\\log\\immt5.log").value_or("no logbook");
   EXPECT_TRUE(logbook.starts_with("3201411151213")) << logbook;

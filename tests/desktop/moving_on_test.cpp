@@ -52,7 +52,7 @@ class CCodesDlg : public ui::Screen {
 
 class Fields : public testing::TestWithParam<const char*> {
  protected:
-  Fields() { EXPECT_TRUE(s.screen->move_focus(field())), s.window->refresh(); }
+  Fields() { s.tab_to(GetParam()); }
   [[nodiscard]] ui::Control& field() const { return *s.screen->find(GetParam()); }
   [[nodiscard]] QLineEdit& line() const {
     QWidget* const widget = s.window->binding(GetParam())->widget();
@@ -126,6 +126,8 @@ TEST_P(Fields, StayAtWhatIsPastedDroppedOrTakenBack) {
   s.screen->type(field(), "");
   QMimeData dragged;
   dragged.setText(QStringLiteral("08"));
+  QDragEnterEvent comes(QPoint(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&line(), &comes);
   QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&line(), &drop);
   QApplication::processEvents();
