@@ -52,7 +52,10 @@ class CCodesDlg : public ui::Screen {
 
 class Fields : public testing::TestWithParam<const char*> {
  protected:
-  Fields() { s.tab_to(GetParam()); }
+  Fields() {
+    s.world.services.moves_on = true;
+    s.tab_to(GetParam());
+  }
   [[nodiscard]] ui::Control& field() const { return *s.screen->find(GetParam()); }
   [[nodiscard]] QLineEdit& line() const {
     QWidget* const widget = s.window->binding(GetParam())->widget();
