@@ -63,6 +63,7 @@ bool CVelmaranApp::read_settings() {
   texts_.language = *language;
   read_folders(ini, settings_.folders);
   settings_.window_place = ini.value(kSection, kPlaceKey);
+  services_.moves_on = moves_on_when_full(ini);
   create_folders();
   return true;
 }

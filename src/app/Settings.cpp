@@ -4,6 +4,7 @@
 
 #include "media/floppy_drive.h"
 #include "platform/paths.h"
+#include "text/strings.h"
 
 namespace app {
 
@@ -59,6 +60,15 @@ std::optional<text::Language> language_of(std::string value, bool locale_is_japa
 
 std::string_view language_value(text::Language language) {
   return language == text::Language::kJapanese ? "JPN" : "ENG";
+}
+
+bool moves_on_when_full(const CIniEx& ini) {
+  const std::string value = ini.value(kSection, kMoveOnKey);
+  const std::string_view written = text::trim(value);
+  static constexpr std::string_view kOff = "OFF";
+  return !std::equal(written.begin(), written.end(), kOff.begin(), kOff.end(), [](char a, char b) {
+    return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 'a' + 'A') : a) == b;
+  });
 }
 
 void read_folders(const CIniEx& ini, mainwindow::Folders& folders) {

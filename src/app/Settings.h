@@ -4,7 +4,8 @@
 // The live file is kavrel\kavrel.ini beneath the system root; a copy that lies beside the program
 // is its seed. One section, "KAVREL": LANG ("JPN" or "ENG"), TLX and LOG (folders of reports and
 // logbook), TLXC and LOGC (folders of their copies), FD (letter of the removable drive, written
-// only), WINDOW (where the main window stood last, ui/window_place.h).
+// only), WINDOW (where the main window stood last, ui/window_place.h), MOVEON ("OFF": a full field
+// waits for Tab; the program never writes it).
 
 #include <optional>
 #include <string>
@@ -25,6 +26,7 @@ inline constexpr std::string_view kReportCopyKey = "TLXC";
 inline constexpr std::string_view kLogbookCopyKey = "LOGC";
 inline constexpr std::string_view kRemovableDriveKey = "FD";
 inline constexpr std::string_view kPlaceKey = "WINDOW";
+inline constexpr std::string_view kMoveOnKey = "MOVEON";
 
 struct Settings {
   bool locale_is_japanese = false;
@@ -58,6 +60,10 @@ struct SettingsPlaces {
 /// when it is empty then. Only "JPN" in capitals is Japanese.
 [[nodiscard]] std::optional<text::Language> language_of(std::string value, bool locale_is_japanese);
 [[nodiscard]] std::string_view language_value(text::Language language);
+
+/// True, also for a file that does not say, unless the value of MOVEON is "OFF" in any case, with
+/// blanks around it or without.
+[[nodiscard]] bool moves_on_when_full(const CIniEx& ini);
 
 /// Takes the four folders from the file.
 void read_folders(const CIniEx& ini, mainwindow::Folders& folders);

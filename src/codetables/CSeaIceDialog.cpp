@@ -38,6 +38,7 @@ CSeaIceDialog::CSeaIceDialog(ui::Services& services, Values values)
   codetables::offer(kind, codetables::table_of("Is")->rows);
   codetables::offer(rate, codetables::table_of("Rs")->rows);
   thickness.items = text::numbered_lines(0, kLargest, kFigures);
+  thickness.figures = true;
   thickness.unit = {id::kFormCentimetres};
   thickness.on_leave = [this] { return check_thickness(); };
 }

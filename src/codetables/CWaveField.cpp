@@ -14,6 +14,8 @@ CWaveField::CWaveField(ui::Screen& owner, std::string_view control_name, text::R
                        const WaveFigure& figure)
     : Combo(owner, control_name, text, figure.largest), figure_(figure) {
   items = figure.lines(smallest());
+  figures = true;
+  moves_on_when_full = !figure.smallest;  // periods and directions; a height is a value in metres
 }
 
 // The line is figures and a sign, the same in both languages.

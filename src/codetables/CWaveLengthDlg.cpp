@@ -33,6 +33,7 @@ CWaveLengthDlg::CWaveLengthDlg(ui::Services& services)
     : OkCancelHelpDialog(services, "CWaveLengthDlg", {id::kWaveLengthTitle}),
       length(*this, "length", {id::kWaveLength}, 6),
       period_shown(*this, "period", {id::kWaveLengthPeriod}) {
+  length.figures = true;
   length.unit = {id::kFormMetres};
   period_shown.unit = {id::kUnitSeconds};
   period_shown.max_length = 2;

@@ -7,6 +7,8 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMap>
@@ -20,8 +22,10 @@
 #include <QStyle>
 #include <QTextLayout>
 #include <QTreeWidget>
+#include <QWheelEvent>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "desktop/fixed_pitch.h"
 #include "desktop/picture_label.h"
@@ -110,14 +114,88 @@ class FieldEdit : public QLineEdit {
   bool wrong_ = false;
 };
 
+// Tells the person's typing in a line of text, and whether it was a key at the end of the text: what
+// is pasted, dropped, taken back or corrected before the end is none.
+class Typing : public QObject {
+ public:
+  using Told = std::function<void(const QString& text, bool by_key)>;
+  /// `around` hands its keys on to the line without an event of their own: an editable drop-down.
+  Typing(QLineEdit& edit, QWidget* around, Told told)
+      : QObject(&edit), edit_(edit), told_(std::move(told)) {
+    edit.installEventFilter(this);
+    if (around != nullptr) around->installEventFilter(this);
+    // The person's alone: textChanged would answer to setText() as well.
+    connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+      const bool written = std::exchange(written_, false);
+      told_(text, written && edit_.cursorPosition() == text.size());
+    });
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::KeyPress: {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        const bool command =
+            (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+        written_ = !command && !key.text().isEmpty() && key.text().front().isPrint();
+        break;
+      }
+      case QEvent::InputMethod:
+        written_ = !static_cast<QInputMethodEvent*>(event)->commitString().isEmpty();
+        break;
+      // A key that wrote nothing, in a field that was full.
+      case QEvent::KeyRelease:
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::ContextMenu:
+      case QEvent::Drop:
+      case QEvent::FocusIn:
+        written_ = false;
+        break;
+      default:
+        break;
+    }
+    return false;
+  }
+
+ private:
+  QLineEdit& edit_;
+  Told told_;
+  bool written_ = false;
+};
+
+// A wheel that turns over a drop-down on the way through a form would change an observation unseen.
+// Only one that has the focus listens to it, and only while the pointer is on it; the others leave
+// it to the form, which scrolls.
+class QuietWheel : public QObject {
+ public:
+  explicit QuietWheel(QComboBox& box) : QObject(&box), box_(box) {
+    box.installEventFilter(this);
+    box.setFocusPolicy(Qt::StrongFocus);  // the wheel gives no focus either
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() != QEvent::Wheel) return false;
+    const auto& wheel = *static_cast<QWheelEvent*>(event);
+    if (box_.hasFocus() && box_.rect().contains(wheel.position().toPoint())) return false;
+    event->ignore();
+    return true;
+  }
+
+ private:
+  QComboBox& box_;
+};
+
 class LineBinding : public Binding {
  public:
   LineBinding(ui::Screen& s, ui::Control& c, QWidget* parent, Hand hand)
       : Binding(s, c, std::move(hand)), edit_(new FieldEdit(parent)) {
-    // The person's alone: textChanged would answer to setText() as well.
-    connect(edit_, &QLineEdit::textEdited, this, [this](const QString& typed) {
-      tell([&] { screen().type(control(), typed.toStdString()); });
-    });
+    new Typing(*edit_, nullptr,
+               [this](const QString& typed, bool by_key) { tell_typed(typed, by_key); });
+    edit_->setDragEnabled(true);
+    if (c.figures) edit_->setInputMethodHints(Qt::ImhPreferNumbers);
   }
   [[nodiscard]] QWidget* widget() const override { return edit_; }
   void select(int length) override {
@@ -230,10 +308,16 @@ class ComboBinding : public Binding {
       box_->setInsertPolicy(QComboBox::NoInsert);
       if (const int largest = largest_length(c); largest > 0)
         box_->lineEdit()->setMaxLength(largest);
-      connect(box_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& typed) {
-        tell([&] { screen().type(control(), typed.toStdString()); });
-      });
+      new Typing(*box_->lineEdit(), box_,
+                 [this](const QString& typed, bool by_key) { tell_typed(typed, by_key); });
+      box_->lineEdit()->setDragEnabled(true);
+      if (c.figures) {
+        // The box asks for its line, which has the focus from it.
+        box_->setInputMethodHints(Qt::ImhPreferNumbers);
+        box_->lineEdit()->setInputMethodHints(Qt::ImhPreferNumbers);
+      }
     }
+    new QuietWheel(*box_);
     if (ui::extent_of(c).least_characters == 0)
       box_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     // The person's alone: currentIndexChanged also fires while the lines are filled anew.
@@ -867,6 +951,17 @@ Binding::Binding(ui::Screen& screen, ui::Control& control, Hand hand)
 
 bool Binding::owns(const QWidget* candidate) const {
   return candidate != nullptr && (candidate == widget() || widget()->isAncestorOf(candidate));
+}
+
+void Binding::tell_typed(const QString& text, bool by_key) {
+  const std::string typed = text.toStdString();
+  tell([&] {
+    if (by_key) {
+      screen_.type_by_key(control_, typed);
+    } else {
+      screen_.type(control_, typed);
+    }
+  });
 }
 
 void Binding::select(int /*length*/) {}

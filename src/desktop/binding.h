@@ -80,6 +80,8 @@ class Binding : public QObject {
   void tell(Event event) {
     hand_(event);
   }
+  /// The text that a person made of the control's, and whether by a key at its end.
+  void tell_typed(const QString& text, bool by_key);
 
  private:
   ui::Screen& screen_;

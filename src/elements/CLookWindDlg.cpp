@@ -42,6 +42,9 @@ CLookWindDlg::CLookWindDlg(ui::Services& services, elements::ApparentWindTexts v
       true_direction(*this, "true_direction", {id::kComputedDirection}),
       true_speed(*this, "true_speed", {id::kComputedSpeed}),
       values_(std::move(values)) {
+  for (ui::Control* const field :
+       std::initializer_list<ui::Control*>{&heading, &course, &ship_speed, &direction, &speed})
+    field->figures = true;
   true_direction.unit = {id::kUnitTensOfDegrees};
   true_speed.unit = {id::kUnitKnots};
   for (const DegreesField& row : kDegreesFields) {

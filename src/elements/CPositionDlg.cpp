@@ -47,6 +47,11 @@ CPositionDlg::CPositionDlg(ui::Services& services, Values values, std::string la
     minutes->unit = {id::kPositionMinutes};
     minutes->items = text::numbered_lines(0, 59, 2);
   }
+  for (ui::Control* const field : std::initializer_list<ui::Control*>{
+           &latitude_degrees, &latitude_minutes, &longitude_degrees, &longitude_minutes}) {
+    field->figures = true;
+    field->moves_on_when_full = field != &longitude_degrees;  // those are typed as 5 and as 005
+  }
   latitude_side.on_change = [this] {
     latitude_offered_ = false;
     show_hint();

@@ -36,6 +36,7 @@ CPresureTendencyDlg::CPresureTendencyDlg(ui::Services& services, std::string a, 
       ppp_(std::move(ppp)) {
   kind.item_refs = {
       {id::kTendencyRisen}, {id::kTendencySame}, {id::kTendencyDescended}, {id::kTendencyUnknown}};
+  amount.figures = true;
   amount.unit = {id::kUnitHectopascal};
   kind.on_change = [this] { kind_changed(); };
   characteristic.on_change = [this] { show_chosen(); };

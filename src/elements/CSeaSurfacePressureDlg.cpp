@@ -47,6 +47,11 @@ void CSeaSurfacePressureDlg::fill_lists() {
   reading_tenths.items = text::numbered_lines(0, 9, 1);
   hour.items = text::numbered_lines(0, 23, 2);
   minute.items = text::numbered_lines(0, 59, 2);
+  for (ui::Control* const field :
+       std::initializer_list<ui::Control*>{&reading_whole, &reading_tenths, &hour, &minute}) {
+    field->figures = true;
+    field->moves_on_when_full = field != &reading_whole;
+  }
   for (ui::Control* const in_hectopascal : std::initializer_list<ui::Control*>{
            &reading_tenths, &reading, &total_correction, &sea_level_pressure})
     in_hectopascal->unit = {id::kUnitHectopascal};

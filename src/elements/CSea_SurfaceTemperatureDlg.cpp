@@ -16,6 +16,7 @@ CSea_SurfaceTemperatureDlg::CSea_SurfaceTemperatureDlg(ui::Services& services, V
              {{id::kSeaIntake}, {id::kSeaBucket}, {id::kSeaHullSensor}, {id::kSeaOther}}),
       values_(std::move(values)),
       of_ship_(of_ship) {
+  temperature.figures = true;
   temperature.unit = {id::kSeaTemperatureUnit};
   temperature.on_leave = [this] { return check(); };
 }

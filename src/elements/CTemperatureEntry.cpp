@@ -16,6 +16,8 @@ CTemperatureEntry::CTemperatureEntry(ui::Screen& owner, ui::Services& services, 
       texts_(texts) {
   for (char digit = '0'; digit <= '9'; ++digit) tenths.items.emplace_back(1, digit);
   whole.continues_in = &tenths;
+  whole.figures = tenths.figures = true;
+  tenths.moves_on_when_full = true;
   tenths.unit = {id::kUnitCelsius};
   const auto changed = [this] {
     if (on_change) on_change();

@@ -15,6 +15,7 @@ CThumidityDlg::CThumidityDlg(ui::Services& services, std::string humidity, doubl
       humidity_(std::move(humidity)),
       whole_percent_(unit >= 1.0) {
   value.max_length = 5;
+  value.figures = true;
   value.unit = {id::kUnitPercent};
   value.on_leave = [this] { return check(); };
 }

@@ -39,6 +39,8 @@ CTrueDirWindDlg::CTrueDirWindDlg(ui::Services& services, std::string direction, 
       speed_unknown(*this, "speed_unknown", {id::kTrueSpeedUnknown}),
       direction_(std::move(direction)),
       speed_(std::move(speed)) {
+  direction_field.figures = speed_field.figures = true;
+  direction_field.moves_on_when_full = true;
   direction_field.unit = {id::kUnitTensOfDegrees};
   speed_field.unit = {id::kUnitKnots};
   direction_field.on_leave = [this] { return check_direction(); };

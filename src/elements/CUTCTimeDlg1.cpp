@@ -32,6 +32,9 @@ CUTCTimeDlg1::CUTCTimeDlg1(ui::Services& services, Values values)
       month_(services, month, 1, 12, 2, id::kInvalidMonth),
       day_(services, day, 1, 31, 2, id::kInvalidDay),
       hour_(services, hour, 0, 23, 2, id::kInvalidHour) {
+  for (ui::Control* const field : std::initializer_list<ui::Control*>{&year, &month, &day, &hour})
+    field->figures = true;
+  month.moves_on_when_full = day.moves_on_when_full = hour.moves_on_when_full = true;
   month.items = text::numbered_lines(1, 12, 2);
   day.items = text::numbered_lines(1, 31, 2);
   hour.items = text::numbered_lines(0, 23, 2);

@@ -47,6 +47,7 @@ const ScreenCommands::Row ScreenCommands::kRows[] = {
     {"answer", &ScreenCommands::answer}, {"close", &ScreenCommands::close},
     {"expect", &ScreenCommands::expect}, {"expect-message", &ScreenCommands::expect_message},
     {"record", &ScreenCommands::record}, {"report", &ScreenCommands::report},
+    {"type", &ScreenCommands::type},
 };
 
 void ScreenCommands::carry_out(const Line& line) {
@@ -146,6 +147,74 @@ void ScreenCommands::set() {
   const std::string typed = plain_text(args.text);
   watch_.expect_text(control, typed);
   screen_.type(control, typed);
+}
+
+// Where the next character goes in the field that has the focus.
+struct ScreenCommands::Caret {
+  unsigned focus_serial = 0;  ///< the focus was set so: with another one the text is selected anew
+  std::size_t at = 0;         ///< characters before it
+};
+
+// Key by key as a person types: each character goes to whatever has the focus then.
+void ScreenCommands::type() {
+  const NameAndText args = arguments();
+  ui::Control& control = usable(args);
+  if (!can_be_typed_into(control.kind) && !ui::finds_lines(control.kind))
+    cannot(a_kind(control) + ": nothing can be typed into it");
+  if (control.read_only) cannot(control.name + " is locked" + because(control));
+  if (!take_focus(control)) {
+    if (!screen_.result()) windows_.say("  nothing typed: the focus was not given");
+    return;
+  }
+  const std::string typed = plain_text(args.text);
+  Caret caret{screen_.focus_serial() - 1};
+  for (std::string_view rest = typed; !rest.empty() && !screen_.result();) {
+    const std::string_view character = text::first(rest, 1);
+    rest.remove_prefix(character.size());
+    const ui::Control* const before = screen_.focused();
+    type_character(character, caret);
+    // Refused: the message has been answered, and the text is selected for another one.
+    if (rest.empty() || screen_.focused() != before || caret.focus_serial == screen_.focus_serial())
+      continue;
+    windows_.say("  not typed: " + ui::quoted(rest));
+    return;
+  }
+}
+
+void ScreenCommands::type_character(std::string_view character, Caret& caret) {
+  ui::Control* const control = screen_.focused();
+  if (ui::Control* const pressed = screen_.pressed_by(character)) {
+    screen_.press(*pressed);
+    return;
+  }
+  if (control == nullptr || control->read_only) return;
+  if (!can_be_typed_into(control->kind)) {
+    screen_.find_line(character);
+    watch_.expect_text(*control, ui::shown_text(screen_, *control));
+    return;
+  }
+  const std::string& held = control->content;
+  // The selection begins with the text, and what is typed takes its place.
+  std::size_t selected = 0;
+  if (caret.focus_serial != screen_.focus_serial()) {
+    const auto length = text::length(held);
+    selected = screen_.selection_length() < 0
+                   ? length
+                   : std::min(length, static_cast<std::size_t>(screen_.selection_length()));
+    caret = {screen_.focus_serial(), 0};
+  }
+  const std::string_view before = text::first(held, caret.at);
+  const std::string_view behind =
+      std::string_view(held).substr(text::first(held, caret.at + selected).size());
+  std::string wanted(before);
+  wanted.append(character).append(behind);
+  ++caret.at;
+  watch_.expect_text(*control, wanted);
+  if (behind.empty()) {
+    screen_.type_by_key(*control, wanted);
+  } else {
+    screen_.type(*control, wanted);
+  }
 }
 
 void ScreenCommands::focus() {

@@ -28,6 +28,7 @@ class ScreenCommands {
   void start();
   void show();
   void set();
+  void type();
   void focus();
   void choose();
   void tick();
@@ -53,6 +54,8 @@ class ScreenCommands {
   /// Moves the focus as a person does; false when it was refused.
   bool take_focus(ui::Control& control);
   void pick(ui::Control& control, int index);
+  struct Caret;
+  void type_character(std::string_view character, Caret& caret);
   void choose_in_tree(ui::Control& tree, const std::string& wanted);
 
   ScriptWindows& windows_;

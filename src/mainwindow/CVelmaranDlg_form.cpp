@@ -111,6 +111,8 @@ void CVelmaranDlg::add_field(const mainwindow::FieldRow& row) {
 void CVelmaranDlg::add_edit(const mainwindow::FieldRow& row, text::Ref label) {
   auto& edit = add<ui::Edit>(row.name, label, row.field->max_length);
   edit.unit = row.field->unit;
+  edit.figures = true;
+  edit.moves_on_when_full = elements::is_of_fixed_width(*row.field);
   fields_.push_back({&row, &edit});
   edit.on_change = [this, at = fields_.size() - 1] {
     typing_ = true;
@@ -149,6 +151,7 @@ void CVelmaranDlg::add_report() {
     auto& edit = add<ui::Edit>(row.name, text::Ref{}, mainwindow::kGroupWidth);
     edit.literal_caption = row.caption;
     edit.font = kFiguresFont;
+    edit.figures = true;
     edit.on_enter = [this] { tab_flags_.arm(); };
     edit.on_change = [this] {
       typing_ = true;
@@ -194,6 +197,7 @@ void CVelmaranDlg::show_edit(const Field& field) {
   control.why_locked = services().texts.get(why);
   control.set(control.enabled ? std::string_view(form_.text(field.value())) : std::string_view());
   control.mark = form_.in_error(field.value()) ? ui::kWrongMark : std::string_view();
+  control.passed_over = !form_.asks_for(field.value());
 }
 
 void CVelmaranDlg::show_choices() {
@@ -202,10 +206,13 @@ void CVelmaranDlg::show_choices() {
   ui::Control& loading = *control_of("loading_state");
   loading.enabled = context_.ship.card.type == CardType::kHeightAndTemperature;
   loading.selected = static_cast<int>(context_.ship.card.loading_state);
+  // Once chosen it is another one only after the ship was loaded or unloaded.
+  loading.passed_over = loading.selected >= 0;
   loading.why_locked = services().texts.get(loading.enabled ? text::Id() : id::kWhyNoLoadingState);
   ui::Control& freeze = *control_of("freeze");
   freeze.enabled = context_.ship.dew_point_method == DewPointMethod::kComputed;
   freeze.checked = freeze.enabled && form_.entries().wet_bulb == elements::WetBulbState::kIced;
+  freeze.passed_over = !form_.asks_for_freeze();
   freeze.why_locked = services().texts.get(freeze.enabled ? text::Id() : id::kWhyOtherMethod);
 }
 

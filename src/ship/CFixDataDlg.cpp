@@ -115,6 +115,7 @@ CFixDataDlg::CFixDataDlg(ui::Services& services, std::string path, bool auto_acc
 
 // A full-width space goes another way in each of these fields, so they narrow for themselves.
 void CFixDataDlg::set_up_ship() {
+  imo_number.figures = true;
   call_sign.narrow = imo_number.narrow = aws_manufacturer.narrow = false;
   call_sign.on_leave = [this] { return check_call_sign(); };
   imo_number.on_leave = [this] { return check_imo_number(); };

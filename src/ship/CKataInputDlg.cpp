@@ -76,6 +76,10 @@ CKataInputDlg::CKataInputDlg(ui::Services& services, BarometerCard card)
   total_correction_full_load.spoken = {id::kSpokenCorrectionFullLoad};
   height_ballast.spoken = {id::kSpokenHeightBallast};
   total_correction_ballast.spoken = {id::kSpokenCorrectionBallast};
+  for (ui::Edit* const edit :
+       {&total_correction, &instrumental_correction, &height_full_load, &total_correction_full_load,
+        &height_ballast, &total_correction_ballast, &barometer_check_date})
+    edit->figures = true;
   card_type.max_length = 1;
   set_up_checks();
 }

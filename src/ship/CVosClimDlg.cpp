@@ -13,6 +13,7 @@ CVosClimDlg::CVosClimDlg(ui::Services& services, Values values)
       cargo_height(*this, "cargo_height", {id::kVosClimCargoHeight}, kCargoHeightWidth),
       departure(*this, "departure", {id::kVosClimDeparture}, kDepartureWidth),
       accepted_(std::move(values)) {
+  cargo_height.figures = departure.figures = true;
   cargo_height.unit = departure.unit = {id::kVosClimUnit};
   cargo_height.set(accepted_.cargo_height);
   departure.set(accepted_.departure);

@@ -107,6 +107,14 @@ class Control {
   bool narrow = true;  ///< full-width characters are narrowed before checks
   std::string mark;    ///< kMissingMark or kWrongMark; empty for none
   Control* continues_in = nullptr;  ///< the field of the decimals: a point goes on to it
+  /// Its figures always fill it: with the last one of max_length, typed by a key at the end of its
+  /// text, the focus moves on as Tab moves it (Screen::type_by_key).
+  bool moves_on_when_full = false;
+  /// Nothing is asked of it now: Tab passes it by, Shift+Tab and a click reach it. Tab passes by
+  /// what is locked in any case.
+  bool passed_over = false;
+  /// Figures are typed into it (a solidus among them): a front end asks its input method for them.
+  bool figures = false;
   bool unchecked = false;  ///< typed into, or left, without its check since; kept by the screen
   /// Keys that press it whatever field of the screen has the focus ("F7"), or a character that does
   /// where it can not be typed ("+"); empty for none. The text outlives the control.

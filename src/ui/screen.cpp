@@ -32,6 +32,15 @@ bool is_too_long(std::string_view text, const Control& field) {
   return field.max_length > 0 && text::length(text) > static_cast<std::size_t>(field.max_length);
 }
 
+bool is_typed_into(const Control& control) {
+  return control.kind == Kind::kEdit || control.kind == Kind::kCombo;
+}
+
+// A text that is only read has nothing locked in it.
+bool is_locked(const Control& control) {
+  return is_typed_into(control) && control.read_only;
+}
+
 bool same_keys(std::string_view a, std::string_view b) {
   const auto small = [](char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -83,8 +92,7 @@ Control* Screen::find(std::string_view name) const {
 
 Control* Screen::pressed_by(std::string_view keys) const {
   const bool character = text::length(keys) == 1;
-  const bool is_typed = focused_ != nullptr && !focused_->read_only &&
-                        (focused_->kind == Kind::kEdit || focused_->kind == Kind::kCombo);
+  const bool is_typed = focused_ != nullptr && !focused_->read_only && is_typed_into(*focused_);
   if (keys.empty() || (character && is_typed)) return nullptr;
   const auto at = std::find_if(controls_.begin(), controls_.end(), [&](const Control* c) {
     return c->enabled && c->visible && same_keys(c->shortcut, keys);
@@ -120,15 +128,39 @@ void Screen::open() {
 
 void Screen::type(Control& control, std::string_view text) {
   const Handling handling(*this);
-  if (!handling || !control.can_focus() || control.read_only) return;
-  if (control.kind != Kind::kEdit && control.kind != Kind::kCombo) return;
-  if (type_across_point(control, text)) return;
+  if (handling) type_inside(control, text);
+}
+
+void Screen::type_by_key(Control& control, std::string_view text) {
+  const Handling handling(*this);
+  if (!handling) return;
+  const Control* const typed_into = type_inside(control, text);
+  if (typed_into == nullptr || typed_into != focused_ || result_) return;
+  if (!services_.moves_on || !is_full(*typed_into)) return;
+  // Enter behind the last figure means OK, and no other button that Tab would come to.
+  const Control* const next = neighbour(focused_, true);
+  if (next->kind != Kind::kButton || next->role == Role::kAccept) tab(Key::kTab);
+}
+
+bool Screen::is_full(const Control& control) const {
+  if (!control.moves_on_when_full || control.max_length == 0) return false;
+  const auto characters =
+      text::length(control.narrow ? text::narrow(control.content) : control.content);
+  return characters >= static_cast<std::size_t>(control.max_length);
+}
+
+// The control whose text ends with what was typed; none where nothing was.
+Control* Screen::type_inside(Control& control, std::string_view text) {
+  if (!control.can_focus() || control.read_only) return nullptr;
+  if (!is_typed_into(control)) return nullptr;
+  if (Control* const last = type_across_point(control, text)) return last;
   // As a field of that length takes it. With a point in it the text belongs to two fields, and what
   // does not fit into them stays whole for the person to see.
   const bool split = control.continues_in != nullptr && first_point(text).size > 0;
   if (control.max_length > 0 && !split)
     text = text::first(text, static_cast<std::size_t>(control.max_length));
   put_typed(control, text);
+  return &control;
 }
 
 void Screen::put_typed(Control& control, std::string_view text) {
@@ -138,23 +170,25 @@ void Screen::put_typed(Control& control, std::string_view text) {
   if (control.on_change) control.on_change();
 }
 
-// "1009.3" in the field of the whole figures: 1009 there, 3 in that of the tenths. False, with
-// nothing done, when there is no point, nowhere to go on, or no room for it all.
-bool Screen::type_across_point(Control& control, std::string_view text) {
+// "1009.3" in the field of the whole figures: 1009 there, 3 in that of the tenths, which is given
+// back. None, with nothing done, when there is no point, nowhere to go on, or no room for it all.
+Control* Screen::type_across_point(Control& control, std::string_view text) {
   Control* const next = control.continues_in;
-  if (next == nullptr || !next->can_focus() || next->read_only) return false;
+  if (next == nullptr || !next->can_focus() || next->read_only) return nullptr;
   const auto [at, size] = first_point(text);
-  if (at == std::string_view::npos) return false;
+  if (at == std::string_view::npos) return nullptr;
   const std::string_view whole = text::trim(text.substr(0, at));
   const std::string_view decimals = text::trim(text.substr(at + size));
   if (is_too_long(whole, control) || is_too_long(decimals, *next) ||
       first_point(decimals).at != std::string_view::npos)
-    return false;
+    return nullptr;
   put_typed(control, whole);
-  if (!decimals.empty()) put_typed(*next, decimals);
+  const bool has_decimals = !decimals.empty();
+  if (has_decimals) put_typed(*next, decimals);
   if (focused_ != &control) focus(control);
   move_focus_inside(*next);
-  return true;
+  // Behind a point alone there stands what was there before, and nobody has typed it.
+  return has_decimals ? next : &control;
 }
 
 void Screen::choose(Control& control, int index) {
@@ -259,12 +293,27 @@ bool Screen::move_focus_inside(Control& to) {
   // The check may have moved the focus itself (to the field after the one that a dialog filled,
   // say), or closed the screen, or switched off the control that was to have it.
   if (focused_ != before || result_ || !to.can_focus()) return false;
-  if (to.on_enter) to.on_enter();
-  focused_ = &to;
+  enter(to);
+  return true;
+}
+
+void Screen::enter(Control& control) {
+  if (control.on_enter) control.on_enter();
+  focused_ = &control;
   selection_length_ = selection_on_focus_;
   ++focus_serial_;
   on_focused();
-  return true;
+}
+
+void Screen::tab(Key key) {
+  on_tab(key);
+  const bool forward = key == Key::kTab;
+  Control* const before = focused_;
+  const Control* const next = neighbour(before, forward);
+  if (next == nullptr || next == before || !leave_focused(*next)) return;
+  if (focused_ != before || result_) return;
+  // Looked for anew: what was taken just now may ask something of a field, or nothing more.
+  if (Control* const now = neighbour(before, forward); now != before) enter(*now);
 }
 
 bool Screen::leave_focused(const Control& to) {
@@ -283,7 +332,7 @@ bool Screen::leave_focused(const Control& to) {
 // What a field goes through when it is left.
 bool Screen::check(Control& field) {
   const Speaking of(*this, field);
-  const bool typed = (field.kind == Kind::kEdit || field.kind == Kind::kCombo) && !field.read_only;
+  const bool typed = is_typed_into(field) && !field.read_only;
   if (typed && field.enabled && field.unchecked && is_too_long(field.content, field)) {
     services_.messages.error_filled(text::id::kTextTooLong, {text::format_int(field.max_length)});
     return false;
@@ -321,8 +370,7 @@ void Screen::key(Key key) {
       return;
     case Key::kTab:
     case Key::kShiftTab:
-      on_tab(key);
-      if (Control* const next = neighbour(focused_, key == Key::kTab)) move_focus_inside(*next);
+      tab(key);
       return;
     case Key::kUp:
     case Key::kDown:
@@ -492,12 +540,16 @@ Control* Screen::neighbour(const Control* from, bool forward) const {
     at = static_cast<std::size_t>(std::find(controls_.begin(), controls_.end(), from) -
                                   controls_.begin());
   }
+  Control* passed = nullptr;
   for (std::size_t i = 0; i < count; ++i) {
     at = forward ? (at + 1) % count : (at + count - 1) % count;
+    Control* const next = controls_[at];
     // What repeats others is looked at, not gone through.
-    if (controls_[at]->can_focus() && !controls_[at]->repeats) return controls_[at];
+    if (!next->can_focus() || next->repeats) continue;
+    if (!forward || next == from || !(next->passed_over || is_locked(*next))) return next;
+    if (passed == nullptr) passed = next;
   }
-  return nullptr;
+  return passed;
 }
 
 void Screen::relabel() {

@@ -92,6 +92,12 @@ class Screen {
   /// moves; a text that does not fit into both stays whole for the person to see and is refused
   /// when the field is left. Nothing happens to a locked or disabled control.
   void type(Control& control, std::string_view text);
+  /// The same, where the last character was typed by a key or given by an input method at the end
+  /// of the text. When that made a field full whose figures always fill it
+  /// (Control::moves_on_when_full; counted as half-width figures), the focus moves on as Tab moves
+  /// it: a refused field keeps it. It stays before a button other than OK. Front ends tell a correction in the middle of a text, what is
+  /// pasted, dropped or taken back as type().
+  void type_by_key(Control& control, std::string_view text);
   /// Picked a line; an index outside the lines picks none.
   void choose(Control& control, int index);
   void tick(Control& control, bool on);
@@ -181,8 +187,9 @@ class Screen {
   /// the text of the table has a place for it, `argument` is filled in. A check that refuses the
   /// field being left (Control::on_leave) only shows its message: the focus stays by itself.
   bool refuse(Control& control, text::Id message, std::string_view argument = {});
-  /// The control after (or before) this one in tab order that can have the focus, and no text that
-  /// repeats others; the same one when there is no other.
+  /// The control to which Tab (or Tab with Shift) leads from this one: the next in tab order that
+  /// can have the focus and is no text that repeats others; forwards none that is passed over
+  /// (Control::passed_over) or locked. The same one when there is no other.
   [[nodiscard]] Control* neighbour(const Control* from, bool forward) const;
   /// Texts of all choices in the language of the moment; after a language switch call it again.
   void relabel();
@@ -194,10 +201,14 @@ class Screen {
   friend class Control;
   class Handling;
 
+  [[nodiscard]] bool is_full(const Control& control) const;
+  void tab(Key key);
+  void enter(Control& control);
   bool leave_focused(const Control& to);
   bool check(Control& field);
   bool check_skipped_fields();
-  bool type_across_point(Control& control, std::string_view text);
+  Control* type_inside(Control& control, std::string_view text);
+  Control* type_across_point(Control& control, std::string_view text);
   void put_typed(Control& control, std::string_view text);
   void press_inside(Control& button);
   bool move_focus_inside(Control& to);

@@ -21,6 +21,9 @@ struct Services {
   text::Texts& texts;
   ui::Messages& messages;
   text::HelpLauncher& help;
+  /// A full field of fixed width moves on by itself (Control::moves_on_when_full); the officer may
+  /// have switched that off.
+  bool moves_on = true;
 };
 
 }  // namespace ui

@@ -449,4 +449,29 @@ TEST_F(StartUp, AKillAtAnyFileOperationLeavesEverySettingsAndShipFileWhole) {
   }
 }
 
+// For those who dislike it. The program never writes the line, and never takes it away.
+TEST_F(StartUp, LetsAFullFieldMoveOnUnlessTheSettingsSayOff) {
+  struct Row {
+    const char* line;
+    bool moves_on;
+  };
+  for (const Row& row :
+       {Row{"", true}, Row{"MOVEON=OFF\n", false}, Row{"moveon=off\n", false},
+        Row{"MOVEON= Off ;no\n", false}, Row{"MOVEON=ON\n", true}, Row{"MOVEON=\n", true},
+        Row{"MOVEON=OFFICE\n", true}, Row{"MOVEON=NO\n", true}, Row{"MOVEON\n", true}}) {
+    settle();
+    files.add_file(kLive, ini("ENG", "C:\\tlx\\", "C:\\log\\") + row.line);
+    std::optional<bool> told;
+    in_main_window = [&told](ui::Services& services, const mainwindow::MainWindowContext&) {
+      told = services.moves_on;
+    };
+    EXPECT_EQ(program().run(), 0);
+    EXPECT_EQ(told, row.moves_on) << row.line;
+    // A line without "=" gets one, as any other that the program does not know.
+    if (const std::string_view line = row.line; line.find('=') != std::string_view::npos) {
+      EXPECT_NE(files.content(kLive)->find(line), std::string::npos) << *files.content(kLive);
+    }
+  }
+}
+
 }  // namespace

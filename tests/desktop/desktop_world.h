@@ -24,8 +24,10 @@ struct DesktopWorld {
   desktop::DesktopWindows windows{{}};
   fakes::World fake;
   ui::Messages messages{fake.texts, windows};
-  ui::Services services{fake.clock,   fake.locale, fake.drives, fake.no_files, fake.code_page,
-                        fake.printer, windows,     fake.texts,  messages,      fake.help};
+  ui::Services services{fake.clock, fake.locale, fake.drives, fake.no_files, fake.code_page,
+                        fake.printer, windows, fake.texts, messages, fake.help,
+                        // Tests tell each Tab themselves; those of moving on switch it on.
+                        false};
 };
 
 /// A key to whatever has the focus.

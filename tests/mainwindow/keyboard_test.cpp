@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -53,19 +54,27 @@ TEST(MainWindowKeys, TabGoesThroughTheFieldsInTheOrderOfAnObservation) {
     walked.push_back(opened->window.focused()->name);
     opened->window.key(Key::kTab);
   } while (opened->window.focused()->name != "Year" && walked.size() < 200);
+  // What an empty observation on this ship asks nothing of. With Shift every field is reached.
+  const std::set<std::string> passed_by = {"GGExact", "gg",     "loading_state", "freeze",
+                                           "dw2dw2",  "Pw2Pw2", "Hw2Hw2"};
   std::vector<std::string> expected;
+  std::vector<std::string> all;
   for (const mainwindow::FieldRow& row : mainwindow::field_rows()) {
-    if (opened->control(row.name).can_focus()) expected.emplace_back(row.name);
+    if (!opened->control(row.name).can_focus()) continue;
+    all.emplace_back(row.name);
+    if (!passed_by.contains(all.back())) expected.push_back(all.back());
   }
-  for (const mainwindow::ReportGroupRow& row : mainwindow::report_group_rows())
+  for (const mainwindow::ReportGroupRow& row : mainwindow::report_group_rows()) {
     expected.emplace_back(row.name);
+    all.emplace_back(row.name);
+  }
   EXPECT_EQ(expected, walked);
   std::vector<std::string> back;
-  for (std::size_t i = 0; i < walked.size(); ++i) {
+  for (std::size_t i = 0; i < all.size(); ++i) {
     opened->window.key(Key::kShiftTab);
     back.insert(back.begin(), opened->window.focused()->name);
   }
-  EXPECT_EQ(walked, back);
+  EXPECT_EQ(all, back);
 }
 
 TEST(MainWindowKeys, F1InAFieldWithoutADialogSaysSo) {
@@ -127,8 +136,8 @@ TEST(TabFlags, WaitForTheNextTabWhereverTheFocusCameFrom) {
   opened->world.windows.expect_screen("CDvDsDlg",
                                       [](ui::Screen& screen) { screen.press(*screen.find("ok")); });
   opened->press("label_ship_speed");
-  EXPECT_EQ("loading_state", opened->window.focused()->name);
-  EXPECT_TRUE(waiting());  // the field behind a dialog's element
+  EXPECT_EQ("reading", opened->window.focused()->name);  // the loading state is passed by
+  EXPECT_TRUE(waiting());                                // the field behind a dialog's element
 }
 
 TEST(TabFlags, AreSetBeforeTheFieldLeftIsChecked) {

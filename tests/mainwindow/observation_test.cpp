@@ -83,8 +83,13 @@ TEST(Keyboard, EntersACompleteObservation) {
   for (const Step& step : steps) {
     ui::Control* const focused = opened->window.focused();
     ASSERT_NE(nullptr, focused);
-    ASSERT_EQ(step.field, focused->name);
     const std::string_view text = step.text;
+    // Tab passes by what nothing is asked of.
+    if (focused->name != step.field && opened->control(step.field).passed_over) {
+      EXPECT_EQ("", text) << step.field;
+      continue;
+    }
+    ASSERT_EQ(step.field, focused->name);
     if (text.starts_with('#')) {
       opened->window.choose(*focused, text[1] - '0');
     } else if (!text.empty()) {

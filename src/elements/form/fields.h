@@ -178,6 +178,13 @@ struct FieldRow {
   return row_of(field).name;
 }
 
+/// A code of one or two figures, filled with zeros: as soon as so many are typed it is whole. Longer
+/// ones are typed with fewer figures as well ("5" degrees of longitude).
+[[nodiscard]] constexpr bool is_of_fixed_width(const FieldRow& row) {
+  constexpr int kMost = 2;
+  return row.max_length <= kMost && row.editor.width == static_cast<std::size_t>(row.max_length);
+}
+
 /// Its item says "Not observed".
 [[nodiscard]] inline bool is_switched_off(const FieldRow& row, const KeyObservationItems& items) {
   return row.item && !items.observed(*row.item);

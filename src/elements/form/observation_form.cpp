@@ -12,6 +12,7 @@
 #include "elements/form/typed_group.h"
 #include "elements/form/vosclim_fields.h"
 #include "elements/formulas/barometer_correction.h"
+#include "elements/formulas/psychrometer.h"
 #include "text/ids.h"
 #include "text/strings.h"
 
@@ -84,6 +85,39 @@ std::vector<Field> ObservationForm::sent_though_unused() const {
     if (is_unused(row) && says_something) fields.push_back(row.field);
   }
   return fields;
+}
+
+bool ObservationForm::asks_for(Field field) const {
+  static constexpr std::string_view kNoSwell = "00";
+  if (in_error(field)) return true;
+  const auto is_filled = [this](Field other) { return !text(other).empty(); };
+  switch (field) {
+    // One without the other is half a group.
+    case Field::kGGExact:
+    case Field::kgg:
+      return is_filled(Field::kGGExact) || is_filled(Field::kgg);
+    case Field::kPPPP:
+      return in_error(Field::kReading) || !is_filled(Field::kReading) || record().PPPP.empty() ||
+             record().PPPP != now_.pppp_of_reading;
+    case Field::kPw1Pw1:
+    case Field::kHw1Hw1:
+      return is_filled(Field::kPw1Pw1) || is_filled(Field::kHw1Hw1) || record().dw1dw1 != kNoSwell;
+    // As soon as there is a swell, or none was seen ("00"), it says whether there is a second one.
+    case Field::kdw2dw2:
+      return is_filled(field) || is_filled(Field::kdw1dw1) || is_filled(Field::kPw1Pw1) ||
+             is_filled(Field::kHw1Hw1);
+    case Field::kPw2Pw2:
+    case Field::kHw2Hw2:
+      return is_filled(Field::kPw2Pw2) || is_filled(Field::kHw2Hw2) ||
+             (!record().dw2dw2.empty() && record().dw2dw2 != kNoSwell);
+    default:
+      return true;
+  }
+}
+
+bool ObservationForm::asks_for_freeze() const {
+  const auto wet = air_temperature_of(entered(Field::kWetBulb));
+  return now_.wet_bulb == WetBulbState::kIced || (wet && can_be_iced(*wet));
 }
 
 observation::Report ObservationForm::report() const {

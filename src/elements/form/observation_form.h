@@ -71,6 +71,12 @@ class ObservationForm {
   /// Fields that the ship does not use and whose values go out all the same: they came with a record
   /// and are locked. Right for that record; the next observation may be entered over it.
   [[nodiscard]] std::vector<Field> sent_though_unused() const;
+  /// An observation wants something of this field: not of an exact time that nobody gives, of a
+  /// pressure that its reading gave, of a second swell where there is none. What a person has
+  /// entered is there to be looked at, and so is what was refused.
+  [[nodiscard]] bool asks_for(Field field) const;
+  /// The same of the "Freeze" button: the wet bulb can be iced, or is.
+  [[nodiscard]] bool asks_for_freeze() const;
   /// The observation was changed since the last saved(). Ship data and items are no observation:
   /// they count only where a value that was entered gives another one now.
   [[nodiscard]] bool modified() const { return now_.modified; }
