@@ -139,7 +139,8 @@ void Screen::type_by_key(Control& control, std::string_view text) {
   if (!services_.moves_on || !is_full(*typed_into)) return;
   // Enter behind the last figure means OK, and no other button that Tab would come to.
   const Control* const next = neighbour(focused_, true);
-  if (next->kind != Kind::kButton || next->role == Role::kAccept) tab(Key::kTab);
+  if (next != nullptr && (next->kind != Kind::kButton || next->role == Role::kAccept))
+    tab(Key::kTab);
 }
 
 bool Screen::is_full(const Control& control) const {
@@ -313,7 +314,8 @@ void Screen::tab(Key key) {
   if (next == nullptr || next == before || !leave_focused(*next)) return;
   if (focused_ != before || result_) return;
   // Looked for anew: what was taken just now may ask something of a field, or nothing more.
-  if (Control* const now = neighbour(before, forward); now != before) enter(*now);
+  Control* const now = neighbour(before, forward);
+  if (now != nullptr && now != before) enter(*now);
 }
 
 bool Screen::leave_focused(const Control& to) {

@@ -214,8 +214,8 @@ TEST(InputMethods, AreAskedForFiguresByEveryFieldOfThem) {
     screen->open();
     for (const ui::Control* const control : screen->controls()) {
       if (control->kind != ui::Kind::kEdit && control->kind != ui::Kind::kCombo) continue;
-      static const std::set<std::string> kTexts = {"call_sign", "aws_manufacturer",
-                                                   "barometer_check_port", "folder_name"};
+      static const std::set<std::string> kTexts = {
+          "call_sign", "aws_manufacturer", "barometer_check_port", "folder_name", "status_line"};
       EXPECT_EQ(control->figures, !kTexts.contains(control->name))
           << row.class_name << " " << control->name;
     }
