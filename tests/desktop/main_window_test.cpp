@@ -24,6 +24,7 @@ struct MainWindow {
 
   MainWindow() {
     ship.call_sign = "ABCD";
+    world.services.moves_on = false;  // a Tab behind every field
     screen.open();
     window = std::make_unique<desktop::ScreenWindow>(screen, nullptr);
     window->show();
@@ -39,8 +40,7 @@ struct MainWindow {
 
 TEST(MainWindowOnTheDesktop, TakesAnObservationFromTheKeyboard) {
   const auto shown = std::make_unique<MainWindow>();
-  for (const char* const text : {"2014", "11", "15", "12", "35", "20"})
-    MainWindow::type(text);
+  for (const char* const text : {"2014", "11", "15", "12", "35", "20"}) MainWindow::type(text);
   ASSERT_EQ("north_south", shown->screen.focused()->name);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
   MainWindow::type("");
