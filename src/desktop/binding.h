@@ -12,6 +12,7 @@
 
 #include "desktop/clickable_label.h"
 #include "desktop/style.h"
+#include "ui/access_keys.h"
 #include "ui/plan.h"
 
 namespace desktop {
@@ -60,6 +61,12 @@ class Binding : public QObject {
 
   /// Titles of the groups around it; the window knows them.
   std::vector<const ui::Control*> titles;
+  char access_key = '\0';  ///< see ui::access_keys_of
+  /// With its access key.
+  [[nodiscard]] QString caption() const {
+    return QString::fromStdString(ui::with_access_key(screen_.caption(control_), access_key));
+  }
+
   /// The labels beside the widget; the window places them. They stay empty until there is a text.
   ClickableLabel* caption_label = nullptr;
   QLabel* unit_label = nullptr;
@@ -72,9 +79,6 @@ class Binding : public QObject {
   /// font, and `besides` pixels beside the characters.
   void make_room(int besides = 0);
   [[nodiscard]] ui::Screen& screen() const { return screen_; }
-  [[nodiscard]] QString caption() const {
-    return QString::fromStdString(screen_.caption(control_));
-  }
   /// Hands one event to the screen and shows the result.
   template <class Event>
   void tell(Event event) {

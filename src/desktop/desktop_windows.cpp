@@ -18,6 +18,8 @@
 
 #include "desktop/screen_window.h"
 #include "desktop/style.h"
+#include "ui/access_keys.h"
+#include "ui/dump.h"
 
 namespace desktop {
 namespace {
@@ -84,6 +86,15 @@ class Box : public QMessageBox {
  private:
   const QWidget* of_;
 };
+
+// One button alone is pressed by Enter.
+std::vector<char> access_keys_of(const ui::MessageBox& box) {
+  if (box.buttons.size() < 2) return std::vector<char>(box.buttons.size(), '\0');
+  std::vector<std::string> english;
+  for (const ui::BoxButton& button : box.buttons)
+    english.push_back(ui::access_key(button.label) == '\0' ? button.name : button.label);
+  return ui::access_keys(english);
+}
 
 QIcon program_icon() {
   QIcon icon;
@@ -163,8 +174,11 @@ int DesktopWindows::show_message(const ui::MessageBox& box) {
   window.setIcon(icon_of(box.sign));
   // One role for all: the buttons stay in the given order on every platform.
   std::map<QAbstractButton*, int> results;
-  for (const ui::BoxButton& button : box.buttons) {
-    QPushButton* const made = window.addButton(text_of(button.label), QMessageBox::ActionRole);
+  const std::vector<char> keys = access_keys_of(box);
+  for (std::size_t at = 0; at < box.buttons.size(); ++at) {
+    const ui::BoxButton& button = box.buttons[at];
+    QPushButton* const made = window.addButton(text_of(ui::with_access_key(button.label, keys[at])),
+                                               QMessageBox::ActionRole);
     results[made] = button.result;
     if (results.size() == 1) window.setDefaultButton(made);
     if (button.result == box.close_result) window.setEscapeButton(made);

@@ -17,6 +17,7 @@
 
 #include "desktop/flow_layout.h"
 #include "desktop/qt_words.h"
+#include "ui/access_keys.h"
 #include "ui/line_keys.h"
 #include "ui/spoken.h"
 
@@ -74,31 +75,11 @@ bool does_nothing(const QKeyEvent& event) {
          (event.key() == Qt::Key_F10 || event.key() == Qt::Key_F12);
 }
 
-// Goes to the next item that begins with the letter, where no item has it for its access key. False
-// when there is none.
-template <class Menu>
-bool go_to_letter(Menu& menu, const QString& letter) {
-  if (letter.isEmpty()) return false;
-  const QList<QAction*> items = menu.actions();
-  const bool is_access_key = std::ranges::any_of(items, [&letter](const QAction* item) {
-    return item->text().contains(QLatin1Char('&') + letter, Qt::CaseInsensitive);
-  });
-  if (is_access_key) return false;
-  const qsizetype from = items.indexOf(menu.activeAction());
-  for (qsizetype i = 1; i <= items.size(); ++i) {
-    QAction* const item = items[(from + i) % items.size()];
-    if (!item->isEnabled() || !item->text().trimmed().startsWith(letter, Qt::CaseInsensitive))
-      continue;
-    menu.setActiveAction(item);
-    return true;
-  }
-  return false;
-}
-
 // A menu bar does not write the keys behind its titles, so they stand in the tip as well.
-void show_shortcut(QAction& action, std::string_view keys) {
+void show_shortcut(QAction& action, std::string_view label, std::string_view keys) {
   const QString shortcut = QString::fromLatin1(keys.data(), static_cast<qsizetype>(keys.size()));
-  const QString tip = action.text() + QStringLiteral(" (%1)").arg(shortcut);
+  const QString tip = QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size())) +
+                      QStringLiteral(" (%1)").arg(shortcut);
   action.setShortcut(QKeySequence(shortcut, QKeySequence::PortableText));
   action.setToolTip(tip);
   action.setStatusTip(tip);
@@ -153,10 +134,13 @@ void ScreenWindow::build() {
   }
   const ui::Plan plan = ui::plan_of(screen_);
   const ui::Titles titles = ui::titles_of(screen_, plan);
+  const auto keys = ui::access_keys_of(screen_, plan);
   // Texts go in before the layouts are made, which remember the sizes they find.
   for (const auto& binding : bindings_) {
     if (const auto of = titles.find(&binding->control()); of != titles.end())
       binding->titles = of->second;
+    if (const auto of = keys.find(&binding->control()); of != keys.end())
+      binding->access_key = of->second;
     binding->show();
   }
   compact_ = plan.has_menu;
@@ -212,7 +196,7 @@ void ScreenWindow::hand(const std::function<void()>& event) {
 ClickableLabel* ScreenWindow::caption_of(Binding& binding) {
   auto* const label = new ClickableLabel(content_);
   binding.caption_label = label;
-  label->setText(QString::fromStdString(screen_.caption(binding.control())));
+  label->setText(binding.caption());
   // Its access key leads to the field then.
   if (binding.focus_widget() != nullptr) label->setBuddy(binding.focus_widget());
   return label;
@@ -427,9 +411,14 @@ void ScreenWindow::show_controls() {
 }
 
 void ScreenWindow::add_items(QWidget& menu, std::span<const ui::MenuItem> items) {
-  for (const ui::MenuItem& item : items) {
+  std::vector<std::string> english;
+  for (const ui::MenuItem& item : items)
+    english.emplace_back(text::resolve(item.text, text::Language::kEnglish));
+  const std::vector<char> keys = ui::access_keys(english);
+  for (std::size_t at = 0; at < items.size(); ++at) {
+    const ui::MenuItem& item = items[at];
     const std::string_view label = text::resolve(item.text, screen_.language());
-    const QString text = QString::fromUtf8(label.data(), static_cast<qsizetype>(label.size()));
+    const QString text = QString::fromStdString(ui::with_access_key(label, keys[at]));
     if (!item.children.empty()) {
       auto* const below = new QMenu(text, &menu);
       menu.addAction(below->menuAction());
@@ -439,7 +428,7 @@ void ScreenWindow::add_items(QWidget& menu, std::span<const ui::MenuItem> items)
     auto* const action = new QAction(text, &menu);
     action->setEnabled(item.enabled);
     menu.addAction(action);
-    if (!item.shortcut.empty()) show_shortcut(*action, item.shortcut);
+    if (!item.shortcut.empty()) show_shortcut(*action, label, item.shortcut);
     // A copy: the command may make a new menu bar.
     connect(action, &QAction::triggered, this, [this, item] { run_command(item); });
   }
@@ -592,11 +581,7 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   const auto* const widget = qobject_cast<QWidget*>(watched);
   const auto& pressed = *static_cast<QKeyEvent*>(event);
   // A menu that has the keyboard opens, goes on and lets go by keys of its own.
-  if (is_in_menu(widget)) {
-    auto* const menu = qobject_cast<QMenu*>(watched);
-    const QString letter = character_of(pressed);
-    return menu != nullptr ? go_to_letter(*menu, letter) : go_to_letter(*menu_bar_, letter);
-  }
+  if (is_in_menu(widget)) return false;
   // A message or the help beside this window has keys of its own.
   if (widget == nullptr || widget->window() != this) return QDialog::eventFilter(watched, event);
   if (!screen_.menu().empty() && does_nothing(pressed)) return true;

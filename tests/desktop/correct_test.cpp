@@ -70,7 +70,7 @@ void open_the_list() {
   auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   ASSERT_NE(menu, nullptr);
   if (menu->activeAction() == nullptr) key(Qt::Key_Down);
-  ASSERT_EQ(menu->activeAction()->text().toStdString(), "Correct weather reports");
+  ASSERT_EQ(tests::plain_text(*menu->activeAction()), "Correct weather reports");
   key(Qt::Key_Return);
 }
 

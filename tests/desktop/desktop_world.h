@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QMessageBox>
 #include <QTest>
@@ -17,6 +18,7 @@
 #include "desktop/desktop_windows.h"
 #include "desktop/screen_window.h"
 #include "fakes/fake_ports.h"
+#include "ui/dump.h"
 
 namespace tests {
 
@@ -47,6 +49,11 @@ inline void show(desktop::ScreenWindow& window) {
 inline void type(std::string_view text) {
   for (const char c : text) QTest::keyClick(QApplication::focusWidget(), c);
   QApplication::processEvents();
+}
+
+/// The text of a menu or its item without its access key.
+inline std::string plain_text(const QAction& action) {
+  return ui::without_access_key(action.text().toStdString());
 }
 
 /// Acts, and answers every box that comes with Escape; the texts of the boxes.

@@ -131,12 +131,12 @@ void run_command(Ship& on, const char* command,
     auto* const bar = window.findChild<QMenuBar*>();
     ASSERT_NE(bar, nullptr);
     for (int i = 0; i < bar->actions().size(); ++i) {
-      if (bar->activeAction() != nullptr && bar->activeAction()->text().toStdString() == command)
+      if (bar->activeAction() != nullptr && tests::plain_text(*bar->activeAction()) == command)
         break;
       press(Qt::Key_Right);
     }
     ASSERT_NE(bar->activeAction(), nullptr);
-    ASSERT_EQ(bar->activeAction()->text().toStdString(), command);
+    ASSERT_EQ(tests::plain_text(*bar->activeAction()), command);
     press(Qt::Key_Return);
     window.done(0);
   };
