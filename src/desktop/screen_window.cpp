@@ -61,12 +61,14 @@ std::optional<ui::Key> key_in(std::span<const KeyRow> rows, const QKeyEvent& eve
   return at == rows.end() ? std::nullopt : std::optional(at->told);
 }
 
+bool is_written(const QKeyEvent& event) {
+  return !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 // What the key writes, empty for keys that write nothing. Space is not among it: it presses.
 QString character_of(const QKeyEvent& event) {
   if ((event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != Qt::NoModifier) return {};
-  const QString text = event.text();
-  const bool writes = !text.isEmpty() && text.front().isPrint() && !text.front().isSpace();
-  return writes ? text : QString();
+  return is_written(event) && !event.text().front().isSpace() ? event.text() : QString();
 }
 
 // Keys that a window with a menu keeps from its fields, where they would open the field's own menu.
@@ -484,7 +486,8 @@ void ScreenWindow::apply_focus() {
 
 // With its title or caption, which is above or to the left.
 void ScreenWindow::bring_into_view(const Binding& target) const {
-  if (!content_->isAncestorOf(target.widget())) return;
+  // Before it is shown its layouts do not have their heights.
+  if (!isVisible() || !content_->isAncestorOf(target.widget())) return;
   constexpr int kRight = 40;
   const QWidget& widget = *target.widget();
   const QRect place(widget.mapTo(content_, QPoint(0, 0)), widget.size());
@@ -587,6 +590,8 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   if (!screen_.menu().empty() && does_nothing(pressed)) return true;
   if (press_shortcut(pressed)) return true;
   if (choose_line(*widget, pressed)) return true;
+  // A slip on Alt must not overwrite what the field holds: no menu and no control has the letter.
+  if (pressed.modifiers() == Qt::AltModifier && is_written(pressed)) return true;
   const auto key = key_in(kWindowKeys, pressed);
   if (!key) return QDialog::eventFilter(watched, event);
   settle_focus();
@@ -605,6 +610,18 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
   // The screen says whether it closes; refresh() then does it.
   event->ignore();
   hand([this] { screen_.close_box(); });
+}
+
+void ScreenWindow::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        const ui::Control* const focused = screen_.focused();
+        if (const Binding* const target = focused == nullptr ? nullptr : binding(*focused))
+          bring_into_view(*target);
+      },
+      Qt::QueuedConnection);
 }
 
 void ScreenWindow::reject() {

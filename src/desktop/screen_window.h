@@ -46,6 +46,7 @@ class ScreenWindow : public QDialog {
   bool eventFilter(QObject* watched, QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   /// Escape reaches the screen as a key; a window never closes behind its back.
   void reject() override;
 

@@ -148,8 +148,9 @@ bool CVelmaranDlg::open_element(int element, const ui::Control* last) {
 // stays in the field; once the officer knows that, F1 only opens the dialog.
 void CVelmaranDlg::on_f1(ui::Control* focused) {
   const Field* const field = field_of(focused);
+  std::optional<Speaking> of;
+  if (focused != nullptr) of.emplace(*this, *focused);
   if (const text::Id why = field == nullptr ? text::Id() : why_locked(*field->row); why) {
-    const Speaking of(*this, *focused);
     services().messages.error(why);
     return;
   }
@@ -405,6 +406,11 @@ void CVelmaranDlg::lead_to(const std::vector<SaveError>& errors) {
 
 bool CVelmaranDlg::save() {
   if (!settle_focused()) return false;
+  std::optional<Speaking> of;
+  if (!mainwindow::has_date(form_.record())) {
+    lead_to({{{}, {"Year", "Month", "YY", "GG"}}});
+    of.emplace(*this, *focused());
+  }
   const mainwindow::SaveEnd end = mainwindow::save_observation(
       services(), {form_.record(), context_.ship, context_.items, context_.folders, save_remarks(),
                    [this] { keeper_.drop(draft()); },

@@ -48,6 +48,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   [[nodiscard]] bool exiting() const { return exiting_; }
   /// The form has entries that no save has written, also one that is still being typed.
   [[nodiscard]] bool unsaved() const { return form_.modified() || typing_; }
+  [[nodiscard]] bool is_written() const;
   /// Which way Tab left the field.
   [[nodiscard]] const mainwindow::TabFlags& tab_flags() const { return tab_flags_; }
 

@@ -9,15 +9,16 @@
 #include "mainwindow/status_line.h"
 #include "observation/report_file.h"
 #include "text/ids.h"
+#include "text/numbers.h"
 
 namespace {
 
 namespace id = text::id;
 using elements::Field;
 
-// What the next observation takes over: a ship goes on as she went, until her officer says
-// otherwise. The heading goes with the wind that was read on it.
-constexpr Field kStays[] = {Field::kDs, Field::kVs, Field::kCourse, Field::kShipSpeed};
+// What the next observation takes over: a ship keeps her course until her officer says otherwise.
+// Her speed and heading are read anew, for the true wind is made of them.
+constexpr Field kStays[] = {Field::kDs, Field::kCourse};
 
 }  // namespace
 
@@ -31,6 +32,11 @@ void CVelmaranDlg::add_commands() {
   }
 }
 
+// A file holds what the form does.
+bool CVelmaranDlg::is_written() const {
+  return !unsaved() && (saved_once_ || correcting());
+}
+
 // As it would be sent now; what is not saved yet says so, for a sheet outlives the window.
 void CVelmaranDlg::print_report() {
   const text::Texts& texts = services().texts;
@@ -39,7 +45,7 @@ void CVelmaranDlg::print_report() {
                                : std::string(texts.get(id::kPrintedNoDate));
   std::vector<std::string> lines = archive::lines_of(archive::single_report_text(
       name, observation::report_file_content(report()), services().clock.local()));
-  if (unsaved() || (!saved_once_ && !correcting())) {
+  if (!is_written()) {
     lines.emplace_back();
     lines.emplace_back(texts.get(id::kPrintedNotSaved));
   }
@@ -50,7 +56,16 @@ void CVelmaranDlg::print_report() {
 
 void CVelmaranDlg::copy_report() {
   services().windows.copy_text(observation::report_file_content(report()));
-  tell_in_status_line(std::string(services().texts.get(id::kReportTextCopied)));
+  const text::Texts& texts = services().texts;
+  std::string told(texts.get(id::kReportTextCopied));
+  if (!is_written()) told.append(" ").append(texts.get(id::kPrintedNotSaved));
+  const auto lacking = std::count_if(groups_.begin(), groups_.end(), [](const ReportGroup& group) {
+    return group.control->mark == ui::kMissingMark;
+  });
+  if (lacking > 0)
+    told.append(" ").append(
+        text::fill(texts.get(id::kGroupsLacking), {text::format_int(static_cast<int>(lacking))}));
+  tell_in_status_line(std::move(told));
 }
 
 // As a start would find it, but for what goes on as it was.
@@ -77,8 +92,11 @@ void CVelmaranDlg::new_watch() {
   keeper_.drop({});
   find_last_positions();
   refresh();
+  // The names of the files, where the last observation was saved just now.
+  std::string told = std::move(news_);
   focus(*fields_.front().control);
   tab_flags_.arm();
+  if (!told.empty()) tell_in_status_line(std::move(told));
 }
 
 void CVelmaranDlg::keep_place(const ui::WindowPlace& place) {

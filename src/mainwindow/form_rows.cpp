@@ -64,9 +64,11 @@ constexpr ChoiceRow kChoices[] = {
 std::vector<FieldRow> with_choices() {
   std::vector<FieldRow> rows;
   for (const elements::FieldRow& field : elements::field_rows()) {
-    rows.push_back({field.name, field.label, field.element, FieldKind::kEdit, &field});
+    rows.push_back({field.name, field.label, field.element, FieldKind::kEdit, &field, field.field});
     for (const ChoiceRow& choice : kChoices) {
-      if (choice.behind == field.field) rows.push_back(choice.row);
+      if (choice.behind != field.field) continue;
+      rows.push_back(choice.row);
+      rows.back().place = choice.behind;
     }
   }
   return rows;

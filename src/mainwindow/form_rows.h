@@ -47,6 +47,7 @@ struct FieldRow {
   Element element = kNoElement;
   FieldKind kind = FieldKind::kEdit;
   const elements::FieldRow* field = nullptr;  ///< of an edit
+  elements::Field place = {};                 ///< itself; of a choice the field before it
 };
 /// In tab order.
 [[nodiscard]] std::span<const FieldRow> field_rows();

@@ -48,11 +48,6 @@ std::optional<SaveEnd> ask_about(ui::Services& services, const Saving& saving,
   return SaveEnd::kCorrect;
 }
 
-bool has_date(const Saving& saving) {
-  return observation::report_file_name(saving.record) != observation::kReportExtension &&
-         observation::has_valid_date(saving.record);
-}
-
 SaveEnd end_with(ui::Services& services, text::Id message, SaveEnd end) {
   services.messages.error(message);
   return end;
@@ -156,6 +151,11 @@ void tell_failure(ui::Services& services, const std::string& path, platform::Fil
 
 }  // namespace
 
+bool has_date(const Struct_Weather& record) {
+  return observation::report_file_name(record) != observation::kReportExtension &&
+         observation::has_valid_date(record);
+}
+
 std::vector<SaveError> save_errors(const Saving& saving, const text::Texts& texts) {
   std::vector<SaveError> errors = errors_of(saving.record, saving.ship, texts);
   errors.insert(errors.end(), saving.remarks.begin(), saving.remarks.end());
@@ -169,7 +169,7 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
     services.messages.error_filled(id::kControlCharacter, {*field});
     return SaveEnd::kNotSaved;
   }
-  if (!has_date(saving)) return end_with(services, id::kNoDateEntered, SaveEnd::kNotSaved);
+  if (!has_date(saving.record)) return end_with(services, id::kNoDateEntered, SaveEnd::kNotSaved);
   if (const auto errors = save_errors(saving, services.texts); !errors.empty()) {
     if (const auto end = ask_about(services, saving, errors)) return *end;
   }
@@ -195,7 +195,7 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
 }
 
 bool is_saved(ui::Services& services, const Saving& saving) {
-  if (!has_date(saving) || saving.folders.reports.empty() || saving.folders.logbook.empty())
+  if (!has_date(saving.record) || saving.folders.reports.empty() || saving.folders.logbook.empty())
     return false;
   return observation::is_saved(services.files, request_of(saving, report_of(saving).text));
 }

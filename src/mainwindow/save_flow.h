@@ -41,6 +41,9 @@ struct Saving {
   std::function<void(const std::vector<SaveError>& errors)> correct = {};
 };
 
+/// The observation has a date and an hour that there are: without them nothing is saved.
+[[nodiscard]] bool has_date(const Struct_Weather& record);
+
 /// What is missing and wrong, each text in one line, in the language of the moment; empty when the
 /// observation is complete and sound.
 [[nodiscard]] std::vector<SaveError> save_errors(const Saving& saving, const text::Texts& texts);

@@ -47,16 +47,16 @@ std::string typed_words(const StatusOf& of, elements::Field field, std::string_v
   return value_words(of, field, checked.value, tried.record);
 }
 
-// The label over the field, whose dialog F1 opens: of those of its element the last one that does not
-// stand behind it.
+// The label over the field, whose dialog F1 opens: of those of its element the one that stands
+// nearest before it.
 std::string_view element_label(const StatusOf& of, const FieldRow& row) {
-  text::Id found;
+  const LabelRow* found = nullptr;
   for (const LabelRow& label : label_rows()) {
-    const bool is_its = row.element != kNoElement && label.element() == row.element;
-    const bool is_before = row.field == nullptr || label.of <= row.field->field;
-    if (is_its && (!found || is_before)) found = label.label;
+    if (row.element == kNoElement || label.element() != row.element) continue;
+    const bool nearer = found != nullptr && label.of <= row.place && label.of > found->of;
+    if (found == nullptr || nearer) found = &label;
   }
-  return of.texts.get(elements::label_ref(found));
+  return of.texts.get(elements::label_ref(found == nullptr ? text::Id() : found->label));
 }
 
 }  // namespace

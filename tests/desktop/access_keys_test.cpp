@@ -58,6 +58,38 @@ TEST_P(AltAndALetter, LeadsToEveryFieldWithACaptionAndStandsOnEveryButton) {
   EXPECT_GT(buttons, 20);
 }
 
+// A slip on Alt over a field whose text is selected: the entry is not overwritten.
+TEST(AltWithALetterThatNothingHas, WritesNothing) {
+  for (const fakes::ScreenCase& row : fakes::all_screens()) {
+    tests::DesktopWorld world;
+    const auto screen = row.make(world.services);
+    screen->open();
+    if (screen->result()) continue;
+    desktop::ScreenWindow window(*screen, nullptr);
+    tests::show(window);
+    std::string taken = "FSDOVLH";  // the titles of a menu
+    for (const auto& [control, key] : ui::access_keys_of(*screen, ui::plan_of(*screen)))
+      taken.push_back(key);
+    char letter = 'A';
+    while (taken.find(letter) != std::string::npos) ++letter;
+    if (letter > 'Z') continue;
+    for (ui::Control* const control : screen->controls()) {
+      const bool typed = control->kind == ui::Kind::kEdit || control->kind == ui::Kind::kCombo;
+      if (!typed || !control->can_focus()) continue;
+      bool there = false;
+      tests::messages_of([&] { window.hand([&] { there = screen->move_focus(*control); }); });
+      if (!there) continue;
+      const std::string before = control->content;
+      const QString lower(QLatin1Char(static_cast<char>(letter - 'A' + 'a')));
+      QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(),
+                          static_cast<Qt::Key>(Qt::Key_A + (letter - 'A')), lower, Qt::AltModifier);
+      QApplication::processEvents();
+      EXPECT_EQ(control->content, before) << row.class_name << " " << control->name;
+      EXPECT_EQ(window.binding(*control)->shown().content.toStdString(), before);
+    }
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, AltAndALetter, testing::Bool(),
                          [](const testing::TestParamInfo<bool>& japanese) {
                            return japanese.param ? "ja" : "en";

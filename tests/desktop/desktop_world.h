@@ -32,9 +32,15 @@ struct DesktopWorld {
                         false};
 };
 
+/// What has the focus; a real display gives it a moment after it was asked to.
+inline QWidget* focused_widget() {
+  static_cast<void>(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }, 1000));
+  return QApplication::focusWidget();
+}
+
 /// A key to whatever has the focus.
 inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-  QWidget* const focus = QApplication::focusWidget();
+  QWidget* const focus = focused_widget();
   QTest::keyClick(focus != nullptr ? focus : QApplication::activeWindow(), key, modifiers);
   QApplication::processEvents();
 }
@@ -47,7 +53,7 @@ inline void show(desktop::ScreenWindow& window) {
 
 /// Keys of ASCII characters to whatever has the focus.
 inline void type(std::string_view text) {
-  for (const char c : text) QTest::keyClick(QApplication::focusWidget(), c);
+  for (const char c : text) QTest::keyClick(focused_widget(), c);
   QApplication::processEvents();
 }
 

@@ -247,6 +247,7 @@ TEST(HelpKeys, LeaveTheFieldUsableBesideIt) {
   asking.modal.activateWindow();
   QApplication::processEvents();
   asking.field->setFocus();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == asking.field; }));
   tests::type("27");
   EXPECT_EQ(asking.field->text().toStdString(), "27");
 }

@@ -107,8 +107,9 @@ TEST(MainWindowPlace, OfALargerDisplayIsMadeToFit) {
   const Started moved(half);
   const QRect place = moved.window->geometry();
   constexpr int kFrame = 4;
-  EXPECT_TRUE(room.adjusted(-kFrame, -kFrame, kFrame, kFrame).contains(place)) << half << ": " << place.left() << " " << place.top() << " "
-                                    << place.width() << " " << place.height();
+  EXPECT_TRUE(room.adjusted(-kFrame, -kFrame, kFrame, kFrame).contains(place))
+      << half << ": " << place.left() << " " << place.top() << " " << place.width() << " "
+      << place.height();
 }
 
 // ---- Keys

@@ -104,6 +104,25 @@ TEST(MessagePlace, IsBesideTheFieldThatACommandRefuses) {
 }
 
 // Left by Tab, and by Enter, which is OK. A field that was never left is judged by OK alone.
+// The focus leads to what is missing, and the message stands beside it.
+TEST(MessagePlace, IsBesideTheDateThatASaveLacks) {
+  Form form;
+  form.window->hand([&] { form.screen->move_focus(*form.screen->find("VV")); });
+  form.window->hand([&] { form.screen->type(*form.screen->find("VV"), "97"); });
+  const auto boxes = boxes_of([] { tests::press(Qt::Key_S, Qt::ControlModifier); });
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(form.screen->focused()->name, "Year");
+  expect_beside(boxes.front(), *form.window->binding("Year")->widget(), "Year");
+}
+
+TEST(MessagePlace, IsBesideTheGroupThatF1IsPressedIn) {
+  Form form;
+  form.window->hand([&] { form.screen->move_focus(*form.screen->find("group_Nddff")); });
+  const auto boxes = boxes_of([] { tests::press(Qt::Key_F1); });
+  ASSERT_EQ(boxes.size(), 1U);
+  expect_beside(boxes.front(), *form.window->binding("group_Nddff")->widget(), "group_Nddff");
+}
+
 TEST(MessagePlace, IsBesideTheFieldOfADialogInEachCornerOfTheDisplay) {
   tests::Shown<CLookWindDlg> shown{elements::ApparentWindTexts{}};
   const QRect display = shown.window->screen()->availableGeometry();

@@ -208,10 +208,10 @@ TEST(ScreenWindow, DisabledAndHiddenControlsShowSo) {
 
 TEST(ScreenWindow, CaptionsAreRelabelledWithTheLanguageAndNamedForScreenReaders) {
   Shown s;
-  EXPECT_EQ(s.window->binding("first")->caption_label->text(), "No value input");
+  EXPECT_EQ(s.window->binding("first")->caption_label->text(), "&No value input");
   s.world.japanese();
   s.window->refresh();
-  EXPECT_EQ(s.window->binding("first")->caption_label->text(), "未入力です");
+  EXPECT_EQ(s.window->binding("first")->caption_label->text(), "未入力です(&N)");
   EXPECT_EQ(s.widget<QLineEdit>("first")->accessibleName(), "未入力です");
 }
 

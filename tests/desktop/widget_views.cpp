@@ -73,7 +73,9 @@ std::vector<ui::ControlView> widget_views(const desktop::ScreenWindow& window) {
     view.name = control.name;
     view.kind = control.kind;
     const std::string caption = ui::without_access_key(window.shown_screen().caption(control));
-    view.caption = caption_on(*binding, text::replace_all(caption, "\r\n", "\n"));
+    // The window may have given it a letter; tests of their own see to these.
+    view.caption =
+        ui::without_access_key(caption_on(*binding, text::replace_all(caption, "\r\n", "\n")));
     if (binding->unit_label != nullptr) view.unit = binding->unit_label->text().toStdString();
     view.text = text_on(*binding, view);
     if (const auto* const picture = qobject_cast<desktop::PictureLabel*>(binding->widget());
@@ -110,15 +112,14 @@ std::vector<ui::ControlView> control_views(const ui::Screen& screen) {
     const ui::Control& control = *screen.controls()[i];
     view.max_length = 0;
     view.repeats = false;  // no widget shows it
-    if (view.kind != ui::Kind::kButton && view.kind != ui::Kind::kTick &&
-        view.kind != ui::Kind::kLabel) {
-      view.caption = ui::without_access_key(view.caption);
-    }
+    view.caption = ui::without_access_key(view.caption);
     if (control.kind == ui::Kind::kReadOnly) view.locked = false;
     if (control.kind == ui::Kind::kTree) {
       view.lines.clear();
       for (const ui::TreeRow& row : control.rows) view.lines.push_back(row.text);
     }
+    const bool is_caption = view.kind == ui::Kind::kButton || view.kind == ui::Kind::kLabel;
+    if (is_caption) view.text = ui::without_access_key(view.text);
     view.text = text::replace_all(view.text, "\r\n", "\n");
     view.caption = text::replace_all(view.caption, "\r\n", "\n");
   }

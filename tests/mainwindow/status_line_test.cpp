@@ -158,6 +158,13 @@ TEST_F(StatusLine, SaysWhatStandsInTheField) {
 TEST_F(StatusLine, NamesTheDialogThatF1Opens) {
   EXPECT_TRUE(at("LaMin").ends_with(" | F1: Latitude")) << line();
   EXPECT_TRUE(at("LoDeg").ends_with(" | F1: Longitude")) << line();
+  // Those of one element are told apart, also where no field of its own says which it is.
+  EXPECT_TRUE(at("north_south").ends_with("F1: Latitude")) << line();
+  EXPECT_TRUE(at("east_west").ends_with("F1: Longitude")) << line();
+  EXPECT_TRUE(at("HwHw").ends_with(" | F1: Wind wave")) << line();
+  EXPECT_TRUE(at("dw1dw1").ends_with(" | F1: Swell 1")) << line();
+  EXPECT_TRUE(at("Hw1Hw1").ends_with(" | F1: Swell 1")) << line();
+  EXPECT_TRUE(at("Pw2Pw2").ends_with(" | F1: Swell 2")) << line();
   EXPECT_TRUE(at("GGExact").ends_with(" | F1: Air pressure")) << line();
   EXPECT_TRUE(at("W2").ends_with(" | F1: Past weather")) << line();
   EXPECT_EQ(at("freeze"), "F1: Temp by dry and wet bulb");
