@@ -109,8 +109,8 @@ std::map<const Control*, char> access_keys_of(const Screen& screen, const Plan& 
   collect(screen, plan.body, wanting);
   collect(screen, plan.foot, wanting);
   // Buttons first: a field is reached by Tab as well.
-  std::ranges::stable_partition(
-      wanting, [](const Control* control) { return control->kind == Kind::kButton; });
+  std::stable_partition(wanting.begin(), wanting.end(),
+                        [](const Control* control) { return control->kind == Kind::kButton; });
   std::vector<std::string> english;
   for (const Control* const control : wanting) english.push_back(screen.english_caption(*control));
   const std::vector<char> letters = access_keys(english);
