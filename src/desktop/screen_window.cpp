@@ -141,8 +141,10 @@ void ScreenWindow::build() {
   for (const auto& binding : bindings_) {
     if (const auto of = titles.find(&binding->control()); of != titles.end())
       binding->titles = of->second;
-    if (const auto of = keys.find(&binding->control()); of != keys.end())
+    if (const auto of = keys.find(&binding->control()); of != keys.end()) {
       binding->access_key = of->second;
+      if (binding->control().kind == ui::Kind::kTick) paint_as_measured(*binding->widget());
+    }
     binding->show();
   }
   compact_ = plan.has_menu;
@@ -198,6 +200,7 @@ void ScreenWindow::hand(const std::function<void()>& event) {
 ClickableLabel* ScreenWindow::caption_of(Binding& binding) {
   auto* const label = new ClickableLabel(content_);
   binding.caption_label = label;
+  if (binding.access_key != '\0') paint_as_measured(*label);
   label->setText(binding.caption());
   // Its access key leads to the field then.
   if (binding.focus_widget() != nullptr) label->setBuddy(binding.focus_widget());

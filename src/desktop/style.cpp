@@ -219,6 +219,12 @@ QColor wrong_frame() {
   return QLatin1String(colours_for(QApplication::palette()).wrong_frame);
 }
 
+void paint_as_measured(QWidget& widget) {
+  QFont font;  // says nothing else, so it follows the window's
+  font.setKerning(false);
+  widget.setFont(font);
+}
+
 void show_titles_reached(QMenuBar& bar) {
   bar.setStyleSheet(
       QStringLiteral("QMenuBar::item:selected { background: palette(highlight); color: "

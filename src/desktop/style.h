@@ -28,6 +28,10 @@ void dress(QWidget& widget, Dress as);
 /// The colour of the frame around a refused entry.
 [[nodiscard]] QColor wrong_frame();
 
+/// A text with an underlined letter is painted in pieces, without the kerning between them that it was
+/// measured with, and its end would be cut off: it gets none.
+void paint_as_measured(QWidget& widget);
+
 /// Menu titles that the keyboard is on are shown like those whose menu is open: without a menu
 /// open, some styles show them like all others.
 void show_titles_reached(QMenuBar& bar);
