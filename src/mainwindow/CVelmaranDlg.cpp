@@ -265,13 +265,16 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
   }
 }
 
+bool CVelmaranDlg::may_leave_observation() {
+  if (!unsaved()) return true;
+  const int answer =
+      services().messages.question(id::kAskSaveBeforeCorrecting, ui::QuestionMode::kYesNoCancel,
+                                   services().texts.get(id::kExitQuestionTitle));
+  return answer == ui::kNo || (answer == ui::kOk && save());
+}
+
 void CVelmaranDlg::correct_reports() {
-  if (unsaved()) {
-    const int answer =
-        services().messages.question(id::kAskSaveBeforeCorrecting, ui::QuestionMode::kYesNoCancel,
-                                     services().texts.get(id::kExitQuestionTitle));
-    if (answer == ui::kCancel || (answer == ui::kOk && !save())) return;
-  }
+  if (!may_leave_observation()) return;
   CQFModifyDlg dialog(services(), context_.folders.reports);
   if (services().windows.run_modal(dialog) == ui::kOk) correct(dialog.chosen());
 }

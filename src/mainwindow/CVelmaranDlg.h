@@ -149,6 +149,9 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   [[nodiscard]] ui::Control* control_of(std::string_view name) const;
 
   // Commands.
+  /// Asks about what is not saved before another observation comes into the form; false when it is
+  /// to stay.
+  bool may_leave_observation();
   void correct_reports();
   /// Brings the report of the file into the form; nothing changes when there is none in it.
   void correct(const std::string& path);

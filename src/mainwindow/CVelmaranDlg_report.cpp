@@ -70,12 +70,8 @@ void CVelmaranDlg::copy_report() {
 
 // As a start would find it, but for what goes on as it was.
 void CVelmaranDlg::new_watch() {
-  if (unsaved()) {
-    const int answer =
-        services().messages.question(id::kAskSaveBeforeCorrecting, ui::QuestionMode::kYesNoCancel,
-                                     services().texts.get(id::kExitQuestionTitle));
-    if (answer == ui::kCancel || (answer == ui::kOk && !save())) return;
-  }
+  news_.clear();
+  if (!may_leave_observation()) return;
   elements::ObservationForm next(context_.ship, context_.items, services().clock);
   const elements::Entries& last = form_.entries();
   next.choose_hemispheres(last.north_south, last.east_west);

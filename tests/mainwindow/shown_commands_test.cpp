@@ -219,6 +219,17 @@ TEST(NewWatch, KeepsTheCourseOfAShipThatEntersTheApparentWind) {
     EXPECT_EQ(opened->shown(name), "") << name;
 }
 
+// What was told of the report that was given up is not said of the next one.
+TEST(NewWatch, SaysNothingOfACopyOfTheLastReport) {
+  const auto opened = std::make_unique<Opened>();
+  opened->type("VV", "97");
+  press_keys(*opened, "Ctrl+Shift+C");
+  ASSERT_NE(opened->shown("status_line").find("copied"), std::string::npos);
+  opened->world.windows.expect(id::kAskSaveBeforeCorrecting, "no");
+  press_keys(*opened, "Ctrl+N");
+  EXPECT_EQ(opened->shown("status_line").find("copied"), std::string::npos);
+}
+
 TEST(NewWatch, AsksWhenSomethingIsUnsaved) {
   for (const std::string answer : {"cancel", "close"}) {
     const auto opened = std::make_unique<Opened>();
