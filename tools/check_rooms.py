@@ -20,22 +20,29 @@ DATA = {
     "observation": {"text", "platform", "codetables/tables", "ship/data"},
     "map/tiles": {"text", "platform"},
     "elements/form": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation"},
+    "explain/plain": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation"},
+    "explain/doubts": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation", "map/tiles"},
+    "explain/log": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation", "explain/doubts"},
 }
 ALL_DATA = set(DATA)
+# Dialogs of elements and of the ship do not look at whole observations.
+ELEMENT_DATA = ALL_DATA - {"elements/form", "map/tiles", "explain/plain", "explain/doubts", "explain/log"}
 KNOWS = DATA | {
     "ui": {"text", "platform"},
-    "ship": {"ui"} | ALL_DATA - {"elements/form", "observation", "map/tiles"},
-    "elements": {"ui"} | ALL_DATA - {"elements/form", "map/tiles"},
-    "codetables": {"ui"} | ALL_DATA - {"elements/form", "map/tiles"},
+    "ship": {"ui"} | ELEMENT_DATA - {"observation"},
+    "elements": {"ui"} | ELEMENT_DATA,
+    "codetables": {"ui"} | ELEMENT_DATA,
     "map": {"text", "platform", "ui", "map/tiles"},
     "archive": {"text", "platform", "ui", "observation", "codetables/tables"},
     "media": {"text", "platform", "ui", "archive"},
-    "mainwindow": {"ui", "ship", "elements", "codetables", "archive", "media", "map"} | ALL_DATA,
+    "explain": {"ui", "archive"} | ALL_DATA,
+    "mainwindow": {"ui", "explain", "ship", "elements", "codetables", "archive", "media", "map"} | ALL_DATA,
     "app": {"ui", "ship", "archive", "media", "mainwindow", "map/tiles", "text", "platform", "observation", "ship/data"},
     "headless": {"text", "platform", "ui", "app", "observation", "ship/data"},
     "platform/posix": {"platform", "text"},
     "desktop": {"text", "platform", "ui", "app", "platform/posix"},
-    "cli": {"text", "platform", "platform/posix", "observation", "ship/data", "ui", "app", "headless"},
+    "cli": {"text", "platform", "platform/posix", "observation", "ship/data", "ui", "app", "headless",
+            "codetables/tables", "explain/plain", "explain/doubts", "explain/log"},
 }
 
 STANDARD = set("""algorithm array atomic bit bitset cassert cctype cerrno charconv chrono cmath compare concepts cstddef

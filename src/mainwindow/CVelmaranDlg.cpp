@@ -257,6 +257,12 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kPreviousPart:
       go_to_part(kParts - 1);
       break;
+    case Command::kPlainWords:
+      break;
+    case Command::kCurves:
+      break;
+    case Command::kLog:
+      break;
     case Command::kVersion: {
       mainwindow::CAboutDlg about(services());
       services().windows.run_modal(about);

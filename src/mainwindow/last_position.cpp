@@ -7,22 +7,11 @@
 #include "archive/CFindFile.h"
 #include "observation/report_file.h"
 #include "observation/report_reader.h"
-#include "platform/calendar.h"
-#include "text/numbers.h"
 
 namespace mainwindow {
 namespace {
 
 constexpr int kHoursOfDay = 24;
-
-// Since the beginning of 2000; nothing for the name of no report.
-std::optional<int> hour_of(std::string_view path) {
-  const auto date = observation::report_date(path);
-  if (!date) return std::nullopt;
-  const int day = platform::day_number(
-      text::leading_int(date->year), text::leading_int(date->month), text::leading_int(date->day));
-  return day * kHoursOfDay + text::leading_int(date->hour);
-}
 
 }  // namespace
 
@@ -31,10 +20,10 @@ std::vector<SavedPosition> last_saved_positions(platform::Files& files, const st
   if (folder.empty()) return {};
   std::vector<std::string> found;
   CFindFile(files).find(folder, observation::kReportExtension, found);
-  const auto end = hour_of(before);
+  const auto end = observation::report_hour(before);
   std::vector<std::pair<int, std::string>> dated;
   for (const std::string& path : found) {
-    const auto hour = hour_of(path);
+    const auto hour = observation::report_hour(path);
     if (hour && (!end || *hour < *end)) dated.emplace_back(*hour, path);
   }
   std::sort(dated.rbegin(), dated.rend());
@@ -55,7 +44,7 @@ std::vector<TenthsPosition> track_of(const std::vector<SavedPosition>& saved,
   constexpr int kLongestAgo = 2 * kHoursOfDay;
   std::vector<TenthsPosition> track;
   if (saved.empty()) return track;
-  const int now = hour_of(observation).value_or(saved.front().hour);
+  const int now = observation::report_hour(observation).value_or(saved.front().hour);
   for (const SavedPosition& position : saved) {
     if (position.hour < now - kLongestAgo) break;
     track.push_back(position.at);

@@ -40,6 +40,9 @@ enum class Command {
   kCopyText,
   kNextPart,
   kPreviousPart,
+  kPlainWords,
+  kCurves,
+  kLog,
 };
 
 /// One line of the menus. Children follow their parent one depth further in.

@@ -447,6 +447,19 @@ std::optional<ReportDate> report_date(std::string_view name) {
                     std::string(name.substr(4, 2)), std::string(name.substr(6, 2))};
 }
 
+int hours_since_2000(const ReportDate& date) {
+  constexpr int kHoursOfDay = 24;
+  const int day = platform::day_number(text::leading_int(date.year), text::leading_int(date.month),
+                                       text::leading_int(date.day));
+  return day * kHoursOfDay + text::leading_int(date.hour);
+}
+
+std::optional<int> report_hour(std::string_view name) {
+  const auto date = report_date(name);
+  if (!date) return std::nullopt;
+  return hours_since_2000(*date);
+}
+
 std::optional<DateFault> date_fault(const Struct_Weather& record) {
   // Year and month are sound by the time that the days of the month are asked for.
   const auto days = [&] {

@@ -73,6 +73,10 @@ struct ReportDate {
 };
 /// From a name or path ending in "YYMMDDHH.tlx" (the years 2000 to 2099), else nothing.
 [[nodiscard]] std::optional<ReportDate> report_date(std::string_view name);
+/// Hours from the beginning of 2000 to a date of the calendar from then on.
+[[nodiscard]] int hours_since_2000(const ReportDate& date);
+/// The same of a report's name or path; nothing when it tells no date.
+[[nodiscard]] std::optional<int> report_hour(std::string_view name);
 
 /// What is wrong with a record's date and hour: the first field at fault and what it may hold.
 struct DateFault {

@@ -1261,6 +1261,9 @@ inline constexpr Id kSeaMapUnusable{44140};
 inline constexpr Id kReasonDamaged{44141};
 
 // Main window: commands with a key
+inline constexpr Id kCommandPlainWords{46150};
+inline constexpr Id kCommandCurves{46151};
+inline constexpr Id kCommandLog{46152};
 inline constexpr Id kCommandNewWatch{42830};
 inline constexpr Id kCommandPrint{42831};
 inline constexpr Id kCommandCopy{42832};
