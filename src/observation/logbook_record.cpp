@@ -3,10 +3,20 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/calendar.h"
+#include "text/numbers.h"
+
 namespace observation {
 namespace {
 
 constexpr std::size_t kGaps = 2;
+
+// The column of a field, for what is asked of a line without making a record of it.
+std::string_view text_of_field(const LogbookLine& line, std::string Struct_Weather::*field) {
+  const auto columns = logbook_columns();
+  const auto at = std::ranges::find(columns, field, &LogbookColumn::field);
+  return line.text_of(*at);
+}
 
 // Before the columns whose rules ask what others hold.
 bool comes_first(const LogbookColumn& column) {
@@ -57,6 +67,27 @@ bool LogbookLine::is_in_place() const {
   return std::ranges::all_of(logbook_columns(), [&](const LogbookColumn& column) {
     return column.writer != Writer::kText || text_of(column) == column.text;
   });
+}
+
+std::optional<int> LogbookLine::hour() const {
+  constexpr int kFirstYear = 2000;
+  constexpr int kHours = 24;
+  const auto number = [this](std::string Struct_Weather::*field) {
+    return text::whole_number(text_of_field(*this, field), 0, 9999).value_or(-1);
+  };
+  const int year = number(&Struct_Weather::Year);
+  const int month = number(&Struct_Weather::Month);
+  const int day = number(&Struct_Weather::YY);
+  const int hour = number(&Struct_Weather::GG);
+  if (year < kFirstYear || hour < 0 || hour >= kHours ||
+      !platform::is_calendar_date(year, month, day))
+    return std::nullopt;
+  return platform::day_number(year, month, day) * kHours + hour;
+}
+
+std::string_view LogbookLine::call_sign() const {
+  const std::string_view padded = text_of_field(*this, &Struct_Weather::CallSign);
+  return padded.substr(0, padded.find_last_not_of(' ') + 1);
 }
 
 std::optional<LogbookRecord> record_of_line(std::string_view line, const ShipFixedData& ship,

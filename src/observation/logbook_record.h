@@ -62,6 +62,11 @@ class LogbookLine {
   /// True when every fixed text of the layout stands in its place, so that the columns between them
   /// can be believed.
   [[nodiscard]] bool is_in_place() const;
+  /// Hours since the beginning of 2000; nothing where no date and hour of the calendar from then on
+  /// stand.
+  [[nodiscard]] std::optional<int> hour() const;
+  /// Without the blanks that pad it.
+  [[nodiscard]] std::string_view call_sign() const;
 
  private:
   LogbookLine(std::string_view line, bool unit_lacks, bool method_lacks)
