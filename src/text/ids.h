@@ -1316,4 +1316,55 @@ inline constexpr Id kAboutTitle{42905};
 inline constexpr Id kAboutSourcesLabel{42906};
 inline constexpr Id kAboutSources{42907};
 
+// CCurvesDlg
+inline constexpr Id kCurvesTitle{46000};
+inline constexpr Id kChartPressure{46001};
+inline constexpr Id kChartTemperature{46002};
+inline constexpr Id kChartWindKnots{46003};
+inline constexpr Id kChartWindMetres{46004};
+inline constexpr Id kChartWaves{46005};
+inline constexpr Id kCurvePressure{46010};
+inline constexpr Id kCurveAir{46011};
+inline constexpr Id kCurveSea{46012};
+inline constexpr Id kCurveWind{46013};
+inline constexpr Id kCurveMeasuredWaves{46014};
+inline constexpr Id kCurveWindWaves{46015};
+inline constexpr Id kCurveSwell1{46016};
+inline constexpr Id kCurveSwell2{46017};
+inline constexpr Id kCurvePoint{46020};
+inline constexpr Id kCurveMore{46021};
+inline constexpr Id kCurveLess{46022};
+inline constexpr Id kCurveSame{46023};
+inline constexpr Id kCurveMissing{46024};
+inline constexpr Id kCurveEntered{46025};
+inline constexpr Id kCurveBeyond{46026};
+inline constexpr Id kCurveWindFrom{46027};
+inline constexpr Id kCurveWindVariable{46028};
+inline constexpr Id kCurveWindCalm{46029};
+inline constexpr Id kCurveWindNoSpeed{46030};
+inline constexpr Id kCurveWindNoDirection{46031};
+inline constexpr Id kCurveLegendEntered{46032};
+inline constexpr Id kCurvesNothing{46033};
+inline constexpr Id kCurvesNoHour{46034};
+inline constexpr Id kCurvesKeys{46035};
+inline constexpr Id kCurvesChosen{46036};
+inline constexpr Id kCurvesDays{46037};
+inline constexpr Id kMonthJanuary{46040};  ///< the others follow it
+inline constexpr Id kMonthFebruary{46041};
+inline constexpr Id kMonthMarch{46042};
+inline constexpr Id kMonthApril{46043};
+inline constexpr Id kMonthMay{46044};
+inline constexpr Id kMonthJune{46045};
+inline constexpr Id kMonthJuly{46046};
+inline constexpr Id kMonthAugust{46047};
+inline constexpr Id kMonthSeptember{46048};
+inline constexpr Id kMonthOctober{46049};
+inline constexpr Id kMonthNovember{46050};
+inline constexpr Id kMonthDecember{46051};
+inline constexpr Id kCurveDay{46052};
+inline constexpr Id kSpokenChartPressure{46053};
+inline constexpr Id kSpokenChartTemperature{46054};
+inline constexpr Id kSpokenChartWind{46055};
+inline constexpr Id kSpokenChartWaves{46056};
+
 }  // namespace text::id
