@@ -191,7 +191,7 @@ std::optional<ReportMonth> month_of_reports(const Arguments& arguments) {
 int command(const std::vector<std::string>& arguments) {
   const auto result = parsed(arguments);
   if (const auto* wrong = std::get_if<std::string>(&result)) return cli::usage(*wrong, kUsage);
-  const Arguments& wanted = std::get<Arguments>(result);
+  const auto& wanted = std::get<Arguments>(result);
   cli::Input input(wanted.file);
   if (!input.problem().empty()) {
     cli::complain(input, 0, input.problem());
