@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "explain/plain_list.h"
 #include "text/ids.h"
 
 namespace id = text::id;
@@ -16,8 +17,9 @@ CPlainWordsDlg::CPlainWordsDlg(ui::Services& services, std::string title, std::s
       when_(when) {}
 
 void CPlainWordsDlg::on_open() {
-  const auto lines = explain::plain_words(report_, when_, language());
-  words.set(lines.empty() ? std::string(services().texts.get(id::kPlainNoReport))
-                          : explain::aligned(lines));
+  constexpr int kLinesShown = 20;
+  words.most_lines = kLinesShown;
+  explain::put_lines(words, explain::plain_words(report_, when_, language()));
+  if (words.items.empty()) words.items.emplace_back(services().texts.get(id::kPlainNoReport));
   focus(words);
 }

@@ -14,7 +14,7 @@ class CPlainWordsDlg : public ui::OkDialog {
 
   [[nodiscard]] std::string title() const override { return title_; }
 
-  ui::Memo words;  ///< the groups and what they say
+  ui::List words;  ///< a line for each group
   ui::Button help;
 
  protected:

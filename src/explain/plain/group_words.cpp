@@ -64,7 +64,7 @@ void say_date(Sentence& s, const Heard& heard) {
     return;
   }
   const std::string y = text::format_int(when.year);
-  const std::string_view m = s.get(id::kPlainJanuary + (when.month - 1));
+  const std::string_view m = s.get(id::kMonthJanuary + (when.month - 1));
   if (s.language() == text::Language::kEnglish)
     s.say(id::kPlainDate, {d, m, y, record.GG});
   else
