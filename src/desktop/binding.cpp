@@ -217,7 +217,7 @@ class LineBinding : public Binding {
     if (edit_->text() != wanted) {
       edit_->setText(wanted);
       // A long text that nobody is typing shows its beginning.
-      if (!edit_->hasFocus()) edit_->setCursorPosition(0);
+      if (!edit_->hasFocus() || control().on_arrow) edit_->setCursorPosition(0);
     }
     edit_->show_wrong(control().mark == "wrong");
     make_room();

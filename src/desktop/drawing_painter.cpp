@@ -53,6 +53,32 @@ class Brush {
       painter_.setPen(pen);
     }
     painter_.drawPolyline(pixels);
+    if (!line.specks) return;
+    painter_.setPen(Qt::NoPen);
+    painter_.setBrush(pen.color());
+    for (const QPointF& pixel : pixels) painter_.drawEllipse(pixel, letter_ * 0.12, letter_ * 0.12);
+  }
+
+  void operator()(const ui::WindBarb& barb) const {
+    if (!is_somewhere(barb.at)) return;
+    const ui::BarbStrokes strokes = ui::strokes_of(barb);
+    const QPointF at = point_of(place_.pixel_of(barb.at));
+    const double shaft = letter_ * 1.7;
+    const auto polygon = [&](const std::vector<ui::Point>& points) {
+      QPolygonF pixels;
+      for (const ui::Point point : points) pixels << at + QPointF(point.x, -point.y) * shaft;
+      return pixels;
+    };
+    const QColor colour = colour_of(barb.ink, palette_);
+    QPen pen(colour, letter_ * 0.09);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter_.setPen(pen);
+    painter_.setBrush(Qt::NoBrush);
+    for (const auto& line : strokes.lines) painter_.drawPolyline(polygon(line));
+    if (strokes.circle > 0)
+      painter_.drawEllipse(at, strokes.circle * shaft, strokes.circle * shaft);
+    painter_.setBrush(colour);
+    for (const auto& pennant : strokes.pennants) painter_.drawPolygon(polygon(pennant));
   }
 
   void operator()(const ui::Marker& marker) const {

@@ -49,6 +49,7 @@ constexpr KeyRow kLineKeys[] = {
 // Where it is a control's own key, and no widget's.
 bool means_line(const ui::Control& control, ui::Key key) {
   if (key == ui::Key::kSpace) return ui::ticks_lines(control);
+  if (control.on_arrow && control.read_only) return true;
   const bool page = key == ui::Key::kPageUp || key == ui::Key::kPageDown;
   if (control.kind == ui::Kind::kMemo) return page && control.on_page;
   return ui::goes_through_lines(control.kind, key);

@@ -260,6 +260,7 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
     case Command::kPlainWords:
       break;
     case Command::kCurves:
+      show_curves();
       break;
     case Command::kLog:
       break;

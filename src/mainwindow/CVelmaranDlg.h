@@ -177,6 +177,11 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   /// Looks for the ship's last reports, before this observation as soon as it has a date and hour.
   void find_last_positions();
   void show_map();
+  /// The last days as curves, with what is being typed among them.
+  void show_curves();
+  /// The record as it would be if what is being typed were taken; as it is where that would be
+  /// refused. Nothing is asked and nothing changed.
+  [[nodiscard]] Struct_Weather record_as_typed() const;
   /// Says which tiles of the sea map cannot be used, each once.
   void tell_map_troubles();
   void tell_doubts();

@@ -28,6 +28,7 @@ void CVelmaranDlg::add_commands() {
   for (const mainwindow::ShownCommand& command : mainwindow::shown_commands()) {
     auto& label = add<ui::Label>(command.name, text::Ref{command.label});
     label.shortcut = command.shortcut;
+    label.only_shows = command.only_shows;
     label.on_press = [this, &command] { run({0, command.label, command.command}); };
   }
 }

@@ -55,7 +55,7 @@ constexpr MenuRow kAfterLanguage[] = {
 // The menus are given; what came later stands where it acts.
 constexpr ShownCommand kShownCommands[] = {
     {"command_plain_words", id::kCommandPlainWords, Command::kPlainWords, "F2"},
-    {"command_curves", id::kCommandCurves, Command::kCurves, "F3"},
+    {"command_curves", id::kCommandCurves, Command::kCurves, "F3", true},
     {"command_log", id::kCommandLog, Command::kLog, "F4"},
     {"command_new_watch", id::kCommandNewWatch, Command::kNewWatch, "Ctrl+N"},
     {"command_print", id::kCommandPrint, Command::kPrintReport, "Ctrl+P"},

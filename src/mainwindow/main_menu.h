@@ -71,6 +71,7 @@ struct ShownCommand {
   text::Id label;
   Command command = Command::kNone;
   std::string_view shortcut;  ///< as in ui::Control
+  bool only_shows = false;    ///< as in ui::Control
 };
 /// In the order in which they are shown.
 [[nodiscard]] std::span<const ShownCommand> shown_commands();

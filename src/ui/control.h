@@ -14,6 +14,7 @@
 namespace ui {
 
 class Screen;
+enum class Key;
 
 enum class Kind {
   kLabel,     ///< a text; clickable when on_press is set
@@ -119,6 +120,9 @@ class Control {
   /// Keys that press it whatever field of the screen has the focus ("F7"), or a character that does
   /// where it can not be typed ("+"); empty for none. The text outlives the control.
   std::string_view shortcut;
+  /// Pressing it only shows something: what is being typed into the field that has the focus stays
+  /// there as it is, and is not checked.
+  bool only_shows = false;
   std::string why_locked;  ///< why it is locked or disabled, for the person; empty when it is not
 
   /// Runs when the focus leaves after the content was narrowed; false refuses: the focus comes back
@@ -133,6 +137,9 @@ class Control {
   std::function<void(Point)> on_point;
   /// Memo that shows one page of several: PageDown (forward) and PageUp turn it instead of scrolling.
   std::function<void(bool forward)> on_page;
+  /// Read-only text that tells one of many things: the arrows, Home, End and the page keys lead to
+  /// another instead of moving in the text.
+  std::function<void(Key)> on_arrow;
   /// Before the focus enters.
   std::function<void()> on_enter;
   /// Tree: a row is about to be opened; insert its children behind it.

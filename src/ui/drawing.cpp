@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numbers>
 
 #include "text/numbers.h"
 #include "ui/dump.h"
@@ -67,7 +68,9 @@ struct Describe {
     if (line.thick) out += "thick ";
     if (line.dashed) out += "dashed ";
     if (line.arrow) out += "arrow ";
-    return out.append("line ").append(ui::name_of(line.ink)) + written(line.points);
+    out.append("line ").append(ui::name_of(line.ink));
+    if (line.specks) out.append(" with specks");
+    return out + written(line.points);
   }
   std::string operator()(const Marker& marker) const {
     return std::string(name_of(marker.sign)) + " " + std::string(ui::name_of(marker.ink)) + " " +
@@ -76,6 +79,22 @@ struct Describe {
   std::string operator()(const ShortText& text) const {
     return "text " + std::string(ui::name_of(text.ink)) + " " + quoted(text.text) +
            std::string(name_of(text.side)) + " " + written(text.at);
+  }
+  std::string operator()(const WindBarb& barb) const {
+    std::string out("barb ");
+    out.append(ui::name_of(barb.ink));
+    if (barb.calm) {
+      out.append(" calm");
+    } else {
+      if (barb.from) {
+        out.append(" from ").append(std::to_string(*barb.from));
+      } else {
+        out.append(" variable");
+      }
+      if (barb.knots) out.append(" ").append(number(*barb.knots)).append(" kn");
+      if (barb.southern) out.append(" southern");
+    }
+    return out.append(" ").append(written(barb.at));
   }
 };
 
@@ -126,6 +145,57 @@ std::vector<std::string> describe(const Drawing& drawing) {
   if (shown < drawing.shapes.size())
     lines.push_back("… (" + std::to_string(drawing.shapes.size()) + " shapes)");
   return lines;
+}
+
+BarbStrokes strokes_of(const WindBarb& barb) {
+  constexpr double kRadius = 0.16;
+  constexpr double kArm = 0.12;  // of a cross
+  BarbStrokes strokes;
+  const auto add_cross = [&strokes](Point at) {
+    for (const double side : {-1.0, 1.0})
+      strokes.lines.push_back(
+          {{at.x - kArm, at.y - side * kArm}, {at.x + kArm, at.y + side * kArm}});
+  };
+  if (barb.calm || !barb.from) {
+    strokes.circle = kRadius;
+    if (!barb.calm) add_cross({});
+    return strokes;
+  }
+  const double bearing = *barb.from * std::numbers::pi / 180;
+  const Point along{std::sin(bearing), std::cos(bearing)};
+  // Clockwise from the shaft, which is the side of the low pressure; south of the equator that is
+  // the other one.
+  const double side = barb.southern ? -1 : 1;
+  const Point aside{along.y * side, -along.x * side};
+  const auto place = [&](double up_shaft, double out) {
+    return Point{along.x * (up_shaft - 0.5) + aside.x * out,
+                 along.y * (up_shaft - 0.5) + aside.y * out};
+  };
+  strokes.lines.push_back({place(0, 0), place(1, 0)});
+  if (!barb.knots) {
+    add_cross(place(1, 0));
+    return strokes;
+  }
+  constexpr double kLength = 0.42;  // of a long feather, across and towards the end of the shaft
+  constexpr double kLean = 0.16;
+  constexpr double kGap = 0.15;
+  constexpr double kPennant = 0.24;  // along the shaft
+  constexpr double kMostKnots = 200;
+  auto fives = std::lround(std::clamp(*barb.knots, 0.0, kMostKnots) / 5);
+  double at = 1;
+  for (; fives >= 10; fives -= 10) {
+    strokes.pennants.push_back({place(at, 0), place(at, kLength), place(at - kPennant, 0)});
+    at -= kPennant;
+  }
+  if (at < 1) at -= kGap / 2;
+  // At the very end one short feather would be taken for a long one.
+  if (at == 1.0 && fives == 1) at -= kGap;
+  for (; fives >= 2; fives -= 2) {
+    strokes.lines.push_back({place(at, 0), place(at + kLean, kLength)});
+    at -= kGap;
+  }
+  if (fives == 1) strokes.lines.push_back({place(at, 0), place(at + kLean / 2, kLength / 2)});
+  return strokes;
 }
 
 DrawingPlace::DrawingPlace(const Drawing& drawing, double width, double height)

@@ -40,7 +40,8 @@ struct Polyline {
   Ink ink = Ink::kText;
   bool thick = false;
   bool dashed = false;
-  bool arrow = false;  ///< ends in a head of the size of a letter
+  bool arrow = false;   ///< ends in a head of the size of a letter
+  bool specks = false;  ///< a speck at each of its points, which may be one alone
   bool operator==(const Polyline&) const = default;
 };
 
@@ -60,6 +61,18 @@ struct Marker {
   bool operator==(const Marker&) const = default;
 };
 
+/// The sign for a wind on weather charts, whatever the scale: a shaft that points whence the wind
+/// blows, with feathers for its speed at that end. The middle of the shaft is at the point.
+struct WindBarb {
+  Point at;
+  std::optional<int> from;      ///< degrees; nothing: variable
+  std::optional<double> knots;  ///< nothing: not known
+  bool calm = false;            ///< a circle, whatever the others say
+  bool southern = false;        ///< south of the equator the feathers are on the other side
+  Ink ink = Ink::kMark;
+  bool operator==(const WindBarb&) const = default;
+};
+
 /// A text of the size of other texts, in the language of the moment.
 struct ShortText {
   enum class Side { kCentre, kLeft, kRight, kAbove, kBelow };
@@ -74,7 +87,18 @@ struct ShortText {
   bool operator==(const ShortText&) const = default;
 };
 
-using Shape = std::variant<Area, Polyline, Marker, ShortText>;
+using Shape = std::variant<Area, Polyline, Marker, ShortText, WindBarb>;
+
+/// What a wind barb is drawn of, in lengths of the usual shaft to the right of its point and up.
+struct BarbStrokes {
+  std::vector<std::vector<Point>> lines;     ///< the shaft first
+  std::vector<std::vector<Point>> pennants;  ///< filled
+  double circle = 0;                         ///< radius of a circle around the point; 0: none
+};
+/// Rounded to 5 knots: a short feather for 5, a long one for 10, a pennant for 50; a shaft alone is a
+/// wind of less than 3. A cross at the end of the shaft: the speed is not known. A circle with a
+/// cross: variable; a circle alone: calm.
+[[nodiscard]] BarbStrokes strokes_of(const WindBarb& barb);
 
 /// One direction of a drawing, from left to right or from the bottom up.
 struct Axis {

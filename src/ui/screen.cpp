@@ -241,7 +241,7 @@ void Screen::press(Control& control) {
   if (!handling || !control.enabled || !control.visible) return;
   if (control.can_focus()) {
     if (!move_focus_inside(control)) return;
-  } else if (!leave_focused(control)) {
+  } else if (!control.only_shows && !leave_focused(control)) {
     return;
   }
   press_inside(control);
@@ -382,6 +382,10 @@ void Screen::key(Key key) {
     case Key::kEnd:
     case Key::kPageUp:
     case Key::kPageDown:
+      if (focused_ != nullptr && focused_->on_arrow && is_locked(*focused_)) {
+        focused_->on_arrow(key);
+        return;
+      }
       if (focused_ != nullptr && focused_->on_page && focused_->kind == Kind::kMemo) {
         if (key == Key::kPageUp || key == Key::kPageDown) focused_->on_page(key == Key::kPageDown);
         return;

@@ -27,7 +27,9 @@
 #include "elements/CThumidityDlg.h"
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
+#include "explain/CCurvesDlg.h"
 #include "fakes/sample_archive.h"
+#include "fakes/sample_days.h"
 #include "fakes/sample_sea_map.h"
 #include "fakes/sample_ship.h"
 #include "mainwindow/CAboutDlg.h"
@@ -244,6 +246,12 @@ std::vector<ScreenCase> make_table() {
        [](ui::Services& services) -> Made {
          return std::make_unique<CUTCTimeDlg1>(services,
                                                CUTCTimeDlg1::Values{"2014", "11", "15", "12"});
+       }},
+      // explain
+      {"CCurvesDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CCurvesDlg>(services, sample_days(), explain::Curve::kPressure,
+                                             "C:\\kavrel\\data\\tlx", "JXKV");
        }},
       // mainwindow
       {"CVelmaranDlg",

@@ -340,7 +340,8 @@ std::vector<fakes::ScreenCase> typed_into() {
     screen->open();
     const auto controls = screen->controls();
     const bool has_fields = std::any_of(controls.begin(), controls.end(), [](const ui::Control* c) {
-      return c->kind == ui::Kind::kEdit || c->kind == ui::Kind::kCombo;
+      // A text that is gone through with the arrows is never typed into.
+      return (c->kind == ui::Kind::kEdit || c->kind == ui::Kind::kCombo) && !c->on_arrow;
     });
     if (has_fields && with_role(*screen, ui::Role::kAccept) != nullptr) found.push_back(row);
   }
