@@ -203,7 +203,7 @@ int command(const std::vector<std::string>& arguments) {
     cli::complain(input, 0, input.problem());
     return cli::kWrong;
   }
-  OutputFile output(wanted.output);
+  OutputFile output(wanted.output, wanted.file);
   if (!output.problem().empty()) {
     std::cerr << "kavrel-cli: " << output.problem() << "\n";
     return cli::kWrong;
