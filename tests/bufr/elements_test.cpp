@@ -113,6 +113,27 @@ TEST(BufrElements, AreMissingForEveryMissingForm) {
   }
 }
 
+// "7" may be 0.7 or 7.0 degrees; the report would be torn as well.
+TEST(BufrElements, OfTooFewOrTooManyFiguresAreMissingAndNamed) {
+  const auto bare = values({{"SnT", "0"}});
+  for (const auto& [name, text] : std::initializer_list<records::Setting>{{"TTT", "7"},
+                                                                          {"TTT", "0152"},
+                                                                          {"TTT", "15.2"},
+                                                                          {"PPPP", "132"},
+                                                                          {"PPPP", "10132"},
+                                                                          {"dd", "9"},
+                                                                          {"VV", "9"},
+                                                                          {"N", "06"},
+                                                                          {"h", "x"},
+                                                                          {"Di", "-1"},
+                                                                          {"dw1dw1", "5"},
+                                                                          {"LogExtra", "75"}}) {
+    const Contents found = contents({{"SnT", "0"}, {name, text}});
+    EXPECT_EQ(values(found), bare) << name;
+    EXPECT_EQ(found.odd, std::vector<std::string>{std::string(name) + "=" + std::string(text)});
+  }
+}
+
 TEST(BufrElements, OfTheWind) {
   const auto calm = values({{"iw", "4"}, {"dd", "00"}, {"ff", "00"}});
   EXPECT_EQ(calm.at("#1#windDirection"), 0);
