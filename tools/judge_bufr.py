@@ -342,7 +342,7 @@ def random_field(dice, name):
     figures = "".join(dice.choice("0123456789") for _ in range(width))
     if kind == 9:
         # A figure that could not be read, one too many or too few, one that is none.
-        return dice.choice([figures, figures, figures, figures, "/" + figures[1:], figures + "0", figures[1:], "x" + figures[1:]])
+        return dice.choice([figures] * 4 + ["/" + figures[1:], figures + "0", figures[1:], "x" + figures[1:]])
     return figures
 
 
