@@ -165,7 +165,7 @@ def wind(o):
     if tens is not None and 1 <= tens <= 36:
         direction = 10 * tens
     else:
-        direction = 0 if tens == 0 and number(o["ff"]) == 0 and unset(o["fff"]) else None
+        direction = 0 if tens == 0 and metres_per_second == 0 else None
     if metres_per_second is not None and metres_per_second > Fraction(4094, 10):
         metres_per_second = None
     if direction is None and metres_per_second is None:

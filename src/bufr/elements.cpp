@@ -425,15 +425,6 @@ bool is_no_swell(const Source& source) {
 
 // --- wind ---------------------------------------------------------------------------------------
 
-Reading wind_direction(const Source& source) {
-  const observation::Values& values = source.values;
-  if (values.wind_direction) return {static_cast<double>(*values.wind_direction)};
-  // A variable wind has no direction; the nought of calm means none but with a speed of nought.
-  if (values.wind_variable) return kMissing;
-  if (values.wind_calm) return values.wind_speed ? Reading{0.0} : kMissing;
-  return {std::nullopt, text::is_all_digits(source.record.dd)};
-}
-
 /// The indicator says the unit of the speed (code table 1855).
 bool has_unit(const Source& source) {
   const std::string& iw = source.record.iw;
@@ -454,6 +445,15 @@ Reading wind_speed(const Source& source) {
   if (!has_unit(source)) return {std::nullopt, !is_missing(record.iw)};
   const auto metres_per_second = observation::metres_per_second_of(source.values);
   return metres_per_second ? Reading{rounded(*metres_per_second, 1)} : kMissing;
+}
+
+Reading wind_direction(const Source& source) {
+  const observation::Values& values = source.values;
+  if (values.wind_direction) return {static_cast<double>(*values.wind_direction)};
+  // A variable wind has no direction; the nought of calm means none but beside a speed of nought.
+  if (values.wind_variable) return kMissing;
+  if (values.wind_calm) return wind_speed(source).value ? Reading{0.0} : kMissing;
+  return {std::nullopt, text::is_all_digits(source.record.dd)};
 }
 
 bool has_wind(const Source& source) {

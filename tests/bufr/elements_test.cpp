@@ -171,6 +171,7 @@ TEST(BufrElements, OfAWindThatContradictsItselfAreMissingAndNamed) {
   EXPECT_EQ(value("windDirection", {{"dd", "00"}, {"iw", "4"}, {"ff", "05"}}), -1);
   // A calm whose speed nobody entered says nothing of a speed, nor then of a direction.
   EXPECT_EQ(values({{"iw", "4"}, {"dd", "00"}}).size(), 5U);
+  EXPECT_EQ(values({{"iw", "/"}, {"dd", "00"}, {"ff", "00"}}).size(), 5U);
 }
 
 TEST(BufrElements, OfPressureAndTemperature) {
