@@ -1511,6 +1511,7 @@ inline constexpr Id kDoubtShipTooFast{45601};
 inline constexpr Id kDoubtSpeedAgainstPositions{45602};
 inline constexpr Id kDoubtCourseAgainstPositions{45603};
 inline constexpr Id kDoubtTendencyAgainstLast{45604};
+inline constexpr Id kDoubtTendencyAgainstSixHours{45653};
 inline constexpr Id kDoubtPressureJump{45605};
 inline constexpr Id kDoubtAirSignBesideLast{45606};
 inline constexpr Id kDoubtAirJump{45607};
