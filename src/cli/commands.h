@@ -31,6 +31,10 @@ int explain_command(const std::vector<std::string>& arguments);
 /// tells where.
 int save_command(const std::vector<std::string>& arguments);
 
+/// bufr [--wigos IDENTIFIER] [--date YYYY-MM] [--output FILE|-] [FILE]: starts kavrel-bufr, which
+/// writes each observation as a BUFR message and lies beside this program where ecCodes is there.
+int bufr_command(const std::vector<std::string>& arguments);
+
 /// "kavrel-cli: REASON" on standard error, with the command's usage.
 int usage(const std::string& reason, const char* usage);
 
