@@ -347,7 +347,10 @@ void say_tendency(Sentence& s, const Heard& heard) {
       s.unusual(id::kPlainLargeChange);
     return;
   }
-  if (has_amount) s.say(id::kPlainChangeAlone, {tenths(text::leading_int(record.ppp) / 10.0)});
+  if (has_amount) {
+    const int amount = text::leading_int(record.ppp);
+    s.say(amount == 0 ? id::kPlainSame : id::kPlainChangeAlone, {tenths(amount / 10.0)});
+  }
   s.code(id::kPlainNameTendency, "a", record.a);
   if (has_amount) return;
   if (is_not_reported(record.ppp))
