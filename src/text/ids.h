@@ -1504,6 +1504,7 @@ inline constexpr Id kPlainPoint15{45178};
 // What shows them
 inline constexpr Id kPlainWordsLabel{45179};
 inline constexpr Id kPlainNoReport{45180};
+inline constexpr Id kPlainTitle{45181};
 // End of plain words
 // Doubts before sending
 inline constexpr Id kDoubt{45600};  ///< in front of each
