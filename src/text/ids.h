@@ -1504,6 +1504,7 @@ inline constexpr Id kPlainPoint15{45178};
 // What shows them
 inline constexpr Id kPlainWordsLabel{45179};
 inline constexpr Id kPlainNoReport{45180};
+inline constexpr Id kPlainTitle{45181};
 // End of plain words
 // Doubts before sending
 inline constexpr Id kDoubt{45600};  ///< in front of each
@@ -1610,5 +1611,6 @@ inline constexpr Id kSpokenChartPressure{46053};
 inline constexpr Id kSpokenChartTemperature{46054};
 inline constexpr Id kSpokenChartWind{46055};
 inline constexpr Id kSpokenChartWaves{46056};
+inline constexpr Id kCurveDate{46057};
 
 }  // namespace text::id
