@@ -408,6 +408,7 @@ ui::Control* CVelmaranDlg::place_of(const SaveError& error) const {
 // The focus goes to the first place on the form; where none of the errors has one it stays.
 void CVelmaranDlg::lead_to(const std::vector<SaveError>& errors) {
   std::vector<const ui::Control*> places;
+  places.reserve(errors.size());
   for (const SaveError& error : errors) places.push_back(place_of(error));
   const auto at = std::find_if(controls().begin(), controls().end(), [&](const ui::Control* one) {
     return std::find(places.begin(), places.end(), one) != places.end();

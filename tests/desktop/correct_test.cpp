@@ -21,7 +21,8 @@
 namespace {
 
 constexpr const char* kReport = "C:\\out\\14111512.tlx";
-constexpr const char* kEarlier = "C:\\out\\14111506.tlx";
+// Too long before for the corrected one to be held against it.
+constexpr const char* kEarlier = "C:\\out\\14110906.tlx";
 constexpr const char* kLogbook = "C:\\log\\immt5.log";
 constexpr const char* kText =
     "BBXX JXKV 15123 99357 11653 41497 62718 10152 20114 40132 52014 72582 84531 22213 00178 20604 "

@@ -211,9 +211,17 @@ std::vector<ScreenCase> make_table() {
        }},
       {"CSaveErrorInfoDlg",
        [](ui::Services& services) -> Made {
-         return std::make_unique<CSaveErrorInfoDlg>(
-             services, std::vector<std::string>{"Group4PPPP   No value input",
-                                                "Group5appp   No value input"});
+         const text::Texts& texts = services.texts;
+         const auto doubt = [&](text::Id id, std::initializer_list<std::string_view> words) {
+           return text::fill(texts.get(text::id::kDoubt), {text::fill(texts.get(id), words)});
+         };
+         std::vector<std::string> lines;
+         for (const char* const group : {"Group4PPPP   ", "Group5appp   "})
+           lines.push_back(std::string(group).append(texts.get(text::id::kNoValueInput)));
+         lines.push_back(
+             doubt(text::id::kDoubtTendencyAgainstLast, {"1013.2", "-1.4", "1011.8", "1014.6"}));
+         lines.push_back(doubt(text::id::kDoubtFogInGoodVisibility, {"45", "97"}));
+         return std::make_unique<CSaveErrorInfoDlg>(services, std::move(lines));
        }},
       {"CSeaSurfacePressureDlg",
        [](ui::Services& services) -> Made {

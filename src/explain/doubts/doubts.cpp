@@ -518,15 +518,16 @@ Before before_of(const V& now, std::span<const observation::PastObservation> pas
   constexpr int kTendency = 3;
   Before before;
   if (!now.hour) return before;
-  for (auto one = past.rbegin(); one != past.rend(); ++one) {
-    const int hours = *now.hour - one->hour;
+  for (std::size_t i = past.size(); i > 0; --i) {
+    const observation::PastObservation& one = past[i - 1];
+    const int hours = *now.hour - one.hour;
     if (hours <= 0) continue;
     if (hours > kLongestPast) break;
     if (before.last == nullptr) {
-      before.last = &one->values;
+      before.last = &one.values;
       before.hours = hours;
     }
-    if (hours == kTendency) before.three_hours_ago = &one->values;
+    if (hours == kTendency) before.three_hours_ago = &one.values;
     if (hours >= kTendency) break;
   }
   return before;
