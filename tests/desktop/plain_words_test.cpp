@@ -93,6 +93,7 @@ TEST(PlainWordsDialog, IsClosedByEnterAndEscapeAndF1OpensItsPage) {
     tests::Shown<CPlainWordsDlg> shown("14111512.tlx", std::string(fakes::kSampleReport),
                                        explain::YearMonth{2014, 11});
     EXPECT_GT(shown.screen->words.items.size(), 15U);
+    EXPECT_EQ(shown.screen->title(), "The report in plain words");
     press(Qt::Key_F1);
     ASSERT_EQ(shown.world.fake.help_viewer.shown.size(), 1U);
     EXPECT_NE(shown.world.fake.help_viewer.shown.front().find("Capter31"), std::string::npos);
