@@ -33,6 +33,7 @@ CCurvesDlg::CCurvesDlg(ui::Services& services, explain::Days days, Curve start, 
       ship_(std::move(ship)) {
   point.spoken = {id::kCurvesChosen};
   point.read_only = true;
+  select_on_focus(0);  // it is read, not typed over
   point.on_arrow = [this](ui::Key key) { go(key); };
   pressure.spoken = {id::kSpokenChartPressure};
   temperature.spoken = {id::kSpokenChartTemperature};
@@ -80,6 +81,7 @@ void CCurvesDlg::on_open() {
   if (!hours_.empty() && !days_.entered) remark.caption = {id::kCurvesNoHour};
   remark.visible = static_cast<bool>(remark.caption.id);
   show();
+  focus(point);
 }
 
 void CCurvesDlg::go(ui::Key key) {
@@ -147,8 +149,8 @@ std::string CCurvesDlg::days_text() const {
   const auto clock = [](int hour) { return text::format_int(hour % kHoursOfDay, 2, '0'); };
   const int first = hours_.front();
   return text::fill(texts.get(id::kCurvesDays),
-                    {explain::day_text(first, texts), clock(first),
-                     explain::day_text(days_.last, texts), clock(days_.last)});
+                    {explain::date_text(first, texts), clock(first),
+                     explain::date_text(days_.last, texts), clock(days_.last)});
 }
 
 // Without the mark of the chosen point, and higher than on a screen: four of them fill a page.

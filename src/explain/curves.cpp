@@ -79,10 +79,10 @@ struct ChartRow {
 };
 
 constexpr std::array<ChartRow, kCharts> kChartRows = {{
-    {id::kChartPressure, id::kChartPressure, "hPa", 8, 25, false, 7},
-    {id::kChartTemperature, id::kChartTemperature, "°C", 4, 12, false, 7},
-    {id::kChartWindKnots, id::kChartWindMetres, "", 10, 40, true, 9},
-    {id::kChartWaves, id::kChartWaves, "m", 2, 6, true, 7},
+    {id::kChartPressure, id::kChartPressure, "hPa", 8, 25, false, 6},
+    {id::kChartTemperature, id::kChartTemperature, "°C", 4, 12, false, 6},
+    {id::kChartWindKnots, id::kChartWindMetres, "", 10, 40, true, 8},
+    {id::kChartWaves, id::kChartWaves, "m", 2, 6, true, 6},
 }};
 
 const ChartRow& row_of(Chart chart) {
@@ -131,16 +131,25 @@ int floored(int value, int by) {
   return value - (rest < 0 ? rest + by : rest);
 }
 
-// The month in so many characters at most.
-std::string day_name(int hour, const text::Texts& texts, std::size_t of_month) {
+struct Date {
+  int year, month, day;
+};
+Date date_of(int hour) {
   int day = floored(hour, kHoursOfDay) / kHoursOfDay;
   int year = 2000;
   const auto days_in_year = [](int of) { return platform::days_in_month(of, 2) + 337; };
   while (day >= days_in_year(year)) day -= days_in_year(year++);
   int month = 1;
   while (day >= platform::days_in_month(year, month)) day -= platform::days_in_month(year, month++);
-  const std::string_view name = text::first(texts.get(id::kMonthJanuary + (month - 1)), of_month);
-  const std::string number = text::format_int(day + 1);
+  return {year, month, day + 1};
+}
+
+// The month in so many characters at most.
+std::string day_name(int hour, const text::Texts& texts, std::size_t of_month) {
+  const Date date = date_of(hour);
+  const std::string_view name =
+      text::first(texts.get(id::kMonthJanuary + (date.month - 1)), of_month);
+  const std::string number = text::format_int(date.day);
   const std::string_view form = texts.get(id::kCurveDay);
   if (texts.language == text::Language::kJapanese) return text::fill(form, {name, number});
   return text::fill(form, {number, name});
@@ -176,11 +185,12 @@ bool is_within_scale(const Scale& scale, double value) {
 constexpr int kHoursLeft = 11;
 constexpr int kHoursRight = 12;
 constexpr int kCharacters = 100;
+constexpr double kRoomy = 1.4;  // four of them then fill a small display
 constexpr double kHoursOfCharacter =
     static_cast<double>(kHoursLeft + kHoursShown + kHoursRight) / kCharacters;
 // Room above and below the scale, in lines of text.
-constexpr double kTitleLines = 1.3;
-constexpr double kBarbLines = 2.0;
+constexpr double kTitleLines = 1.5;
+constexpr double kBarbLines = 2.2;
 constexpr double kDayLines = 1.1;
 
 // Where what is beside the lines lies, in the units of the value axis.
@@ -203,17 +213,15 @@ Frame frame_of(const Scale& scale, Chart chart) {
 }
 
 void add_value_lines(ui::Drawing& drawing, const Scale& scale) {
+  constexpr int kBeforeFirst = 3;  // hours: the numbers stand left of that
   const int decimals = scale.step < 1 ? 1 : 0;
   const auto count = std::lround((scale.high - scale.low) / scale.step);
   for (long i = 0; i <= count; ++i) {
     const double value = scale.low + static_cast<double>(i) * scale.step;
     drawing.ground.emplace_back(
-        ui::Polyline{{{drawing.x.first, value}, {drawing.x.last, value}}, Ink::kFaint});
-    drawing.ground.emplace_back(ShortText{{drawing.x.first, value},
-                                          text::format_fixed(value, decimals),
-                                          ShortText::Side::kCentre,
-                                          Ink::kText,
-                                          ShortText::Edge::kLeft});
+        ui::Polyline{{{-kHoursShown - kBeforeFirst, value}, {drawing.x.last, value}}, Ink::kFaint});
+    drawing.ground.emplace_back(ShortText{
+        {drawing.x.first, value}, text::format_fixed(value, decimals), ShortText::Side::kRight});
   }
 }
 
@@ -268,7 +276,7 @@ void add_title(ui::Drawing& drawing, const Days& days, Chart chart, double line,
       x = end + columns(name) + kBetween * kHoursOfCharacter;
     }
   }
-  if (!days.entered) return;
+  if (!days.entered || curves.empty()) return;
   drawing.shapes.emplace_back(
       ui::Marker{{x + kHoursOfCharacter, y}, ui::Marker::Sign::kRing, Ink::kCaution});
   drawing.shapes.emplace_back(ShortText{{x + 1.5 * kHoursOfCharacter, y},
@@ -326,7 +334,6 @@ void add_entered(ui::Drawing& drawing, const Days& days, Curve curve, const Fram
   const double tip = above ? scale.high : scale.low;
   const double foot = above ? tip - length : tip + length;
   drawing.shapes.emplace_back(ui::Polyline{{{0, foot}, {0, tip}}, Ink::kAlarm, true, false, true});
-  drawing.shapes.emplace_back(ui::Marker{{0, foot}, ui::Marker::Sign::kRing, Ink::kAlarm});
   drawing.shapes.emplace_back(
       ShortText{{0, foot}, number_of(curve, *value), ShortText::Side::kRight, Ink::kAlarm});
 }
@@ -535,6 +542,7 @@ ui::Drawing drawing_of(const Days& days, Chart chart, const text::Texts& texts,
   drawing.characters = kCharacters;
   drawing.lines = row_of(chart).lines;
   drawing.grows = true;
+  drawing.roomy = kRoomy;
   add_title(drawing, days, chart, frame.line, texts);
   const std::vector<Curve> curves = curves_of(days, chart);
   if (curves.empty()) return drawing;
@@ -558,6 +566,14 @@ std::string words_of(const Days& days, CurvePoint point, const text::Texts& text
 
 std::string day_text(int hour, const text::Texts& texts) {
   return day_name(hour, texts, std::string_view::npos);
+}
+
+std::string date_text(int hour, const text::Texts& texts) {
+  const std::string year = text::format_int(date_of(hour).year);
+  const std::string day = day_text(hour, texts);
+  const std::string_view form = texts.get(id::kCurveDate);
+  if (texts.language == text::Language::kJapanese) return text::fill(form, {year, day});
+  return text::fill(form, {day, year});
 }
 
 std::optional<CurvePoint> nearest(const Days& days, Chart chart, Point place) {

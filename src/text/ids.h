@@ -1512,6 +1512,7 @@ inline constexpr Id kDoubtShipTooFast{45601};
 inline constexpr Id kDoubtSpeedAgainstPositions{45602};
 inline constexpr Id kDoubtCourseAgainstPositions{45603};
 inline constexpr Id kDoubtTendencyAgainstLast{45604};
+inline constexpr Id kDoubtTendencyAgainstSixHours{45653};
 inline constexpr Id kDoubtPressureJump{45605};
 inline constexpr Id kDoubtAirSignBesideLast{45606};
 inline constexpr Id kDoubtAirJump{45607};
@@ -1610,5 +1611,6 @@ inline constexpr Id kSpokenChartPressure{46053};
 inline constexpr Id kSpokenChartTemperature{46054};
 inline constexpr Id kSpokenChartWind{46055};
 inline constexpr Id kSpokenChartWaves{46056};
+inline constexpr Id kCurveDate{46057};
 
 }  // namespace text::id

@@ -202,7 +202,7 @@ TEST(Curves, NameTheDaysInUtcAndTheLinesByRoundNumbers) {
                                       "12 UTC", "12 UTC", "12 UTC", "12 UTC", "12 UTC"}));
   names.clear();
   for (const ui::ShortText& text : all_of<ui::ShortText>(drawing.ground))
-    if (text.edge == ui::ShortText::Edge::kLeft) names.push_back(text.text);
+    if (text.edge == ui::ShortText::Edge::kNone) names.push_back(text.text);
   EXPECT_EQ(names, (std::vector<std::string>{"980", "990", "1000", "1010", "1020"}));
 }
 
@@ -216,8 +216,10 @@ TEST(Curves, NameDaysOfMonthsAndYearsThatEnd) {
   EXPECT_EQ(explain::day_text(366 * 24 - 1, texts), "31 December");
   EXPECT_EQ(explain::day_text(366 * 24, texts), "1 January");
   EXPECT_EQ(explain::day_text(kLast, texts), "15 November");
+  EXPECT_EQ(explain::date_text(kLast, texts), "15 November 2014");
   texts.language = text::Language::kJapanese;
   EXPECT_EQ(explain::day_text(kLast, texts), "11月15日");
+  EXPECT_EQ(explain::date_text(kLast, texts), "2014年11月15日");
 }
 
 TEST(Curves, DrawNothingBeforeTheYear2000) {
