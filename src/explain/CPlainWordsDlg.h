@@ -13,8 +13,6 @@ class CPlainWordsDlg : public ui::OkDialog {
   CPlainWordsDlg(ui::Services& services, std::string title, std::string report,
                  explain::YearMonth when = {});
 
-  [[nodiscard]] std::string title() const override { return title_; }
-
   ui::List words;  ///< a line for each group
   ui::Button help;
 
@@ -22,7 +20,6 @@ class CPlainWordsDlg : public ui::OkDialog {
   void on_open() override;
 
  private:
-  std::string title_;
   std::string report_;
   explain::YearMonth when_;
 };
