@@ -87,7 +87,9 @@ std::optional<ui::Point> PictureLabel::point_at(QPointF position) const {
 }
 
 QSize PictureLabel::sizeHint() const {
-  return fitted_.isNull() ? ClickableLabel::sizeHint() : wanted_;
+  if (!fitted_.isNull()) return wanted_;
+  if (drawing_ != nullptr && drawing_->roomy > 1) return minimumSize() * drawing_->roomy;
+  return ClickableLabel::sizeHint();
 }
 
 QSize PictureLabel::minimumSizeHint() const {

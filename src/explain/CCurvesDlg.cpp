@@ -33,6 +33,7 @@ CCurvesDlg::CCurvesDlg(ui::Services& services, explain::Days days, Curve start, 
       ship_(std::move(ship)) {
   point.spoken = {id::kCurvesChosen};
   point.read_only = true;
+  select_on_focus(0);  // it is read, not typed over
   point.on_arrow = [this](ui::Key key) { go(key); };
   pressure.spoken = {id::kSpokenChartPressure};
   temperature.spoken = {id::kSpokenChartTemperature};
@@ -80,6 +81,7 @@ void CCurvesDlg::on_open() {
   if (!hours_.empty() && !days_.entered) remark.caption = {id::kCurvesNoHour};
   remark.visible = static_cast<bool>(remark.caption.id);
   show();
+  focus(point);
 }
 
 void CCurvesDlg::go(ui::Key key) {

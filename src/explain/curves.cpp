@@ -79,10 +79,10 @@ struct ChartRow {
 };
 
 constexpr std::array<ChartRow, kCharts> kChartRows = {{
-    {id::kChartPressure, id::kChartPressure, "hPa", 8, 25, false, 7},
-    {id::kChartTemperature, id::kChartTemperature, "°C", 4, 12, false, 7},
-    {id::kChartWindKnots, id::kChartWindMetres, "", 10, 40, true, 9},
-    {id::kChartWaves, id::kChartWaves, "m", 2, 6, true, 7},
+    {id::kChartPressure, id::kChartPressure, "hPa", 8, 25, false, 6},
+    {id::kChartTemperature, id::kChartTemperature, "°C", 4, 12, false, 6},
+    {id::kChartWindKnots, id::kChartWindMetres, "", 10, 40, true, 8},
+    {id::kChartWaves, id::kChartWaves, "m", 2, 6, true, 6},
 }};
 
 const ChartRow& row_of(Chart chart) {
@@ -176,11 +176,12 @@ bool is_within_scale(const Scale& scale, double value) {
 constexpr int kHoursLeft = 11;
 constexpr int kHoursRight = 12;
 constexpr int kCharacters = 100;
+constexpr double kRoomy = 1.4;  // four of them then fill a small display
 constexpr double kHoursOfCharacter =
     static_cast<double>(kHoursLeft + kHoursShown + kHoursRight) / kCharacters;
 // Room above and below the scale, in lines of text.
-constexpr double kTitleLines = 1.3;
-constexpr double kBarbLines = 2.0;
+constexpr double kTitleLines = 1.5;
+constexpr double kBarbLines = 2.2;
 constexpr double kDayLines = 1.1;
 
 // Where what is beside the lines lies, in the units of the value axis.
@@ -203,17 +204,15 @@ Frame frame_of(const Scale& scale, Chart chart) {
 }
 
 void add_value_lines(ui::Drawing& drawing, const Scale& scale) {
+  constexpr int kBeforeFirst = 3;  // hours: the numbers stand left of that
   const int decimals = scale.step < 1 ? 1 : 0;
   const auto count = std::lround((scale.high - scale.low) / scale.step);
   for (long i = 0; i <= count; ++i) {
     const double value = scale.low + static_cast<double>(i) * scale.step;
     drawing.ground.emplace_back(
-        ui::Polyline{{{drawing.x.first, value}, {drawing.x.last, value}}, Ink::kFaint});
-    drawing.ground.emplace_back(ShortText{{drawing.x.first, value},
-                                          text::format_fixed(value, decimals),
-                                          ShortText::Side::kCentre,
-                                          Ink::kText,
-                                          ShortText::Edge::kLeft});
+        ui::Polyline{{{-kHoursShown - kBeforeFirst, value}, {drawing.x.last, value}}, Ink::kFaint});
+    drawing.ground.emplace_back(ShortText{
+        {drawing.x.first, value}, text::format_fixed(value, decimals), ShortText::Side::kRight});
   }
 }
 
@@ -535,6 +534,7 @@ ui::Drawing drawing_of(const Days& days, Chart chart, const text::Texts& texts,
   drawing.characters = kCharacters;
   drawing.lines = row_of(chart).lines;
   drawing.grows = true;
+  drawing.roomy = kRoomy;
   add_title(drawing, days, chart, frame.line, texts);
   const std::vector<Curve> curves = curves_of(days, chart);
   if (curves.empty()) return drawing;

@@ -116,6 +116,9 @@ struct Drawing {
   int characters = 40;  ///< least width, in figures of the usual font
   int lines = 12;       ///< least height
   bool grows = false;   ///< takes up the room that is left across and down
+  /// With `grows`: its window is made so large that it has so many times its least room, as far as
+  /// the display goes.
+  double roomy = 1;
   /// Painted in this order; what lies outside the range is cut off.
   std::vector<Shape> shapes = {};
   /// Painted before all others, its areas to the pixel, so that two that share an edge leave no gap.

@@ -38,7 +38,12 @@ bool is_typed_into(const Control& control) {
 
 // A text that is only read has nothing locked in it.
 bool is_locked(const Control& control) {
-  return is_typed_into(control) && control.read_only;
+  return is_typed_into(control) && control.read_only && !control.on_arrow;
+}
+
+// Its arrows lead from one thing to the next.
+bool is_gone_through(const Control& control) {
+  return control.on_arrow && control.read_only;
 }
 
 bool same_keys(std::string_view a, std::string_view b) {
@@ -382,7 +387,7 @@ void Screen::key(Key key) {
     case Key::kEnd:
     case Key::kPageUp:
     case Key::kPageDown:
-      if (focused_ != nullptr && focused_->on_arrow && is_locked(*focused_)) {
+      if (focused_ != nullptr && is_gone_through(*focused_)) {
         focused_->on_arrow(key);
         return;
       }

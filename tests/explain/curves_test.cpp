@@ -202,7 +202,7 @@ TEST(Curves, NameTheDaysInUtcAndTheLinesByRoundNumbers) {
                                       "12 UTC", "12 UTC", "12 UTC", "12 UTC", "12 UTC"}));
   names.clear();
   for (const ui::ShortText& text : all_of<ui::ShortText>(drawing.ground))
-    if (text.edge == ui::ShortText::Edge::kLeft) names.push_back(text.text);
+    if (text.edge == ui::ShortText::Edge::kNone) names.push_back(text.text);
   EXPECT_EQ(names, (std::vector<std::string>{"980", "990", "1000", "1010", "1020"}));
 }
 

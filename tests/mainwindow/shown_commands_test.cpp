@@ -47,6 +47,7 @@ TEST(ShownCommands, NameTheirKeysInBothLanguages) {
 
 TEST(ShownCommands, WaitForAFieldThatIsRefused) {
   for (const mainwindow::ShownCommand& command : mainwindow::shown_commands()) {
+    if (command.only_shows) continue;
     const auto opened = std::make_unique<Opened>();
     ASSERT_TRUE(fakes::enter(opened->window, opened->control("VV"), "7"));
     opened->world.windows.expect(id::kVisibilityRange);
