@@ -1,5 +1,5 @@
 #pragma once
-// What the ship has reported before: the reports of its folder.
+// What the ship has reported before: the reports of its folder and the lines of its logbook.
 
 #include <string>
 #include <vector>
@@ -17,9 +17,9 @@ struct Archive {
   std::string logbook;  ///< folder of the logbook; empty: none
 };
 
-/// Its observations from hour `first` up to and without hour `beyond`, both since the beginning of
-/// 2000, the oldest first, one for each hour. The hour is that of the report's name. What cannot be
-/// read is passed over.
+/// The ship's observations from hour `first` up to and without hour `beyond`, both since the beginning of
+/// 2000, the oldest first, one for each hour: the report of that name, else the last line of the logbook
+/// for that hour that bears the ship's call sign. What cannot be read is passed over.
 [[nodiscard]] std::vector<observation::PastObservation> past_observations(
     platform::Files& files, const Archive& archive, const ShipFixedData& ship,
     const KeyObservationItems& items, int first, int beyond);

@@ -14,6 +14,8 @@ namespace observation {
 
 inline constexpr std::size_t kLogbookColumns = 172;
 
+struct LogbookRecord;
+
 /// What a line is made from.
 struct LogbookSource {
   const Struct_Weather& record;
@@ -46,12 +48,17 @@ struct LogbookColumn {
   std::string Struct_Weather::*field = nullptr;  ///< none for a fixed text and a rule of its own
   std::string_view text;
   void (*special)(std::string& line, const LogbookSource& source) = nullptr;
+  /// The way back of a rule of its own: takes what the text tells, and leaves what it does not.
+  void (*take)(LogbookRecord& into, std::string_view text) = nullptr;
 
   [[nodiscard]] constexpr std::size_t width() const { return last - first + 1U; }
 };
 
 /// In the order of the line, without a gap.
 [[nodiscard]] std::span<const LogbookColumn> logbook_columns();
+/// The two that may be missing, every column behind then standing one to the left.
+inline constexpr std::uint8_t kTemperatureUnitColumn = 1;
+inline constexpr std::uint8_t kSeaMethodColumn = 54;
 /// The columns of the second swell: blank when there was none, which a report tells by solidi, as
 /// it does of one that was not observed.
 inline constexpr std::uint8_t kSecondSwellColumn = 99;
@@ -59,5 +66,9 @@ inline constexpr std::uint8_t kSecondSwellColumn = 99;
 /// Appends what stands in the column: as many characters as it is wide, but for two that may write
 /// nothing (see encode_logbook()).
 void write_column(std::string& line, const LogbookColumn& column, const LogbookSource& source);
+
+/// Takes what the text of the column tells, solidi and blanks as nothing. A rule of its own may ask
+/// what was taken before: the ship's columns and the plain fields come first.
+void take_column(LogbookRecord& into, const LogbookColumn& column, std::string_view text);
 
 }  // namespace observation

@@ -83,21 +83,17 @@ void LogbookLines::complete(Struct_Weather& record, std::string_view line) const
   }
 }
 
-platform::Result<std::string> find_last_line(const platform::Files& files, const std::string& path,
-                                             const LogbookLines& lines) {
+platform::FileError for_each_line(const platform::Files& files, const std::string& path,
+                                  const std::function<void(std::string_view line)>& use) {
   constexpr std::uint64_t kPiece = 1U << 18U;
   // No line of the layout is longer, an editor's byte order mark and line end included, so more of
   // one that is need not be kept.
   constexpr std::size_t kLongest = kLogbookColumns + 8;
-  std::string found;
-  std::string begun;  // of the line that goes on in the next piece
-  const auto end_line = [&](std::string_view more) {
-    begun.append(more.substr(0, kLongest));
-    if (begun.ends_with('\r')) begun.pop_back();
-    const std::string_view line = text::without_byte_order_mark(begun);
-    if (lines.holds(line)) found = line;
-    begun.clear();
+  const auto hand_over = [&](std::string_view line) {
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    use(text::without_byte_order_mark(line.substr(0, 2 * kLongest)));
   };
+  std::string begun;  // of the line that goes on in the next piece
   for (std::uint64_t from = 0;;) {
     const auto piece = files.read_part(path, from, kPiece);
     if (!piece.ok()) return piece.error;
@@ -105,12 +101,28 @@ platform::Result<std::string> find_last_line(const platform::Files& files, const
     if (rest.empty()) break;
     from += rest.size();
     for (auto end = rest.find('\n'); end != std::string_view::npos; end = rest.find('\n')) {
-      end_line(rest.substr(0, end));
+      if (begun.empty()) {
+        hand_over(rest.substr(0, end));
+      } else {
+        begun.append(rest.substr(0, std::min(end, kLongest)));
+        hand_over(begun);
+        begun.clear();
+      }
       rest.remove_prefix(end + 1);
     }
     if (begun.size() <= kLongest) begun.append(rest.substr(0, kLongest));
   }
-  end_line({});
+  if (!begun.empty()) hand_over(begun);
+  return platform::FileError::kNone;
+}
+
+platform::Result<std::string> find_last_line(const platform::Files& files, const std::string& path,
+                                             const LogbookLines& lines) {
+  std::string found;
+  const auto error = for_each_line(files, path, [&](std::string_view line) {
+    if (lines.holds(line)) found = line;
+  });
+  if (error != platform::FileError::kNone) return error;
   return found;
 }
 

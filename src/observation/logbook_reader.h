@@ -2,6 +2,7 @@
 // Back from the logbook: the line of a report that is at hand, and what that line holds beyond it.
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,8 +41,16 @@ class LogbookLines {
   std::size_t size_ = 0;
 };
 
+/// Hands over the lines of the logbook one by one, without their ends and an editor's byte order
+/// mark. A last line without an end is one, nothing behind the last end is none. Of a line longer
+/// than any of the layout only a beginning comes, which is longer as well. Why the file could not
+/// be read to its end, or kNone. The file is read once from its beginning, in pieces.
+[[nodiscard]] platform::FileError for_each_line(
+    const platform::Files& files, const std::string& path,
+    const std::function<void(std::string_view line)>& use);
+
 /// The last line of the logbook that `lines` holds, empty when there is none, or why one cannot
-/// tell. The file is read once from its beginning, in pieces.
+/// tell.
 [[nodiscard]] platform::Result<std::string> find_last_line(const platform::Files& files,
                                                            const std::string& path,
                                                            const LogbookLines& lines);
