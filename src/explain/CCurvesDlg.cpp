@@ -149,8 +149,8 @@ std::string CCurvesDlg::days_text() const {
   const auto clock = [](int hour) { return text::format_int(hour % kHoursOfDay, 2, '0'); };
   const int first = hours_.front();
   return text::fill(texts.get(id::kCurvesDays),
-                    {explain::day_text(first, texts), clock(first),
-                     explain::day_text(days_.last, texts), clock(days_.last)});
+                    {explain::date_text(first, texts), clock(first),
+                     explain::date_text(days_.last, texts), clock(days_.last)});
 }
 
 // Without the mark of the chosen point, and higher than on a screen: four of them fill a page.

@@ -131,16 +131,25 @@ int floored(int value, int by) {
   return value - (rest < 0 ? rest + by : rest);
 }
 
-// The month in so many characters at most.
-std::string day_name(int hour, const text::Texts& texts, std::size_t of_month) {
+struct Date {
+  int year, month, day;
+};
+Date date_of(int hour) {
   int day = floored(hour, kHoursOfDay) / kHoursOfDay;
   int year = 2000;
   const auto days_in_year = [](int of) { return platform::days_in_month(of, 2) + 337; };
   while (day >= days_in_year(year)) day -= days_in_year(year++);
   int month = 1;
   while (day >= platform::days_in_month(year, month)) day -= platform::days_in_month(year, month++);
-  const std::string_view name = text::first(texts.get(id::kMonthJanuary + (month - 1)), of_month);
-  const std::string number = text::format_int(day + 1);
+  return {year, month, day + 1};
+}
+
+// The month in so many characters at most.
+std::string day_name(int hour, const text::Texts& texts, std::size_t of_month) {
+  const Date date = date_of(hour);
+  const std::string_view name =
+      text::first(texts.get(id::kMonthJanuary + (date.month - 1)), of_month);
+  const std::string number = text::format_int(date.day);
   const std::string_view form = texts.get(id::kCurveDay);
   if (texts.language == text::Language::kJapanese) return text::fill(form, {name, number});
   return text::fill(form, {number, name});
@@ -267,7 +276,7 @@ void add_title(ui::Drawing& drawing, const Days& days, Chart chart, double line,
       x = end + columns(name) + kBetween * kHoursOfCharacter;
     }
   }
-  if (!days.entered) return;
+  if (!days.entered || curves.empty()) return;
   drawing.shapes.emplace_back(
       ui::Marker{{x + kHoursOfCharacter, y}, ui::Marker::Sign::kRing, Ink::kCaution});
   drawing.shapes.emplace_back(ShortText{{x + 1.5 * kHoursOfCharacter, y},
@@ -325,7 +334,6 @@ void add_entered(ui::Drawing& drawing, const Days& days, Curve curve, const Fram
   const double tip = above ? scale.high : scale.low;
   const double foot = above ? tip - length : tip + length;
   drawing.shapes.emplace_back(ui::Polyline{{{0, foot}, {0, tip}}, Ink::kAlarm, true, false, true});
-  drawing.shapes.emplace_back(ui::Marker{{0, foot}, ui::Marker::Sign::kRing, Ink::kAlarm});
   drawing.shapes.emplace_back(
       ShortText{{0, foot}, number_of(curve, *value), ShortText::Side::kRight, Ink::kAlarm});
 }
@@ -558,6 +566,14 @@ std::string words_of(const Days& days, CurvePoint point, const text::Texts& text
 
 std::string day_text(int hour, const text::Texts& texts) {
   return day_name(hour, texts, std::string_view::npos);
+}
+
+std::string date_text(int hour, const text::Texts& texts) {
+  const std::string year = text::format_int(date_of(hour).year);
+  const std::string day = day_text(hour, texts);
+  const std::string_view form = texts.get(id::kCurveDate);
+  if (texts.language == text::Language::kJapanese) return text::fill(form, {year, day});
+  return text::fill(form, {day, year});
 }
 
 std::optional<CurvePoint> nearest(const Days& days, Chart chart, Point place) {

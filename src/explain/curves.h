@@ -93,6 +93,9 @@ struct Scale {
 /// "15 November"
 [[nodiscard]] std::string day_text(int hour, const text::Texts& texts);
 
+/// "15 November 2014"
+[[nodiscard]] std::string date_text(int hour, const text::Texts& texts);
+
 /// The point that is nearest to a place of the chart's drawing: the observation nearest in time and
 /// of its values in this chart the nearest one. Nothing where no observation is drawn.
 [[nodiscard]] std::optional<CurvePoint> nearest(const Days& days, Chart chart, ui::Point place);

@@ -1420,5 +1420,6 @@ inline constexpr Id kSpokenChartPressure{46053};
 inline constexpr Id kSpokenChartTemperature{46054};
 inline constexpr Id kSpokenChartWind{46055};
 inline constexpr Id kSpokenChartWaves{46056};
+inline constexpr Id kCurveDate{46057};
 
 }  // namespace text::id

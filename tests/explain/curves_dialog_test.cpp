@@ -186,7 +186,7 @@ TEST(CurvesDialog, PrintsAllChartsWithoutTheMarkOfThePoint) {
   const ui::Sheets& sheets = opened.world.printer.printed[0];
   EXPECT_EQ(sheets.lines->lines(0, 9),
             (std::vector<std::string>{"Curves of the last five days   JXKV",
-                                      "10 November, 12 UTC, to 15 November, 12 UTC"}));
+                                      "10 November 2014, 12 UTC, to 15 November 2014, 12 UTC"}));
   ASSERT_EQ(sheets.drawings.size(), 4U);
   for (const ui::Drawing& drawing : sheets.drawings)
     for (const ui::Shape& shape : drawing.shapes)

@@ -216,8 +216,10 @@ TEST(Curves, NameDaysOfMonthsAndYearsThatEnd) {
   EXPECT_EQ(explain::day_text(366 * 24 - 1, texts), "31 December");
   EXPECT_EQ(explain::day_text(366 * 24, texts), "1 January");
   EXPECT_EQ(explain::day_text(kLast, texts), "15 November");
+  EXPECT_EQ(explain::date_text(kLast, texts), "15 November 2014");
   texts.language = text::Language::kJapanese;
   EXPECT_EQ(explain::day_text(kLast, texts), "11月15日");
+  EXPECT_EQ(explain::date_text(kLast, texts), "2014年11月15日");
 }
 
 TEST(Curves, DrawNothingBeforeTheYear2000) {
