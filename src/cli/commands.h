@@ -23,9 +23,17 @@ int encode_command(const std::vector<std::string>& arguments);
 /// that could not be placed.
 int read_command(const std::vector<std::string>& arguments);
 
+/// explain [--language en|ja] [--date YYYYMM] [FILE]: each report in plain words, a line for each
+/// group. Year and month are those of a file named YYMMDDHH.tlx, else those that are given.
+int explain_command(const std::vector<std::string>& arguments);
+
 /// save --reports DIR --logbook DIR [--replace] [FILE]: writes both files of each observation and
 /// tells where.
 int save_command(const std::vector<std::string>& arguments);
+
+/// bufr [--wigos IDENTIFIER] [--date YYYY-MM] [--output FILE|-] [FILE]: starts kavrel-bufr, which
+/// writes each observation as a BUFR message and lies beside this program where ecCodes is there.
+int bufr_command(const std::vector<std::string>& arguments);
 
 /// "kavrel-cli: REASON" on standard error, with the command's usage.
 int usage(const std::string& reason, const char* usage);

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "observation/control_characters.h"
+#include "text/numbers.h"
 
 namespace cli {
 namespace {
@@ -83,6 +84,15 @@ std::string shown(std::string_view text) {
     }
   }
   return result;
+}
+
+std::string date_reason(const observation::DateFault& fault) {
+  const auto shown = [&](int number) {
+    return text::format_digits(number, static_cast<int>(fault.figures));
+  };
+  return "Year, Month, YY and GG are no date and hour: " + std::string(fault.field) + " is " +
+         std::to_string(fault.figures) + " figures, " + shown(fault.low) + " to " +
+         shown(fault.high);
 }
 
 void complain(const Input& input, std::size_t line, const std::string& reason) {

@@ -8,6 +8,7 @@
 
 #include "cli/input.h"
 #include "observation/observation_file.h"
+#include "observation/report_file.h"
 
 namespace cli {
 
@@ -16,6 +17,9 @@ void complain(const Input& input, std::size_t line, const std::string& reason);
 
 /// The text with its control characters by number ("\x1B"), so that a terminal obeys none of them.
 [[nodiscard]] std::string shown(std::string_view text);
+
+/// Which of Year, Month, YY and GG is no part of a date and hour, and what it may hold.
+[[nodiscard]] std::string date_reason(const observation::DateFault& fault);
 
 /// What to do with an observation; a text is the reason why it is refused.
 using Use = std::function<std::optional<std::string>(const observation::ObservationReader&)>;

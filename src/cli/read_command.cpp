@@ -2,8 +2,8 @@
 
 #include "cli/commands.h"
 #include "cli/observations.h"
+#include "cli/reports.h"
 #include "observation/report_reader.h"
-#include "observation/report_text.h"
 #include "text/strings.h"
 #include "text/texts.h"
 
@@ -11,8 +11,6 @@ namespace cli {
 namespace {
 
 constexpr const char* kUsage = "kavrel-cli read [FILE]";
-/// No report is longer, however many telex lines it takes.
-constexpr std::size_t kLongestReport = 16U << 10U;
 
 using observation::Unplaced;
 
@@ -31,53 +29,10 @@ void name_unplaced(std::ostream& out, std::string_view text, Unplaced why) {
   }
 }
 
-/// Cuts the lines of an input into reports and prints each.
+/// Prints reports as observations.
 class Printer {
  public:
   explicit Printer(std::ostream& out) : out_(out) {}
-
-  /// False for a report that does not end.
-  [[nodiscard]] bool take(std::string_view line) {
-    // A note of a person's, or what an earlier run could not place.
-    if (line.starts_with('#')) return true;
-    if (pending_.empty() && !observation::find_report(line)) {
-      outside(line);
-      return true;
-    }
-    pending_.append(line).append("\n");
-    print_ended(false);
-    if (!observation::find_report(pending_)) {
-      outside(pending_);
-      pending_.clear();
-    }
-    return pending_.size() <= kLongestReport;
-  }
-
-  void finish() {
-    print_ended(true);
-    if (observation::find_report(pending_))
-      print(pending_);
-    else
-      outside(pending_);
-  }
-
-  [[nodiscard]] int reports() const { return reports_; }
-
- private:
-  /// Prints the reports that have ended; with `at_end` also those whose end would be none if more
-  /// text came.
-  void print_ended(bool at_end) {
-    for (auto found = observation::find_report(pending_);
-         found && found->ended && (at_end || !found->open);
-         found = observation::find_report(pending_)) {
-      print(std::string_view(pending_).substr(0, found->length));
-      pending_.erase(0, found->length);
-    }
-  }
-
-  void outside(std::string_view text) {
-    if (text::trim(text) != "NNNN") name_unplaced(out_, text, Unplaced::kOutsideReport);
-  }
 
   void print(std::string_view text) {
     const Struct_Weather fresh({}, {});
@@ -95,8 +50,8 @@ class Printer {
     for (const auto& each : report->unplaced) name_unplaced(out_, each.text, each.why);
   }
 
+ private:
   std::ostream& out_;
-  std::string pending_;
   int reports_ = 0;
   bool dew_point_computed_ = false;  ///< as the lines printed so far have it
 };
@@ -110,37 +65,10 @@ int read_command(const std::vector<std::string>& arguments) {
     file = word;
   }
   Input input(file);
-  if (!input.problem().empty()) {
-    complain(input, 0, input.problem());
-    return kWrong;
-  }
   Printer printer(std::cout);
-  std::string line;
-  std::size_t number = 0;
-  for (bool more = true; more;) {
-    ++number;
-    switch (input.next(line, kLongestReport)) {
-      case Input::Line::kLine:
-        if (printer.take(line)) break;
-        [[fallthrough]];
-      case Input::Line::kTooLong:
-        complain(input, number,
-                 "no report is longer than " + std::to_string(kLongestReport) + " bytes");
-        return kWrong;
-      case Input::Line::kUnreadable:
-        complain(input, number, "cannot be read");
-        return kWrong;
-      case Input::Line::kEnd:
-        more = false;
-        break;
-    }
-  }
-  printer.finish();
-  if (printer.reports() == 0) {
-    complain(input, 0, "holds no report (no word BBXX)");
-    return kWrong;
-  }
-  return kOk;
+  return for_each_report(
+      input, [&](std::string_view text) { printer.print(text); },
+      [](std::string_view text) { name_unplaced(std::cout, text, Unplaced::kOutsideReport); });
 }
 
 }  // namespace cli

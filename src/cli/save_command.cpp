@@ -12,7 +12,6 @@
 #include "platform/posix/drive_map.h"
 #include "platform/posix/posix_files.h"
 #include "platform/posix/system.h"
-#include "text/numbers.h"
 
 namespace cli {
 namespace {
@@ -33,15 +32,6 @@ std::string* place_of(std::string_view option, Arguments& arguments) {
   if (option == "--reports") return &arguments.reports;
   if (option == "--logbook") return &arguments.logbook;
   return nullptr;
-}
-
-std::string date_reason(const observation::DateFault& fault) {
-  const auto shown = [&](int number) {
-    return text::format_digits(number, static_cast<int>(fault.figures));
-  };
-  return "Year, Month, YY and GG are no date and hour: " + std::string(fault.field) + " is " +
-         std::to_string(fault.figures) + " figures, " + shown(fault.low) + " to " +
-         shown(fault.high);
 }
 
 /// Saves observations into two folders of this computer.

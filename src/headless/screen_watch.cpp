@@ -61,7 +61,8 @@ void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new
     }
     if (was.lines == is.lines) add_tick_changes(was, is, out);
     const bool choice = is.kind == ui::Kind::kChoice;
-    if (was.lines != is.lines || was.line_disabled != is.line_disabled) {
+    const bool lines_are_told = is.kind != ui::Kind::kList || !is.repeats;
+    if ((lines_are_told && was.lines != is.lines) || was.line_disabled != is.line_disabled) {
       if (is.kind == ui::Kind::kTree) {
         out.push_back(is.name + " rows:");
         for (const std::string& line : is.lines) out.push_back("  " + line);

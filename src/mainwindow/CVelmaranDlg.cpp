@@ -258,6 +258,7 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
       go_to_part(kParts - 1);
       break;
     case Command::kPlainWords:
+      show_or_hide_plain_words();
       break;
     case Command::kCurves:
       show_curves();

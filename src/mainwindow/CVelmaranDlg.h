@@ -15,6 +15,7 @@
 #include "elements/form/correction.h"
 #include "elements/form/draft.h"
 #include "elements/form/observation_form.h"
+#include "explain/plain/plain_words.h"
 #include "mainwindow/LandWatch.h"
 #include "mainwindow/context.h"
 #include "mainwindow/draft_keeper.h"
@@ -124,12 +125,19 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void typed();
 
   // The parts that F6 goes between.
-  enum class Part : std::uint8_t { kForm, kReport, kStatusLine };
-  static constexpr int kParts = 3;
+  enum class Part : std::uint8_t { kForm, kPlainWords, kReport, kStatusLine };
+  static constexpr int kParts = 4;
   [[nodiscard]] Part part_of(const ui::Control* control) const;
   /// Where one was in it last.
   [[nodiscard]] ui::Control* way_into(Part part) const;
   void go_to_part(int steps);
+
+  // The report in plain words (F2).
+  void add_plain_words();
+  void show_or_hide_plain_words();
+  /// Follows what is typed, also before it is taken, and the field that has the focus.
+  void tell_plain_words();
+  [[nodiscard]] int plain_line_of_focus(const std::vector<explain::PlainLine>& lines) const;
 
   // Entries.
   bool settle(const std::function<elements::Answer(elements::Confirmed)>& take);
@@ -206,6 +214,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   ui::Control* call_sign_ = nullptr;
   ui::Control* ice_word_ = nullptr;
   ui::Control* status_line_ = nullptr;
+  ui::Control* plain_words_ = nullptr;
   ui::Control* spoken_of_ = nullptr;  ///< by the status line: what has or had the focus
   std::array<ui::Control*, kParts> last_in_{};
   std::string news_;               ///< in the status line; empty: what the field means

@@ -32,6 +32,7 @@ CVelmaranDlg::CVelmaranDlg(ui::Services& services, mainwindow::MainWindowContext
   for (const mainwindow::FieldRow& row : mainwindow::field_rows()) add_field(row);
   if (context_.sea_map != nullptr) add_map();
   add_commands();
+  add_plain_words();
   add_report();
   add_status_line();
 }
@@ -172,6 +173,7 @@ void CVelmaranDlg::refresh() {
   show_report();
   show_map();
   show_status();
+  tell_plain_words();
 }
 
 // The reason, none for a field that is open.

@@ -104,6 +104,7 @@ void CVelmaranDlg::keep_place(const ui::WindowPlace& place) {
 
 CVelmaranDlg::Part CVelmaranDlg::part_of(const ui::Control* control) const {
   if (control == status_line_) return Part::kStatusLine;
+  if (control == plain_words_) return Part::kPlainWords;
   return field_of(control) == nullptr ? Part::kReport : Part::kForm;
 }
 
@@ -119,10 +120,14 @@ ui::Control* CVelmaranDlg::way_into(Part part) const {
 
 void CVelmaranDlg::go_to_part(int steps) {
   const int now = static_cast<int>(part_of(focused()));
-  ui::Control* const target = way_into(static_cast<Part>((now + steps) % kParts));
-  if (target == nullptr) return;
-  focus(*target);
-  tab_flags_.arm();
+  // A part that is hidden has no way into it.
+  for (int part = (now + steps) % kParts; part != now; part = (part + steps) % kParts) {
+    ui::Control* const target = way_into(static_cast<Part>(part));
+    if (target == nullptr) continue;
+    focus(*target);
+    tab_flags_.arm();
+    return;
+  }
 }
 
 // ---- The status line
@@ -135,15 +140,18 @@ void CVelmaranDlg::add_status_line() {
 
 void CVelmaranDlg::on_focused() {
   last_in_[static_cast<std::size_t>(part_of(focused()))] = focused();
-  if (focused() == status_line_) return;  // it goes on speaking of the field that one came from
+  // These go on speaking of the field that one came from.
+  if (focused() == status_line_ || focused() == plain_words_) return;
   spoken_of_ = focused();
   news_.clear();
   show_status();
+  tell_plain_words();
 }
 
 void CVelmaranDlg::typed() {
   news_.clear();
   show_status();
+  tell_plain_words();
 }
 
 void CVelmaranDlg::tell_in_status_line(std::string news) {

@@ -54,7 +54,7 @@ constexpr MenuRow kAfterLanguage[] = {
 
 // The menus are given; what came later stands where it acts.
 constexpr ShownCommand kShownCommands[] = {
-    {"command_plain_words", id::kCommandPlainWords, Command::kPlainWords, "F2"},
+    {"command_plain_words", id::kCommandPlainWords, Command::kPlainWords, "F2", true},
     {"command_curves", id::kCommandCurves, Command::kCurves, "F3", true},
     {"command_log", id::kCommandLog, Command::kLog, "F4"},
     {"command_new_watch", id::kCommandNewWatch, Command::kNewWatch, "Ctrl+N"},

@@ -1,12 +1,16 @@
 #include "mainwindow/save_errors.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "elements/form/cross_rules.h"
 #include "elements/form/fields.h"
+#include "explain/doubts/doubts.h"
 #include "mainwindow/form_rows.h"
 #include "observation/report_encoder.h"
 #include "observation/report_groups.h"
+#include "observation/values.h"
+#include "text/ids.h"
 
 namespace mainwindow {
 namespace {
@@ -68,6 +72,23 @@ std::vector<SaveError> errors_of(const Struct_Weather& record, const ShipFixedDa
         {observation::missing_line(group, texts.language), fields_lacking(record, group)});
   for (const elements::CrossRule* rule : elements::broken_rules(record))
     errors.push_back({std::string(texts.get(rule->message)), fields_of(*rule)});
+  return errors;
+}
+
+std::vector<SaveError> doubts_about(const Struct_Weather& record,
+                                    std::span<const observation::PastObservation> past,
+                                    const text::Texts& texts) {
+  std::vector<SaveError> errors;
+  for (const explain::Doubt& doubt :
+       explain::doubts_of(observation::values_of(record), past, texts.language)) {
+    SaveError error{text::fill(texts.get(text::id::kDoubt), {doubt.text}), {}, true};
+    for (std::string W::*const figures : doubt.row->about) {
+      if (figures == nullptr) break;
+      const auto names = fields_of(figures);
+      error.where.insert(error.where.end(), names.begin(), names.end());
+    }
+    errors.push_back(std::move(error));
+  }
   return errors;
 }
 

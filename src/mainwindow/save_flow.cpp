@@ -1,14 +1,18 @@
 #include "mainwindow/save_flow.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "archive/CShowStatusDlg.h"
 #include "elements/CSaveErrorInfoDlg.h"
+#include "explain/doubts/doubts.h"
+#include "explain/past_observations.h"
 #include "media/removable_disk.h"
 #include "observation/control_characters.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
 #include "observation/report_file.h"
+#include "observation/values.h"
 #include "text/ids.h"
 #include "text/reasons.h"
 #include "text/strings.h"
@@ -31,6 +35,26 @@ std::string in_one_line(std::string_view text) {
   return text::replace_all(line, "\n", " ");
 }
 
+// What stands below the errors. The ship's own reports of the last days are read for it.
+std::vector<SaveError> doubts_of(ui::Services& services, const Saving& saving) {
+  const auto hour = observation::values_of(saving.record).hour;
+  std::vector<observation::PastObservation> past;
+  if (hour)
+    past =
+        explain::past_observations(services.files, {saving.folders.reports, saving.folders.logbook},
+                                   saving.ship, saving.items, *hour - explain::kLongestPast, *hour);
+  return doubts_about(saving.record, past, services.texts);
+}
+
+// Where the officer is led who chose no line: to what is missing and wrong, and to what is only
+// doubted where that is all.
+std::vector<SaveError> to_correct(const std::vector<SaveError>& errors) {
+  const auto first_doubt = std::find_if(errors.begin(), errors.end(),
+                                        [](const SaveError& error) { return error.doubt; });
+  if (first_doubt == errors.begin()) return errors;
+  return {errors.begin(), first_doubt};
+}
+
 // What the officer wants done about the errors; nothing to save them as they are.
 std::optional<SaveEnd> ask_about(ui::Services& services, const Saving& saving,
                                  const std::vector<SaveError>& errors) {
@@ -43,7 +67,8 @@ std::optional<SaveEnd> ask_about(ui::Services& services, const Saving& saving,
   if (answer == CSaveErrorInfoDlg::kNoSave) return SaveEnd::kNotSaved;
   if (saving.correct) {
     const int chosen = dialog.chosen();
-    saving.correct(chosen < 0 ? errors : std::vector{errors[static_cast<std::size_t>(chosen)]});
+    saving.correct(chosen < 0 ? to_correct(errors)
+                              : std::vector{errors[static_cast<std::size_t>(chosen)]});
   }
   return SaveEnd::kCorrect;
 }
@@ -170,7 +195,9 @@ SaveEnd save_observation(ui::Services& services, const Saving& saving) {
     return SaveEnd::kNotSaved;
   }
   if (!has_date(saving.record)) return end_with(services, id::kNoDateEntered, SaveEnd::kNotSaved);
-  if (const auto errors = save_errors(saving, services.texts); !errors.empty()) {
+  std::vector<SaveError> errors = save_errors(saving, services.texts);
+  for (SaveError& doubt : doubts_of(services, saving)) errors.push_back(std::move(doubt));
+  if (!errors.empty()) {
     if (const auto end = ask_about(services, saving, errors)) return *end;
   }
   // Without a folder the files would go wherever the program happens to run.

@@ -1,8 +1,8 @@
 #pragma once
 // Saving an observation: the report in a file of its own and one line more in the logbook.
 //
-// In this order: control characters, the date, the lack of groups and the rules that are broken
-// (CSaveErrorInfoDlg), the notice "Now saving", the question about an existing report, a removable
+// In this order: control characters, the date, the lack of groups, the rules that are broken and
+// what is to be doubted, also beside the ship's last reports (CSaveErrorInfoDlg), the notice "Now saving", the question about an existing report, a removable
 // drive's disk and room, both files, the result. Whatever is answered and whatever fails, both
 // files are as they were or both are written, and nothing of the observation is changed.
 
@@ -37,7 +37,8 @@ struct Saving {
   /// Called once both files are written, before the officer is told: a program that is killed while
   /// the message is open has saved all the same.
   std::function<void()> written = {};
-  /// Called when the officer goes back to correct, with the line that he chose, or with all of them.
+  /// Called when the officer goes back to correct, with the line that he chose, or with all of them;
+  /// then without the doubts, where there is more than doubts.
   std::function<void(const std::vector<SaveError>& errors)> correct = {};
 };
 
@@ -45,7 +46,7 @@ struct Saving {
 [[nodiscard]] bool has_date(const Struct_Weather& record);
 
 /// What is missing and wrong, each text in one line, in the language of the moment; empty when the
-/// observation is complete and sound.
+/// observation is complete and sound. Without what is only to be doubted.
 [[nodiscard]] std::vector<SaveError> save_errors(const Saving& saving, const text::Texts& texts);
 
 /// Runs the whole save with its messages and questions.

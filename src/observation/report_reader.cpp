@@ -35,7 +35,8 @@ bool is_code_of(std::string_view symbol, std::string_view figure) {
 /// Goes through a report once, section by section.
 class Reader {
  public:
-  Reader(std::string_view body, ReadReport& result) : words_(body), result_(result) {}
+  Reader(std::string_view body, ReadReport& result, std::vector<ReadWord>* seen)
+      : words_(body), result_(result), seen_(seen) {}
 
   void read() {
     if (read_call_sign()) read_positional(Group::kYYGGiw);
@@ -72,10 +73,12 @@ class Reader {
     for (std::size_t at = 0; at < before_groups; ++at) {
       const Word word = words_.next();
       if (word.empty()) return false;
-      if (at == 0 && is_report_call_sign(word.text()))
+      if (at == 0 && is_report_call_sign(word.text())) {
         result_.record.CallSign = word.text();
-      else
+        see(word.text(), {}, {});
+      } else {
         name(word.text(), Unplaced::kCallSign);
+      }
     }
     return latitude != 1;
   }
@@ -91,9 +94,9 @@ class Reader {
       return;
     }
     if (!is_group(figures))
-      name(figures, Unplaced::kNotAGroup);
+      name(figures, Unplaced::kNotAGroup, group);
     else if (!can_be(group, figures))
-      name(figures, Unplaced::kOutOfRange);
+      name(figures, Unplaced::kOutOfRange, group);
     else
       place(row_of(group), figures);
   }
@@ -128,6 +131,7 @@ class Reader {
       placed_.set(static_cast<std::size_t>(Group::k9GGgg));
       result_.record.GGExact.clear();
       result_.record.gg = word.substr(1);
+      see(word, Group::k9GGgg, {});
       return;
     }
     if (!is_group(word)) {
@@ -200,6 +204,7 @@ class Reader {
       return;
     }
     placed_.set(static_cast<std::size_t>(row.group));
+    see(word, row.group, {});
     if (row.group == Group::k8SwTbTbTb) result_.has_wet_bulb = true;
     word.remove_prefix(row.indicator.size());
     for (const Symbol& symbol : row.used()) {
@@ -221,12 +226,18 @@ class Reader {
     return placed_.test(static_cast<std::size_t>(group));
   }
 
-  void name(std::string_view word, Unplaced why) {
+  void name(std::string_view word, Unplaced why, std::optional<Group> expected = {}) {
     result_.unplaced.push_back({std::string(word), why});
+    see(word, expected, why);
+  }
+
+  void see(std::string_view word, std::optional<Group> group, std::optional<Unplaced> why) {
+    if (seen_ != nullptr) seen_->push_back({std::string(word), group, why, in_section_2_});
   }
 
   Words words_;
   ReadReport& result_;
+  std::vector<ReadWord>* seen_;
   std::bitset<kGroups> placed_;
   bool in_section_2_ = false;
 };
@@ -244,16 +255,20 @@ text::Id words_of(Unplaced why) {
   return kWords[static_cast<std::size_t>(why)];
 }
 
-std::optional<ReadReport> read_report(std::string_view text, const Struct_Weather& start) {
+std::optional<ReadReport> read_report(std::string_view text, const Struct_Weather& start,
+                                      std::vector<ReadWord>* words) {
   const auto found = find_report(text);
   if (!found) return std::nullopt;
   std::optional<ReadReport> result(std::in_place, start);
-  if (!found->before.empty())
-    result->unplaced.push_back({std::string(found->before), Unplaced::kOutsideReport});
-  Reader(found->body, *result).read();
+  const auto name_outside = [&](std::string_view outside) {
+    result->unplaced.push_back({std::string(outside), Unplaced::kOutsideReport});
+    if (words != nullptr)
+      words->push_back({std::string(outside), {}, Unplaced::kOutsideReport, false});
+  };
+  if (!found->before.empty()) name_outside(found->before);
+  Reader(found->body, *result, words).read();
   // NNNN behind the report's own end is the telex line's, not text that was lost.
-  if (!found->after.empty() && found->after != "NNNN")
-    result->unplaced.push_back({std::string(found->after), Unplaced::kOutsideReport});
+  if (!found->after.empty() && found->after != "NNNN") name_outside(found->after);
   return result;
 }
 

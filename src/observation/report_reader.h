@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "observation/Struct_Weather.h"
+#include "observation/report_groups.h"
 #include "text/id.h"
 
 namespace observation {
@@ -37,6 +38,15 @@ struct UnplacedText {
   bool operator==(const UnplacedText&) const = default;
 };
 
+/// A word of the report and what became of it. The call sign has neither group nor reason.
+struct ReadWord {
+  std::string text;            ///< ICE and its figures are one word; so is ice in plain language
+  std::optional<Group> group;  ///< whose fields it filled; with `why` the one expected at its place
+  std::optional<Unplaced> why;  ///< why it filled none
+  bool in_section_2 = false;    ///< it stands behind the beginning of section 2
+  bool operator==(const ReadWord&) const = default;
+};
+
 struct ReadReport {
   // NOLINTNEXTLINE(modernize-pass-by-value): one copy of a large record, not a copy and a move
   explicit ReadReport(const Struct_Weather& start) : record(start) {}
@@ -51,9 +61,11 @@ struct ReadReport {
 /// Figures are taken as they stand, solidi too; tenths of a degree become the first minute that
 /// gives them ("7" is 42'), a solidus there an empty field. Nothing when the text holds no report.
 /// Encoding the record again gives the groups that the report had, but for groups of nothing but
-/// solidi, which the encoder may leave out.
+/// solidi, which the encoder may leave out. `words`, when given, takes every word of the text but
+/// "BBXX" and the end mark, in order; what stands around the report is one word before and one behind.
 [[nodiscard]] std::optional<ReadReport> read_report(std::string_view text,
-                                                    const Struct_Weather& start);
+                                                    const Struct_Weather& start,
+                                                    std::vector<ReadWord>* words = nullptr);
 
 /// Quadrant and position of a report, or nothing when the text is no report or a figure of its
 /// groups 99LaLaLa and QcLoLoLoLo is missing.

@@ -72,9 +72,13 @@ void add_pressure(Values& values, const Struct_Weather& record) {
 void add_temperatures(Values& values, const Struct_Weather& record) {
   values.air = tenths(codetables::signed_tenths(record.SnT, record.TTT));
   values.dew_point = tenths(codetables::signed_tenths(record.SnTd, record.TdTdTd));
-  values.wet_bulb = tenths(codetables::signed_tenths(
-      codetables::wet_bulb_value_sign(record.Sw, record.TbTbTb), record.TbTbTb));
-  values.wet_bulb_iced = codetables::has_iced_bulb(record.Sw, record.TbTbTb);
+  // A wet bulb that was computed (5 to 7) has its sign, and its ice, as a measured one (0 to 2).
+  const std::string Sw = text::whole_number(record.Sw, 5, 7)
+                             ? text::format_int(text::leading_int(record.Sw) - 5)
+                             : record.Sw;
+  values.wet_bulb = tenths(
+      codetables::signed_tenths(codetables::wet_bulb_value_sign(Sw, record.TbTbTb), record.TbTbTb));
+  values.wet_bulb_iced = codetables::has_iced_bulb(Sw, record.TbTbTb);
   if (const auto method = codetables::sea_temperature_method(record.Ss)) {
     values.sea_method = static_cast<int>(*method);
     if (const auto sea = number(record.TwTwTw))

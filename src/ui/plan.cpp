@@ -273,6 +273,7 @@ Extent extent_of(const Control& control) {
     case Kind::kDropDown:
       return {control.max_length, 0, 1, false};
     case Kind::kList:
+      if (control.most_lines > 0) return {0, 0, control.most_lines, true};
       return {0, 0, std::clamp(static_cast<int>(control.items.size()), kFewestLines, kMostLines),
               true};
     case Kind::kChoice:

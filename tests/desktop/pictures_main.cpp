@@ -1,6 +1,6 @@
 // Takes a picture of every screen: pictures FOLDER LANGUAGE PERCENT [dark] writes
-// CLASS-LANGUAGE[-PERCENT][-dark].png, and observation-...: the main window with a complete
-// observation.
+// CLASS-LANGUAGE[-PERCENT][-dark].png, observation-...: the main window with a complete
+// observation, and plain_words-...: the same with the report in plain words.
 
 #include <QApplication>
 #include <QFont>
@@ -72,5 +72,7 @@ int main(int argc, char** argv) {
   fakes::SampleMainWindow entered(world.services);
   entered.open();
   const bool complete = fakes::enter_sample(entered);
-  return complete && take(entered, folder + "/observation" + ending) ? 0 : 1;
+  if (!complete || !take(entered, folder + "/observation" + ending)) return 1;
+  entered.press(*entered.find("command_plain_words"));
+  return take(entered, folder + "/plain_words" + ending) ? 0 : 1;
 }

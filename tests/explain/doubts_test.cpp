@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "explain/doubt_examples.h"
+#include "fakes/doubt_examples.h"
 #include "observation/values.h"
 #include "text/strings.h"
 

@@ -28,6 +28,7 @@
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
 #include "explain/CCurvesDlg.h"
+#include "explain/CPlainWordsDlg.h"
 #include "fakes/sample_archive.h"
 #include "fakes/sample_days.h"
 #include "fakes/sample_sea_map.h"
@@ -252,6 +253,14 @@ std::vector<ScreenCase> make_table() {
        [](ui::Services& services) -> Made {
          return std::make_unique<CCurvesDlg>(services, sample_days(), explain::Curve::kPressure,
                                              "C:\\kavrel\\data\\tlx", "JXKV");
+       }},
+      {"CPlainWordsDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CPlainWordsDlg>(
+             services, "14111512.tlx",
+             "BBXX JXKV 15124 99357 11653 41497 62718 10152 20108 40132 52014 72582 84531 22223 "
+             "00178 20604 32531 40905 51103 .....",
+             explain::YearMonth{2014, 11});
        }},
       // mainwindow
       {"CVelmaranDlg",

@@ -420,9 +420,15 @@ TEST(Correcting, NamesTheFileNoLongerOnceTheHourIsAnother) {
   opened->type("GG", "12");
   EXPECT_EQ(opened->window.title(), "KAVREL for WIN - correcting 14111512.tlx - not saved *");
   opened->type("GG", "18");
-  // Nothing is replaced, so nothing is told of it.
+  // Nothing is replaced, so nothing is told of it; that only the hour is another is doubted.
+  opened->world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+    opened->errors = fakes::lines_of(*screen.find("errors"));
+    screen.press(*screen.find("save_as"));
+  });
   opened->world.windows.expect(id::kSaved);
   opened->menu("Save weather report");
+  EXPECT_NE(opened->errors.find("Doubt: "), std::string::npos) << opened->errors;
+  EXPECT_EQ(opened->errors.find("30123"), std::string::npos) << opened->errors;
   EXPECT_EQ(opened->files.content(kReport), text);
   EXPECT_NE(opened->files.content("C:\\out\\14111518.tlx"), std::nullopt);
   EXPECT_EQ(opened->window.title(), "KAVREL for WIN - report saved");
@@ -488,11 +494,16 @@ TEST(Correcting, NamesValuesOfElementsNoLongerObservedOnceTheHourIsAnother) {
       std::string text = kText;
       text.insert(text.find("....."), "ICE 3/124 ");
       opened->correct(text, kReport, true);
-      opened->expect_save();
+      // The ice is doubted.
+      opened->expect_save(true);
       opened->menu("Save weather report");
       EXPECT_EQ(opened->files.content(kReport), text);
       opened->type("GG", "18");
       if (observed) {
+        opened->world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+          EXPECT_EQ(fakes::lines_of(*screen.find("errors")).find("ci 3 "), std::string::npos);
+          screen.press(*screen.find("save_as"));
+        });
         opened->world.windows.expect(id::kSaved);
         opened->menu("Save weather report");
         continue;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "elements/form/cross_rules.h"
+#include "fakes/doubt_examples.h"
 #include "mainwindow/entry_messages.h"
 #include "mainwindow/form_rows.h"
 #include "observation/report_groups.h"
@@ -178,6 +179,36 @@ TEST(SaveErrors, ABrokenRuleLeadsToOneOfItsFields) {
   ASSERT_TRUE(opened->window.move_focus(opened->control("N")));
   correct(*opened, std::string(opened->world.texts.get(id::kHalfAnExactTime)).substr(0, 20));
   EXPECT_EQ("gg", opened->window.focused()->name);
+}
+
+// Whatever is doubted, there is a field to look at it in.
+TEST(SaveErrors, EachDoubtHasAFieldOnTheForm) {
+  const auto opened = std::make_unique<Opened>();
+  for (const doubt_examples::Example& example : doubt_examples::examples()) {
+    const auto doubts =
+        mainwindow::doubts_about(doubt_examples::record_of(example.raises),
+                                 doubt_examples::past_of(example), opened->world.texts);
+    ASSERT_EQ(doubts.size(), 1U) << example.doubt;
+    EXPECT_TRUE(doubts.front().doubt);
+    EXPECT_TRUE(doubts.front().text.starts_with("Doubt: ")) << doubts.front().text;
+    EXPECT_FALSE(doubts.front().where.empty()) << example.doubt;
+    bool can_go_there = false;
+    for (const std::string_view name : doubts.front().where) {
+      const ui::Control& field = opened->control(name);
+      can_go_there = can_go_there || (field.can_focus() && !field.read_only);
+    }
+    // The wave recorder's fields are locked on a ship without one.
+    EXPECT_EQ(can_go_there, !example.doubt.starts_with("measured")) << example.doubt;
+  }
+}
+
+TEST(SaveErrors, ADoubtLeadsToItsField) {
+  const auto opened = std::make_unique<Opened>();
+  enter_date(*opened);
+  opened->type("VV", "97");
+  opened->type("ww", "45");
+  correct(*opened, "Doubt: Fog (ww 45)");
+  EXPECT_EQ("VV", opened->window.focused()->name);
 }
 
 }  // namespace

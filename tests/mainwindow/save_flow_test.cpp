@@ -719,4 +719,136 @@ TEST(SaveFlow, AReportOnADiskThatIsPutInLateIsAskedAbout) {
   EXPECT_EQ(s.files.content("A:\\14111512.tlx"), s.message());
 }
 
+// The last report but for its pressure, which had been ten hectopascals higher.
+constexpr const char* kThreeHoursAgo =
+    "BBXX JABC 15094 99355 11405 41497 61812 10152 20101 40232 52011 84520 22223 00185 .....";
+
+std::string doubted(const Save& s, std::string_view text) {
+  return std::string(text::half("Doubt: /*E*/要確認：", s.world.texts.language)).append(text);
+}
+
+TEST(SaveDoubts, StandBelowTheErrorsWithAWordInFront) {
+  in_both_languages([](Save& s) {
+    s.record.N = "3";
+    s.record.VV = "93";
+    s.record.ww = "02";
+    const auto language = s.world.texts.language;
+    std::string shown;
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+      shown = fakes::lines_of(*screen.find("errors"));
+      screen.press(*screen.find("no_save"));
+    });
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    const std::string doubt(
+        text::half("The visibility is below 1 km (VV 93), but the weather (ww 02) tells no "
+                   "cause./*E*/視程が1km未満（VV 93）なのに、現在天気（ww "
+                   "02）に原因がありません。",
+                   language));
+    EXPECT_EQ(shown, s.errors() + doubted(s, doubt) + "\r\n");
+    EXPECT_NE(s.errors(), "");
+  });
+}
+
+TEST(SaveDoubts, RefuseNothing) {
+  in_both_languages([](Save& s) {
+    s.record.TTT = "352";
+    s.record.TdTdTd = "201";
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", press("no_save"));
+    s.expect_nothing_written(SaveEnd::kNotSaved);
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", press("correct"));
+    s.expect_nothing_written(SaveEnd::kCorrect);
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", press("save_as"));
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), SaveEnd::kSaved);
+    EXPECT_EQ(s.files.content(kReport), s.message());
+    EXPECT_EQ(s.logbook(), s.line());
+    s.world.windows.verify();
+  });
+}
+
+TEST(SaveDoubts, HoldTheObservationAgainstTheLastReports) {
+  in_both_languages([](Save& s) {
+    s.files.add_file("C:\\tlx\\14111509.tlx", kThreeHoursAgo);
+    std::string shown;
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+      shown = fakes::lines_of(*screen.find("errors"));
+      screen.press(*screen.find("save_as"));
+    });
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), SaveEnd::kSaved);
+    const std::string doubt(
+        text::half("The pressure was 1023.2 hPa three hours ago. With a change of 1.1 hPa it would "
+                   "be 1024.3 hPa now, not 1013.2 hPa./*E*/3時間前の気圧は1023.2 "
+                   "hPaです。変化量が1.1 hPaなら1024.3 hPaになりますが、入力は1013.2 hPaです。",
+                   s.world.texts.language));
+    EXPECT_NE(shown.find(doubted(s, doubt) + "\r\n"), std::string::npos) << shown;
+    s.world.windows.verify();
+  });
+}
+
+// Nothing there, nothing that can be read, and nothing that may be read.
+TEST(SaveDoubts, OfThePastNeedReportsThatCanBeRead) {
+  for (const char* const content : {"", "no report", "BBXX", "\xff\xfe", "BBXX JABC 15094"}) {
+    Save s;
+    s.files.add_file("C:\\tlx\\14111509.tlx", content);
+    s.files.add_file("C:\\tlx\\14111512.tlx.bak", kThreeHoursAgo);
+    s.files.add_file("C:\\tlx\\14111409.txt", kThreeHoursAgo);
+    s.files.add_file("C:\\tlx\\14111109.tlx", kThreeHoursAgo);
+    s.files.add_folder("C:\\tlx\\14111506.tlx\\");
+    s.world.windows.expect(id::kSaved);
+    EXPECT_EQ(s.save(), SaveEnd::kSaved) << content;
+    s.world.windows.verify();
+  }
+  Save s;
+  s.files.add_file("C:\\tlx\\14111509.tlx", kThreeHoursAgo);
+  s.files.fail_next(FakeFiles::Operation::kRead, FileError::kAccessDenied);
+  s.world.windows.expect(id::kSaved);
+  EXPECT_EQ(s.save(), SaveEnd::kSaved);
+}
+
+// What is asked on the way to the files does not bring the list again.
+TEST(SaveDoubts, AreAskedAboutOnceInASave) {
+  Save s;
+  s.record.TTT = "352";
+  s.files.add_file(kReport, "old");
+  s.removable_logbook();
+  s.files.set_medium_missing('A');
+  InsertedDisk drives;
+  drives.list = s.world.drives.list;
+  drives.empty_looks = 1;
+  s.world.windows.expect_screen("CSaveErrorInfoDlg", press("save_as"));
+  s.world.windows.expect(id::kAskReplaceReport, "yes");
+  s.world.windows.expect(id::kInsertDisk, "cancel");
+  s.world.windows.expect(id::kSaveCancelled);
+  EXPECT_EQ(s.save_on(drives), SaveEnd::kNotSaved);
+  s.world.windows.verify();
+}
+
+// Without a line, what is wrong comes before what is only doubted.
+TEST(SaveDoubts, LeadWhoChoseNoLineOnlyWhereNothingIsWrong) {
+  for (const bool wrong : {false, true}) {
+    Save s;
+    s.record.VV = "93";
+    s.record.ww = "02";
+    if (wrong) s.record.PPPP = "";
+    std::vector<mainwindow::SaveError> to_correct;
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", press("correct"));
+    mainwindow::Saving saving{s.record, s.ship, s.items, s.folders, s.remarks};
+    saving.correct = [&](const std::vector<mainwindow::SaveError>& errors) { to_correct = errors; };
+    EXPECT_EQ(save_observation(s.world.services, saving), SaveEnd::kCorrect);
+    ASSERT_EQ(to_correct.size(), 1U);
+    EXPECT_EQ(to_correct.front().doubt, !wrong);
+    // And a line that was chosen, whichever it is.
+    s.world.windows.expect_screen("CSaveErrorInfoDlg", [&](ui::Screen& screen) {
+      screen.choose(*screen.find("errors"), wrong ? 1 : 0);
+      screen.press(*screen.find("correct"));
+    });
+    EXPECT_EQ(save_observation(s.world.services, saving), SaveEnd::kCorrect);
+    ASSERT_EQ(to_correct.size(), 1U);
+    EXPECT_TRUE(to_correct.front().doubt);
+    const std::vector<std::string_view> places = {"VV", "ww"};
+    EXPECT_EQ(to_correct.front().where, places);
+  }
+}
+
 }  // namespace

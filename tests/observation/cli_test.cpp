@@ -654,4 +654,28 @@ TEST_F(Cli, SaveGivesUpAHeldLogbook) {
   EXPECT_EQ(saved().size(), 1U);
 }
 
+// The program of its own that makes BUFR is built only where its library is.
+TEST_F(Cli, BufrNamesTheProgramThatItNeeds) {
+  std::error_code error;
+  fs::create_hard_link(KAVREL_CLI, folder_ / "kavrel-cli", error);
+  if (error) fs::copy_file(KAVREL_CLI, folder_ / "kavrel-cli");
+  const auto bufr = [&] {
+    const std::string command =
+        "cd '" + folder_.string() + "' && ./kavrel-cli bufr one.obs >stdout 2>stderr";
+    const int raw = std::system(command.c_str());
+    EXPECT_TRUE(WIFEXITED(raw));
+    EXPECT_EQ(WEXITSTATUS(raw), 2);
+    EXPECT_EQ(slurp(folder_ / "stdout"), "");
+    return slurp(folder_ / "stderr");
+  };
+  EXPECT_EQ(bufr(),
+            "kavrel-cli: bufr needs the program kavrel-bufr beside this one, which is not there; "
+            "it is built where ecCodes is installed (libeccodes-dev)\n");
+  // Text that no system takes for a program, and may not be run.
+  file("kavrel-bufr", "");
+  EXPECT_EQ(bufr(),
+            "kavrel-cli: bufr needs the program kavrel-bufr beside this one, which cannot be "
+            "started: Permission denied\n");
+}
+
 }  // namespace

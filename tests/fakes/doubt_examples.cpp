@@ -1,4 +1,4 @@
-#include "explain/doubt_examples.h"
+#include "fakes/doubt_examples.h"
 
 #include <gtest/gtest.h>
 

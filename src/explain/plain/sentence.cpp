@@ -1,0 +1,159 @@
+#include "explain/plain/sentence.h"
+
+#include <algorithm>
+
+#include "codetables/tables/code_tables.h"
+#include "text/ids.h"
+#include "text/numbers.h"
+#include "text/strings.h"
+
+namespace explain {
+namespace {
+
+namespace id = text::id;
+
+constexpr bool is_small(char c) {
+  return c >= 'a' && c <= 'z';
+}
+constexpr bool is_capital(char c) {
+  return c >= 'A' && c <= 'Z';
+}
+
+// "10 km" of "10km".
+std::string spaced(std::string_view quantity) {
+  const auto unit = quantity.find_first_not_of("0123456789.");
+  std::string text(quantity.substr(0, unit));
+  if (unit == std::string_view::npos) return text;
+  if (quantity[unit] != ' ') text.push_back(' ');
+  return text.append(quantity.substr(unit));
+}
+
+// The limits of a class of heights or distances as words. The tables have them for a drop-down:
+// "10km<=VV<20km", "VV<50m", "2500m<=h, or no clouds"; a text without limits comes back as it is.
+std::string limits_in_words(const Sentence& sentence, std::string meaning,
+                            std::string_view symbol) {
+  constexpr std::string_view kNotAbove = "<=";
+  const std::string limits = text::replace_all(meaning, "≦", kNotAbove);
+  std::string beyond(symbol);
+  beyond.push_back('<');
+  const auto under = limits.find(beyond);
+  std::string from(kNotAbove);
+  from.append(symbol);
+  const auto at_least = limits.find(from);
+  const bool english = sentence.language() == text::Language::kEnglish;
+  const auto quantity = [english](std::string_view text) {
+    return english ? spaced(text) : std::string(text);
+  };
+  if (under == std::string::npos && at_least == std::string::npos) return meaning;
+  if (under == std::string::npos) {
+    const std::string_view rest = std::string_view(limits).substr(at_least + from.size());
+    return sentence.filled(id::kPlainAtLeast,
+                           {quantity(std::string_view(limits).substr(0, at_least)), rest});
+  }
+  const std::string high = quantity(std::string_view(limits).substr(under + beyond.size()));
+  if (at_least == std::string::npos) return sentence.filled(id::kPlainUnder, {high});
+  return sentence.filled(id::kPlainFromTo,
+                         {quantity(std::string_view(limits).substr(0, at_least)), high});
+}
+
+}  // namespace
+
+bool is_not_reported(std::string_view figures) {
+  return figures.find_first_not_of('/') == std::string_view::npos;
+}
+
+std::string Sentence::within(std::string_view words) {
+  std::string small(words);
+  const bool is_word = small.size() > 2 && is_capital(small[0]) && is_small(small[1]) &&
+                       (is_small(small[2]) || small[2] == ' ');
+  const bool is_cloud =
+      small.size() > 2 && small[2] == ' ' && !small.starts_with("No ") && !small.starts_with("Up ");
+  if (is_word && !is_cloud) small[0] = static_cast<char>(small[0] - 'A' + 'a');
+  return small;
+}
+
+void Sentence::say(std::string_view piece) {
+  if (!text_.empty()) text_.append(get(id::kPlainBetween));
+  const std::size_t start = text_.size();
+  text_.append(piece);
+  if (start < text_.size() && is_small(text_[start]))
+    text_[start] = static_cast<char>(text_[start] - 'a' + 'A');
+  said_ = true;
+}
+
+void Sentence::say(text::Id id, std::initializer_list<std::string_view> arguments) {
+  say(filled(id, arguments));
+}
+
+void Sentence::not_reported(text::Id name) {
+  if (!missing_.empty()) missing_.append(get(id::kSpokenBetween));
+  missing_.append(get(name));
+}
+
+void Sentence::unusual(text::Id why, std::initializer_list<std::string_view> arguments) {
+  say(id::kPlainUnusual, {filled(why, arguments)});
+  unusual_ = true;
+}
+
+void Sentence::unreadable(text::Id name, std::string_view figures) {
+  say(id::kPlainUnreadable, {get(name), figures});
+  wrong_ = true;
+}
+
+void Sentence::impossible(text::Id name, std::string_view figures) {
+  say(id::kPlainImpossible, {get(name), figures});
+  wrong_ = true;
+}
+
+std::optional<std::string> Sentence::meaning_of(std::string_view symbol,
+                                                std::string_view figures) const {
+  auto words = codetables::meaning(*codetables::table_of(symbol), figures, language_);
+  if (!words) return std::nullopt;
+  std::string says(text::trim(*words));
+  // Long lines of a table are broken for their dialog.
+  std::replace(says.begin(), says.end(), '\n', ' ');
+  if (symbol == "VV" || symbol == "h") return limits_in_words(*this, std::move(says), symbol);
+  return within(says);
+}
+
+void Sentence::code(text::Id name, std::string_view symbol, std::string_view figures) {
+  if (is_not_reported(figures)) {
+    not_reported(name);
+  } else if (const auto words = meaning_of(symbol, figures)) {
+    say(id::kPlainColon, {get(name), *words});
+  } else if (!text::is_all_digits(figures)) {
+    unreadable(name, figures);
+  } else {
+    say(id::kPlainNoCode, {get(name), figures});
+    wrong_ = true;
+  }
+}
+
+void Sentence::meaning(text::Id name, std::string_view symbol, std::string_view figures) {
+  const auto words = is_not_reported(figures) ? std::nullopt : meaning_of(symbol, figures);
+  if (words)
+    say(*words);
+  else
+    code(name, symbol, figures);
+}
+
+std::string Sentence::compass(int degrees) const {
+  constexpr int kPoints = 16;
+  constexpr int kHalfDegreesInAPoint = 45;
+  const int point = (degrees * 2 + kHalfDegreesInAPoint / 2) / kHalfDegreesInAPoint % kPoints;
+  return filled(id::kPlainPoint, {get(id::kPlainNorth + point), text::format_int(degrees, 3, '0')});
+}
+
+Told Sentence::told() const {
+  if (wrong_) return Told::kNotUnderstood;
+  if (unusual_) return Told::kUnusual;
+  return said_ || missing_.empty() ? Told::kSaid : Told::kNotReported;
+}
+
+std::string Sentence::take() {
+  if (!missing_.empty()) say(id::kPlainNotReported, {missing_});
+  if (!text_.empty()) text_.append(text::trim(get(id::kPlainBetween)));
+  return std::move(text_);
+}
+
+}  // namespace explain

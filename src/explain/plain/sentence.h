@@ -1,0 +1,74 @@
+#pragma once
+// What is said of one group, piece by piece.
+
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "explain/plain/plain_words.h"
+#include "observation/Struct_Weather.h"
+#include "observation/values.h"
+#include "text/texts.h"
+
+namespace explain {
+
+/// A report that has been read.
+struct Heard {
+  const Struct_Weather& record;
+  const observation::Values& values;
+  YearMonth when;
+};
+
+/// Pieces begin with a small letter in the table; each becomes a sentence.
+class Sentence {
+ public:
+  explicit Sentence(text::Language language) : language_(language) {}
+
+  [[nodiscard]] text::Language language() const { return language_; }
+  [[nodiscard]] std::string_view get(text::Id id) const { return text::bilingual(id, language_); }
+  [[nodiscard]] std::string filled(text::Id id,
+                                   std::initializer_list<std::string_view> arguments) const {
+    return text::fill(get(id), arguments);
+  }
+
+  /// "rain" of "Rain", as it is written within a sentence; names such as "Cu" stay.
+  [[nodiscard]] static std::string within(std::string_view words);
+
+  void say(std::string_view piece);
+  void say(text::Id id, std::initializer_list<std::string_view> arguments = {});
+  /// An element of solidi. They are named together at the end.
+  void not_reported(text::Id name);
+  void unusual(text::Id why, std::initializer_list<std::string_view> arguments = {});
+  /// Figures that are no value of the element: some of them missing, or no number.
+  void unreadable(text::Id name, std::string_view figures);
+  /// Figures that are a number but none that can be.
+  void impossible(text::Id name, std::string_view figures);
+  /// What a code stands for: "visibility: 10 km to under 20 km". `symbol` as in table_of().
+  void code(text::Id name, std::string_view symbol, std::string_view figures);
+  /// The same without the name in front.
+  void meaning(text::Id name, std::string_view symbol, std::string_view figures);
+
+  /// What the figures stand for, as it is said within a sentence; nothing when the table lacks them.
+  [[nodiscard]] std::optional<std::string> meaning_of(std::string_view symbol,
+                                                      std::string_view figures) const;
+  /// "west (270°)" of degrees from 10 to 360.
+  [[nodiscard]] std::string compass(int degrees) const;
+
+  [[nodiscard]] Told told() const;
+  /// The whole of it. Say nothing more behind.
+  [[nodiscard]] std::string take();
+
+ private:
+  text::Language language_;
+  std::string text_;
+  std::string missing_;
+  bool said_ = false;
+  bool unusual_ = false;
+  bool wrong_ = false;
+};
+
+/// True for a text of solidi alone; an empty one is.
+[[nodiscard]] bool is_not_reported(std::string_view figures);
+
+}  // namespace explain
