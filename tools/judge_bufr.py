@@ -202,8 +202,19 @@ def waves(o):
     return measured + by_wind + swells[0] + swells[1]
 
 
+def whole(o):
+    """Without the fields of which figures are lacking or too many: nobody knows what such a value is."""
+    result = dict(o)
+    for name, width in WIDTHS.items():
+        widths = (1, 2) if name in ("LaMin", "LoMin") else (width,)
+        if not unset(o[name]) and (o[name].strip("0123456789/") or len(o[name]) not in widths):
+            result[name] = ""
+    return result
+
+
 def expected(o, ship, wigos):
     """Every element of the template in its order: descriptor and value, None for a missing one."""
+    o = whole(o)
     at, (north, east) = when(o), where(o)
     course = number(o["Ds"])
     pressure = number(o["PPPP"])
@@ -308,7 +319,8 @@ WIDTHS = {"YY": 2, "GG": 2, "Qc": 1, "LoDeg": 3, "LaDeg": 2, "LaMin": 2, "LoMin"
           "ff": 2, "SnT": 1, "TTT": 3, "SnTd": 1, "TdTdTd": 3, "PPPP": 4, "a": 1, "ppp": 3, "ww": 2, "W1": 1, "W2": 1,
           "Nh": 1, "CL": 1, "CM": 1, "CH": 1, "Ds": 1, "Vs": 1, "Ss": 1, "TwTwTw": 3, "PwaPwa": 2, "HwaHwa": 2,
           "PwPw": 2, "HwHw": 2, "dw1dw1": 2, "dw2dw2": 2, "Pw1Pw1": 2, "Hw1Hw1": 2, "Pw2Pw2": 2, "Hw2Hw2": 2, "Is": 1,
-          "EsEs": 2, "Rs": 1, "Sw": 1, "TbTbTb": 3, "ci": 1, "Si": 1, "bi": 1, "Di": 1, "zi": 1, "LogExtra": 4}
+          "EsEs": 2, "Rs": 1, "Sw": 1, "TbTbTb": 3, "ci": 1, "Si": 1, "bi": 1, "Di": 1, "zi": 1, "LogExtra": 4,
+          "iw": 1, "iX": 1, "fff": 3, "gg": 2, "GGExact": 2}
 
 EDGES = {"SnT": "01", "SnTd": "01", "Ss": "01234567", "Qc": "1357", "Sw": "0125670125673", "a": "0123456780123456784",
          "dd": ["00", "01", "18", "36", "99", "37"], "dw1dw1": ["00", "36", "99"], "dw2dw2": ["00", "36", "99"],
@@ -328,8 +340,10 @@ def random_field(dice, name):
     if kind <= 4 and name in EDGES:
         return dice.choice(EDGES[name])
     figures = "".join(dice.choice("0123456789") for _ in range(width))
-    # A figure of several that could not be read.
-    return "/" + figures[1:] if kind == 9 and width > 1 and dice.randrange(4) == 0 else figures
+    if kind == 9:
+        # A figure that could not be read, one too many or too few, one that is none.
+        return dice.choice([figures] * 4 + ["/" + figures[1:], figures + "0", figures[1:], "x" + figures[1:]])
+    return figures
 
 
 def random_observations(dice, count, call_signs):
@@ -342,7 +356,7 @@ def random_observations(dice, count, call_signs):
                  f"GG={dice.choice([0, 3, 6, 9, 12, 15, 18, 21, dice.randrange(24)]):02}"]
         sparse = dice.randrange(8) == 0
         for name in WIDTHS:
-            if name in ("YY", "GG") or (sparse and dice.randrange(4)):
+            if name in ("YY", "GG", "iw", "iX", "fff", "gg", "GGExact") or (sparse and dice.randrange(4)):
                 continue
             lines.append(f"{name}={random_field(dice, name)}")
         if dice.randrange(3) == 0:

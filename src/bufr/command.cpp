@@ -9,10 +9,10 @@
 #include "bufr/elements.h"
 #include "bufr/message.h"
 #include "bufr/output_file.h"
-#include "bufr/reports.h"
 #include "bufr/wigos.h"
 #include "cli/commands.h"
 #include "cli/observations.h"
+#include "cli/reports.h"
 #include "observation/report_file.h"
 #include "observation/report_reader.h"
 #include "text/strings.h"
@@ -157,24 +157,30 @@ void name_unplaced(const cli::Input& input, std::size_t line,
 }
 
 bool write_reports(cli::Input& input, const ReportMonth& month, Writer& writer) {
-  const auto check = [&](std::string_view text, std::size_t) -> std::optional<std::string> {
+  const auto refused = [&](std::string_view text, std::size_t line, bool write) {
     const auto report = read(text, month);
-    if (!report) return std::nullopt;
-    if (auto wrong = contradiction(month, report->record)) return wrong;
-    return writer.check(report->record);
+    if (!report) return false;
+    auto reason = contradiction(month, report->record);
+    if (!reason) reason = writer.check(report->record);
+    if (!reason && write) {
+      name_unplaced(input, line, *report);
+      reason = writer.write(report->record, {}, input, line);
+    }
+    if (reason) cli::complain(input, line, cli::shown(*reason));
+    return reason.has_value();
   };
-  const auto write = [&](std::string_view text, std::size_t line) -> std::optional<std::string> {
-    if (auto wrong = check(text, line)) return wrong;
-    const auto report = read(text, month);
-    if (!report) return std::nullopt;
-    name_unplaced(input, line, *report);
-    return writer.write(report->record, {}, input, line);
+  const auto go_through = [&](bool write) {
+    const auto use = [&](std::string_view text, std::size_t line) {
+      return !refused(text, line, write);
+    };
+    // What stands around the reports is nobody's observation.
+    return cli::for_each_numbered_report(input, use, [](std::string_view) {}) == cli::kOk;
   };
   if (input.can_rewind()) {
-    if (!for_each_report(input, check)) return false;
+    if (!go_through(false)) return false;
     input.rewind();
   }
-  return for_each_report(input, write);
+  return go_through(true);
 }
 
 std::optional<ReportMonth> month_of_reports(const Arguments& arguments) {
@@ -191,13 +197,13 @@ std::optional<ReportMonth> month_of_reports(const Arguments& arguments) {
 int command(const std::vector<std::string>& arguments) {
   const auto result = parsed(arguments);
   if (const auto* wrong = std::get_if<std::string>(&result)) return cli::usage(*wrong, kUsage);
-  const Arguments& wanted = std::get<Arguments>(result);
+  const auto& wanted = std::get<Arguments>(result);
   cli::Input input(wanted.file);
   if (!input.problem().empty()) {
     cli::complain(input, 0, input.problem());
     return cli::kWrong;
   }
-  OutputFile output(wanted.output);
+  OutputFile output(wanted.output, wanted.file);
   if (!output.problem().empty()) {
     std::cerr << "kavrel-cli: " << output.problem() << "\n";
     return cli::kWrong;

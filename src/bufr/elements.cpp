@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "codetables/tables/quadrant.h"
+#include "observation/report_groups.h"
 #include "platform/calendar.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -29,7 +30,7 @@ double rounded(double value, int decimals) {
 }
 
 bool is_missing(std::string_view field) {
-  return field.find_first_not_of("/*") == std::string_view::npos;
+  return field.find_first_not_of("/* ") == std::string_view::npos;
 }
 
 bool is_solidi(std::string_view field) {
@@ -585,15 +586,6 @@ void for_each_field(const Element& element, const Struct_Weather& record, Use us
   }
 }
 
-// Letters where figures belong: such a value would be missed by nobody.
-bool has_foreign_signs(const Element& element, const Struct_Weather& record) {
-  bool foreign = false;
-  for_each_field(element, record, [&](std::string_view, const std::string& text) {
-    foreign = foreign || text.find_first_not_of("0123456789/*") != std::string::npos;
-  });
-  return foreign;
-}
-
 std::string shown_fields(const Element& element, const Struct_Weather& record) {
   std::string shown;
   for_each_field(element, record, [&](std::string_view name, const std::string& text) {
@@ -601,6 +593,45 @@ std::string shown_fields(const Element& element, const Struct_Weather& record) {
     shown.append(name).append("=").append(text);
   });
   return shown;
+}
+
+/// How many figures a field has where it has any; nothing for a field that is no element's.
+std::optional<std::size_t> figures_of(const WeatherField& field) {
+  constexpr std::size_t kHumidity = 4;
+  if (field.member == &Struct_Weather::LogExtra) return kHumidity;
+  if (field.member == &Struct_Weather::iR) return std::nullopt;
+  for (const observation::GroupRow& row : observation::group_rows())
+    for (const observation::Symbol& symbol : row.used())
+      if (symbol.field == field.member) return symbol.width;
+  return std::nullopt;
+}
+
+bool has_its_figures(const WeatherField& field, const std::string& text, std::size_t figures) {
+  if (is_missing(text)) return true;
+  if (text.find_first_not_of("0123456789/*") != std::string::npos) return false;
+  // Minutes are entered, and only their tenth of a degree is sent; "5" and "05" are the same.
+  const bool minutes =
+      field.member == &Struct_Weather::LaMin || field.member == &Struct_Weather::LoMin;
+  return minutes ? text.size() <= 2 : text.size() == figures;
+}
+
+/// The record without fields that hold too few or too many figures, or anything else: "7" for an
+/// air temperature may be 0.7 or 7.0 degrees. Each is named in `odd`.
+Struct_Weather with_whole_figures(const Struct_Weather& record, std::vector<std::string>& odd) {
+  static const auto kFields = [] {
+    std::vector<std::pair<const WeatherField*, std::size_t>> fields;
+    for (const WeatherField& field : weather_fields())
+      if (const auto figures = figures_of(field)) fields.emplace_back(&field, *figures);
+    return fields;
+  }();
+  Struct_Weather result = record;
+  for (const auto& [field, figures] : kFields) {
+    std::string& text = result.*field->member;
+    if (has_its_figures(*field, text, figures)) continue;
+    odd.push_back(std::string(field->name).append("=").append(text));
+    text.clear();
+  }
+  return result;
 }
 
 // A name that is not of the international alphabet, or that the element is too short for, would be
@@ -632,16 +663,16 @@ Contents contents_of(const Struct_Weather& record, const ShipFixedData& ship) {
     else
       contents.odd.push_back("CallSign=" + record.CallSign);
   }
-  const observation::Values values = observation::values_of(record);
-  const Source source{record, values, ship};
+  const Struct_Weather whole = with_whole_figures(record, contents.odd);
+  const observation::Values values = observation::values_of(whole);
+  const Source source{whole, values, ship};
   for (const Element& element : kElements) {
     const Reading reading = element.read(source);
     const bool fits =
         reading.value && *reading.value >= element.lowest && *reading.value <= element.highest;
     if (fits) contents.values.push_back({&element, *reading.value});
-    if (reading.odd || (reading.value && !fits) ||
-        (!reading.value && has_foreign_signs(element, record)))
-      contents.odd.push_back(shown_fields(element, record));
+    if (reading.odd || (reading.value && !fits))
+      contents.odd.push_back(shown_fields(element, whole));
   }
   return contents;
 }

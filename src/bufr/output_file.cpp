@@ -12,7 +12,8 @@ namespace bufr {
 
 namespace fs = std::filesystem;
 
-OutputFile::OutputFile(std::string name) : name_(std::move(name)), out_(&file_) {
+OutputFile::OutputFile(std::string name, const std::string& input)
+    : name_(std::move(name)), out_(&file_) {
   if (name_ == "-") {
     out_ = &std::cout;
     if (::isatty(STDOUT_FILENO) == 1) problem_ = "a terminal shows no BUFR; --output names a file";
@@ -20,6 +21,10 @@ OutputFile::OutputFile(std::string name) : name_(std::move(name)), out_(&file_) 
   }
   std::error_code error;
   const fs::file_status there = fs::status(name_, error);
+  if (fs::equivalent(name_, input, error)) {
+    problem_ = name_ + " is what is read";
+    return;
+  }
   if (!fs::exists(there) || fs::is_regular_file(there)) staged_ = name_ + ".part";
   errno = 0;
   file_.open(staged_.empty() ? name_ : staged_, std::ios::binary | std::ios::trunc);

@@ -13,8 +13,8 @@ namespace bufr {
 /// the messages come.
 class OutputFile {
  public:
-  /// "-" is standard output.
-  explicit OutputFile(std::string name);
+  /// "-" is standard output; the file `input` is not written over.
+  OutputFile(std::string name, const std::string& input);
   /// Without commit() nothing is left of it.
   ~OutputFile();
   OutputFile(const OutputFile&) = delete;

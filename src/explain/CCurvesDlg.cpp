@@ -33,6 +33,7 @@ CCurvesDlg::CCurvesDlg(ui::Services& services, explain::Days days, Curve start, 
       ship_(std::move(ship)) {
   point.spoken = {id::kCurvesChosen};
   point.read_only = true;
+  select_on_focus(0);  // it is read, not typed over
   point.on_arrow = [this](ui::Key key) { go(key); };
   pressure.spoken = {id::kSpokenChartPressure};
   temperature.spoken = {id::kSpokenChartTemperature};

@@ -9,12 +9,13 @@ namespace id = text::id;
 
 CPlainWordsDlg::CPlainWordsDlg(ui::Services& services, std::string title, std::string report,
                                explain::YearMonth when)
-    : OkDialog(services, "CPlainWordsDlg", {}),
-      words(*this, "words", {id::kPlainWordsLabel}),
+    : OkDialog(services, "CPlainWordsDlg", {id::kPlainTitle}),
+      words(*this, "words"),
       help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp),
-      title_(std::move(title)),
       report_(std::move(report)),
-      when_(when) {}
+      when_(when) {
+  words.literal_caption = std::move(title);
+}
 
 void CPlainWordsDlg::on_open() {
   constexpr int kLinesShown = 20;

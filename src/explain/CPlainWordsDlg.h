@@ -8,7 +8,8 @@
 
 class CPlainWordsDlg : public ui::OkDialog {
  public:
-  /// `title` says which report it is; `when` its year and month, where they are known.
+  /// `title` says which report it is, above its lines; `when` its year and month, where they are
+  /// known.
   CPlainWordsDlg(ui::Services& services, std::string title, std::string report,
                  explain::YearMonth when = {});
 

@@ -387,8 +387,8 @@ std::vector<SaveError> CVelmaranDlg::save_remarks() const {
   return remarks;
 }
 
-// Where the error is put right: the first of its controls that is empty or wrong, else the first;
-// none that is locked.
+// Where the error is put right: the first of its controls that is empty or wrong, or of a doubt the
+// first that is not empty, else the first; none that is locked.
 ui::Control* CVelmaranDlg::place_of(const SaveError& error) const {
   ui::Control* first = nullptr;
   for (ui::Control* const control : controls()) {
@@ -397,7 +397,9 @@ ui::Control* CVelmaranDlg::place_of(const SaveError& error) const {
     if (!named || !control->can_focus() || control->read_only) continue;
     const bool lacks =
         control->kind == ui::Kind::kChoice ? control->selected < 0 : control->content.empty();
-    if (lacks || control->mark == ui::kWrongMark) return control;
+    // A doubt is about what was entered.
+    const bool meant = error.doubt ? !lacks : lacks || control->mark == ui::kWrongMark;
+    if (meant) return control;
     if (first == nullptr) first = control;
   }
   return first;

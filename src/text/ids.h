@@ -1504,6 +1504,7 @@ inline constexpr Id kPlainPoint15{45178};
 // What shows them
 inline constexpr Id kPlainWordsLabel{45179};
 inline constexpr Id kPlainNoReport{45180};
+inline constexpr Id kPlainTitle{45181};
 // End of plain words
 // Doubts before sending
 inline constexpr Id kDoubt{45600};  ///< in front of each
@@ -1511,6 +1512,7 @@ inline constexpr Id kDoubtShipTooFast{45601};
 inline constexpr Id kDoubtSpeedAgainstPositions{45602};
 inline constexpr Id kDoubtCourseAgainstPositions{45603};
 inline constexpr Id kDoubtTendencyAgainstLast{45604};
+inline constexpr Id kDoubtTendencyAgainstSixHours{45653};
 inline constexpr Id kDoubtPressureJump{45605};
 inline constexpr Id kDoubtAirSignBesideLast{45606};
 inline constexpr Id kDoubtAirJump{45607};

@@ -211,6 +211,14 @@ TEST_F(BufrCommand, TellsAnOutputThatCannotBeWritten) {
   EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
+TEST_F(BufrCommand, WritesNotOverWhatItReads) {
+  file("one.obs", kObservation);
+  const Outcome outcome = run("--output ./one.obs one.obs");
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.error, "kavrel-cli: ./one.obs is what is read\n");
+  EXPECT_EQ(slurp(folder_ / "one.obs"), kObservation);
+}
+
 TEST_F(BufrCommand, LeavesTheFileThatWasThereWhenItFails) {
   file("out.bufr", "as it was");
   EXPECT_EQ(run("--output out.bufr", "TTT=152\n").status, 2);

@@ -13,6 +13,7 @@
 
 #include "bufr/message.h"
 #include "observation/records.h"
+#include "observation/report_reader.h"
 
 namespace {
 
@@ -109,6 +110,27 @@ TEST(BufrElements, AreMissingForEveryMissingForm) {
     EXPECT_EQ(values(found), bare) << missing;
     EXPECT_EQ(found.call_sign, "") << missing;
     EXPECT_EQ(found.odd, std::vector<std::string>()) << missing;
+  }
+}
+
+// "7" may be 0.7 or 7.0 degrees; the report would be torn as well.
+TEST(BufrElements, OfTooFewOrTooManyFiguresAreMissingAndNamed) {
+  const auto bare = values({{"SnT", "0"}});
+  for (const auto& [name, text] : std::initializer_list<records::Setting>{{"TTT", "7"},
+                                                                          {"TTT", "0152"},
+                                                                          {"TTT", "15.2"},
+                                                                          {"PPPP", "132"},
+                                                                          {"PPPP", "10132"},
+                                                                          {"dd", "9"},
+                                                                          {"VV", "9"},
+                                                                          {"N", "06"},
+                                                                          {"h", "x"},
+                                                                          {"Di", "-1"},
+                                                                          {"dw1dw1", "5"},
+                                                                          {"LogExtra", "75"}}) {
+    const Contents found = contents({{"SnT", "0"}, {name, text}});
+    EXPECT_EQ(values(found), bare) << name;
+    EXPECT_EQ(found.odd, std::vector<std::string>{std::string(name) + "=" + std::string(text)});
   }
 }
 
@@ -360,6 +382,94 @@ TEST(BufrElements, OfTheShip) {
   EXPECT_EQ(contents({{"CallSign", "ABCDEFGHIJ"}}).call_sign, "");
   EXPECT_EQ(contents({{"CallSign", "ABCDEFGHIJ"}}).odd,
             std::vector<std::string>{"CallSign=ABCDEFGHIJ"});
+}
+
+std::map<std::string, double> values_of_report(const char* text) {
+  auto report = observation::read_report(text, Struct_Weather({}, {}));
+  report->record.Year = "2014";
+  report->record.Month = "01";
+  return values(bufr::contents_of(report->record, ShipFixedData()));
+}
+
+// Real reports, worked out by hand from their groups.
+TEST(BufrElements, OfRealReports) {
+  const std::map<std::string, double> off_canada{
+      {"#1#directionOfMotionOfMovingObservingPlatform", 135},
+      {"#1#movingObservingPlatformSpeed", 9},
+      {"#1#stationType", 1},
+      {"#1#year", 2014},
+      {"#1#month", 1},
+      {"#1#day", 26},
+      {"#1#hour", 13},
+      {"#1#minute", 0},
+      {"#1#latitude", 52.5},
+      {"#1#longitude", -129.8},
+      {"#1#pressureReducedToMeanSeaLevel", 101320},
+      {"#1#3HourPressureChange", 10},
+      {"#1#characteristicOfPressureTendency", 3},
+      {"#1#airTemperature", 284.15},
+      {"#1#methodOfWetBulbTemperatureMeasurement", 0},
+      {"#1#wetBulbTemperature", 283.65},
+      {"#1#dewpointTemperature", 283.15},
+      {"#1#horizontalVisibility", 20000},
+      {"#1#cloudCoverTotal", 100},
+      {"#1#verticalSignificanceSurfaceObservations", 7},
+      {"#1#heightOfBaseOfCloud", 100},
+      {"#1#cloudType", 37},
+      {"#2#cloudType", 61},
+      {"#3#cloudType", 60},
+      {"#1#methodOfWaterTemperatureAndOrOrSalinityMeasurement", 0},
+      {"#1#oceanographicWaterTemperature", 285.15},
+      {"#1#periodOfWindWaves", 4},
+      {"#1#heightOfWindWaves", 1},
+      {"#1#pastWeather1", 2},
+      {"#1#pastWeather2", 2},
+      {"#1#instrumentationForWindMeasurement", 12},
+      {"#1#timeSignificance", 2},
+      {"#8#timePeriod", -10},
+      {"#1#windDirection", 160},
+      {"#1#windSpeed", 8.7}};
+  EXPECT_EQ(
+      values_of_report("BBXX PCHM 26134 99525 71298 41298 81617 10110 20100 40132 53001 7//22 "
+                       "8/7// 22234 00120 20402 80105="),
+      off_canada);
+  // Its clouds are torn, and the groups behind 222 hold one that has no place.
+  const std::map<std::string, double> off_norway{
+      {"#1#directionOfMotionOfMovingObservingPlatform", 0},
+      {"#1#movingObservingPlatformSpeed", 0},
+      {"#1#stationType", 1},
+      {"#1#year", 2014},
+      {"#1#month", 1},
+      {"#1#day", 1},
+      {"#1#hour", 0},
+      {"#1#minute", 0},
+      {"#1#latitude", 71.3},
+      {"#1#longitude", 22.3},
+      {"#1#pressureReducedToMeanSeaLevel", 102100},
+      {"#1#3HourPressureChange", 570},
+      {"#1#characteristicOfPressureTendency", 2},
+      {"#1#airTemperature", 267.25},
+      {"#1#dewpointTemperature", 266.25},
+      {"#1#horizontalVisibility", 20000},
+      {"#1#cloudCoverTotal", 88},
+      {"#1#heightOfBaseOfCloud", 600},
+      {"#1#methodOfWaterTemperatureAndOrOrSalinityMeasurement", 0},
+      {"#1#oceanographicWaterTemperature", 279.85},
+      {"#1#periodOfWaves", 7},
+      {"#1#heightOfWaves", 3.5},
+      {"#1#presentWeather", 26},
+      {"#1#timePeriod", -6},
+      {"#1#pastWeather1", 8},
+      {"#1#pastWeather2", 2},
+      {"#1#instrumentationForWindMeasurement", 12},
+      {"#1#timeSignificance", 2},
+      {"#8#timePeriod", -10},
+      {"#1#windDirection", 20},
+      {"#1#windSpeed", 6.2}};
+  EXPECT_EQ(
+      values_of_report("BBXX XXXX 01004 99713 10223 41598 70212 11059 21069 40210 52057 72682 "
+                       "872xx 22200 00067 10707 70033 333 91131="),
+      off_norway);
 }
 
 // Whatever bytes a record holds, its message is made, and every number fits its element.

@@ -17,7 +17,8 @@ struct Form {
   std::unique_ptr<fakes::SampleMainWindow> screen;
   std::unique_ptr<desktop::ScreenWindow> window;
 
-  Form() {
+  explicit Form(bool japanese = false) {
+    if (japanese) world.fake.japanese();
     screen = std::make_unique<fakes::SampleMainWindow>(world.services);
     screen->open();
     window = std::make_unique<desktop::ScreenWindow>(*screen, nullptr);
@@ -84,6 +85,36 @@ TEST(SaveErrorList, ADoubleClickLeadsToTheField) {
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
   });
   EXPECT_EQ("Ds", form.focus());
+}
+
+// Fog in which one sees ten miles: the doubt leads to its field, and once it is corrected the list
+// does not speak of it any more.
+TEST(SaveErrorList, ADoubtIsCorrectedAndGone) {
+  for (const bool japanese : {false, true}) {
+    const Form form(japanese);
+    form.enter("VV", "97");
+    form.enter("ww", "45");
+    const QString mark = japanese ? QStringLiteral("要確認：") : QStringLiteral("Doubt: ");
+    form.save([&](QListWidget& list) {
+      for (int i = 0; i < 4 && !list.hasFocus(); ++i) tests::press(Qt::Key_Tab);
+      ASSERT_TRUE(list.hasFocus());
+      // It stands below everything that is missing.
+      tests::press(Qt::Key_End);
+      ASSERT_EQ(1, list.selectedItems().size());
+      EXPECT_TRUE(list.selectedItems().front()->text().startsWith(mark));
+      EXPECT_EQ(1, list.findItems(mark, Qt::MatchStartsWith).size());
+      tests::press(Qt::Key_Return);
+    });
+    EXPECT_EQ("VV", form.focus());
+    tests::type("92");
+    tests::press(Qt::Key_Tab);
+    EXPECT_EQ("92", form.screen->find("VV")->content);
+    form.save([&](QListWidget& list) {
+      EXPECT_LT(0, list.count());
+      EXPECT_TRUE(list.findItems(mark, Qt::MatchStartsWith).empty());
+      tests::press(Qt::Key_Escape);
+    });
+  }
 }
 
 }  // namespace

@@ -147,8 +147,8 @@ TEST(Doubts, SayWhatWasEnteredAndWhatItIsHeldAgainst) {
   EXPECT_EQ(
       said("dw1dw1=27 Pw1Pw1=08 Hw1Hw1=04 dw2dw2=27 Pw2Pw2=08 Hw2Hw2=04", "", Language::kEnglish),
       "Both swells are the same: from 270°, 8 seconds, 2.0 m.");
-  EXPECT_EQ(said("dd=27 ff=57", "dd=27 ff=20", Language::kEnglish),
-            "The wind was 20 knots 3 hours ago and is 57 knots now.");
+  EXPECT_EQ(said("dd=27 ff=61", "dd=27 ff=20", Language::kEnglish),
+            "The wind was 20 knots 3 hours ago and is 61 knots now.");
 }
 
 // A habit of reading whole degrees is no slip.
@@ -164,10 +164,19 @@ TEST(Doubts, TakeWholeDegreesForAHabitWhereTheLastObservationHadThem) {
 TEST(Doubts, CompareWindsOfBothUnits) {
   EXPECT_EQ(raised_by(record_of("dd=27 ff=20"), {"", "", "", "iw=1 dd=27 ff=10"}),
             std::vector<std::string>());
-  EXPECT_EQ(raised_by(record_of("dd=27 ff=57"), {"", "", "", "iw=1 dd=27 ff=28"}),
+  EXPECT_EQ(raised_by(record_of("dd=27 ff=61"), {"", "", "", "iw=1 dd=27 ff=15"}),
             std::vector<std::string>());
-  EXPECT_EQ(raised_by(record_of("dd=27 ff=57"), {"", "", "", "iw=1 dd=27 ff=10"}),
+  EXPECT_EQ(raised_by(record_of("dd=27 ff=61"), {"", "", "", "iw=1 dd=27 ff=10"}),
             std::vector<std::string>{"wind_jump"});
+}
+
+// The sea of a storm that has passed goes down more slowly than the wind.
+TEST(Doubts, KnowTheWindThatRaisedTheWaves) {
+  const std::string_view after = "dd=27 ff=15 PwPw=09 HwHw=13";
+  EXPECT_EQ(raised_by(record_of(after), {"", "", "", "dd=27 ff=40"}), std::vector<std::string>());
+  EXPECT_EQ(raised_by(record_of(after), {"", "", "", "dd=27 ff=16"}),
+            std::vector<std::string>{"waves_without_wind"});
+  EXPECT_EQ(raised_by(record_of(after), {}), std::vector<std::string>{"waves_without_wind"});
 }
 
 TEST(Doubts, AreHeldAgainstTheLastObservationBeforeTheHour) {

@@ -209,6 +209,15 @@ TEST(SaveErrors, ADoubtLeadsToItsField) {
   opened->type("ww", "45");
   correct(*opened, "Doubt: Fog (ww 45)");
   EXPECT_EQ("VV", opened->window.focused()->name);
+  // The pressure was typed itself: it is not the reading, which is empty, that is doubted.
+  opened->type("VV", "92");
+  opened->files.add_file("C:\\out\\14111509.tlx",
+                         "BBXX JXKV 15094 99353 11442 41/// ///// 40232 .....");
+  opened->type("PPPP", "1012.1");
+  opened->type("a", "2");
+  opened->type("ppp", "1.1");
+  correct(*opened, "Doubt: The pressure was 1023.2 hPa");
+  EXPECT_EQ("PPPP", opened->window.focused()->name);
 }
 
 }  // namespace

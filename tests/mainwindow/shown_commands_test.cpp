@@ -47,7 +47,7 @@ TEST(ShownCommands, NameTheirKeysInBothLanguages) {
 
 TEST(ShownCommands, WaitForAFieldThatIsRefused) {
   for (const mainwindow::ShownCommand& command : mainwindow::shown_commands()) {
-    if (command.only_shows) continue;
+    if (command.only_shows) continue;  // what is typed is shown as it is
     const auto opened = std::make_unique<Opened>();
     ASSERT_TRUE(fakes::enter(opened->window, opened->control("VV"), "7"));
     opened->world.windows.expect(id::kVisibilityRange);

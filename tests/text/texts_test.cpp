@@ -89,6 +89,8 @@ TEST(Help, EveryDialogHasItsTopic) {
       {"CTrueDirWindDlg", "11-26"},
       {"CThumidityDlg", "11-27"},
       {"CSeaMapDlg", "11-28"},
+      {"CPlainWordsDlg", "31"},
+      {"CCurvesDlg", "34"},
       {"CFixDataDlg", "4-1"},
       {"CKeyObserveDlg", "4-2"},
       {"CVosClimDlg", "7"},

@@ -84,6 +84,16 @@ constexpr DoubtRow kRows[] = {
      "WMO-No. 305, chapter 6, pressure and tendency; 1.5 hPa: own choice, for two readings that "
      "are rounded",
      {&W::PPPP, &W::a, &W::ppp}},
+    {"tendency_against_six_hours",
+     kAgainstThePast,
+     id::kDoubtTendencyAgainstSixHours,
+     rules::tendency_against_six_hours,
+     [](const V& now, const Before& before) {
+       return words(tenths(before.last->pressure), tenths(now.change), tenths(now.pressure));
+     },
+     "WMO-No. 305, chapter 6, pressure and tendency; twice the change and 9 hPa: own choice, for "
+     "ships that report every six hours",
+     {&W::PPPP, &W::a, &W::ppp}},
     {"pressure_jump",
      kAgainstThePast,
      id::kDoubtPressureJump,
@@ -131,7 +141,7 @@ constexpr DoubtRow kRows[] = {
        return jump_words(observation::knots_of(*before.last), before, observation::knots_of(now),
                          0);
      },
-     "WMO-No. 305, chapter 6, time consistency; 30 knots and 2 more an hour: own choice, above "
+     "WMO-No. 305, chapter 6, time consistency; 34 knots and 2 more an hour: own choice, above "
      "fronts",
      {&W::ff}},
     {"same_as_last",

@@ -67,6 +67,7 @@ bool ship_too_fast(const Values& now, const Before& before);
 bool speed_against_positions(const Values& now, const Before& before);
 bool course_against_positions(const Values& now, const Before& before);
 bool tendency_against_last(const Values& now, const Before& before);
+bool tendency_against_six_hours(const Values& now, const Before& before);
 bool pressure_jump(const Values& now, const Before& before);
 bool air_sign_beside_last(const Values& now, const Before& before);
 bool air_jump(const Values& now, const Before& before);

@@ -102,10 +102,14 @@ bool tendency_without_amount(const Values& now, const Before& /*before*/) {
 }
 
 // Wind waves three times as high as the wind raises in the end, and two metres more for a wind that
-// has just gone down. The sea of a wind that blew for days is 0.21 U squared / g high.
-bool waves_without_wind(const Values& now, const Before& /*before*/) {
-  const auto wind = observation::metres_per_second_of(now);
+// has just gone down; where the wind of hours ago is known, that one raised them too. The sea of a
+// wind that blew for days is 0.21 U squared / g high.
+bool waves_without_wind(const Values& now, const Before& before) {
+  constexpr int kRecent = 12;
+  auto wind = observation::metres_per_second_of(now);
   if (!wind || !now.wind_waves.height) return false;
+  if (before.last != nullptr && before.hours <= kRecent)
+    wind = std::max(*wind, observation::metres_per_second_of(*before.last).value_or(0.0));
   const double in_the_end = 0.21 * *wind * *wind / kGravity;
   return *now.wind_waves.height > 2.0 + 3.0 * in_the_end;
 }

@@ -68,8 +68,10 @@ std::optional<Leg> leg(const Values& now, const Before& before) {
   return Leg{miles(*before.last, now), static_cast<double>(before.hours)};
 }
 
-// Course and speed are those of the three hours before the observation.
+// Course and speed are those of the three hours before the observation. They say something of six
+// hours too, from one main hour to the next, where more may have happened.
 constexpr int kHoursOfCourse = 3;
+constexpr int kTwiceThat = 6;
 
 }  // namespace
 
@@ -93,31 +95,30 @@ bool ship_too_fast(const Values& now, const Before& before) {
 // Code table 4451: 0 is less than a knot, 1 from 1 to less than 6, and so on; 9 has no upper bound.
 bool speed_against_positions(const Values& now, const Before& before) {
   constexpr double kClass = 5.0;
-  constexpr double kUnsure = 5.0;
   constexpr int kOpenClass = 9;
   const auto run = leg(now, before);
-  if (!run || before.hours != kHoursOfCourse || !now.speed || ship_too_fast(now, before))
-    return false;
+  if (!run || before.hours > kTwiceThat || !now.speed || ship_too_fast(now, before)) return false;
+  const double unsure = before.hours > kHoursOfCourse ? 10.0 : 5.0;
   const double lowest = *now.speed == 0 ? 0.0 : 1.0 + kClass * (*now.speed - 1);
   const double highest = 1.0 + kClass * *now.speed;
   const double knots = run->run / run->hours;
-  return knots < lowest - kUnsure || (*now.speed != kOpenClass && knots > highest + kUnsure);
+  return knots < lowest - unsure || (*now.speed != kOpenClass && knots > highest + unsure);
 }
 
 // Code table 0700: 1 north-east and so on round to 8, north. An officer may give the course that
 // the ship steers now, so a turn of less than a right angle is let pass.
 bool course_against_positions(const Values& now, const Before& before) {
   constexpr double kClass = 45.0;
-  constexpr double kMost = 90.0;
   constexpr double kFarEnough = 25.0;
   constexpr double kCircle = 360.0;
   constexpr int kNorth = 8;
   const auto run = leg(now, before);
-  if (!run || before.hours != kHoursOfCourse || !now.course || *now.course < 1 ||
-      *now.course > kNorth || run->run < kFarEnough || ship_too_fast(now, before))
+  if (!run || before.hours > kTwiceThat || !now.course || *now.course < 1 || *now.course > kNorth ||
+      run->run < kFarEnough || ship_too_fast(now, before))
     return false;
+  const double most = before.hours > kHoursOfCourse ? 120.0 : 90.0;
   const double apart = std::abs(bearing(*before.last, now) - kClass * *now.course);
-  return std::min(apart, kCircle - apart) > kMost;
+  return std::min(apart, kCircle - apart) > most;
 }
 
 // The pressure of three hours ago and the change since give the pressure of now; each is rounded,
@@ -130,9 +131,19 @@ bool tendency_against_last(const Values& now, const Before& before) {
   return above(std::abs(*now.pressure - *then - *now.change), kMost);
 }
 
+// What the pressure did in the three hours before these is not known; it is seldom quite another
+// thing.
+bool tendency_against_six_hours(const Values& now, const Before& before) {
+  constexpr double kMost = 9.0;
+  if (before.hours != kTwiceThat || !now.pressure || !now.change || !before.last->pressure)
+    return false;
+  return above(std::abs(*now.pressure - *before.last->pressure - 2.0 * *now.change), kMost);
+}
+
 bool pressure_jump(const Values& now, const Before& before) {
   constexpr Jump kMost = {8.0, 2.5};
   return before.last != nullptr && !tendency_against_last(now, before) &&
+         !tendency_against_six_hours(now, before) &&
          jumps(now.pressure, before.last->pressure, before.hours, kMost);
 }
 
@@ -159,7 +170,7 @@ bool sea_jump(const Values& now, const Before& before) {
 }
 
 bool wind_jump(const Values& now, const Before& before) {
-  constexpr Jump kMost = {30.0, 2.0};
+  constexpr Jump kMost = {34.0, 2.0};
   return before.last != nullptr && jumps(observation::knots_of(now),
                                          observation::knots_of(*before.last), before.hours, kMost);
 }

@@ -24,10 +24,10 @@ using observation::Values;
 using observation::WaveValues;
 
 // What is rarely right, beside what the tables of the elements hold themselves.
-constexpr int kStrongWind = 50;               // knots
-constexpr int kHighWaves = 10;                // metres
-constexpr double kLargestAirSea = 15.0;       // degrees between air and sea
-constexpr std::string_view kVariable = "99";  // of a wind
+constexpr int kStrongWind = 50;                  // knots
+constexpr int kHighWaves = 10;                   // metres
+constexpr double kLargestAirSea = 15.0;          // degrees between air and sea
+constexpr std::string_view kSpeedInNext = "99";  // ff of a wind whose speed is in 00fff
 constexpr std::string_view kNone = "00";
 
 std::string tenths(double value) {
@@ -167,7 +167,8 @@ void doubt_strong_wind(Sentence& s, const Heard& heard) {
 // How fast, as the group itself says it; a speed in 00fff is said there.
 std::string speed_of_nddff(Sentence& s, const Heard& heard) {
   const Struct_Weather& record = heard.record;
-  if (!record.fff.empty()) return std::string(s.get(id::kPlainSpeedNext));
+  if (!record.fff.empty())
+    return is_not_reported(record.ff) ? std::string() : std::string(s.get(id::kPlainSpeedNext));
   return heard.values.wind_speed ? speed_words(s, heard, *heard.values.wind_speed) : std::string();
 }
 
@@ -201,16 +202,20 @@ void say_wind(Sentence& s, const Heard& heard) {
       s.impossible(id::kPlainNameDirection, record.dd);
     else
       s.unreadable(id::kPlainNameDirection, record.dd);
-    if (!speed.empty()) s.say(id::kPlainWindSpeedOf, {speed});
+    if (!speed.empty() && record.fff.empty())
+      s.say(id::kPlainWindSpeedOf, {speed});
+    else if (!speed.empty())
+      s.say(speed);
   }
-  if (!record.fff.empty()) {
-    if (record.ff != kVariable) s.unusual(id::kPlainNot99);
+  if (is_not_reported(record.ff)) {
+    s.not_reported(id::kPlainNameSpeed);
     return;
   }
-  if (is_not_reported(record.ff))
-    s.not_reported(id::kPlainNameSpeed);
-  else if (!values.wind_speed)
-    s.unreadable(id::kPlainNameSpeed, record.ff);
+  if (!record.fff.empty()) {
+    if (record.ff != kSpeedInNext) s.unusual(id::kPlainNot99);
+    return;
+  }
+  if (!values.wind_speed) s.unreadable(id::kPlainNameSpeed, record.ff);
   doubt_strong_wind(s, heard);
 }
 
@@ -342,7 +347,10 @@ void say_tendency(Sentence& s, const Heard& heard) {
       s.unusual(id::kPlainLargeChange);
     return;
   }
-  if (has_amount) s.say(id::kPlainChangeAlone, {tenths(text::leading_int(record.ppp) / 10.0)});
+  if (has_amount) {
+    const int amount = text::leading_int(record.ppp);
+    s.say(amount == 0 ? id::kPlainSame : id::kPlainChangeAlone, {tenths(amount / 10.0)});
+  }
   s.code(id::kPlainNameTendency, "a", record.a);
   if (has_amount) return;
   if (is_not_reported(record.ppp))

@@ -263,4 +263,14 @@ TEST(SaveErrors, EnterOnTheDialogAsOpenedChoosesNoLine) {
   EXPECT_EQ(screen.chosen(), -1);
 }
 
+TEST(SaveErrors, F1TellsOfTheDoubts) {
+  fakes::World world;
+  CSaveErrorInfoDlg screen(world.services, {"one", "two"});
+  screen.open();
+  screen.key(ui::Key::kF1);
+  EXPECT_EQ(world.help_viewer.shown,
+            std::vector<std::string>{"C:\\program\\help\\Kavrel_E.CHM::/Capter32_E.htm"});
+  EXPECT_FALSE(screen.result()) << "the list stays";
+}
+
 }  // namespace
