@@ -357,8 +357,9 @@ void add_barbs(ui::Drawing& drawing, const Days& days, const Frame& frame) {
     drawing.shapes.emplace_back(barb);
   };
   if (days.entered) add(*days.entered, days.last, Ink::kCaution);
-  for (auto past = days.past.rbegin(); past != days.past.rend(); ++past)
-    add(past->values, past->hour, Ink::kMark);
+  std::for_each(
+      days.past.rbegin(), days.past.rend(),
+      [&](const observation::PastObservation& past) { add(past.values, past.hour, Ink::kMark); });
 }
 
 void add_chosen(ui::Drawing& drawing, const Days& days, Chart chart, CurvePoint chosen,
@@ -483,9 +484,10 @@ bool has_values(const Days& days, Curve curve) {
 
 bool in_knots(const Days& days) {
   if (days.entered && days.entered->wind_speed) return days.entered->wind_in_knots;
-  for (auto past = days.past.rbegin(); past != days.past.rend(); ++past)
-    if (past->values.wind_speed) return past->values.wind_in_knots;
-  return true;
+  const auto latest = std::find_if(
+      days.past.rbegin(), days.past.rend(),
+      [](const observation::PastObservation& past) { return past.values.wind_speed.has_value(); });
+  return latest == days.past.rend() || latest->values.wind_in_knots;
 }
 
 Scale scale_of(double lowest, double highest, double least) {

@@ -95,7 +95,7 @@ class Control {
   /// What it shows tells what other controls say already. Where changes are listed, a picture's name
   /// is enough, and a text is not listed.
   bool repeats = false;
-  int selected = -1;  ///< line of a drop-down, list, choice or tree
+  int selected = -1;   ///< line of a drop-down, list, choice or tree
   int most_lines = 0;  ///< of a list, shown at once; the others scroll; 0: as many as its kind has
   int beside_line =
       -1;  ///< picture: the line of the screen's choice that it shows, where it shows one
@@ -139,7 +139,7 @@ class Control {
   /// Memo that shows one page of several: PageDown (forward) and PageUp turn it instead of scrolling.
   std::function<void(bool forward)> on_page;
   /// Read-only text that tells one of many things: the arrows, Home, End and the page keys lead to
-  /// another instead of moving in the text.
+  /// another instead of moving in the text, and none of it is selected when the focus comes.
   std::function<void(Key)> on_arrow;
   /// Before the focus enters.
   std::function<void()> on_enter;

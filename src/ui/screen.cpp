@@ -306,7 +306,7 @@ bool Screen::move_focus_inside(Control& to) {
 void Screen::enter(Control& control) {
   if (control.on_enter) control.on_enter();
   focused_ = &control;
-  selection_length_ = selection_on_focus_;
+  selection_length_ = is_gone_through(control) ? 0 : selection_on_focus_;
   ++focus_serial_;
   on_focused();
 }
@@ -527,7 +527,7 @@ void Screen::focus(Control& control) {
   // Left without its check, for which OK makes up.
   if (focused_ != nullptr && focused_ != &control) focused_->unchecked = true;
   focused_ = &control;
-  selection_length_ = -1;
+  selection_length_ = is_gone_through(control) ? 0 : -1;
   ++focus_serial_;
   on_focused();
 }

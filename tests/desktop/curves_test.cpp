@@ -74,8 +74,12 @@ TEST_F(CurvesInAWindow, AreGoneThroughWithTheKeysOfBothBlocks) {
 }
 
 TEST_F(CurvesInAWindow, ShowTheBeginningOfTheWordsAndTakeNoLetter) {
+  EXPECT_FALSE(line().hasSelectedText()) << "it is read, and not typed over";
   press(Qt::Key_Left);
   EXPECT_EQ(line().cursorPosition(), 0);
+  press(Qt::Key_Tab);
+  press(Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::focusWidget(), &line());
   EXPECT_FALSE(line().hasSelectedText());
   const QString before = line().text();
   tests::type("12a");

@@ -10,6 +10,7 @@
 #include "fakes/fake_files.h"
 #include "fakes/sample_days.h"
 #include "fakes/sample_ship.h"
+#include "observation/logbook_encoder.h"
 
 namespace {
 
@@ -410,6 +411,38 @@ TEST(CurveDays, AreTheFiveUpToTheNewestReportWithoutADate) {
   const Days days = found(files, with_pressure(1013.2));
   EXPECT_EQ(explain::hours_of(days), (std::vector<int>{kLast - 123, kLast - 3}));
   EXPECT_FALSE(days.entered);
+}
+
+// A line of 15 November 2014.
+std::string line(const char* day, const char* hour, const char* pressure) {
+  Struct_Weather record(fakes::sample_ship(), KeyObservationItems());
+  record.Year = "2014";
+  record.Month = "11";
+  record.YY = day;
+  record.GG = hour;
+  record.PPPP = pressure;
+  return observation::encode_logbook(record, fakes::sample_ship(), KeyObservationItems()) + "\n";
+}
+
+TEST(CurveDays, AreThoseOfTheLogbookToo) {
+  fakes::FakeFiles files;
+  files.add_file("C:\\out\\14111509.tlx", report(1209));
+  files.add_file("C:\\log\\immt5.log",
+                 line("10", "06", "0061") + line("15", "03", "0123") + line("15", "06", "0131"));
+  const auto with_logbook = [&](const char* reports, const Values& entered) {
+    return explain::days_before(entered, files, {reports, "C:\\log\\"}, fakes::sample_ship(),
+                                KeyObservationItems());
+  };
+  Values entered;
+  entered.hour = kLast;
+  const Days days = with_logbook("C:\\out\\", entered);
+  EXPECT_EQ(explain::hours_of(days), (std::vector<int>{kLast - 9, kLast - 6, kLast - 3, kLast}));
+  EXPECT_EQ(said(days, Curve::kPressure, 6),
+            "15 November 06 UTC: air pressure 1013.1 hPa, 0.8 more than 3 hours before");
+  // Without a date and without a report the newest line is the last one, and five days before it
+  // the first one.
+  EXPECT_EQ(explain::hours_of(with_logbook("", {})),
+            (std::vector<int>{kLast - 126, kLast - 9, kLast - 6}));
 }
 
 TEST(CurveDays, AreEmptyWhereThereIsNothing) {
