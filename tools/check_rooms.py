@@ -22,7 +22,8 @@ DATA = {
     "elements/form": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation"},
     "explain/plain": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation"},
     "explain/doubts": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation", "map/tiles"},
-    "explain/log": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation", "explain/doubts"},
+    "explain/log": {"text", "platform", "ship/data", "codetables/tables", "elements/formulas", "observation", "explain/doubts",
+                    "elements/form"},
 }
 ALL_DATA = set(DATA)
 # Dialogs of elements and of the ship do not look at whole observations.

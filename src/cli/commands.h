@@ -1,6 +1,6 @@
 #pragma once
 // The commands that work on observations without any dialog. Each takes the words behind its name
-// and gives the exit status: 0, or 2 for wrong arguments and wrong input, told on standard error as
+// and gives the exit status: 0, 1 where a check found something, or 2 for wrong arguments and wrong input, told on standard error as
 // "FILE:LINE: reason". The same for output that cannot be written.
 
 #include <span>
@@ -10,6 +10,7 @@
 namespace cli {
 
 inline constexpr int kOk = 0;
+inline constexpr int kFound = 1;
 inline constexpr int kWrong = 2;
 /// Told, and the status kWrong, when what a command tells is received by nobody. main() sees to it
 /// at the end; a command that goes on for long asks before.
@@ -22,6 +23,14 @@ int encode_command(const std::vector<std::string>& arguments);
 /// read [FILE]: each report becomes the lines of an observation file, with a comment for every word
 /// that could not be placed.
 int read_command(const std::vector<std::string>& arguments);
+
+/// logbook [--format json|csv|names] [FILE]: each line of the logbook becomes an observation. A line
+/// or a column that cannot be read is named on standard error and stops nothing.
+///
+/// logbook --check [--language en|ja] [--list FILE | --json] [FILE]: tells what is wrong in the
+/// lines and between them: a summary for a person, and in FILE or instead of the summary a line of
+/// JSON for each finding.
+int logbook_command(const std::vector<std::string>& arguments);
 
 /// explain [--language en|ja] [--date YYYYMM] [FILE]: each report in plain words, a line for each
 /// group. Year and month are those of a file named YYMMDDHH.tlx, else those that are given.

@@ -20,6 +20,7 @@ struct Command {
 constexpr Command kCommands[] = {
     {"encode", cli::encode_command, "observations to reports and logbook lines, as JSON"},
     {"read", cli::read_command, "reports back to observations"},
+    {"logbook", cli::logbook_command, "lines of the logbook back to observations; or checks them"},
     {"explain", cli::explain_command, "reports in plain words"},
     {"save", cli::save_command, "observations to report files and the logbook"},
     {"bufr", cli::bufr_command, "observations and reports as WMO BUFR messages"},

@@ -264,6 +264,7 @@ void CVelmaranDlg::run(const mainwindow::MenuRow& command) {
       show_curves();
       break;
     case Command::kLog:
+      show_logbook();
       break;
     case Command::kVersion: {
       mainwindow::CAboutDlg about(services());

@@ -187,6 +187,8 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void show_map();
   /// The last days as curves, with what is being typed among them.
   void show_curves();
+  /// The ship's logbook as a table.
+  void show_logbook();
   /// The record as it would be if what is being typed were taken; as it is where that would be
   /// refused. Nothing is asked and nothing changed.
   [[nodiscard]] Struct_Weather record_as_typed() const;

@@ -3,12 +3,15 @@
 #include <string>
 
 #include "archive/CShowStatusDlg.h"
+#include "explain/CLogbookCheckDlg.h"
+#include "explain/log/logbook_check.h"
 #include "mainwindow/copy_flow.h"
 #include "mainwindow/copy_folder.h"
 #include "mainwindow/copy_messages.h"
 #include "mainwindow/save_flow.h"
 #include "media/removable_disk.h"
 #include "media/verified_copy.h"
+#include "observation/logbook_reader.h"
 #include "observation/report_file.h"
 #include "observation/save_journal.h"
 #include "platform/paths.h"
@@ -32,7 +35,7 @@ class CopyLogbook {
         from_(observation::logbook_path(context.folders.logbook)) {}
 
   void run() {
-    if (!source_is_there() || !choose_place()) return;
+    if (!source_is_there() || !faults_are_known() || !choose_place()) return;
     const std::optional<CopyResult> result = copy();
     if (!result) return;
     switch (result->outcome) {
@@ -70,6 +73,30 @@ class CopyLogbook {
       messages_.told(found.there == There::kCannotTell ? id::kLogbookCopyFailed : id::kNoLogbook,
                      from_, platform::why_no_file(found));
     return false;
+  }
+
+  /// True when the logbook is sound, or the officer wants it copied as it is: faults are found on
+  /// board or months later ashore. What cannot be read is told by the copy.
+  bool faults_are_known() {
+    explain::LogbookCheck check(services_.texts.language);
+    const auto error = observation::for_each_line(services_.files, from_,
+                                                  [&](std::string_view line) { check.take(line); });
+    if (error != FileError::kNone) return true;
+    const explain::Summary& found = check.summary();
+    if (found.is_sound()) return true;
+    for (;;) {
+      switch (messages_.ask_about_faults(found)) {
+        case ui::kOk: {
+          CLogbookCheckDlg dialog(services_, found.words());
+          services_.windows.run_modal(dialog);
+          break;
+        }
+        case ui::kNo:
+          return true;
+        default:
+          return cancelled();
+      }
+    }
   }
 
   bool choose_place() {

@@ -1,6 +1,7 @@
 #include "mainwindow/copy_messages.h"
 
 #include "text/ids.h"
+#include "text/numbers.h"
 #include "text/reasons.h"
 
 namespace mainwindow {
@@ -40,6 +41,20 @@ ForAll CopyMessages::ask_for_all(const std::string& question, text::Id question_
     default:
       return ForAll::kEach;
   }
+}
+
+int CopyMessages::ask_about_faults(const explain::Summary& found) {
+  const text::Texts& texts = services_.texts;
+  const auto number = [](std::uint64_t n) { return text::format_int(static_cast<long long>(n)); };
+  ui::CMessageBox2 box(
+      text::fill(texts.get(id::kAskCopyFaulty),
+                 {number(found.with_errors()), number(found.with_doubts()), number(found.lines())}),
+      std::string(texts.get(id::kShowFaults)), std::string(texts.get(id::kCopyFaulty)),
+      std::string(texts.get(id::kButtonCancel)), std::string(texts.get(id::kExitQuestionTitle)));
+  box.box().buttons[0].name = "show";
+  box.box().buttons[1].name = "copy";
+  box.box().text_id = id::kAskCopyFaulty;
+  return services_.messages.show(box);
 }
 
 void CopyMessages::told(text::Id message, const std::string& path, text::Id reason) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "explain/log/logbook_check.h"
 #include "media/verified_copy.h"
 #include "ui/services.h"
 
@@ -27,6 +28,10 @@ class CopyMessages {
   /// The buttons are `yes`, "Keep all" and "Ask for each"; the close box is the last of them, for
   /// each of those questions has its own way out.
   [[nodiscard]] ForAll ask_for_all(const std::string& question, text::Id question_id, text::Id yes);
+
+  /// What the check of the logbook found, and whether to show it (kOk), to copy all the same (kNo)
+  /// or to end the command (kCancel).
+  [[nodiscard]] int ask_about_faults(const explain::Summary& found);
 
   /// The message, and below it the file and the cause.
   void told(text::Id message, const std::string& path, text::Id reason);

@@ -128,7 +128,7 @@ void longitude(std::string& line, const Source& source) {
 void take_longitude(LogbookRecord& into, Text text) {
   take_position(into.record.LoDeg, into.record.LoMin, text);
   // Without a quadrant nothing would have been written, so the one that was is a solidus.
-  if (!into.record.LoDeg.empty() && into.record.Qc.empty()) into.record.Qc = "/";
+  if (!into.record.LoDeg.empty() && into.record.Qc.empty()) into.record.Qc.assign(1, '/');
 }
 
 // A computed dew point carries the kind of wet bulb that it was computed from.
@@ -150,10 +150,10 @@ void take_dew_point_sign(LogbookRecord& into, Text text) {
   if (!computed)
     into.record.SnTd = told(text);
   else if (text == "5")
-    into.record.SnTd = "0";
+    into.record.SnTd.assign(1, '0');
   else if (!into.record.TdTdTd.empty())
     // A sign that is missing was written as one below zero; without a dew point it is none.
-    into.record.SnTd = "1";
+    into.record.SnTd.assign(1, '1');
 }
 
 void sea_temperature_sign(std::string& line, const Source& source) {
@@ -258,7 +258,7 @@ void second_swell(std::string& line, const Source& source) {
 
 void take_second_swell(LogbookRecord& into, Text text) {
   if (into.record.dw1dw1 == "00" || is_blank(text)) {
-    into.record.dw2dw2 = "00";
+    into.record.dw2dw2.assign(2, '0');
     return;
   }
   // Zeros beside a first swell are written by nobody, and would say that there is no second one.

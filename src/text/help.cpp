@@ -40,6 +40,8 @@ constexpr DialogTopic kTopics[] = {
     {"CKeyObserveDlg", {"Kavrel", "Capter4-2_J.htm", "Capter4-2_E.htm"}},
     {"CVosClimDlg", {"Kavrel", "Capter7_J.htm", "Capter7_E.htm"}},
     {"CSeaMapDlg", {"Kavrel", "Capter11-28_J.htm", "Capter11-28_E.htm"}},
+    {"CLogbookDlg", {"Kavrel", "Capter33_J.htm", "Capter33_E.htm"}},
+    {"CLogbookCheckDlg", {"Kavrel", "Capter33_J.htm", "Capter33_E.htm"}},
     {"CPlainWordsDlg", {"Kavrel", "Capter31_J.htm", "Capter31_E.htm"}},
     {"CCurvesDlg", {"Kavrel", "Capter34_J.htm", "Capter34_E.htm"}},
     {"CTlxSelectDlg", {"Kavrel", "Capter8_J.htm", "Capter8_E.htm"}},

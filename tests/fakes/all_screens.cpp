@@ -28,9 +28,13 @@
 #include "elements/CTrueDirWindDlg.h"
 #include "elements/CUTCTimeDlg1.h"
 #include "explain/CCurvesDlg.h"
+#include "explain/CLogbookCheckDlg.h"
+#include "explain/CLogbookDlg.h"
 #include "explain/CPlainWordsDlg.h"
+#include "explain/log/logbook_check.h"
 #include "fakes/sample_archive.h"
 #include "fakes/sample_days.h"
+#include "fakes/sample_logbook.h"
 #include "fakes/sample_sea_map.h"
 #include "fakes/sample_ship.h"
 #include "mainwindow/CAboutDlg.h"
@@ -96,6 +100,20 @@ class OfArchive : private SampleArchive, public Dialog {
  private:
   int line_;
 };
+
+class SampleLogbook : private SampleLog, public CLogbookDlg {
+ public:
+  explicit SampleLogbook(ui::Services& services)
+      : SampleLog(services), CLogbookDlg(log_services_, kLogFolder, log_ship_, log_items_) {}
+};
+
+std::string sample_summary(const ui::Services& services) {
+  explain::LogbookCheck check(services.texts.language);
+  const std::string log = sample_log();
+  for (std::string_view rest = log; !rest.empty(); rest.remove_prefix(rest.find('\n') + 1))
+    check.take(rest.substr(0, rest.find('\n')));
+  return check.summary().words();
+}
 
 class LargerMap : private SampleSeaMap, public CSeaMapDlg {
  public:
@@ -262,6 +280,12 @@ std::vector<ScreenCase> make_table() {
          return std::make_unique<CCurvesDlg>(services, sample_days(), explain::Curve::kPressure,
                                              "C:\\kavrel\\data\\tlx", "JXKV");
        }},
+      {"CLogbookCheckDlg",
+       [](ui::Services& services) -> Made {
+         return std::make_unique<CLogbookCheckDlg>(services, sample_summary(services));
+       }},
+      {"CLogbookDlg",
+       [](ui::Services& services) -> Made { return std::make_unique<SampleLogbook>(services); }},
       {"CPlainWordsDlg",
        [](ui::Services& services) -> Made {
          return std::make_unique<CPlainWordsDlg>(

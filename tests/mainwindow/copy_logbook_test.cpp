@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "fakes/sample_logbook.h"
 #include "mainwindow/copying.h"
 #include "observation/report_file.h"
 #include "observation/save_journal.h"
@@ -15,8 +16,11 @@ using Names = std::vector<std::string>;
 
 constexpr const char* kFrom = "C:\\log\\immt5.log";
 constexpr const char* kTo = "C:\\copy\\immt5.log";
-const std::string kLines = "LINE1\nLINE2\n";
-const std::string kOld = "LINE0\n";
+// Sound ones, so that nothing is asked about them.
+const std::string kOld = fakes::logbook_line(14, 0) + "\n";
+const std::string kSecond = fakes::logbook_line(14, 3);
+const std::string kThird = fakes::logbook_line(14, 6);
+const std::string kLines = kOld + kSecond + "\n";
 
 void copy(Copying& c) {
   mainwindow::copy_logbook(c.world.services, c.context);
@@ -278,10 +282,10 @@ TEST(CopyLogbook, ALineThatCameSinceTheCopyIsNotDeleted) {
     c.world.windows.expect(id::kAskDeleteLogbook, "yes");
     c.world.windows.expect(id::kSourceNotDeleted);
     c.world.windows.while_open = [&] {
-      if (c.world.windows.boxes.size() == 2) c.files.add_file(kFrom, kLines + "LINE3\n");
+      if (c.world.windows.boxes.size() == 2) c.files.add_file(kFrom, kLines + kThird + "\n");
     };
     copy(c);
-    EXPECT_EQ(c.files.content(kFrom), kLines + "LINE3\n");
+    EXPECT_EQ(c.files.content(kFrom), kLines + kThird + "\n");
     EXPECT_EQ(c.files.content(kTo), kLines);
     EXPECT_EQ(
         c.box(2).text,
@@ -364,7 +368,7 @@ TEST(CopyLogbook, WithoutADiskItIsCancelled) {
 // ---- Interrupted saves
 
 observation::SaveRequest request() {
-  return {"C:\\tlx\\14111512.tlx", kFrom, "BBXX NEW.....", "LINE3", false};
+  return {"C:\\tlx\\14111512.tlx", kFrom, "BBXX NEW.....", kThird, false};
 }
 
 /// A save that was killed before its n-th operation; false when it went through.
@@ -400,7 +404,7 @@ TEST(CopyLogbook, AnInterruptedSaveIsPutInOrderFirst) {
     copy_all_yes(c);
     const std::string copied = c.files.content(kTo).value_or("none");
     const bool with_report = c.files.content("C:\\tlx\\14111512.tlx").has_value();
-    EXPECT_EQ(copied, with_report ? kLines + "LINE3\n" : kLines) << n;
+    EXPECT_EQ(copied, with_report ? kLines + kThird + "\n" : kLines) << n;
     EXPECT_EQ(c.files.content(kFrom), std::nullopt) << n;
     EXPECT_EQ(c.files.content("C:\\log\\.kavrel-save"), std::nullopt) << n;
     const text::Id first = c.box(0).text_id;
@@ -434,7 +438,7 @@ TEST(CopyLogbook, ALogbookWhoseReportIsAwayIsCopiedAndNotDeleted) {
   journal.report = "14111512.tlx";
   journal.staged = ".kavrel-999999999-0.part";
   journal.log_size = kOld.size();
-  journal.appended = "LINE2\n";
+  journal.appended = kSecond + "\n";
   journal.content = {3, 3};
   c.files.add_file("C:\\log\\.kavrel-save", observation::write_journal(journal));
   c.files.set_medium_missing('D');
@@ -480,6 +484,56 @@ TEST(CopyLogbook, AnyOperationMayFailOrBeTheLast) {
     }
     EXPECT_GT(n, 15) << "that is no whole copy";
   }
+}
+
+// ---- What is wrong in it is told before
+
+const std::string kFaulty = kOld + fakes::logbook_line(14, 3, {{"VV", "50"}}) + "\n";
+
+TEST(CopyLogbook, ShowsWhatIsWrongAndCopiesOnlyWhenAsked) {
+  in_both_languages([](Copying& c) {
+    c.files.add_file(kFrom, kFaulty);
+    c.world.windows.expect(id::kAskCopyFaulty, "show");
+    c.world.windows.expect_screen("CLogbookCheckDlg", [&](ui::Screen& screen) {
+      const std::string& words = screen.find("summary")->content;
+      EXPECT_NE(
+          words.find(japanese(c) ? "50は符号表4377にありません" : "50 is not in code table 4377"),
+          std::string::npos)
+          << words;
+      screen.press(*screen.find("ok"));
+    });
+    c.world.windows.expect(id::kAskCopyFaulty, "copy");
+    c.choose("C:\\copy");
+    c.world.windows.expect(id::kLogbookCopied);
+    c.world.windows.expect(id::kAskDeleteLogbook, "no");
+    copy(c);
+    EXPECT_EQ(c.files.content(kTo), kFaulty) << "as it is: nothing is mended behind the officer";
+    EXPECT_EQ(c.box(0).text,
+              japanese(c)
+                  ? "船舶気象観測表に、誤りのある行が1行、要確認の行が0行あります（全2行）。\n"
+                    "コピーの前に内容を表示しますか？"
+                  : "The logbook has 1 lines with errors and 0 with doubts, of 2.\n"
+                    "Show them before it is copied?");
+  });
+}
+
+TEST(CopyLogbook, IsNotCopiedWhenTheOfficerWantsToMendItFirst) {
+  for (const char* const answer : {"cancel", "close"}) {
+    Copying c;
+    c.files.add_file(kFrom, kFaulty);
+    c.world.windows.expect(id::kAskCopyFaulty, answer);
+    c.world.windows.expect(id::kLogbookCopyCancelled);
+    copy(c);
+    EXPECT_EQ(c.files.snapshot(), (std::map<std::string, std::string>{{kFrom, kFaulty}}));
+  }
+}
+
+// A correction leaves two lines of one hour, which is as it should be.
+TEST(CopyLogbook, AsksNothingAboutACorrection) {
+  Copying c;
+  c.files.add_file(kFrom, kOld + fakes::logbook_line(14, 0, {{"TTT", "149"}}) + "\n");
+  c.cancel("CLogDiskSavePathDlg");
+  copy(c);
 }
 
 }  // namespace

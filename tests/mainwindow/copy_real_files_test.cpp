@@ -8,12 +8,16 @@
 #include <utility>
 
 #include "fakes/fake_ports.h"
+#include "fakes/sample_logbook.h"
 #include "fakes/temp_folder.h"
 #include "mainwindow/copy_flow.h"
 #include "platform/posix/posix_files.h"
 #include "text/ids.h"
 
 namespace {
+
+// A sound one, so that nothing is asked about it.
+const std::string kLine = fakes::logbook_line(14, 0) + "\n";
 
 namespace id = text::id;
 using Names = std::vector<std::string>;
@@ -67,7 +71,7 @@ struct Computer {
 
 TEST(CopyRealFiles, TheSourceFolderIsRefusedHoweverItIsSpelt) {
   Computer c;
-  c.temp.write("log/immt5.log", "LINE1\n");
+  c.temp.write("log/immt5.log", kLine);
   c.temp.write("tlx/14111512.tlx", "BBXX");
   for (const char* const folder : {"log", "tlx"})
     std::filesystem::create_directory_symlink(c.temp / folder,
@@ -88,14 +92,14 @@ TEST(CopyRealFiles, TheSourceFolderIsRefusedHoweverItIsSpelt) {
     c.refuse(chosen);
     c.copy_reports();
   }
-  EXPECT_EQ(c.temp.content("log/immt5.log"), "LINE1\n");
+  EXPECT_EQ(c.temp.content("log/immt5.log"), kLine);
   EXPECT_EQ(c.temp.content("tlx/14111512.tlx"), "BBXX");
 }
 
 TEST(CopyRealFiles, AFileThatIsTheSourceUnderAnotherNameIsRefused) {
   for (const bool hard : {true, false}) {
     Computer c;
-    c.temp.write("log/immt5.log", "LINE1\n");
+    c.temp.write("log/immt5.log", kLine);
     c.temp.write("tlx/14111506.tlx", "BBXX 06");
     c.temp.write("tlx/14111512.tlx", "BBXX 12");
     for (const auto& [from, to] : {std::pair("log/immt5.log", "copy/immt5.log"),
@@ -112,7 +116,7 @@ TEST(CopyRealFiles, AFileThatIsTheSourceUnderAnotherNameIsRefused) {
     c.choose("C:\\copy");
     c.world.windows.expect(id::kChooseAnotherFolder);
     c.copy_reports();
-    EXPECT_EQ(c.temp.content("log/immt5.log"), "LINE1\n");
+    EXPECT_EQ(c.temp.content("log/immt5.log"), kLine);
     EXPECT_EQ(c.temp.names("copy"), (Names{"14111506.tlx", "immt5.log"})) << "nothing is copied";
   }
 }
@@ -144,7 +148,7 @@ TEST(CopyRealFiles, AnyBytesUnderAnyNameAreCopiedAsTheyAre) {
 TEST(CopyRealFiles, APipeOrALinkThatLeadsNowhereAtTheDestinationIsToldAndStays) {
   for (const bool pipe : {true, false}) {
     Computer c;
-    c.temp.write("log/immt5.log", "LINE1\n");
+    c.temp.write("log/immt5.log", kLine);
     constexpr mode_t kMode = 0600;
     if (pipe)
       ASSERT_EQ(::mkfifo((c.temp / "copy/immt5.log").c_str(), kMode), 0);
@@ -181,7 +185,9 @@ TEST(CopyRealFiles, AFullDiskLeavesTheOlderCopyAndNothingBeside) {
   Computer c;
   const SmallDisk disk(c.temp / "copy");
   if (!disk.mounted) GTEST_SKIP() << "nothing may be mounted here";
-  c.temp.write("log/immt5.log", std::string(100000, 'x'));
+  std::string large;
+  while (large.size() < 100000) large += kLine;
+  c.temp.write("log/immt5.log", large);
   c.temp.write("copy/immt5.log", "old");
   c.choose("C:\\copy");
   c.world.windows.expect(id::kAskOverwriteLogbook, "yes");
@@ -193,7 +199,7 @@ TEST(CopyRealFiles, AFullDiskLeavesTheOlderCopyAndNothingBeside) {
   EXPECT_EQ(c.temp.names("copy"), Names{"immt5.log"});
   // Mounted anew without the right to write.
   ASSERT_TRUE(disk.make_read_only());
-  c.temp.write("log/immt5.log", "LINE1\n");
+  c.temp.write("log/immt5.log", kLine);
   c.choose("C:\\copy");
   c.world.windows.expect(id::kAskOverwriteLogbook, "yes");
   c.world.windows.expect_text(

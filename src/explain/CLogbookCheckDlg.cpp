@@ -1,0 +1,18 @@
+#include "explain/CLogbookCheckDlg.h"
+
+#include <utility>
+
+#include "text/ids.h"
+
+namespace id = text::id;
+
+CLogbookCheckDlg::CLogbookCheckDlg(ui::Services& services, std::string words)
+    : OkDialog(services, "CLogbookCheckDlg", {id::kLogCheckTitle}),
+      summary(*this, "summary", {id::kLogCheckFound}),
+      help(*this, "help", {id::kHelpLabel}, ui::Role::kHelp) {
+  summary.content = std::move(words);
+}
+
+void CLogbookCheckDlg::on_open() {
+  focus(summary);
+}

@@ -1,0 +1,158 @@
+#pragma once
+// The logbook as a port officer checks it: the layout column by column, each element against its
+// code table and limits, the rules that relate elements, and each line against those of its ship
+// before it. Lines come one by one and memory does not grow with them, so a log of any length, of
+// one ship or of a fleet, is checked in one pass.
+//
+// Of ships, the kMostShips seen last are remembered: the last observations of each. Of observations,
+// the ship and hour of the last kMostHours, of whichever ships, so that one that is there twice is
+// found. What was forgotten is missed, never told wrongly.
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <list>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "explain/log/element_check.h"
+#include "observation/values.h"
+#include "text/texts.h"
+
+namespace explain {
+
+inline constexpr std::size_t kMostShips = 1024;
+inline constexpr std::size_t kMostHours = 1U << 17U;
+
+enum class Severity : std::uint8_t {
+  kError,  ///< what no sound log holds
+  kDoubt,  ///< what may be right and should be looked at
+  kNote,   ///< what is as it should be where somebody meant it: a correction leaves two lines
+};
+
+/// "error", "doubt" or "note".
+[[nodiscard]] std::string_view name_of(Severity severity);
+
+/// A kind of finding. A row of the table in logbook_check.cpp.
+struct FindingKind {
+  std::string_view name;  ///< for lists that a program reads; never changes
+  Severity severity;
+  text::Id text;  ///< what is wrong, with places for what is so
+  text::Id mend;  ///< how to mend it
+};
+[[nodiscard]] std::span<const FindingKind> finding_kinds();
+
+struct Finding {
+  std::uint64_t line = 0;  ///< number of the line, from 1
+  const FindingKind* kind = nullptr;
+  std::string rule;  ///< which one of its kind: the name of a doubt; else empty
+  ColumnRange columns;
+  std::string element;  ///< symbols, separated by a blank; empty for the line as a whole
+  std::string text;     ///< in the check's language, printable, one line
+};
+
+/// Findings counted: how many lines, how many sound, which faults how often and where.
+class Summary {
+ public:
+  /// Of each fault so many lines are named.
+  static constexpr std::size_t kLinesNamed = 5;
+  /// So many ships are named.
+  static constexpr std::size_t kShipsNamed = 20;
+
+  explicit Summary(text::Language language) : language_(language) {}
+
+  [[nodiscard]] std::uint64_t lines() const { return lines_; }
+  [[nodiscard]] std::uint64_t with_errors() const { return errors_; }
+  /// Lines with doubts and without errors.
+  [[nodiscard]] std::uint64_t with_doubts() const { return doubts_; }
+  /// No line has an error or a doubt.
+  [[nodiscard]] bool is_sound() const { return errors_ + doubts_ == 0; }
+  /// Nothing at all was found, not even something to note.
+  [[nodiscard]] bool is_empty() const { return groups_.empty(); }
+
+  /// For a person, in the language of the check; each line is ended by LF.
+  [[nodiscard]] std::string words() const;
+
+ private:
+  friend class LogbookCheck;
+  struct Group {
+    const FindingKind* kind = nullptr;
+    std::uint64_t count = 0;
+    std::vector<std::uint64_t> lines;
+    Finding first;
+  };
+  struct Ship {
+    std::string call_sign;
+    std::uint64_t lines = 0;
+    std::string first, last;  ///< date and hour
+  };
+  void append_group(std::string& out, const Group& group) const;
+  void add(const Finding& finding);
+  void count_ship(std::string_view call_sign, const std::string& when);
+
+  text::Language language_;
+  std::uint64_t lines_ = 0;
+  std::uint64_t errors_ = 0;
+  std::uint64_t doubts_ = 0;
+  std::uint64_t other_ships_ = 0;  ///< lines of ships that are not named
+  std::vector<Ship> ships_;
+  /// By severity and kind, rule and element: as many as the tables have.
+  std::map<std::pair<const FindingKind*, std::string>, Group> groups_;
+};
+
+class LogbookCheck {
+ public:
+  using Found = std::function<void(const Finding&)>;
+  /// Each finding is handed over as it is made.
+  explicit LogbookCheck(text::Language language, Found found = {});
+
+  /// The next line, without its end; any bytes, any length.
+  void take(std::string_view line);
+  [[nodiscard]] const Summary& summary() const { return summary_; }
+
+ private:
+  /// What is remembered of a ship: its last observations in the order of their hours.
+  struct Ship {
+    struct Past {
+      int hour;
+      std::uint64_t line;
+      observation::Values values;
+    };
+    std::string call_sign;
+    std::deque<Past> past;
+  };
+  /// Which line told an hour, and a mark of what it said.
+  struct Told {
+    std::uint64_t line;
+    std::uint64_t mark;
+  };
+
+  void find(std::size_t kind, ColumnRange columns, std::string element,
+            std::initializer_list<std::string_view> words, std::string_view rule = {});
+  void check_layout(const observation::LogbookLine& line, const observation::LogbookRecord& read);
+  void check_column(const observation::LogbookLine& line, const observation::LogbookColumn& column);
+  void check_elements(const observation::LogbookRecord& read);
+  void check_rules(const Struct_Weather& record);
+  void check_sequence(std::string_view line, const observation::LogbookRecord& read, int hour);
+  void check_told(std::string_view line, const std::string& call_sign, int hour);
+  void check_order(const Ship& ship, int hour);
+  Ship& ship_of(const std::string& call_sign);
+
+  text::Language language_;
+  Found found_;
+  Summary summary_;
+  ElementCheck elements_;
+  std::list<Ship> ships_;  ///< the one seen last in front
+  std::unordered_map<std::string, std::list<Ship>::iterator> by_call_sign_;
+  std::unordered_map<std::string, Told> told_;
+  std::deque<std::string> told_order_;
+  bool error_ = false;  ///< of the line at hand
+  bool doubt_ = false;
+};
+
+}  // namespace explain

@@ -1,0 +1,328 @@
+// The logbook as a port officer checks it.
+
+#include "explain/log/logbook_check.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <set>
+
+#include "observation/logbook_encoder.h"
+#include "observation/records.h"
+#include "text/strings.h"
+
+namespace {
+
+using explain::Finding;
+using explain::LogbookCheck;
+using explain::Severity;
+
+/// One that no rule and no doubt speaks against.
+Struct_Weather sound_record() {
+  Struct_Weather record = records::full();
+  records::set(record, {{"ff", "18"},
+                        {"fff", ""},
+                        {"Is", ""},
+                        {"EsEs", ""},
+                        {"Rs", ""},
+                        {"ci", ""},
+                        {"Si", ""},
+                        {"bi", ""},
+                        {"Di", ""},
+                        {"zi", ""},
+                        {"GGExact", "12"},
+                        {"gg", "00"},
+                        {"W1", "2"},
+                        {"W2", "2"},
+                        {"ww", "03"},
+                        {"LogExtra", "0750"},
+                        {"VosClim4", "07"}});
+  return record;
+}
+
+std::string line_of(const Struct_Weather& record) {
+  return observation::encode_logbook(record, records::ship(), {});
+}
+
+struct Checked {
+  std::vector<Finding> findings;
+  explain::Summary summary{text::Language::kEnglish};
+};
+
+Checked check(const std::vector<std::string>& lines) {
+  Checked checked;
+  LogbookCheck check(text::Language::kEnglish,
+                     [&](const Finding& finding) { checked.findings.push_back(finding); });
+  for (const std::string& line : lines) check.take(line);
+  checked.summary = check.summary();
+  return checked;
+}
+
+/// "code ww 42-43" and so on, one for each finding.
+std::vector<std::string> names(const Checked& checked) {
+  std::vector<std::string> names;
+  for (const Finding& finding : checked.findings) {
+    std::string name(finding.kind->name);
+    if (!finding.element.empty()) name += " " + finding.element;
+    if (finding.columns.first != 0)
+      name +=
+          " " + std::to_string(finding.columns.first) + "-" + std::to_string(finding.columns.last);
+    names.push_back(name);
+  }
+  return names;
+}
+
+using Names = std::vector<std::string>;
+
+TEST(LogbookCheck, FindsNothingInASoundLine) {
+  const Checked checked = check({line_of(sound_record())});
+  EXPECT_EQ(names(checked), Names{});
+  EXPECT_TRUE(checked.summary.is_sound());
+  EXPECT_TRUE(checked.summary.is_empty());
+  EXPECT_EQ(checked.summary.lines(), 1U);
+}
+
+// What is not entered is no fault of a line.
+TEST(LogbookCheck, FindsNothingWhereNothingButDateAndPositionIsEntered) {
+  Struct_Weather record = records::fresh();
+  records::set(record, {{"Year", "2014"},
+                        {"Month", "11"},
+                        {"YY", "15"},
+                        {"GG", "12"},
+                        {"Qc", "1"},
+                        {"LaDeg", "35"},
+                        {"LaMin", "42"},
+                        {"LoDeg", "165"},
+                        {"LoMin", "18"}});
+  EXPECT_EQ(names(check({line_of(record)})), Names{});
+}
+
+struct Row {
+  std::vector<records::Setting> set;
+  const char* found;
+};
+
+TEST(LogbookCheck, HoldsEachElementAgainstItsTableAndItsLimits) {
+  const Row rows[] = {
+      {{{"TTT", "411"}}, "limit TTT 31-33"},
+      {{{"TTT", "1/2"}}, "incomplete TTT 31-33"},
+      {{{"SnT", ""}}, "no_sign TTT 31-33"},
+      {{{"SnT", "9"}}, "code SnT 30-30"},
+      {{{"VV", "50"}}, "code VV 22-23"},
+      {{{"dd", "37"}}, "code dd 25-26"},
+      {{{"iw", "2"}}, "code iw 27-27"},
+      {{{"a", "9"}}, "code a 93-93"},
+      {{{"PPPP", "8699"}}, "limit PPPP 38-41"},
+      {{{"ppp", "251"}}, "limit ppp 94-96"},
+      {{{"TwTwTw", "371"}}, "limit TwTwTw 51-53"},
+      {{{"PwPw", "31"}}, "limit PwPw 56-57"},
+      {{{"HwHw", "30"}}, "limit HwHw 58-59"},
+      {{{"dw1dw1", "40"}}, "code dw1dw1 60-61"},
+      {{{"Pw1Pw1", "30"}}, "limit Pw1Pw1 62-63"},
+      {{{"dw2dw2", "99"}}, "code dw2dw2 99-100"},
+      {{{"Is", "6"}, {"EsEs", "02"}, {"Rs", "1"}, {"TTT", "0/0"}}, "code Is 66-66"},
+      {{{"Sw", "5"}}, "code Sw 89-89"},
+      {{{"iX", "8"}}, "code iX 83-83"},
+      {{{"VosClim1", "361"}}, "limit VosClim1 146-148"},
+      {{{"VosClim3", "361"}}, "limit VosClim3 133-135"},
+      {{{"VosClim5", "400"}}, "limit VosClim5 136-138"},
+      {{{"LogExtra", "1001"}}, "limit LogExtra 160-163"},
+      {{{"LaDeg", "91"}}, "limit LaDeg 13-15"},
+      {{{"LoDeg", "181"}}, "limit LoDeg 16-19"},
+      {{{"LaDeg", "90"}}, "beyond LaDeg LaMin 13-15"},
+      {{{"LoDeg", "180"}}, "beyond LoDeg LoMin 16-19"},
+      {{{"Qc", "2"}}, "code Qc 12-12"},
+      {{{"Qc", ""}}, "position 12-19"},
+      {{{"LaMin", ""}}, "position 12-19"},
+      {{{"Month", "13"}}, "date 2-11"},
+      {{{"YY", "31"}}, "date 2-11"},
+      {{{"GG", "24"}}, "date 2-11"},
+      {{{"Year", "1999"}}, "date 2-11"},
+      {{{"Year", ""}}, "date 2-11"},
+      {{{"CallSign", ""}}, "call_sign CallSign 72-78"},
+      {{{"CallSign", "*******"}}, "call_sign CallSign 72-78"},
+      {{{"CallSign", "ABCDEFGH"}}, "call_sign CallSign 72-78"},
+      {{{"Nh", "7"}}, "contradiction N Nh 24-24"},
+      {{{"TdTdTd", "160"}}, "contradiction TTT TdTdTd 31-33"},
+      {{{"dd", "00"}}, "contradiction dd ff 25-26"},
+      {{{"Pw1Pw1", "00"}}, "contradiction Pw1Pw1 Hw1Hw1 62-63"},
+      {{{"TTT", "1525"}}, "blank TTT 31-33"},
+      {{{"Hw2Hw2", "123"}}, "unreadable 99-104"},
+  };
+  for (const Row& row : rows) {
+    Struct_Weather record = sound_record();
+    for (const auto& [name, value] : row.set) records::set(record, {{name, value}});
+    const Names found = names(check({line_of(record)}));
+    EXPECT_NE(std::ranges::find(found, row.found), found.end())
+        << row.found << " is not in " << testing::PrintToString(found);
+  }
+}
+
+TEST(LogbookCheck, HoldsTheLayoutColumnByColumn) {
+  const std::string line = line_of(sound_record());
+  for (const observation::LogbookColumn& column : observation::logbook_columns()) {
+    std::string damaged = line;
+    damaged.replace(column.first - 1U, column.width(), std::string(column.width(), 'x'));
+    const Names found = names(check({damaged}));
+    const std::string where = std::to_string(column.first) + "-" + std::to_string(column.last);
+    const bool told = std::ranges::any_of(found, [&](const std::string& name) {
+      // The parts of the date are told as a date; "xxxxxxx" is a call sign.
+      return name.ends_with(" " + where) || (column.last <= 11 && name == "date 2-11");
+    });
+    EXPECT_TRUE(told || column.field == &Struct_Weather::CallSign) << where;
+  }
+  EXPECT_EQ(names(check({line + " "})), Names{"length"});
+  EXPECT_EQ(names(check({""})), Names{"length"});
+  EXPECT_EQ(names(check({std::string(5000, '\0')})), Names{"length"});
+}
+
+// One letter too few and one too many: every column between would be wrong, and none of it says
+// anything to the officer.
+TEST(LogbookCheck, TellsOfAShiftedLineThatItIsShiftedAndNothingElse) {
+  std::string shifted = line_of(sound_record());
+  shifted.erase(12, 1).append("0");
+  for (const std::string& name : names(check({shifted})))
+    EXPECT_TRUE(name.starts_with("fixed_text") || name.starts_with("unreadable") ||
+                name.starts_with("blank"))
+        << name;
+}
+
+TEST(LogbookCheck, TellsWhichColumnWasNotWritten) {
+  ShipFixedData ship = records::ship();
+  ship.temperature_unit = 0.25;
+  EXPECT_EQ(names(check({observation::encode_logbook(sound_record(), ship, {})})),
+            Names{"gap 1-1"});
+  ship = records::ship();
+  ship.sea_temperature_method = SeaTemperatureMethod{-1};
+  EXPECT_EQ(names(check({observation::encode_logbook(sound_record(), ship, {})})),
+            Names{"gap 54-54"});
+}
+
+// ---- Between lines
+
+std::string at(const char* day, const char* hour,
+               std::initializer_list<records::Setting> settings = {}) {
+  Struct_Weather record = sound_record();
+  records::set(record, {{"YY", day}, {"GG", hour}});
+  records::set(record, settings);
+  return line_of(record);
+}
+
+TEST(LogbookCheck, NamesTheLineThatWasSavedBefore) {
+  const Checked checked = check({at("15", "12"), at("18", "15", {{"TTT", "150"}}), at("15", "12"),
+                                 at("15", "12", {{"TTT", "149"}})});
+  ASSERT_EQ(names(checked),
+            (Names{"saved_twice 2-11", "order 2-11", "same_hour 2-11", "order 2-11"}));
+  EXPECT_EQ(checked.findings[0].line, 3U);
+  EXPECT_EQ(checked.findings[0].text, "The same line stands in line 1 already.");
+  EXPECT_EQ(checked.findings[2].text, "Line 3 tells the same hour with other values.");
+}
+
+TEST(LogbookCheck, TakesACorrectionForNothingToAnswer) {
+  const Checked checked = check({at("15", "12"), at("15", "12", {{"TTT", "149"}})});
+  EXPECT_EQ(names(checked), Names{"same_hour 2-11"});
+  EXPECT_EQ(checked.findings[0].kind->severity, Severity::kNote);
+  EXPECT_TRUE(checked.summary.is_sound());
+  EXPECT_FALSE(checked.summary.is_empty());
+}
+
+TEST(LogbookCheck, KeepsTheShipsOfAFleetApart) {
+  const std::string one = at("15", "12");
+  const std::string other = at("15", "12", {{"CallSign", "7ABC"}, {"LaDeg", "05"}});
+  EXPECT_EQ(names(check({one, other})), Names{});
+  EXPECT_EQ(names(check({one, other, at("15", "09"), other})),
+            (Names{"order 2-11", "saved_twice 2-11"}));
+}
+
+TEST(LogbookCheck, DoubtsASpeedBetweenTwoPositions) {
+  const Checked checked =
+      check({at("15", "12"), at("15", "15", {{"LaDeg", "45"}, {"TTT", "150"}})});
+  ASSERT_FALSE(checked.findings.empty());
+  EXPECT_EQ(checked.findings[0].rule, "ship_too_fast");
+  EXPECT_EQ(checked.findings[0].line, 2U);
+  EXPECT_EQ(checked.findings[0].kind->severity, Severity::kDoubt);
+}
+
+// Nothing of it grows with the lines: what was forgotten is missed and never told wrongly.
+TEST(LogbookCheck, ForgetsTheShipsAndHoursOfLongAgo) {
+  std::vector<std::string> lines{at("15", "12")};
+  for (std::size_t i = 0; i < explain::kMostShips; ++i)
+    lines.push_back(at("15", "12", {{"CallSign", ""}}).replace(71, 6, std::to_string(100000 + i)));
+  lines.push_back(at("15", "09"));
+  EXPECT_EQ(names(check(lines)), Names{});
+}
+
+// ---- The summary
+
+TEST(LogbookCheck, SumsUpForAPerson) {
+  const Checked checked = check({at("15", "12"), at("15", "12"), "", at("16", "00", {{"VV", "50"}}),
+                                 at("16", "06", {{"VV", "51"}, {"TTT", "150"}})});
+  EXPECT_EQ(checked.summary.words(),
+            "Lines: 5 (sound: 2, with errors: 3, with doubts: 0)\n"
+            "JXKV: 4, from 2014-11-15 12 UTC to 2014-11-16 06 UTC\n"
+            "\n"
+            "Errors\n"
+            "1 x The line has 0 characters; a line of this layout has 172.\n"
+            "    line 3\n"
+            "    To mend: The line was changed behind the program. Take the logbook anew from the "
+            "ship, and do not edit it.\n"
+            "2 x VV, col. 22-23: 50 is not in code table 4377.\n"
+            "    line 4, 5\n"
+            "    To mend: Correct the weather report of that hour and save it; the new line "
+            "counts.\n"
+            "\n"
+            "Notes\n"
+            "1 x col. 2-11: The same line stands in line 1 already.\n"
+            "    line 2\n"
+            "    To mend: Nothing is to be done: the line counts once.\n");
+  EXPECT_EQ(checked.summary.with_errors(), 3U);
+}
+
+TEST(LogbookCheck, NamesTheFirstLinesOnlyAndCountsAll) {
+  const std::vector<std::string> lines(1000, "x");
+  const std::string words = check(lines).summary.words();
+  EXPECT_NE(words.find("1000 x The line has 1 characters"), std::string::npos) << words;
+  EXPECT_NE(words.find("    line 1, 2, 3, 4, 5, ...\n"), std::string::npos) << words;
+}
+
+TEST(LogbookCheck, SaysSoOfALogbookWithoutLines) {
+  EXPECT_EQ(check({}).summary.words(), "The logbook holds no line.\n");
+  EXPECT_TRUE(check({}).summary.is_sound());
+}
+
+TEST(LogbookCheck, HasItsTextsInBothLanguages) {
+  for (const explain::FindingKind& kind : explain::finding_kinds()) {
+    for (const text::Id id : {kind.text, kind.mend}) {
+      EXPECT_NE(text::bilingual(id, text::Language::kEnglish), "") << kind.name;
+      EXPECT_NE(text::bilingual(id, text::Language::kJapanese), "") << kind.name;
+    }
+  }
+  std::set<std::string_view> kinds;
+  for (const explain::FindingKind& kind : explain::finding_kinds()) kinds.insert(kind.name);
+  EXPECT_EQ(kinds.size(), explain::finding_kinds().size());
+}
+
+// ---- Any bytes
+
+TEST(LogbookCheck, SurvivesAnyBytesAndPrintsNoneOfThem) {
+  std::mt19937 engine(3);
+  const std::string sound = line_of(sound_record());
+  std::vector<std::string> lines;
+  for (int i = 0; i < 3000; ++i) {
+    std::string line = sound;
+    for (auto n = engine() % 20; n > 0; --n)
+      line[engine() % line.size()] = static_cast<char>(engine());
+    if (i % 7 == 0) line.resize(engine() % 180);
+    lines.push_back(line);
+  }
+  const Checked checked = check(lines);
+  for (const Finding& finding : checked.findings)
+    ASSERT_FALSE(text::has_control(finding.text)) << finding.text;
+  const std::string words = checked.summary.words();
+  for (const char c : text::replace_all(words, "\u00B0", ""))
+    ASSERT_TRUE(c == '\n' || (c >= ' ' && c < '\x7f')) << int{c};
+  EXPECT_EQ(check(lines).summary.words(), words) << "twice the same";
+}
+
+}  // namespace
