@@ -32,13 +32,6 @@ struct Arguments {
   std::string file;
 };
 
-bool is_year_and_month(std::string_view text) {
-  constexpr std::size_t kYear = 4;
-  return text.size() == 7 && text[kYear] == '-' && text::is_all_digits(text.substr(0, kYear)) &&
-         text::is_all_digits(text.substr(kYear + 1)) && text.substr(kYear + 1) >= "01" &&
-         text.substr(kYear + 1) <= "12";
-}
-
 /// The arguments, or what is wrong with them.
 std::variant<Arguments, std::string> parsed(const std::vector<std::string>& words) {
   Arguments arguments;
@@ -50,7 +43,7 @@ std::variant<Arguments, std::string> parsed(const std::vector<std::string>& word
       if (word == "--output") {
         arguments.output = value;
       } else if (word == "--date") {
-        if (!is_year_and_month(value)) return "--date is a year and a month, YYYY-MM";
+        if (!cli::is_year_and_month(value)) return "--date is a year and a month, YYYY-MM";
         arguments.date = value;
       } else {
         auto identifier = wigos_identifier(value);

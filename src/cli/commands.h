@@ -32,7 +32,7 @@ int read_command(const std::vector<std::string>& arguments);
 /// JSON for each finding.
 int logbook_command(const std::vector<std::string>& arguments);
 
-/// explain [--language en|ja] [--date YYYYMM] [FILE]: each report in plain words, a line for each
+/// explain [--language en|ja] [--date YYYY-MM] [FILE]: each report in plain words, a line for each
 /// group. Year and month are those of a file named YYMMDDHH.tlx, else those that are given.
 int explain_command(const std::vector<std::string>& arguments);
 

@@ -12,15 +12,10 @@
 namespace cli {
 namespace {
 
-constexpr const char* kUsage = "kavrel-cli explain [--language en|ja] [--date YYYYMM] [FILE]";
+constexpr const char* kUsage = "kavrel-cli explain [--language en|ja] [--date YYYY-MM] [FILE]";
 
-std::optional<explain::YearMonth> year_month(std::string_view figures) {
-  constexpr std::size_t kFigures = 6;
-  if (figures.size() != kFigures) return std::nullopt;
-  const auto year = text::whole_number(figures.substr(0, 4), 1, 9999);
-  const auto month = text::whole_number(figures.substr(4), 1, 12);
-  if (!year || !month) return std::nullopt;
-  return explain::YearMonth{*year, *month};
+explain::YearMonth year_month(std::string_view date) {
+  return {text::leading_int(date.substr(0, 4)), text::leading_int(date.substr(5))};
 }
 
 /// What the words of the command say.
@@ -45,8 +40,10 @@ Wanted wanted_by(const std::vector<std::string>& arguments) {
       wanted.language = value == "ja" ? text::Language::kJapanese : text::Language::kEnglish;
     } else if (word == "--date") {
       ++i;
-      wanted.when = year_month(value);
-      if (!wanted.when) wanted.wrong = "--date wants a year and a month, YYYYMM";
+      if (is_year_and_month(value))
+        wanted.when = year_month(value);
+      else
+        wanted.wrong = "--date is a year and a month, YYYY-MM";
     } else if (word.starts_with("--") || !wanted.file.empty()) {
       wanted.wrong = "unknown argument " + word;
     } else {

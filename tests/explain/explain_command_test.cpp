@@ -78,9 +78,9 @@ TEST_F(ExplainCommand, TellsEachReportWithABlankLineBetween) {
 TEST_F(ExplainCommand, TakesYearAndMonthOfTheFilesNameOrAsTheyAreGiven) {
   file("14111512.tlx", kReport);
   EXPECT_NE(run("14111512.tlx").out.find("15 November 2014, 12 UTC."), std::string::npos);
-  EXPECT_NE(run("--date 201503 14111512.tlx").out.find("15 March 2015, 12 UTC."),
+  EXPECT_NE(run("--date 2015-03 14111512.tlx").out.find("15 March 2015, 12 UTC."),
             std::string::npos);
-  EXPECT_NE(run("--language ja --date 201503", kReport).out.find("2015年3月15日12時（UTC）。"),
+  EXPECT_NE(run("--language ja --date 2015-03", kReport).out.find("2015年3月15日12時（UTC）。"),
             std::string::npos);
 }
 
@@ -88,8 +88,8 @@ TEST_F(ExplainCommand, RefusesWhatReadRefuses) {
   EXPECT_EQ(run("", "no report\n").status, 2);
   EXPECT_EQ(run("", "").status, 2);
   EXPECT_EQ(run("missing.tlx").status, 2);
-  for (const char* const words : {"--language", "--language de", "--date", "--date 201413",
-                                  "--date 2014", "--other", "a b"}) {
+  for (const char* const words : {"--language", "--language de", "--date", "--date 2014-13",
+                                  "--date 201411", "--date 2014", "--other", "a b"}) {
     const Outcome outcome = run(words, kReport);
     EXPECT_EQ(outcome.status, 2) << words;
     EXPECT_NE(outcome.error.find("usage: kavrel-cli explain"), std::string::npos) << words;
