@@ -52,8 +52,7 @@ Struct_Weather record_of(int number) {
 class Ship {
  public:
   Ship() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "kavrel-bench-XXXXXX").string();
-    if (::mkdtemp(pattern.data()) != nullptr) root_ = pattern;
+    if (root_.empty()) return;
     const std::filesystem::path drive = root_;
     std::ofstream log(drive / "immt5.log");
     for (int i = 0; i < kReports; ++i) {
@@ -78,7 +77,12 @@ class Ship {
   }
 
  private:
-  std::string root_;
+  static std::string new_folder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "kavrel-bench-XXXXXX").string();
+    return ::mkdtemp(pattern.data()) != nullptr ? pattern : std::string();
+  }
+
+  std::string root_ = new_folder();
   ShipFixedData ship_ = fakes::sample_ship();
   KeyObservationItems items_;
   platform::posix::SystemCalls calls_;
