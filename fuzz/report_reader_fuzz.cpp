@@ -1,8 +1,11 @@
 // Any bytes are read; what was placed encodes to a report that reads back whole and encodes to the
-// same bytes, and nothing of the text is lost: every word is placed or named.
+// same bytes, and nothing of the text is lost: every word is placed or named, and told in plain words
+// once.
 
 #include <algorithm>
 
+#include "explain/doubts/doubts.h"
+#include "explain/plain/plain_words.h"
 #include "fuzz.h"
 #include "observation/report_encoder.h"
 #include "observation/report_reader.h"
@@ -48,6 +51,18 @@ std::size_t placed_characters(const Struct_Weather& before, const Struct_Weather
   return sum;
 }
 
+void expect_told(std::string_view text, const observation::ReadReport* read) {
+  for (const text::Language language : {text::Language::kEnglish, text::Language::kJapanese}) {
+    const auto lines = explain::plain_words(text, {}, language);
+    fuzz::expect(lines.empty() == (read == nullptr), "a report read is a report told");
+    for (const explain::PlainLine& line : lines)
+      fuzz::expect(!line.sentence.empty(), "every word has a sentence", line.group);
+    if (read != nullptr)
+      (void)explain::doubts_of(observation::values_of(read->record),
+                               std::span<const observation::PastObservation>(), language);
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -56,6 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto found = observation::find_report(input.text());
   const auto first = observation::read_report(input.text(), blank());
   fuzz::expect(found.has_value() == first.has_value(), "a report found is a report read");
+  expect_told(input.text(), first ? &*first : nullptr);
   if (!first) return 0;
 
   std::size_t named = 0;

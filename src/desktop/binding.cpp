@@ -101,6 +101,16 @@ class FieldEdit : public QLineEdit {
   }
 
  protected:
+  // A dialog that opens gives its first field the focus as Tab does, which selects all of it. What is
+  // only read is selected as the screen says.
+  void focusInEvent(QFocusEvent* event) override {
+    const int from = selectionStart();
+    const auto length = static_cast<int>(selectedText().size());
+    QLineEdit::focusInEvent(event);
+    if (!isReadOnly()) return;
+    deselect();
+    if (from >= 0) setSelection(from, length);
+  }
   void paintEvent(QPaintEvent* event) override {
     QLineEdit::paintEvent(event);
     if (!wrong_) return;

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "text/help.h"
 #include "text/ids.h"
 
 namespace id = text::id;
@@ -29,8 +28,4 @@ bool CSaveErrorInfoDlg::on_enter_or_escape(ui::Key key) {
   if (key != ui::Key::kEnter || focused() != &errors) return false;
   close(kCorrect);
   return true;
-}
-
-void CSaveErrorInfoDlg::on_help() {
-  services().help.show(text::kDoubtsTopic);
 }

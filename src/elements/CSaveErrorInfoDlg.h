@@ -26,7 +26,6 @@ class CSaveErrorInfoDlg : public ui::Screen {
  protected:
   void on_open() override;
   void on_cancel() override { close(kCorrect); }
-  void on_help() override;
   /// Enter in the list corrects what is chosen there.
   bool on_enter_or_escape(ui::Key key) override;
 };

@@ -137,6 +137,8 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void show_or_hide_plain_words();
   /// Follows what is typed, also before it is taken, and the field that has the focus.
   void tell_plain_words();
+  /// Of the field or group that is being typed into, every question answered with Yes.
+  [[nodiscard]] bool takes_what_is_typed() const;
   [[nodiscard]] int plain_line_of_focus(const std::vector<explain::PlainLine>& lines) const;
 
   // Entries.

@@ -43,6 +43,7 @@ constexpr DialogTopic kTopics[] = {
     {"CLogbookDlg", {"Kavrel", "Capter33_J.htm", "Capter33_E.htm"}},
     {"CLogbookCheckDlg", {"Kavrel", "Capter33_J.htm", "Capter33_E.htm"}},
     {"CPlainWordsDlg", {"Kavrel", "Capter31_J.htm", "Capter31_E.htm"}},
+    {"CSaveErrorInfoDlg", {"Kavrel", "Capter32_J.htm", "Capter32_E.htm"}},
     {"CCurvesDlg", {"Kavrel", "Capter34_J.htm", "Capter34_E.htm"}},
     {"CTlxSelectDlg", {"Kavrel", "Capter8_J.htm", "Capter8_E.htm"}},
 };

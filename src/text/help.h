@@ -20,9 +20,6 @@ struct HelpTopic {
 /// Topic of a dialog by its class name. No topic (an empty base) for a class without one.
 [[nodiscard]] HelpTopic dialog_topic(std::string_view class_name);
 
-/// What the doubts in the list of a save are; the list's own title is another.
-inline constexpr HelpTopic kDoubtsTopic = {"Kavrel", "Capter32_J.htm", "Capter32_E.htm"};
-
 struct DialogTopic {
   std::string_view class_name;
   HelpTopic topic;

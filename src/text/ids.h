@@ -1264,6 +1264,7 @@ inline constexpr Id kReasonDamaged{44141};
 inline constexpr Id kCommandPlainWords{46150};
 inline constexpr Id kCommandCurves{46151};
 inline constexpr Id kCommandLog{46152};
+inline constexpr Id kPlainNotTaken{46153};
 inline constexpr Id kCommandNewWatch{42830};
 inline constexpr Id kCommandPrint{42831};
 inline constexpr Id kCommandCopy{42832};

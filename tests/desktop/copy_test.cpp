@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "desktop_world.h"
+#include "fakes/sample_logbook.h"
 #include "fakes/temp_folder.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "officer.h"
@@ -20,7 +21,8 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-const std::string kLogbook = "LINE1\nLINE2\n";
+// Sound ones, so that nothing is asked about them.
+const std::string kLogbook = fakes::logbook_line(14, 0) + "\n" + fakes::logbook_line(14, 3) + "\n";
 
 struct Computer {
   fakes::TempFolder temp;

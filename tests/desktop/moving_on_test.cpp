@@ -215,7 +215,8 @@ TEST(InputMethods, AreAskedForFiguresByEveryFieldOfThem) {
     for (const ui::Control* const control : screen->controls()) {
       if (control->kind != ui::Kind::kEdit && control->kind != ui::Kind::kCombo) continue;
       static const std::set<std::string> kTexts = {
-          "call_sign", "aws_manufacturer", "barometer_check_port", "folder_name", "status_line"};
+          "call_sign",   "aws_manufacturer", "barometer_check_port",
+          "folder_name", "status_line",      "point"};
       EXPECT_EQ(control->figures, !kTexts.contains(control->name))
           << row.class_name << " " << control->name;
     }

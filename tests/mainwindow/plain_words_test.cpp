@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "fakes/fake_ports.h"
 #include "fakes/sample_observation.h"
@@ -56,6 +57,33 @@ TEST(PlainWordsPane, FollowsWhatIsTypedBeforeTheFieldIsLeft) {
   EXPECT_EQ(chosen(opened), "40134  Pressure 1013.4 hPa.");
   ASSERT_TRUE(opened.window.move_focus(opened.control("VV")));
   EXPECT_EQ(line_of(opened, "40134"), "40134  Pressure 1013.4 hPa.");
+}
+
+// The words of the value before must not pass for those of what stands in the field.
+TEST(PlainWordsPane, SaysWhatIsTypedAndCannotBeTaken) {
+  for (const auto& [language, told] :
+       {std::pair{text::Language::kEnglish,
+                  "Not taken: 9. The value before it stands in the report."},
+        std::pair{text::Language::kJapanese,
+                  "入力値「9」は受け付けられません。気象電報は前の値のままです。"}}) {
+    Opened opened;
+    opened.world.texts.language = language;
+    press_f2(opened);
+    ui::Control& pressure = opened.control("PPPP");
+    ASSERT_TRUE(opened.window.move_focus(pressure));
+    opened.window.type(pressure, "1013.2");
+    const auto says = [&] {
+      const auto& lines = opened.control("plain_words").items;
+      return std::count_if(lines.begin(), lines.end(), [&](const std::string& line) {
+        return line.find(told) != std::string::npos;
+      });
+    };
+    EXPECT_EQ(says(), 0);
+    opened.window.type(pressure, "9");
+    EXPECT_EQ(says(), 1);
+    opened.window.type(pressure, "");
+    EXPECT_EQ(says(), 0) << "empty is a value as well";
+  }
 }
 
 TEST(PlainWordsPane, FollowsAGroupThatIsTyped) {

@@ -30,6 +30,24 @@ std::string figures(std::optional<int> code) {
   return code ? text::format_int(*code, 2, '0') : std::string();
 }
 
+// Of Vs (code table 4451) in knots: "11-15".
+std::string knots_of_class(std::optional<int> Vs) {
+  constexpr int kClass = 5;
+  constexpr int kOpenClass = 9;
+  if (!Vs) return {};
+  if (*Vs == 0) return "0";
+  if (*Vs == kOpenClass) return "40+";
+  std::string knots = text::format_int(kClass * (*Vs - 1) + 1);
+  knots.push_back('-');
+  knots.append(text::format_int(kClass * *Vs));
+  return knots;
+}
+// Of Ds (code table 0700) in degrees: "45".
+std::string degrees_of_class(std::optional<int> Ds) {
+  constexpr int kClass = 45;
+  return Ds ? text::format_int(kClass * *Ds) : std::string();
+}
+
 DoubtWords words(std::string one, std::string two = {}, std::string three = {},
                  std::string four = {}) {
   return {std::move(one), std::move(two), std::move(three), std::move(four)};
@@ -62,7 +80,8 @@ constexpr DoubtRow kRows[] = {
      id::kDoubtSpeedAgainstPositions,
      rules::speed_against_positions,
      [](const V& now, const Before& before) {
-       return words(whole(rules::knots_between(now, before)), figure(now.speed));
+       return words(whole(rules::knots_between(now, before)), knots_of_class(now.speed),
+                    figure(now.speed));
      },
      "WMO-No. 306, code table 4451; five knots to either side: own choice, for the tenths of the "
      "positions",
@@ -72,7 +91,8 @@ constexpr DoubtRow kRows[] = {
      id::kDoubtCourseAgainstPositions,
      rules::course_against_positions,
      [](const V& now, const Before& before) {
-       return words(whole(rules::bearing_between(now, before)), figure(now.course));
+       return words(whole(rules::bearing_between(now, before)), degrees_of_class(now.course),
+                    figure(now.course));
      },
      "WMO-No. 306, code table 0700; a right angle: own choice, for ships that turn",
      {&W::LaDeg, &W::LoDeg, &W::Ds}},
