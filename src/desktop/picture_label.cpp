@@ -66,8 +66,10 @@ void PictureLabel::show_drawing(std::shared_ptr<const ui::Drawing> drawing) {
   if (drawing_ == drawing) return;
   drawing_ = std::move(drawing);
   const bool grows = drawing_ != nullptr && drawing_->grows;
-  const QSizePolicy::Policy policy = grows ? QSizePolicy::Expanding : QSizePolicy::Preferred;
-  if (sizePolicy().verticalPolicy() != policy) setSizePolicy(policy, policy);
+  const QSizePolicy::Policy across = grows ? QSizePolicy::Expanding : QSizePolicy::Preferred;
+  const QSizePolicy::Policy down = grows && drawing_->low ? QSizePolicy::Fixed : across;
+  const QSizePolicy now = sizePolicy();
+  if (now.horizontalPolicy() != across || now.verticalPolicy() != down) setSizePolicy(across, down);
   update();
 }
 

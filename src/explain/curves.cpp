@@ -201,9 +201,7 @@ struct Frame {
   double line = 1;  ///< height of a line of text in the smallest room
 };
 
-Frame frame_of(const Scale& scale, Chart chart) {
-  const double lines = row_of(chart).lines;
-  const double above = kTitleLines + (chart == Chart::kWind ? kBarbLines : 0);
+Frame frame_of(const Scale& scale, double lines, double above) {
   Frame frame;
   frame.scale = scale;
   frame.line = (scale.high - scale.low) / (lines - above - kDayLines);
@@ -212,7 +210,8 @@ Frame frame_of(const Scale& scale, Chart chart) {
   return frame;
 }
 
-void add_value_lines(ui::Drawing& drawing, const Scale& scale) {
+// Every so many lines are named.
+void add_value_lines(ui::Drawing& drawing, const Scale& scale, long named_each) {
   constexpr int kBeforeFirst = 3;  // hours: the numbers stand left of that
   const int decimals = scale.step < 1 ? 1 : 0;
   const auto count = std::lround((scale.high - scale.low) / scale.step);
@@ -220,8 +219,9 @@ void add_value_lines(ui::Drawing& drawing, const Scale& scale) {
     const double value = scale.low + static_cast<double>(i) * scale.step;
     drawing.ground.emplace_back(
         ui::Polyline{{{-kHoursShown - kBeforeFirst, value}, {drawing.x.last, value}}, Ink::kFaint});
-    drawing.ground.emplace_back(ShortText{
-        {drawing.x.first, value}, text::format_fixed(value, decimals), ShortText::Side::kRight});
+    if (i % named_each == 0)
+      drawing.ground.emplace_back(ShortText{
+          {drawing.x.first, value}, text::format_fixed(value, decimals), ShortText::Side::kRight});
   }
 }
 
@@ -254,14 +254,18 @@ double columns(std::string_view text) {
   return static_cast<double>(ui::columns_of(text)) * kHoursOfCharacter;
 }
 
+std::string title_of(const Days& days, Chart chart, const text::Texts& texts) {
+  const ChartRow& row = row_of(chart);
+  return std::string(texts.get(in_knots(days) ? row.title : row.title_other));
+}
+
 // Title, and what stands for what where that is to be told.
 void add_title(ui::Drawing& drawing, const Days& days, Chart chart, double line,
                const text::Texts& texts) {
   constexpr double kBetween = 3;  // characters
   constexpr double kSample = 5;
   const double y = drawing.y.last - line * 0.6;
-  const ChartRow& row = row_of(chart);
-  const std::string title(texts.get(in_knots(days) ? row.title : row.title_other));
+  const std::string title = title_of(days, chart, texts);
   drawing.shapes.emplace_back(ShortText{{drawing.x.first, y}, title, ShortText::Side::kRight});
   double x = drawing.x.first + columns(title) + kBetween * kHoursOfCharacter;
   const std::vector<Curve> curves = curves_of(days, chart);
@@ -360,6 +364,15 @@ void add_barbs(ui::Drawing& drawing, const Days& days, const Frame& frame) {
   std::for_each(
       days.past.rbegin(), days.past.rend(),
       [&](const observation::PastObservation& past) { add(past.values, past.hour, Ink::kMark); });
+}
+
+// With its axis up only.
+ui::Drawing empty_drawing(const Days& days, Chart chart, const Frame& frame) {
+  ui::Drawing drawing;
+  std::string unit(row_of(chart).unit);
+  if (unit.empty()) unit = unit_of(Curve::kWind, in_knots(days));
+  drawing.y = {std::move(unit), frame.bottom, frame.top};
+  return drawing;
 }
 
 void add_chosen(ui::Drawing& drawing, const Days& days, Chart chart, CurvePoint chosen,
@@ -535,12 +548,10 @@ Scale scale_of(const Days& days, Chart chart) {
 ui::Drawing drawing_of(const Days& days, Chart chart, const text::Texts& texts,
                        std::optional<CurvePoint> chosen) {
   const bool knots = in_knots(days);
-  const Frame frame = frame_of(scale_of(days, chart), chart);
-  ui::Drawing drawing;
+  const Frame frame = frame_of(scale_of(days, chart), row_of(chart).lines,
+                               kTitleLines + (chart == Chart::kWind ? kBarbLines : 0));
+  ui::Drawing drawing = empty_drawing(days, chart, frame);
   drawing.x = {"hours", -kHoursShown - kHoursLeft, kHoursRight};
-  std::string unit(row_of(chart).unit);
-  if (unit.empty()) unit = unit_of(Curve::kWind, knots);
-  drawing.y = {std::move(unit), frame.bottom, frame.top};
   drawing.characters = kCharacters;
   drawing.lines = row_of(chart).lines;
   drawing.grows = true;
@@ -548,12 +559,39 @@ ui::Drawing drawing_of(const Days& days, Chart chart, const text::Texts& texts,
   add_title(drawing, days, chart, frame.line, texts);
   const std::vector<Curve> curves = curves_of(days, chart);
   if (curves.empty()) return drawing;
-  add_value_lines(drawing, frame.scale);
+  add_value_lines(drawing, frame.scale, 1);
   add_days(drawing, days, frame.scale.high, texts);
   if (chosen) add_chosen(drawing, days, chart, *chosen, frame, knots);
   for (const Curve curve : curves) add_line(drawing, days, curve, knots);
   for (const Curve curve : curves) add_entered(drawing, days, curve, frame, knots);
   if (chart == Chart::kWind) add_barbs(drawing, days, frame);
+  return drawing;
+}
+
+ui::Drawing small_drawing_of(const Days& days, Chart chart, const text::Texts& texts) {
+  // What a field beside a form can spare. Beside the hours four figures stand on either side.
+  constexpr int kSmallCharacters = 28;
+  constexpr int kSmallLines = 6;
+  constexpr int kHoursBeside = 26;
+  constexpr double kTitleAt = 0.6;
+  const bool knots = in_knots(days);
+  const Frame frame = frame_of(scale_of(days, chart), kSmallLines, kTitleLines);
+  ui::Drawing drawing = empty_drawing(days, chart, frame);
+  drawing.x = {"hours", -kHoursShown - kHoursBeside, kHoursBeside};
+  drawing.characters = kSmallCharacters;
+  drawing.lines = kSmallLines;
+  drawing.grows = true;
+  drawing.low = true;
+  drawing.shapes.emplace_back(ShortText{{drawing.x.first, frame.top - frame.line * kTitleAt},
+                                        title_of(days, chart, texts),
+                                        ShortText::Side::kRight});
+  const std::vector<Curve> curves = curves_of(days, chart);
+  if (curves.empty()) return drawing;
+  const long steps = std::lround((frame.scale.high - frame.scale.low) / frame.scale.step);
+  add_value_lines(drawing, frame.scale, steps % 2 == 0 ? steps / 2 : steps);
+  add_days(drawing, days, frame.scale.high, texts);
+  for (const Curve curve : curves) add_line(drawing, days, curve, knots);
+  for (const Curve curve : curves) add_entered(drawing, days, curve, frame, knots);
   return drawing;
 }
 

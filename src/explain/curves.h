@@ -87,6 +87,10 @@ struct Scale {
 [[nodiscard]] ui::Drawing drawing_of(const Days& days, Chart chart, const text::Texts& texts,
                                      std::optional<CurvePoint> chosen);
 
+/// The same chart in the room beside a form: without the names of the curves and the wind barbs, and
+/// with its scale named at both ends and in the middle.
+[[nodiscard]] ui::Drawing small_drawing_of(const Days& days, Chart chart, const text::Texts& texts);
+
 /// "15 November 12 UTC: air pressure 1013.2 hPa, 1.4 more than 3 hours before"
 [[nodiscard]] std::string words_of(const Days& days, CurvePoint point, const text::Texts& texts);
 

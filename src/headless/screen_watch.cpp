@@ -54,7 +54,7 @@ void add_changes(const ui::ControlView& was, const ui::ControlView& is, bool new
       out.push_back(is.name + " caption: " + arrow(was.caption, is.caption));
     if (was.unit != is.unit) out.push_back(is.name + " unit: " + arrow(was.unit, is.unit));
     if (was.drawing != is.drawing && is.repeats) {
-      out.push_back(is.name + ": drawn anew");
+      if (!is.follows_keys) out.push_back(is.name + ": drawn anew");
     } else if (was.drawing != is.drawing) {
       out.push_back(is.name + " drawing:");
       for (const std::string& line : is.drawing) out.push_back("  " + line);

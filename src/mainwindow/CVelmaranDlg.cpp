@@ -317,6 +317,7 @@ void CVelmaranDlg::edit_fixed_data() {
   if (context_.save_fixed_data) context_.save_fixed_data();
   // An OK without a change leaves a report that is being corrected as it was sent.
   if (elements::ship_mark(context_.ship) != before) form_.ship_changed();
+  days_.reset();
   show_menu();
   refresh();
   tell_doubts();
@@ -333,6 +334,7 @@ void CVelmaranDlg::edit_observation_items() {
   if (services().windows.run_modal(dialog) != ui::kOk) return;
   context_.items = dialog.values();
   form_.items_changed();
+  days_.reset();
   refresh();
   tell_doubts();
 }
@@ -438,6 +440,9 @@ bool CVelmaranDlg::save() {
   typing_ = false;
   saved_once_ = true;
   find_last_positions();
+  days_.reset();
+  read_days();
+  draw_curve();
   const mainwindow::Folders& folders = context_.folders;
   tell_in_status_line(text::fill(services().texts.get(id::kStatusSaved),
                                  {observation::report_path(folders.reports, form_.record()),

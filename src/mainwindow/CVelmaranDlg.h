@@ -15,6 +15,7 @@
 #include "elements/form/correction.h"
 #include "elements/form/draft.h"
 #include "elements/form/observation_form.h"
+#include "explain/curves.h"
 #include "explain/plain/plain_words.h"
 #include "mainwindow/LandWatch.h"
 #include "mainwindow/context.h"
@@ -189,6 +190,14 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void show_map();
   /// The last days as curves, with what is being typed among them.
   void show_curves();
+  /// The curve that belongs to a field or group; none for most.
+  [[nodiscard]] std::optional<explain::Curve> curve_of(const ui::Control* control) const;
+  // The chart of the field that has the focus, beside the form.
+  void add_curve();
+  /// With what is typed, at each key; reads no file.
+  void draw_curve();
+  /// Reads the days before the hour in the form, where those of another one or none were read.
+  void read_days();
   /// The ship's logbook as a table.
   void show_logbook();
   /// The record as it would be if what is being typed were taken; as it is where that would be
@@ -223,6 +232,11 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   std::array<ui::Control*, kParts> last_in_{};
   std::string news_;               ///< in the status line; empty: what the field means
   CPictureStatic* map_ = nullptr;  ///< none without a sea map
+  ui::Control* curve_ = nullptr;
+  explain::Chart chart_ = explain::Chart::kPressure;  ///< shown, or shown last
+  std::optional<explain::Days> days_;  ///< that the curve is drawn of; none: to be read
+  std::optional<int> days_before_;     ///< the hour that they are before; none: up to the newest
+  bool seen_ = false;                  ///< the window was painted, or has an hour
   mainwindow::LandWatch land_;
   std::vector<mainwindow::SavedPosition> last_positions_;  ///< the newest first
   std::string last_positions_before_;  ///< report name of the observation that they are before

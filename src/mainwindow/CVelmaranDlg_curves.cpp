@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <iterator>
 
+#include "elements/form/field_words.h"
 #include "explain/CCurvesDlg.h"
 #include "mainwindow/CVelmaranDlg.h"
+#include "text/ids.h"
 
 namespace {
 
@@ -17,6 +19,10 @@ struct CurveOf {
   Curve curve;
 };
 constexpr CurveOf kCurvesOf[] = {
+    {Field::kReading, Curve::kPressure},
+    {Field::kPPPP, Curve::kPressure},
+    {Field::ka, Curve::kPressure},
+    {Field::kppp, Curve::kPressure},
     {Field::kDryBulb, Curve::kAir},
     {Field::kWetBulb, Curve::kAir},
     {Field::kAirTemperature, Curve::kAir},
@@ -57,14 +63,58 @@ Struct_Weather CVelmaranDlg::record_as_typed() const {
   return tried.record();
 }
 
-void CVelmaranDlg::show_curves() {
-  Curve start = Curve::kPressure;
-  if (const Field* const field = field_of(spoken_of_); field != nullptr && field->is_edit()) {
-    const auto* const at =
-        std::find_if(std::begin(kCurvesOf), std::end(kCurvesOf),
-                     [&](const CurveOf& row) { return row.field == field->value(); });
-    if (at != std::end(kCurvesOf)) start = at->curve;
+std::optional<Curve> CVelmaranDlg::curve_of(const ui::Control* control) const {
+  const Field* const field = field_of(control);
+  const auto group = std::find_if(groups_.begin(), groups_.end(),
+                                  [&](const ReportGroup& each) { return each.control == control; });
+  const auto* const at =
+      std::find_if(std::begin(kCurvesOf), std::end(kCurvesOf), [&](const CurveOf& row) {
+        if (field != nullptr) return field->is_edit() && row.field == field->value();
+        return group != groups_.end() && elements::group_of(row.field) == group->row->group;
+      });
+  if (at == std::end(kCurvesOf)) return std::nullopt;
+  return at->curve;
+}
+
+void CVelmaranDlg::add_curve() {
+  auto& title = add<ui::Label>("label_curve", text::Ref{text::id::kLabelCurve});
+  curve_ = &add<ui::Picture>("curve", text::Ref{text::id::kSpokenCurve});
+  curve_->repeats = true;
+  curve_->follows_keys = true;
+  for (ui::Control* const each : {static_cast<ui::Control*>(&title), curve_}) {
+    each->only_shows = true;
+    each->on_press = [this] { run({0, text::id::kCommandCurves, mainwindow::Command::kCurves}); };
   }
+  draw_curve();
+}
+
+void CVelmaranDlg::read_days() {
+  const observation::Values values = observation::values_of(form_.record());
+  seen_ = seen_ || values.hour;
+  // Before the first paint only a draft has an hour.
+  if (!seen_ || (days_ && days_before_ == values.hour)) return;
+  days_before_ = values.hour;
+  days_ = explain::days_before(values, services().files,
+                               {context_.folders.reports, context_.folders.logbook}, context_.ship,
+                               context_.items);
+}
+
+void CVelmaranDlg::draw_curve() {
+  if (const auto curve = curve_of(spoken_of_)) chart_ = explain::chart_of(*curve);
+  explain::Days days = days_.value_or(explain::Days{});
+  // An hour that is half typed moves nothing: what is entered stays where its hour was.
+  if (days_before_) {
+    days.entered = observation::values_of(record_as_typed());
+    days.entered->hour = days_before_;
+  }
+  ui::Drawing drawing = explain::small_drawing_of(days, chart_, services().texts);
+  // The same drawing is not painted again.
+  if (curve_->drawing == nullptr || *curve_->drawing != drawing)
+    curve_->drawing = std::make_shared<const ui::Drawing>(std::move(drawing));
+}
+
+void CVelmaranDlg::show_curves() {
+  const Curve start = curve_of(spoken_of_).value_or(Curve::kPressure);
   const explain::Archive archive{context_.folders.reports, context_.folders.logbook};
   CCurvesDlg dialog(services(),
                     explain::days_before(observation::values_of(record_as_typed()),

@@ -57,6 +57,11 @@ std::string CVelmaranDlg::draft() const {
 }
 
 void CVelmaranDlg::on_idle(bool undisturbed) {
+  if (!seen_) {
+    seen_ = true;
+    read_days();
+    draw_curve();
+  }
   if (!unsaved()) {
     keeper_.drop({});
     return;

@@ -31,6 +31,7 @@ CVelmaranDlg::CVelmaranDlg(ui::Services& services, mainwindow::MainWindowContext
   fields_.reserve(mainwindow::field_rows().size());
   for (const mainwindow::FieldRow& row : mainwindow::field_rows()) add_field(row);
   if (context_.sea_map != nullptr) add_map();
+  add_curve();
   add_commands();
   add_plain_words();
   add_report();
@@ -174,6 +175,8 @@ void CVelmaranDlg::refresh() {
   show_map();
   show_status();
   tell_plain_words();
+  read_days();
+  draw_curve();
 }
 
 // The reason, none for a field that is open.

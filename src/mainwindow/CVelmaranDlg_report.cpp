@@ -146,12 +146,14 @@ void CVelmaranDlg::on_focused() {
   news_.clear();
   show_status();
   tell_plain_words();
+  draw_curve();
 }
 
 void CVelmaranDlg::typed() {
   news_.clear();
   show_status();
   tell_plain_words();
+  draw_curve();
 }
 
 void CVelmaranDlg::tell_in_status_line(std::string news) {

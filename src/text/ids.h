@@ -1613,6 +1613,8 @@ inline constexpr Id kSpokenChartTemperature{46054};
 inline constexpr Id kSpokenChartWind{46055};
 inline constexpr Id kSpokenChartWaves{46056};
 inline constexpr Id kCurveDate{46057};
+inline constexpr Id kLabelCurve{46060};
+inline constexpr Id kSpokenCurve{46061};
 
 // The logbook read back and checked
 inline constexpr Id kLogLength{45800};

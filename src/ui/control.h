@@ -95,6 +95,9 @@ class Control {
   /// What it shows tells what other controls say already. Where changes are listed, a picture's name
   /// is enough, and a text is not listed.
   bool repeats = false;
+  /// Of a picture that repeats others: it is drawn anew with nearly every key, and where changes are
+  /// listed that says nothing, so it is left out.
+  bool follows_keys = false;
   int selected = -1;   ///< line of a drop-down, list, choice or tree
   int most_lines = 0;  ///< of a list, shown at once; the others scroll; 0: as many as its kind has
   int beside_line =

@@ -116,6 +116,7 @@ struct Drawing {
   int characters = 40;  ///< least width, in figures of the usual font
   int lines = 12;       ///< least height
   bool grows = false;   ///< takes up the room that is left across and down
+  bool low = false;     ///< with `grows`: only across; its height is the least one
   /// With `grows`: its window is made so large that it has so many times its least room, as far as
   /// the display goes.
   double roomy = 1;

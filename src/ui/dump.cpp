@@ -172,6 +172,7 @@ ControlView view_of(const Screen& screen, const Control& control) {
   if (control.kind == Kind::kChoice) view.line_codes = control.item_codes;
   if (control.drawing != nullptr) view.drawing = describe(*control.drawing);
   view.repeats = control.repeats;
+  view.follows_keys = control.follows_keys;
   const auto& disabled = control.item_disabled;
   if (std::find(disabled.begin(), disabled.end(), true) != disabled.end())
     view.line_disabled = disabled;

@@ -24,6 +24,7 @@ struct ControlView {
   std::vector<bool> line_ticked;        ///< list only; empty when its lines have no boxes
   std::vector<std::string> drawing;     ///< describe() of a picture's drawing; empty without one
   bool repeats = false;                 ///< Control::repeats
+  bool follows_keys = false;            ///< Control::follows_keys
   bool enabled = true;
   bool visible = true;
   bool locked = false;

@@ -147,7 +147,9 @@ class Planner {
 
   bool grows_down(const PlanNode& node) const {
     const Control* const control = node.type == Type::kControl ? screen_.find(node.name) : nullptr;
-    if (control != nullptr && control->drawing != nullptr && control->drawing->grows) return true;
+    if (control != nullptr && control->drawing != nullptr && control->drawing->grows &&
+        !control->drawing->low)
+      return true;
     return std::any_of(node.children.begin(), node.children.end(),
                        [this](const PlanNode& child) { return grows_down(child); });
   }

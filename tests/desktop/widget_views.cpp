@@ -112,6 +112,7 @@ std::vector<ui::ControlView> control_views(const ui::Screen& screen) {
     const ui::Control& control = *screen.controls()[i];
     view.max_length = 0;
     view.repeats = false;  // no widget shows it
+    view.follows_keys = false;
     view.caption = ui::without_access_key(view.caption);
     if (control.kind == ui::Kind::kReadOnly) view.locked = false;
     if (control.kind == ui::Kind::kTree) {

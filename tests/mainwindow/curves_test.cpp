@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
+#include <variant>
 
 #include "explain/CCurvesDlg.h"
 #include "text/numbers.h"
@@ -153,6 +155,163 @@ TEST(CurvesCommand, BeginsWithTheCurveOfTheField) {
     opened->window.move_focus(opened->control(row.field));
     EXPECT_EQ(said(*opened),
               "15 November 12 UTC: " + std::string(row.curve) + " not reported (being entered)");
+  }
+}
+
+// ---- Beside the form
+
+// Where the ring of what is being entered stands on the value axis; nothing where none is drawn.
+std::optional<double> ring(Opened& opened) {
+  for (const ui::Shape& shape : opened.control("curve").drawing->shapes) {
+    const auto* const marker = std::get_if<ui::Marker>(&shape);
+    if (marker != nullptr && marker->sign == ui::Marker::Sign::kRing) return marker->at.y;
+  }
+  return std::nullopt;
+}
+
+std::vector<std::string> texts_of(Opened& opened) {
+  std::vector<std::string> texts;
+  const ui::Drawing& drawing = *opened.control("curve").drawing;
+  for (const auto* const shapes : {&drawing.shapes, &drawing.ground})
+    for (const ui::Shape& shape : *shapes)
+      if (const auto* const text = std::get_if<ui::ShortText>(&shape)) texts.push_back(text->text);
+  return texts;
+}
+
+bool says(Opened& opened, std::string_view text) {
+  const auto texts = texts_of(opened);
+  return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+TEST(CurveBesideTheForm, FollowsEachKeyOfAPressure) {
+  const auto opened = with_reports();
+  enter_date(*opened);
+  ui::Control& field = opened->control("PPPP");
+  ASSERT_TRUE(opened->window.move_focus(field));
+  EXPECT_EQ(ring(*opened), std::nullopt);
+  opened->window.type(field, "9");
+  EXPECT_EQ(ring(*opened), std::nullopt);
+  opened->window.type(field, "91");
+  EXPECT_EQ(ring(*opened), std::nullopt);
+  opened->window.type(field, "913.2");
+  EXPECT_EQ(ring(*opened), std::nullopt) << "far from the values before: an arrow";
+  EXPECT_TRUE(says(*opened, "913.2"));
+  opened->window.type(field, "1013.2");
+  EXPECT_EQ(ring(*opened), 1013.2);
+  opened->window.type(field, "1014.2");
+  EXPECT_EQ(ring(*opened), 1014.2);
+  EXPECT_EQ(opened->window.form().entered(elements::Field::kPPPP), "") << "nothing is taken";
+}
+
+TEST(CurveBesideTheForm, DrawsNoPointOfWhatCanNotBeRead) {
+  const auto opened = with_reports();
+  enter_date(*opened);
+  ui::Control& field = opened->control("PPPP");
+  ASSERT_TRUE(opened->window.move_focus(field));
+  for (const char* const typed : {"", "1", "10", "*", "/", "x", "99999", "-", "////"}) {
+    opened->window.type(field, "1013.2");
+    ASSERT_EQ(ring(*opened), 1013.2);
+    opened->window.type(field, typed);
+    EXPECT_EQ(ring(*opened), std::nullopt) << typed;
+  }
+}
+
+TEST(CurveBesideTheForm, ReadsNoFileAtAKey) {
+  const auto opened = with_reports();
+  enter_date(*opened);
+  for (const char* const name : {"PPPP", "TwTwTw", "ff", "GG", "group_4PPPP"}) {
+    ui::Control& field = opened->control(name);
+    ASSERT_TRUE(opened->window.move_focus(field));
+    const int before = opened->files.operations();
+    for (const char* const typed : {"1", "10", "15", "06"}) opened->window.type(field, typed);
+    EXPECT_EQ(opened->files.operations(), before) << name;
+    opened->window.type(field, name == std::string_view("GG") ? "12" : "");
+  }
+}
+
+TEST(CurveBesideTheForm, IsThatOfTheFieldAndElseTheLastOne) {
+  const auto opened = with_reports();
+  enter_date(*opened);
+  struct Row {
+    const char* field;
+    const char* title;
+  };
+  constexpr const char* kPressure = "Air pressure at sea level, hPa";
+  constexpr const char* kWaves = "Wave height, m";
+  EXPECT_TRUE(says(*opened, kPressure)) << "at first";
+  for (const Row& row :
+       {Row{"air_temperature", "Temperature, °C"}, Row{"TwTwTw", "Temperature, °C"},
+        Row{"dd", "Wind, kn"}, Row{"ff", "Wind, kn"}, Row{"HwHw", kWaves}, Row{"Hw1Hw1", kWaves},
+        Row{"VV", kWaves}, Row{"ppp", kPressure}, Row{"VV", kPressure},
+        Row{"group_Nddff", "Wind, kn"}, Row{"group_5appp", kPressure}, Row{"PPPP", kPressure}}) {
+    ASSERT_TRUE(opened->window.move_focus(opened->control(row.field)));
+    EXPECT_TRUE(says(*opened, row.title)) << row.field;
+  }
+}
+
+TEST(CurveBesideTheForm, ShowsTheReportsOnceTheWindowWasSeenAndAfterASave) {
+  const auto opened = with_reports();
+  EXPECT_FALSE(says(*opened, "15 Nov")) << "nothing is read before the first paint";
+  opened->window.idle();
+  EXPECT_TRUE(says(*opened, "15 Nov"));
+  EXPECT_EQ(ring(*opened), std::nullopt);
+  const int before = opened->files.operations();
+  opened->window.idle();
+  EXPECT_EQ(opened->files.operations(), before) << "read once";
+}
+
+TEST(CurveBesideTheForm, LooksAtTheHourThatIsEntered) {
+  const auto opened = with_reports();
+  enter_date(*opened);
+  opened->type("PPPP", "1013.2");
+  EXPECT_TRUE(says(*opened, "15 Nov"));
+  opened->type("YY", "25");
+  EXPECT_FALSE(says(*opened, "15 Nov")) << "ten days later";
+  EXPECT_TRUE(says(*opened, "25 Nov"));
+  EXPECT_EQ(ring(*opened), 1013.2);
+}
+
+TEST(CurveBesideTheForm, SpeaksTheLanguageOfTheMoment) {
+  Opened opened({}, {}, true);
+  enter_date(opened);
+  opened.menu("Language/日本語（Japanese）");
+  EXPECT_TRUE(says(opened, "海面気圧（hPa）"));
+}
+
+TEST(CurveBesideTheForm, BeginsAnewWithTheNextWatch) {
+  const auto opened = with_reports();
+  enter_date(*opened);
+  opened->type("PPPP", "1013.2");
+  ASSERT_EQ(ring(*opened), 1013.2);
+  opened->world.windows.expect(text::id::kAskSaveBeforeCorrecting, "no");
+  opened->window.press(*opened->window.pressed_by("Ctrl+N"));
+  EXPECT_EQ(ring(*opened), std::nullopt);
+  EXPECT_TRUE(says(*opened, "15 Nov")) << "the reports up to the newest one";
+}
+
+TEST(CurveBesideTheForm, IsAnEmptyFrameOnAFirstVoyage) {
+  Opened opened;
+  opened.window.idle();
+  EXPECT_EQ(texts_of(opened), std::vector<std::string>{"Air pressure at sea level, hPa"});
+}
+
+TEST(CurveBesideTheForm, OpensAllCurvesByAClickAndTakesNoFocus) {
+  const auto opened = with_reports();
+  enter_date(*opened);
+  ui::Control& field = opened->control("PPPP");
+  ASSERT_TRUE(opened->window.move_focus(field));
+  opened->window.type(field, "10");
+  EXPECT_FALSE(opened->control("curve").can_focus());
+  for (const char* const name : {"curve", "label_curve"}) {
+    bool shown = false;
+    opened->world.windows.expect_screen("CCurvesDlg", [&](ui::Screen& screen) {
+      shown = true;
+      screen.key(ui::Key::kEscape);
+    });
+    opened->press(name);
+    EXPECT_TRUE(shown) << name;
+    EXPECT_EQ(field.content, "10") << "what is half typed stays";
+    EXPECT_EQ(opened->window.focused(), &field);
   }
 }
 
