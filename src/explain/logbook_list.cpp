@@ -116,6 +116,21 @@ void add_cell(std::string& row, std::string_view text, const Column& column) {
   if (!column.right) row.append(blanks, ' ');
 }
 
+// Words that do not fit are cut off: a row is one line on a small screen with large letters, and
+// plain words tell the rest.
+constexpr std::size_t kRemarkColumns = 46;
+
+std::string cut(std::string text) {
+  if (ui::columns_of(text) <= kRemarkColumns) return text;
+  constexpr std::string_view kMore = "...";
+  while (ui::columns_of(text) + kMore.size() > kRemarkColumns) {
+    // A whole character, its continuing bytes included.
+    while ((static_cast<unsigned char>(text.back()) & 0xC0U) == 0x80U) text.pop_back();
+    text.pop_back();
+  }
+  return text.append(kMore);
+}
+
 // Present weather in figures and words, behind what cannot be read.
 std::string remarks(const LogbookRecord& read, const text::Texts& texts) {
   std::string text;
@@ -123,12 +138,12 @@ std::string remarks(const LogbookRecord& read, const text::Texts& texts) {
     text =
         text::fill(texts.get(id::kLogListDamaged), {text::format_int(read.unread.front()->first)});
   const std::string& ww = read.record.ww;
-  if (!text::is_all_digits(ww)) return text;
+  if (!text::is_all_digits(ww)) return cut(std::move(text));
   if (!text.empty()) text.append(kGap);
   text.append(ww);
   const auto words = codetables::meaning(*codetables::table_of("ww"), ww, texts.language);
   if (words) text.append(" ").append(*words);
-  return text;
+  return cut(std::move(text));
 }
 
 double or_unknown(std::optional<double> value, double sign) {

@@ -19,6 +19,7 @@ constexpr int kWidestValue = 40;
 constexpr int kFewestLines = 4;  // an empty list still looks like a list
 constexpr int kMostLines = 14;
 constexpr int kMemoCharacters = 60;
+constexpr int kMemoLines = 8;
 constexpr std::size_t kOneLine = 48;  // characters of a choice
 
 int characters_in(const Control& control) {
@@ -268,7 +269,8 @@ Extent extent_of(const Control& control) {
     case Kind::kReadOnly:
       return extent_of_value(control);
     case Kind::kMemo:
-      return {control.max_length > 0 ? control.max_length : kMemoCharacters, 0, 8, true};
+      return {control.max_length > 0 ? control.max_length : kMemoCharacters, 0,
+              control.most_lines > 0 ? control.most_lines : kMemoLines, true};
     case Kind::kTree:
       return {44, 0, 12, true};
     case Kind::kCombo:

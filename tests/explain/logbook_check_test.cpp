@@ -256,26 +256,29 @@ TEST(LogbookCheck, ForgetsTheShipsAndHoursOfLongAgo) {
 // ---- The summary
 
 TEST(LogbookCheck, SumsUpForAPerson) {
-  const Checked checked = check({at("15", "12"), at("15", "12"), "", at("16", "00", {{"VV", "50"}}),
-                                 at("16", "06", {{"VV", "51"}, {"TTT", "150"}})});
-  EXPECT_EQ(checked.summary.words(),
-            "Lines: 5 (sound: 2, with errors: 3, with doubts: 0)\n"
-            "JXKV: 4, from 2014-11-15 12 UTC to 2014-11-16 06 UTC\n"
-            "\n"
-            "Errors\n"
-            "1 x The line has 0 characters; a line of this layout has 172.\n"
-            "    line 3\n"
-            "    To mend: The line was changed behind the program. Take the logbook anew from the "
-            "ship, and do not edit it.\n"
-            "2 x VV, col. 22-23: 50 is not in code table 4377.\n"
-            "    line 4, 5\n"
-            "    To mend: Correct the weather report of that hour and save it; the new line "
-            "counts.\n"
-            "\n"
-            "Notes\n"
-            "1 x col. 2-11: The same line stands in line 1 already.\n"
-            "    line 2\n"
-            "    To mend: Nothing is to be done: the line counts once.\n");
+  const Checked checked =
+      check({at("15", "12"), at("15", "12"), "", at("16", "00", {{"VV", "50"}}),
+             at("16", "06", {{"VV", "51"}, {"TTT", "150"}, {"Ds", "0"}, {"Vs", "0"}})});
+  EXPECT_EQ(
+      checked.summary.words(),
+      "Lines: 5 (sound: 2, with errors: 3, with doubts: 0)\n"
+      "JXKV: 4, from 2014-11-15 12 UTC to 2014-11-16 06 UTC\n"
+      "\n"
+      "Errors\n"
+      "1 x The line has 0 characters; a line of this layout has 172.\n"
+      "    Line 3\n"
+      "    To mend: The line was cut off or changed outside the program. Aboard, save the "
+      "weather report of that hour again; ashore, copy the logbook from the ship again and do "
+      "not edit it.\n"
+      "2 x VV, col. 22-23: 50 is not in code table 4377.\n"
+      "    Line 4 (2014-11-16 00 UTC), 5 (2014-11-16 06 UTC)\n"
+      "    To mend: Correct the weather report of that hour and save it; the new line "
+      "counts.\n"
+      "\n"
+      "Notes\n"
+      "1 x col. 2-11: The same line stands in line 1 already.\n"
+      "    Line 2 (2014-11-15 12 UTC)\n"
+      "    To mend: Nothing is to be done: the line counts once.\n");
   EXPECT_EQ(checked.summary.with_errors(), 3U);
 }
 
@@ -283,7 +286,7 @@ TEST(LogbookCheck, NamesTheFirstLinesOnlyAndCountsAll) {
   const std::vector<std::string> lines(1000, "x");
   const std::string words = check(lines).summary.words();
   EXPECT_NE(words.find("1000 x The line has 1 characters"), std::string::npos) << words;
-  EXPECT_NE(words.find("    line 1, 2, 3, 4, 5, ...\n"), std::string::npos) << words;
+  EXPECT_NE(words.find("    Line 1, 2, 3, 4, 5, ...\n"), std::string::npos) << words;
 }
 
 TEST(LogbookCheck, SaysSoOfALogbookWithoutLines) {

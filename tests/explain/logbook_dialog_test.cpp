@@ -9,6 +9,8 @@
 #include "fakes/sample_logbook.h"
 #include "fakes/sample_ship.h"
 #include "text/ids.h"
+#include "ui/dump.h"
+#include "ui/printer.h"
 
 namespace {
 
@@ -53,6 +55,32 @@ TEST(LogbookDlg, TellsAnObservationInWordsAndFigures) {
   EXPECT_EQ(screen->remark.literal_caption, "Shown: 1 of 1 observations");
 }
 
+// A row is one line, whatever the weather is called; plain words tell the rest.
+TEST(LogbookDlg, CutsLongWordsOffSoThatARowStaysOneLine) {
+  constexpr std::size_t kMostColumns = 132;  // of a small screen with large letters
+  for (const bool japanese : {false, true}) {
+    Shown shown;
+    if (japanese) shown.world.japanese();
+    std::string log;
+    for (int ww = 0; ww < 100; ++ww)
+      log += logbook_line(14, ww % 24,
+                          {{"ww", ww < 10 ? "0" + std::to_string(ww) : std::to_string(ww)}}) +
+             "\n";
+    shown.files.add_file(kLog, log);
+    const auto screen = shown.open();
+    ASSERT_EQ(screen->observations.items.size(), 100U);
+    std::size_t cut = 0;
+    for (const std::string& row : screen->observations.items) {
+      EXPECT_LE(ui::columns_of(row), kMostColumns) << row;
+      if (!row.ends_with("...")) continue;
+      ++cut;
+      EXPECT_TRUE(ui::is_utf8(row)) << row;
+    }
+    EXPECT_GT(cut, 0U);
+    EXPECT_LT(cut, 100U);
+  }
+}
+
 TEST(LogbookDlg, ShowsTheNewestFirstAndSortsByChoice) {
   Shown shown;
   shown.files.add_file(
@@ -82,7 +110,7 @@ TEST(LogbookDlg, EnterAndTheButtonOpenTheLineInPlainWords) {
   const auto screen = shown.open();
   for (const bool by_key : {true, false}) {
     shown.world.windows.expect_screen("CPlainWordsDlg", [](ui::Screen& words) {
-      EXPECT_EQ(words.title(), "JXKV 2014/11/14 12 UTC");
+      EXPECT_EQ(words.find("words")->literal_caption, "JXKV 2014/11/14 12 UTC");
       const auto& told = words.find("words")->items;
       EXPECT_TRUE(std::ranges::any_of(told, [](const std::string& line) {
         return line.find("1013.0") != std::string::npos;

@@ -194,8 +194,10 @@ void Summary::add(const Finding& finding) {
     group.first = finding;
   }
   if (group.lines.size() < kLinesNamed &&
-      (group.lines.empty() || group.lines.back() != finding.line))
+      (group.lines.empty() || group.lines.back() != finding.line)) {
     group.lines.push_back(finding.line);
+    group.hours.push_back(finding.when);
+  }
 }
 
 void Summary::count_ship(std::string_view call_sign, const std::string& when) {
@@ -224,9 +226,11 @@ void Summary::append_group(std::string& out, const Group& group) const {
   else
     append_filled(out, id::kSummaryGroup, language_, {count, where, group.first.text});
   std::string lines;
-  for (const std::uint64_t line : group.lines) {
+  // Who mends it looks for the report of the hour, and not for a line.
+  for (std::size_t i = 0; i < group.lines.size(); ++i) {
     if (!lines.empty()) lines.append(", ");
-    lines.append(number(line));
+    lines.append(number(group.lines[i]));
+    if (!group.hours[i].empty()) lines.append(" (").append(group.hours[i]).append(")");
   }
   if (group.count > group.lines.size()) lines.append(", ...");
   append_filled(out, id::kSummaryWhere, language_, {lines});
@@ -269,10 +273,13 @@ void LogbookCheck::find(std::size_t kind, ColumnRange columns, std::string eleme
   const FindingKind& row = kKinds[kind];
   error_ = error_ || row.severity == kError;
   doubt_ = doubt_ || row.severity == kDoubt;
-  const Finding finding{
-      summary_.lines_,    &row,
-      std::string(rule),  columns,
-      std::move(element), in_one_line(text::fill(text::bilingual(row.text, language_), words))};
+  const Finding finding{summary_.lines_,
+                        &row,
+                        std::string(rule),
+                        columns,
+                        std::move(element),
+                        in_one_line(text::fill(text::bilingual(row.text, language_), words)),
+                        hour_ ? when_of(read_->record) : std::string()};
   summary_.add(finding);
   if (found_) found_(finding);
 }
@@ -283,6 +290,8 @@ void LogbookCheck::take(std::string_view text) {
   doubt_ = false;
   const auto line = LogbookLine::of(text);
   const auto read = line ? observation::record_of_line(text, {}, {}) : std::nullopt;
+  read_ = read ? &*read : nullptr;
+  hour_ = read ? line->hour() : std::nullopt;
   if (!read) {
     find(kLength, {}, {}, {number(text.size())});
   } else {
@@ -292,14 +301,15 @@ void LogbookCheck::take(std::string_view text) {
     if (fixed <= kFixedTextsWrong) {
       check_elements(*read);
       check_rules(read->record);
-      const auto hour = line->hour();
-      if (!hour) {
+      if (!hour_) {
         find(kDate, {2, 11}, {}, {printable(text.substr(line->lacks(1) ? 0 : 1, 10))});
       } else if (!read->record.CallSign.empty()) {
-        check_sequence(text, *read, *hour);
+        check_sequence(text, *read, *hour_);
       }
     }
   }
+  read_ = nullptr;
+  hour_.reset();
   if (error_)
     ++summary_.errors_;
   else if (doubt_)

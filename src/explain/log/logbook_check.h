@@ -13,6 +13,7 @@
 #include <functional>
 #include <list>
 #include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -54,6 +55,7 @@ struct Finding {
   ColumnRange columns;
   std::string element;  ///< symbols, separated by a blank; empty for the line as a whole
   std::string text;     ///< in the check's language, printable, one line
+  std::string when;     ///< date and hour of the observation; empty where they cannot be read
 };
 
 /// Findings counted: how many lines, how many sound, which faults how often and where.
@@ -84,6 +86,7 @@ class Summary {
     const FindingKind* kind = nullptr;
     std::uint64_t count = 0;
     std::vector<std::uint64_t> lines;
+    std::vector<std::string> hours;  ///< of these lines, see Finding::when
     Finding first;
   };
   struct Ship {
@@ -151,6 +154,9 @@ class LogbookCheck {
   std::unordered_map<std::string, std::list<Ship>::iterator> by_call_sign_;
   std::unordered_map<std::string, Told> told_;
   std::deque<std::string> told_order_;
+  /// Of the line at hand; nothing when it cannot be read.
+  const observation::LogbookRecord* read_ = nullptr;
+  std::optional<int> hour_;
   bool error_ = false;  ///< of the line at hand
   bool doubt_ = false;
 };
