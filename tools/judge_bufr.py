@@ -222,6 +222,8 @@ def expected(o, ship, wigos):
         pressure = 10 * (pressure + (10000 if pressure < 5000 else 0))
     a = within(number(o["a"]), 0, 8)
     change = number(o["ppp"]) if a is not None else None
+    if a == 4 and change != 0:
+        change = None  # steady: risen or fallen, nobody says
     if change is not None:
         change = within(-10 * change if a >= 5 else 10 * change, -5000, 5220)
     minus, method = WET_BULBS.get(o["Sw"], (None, None))

@@ -196,6 +196,10 @@ class Names : public Writer {
 
 void read_line(const Input& input, std::size_t number, std::string_view line, Writer& writer) {
   const auto read = observation::record_of_line(line, {}, {});
+  if (!read && observation::LogbookLine::of(line)) {
+    complain(input, number, "damaged: its columns are shifted or overwritten");
+    return;
+  }
   if (!read) {
     complain(input, number,
              "damaged: a line has 172 characters, this one " +
@@ -299,7 +303,8 @@ int check_lines(const Words& words) {
     std::cerr << "kavrel-cli: " << words.list << " cannot be written\n";
     return kWrong;
   }
-  return check.summary().is_empty() ? kOk : kFound;
+  // Notes call for nothing. A log without a line may have been lost on its way.
+  return check.summary().is_sound() && check.summary().lines() > 0 ? kOk : kFound;
 }
 
 /// Why the words are no command; empty when they are.

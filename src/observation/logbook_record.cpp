@@ -107,6 +107,9 @@ std::optional<LogbookRecord> record_of_line(std::string_view line, const ShipFix
     write_column(text, column, again);
     if (text != columns->text_of(column)) forget(*read, column);
   }
+  constexpr std::ptrdiff_t kFixedTextsWrong = 1;
+  if (std::ranges::count(read->unread, Writer::kText, &LogbookColumn::writer) > kFixedTextsWrong)
+    return std::nullopt;
   return read;
 }
 

@@ -79,7 +79,8 @@ class LogbookLine {
 
 /// The observation of a line; any bytes are survived. `ship` and `items` are those of the reader:
 /// what the line tells replaces theirs, and where wind waves or those of an instrument may be meant
-/// the items say which. Nothing when the length is wrong (LogbookLine::of()).
+/// the items say which. Nothing when the length is wrong (LogbookLine::of()), and for a line that was
+/// shifted or overwritten: where two fixed texts are wrong, what stands between is not to be believed.
 [[nodiscard]] std::optional<LogbookRecord> record_of_line(std::string_view line,
                                                           const ShipFixedData& ship,
                                                           const KeyObservationItems& items);

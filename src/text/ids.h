@@ -1635,6 +1635,8 @@ inline constexpr Id kLogDoubt{45814};
 inline constexpr Id kLogSavedTwice{45815};
 inline constexpr Id kLogSameHour{45816};
 inline constexpr Id kLogOrder{45817};
+inline constexpr Id kLogShifted{45818};
+inline constexpr Id kLogLater{45819};
 inline constexpr Id kMendDamaged{45820};
 inline constexpr Id kMendGap{45821};
 inline constexpr Id kMendFromReport{45822};

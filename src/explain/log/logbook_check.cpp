@@ -24,6 +24,7 @@ using enum Severity;
 /// In the order of the table.
 enum Kind : std::uint8_t {
   kLength,
+  kShifted,
   kGap,
   kFixedText,
   kBlank,
@@ -41,14 +42,16 @@ enum Kind : std::uint8_t {
   kSavedTwice,
   kSameHour,
   kOrder,
+  kLater,
 };
 constexpr FindingKind kKinds[] = {
     {"length", kError, id::kLogLength, id::kMendDamaged},
+    {"shifted", kError, id::kLogShifted, id::kMendDamaged},
     {"gap", kError, id::kLogGap, id::kMendGap},
     {"fixed_text", kError, id::kLogFixedText, id::kMendDamaged},
     {"blank", kError, id::kLogBlank, id::kMendFromReport},
     {"unreadable", kError, id::kLogUnreadable, id::kMendFromReport},
-    {"date", kError, id::kLogDate, id::kMendFromReport},
+    {"date", kError, id::kLogDate, id::kMendDamaged},
     {"call_sign", kError, id::kLogCallSign, id::kMendCallSign},
     {"position", kError, id::kLogPosition, id::kMendFromReport},
     {"beyond", kError, id::kLogBeyond, id::kMendCorrect},
@@ -61,11 +64,10 @@ constexpr FindingKind kKinds[] = {
     {"saved_twice", kNote, id::kLogSavedTwice, id::kMendSavedTwice},
     {"same_hour", kNote, id::kLogSameHour, id::kMendSameHour},
     {"order", kDoubt, id::kLogOrder, id::kMendOrder},
+    {"later", kDoubt, id::kLogLater, id::kMendOrder},
 };
-static_assert(std::size(kKinds) == kOrder + 1);
+static_assert(std::size(kKinds) == kLater + 1);
 
-/// More of these in one line, and what stands between them is not to be believed either.
-constexpr std::ptrdiff_t kFixedTextsWrong = 1;
 /// Of a ship so many observations are kept: those of the last day and more.
 constexpr std::size_t kMostPast = 12;
 
@@ -273,13 +275,12 @@ void LogbookCheck::find(std::size_t kind, ColumnRange columns, std::string eleme
   const FindingKind& row = kKinds[kind];
   error_ = error_ || row.severity == kError;
   doubt_ = doubt_ || row.severity == kDoubt;
-  const Finding finding{summary_.lines_,
-                        &row,
-                        std::string(rule),
-                        columns,
-                        std::move(element),
-                        in_one_line(text::fill(text::bilingual(row.text, language_), words)),
-                        hour_ ? when_of(read_->record) : std::string()};
+  tell({summary_.lines_, &row, std::string(rule), columns, std::move(element),
+        in_one_line(text::fill(text::bilingual(row.text, language_), words)),
+        hour_ ? when_of(read_->record) : std::string()});
+}
+
+void LogbookCheck::tell(const Finding& finding) {
   summary_.add(finding);
   if (found_) found_(finding);
 }
@@ -292,28 +293,40 @@ void LogbookCheck::take(std::string_view text) {
   const auto read = line ? observation::record_of_line(text, {}, {}) : std::nullopt;
   read_ = read ? &*read : nullptr;
   hour_ = read ? line->hour() : std::nullopt;
-  if (!read) {
-    find(kLength, {}, {}, {number(text.size())});
-  } else {
-    check_layout(*line, *read);
-    const auto fixed = std::ranges::count(read->unread, Writer::kText, &LogbookColumn::writer);
-    // Of a line that was shifted every column would be wrong, and none of it is the officer's doing.
-    if (fixed <= kFixedTextsWrong) {
-      check_elements(*read);
-      check_rules(read->record);
-      if (!hour_) {
-        find(kDate, {2, 11}, {}, {printable(text.substr(line->lacks(1) ? 0 : 1, 10))});
-      } else if (!read->record.CallSign.empty()) {
-        check_sequence(text, *read, *hour_);
-      }
-    }
-  }
+  constexpr std::size_t kLongestTold = 1000;
+  if (!line || (text.size() != observation::kLogbookColumns && (!read || !has_a_gap_alone(*read))))
+    find(kLength, {}, {},
+         {text.size() > kLongestTold ? std::string("1000+") : number(text.size())});
+  else if (!read)
+    // Every column of it would be wrong, and none of it is the officer's doing.
+    find(kShifted, {}, {}, {});
+  else
+    check_read(text, *line, *read);
   read_ = nullptr;
   hour_.reset();
   if (error_)
     ++summary_.errors_;
   else if (doubt_)
     ++summary_.doubts_;
+}
+
+void LogbookCheck::check_read(std::string_view text, const LogbookLine& line,
+                              const LogbookRecord& read) {
+  check_layout(line, read);
+  check_elements(line, read);
+  check_rules(read.record);
+  if (!hour_)
+    find(kDate, {2, 11}, {}, {printable(text.substr(line.lacks(1) ? 0 : 1, 10))});
+  else if (!read.record.CallSign.empty())
+    check_sequence(text, read, *hour_);
+}
+
+// A column that the encoder leaves out; else a character is missing that nobody knows the place of.
+bool LogbookCheck::has_a_gap_alone(const LogbookRecord& read) {
+  if (!read.unread.empty()) return false;
+  bool sound = true;
+  elements_.check(read.record, [&](const ElementFinding& /*found*/) { sound = false; });
+  return sound;
 }
 
 void LogbookCheck::check_layout(const LogbookLine& line, const LogbookRecord& read) {
@@ -326,8 +339,9 @@ void LogbookCheck::check_layout(const LogbookLine& line, const LogbookRecord& re
 void LogbookCheck::check_column(const LogbookLine& line, const LogbookColumn& column) {
   const std::string_view text = line.text_of(column);
   // Told as what it makes of the line.
-  if (column.field == &W::Year || column.field == &W::Month || column.field == &W::CallSign) return;
+  if (column.field == &W::Year || column.field == &W::Month) return;
   const bool blank = text.find_first_not_of(' ') == std::string_view::npos;
+  if (blank && column.field == &W::CallSign) return;
   std::string element(name_of(column));
   if (column.writer == Writer::kText)
     find(kFixedText, range_of(column), {}, {printable(text), column.text});
@@ -337,9 +351,9 @@ void LogbookCheck::check_column(const LogbookLine& line, const LogbookColumn& co
     find(kUnreadable, range_of(column), std::move(element), {printable(text)});
 }
 
-void LogbookCheck::check_elements(const LogbookRecord& read) {
+void LogbookCheck::check_elements(const LogbookLine& line, const LogbookRecord& read) {
   const W& record = read.record;
-  if (record.CallSign.find_first_not_of('*') == std::string::npos)
+  if (line.call_sign().find_first_not_of('*') == std::string_view::npos)
     find(kCallSign, columns_of(&W::CallSign), "CallSign", {});
   if (!has_position(record)) find(kPosition, {12, 19}, {}, {});
   if (elements::is_impossible(elements::Field::kLaMin, record))
@@ -383,10 +397,11 @@ void LogbookCheck::check_sequence(std::string_view line, const LogbookRecord& re
   check_told(line, call_sign, hour);
   Ship& ship = ship_of(call_sign);
   check_order(ship, hour);
-  Ship::Past now{hour, summary_.lines_, observation::values_of(read.record)};
+  Ship::Past now{hour, summary_.lines_, observation::values_of(read.record), error_, doubt_};
   Before before;
   for (const Ship::Past& past : ship.past) {
-    if (past.hour >= hour || hour - past.hour > kLongestPast) continue;
+    // What was refused says nothing of the next line.
+    if (past.error || past.hour >= hour || hour - past.hour > kLongestPast) continue;
     before.last = &past.values;
     before.hours = hour - past.hour;
     if (before.hours == 3) before.three_hours_ago = &past.values;
@@ -395,6 +410,8 @@ void LogbookCheck::check_sequence(std::string_view line, const LogbookRecord& re
     auto [symbols, columns] = about(*doubt.row);
     find(kOfDoubts, columns, std::move(symbols), {doubt.text}, doubt.row->name);
   }
+  now.doubt = doubt_;
+  ship.last_line = now.line;
   // Of one hour the last line counts, as in the reports that are written over.
   const auto at = std::ranges::lower_bound(ship.past, hour, {}, &Ship::Past::hour);
   if (at != ship.past.end() && at->hour == hour)
@@ -421,9 +438,27 @@ void LogbookCheck::check_told(std::string_view line, const std::string& call_sig
   at->second = {summary_.lines_, mark};
 }
 
-void LogbookCheck::check_order(const Ship& ship, int hour) {
+// A date that is wrong by years would put every line behind it in the wrong: where the line before
+// goes on from the one before that, and this one does as well, it is that line which is out of order.
+void LogbookCheck::check_order(Ship& ship, int hour) {
   if (ship.past.empty() || ship.past.back().hour <= hour) return;
-  find(kOrder, {2, 11}, {}, {number(ship.past.back().line)});
+  const Ship::Past& last = ship.past.back();
+  const bool last_is_wrong = ship.past.size() > 1 && last.line == ship.last_line &&
+                             ship.past[ship.past.size() - 2].hour < hour;
+  if (!last_is_wrong) {
+    find(kOrder, {2, 11}, {}, {number(last.line)});
+    return;
+  }
+  const FindingKind& row = kKinds[kLater];
+  tell({last.line,
+        &row,
+        {},
+        {2, 11},
+        {},
+        text::fill(text::bilingual(row.text, language_), {number(summary_.lines_)}),
+        {}});
+  if (!last.error && !last.doubt) ++summary_.doubts_;
+  ship.past.pop_back();
 }
 
 LogbookCheck::Ship& LogbookCheck::ship_of(const std::string& call_sign) {

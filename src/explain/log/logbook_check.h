@@ -125,9 +125,12 @@ class LogbookCheck {
       int hour;
       std::uint64_t line;
       observation::Values values;
+      bool error = false;  ///< its line has one
+      bool doubt = false;
     };
     std::string call_sign;
     std::deque<Past> past;
+    std::uint64_t last_line = 0;
   };
   /// Which line told an hour, and a mark of what it said.
   struct Told {
@@ -139,11 +142,15 @@ class LogbookCheck {
             std::initializer_list<std::string_view> words, std::string_view rule = {});
   void check_layout(const observation::LogbookLine& line, const observation::LogbookRecord& read);
   void check_column(const observation::LogbookLine& line, const observation::LogbookColumn& column);
-  void check_elements(const observation::LogbookRecord& read);
+  void tell(const Finding& finding);
+  void check_read(std::string_view text, const observation::LogbookLine& line,
+                  const observation::LogbookRecord& read);
+  [[nodiscard]] bool has_a_gap_alone(const observation::LogbookRecord& read);
+  void check_elements(const observation::LogbookLine& line, const observation::LogbookRecord& read);
   void check_rules(const Struct_Weather& record);
   void check_sequence(std::string_view line, const observation::LogbookRecord& read, int hour);
   void check_told(std::string_view line, const std::string& call_sign, int hour);
-  void check_order(const Ship& ship, int hour);
+  void check_order(Ship& ship, int hour);
   Ship& ship_of(const std::string& call_sign);
 
   text::Language language_;
