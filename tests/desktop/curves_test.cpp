@@ -19,6 +19,7 @@
 #include "explain/CCurvesDlg.h"
 #include "fakes/fake_files.h"
 #include "fakes/sample_days.h"
+#include "fakes/sample_observation.h"
 #include "fakes/sample_ship.h"
 #include "mainwindow/CVelmaranDlg.h"
 #include "officer.h"
@@ -183,6 +184,34 @@ TEST(CurvesFromTheMainWindow, LeaveAHalfTypedFieldAsItIs) {
             "15 November 12 UTC: air pressure 1031.0 hPa, 18.5 more than 3 hours before (being "
             "entered)");
   EXPECT_EQ(screen->form().entered(elements::Field::kPPPP), "");
+}
+
+// ---- Beside the form
+
+TEST(CurveInTheMainWindow, IsPaintedAnewAtEachKeyAndKeepsTheMapLarge) {
+  tests::DesktopWorld world;
+  fakes::SampleMainWindow screen(world.services);
+  screen.open();
+  ASSERT_TRUE(fakes::enter_sample(screen));
+  desktop::ScreenWindow window(screen, nullptr);
+  tests::show(window);
+  window.resize(1366, 700);
+  QApplication::processEvents();
+  window.binding("PPPP")->widget()->setFocus();
+  press(Qt::Key_A, Qt::ControlModifier);
+  tests::type("1009.");
+  const auto* const curve = qobject_cast<desktop::PictureLabel*>(window.binding("curve")->widget());
+  ASSERT_NE(curve, nullptr);
+  const auto before = curve->drawing();
+  tests::type("8");
+  EXPECT_NE(curve->drawing(), before);
+  EXPECT_EQ(curve->drawing(), screen.find("curve")->drawing);
+  EXPECT_EQ(screen.find("PPPP")->content, "1009.8");
+  EXPECT_EQ(curve->focusPolicy(), Qt::NoFocus);
+  EXPECT_GE(curve->height(), curve->fontMetrics().height() * 5);
+  const auto* const map = window.binding("position_map");
+  ASSERT_NE(map, nullptr);
+  EXPECT_GE(map->widget()->height(), 2 * curve->height());
 }
 
 // ---- Painting
