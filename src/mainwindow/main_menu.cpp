@@ -56,7 +56,7 @@ constexpr MenuRow kAfterLanguage[] = {
 constexpr ShownCommand kShownCommands[] = {
     {"command_plain_words", id::kCommandPlainWords, Command::kPlainWords, "F2", true},
     {"command_curves", id::kCommandCurves, Command::kCurves, "F3", true},
-    {"command_log", id::kCommandLog, Command::kLog, "F4"},
+    {"command_log", id::kCommandLog, Command::kLog, "F4", true},
     {"command_new_watch", id::kCommandNewWatch, Command::kNewWatch, "Ctrl+N"},
     {"command_print", id::kCommandPrint, Command::kPrintReport, "Ctrl+P"},
     {"command_copy", id::kCommandCopy, Command::kCopyText, "Ctrl+Shift+C"},

@@ -194,6 +194,8 @@ TEST_F(LogbookInAWindow, IsCheckedByTheAccessKey) {
                            }}});
   officer.begin();
   press_access_key("check");
+  // A button pressed by its letter is seen to go down first.
+  static_cast<void>(QTest::qWaitFor([&] { return !words.empty(); }));
   officer.expect_done();
   EXPECT_TRUE(words.starts_with("Lines: 4 (sound: ")) << words;
   EXPECT_NE(words.find("    Line 3\n"), std::string::npos) << words;
@@ -291,13 +293,10 @@ TEST(LogbookFromTheMainWindow, LeavesAHalfTypedFieldAsItIs) {
   tests::type("1031.");
   for (const Qt::Key back : {Qt::Key_Escape, Qt::Key_F4}) {
     int rows = 0;
-    tests::Officer officer({{"CLogbookDlg",
-                             [&] {
+    tests::Officer officer({{"CLogbookDlg", [&] {
                                rows = on_top<QListWidget>("observations").count();
-                               press(Qt::Key_Return);
-                             }},
-                            {"CPlainWordsDlg", [] { press(Qt::Key_Escape); }},
-                            {"CLogbookDlg", [&] { press(back); }}});
+                               press(back);
+                             }}});
     officer.begin();
     press(Qt::Key_F4);
     officer.expect_done();
@@ -312,6 +311,7 @@ TEST(LogbookFromTheMainWindow, LeavesAHalfTypedFieldAsItIs) {
     tests::type("2");
     press(Qt::Key_Backspace);
     EXPECT_EQ(field->text().toStdString(), "1031.");
+    EXPECT_EQ(screen->form().entered(elements::Field::kPPPP), "") << "nothing is taken yet";
   }
 }
 
