@@ -191,8 +191,11 @@ Reading barometer_height(const Source& source) {
 constexpr int kLastTendency = 8;
 
 Reading change(const Source& source) {
-  // The sign is the tendency's.
-  if (source.values.tendency > kLastTendency) return kMissing;
+  // The sign is the tendency's; steady with an amount has none.
+  constexpr int kSteady = 4;
+  const observation::Values& values = source.values;
+  if (values.tendency > kLastTendency) return kMissing;
+  if (values.tendency == kSteady && values.change != 0.0) return kMissing;
   return pascals(source.values.change);
 }
 

@@ -64,11 +64,9 @@ void add_pressure(Values& values, const Struct_Weather& record) {
     values.pressure = *pppp / 10.0 + (*pppp < kBelowThousand ? kThousand : 0.0);
   }
   values.tendency = number(record.a);
-  constexpr int kSteady = 4;
-  // Steady with an amount: nobody knows which way.
-  if (const auto ppp = number(record.ppp);
-      ppp && values.tendency && (*values.tendency != kSteady || *ppp == 0))
-    values.change = (*values.tendency > kSteady ? -*ppp : *ppp) / 10.0;
+  constexpr int kLastThatRises = 4;
+  if (const auto ppp = number(record.ppp); ppp && values.tendency)
+    values.change = (*values.tendency > kLastThatRises ? -*ppp : *ppp) / 10.0;
 }
 
 void add_temperatures(Values& values, const Struct_Weather& record) {
