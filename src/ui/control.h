@@ -98,8 +98,9 @@ class Control {
   /// Of a picture that repeats others: it is drawn anew with nearly every key, and where changes are
   /// listed that says nothing, so it is left out.
   bool follows_keys = false;
-  int selected = -1;   ///< line of a drop-down, list, choice or tree
-  int most_lines = 0;  ///< of a list or memo, shown at once; the others scroll; 0: as many as its kind has
+  int selected = -1;  ///< line of a drop-down, list, choice or tree
+  int most_lines =
+      0;  ///< of a list or memo, shown at once; the others scroll; 0: as many as its kind has
   int beside_line =
       -1;  ///< picture: the line of the screen's choice that it shows, where it shows one
   bool checked = false;
