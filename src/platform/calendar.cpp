@@ -13,15 +13,15 @@ bool is_calendar_date(int year, int month, int day) {
   return year >= 1 && year <= 9999 && day >= 1 && day <= days_in_month(year, month);
 }
 
+// Counted in years that begin in March, so that the leap day is a year's last.
 int day_number(int year, int month, int day) {
-  constexpr int kFirstYear = 2000;
-  constexpr int kMonths = 12;
-  int days = day - 1;
-  for (int before = kFirstYear; before <= year; ++before) {
-    for (int each = 1; each <= (before < year ? kMonths : month - 1); ++each)
-      days += days_in_month(before, each);
-  }
-  return days;
+  constexpr int kDaysOf400Years = 146097;
+  constexpr int kFirstOf2000 = 730425;  // from 1 March of the year 0
+  const int from_march = (month + 9) % 12;
+  const int years = year - (month <= 2 ? 1 : 0);
+  const int of_400 = years % 400;
+  const int days = of_400 * 365 + of_400 / 4 - of_400 / 100 + (153 * from_march + 2) / 5 + day - 1;
+  return years / 400 * kDaysOf400Years + days - kFirstOf2000;
 }
 
 }  // namespace platform

@@ -168,7 +168,9 @@ std::optional<std::size_t> place_of(std::string_view sign, std::string_view figu
   std::size_t place = sign.empty() ? 8 : static_cast<std::size_t>(sign.front() - '0');
   if (sign.size() > 1 || place >= kSigns) return std::nullopt;
   // "05" and "005" are two texts of one number, but no element has both.
-  place += kSigns * static_cast<std::size_t>(text::leading_int(figures));
+  std::size_t number = 0;
+  for (const char figure : figures) number = number * 10 + static_cast<std::size_t>(figure - '0');
+  place += kSigns * number;
   return place;
 }
 
