@@ -138,8 +138,6 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void show_or_hide_plain_words();
   /// Follows what is typed, also before it is taken, and the field that has the focus.
   void tell_plain_words();
-  /// Of the field or group that is being typed into, every question answered with Yes.
-  [[nodiscard]] bool takes_what_is_typed() const;
   [[nodiscard]] int plain_line_of_focus(const std::vector<explain::PlainLine>& lines) const;
 
   // Entries.
@@ -200,9 +198,13 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   void read_days();
   /// The ship's logbook as a table.
   void show_logbook();
-  /// The record as it would be if what is being typed were taken; as it is where that would be
-  /// refused. Nothing is asked and nothing changed.
-  [[nodiscard]] Struct_Weather record_as_typed() const;
+  struct AsTyped {
+    Struct_Weather record;
+    bool taken = true;  ///< false: what is being typed would be refused, the record is as it is
+  };
+  /// As it would be if what is being typed were taken, every question answered with Yes. Nothing is
+  /// asked and nothing changed.
+  [[nodiscard]] AsTyped as_typed() const;
   /// Says which tiles of the sea map cannot be used, each once.
   void tell_map_troubles();
   void tell_doubts();

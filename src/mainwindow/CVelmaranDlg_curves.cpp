@@ -46,21 +46,21 @@ constexpr CurveOf kCurvesOf[] = {
 
 }  // namespace
 
-Struct_Weather CVelmaranDlg::record_as_typed() const {
-  if (!typing_) return form_.record();
+CVelmaranDlg::AsTyped CVelmaranDlg::as_typed() const {
   elements::ObservationForm tried = form_;
-  if (const Field* const field = field_of(focused()); field != nullptr && field->is_edit()) {
-    tried.type(field->value(), field->control->content);
-    static_cast<void>(tried.leave(field->value(), elements::kEveryQuestion));
-    return tried.record();
-  }
+  elements::Answer answer;
   const auto group = std::find_if(groups_.begin(), groups_.end(), [&](const ReportGroup& each) {
     return each.control == focused();
   });
-  if (group != groups_.end())
-    static_cast<void>(
-        tried.leave(group->row->group, group->control->content, elements::kEveryQuestion));
-  return tried.record();
+  if (!typing_) {
+    // What stands in the fields is in the record.
+  } else if (const Field* const field = field_of(focused()); field != nullptr && field->is_edit()) {
+    tried.type(field->value(), field->control->content);
+    answer = tried.leave(field->value(), elements::kEveryQuestion);
+  } else if (group != groups_.end()) {
+    answer = tried.leave(group->row->group, group->control->content, elements::kEveryQuestion);
+  }
+  return {tried.record(), answer.accepted()};
 }
 
 std::optional<Curve> CVelmaranDlg::curve_of(const ui::Control* control) const {
@@ -104,7 +104,7 @@ void CVelmaranDlg::draw_curve() {
   explain::Days days = days_.value_or(explain::Days{});
   // An hour that is half typed moves nothing: what is entered stays where its hour was.
   if (days_before_) {
-    days.entered = observation::values_of(record_as_typed());
+    days.entered = observation::values_of(as_typed().record);
     days.entered->hour = days_before_;
   }
   ui::Drawing drawing = explain::small_drawing_of(days, chart_, services().texts);
@@ -117,7 +117,7 @@ void CVelmaranDlg::show_curves() {
   const Curve start = curve_of(spoken_of_).value_or(Curve::kPressure);
   const explain::Archive archive{context_.folders.reports, context_.folders.logbook};
   CCurvesDlg dialog(services(),
-                    explain::days_before(observation::values_of(record_as_typed()),
+                    explain::days_before(observation::values_of(as_typed().record),
                                          services().files, archive, context_.ship, context_.items),
                     start, context_.folders.reports, context_.ship.call_sign);
   services().windows.run_modal(dialog);

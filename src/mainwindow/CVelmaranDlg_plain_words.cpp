@@ -36,14 +36,14 @@ void CVelmaranDlg::show_or_hide_plain_words() {
 
 void CVelmaranDlg::tell_plain_words() {
   if (!plain_words_->visible) return;
-  const Struct_Weather record = record_as_typed();
+  const auto [record, taken] = as_typed();
   const observation::Report now =
       observation::make_report(record, observation::wants_wet_bulb(context_.ship));
   const explain::YearMonth when{text::leading_int(record.Year), text::leading_int(record.Month)};
   auto lines = explain::plain_words(now.text, when, language());
   const int at = plain_line_of_focus(lines);
   // Else the words of the value before would pass for those of what stands in the field.
-  if (!takes_what_is_typed())
+  if (!taken)
     lines.insert(lines.begin() + at + 1,
                  {{},
                   text::fill(services().texts.get(id::kPlainNotTaken), {focused()->content}),
@@ -51,21 +51,6 @@ void CVelmaranDlg::tell_plain_words() {
                   {}});
   explain::put_lines(*plain_words_, lines);
   plain_words_->selected = at;
-}
-
-bool CVelmaranDlg::takes_what_is_typed() const {
-  if (!typing_) return true;
-  elements::ObservationForm tried = form_;
-  if (const Field* const field = field_of(focused()); field != nullptr && field->is_edit()) {
-    tried.type(field->value(), field->control->content);
-    return tried.leave(field->value(), elements::kEveryQuestion).accepted();
-  }
-  const auto group = std::find_if(groups_.begin(), groups_.end(), [&](const ReportGroup& each) {
-    return each.control == focused();
-  });
-  return group == groups_.end() ||
-         tried.leave(group->row->group, group->control->content, elements::kEveryQuestion)
-             .accepted();
 }
 
 int CVelmaranDlg::plain_line_of_focus(const std::vector<explain::PlainLine>& lines) const {
