@@ -1,8 +1,6 @@
 // The command as a user runs it: the real programs, real files.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -10,21 +8,13 @@
 #include <random>
 #include <sstream>
 
+#include "fakes/command_folder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Outcome {
-  int status = -1;
-  std::string out, error;
-};
-
-std::string slurp(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
+using fakes::Outcome;
 
 int messages(const std::string& bytes) {
   int count = 0;
@@ -35,33 +25,19 @@ int messages(const std::string& bytes) {
 
 class BufrCommand : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "kavrel-bufr-test.XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    folder_ = pattern;
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
   void file(const std::string& name, const std::string& content) const {
-    std::ofstream(folder_ / name, std::ios::binary) << content;
+    folder_.write(name, content);
   }
+  std::string slurp(const std::string& name) const { return folder_.content(name); }
 
-  /// Runs "kavrel-cli bufr" in the folder with words that need no quoting.
+  /// Runs "kavrel-cli bufr" in the folder with words that need no quoting; its input is a pipe.
   Outcome run(const std::string& arguments, const std::string& input = "") const {
-    file("stdin", input);
-    fs::remove(folder_ / "stdout");
-    const std::string command = "cd '" + folder_.string() + "' && cat stdin | env -i " +
-                                std::string(KAVREL_CLI) + " bufr " + arguments +
-                                (arguments.find('>') == std::string::npos ? " >stdout" : "") +
-                                " 2>stderr";
-    const int raw = std::system(command.c_str());
-    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -WTERMSIG(raw), slurp(folder_ / "stdout"),
-            slurp(folder_ / "stderr")};
+    return folder_.shell("cat | env -i $CLI bufr " + arguments, input);
   }
 
   bool exists(const char* name) const { return fs::exists(folder_ / name); }
 
-  fs::path folder_;
+  fakes::CommandFolder folder_;
 };
 
 const char* const kObservation =
@@ -78,9 +54,9 @@ TEST_F(BufrCommand, WritesOneMessageBehindTheOther) {
   EXPECT_TRUE(outcome.out.starts_with("BUFR"));
   EXPECT_TRUE(outcome.out.ends_with("7777"));
   // From standard input and into a file it is the same.
-  EXPECT_EQ(run("--output -", slurp(folder_ / "two.obs")).out, outcome.out);
+  EXPECT_EQ(run("--output -", slurp("two.obs")).out, outcome.out);
   EXPECT_EQ(run("--output out.bufr two.obs").status, 0);
-  EXPECT_EQ(slurp(folder_ / "out.bufr"), outcome.out);
+  EXPECT_EQ(slurp("out.bufr"), outcome.out);
 }
 
 TEST_F(BufrCommand, OfAReportIsTheSameAsOfItsObservation) {
@@ -216,15 +192,15 @@ TEST_F(BufrCommand, WritesNotOverWhatItReads) {
   const Outcome outcome = run("--output ./one.obs one.obs");
   EXPECT_EQ(outcome.status, 2);
   EXPECT_EQ(outcome.error, "kavrel-cli: ./one.obs is what is read\n");
-  EXPECT_EQ(slurp(folder_ / "one.obs"), kObservation);
+  EXPECT_EQ(slurp("one.obs"), kObservation);
 }
 
 TEST_F(BufrCommand, LeavesTheFileThatWasThereWhenItFails) {
   file("out.bufr", "as it was");
   EXPECT_EQ(run("--output out.bufr", "TTT=152\n").status, 2);
-  EXPECT_EQ(slurp(folder_ / "out.bufr"), "as it was");
+  EXPECT_EQ(slurp("out.bufr"), "as it was");
   EXPECT_EQ(run("--output out.bufr", kObservation).status, 0);
-  EXPECT_EQ(messages(slurp(folder_ / "out.bufr")), 1);
+  EXPECT_EQ(messages(slurp("out.bufr")), 1);
   EXPECT_FALSE(exists("out.bufr.part"));
 }
 

@@ -1,55 +1,29 @@
 // kavrel-cli explain as it is run.
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
-#include <sys/wait.h>
 
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 
+#include "fakes/command_folder.h"
+
 namespace {
 
-namespace fs = std::filesystem;
-
-struct Outcome {
-  int status = -1;
-  std::string out, error;
-};
+using fakes::Outcome;
 
 class ExplainCommand : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "kavrel-explain.XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    folder_ = pattern;
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
   void file(const std::string& name, const std::string& content) const {
-    std::ofstream(folder_ / name, std::ios::binary) << content;
+    folder_.write(name, content);
   }
 
   /// The words need no quoting.
   Outcome run(const std::string& arguments, const std::string& input = "") const {
-    file("stdin", input);
-    const std::string command = "cd '" + folder_.string() + "' && env -i " +
-                                std::string(KAVREL_CLI) + " explain " + arguments +
-                                " <stdin >stdout 2>stderr";
-    const int raw = std::system(command.c_str());
-    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, slurp("stdout"), slurp("stderr")};
+    return folder_.shell("env -i $CLI explain " + arguments, input);
   }
 
  private:
-  [[nodiscard]] std::string slurp(const char* name) const {
-    std::ifstream in(folder_ / name, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-  }
-
-  fs::path folder_;
+  fakes::CommandFolder folder_;
 };
 
 constexpr const char* kReport = "BBXX JXKV 15124 99357 11653 43/// ///// 22200 =\n";

@@ -1,7 +1,6 @@
 // kavrel-cli logbook as a user runs it: the real program, real files.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <algorithm>
 #include <array>
@@ -11,8 +10,8 @@
 #include <random>
 #include <sstream>
 
+#include "fakes/command_folder.h"
 #include "fakes/sample_logbook.h"
-#include "fakes/temp_folder.h"
 #include "observation/logbook_encoder.h"
 
 namespace {
@@ -20,23 +19,13 @@ namespace {
 namespace fs = std::filesystem;
 using fakes::logbook_line;
 
-struct Outcome {
-  int status = -1;
-  std::string out, error;
-};
+using fakes::Outcome;
 
 class LogbookCommand : public testing::Test {
  protected:
-  fakes::TempFolder temp_;
+  fakes::CommandFolder temp_;
 
-  /// Runs a shell command in the folder, where $CLI is the program.
-  Outcome shell(const std::string& command) const {
-    const std::string whole = "cd '" + temp_.path() + "' && export CLI='" + KAVREL_CLI + "' && { " +
-                              command + "; } >stdout 2>stderr";
-    const int raw = std::system(whole.c_str());
-    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -WTERMSIG(raw), temp_.content("stdout"),
-            temp_.content("stderr")};
-  }
+  Outcome shell(const std::string& command) const { return temp_.shell(command); }
 };
 
 std::size_t lines_in(const std::string& text) {
