@@ -58,6 +58,19 @@ TEST(PlainLines, SayWhatAShipUsuallySendsAndThisReportLacks) {
        {"", "Not reported: sea surface temperature, wind waves, swell.", Told::kNotReported}});
 }
 
+// A direction without a period and a height is half a swell; no second direction is none.
+TEST(PlainLines, SayThatASecondSwellLacksItsGroup) {
+  const auto last = [](const char* waves) {
+    const std::string report =
+        std::string("BBXX JXKV 15124 99357 11653 41497 62718 22200 02183 20604 ") + waves;
+    return plain_words(report, {}, Language::kEnglish).back().sentence;
+  };
+  EXPECT_EQ(last("32531 40905"), "Not reported: period and height of the second swell.");
+  EXPECT_EQ(last("325//"), "Not reported: period and height of the first swell.");
+  for (const char* const whole : {"325// 40905", "32500 40905", "32531 40905 51103", "30000"})
+    EXPECT_FALSE(last(whole).starts_with("Not reported")) << whole;
+}
+
 TEST(PlainLines, SayTheDateWholeWhereYearAndMonthAreKnown) {
   struct Row {
     const char* group;
