@@ -1638,6 +1638,8 @@ inline constexpr Id kLabelCurve{46060};
 inline constexpr Id kSpokenCurve{46061};
 
 // The logbook read back and checked
+inline constexpr Id kLogOneCharacter{45561};
+inline constexpr Id kLogCharacters{45562};
 inline constexpr Id kLogLength{45800};
 inline constexpr Id kLogGap{45801};
 inline constexpr Id kLogFixedText{45802};
