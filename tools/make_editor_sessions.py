@@ -203,7 +203,7 @@ ROWS = [
     one_figure("Ds", "The ship's direction over three hours.", "group_222DsVs", "222{}*", "222**",
                "0<=Ship course/3hr<=8,9,/", "0<=前3時間の船の針路<=8,9,/"),
     one_figure("Vs", "The ship's speed over three hours.", "group_222DsVs", "222*{}", "222**", "0<=Ship speed<=9,/",
-               "0<=船の速度<=9,/"),
+               "0<=船の速力<=9,/"),
     Row("reading", "The barometer's reading; its card corrects nothing here. Decimals behind the first are cut.",
         "group_4PPPP",
         [("930", "0930.0", "49300"), ("1050.0", "1050.0", "40500"), ("1013.25", "1013.2", "40132"),

@@ -12,6 +12,7 @@
 #include "bufr/wigos.h"
 #include "cli/commands.h"
 #include "cli/observations.h"
+#include "cli/program.h"
 #include "cli/reports.h"
 #include "observation/report_file.h"
 #include "observation/report_reader.h"
@@ -191,6 +192,7 @@ int command(const std::vector<std::string>& arguments) {
   const auto result = parsed(arguments);
   if (const auto* wrong = std::get_if<std::string>(&result)) return cli::usage(*wrong, kUsage);
   const auto& wanted = std::get<Arguments>(result);
+  if (wanted.output == "-") cli::end_with_the_reader();
   cli::Input input(wanted.file);
   if (!input.problem().empty()) {
     cli::complain(input, 0, input.problem());

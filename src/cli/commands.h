@@ -1,7 +1,8 @@
 #pragma once
 // The commands that work on observations without any dialog. Each takes the words behind its name
 // and gives the exit status: 0, 1 where a check found something, or 2 for wrong arguments and wrong input, told on standard error as
-// "FILE:LINE: reason". The same for output that cannot be written.
+// "FILE:LINE: reason". The same for output that cannot be written, but for a reader that went away:
+// a command that only prints then ends by SIGPIPE.
 
 #include <span>
 #include <string>

@@ -298,8 +298,10 @@ int check_lines(const Words& words) {
   const int status = for_each_line(
       input, [&](std::size_t /*number*/, std::string_view line) { check.take(line); });
   if (status != kOk) return status;
+  // The list first, so that it is whole when nobody reads the summary to its end.
+  const bool list_is_written = !list.is_open() || list.flush();
   if (!words.json) std::cout << check.summary().words();
-  if (list.is_open() && !list.flush()) {
+  if (!list_is_written) {
     std::cerr << "kavrel-cli: " << words.list << " cannot be written\n";
     return kWrong;
   }

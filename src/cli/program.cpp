@@ -31,7 +31,8 @@ int usage(const std::string& reason, const char* usage) {
 int run_program(int count, char** words,
                 const std::function<int(const std::vector<std::string>&)>& run) {
   take_standard_numbers();
-  // A reader that has gone away is told like any other output that cannot be written.
+  // Until a command says that it ends with its reader, a reader that has gone away is told like any
+  // other output that cannot be written.
   (void)std::signal(SIGPIPE, SIG_IGN);
   std::ios::sync_with_stdio(false);
   platform::posix::prepare_process();
@@ -40,6 +41,10 @@ int run_program(int count, char** words,
   if (std::cout.flush() || status == kWrong) return status;
   std::cerr << "kavrel-cli: " << kOutputLost << "\n";
   return kWrong;
+}
+
+void end_with_the_reader() {
+  (void)std::signal(SIGPIPE, SIG_DFL);
 }
 
 }  // namespace cli

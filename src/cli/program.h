@@ -12,4 +12,9 @@ namespace cli {
 int run_program(int count, char** words,
                 const std::function<int(const std::vector<std::string>&)>& run);
 
+/// For a command that only prints: once nobody reads its standard output any more, as behind
+/// "| head", it ends there and says nothing (SIGPIPE), as every filter does. A command that writes
+/// files must not be ended between two of them and is told instead that its output is lost.
+void end_with_the_reader();
+
 }  // namespace cli

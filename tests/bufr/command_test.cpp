@@ -187,6 +187,16 @@ TEST_F(BufrCommand, TellsAnOutputThatCannotBeWritten) {
   EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
+TEST_F(BufrCommand, EndsQuietlyWithTheReaderOfItsOutput) {
+  std::string many;
+  for (int i = 0; i < 2000; ++i) many += std::string(kObservation) + "\n";
+  file("many.obs", many);
+  const Outcome outcome =
+      folder_.shell("(env -i $CLI bufr many.obs; echo $? >status) | head -c 4 && cat status");
+  EXPECT_EQ(outcome.out, "BUFR141\n");
+  EXPECT_EQ(outcome.error, "");
+}
+
 TEST_F(BufrCommand, WritesNotOverWhatItReads) {
   file("one.obs", kObservation);
   const Outcome outcome = run("--output ./one.obs one.obs");

@@ -336,7 +336,7 @@ TEST(LogbookCheck, SumsUpForAPerson) {
 TEST(LogbookCheck, NamesTheFirstLinesOnlyAndCountsAll) {
   const std::vector<std::string> lines(1000, "x");
   const std::string words = check(lines).summary.words();
-  EXPECT_NE(words.find("1000 x The line has 1 characters"), std::string::npos) << words;
+  EXPECT_NE(words.find("1000 x The line has 1 character; "), std::string::npos) << words;
   EXPECT_NE(words.find("    Line 1, 2, 3, 4, 5, ...\n"), std::string::npos) << words;
 }
 

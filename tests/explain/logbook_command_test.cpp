@@ -157,7 +157,7 @@ TEST_F(LogbookCommand, CheckWritesAListForPrograms) {
   const std::string list =
       "{\"file\":\"a.log\",\"line\":2,\"first_column\":0,\"last_column\":0,\"element\":\"\","
       "\"kind\":\"length\",\"rule\":\"\",\"severity\":\"error\","
-      "\"text\":\"The line has 1 characters; a line of this layout has 172.\"}\n"
+      "\"text\":\"The line has 1 character; a line of this layout has 172.\"}\n"
       "{\"file\":\"a.log\",\"line\":3,\"first_column\":22,\"last_column\":23,\"element\":\"VV\","
       "\"kind\":\"code\",\"rule\":\"\",\"severity\":\"error\","
       "\"text\":\"50 is not in code table 4377.\"}\n";

@@ -58,6 +58,19 @@ TEST(PlainLines, SayWhatAShipUsuallySendsAndThisReportLacks) {
        {"", "Not reported: sea surface temperature, wind waves, swell.", Told::kNotReported}});
 }
 
+// A direction without a period and a height is half a swell; no second direction is none.
+TEST(PlainLines, SayThatASecondSwellLacksItsGroup) {
+  const auto last = [](const char* waves) {
+    const std::string report =
+        std::string("BBXX JXKV 15124 99357 11653 41497 62718 22200 02183 20604 ") + waves;
+    return plain_words(report, {}, Language::kEnglish).back().sentence;
+  };
+  EXPECT_EQ(last("32531 40905"), "Not reported: period and height of the second swell.");
+  EXPECT_EQ(last("325//"), "Not reported: period and height of the first swell.");
+  for (const char* const whole : {"325// 40905", "32500 40905", "32531 40905 51103", "30000"})
+    EXPECT_FALSE(last(whole).starts_with("Not reported")) << whole;
+}
+
 TEST(PlainLines, SayTheDateWholeWhereYearAndMonthAreKnown) {
   struct Row {
     const char* group;
@@ -162,6 +175,8 @@ TEST(PlainLines, TheWellKnownGroupsOfSection3AreExplained) {
        Told::kNotUnderstood},
       {"333 42012", "Snow depth 12 cm.", "積雪の深さ 12cm。"},
       {"333 42998", "State of the ground.", "地面の状態。"},
+      {"333 4////", "Not reported: state of the ground.", "通報なし：地面の状態。",
+       Told::kNotReported},
       {"333 55074", "Sunshine, radiation, evaporation or movement of clouds.",
        "日照、日射、蒸発または雲の移動。"},
       {"333 58012", "Pressure change in 24 hours +1.2 hPa.", "前24時間の気圧変化量 +1.2hPa。"},
@@ -179,7 +194,7 @@ TEST(PlainLines, TheWellKnownGroupsOfSection3AreExplained) {
        "雲層：雲量 7/10～8/10、Ac、雲底 3000m。"},
       {"333 88/00", "Cloud layer: 10/10, type not seen, base under 30 m.",
        "雲層：雲量 10/10、雲形不明、雲底 30m未満。"},
-      {"333 81082", "Cloud layer: 1/10 or less (, but not 0), Ci, base 12000 m.",
+      {"333 81082", "Cloud layer: 1/10 or less (but not 0), Ci, base 12000 m.",
        "雲層：雲量 1/10以下（ただし0ではない）、Ci、雲底 12000m。"},
       {"333 81055", "Cloud layer: 1055 cannot be read.", "雲層：1055 は解読できない。",
        Told::kNotUnderstood},
@@ -193,9 +208,39 @@ TEST(PlainLines, TheWellKnownGroupsOfSection3AreExplained) {
       {"333 91225", "Highest mean wind speed: 25 knots (force 6).",
        "平均風速の最大：25ノット（風力6）。"},
       {"333 91527", "Direction of that wind: west (270°).", "その風向：西（270°）。"},
+      {"333 93005", "Precipitation: 5 mm.", "降水量：5mm。"},
+      {"333 93055", "Precipitation: 55 mm.", "降水量：55mm。"},
+      {"333 93056", "Precipitation: 60 mm.", "降水量：60mm。"},
+      {"333 93090", "Precipitation: 400 mm.", "降水量：400mm。"},
+      {"333 93096", "Precipitation: 0.6 mm.", "降水量：0.6mm。"},
+      {"333 93097", "Precipitation: under 0.1 mm.", "降水量：0.1mm未満。"},
+      {"333 93098", "Precipitation: over 400 mm.", "降水量：400mm超。"},
+      {"333 93099", "Precipitation: could not be measured.", "降水量：測定できず。"},
+      {"333 93100", "Depth of newly fallen snow: 0 cm.", "新たに積もった雪の深さ：0cm。"},
+      {"333 93112", "Depth of newly fallen snow: 12 cm.", "新たに積もった雪の深さ：12cm。"},
+      {"333 93157", "Depth of newly fallen snow: 70 cm.", "新たに積もった雪の深さ：70cm。"},
+      {"333 93190", "Depth of newly fallen snow: 400 cm.", "新たに積もった雪の深さ：400cm。"},
+      {"333 93191", "Depth of newly fallen snow: 1 mm.", "新たに積もった雪の深さ：1mm。"},
+      {"333 93197", "Depth of newly fallen snow: under 1 mm.", "新たに積もった雪の深さ：1mm未満。"},
+      {"333 93198", "Depth of newly fallen snow: over 400 cm.",
+       "新たに積もった雪の深さ：400cm超。"},
+      {"333 93199", "Depth of newly fallen snow: could not be measured.",
+       "新たに積もった雪の深さ：測定できず。"},
+      {"333 931//", "Not reported: depth of newly fallen snow.",
+       "通報なし：新たに積もった雪の深さ。", Told::kNotReported},
+      {"333 9311/", "Depth of newly fallen snow: 1/ cannot be read.",
+       "新たに積もった雪の深さ：1/ は解読できない。", Told::kNotUnderstood},
+      {"333 93203", "Greatest diameter of hailstones: 3 mm.", "ひょうの最大直径：3mm。"},
+      {"333 93312", "Water equivalent of solid precipitation on the ground: 12 mm.",
+       "地上の固形降水の水換算量：12mm。"},
+      {"333 93402", "Diameter of the glaze deposit: 2 mm.", "雨氷の直径：2mm。"},
+      {"333 93502", "Diameter of the rime deposit: 2 mm.", "霧氷の直径：2mm。"},
+      {"333 93602", "Diameter of the compound deposit: 2 mm.", "複合した付着物の直径：2mm。"},
+      {"333 93702", "Diameter of the wet snow deposit: 2 mm.", "着雪の直径：2mm。"},
+      {"333 93802", "Amount of precipitation or deposit.", "降水または付着物の量。"},
       {"333 92403", "State of the sea, icing or snow cover.", "海面の状態、着氷または積雪。"},
       {"333 9////", "Special phenomena.", "特殊現象。"},
-      {"333 123", "Not a group of five figures.", "5数字の群ではない。", Told::kNotUnderstood},
+      {"333 123", "Not a group of five figures.", "5桁の群ではない。", Told::kNotUnderstood},
   };
   for (const Later& row : kRows) {
     const std::string report =

@@ -112,7 +112,8 @@ std::optional<double> change(const std::string& group) {
 
 std::optional<double> period(const std::string& group) {
   const auto value = figures(group, 1, 2);
-  if (!value || *value == 99 || group.substr(1) == "0000") return std::nullopt;
+  const std::string both = group.substr(1);
+  if (!value || *value == 99 || both == "0000" || both == "00//") return std::nullopt;
   return *value;
 }
 
@@ -358,6 +359,11 @@ TEST(PlainWordsProperty, EveryCodeSaysWhatItsTableSays) {
           std::string meaning = *codetables::meaning(*table, code.figures, language);
           std::replace(meaning.begin(), meaning.end(), '\n', ' ');
           meaning = text::trim(meaning);
+          // Brackets that only a list needs.
+          if (at->name == "ww" && code.figures <= "03")
+            meaning.erase(meaning.find(language == Language::kEnglish ? " (" : "（"));
+          else if (const auto comma = meaning.find("(, "); comma != std::string::npos)
+            meaning.erase(comma + 1, 2);
           // The limits of these stand in other words; their numbers are the same.
           if (at->name == "VV" || at->name == "h")
             meaning = meaning.substr(0, meaning.find_first_not_of("0123456789"));

@@ -82,28 +82,59 @@ TEST(PlainWords, EachGroupIsReadAsAColleagueWouldReadIt) {
        "雲底の高さ：2500m以上、または雲なし。視程：10km以上20km未満。降水量を省略（資料なし）。有人"
        "観"
        "測、現在天気・過去天気を通報。"},
+      {"15124 99357 11653 41400 82718", "41400",
+       "Height of the cloud base: 300 m to under 600 m. Visibility: less than 0.1 km. Amount of "
+       "precipitation omitted (not available). Manned station, present and past weather included.",
+       "雲底の高さ：300m以上600m未満。視程：0.1km未満。降水量を省略（資料なし）。有人観測、現在天気"
+       "・過"
+       "去天気を通報。"},
       {"15124 99357 11653 41497 82718", "82718",
        "Total cloud amount: 10/10. Wind from west (270°), 18 knots (force 5).",
-       "全雲量：10/10。西（270°）の風、18ノット（風力5）。"},
+       "全雲量：10/10。西の風（270°）、18ノット（風力5）。"},
       {"15121 99357 11653 41497 82718", "82718",
        "Total cloud amount: 10/10. Wind from west (270°), 18 m/s (force 8).",
-       "全雲量：10/10。西（270°）の風、18m/s（風力8）。"},
+       "全雲量：10/10。西の風（270°）、18m/s（風力8）。"},
       {"1512/ 99357 11653 41497 82718", "82718",
        "Total cloud amount: 10/10. Wind from west (270°), 18, in a unit that is not reported.",
-       "全雲量：10/10。西（270°）の風、18（単位の通報なし）。"},
+       "全雲量：10/10。西の風（270°）、18（単位の通報なし）。"},
       {"15124 99357 11653 41497 /0000", "/0000", "Calm. Not reported: total cloud amount.",
        "静穏。通報なし：全雲量。"},
+      {"15124 99357 11653 41497 /2701", "/2701",
+       "Wind from west (270°), 1 knot (force 1). Not reported: total cloud amount.",
+       "西の風（270°）、1ノット（風力1）。通報なし：全雲量。"},
+      {"15124 99357 11653 41497 /27//", "/27//",
+       "Wind from west (270°). Not reported: total cloud amount, wind speed.",
+       "西の風（270°）。通報なし：全雲量、風速。"},
+      {"15124 99357 11653 41497 /2700", "/2700",
+       "Wind from west (270°), 0 knots (force 0). Unusual: a direction, but the speed 00 (calm). "
+       "Not reported: total cloud amount.",
+       "西の風（270°）、0ノット（風力0）。要確認：風速が00（静穏）なのに風向がある。通報なし：全雲"
+       "量。",
+       Told::kUnusual},
+      {"15124 99357 11653 41497 /0018", "/0018",
+       "Wind speed 18 knots (force 5). Unusual: direction 00 (calm), but with a speed. Not "
+       "reported: total cloud amount.",
+       "風速18ノット（風力5）。要確認：風向が00（静穏）なのに風速がある。通報なし：全雲量。",
+       Told::kUnusual},
+      {"15124 99357 11653 41497 92718", "92718",
+       "Total cloud amount: unknown (sky obscured by meteorological phenomena). Wind from west "
+       "(270°), 18 knots (force 5).",
+       "全雲量：不明（大気現象により天空が見えない）。西の風（270°）、18ノット（風力5）。"},
+      {"15124 99357 11653 41497 72718", "72718",
+       "Total cloud amount: 9/10 or more (but not 10/10). Wind from west (270°), 18 knots (force "
+       "5).",
+       "全雲量：9/10以上（ただし10/10ではない）。西の風（270°）、18ノット（風力5）。"},
       {"15124 99357 11653 41497 /9903", "/9903",
        "Wind of variable direction, 3 knots (force 1). Not reported: total cloud amount.",
        "風向不定、3ノット（風力1）。通報なし：全雲量。"},
       {"15124 99357 11653 41497 /3651", "/3651",
        "Wind from north (360°), 51 knots (force 10). Unusual: over 50 knots. Not reported: total "
        "cloud amount.",
-       "北（360°）の風、51ノット（風力10）。要確認：50ノットを超えている。通報なし：全雲量。",
+       "北の風（360°）、51ノット（風力10）。要確認：50ノットを超えている。通報なし：全雲量。",
        Told::kUnusual},
       {"15124 99357 11653 41497 62099 00105", "62099",
        "Total cloud amount: 7/10-8/10. Wind from south-southwest (200°), speed in the next group.",
-       "全雲量：7/10～8/10。南南西（200°）の風、風速は次の群。"},
+       "全雲量：7/10～8/10。南南西の風（200°）、風速は次の群。"},
       {"15124 99357 11653 41497 62099 00105", "00105",
        "Wind speed 105 knots (force 12). Unusual: over 50 knots.",
        "風速105ノット（風力12）。要確認：50ノットを超えている。", Told::kUnusual},
@@ -141,12 +172,21 @@ TEST(PlainWords, GroupsBehindTheWindToo) {
       {"54001", "54001",
        "Pressure 0.1 hPa higher or lower than three hours ago: steady. Unusual: steady, but with a "
        "change.",
-       "海面気圧は3時間前より0.1hPa高いか低い：一定。要確認：変化の型は「一定」だが変化量がある。",
+       "海面気圧の3時間前との差は0.1hPa：一定。要確認：変化の型は「一定」だが変化量がある。",
+       Told::kUnusual},
+      {"50000", "50000", "Pressure the same as three hours ago: increasing, then decreasing.",
+       "海面気圧は3時間前と同じ：上昇後下降。"},
+      {"57000", "57000",
+       "Pressure the same as three hours ago: decreasing (steadily or unsteadily). Unusual: a rise "
+       "or a fall, but no change.",
+       "海面気圧は3時間前と同じ：一定の下降、または変動しながら下降。要確認：上昇または下降なのに変"
+       "化"
+       "量が0。",
        Told::kUnusual},
       {"5/014", "5/014",
        "Pressure 1.4 hPa higher or lower than three hours ago. Not reported: characteristic of "
        "pressure tendency.",
-       "海面気圧は3時間前より1.4hPa高いか低い。通報なし：気圧変化の型。"},
+       "海面気圧の3時間前との差は1.4hPa。通報なし：気圧変化の型。"},
       {"60051", "60051", "Precipitation 5 mm, in the past 6 hours. A group without a field.",
        "降水量 5mm（前6時間）。入力欄のない群。", Told::kNoPlace},
       {"69935", "69935", "Precipitation 0.3 mm, in the past hour. A group without a field.",
@@ -158,6 +198,12 @@ TEST(PlainWords, GroupsBehindTheWindToo) {
        "現在天気：前1時間内にしゅう雨があったが、観測時にはない。過去天気（W1）：しゅう雨性降水。過"
        "去"
        "天気（W2）：対象期間を通じて雲量が全天の1/2超。"},
+      {"70322", "70322",
+       "Present weather: clouds generally forming or developing during the past hour. Past weather "
+       "(W1 and W2): cloud covering more than 1/2 of the sky throughout the appropriate period.",
+       "現在天気：前1時間内に雲が全般に発生、または発達した。過去天気（W1・W2）：対象期間を通じて"
+       "雲量"
+       "が全天の1/2超。"},
       {"70566", "70566", "Present weather: haze. Past weather (W1 and W2): rain.",
        "現在天気：煙霧。過去天気（W1・W2）：雨。"},
       {"84531", "84531",
@@ -167,6 +213,13 @@ TEST(PlainWords, GroupsBehindTheWindToo) {
        "最下層の雲量：5/"
        "10。下層雲：Cuが広がってできたものではないSc。中層雲：半透明なAcが主体。上層"
        "雲：繊維状のCi、空に広がる傾向はない。"},
+      {"85800", "85800",
+       "Amount of the lowest cloud: 6/10. Low cloud: Cu and Sc not formed by spreading of Cu. No "
+       "CM "
+       "clouds. No CH clouds.",
+       "最下層の雲量：6/"
+       "10。下層雲：Cuと、Cuが広がってできたものではないSc。中層雲（CM）なし。上層雲"
+       "（CH）なし。"},
       {"91150", "91150", "Observed at 11:50 UTC.", "11時50分（UTC）に観測。"},
       {"92561", "92561", "Actual time of observation: 2561 does not exist.",
        "実際の観測時刻：2561 はありえない。", Told::kNotUnderstood},
@@ -178,6 +231,11 @@ TEST(PlainWords, GroupsBehindTheWindToo) {
        "海面水温 18.3°C（採水バケツ）。"},
       {"22200 03012", "03012", "Sea surface temperature -1.2 °C (bucket).",
        "海面水温 -1.2°C（採水バケツ）。"},
+      {"22200 01021", "01021",
+       "Sea surface temperature -2.1 °C (condenser intake). Unusual: outside the usual range.",
+       "海面水温 -2.1°C（インテーク）。要確認：通常の範囲外。", Told::kUnusual},
+      {"22200 00370", "00370", "Sea surface temperature 37.0 °C (condenser intake).",
+       "海面水温 37.0°C（インテーク）。"},
       {"10001 22200 02183", "02183",
        "Sea surface temperature 18.3 °C (bucket). Unusual: 18.2 °C from the air temperature.",
        "海面水温 18.3°C（採水バケツ）。要確認：気温との差が18.2°C。", Told::kUnusual},
@@ -192,23 +250,62 @@ TEST(PlainWords, GroupsBehindTheWindToo) {
        "風浪：海面が乱れ、周期を決められない、波高1.0m。"},
       {"22200 21224", "21224", "Wind waves: period 12 seconds, height 12.0 m. Unusual: over 10 m.",
        "風浪：周期12秒、波高12.0m。要確認：10mを超えている。", Told::kUnusual},
+      {"22200 10022", "10022",
+       "Waves by instrument: period 0 seconds, height 11.0 m. Unusual: period 00 (no waves), but "
+       "with a height. Unusual: over 10 m.",
+       "波浪計による波：周期0秒、波高11.0m。要確認：周期が00（波なし）なのに波高がある。要確認：10m"
+       "を超"
+       "えている。",
+       Told::kUnusual},
+      {"22200 20101", "20101", "Wind waves: period 1 second, height 0.5 m.",
+       "風浪：周期1秒、波高0.5m。"},
+      {"22200 20003", "20003",
+       "Wind waves: period 0 seconds, height 1.5 m. Unusual: period 00 (no waves), but with a "
+       "height.",
+       "風浪：周期0秒、波高1.5m。要確認：周期が00（波なし）なのに波高がある。", Told::kUnusual},
+      {"22200 200//", "200//", "Wind waves: no waves. Not reported: wave height.",
+       "風浪：波なし。通報なし：波高。"},
+      {"22200 22503", "22503", "Wind waves: period 25 seconds, height 1.5 m.",
+       "風浪：周期25秒、波高1.5m。"},
+      {"22200 22603", "22603",
+       "Wind waves: period 26 seconds, height 1.5 m. Unusual: over 25 seconds.",
+       "風浪：周期26秒、波高1.5m。要確認：25秒を超えている。", Told::kUnusual},
       {"22200 30000", "30000", "No swell wave.", "うねりなし。"},
       {"22200 32531 40905 51103", "32531",
        "First swell from west-southwest (250°). Second swell from northwest (310°).",
-       "うねり1：西南西（250°）から。うねり2：北西（310°）から。"},
+       "うねり1：西南西から（250°）。うねり2：北西から（310°）。"},
       {"22200 325// 40905", "325//",
-       "First swell from west-southwest (250°). Not reported: second swell.",
-       "うねり1：西南西（250°）から。通報なし：うねり2。"},
+       "First swell from west-southwest (250°). Second swell: none or not observed.",
+       "うねり1：西南西から（250°）。うねり2：なし、または観測せず。"},
+      {"22200 32500 40905", "32500", "First swell from west-southwest (250°). No second swell.",
+       "うねり1：西南西から（250°）。うねり2なし。"},
+      {"22200 325// 40905 51103", "325//",
+       "First swell from west-southwest (250°). Not reported: direction of the second swell.",
+       "うねり1：西南西から（250°）。通報なし：うねり2の方向。"},
+      {"22200 325// 4//// 5////", "4////", "Not reported: period and height of the first swell.",
+       "通報なし：うねり1の周期・波高。", Told::kNotReported},
+      {"22200 32531 40905 5////", "5////", "Not reported: period and height of the second swell.",
+       "通報なし：うねり2の周期・波高。", Told::kNotReported},
+      {"22200 300//", "300//", "No swell wave.", "うねりなし。"},
+      {"22200 30031 4//// 51103", "30031",
+       "First swell: no swell wave. Second swell from northwest (310°). Unusual: a second swell "
+       "without a first.",
+       "うねり1：うねりなし。うねり2：北西から（310°）。要確認：うねり1がないのにうねり2がある。",
+       Told::kUnusual},
       {"22200 32531 40905 51103", "40905", "First swell: period 9 seconds, height 2.5 m.",
        "うねり1：周期9秒、波高2.5m。"},
       {"22200 32531 40905 51103", "51103", "Second swell: period 11 seconds, height 1.5 m.",
        "うねり2：周期11秒、波高1.5m。"},
       {"22200 61023", "61023",
-       "Cause of ice accretion: icing from ocean spray. Thickness of ice accretion 2 cm. Change of "
-       "ice accretion: ice melting or breaking up slowly.",
-       "着氷の原因：海水のしぶきによる着氷。着氷の厚さ "
-       "2cm。着氷の変化：着氷がゆっくり融解または剥離し"
-       "ている。"},
+       "Icing from ocean spray. Thickness of ice accretion 2 cm. Ice melting or breaking up "
+       "slowly.",
+       "海水のしぶきによる着氷。着氷の厚さ 2cm。着氷がゆっくり融解または剥離している。"},
+      {"22200 69029", "69029",
+       "Cause of ice accretion: 9 is not in the code table. Thickness of ice accretion 2 cm. "
+       "Change "
+       "of ice accretion: 9 is not in the code table.",
+       "着氷の原因：9 は符号表にない。着氷の厚さ 2cm。着氷の変化：9 は符号表にない。",
+       Told::kNotUnderstood},
       {"22200 70003", "70003", "Waves by instrument 0.3 m. A group without a field.",
        "波浪計による波 0.3m。入力欄のない群。", Told::kNoPlace},
       {"22200 80130", "80130", "Wet-bulb temperature 13.0 °C (measured).",
@@ -220,21 +317,28 @@ TEST(PlainWords, GroupsBehindTheWindToo) {
       {"22200 87012", "87012", "Wet-bulb temperature -1.2 °C (iced bulb, computed).",
        "湿球温度 -1.2°C（湿球が凍結、計算）。"},
       {"22200 ICE 20340", "ICE 20340",
-       "Sea ice concentration: concentration less than 3/10 (3/8), open water or very open pack "
-       "ice. Stage of development: new ice only (frazil ice, grease ice, slush, shuga). Ice of "
-       "land origin: 11-20 icebergs, no growlers or bergy bits. Ice edge: principal ice edge "
-       "towards south. Ice situation: ship in open water with floating ice in sight.",
-       "海氷の密接度：密接度3/10（3/"
-       "8）未満、開放水面または分離流氷。発達過程：新成氷のみ（晶氷、グリ"
-       "ースアイス、雪泥、スポンジ氷）。陸氷：氷山11～20個、氷岩・氷山片なし。氷縁の方位：主要な氷"
-       "縁は"
+       "Sea ice concentration less than 3/10 (3/8), open water or very open pack ice. Stage of "
+       "development: new ice only (frazil ice, grease ice, slush, shuga). Ice of land origin: "
+       "11-20 "
+       "icebergs, no growlers or bergy bits. Principal ice edge towards south. Ice situation: ship "
+       "in open water with floating ice in sight.",
+       "海氷の密接度3/10（3/8）未満、開放水面または分離流氷。発達過程：新成氷のみ（晶氷、グリ"
+       "ースアイス、雪泥、スポンジ氷）。陸氷：氷山11～20個、氷岩・氷山片なし。主要な氷縁は"
        "南方向。海氷の状況：船は開放水面にあり、視界内に浮氷あり。"},
+      {"22200 ICE 03090", "ICE 03090",
+       "No sea ice in sight. Stage of development: predominantly new and/or young ice with some "
+       "first-year ice. No ice of land origin. Ice edge: not determined (ship in ice). Ice "
+       "situation: ship in open water with floating ice in sight.",
+       "視界内に海氷なし。発達過程：主に新成氷または板状軟氷（または両方）、一部に一年氷。陸氷なし"
+       "。"
+       "氷縁の方位：決定できない（船は氷の中にある）。海氷の状況：船は開放水面にあり、視界内に浮氷"
+       "あ"
+       "り。"},
       {"22200 ICE FAST ICE 3 MILES", "ICE FAST ICE 3 MILES", "Ice in plain language.",
        "平文の海氷報。", Told::kNoPlace},
       {"22200 ICE ////", "ICE ////", "Not reported: sea ice.", "通報なし：海氷。",
        Told::kNotReported},
-      {"872xx", "872xx", "Not a group of five figures.", "5数字の群ではない。",
-       Told::kNotUnderstood},
+      {"872xx", "872xx", "Not a group of five figures.", "5桁の群ではない。", Told::kNotUnderstood},
       {"40132 40133", "40133", "A group that is repeated.", "重複した群。", Told::kNotUnderstood},
   };
   for (const Said& row : kRows) expect_said(row, std::string("BBXX JXKV ") + kHead + row.report);

@@ -65,6 +65,15 @@ class Cli : public testing::Test {
     return outcome;
   }
 
+  /// The status of a command whose reader leaves after one line ("head"), when it has more to write
+  /// than a pipe holds; what it says about that is in "stderr".
+  std::string status_before_a_leaving_reader(const std::string& arguments) const {
+    const std::string command = "cd '" + folder_.string() + "' && (env -i " + KAVREL_CLI + " " +
+                                arguments + " 2>stderr; echo $? >status) | head -n 1 >head";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+    return slurp(folder_ / "status");
+  }
+
   std::vector<std::string> saved() const {
     std::vector<std::string> names;
     for (const char* sub : {"reports", "logbook"})
@@ -218,8 +227,12 @@ TEST_F(Cli, OutputThatCannotBeWrittenIsToldByEveryCommand) {
   const std::string observed = file("a.obs", kObservation);
   const std::string report = file("a.tlx", kReport);
   const std::string script = file("a.session", "# a comment\n");
-  const std::string commands[] = {"--help", "encode " + observed, "read " + report,
+  const std::string commands[] = {"--help",
+                                  "encode " + observed,
+                                  "read " + report,
+                                  "explain " + report,
                                   "save --replace --reports reports --logbook logbook " + observed,
+                                  "logbook logbook/immt5.log",
                                   "session --root . " + script};
   for (const std::string& command : commands) {
     for (const char* const where : {">/dev/full", ">&-"}) {
@@ -231,15 +244,39 @@ TEST_F(Cli, OutputThatCannotBeWrittenIsToldByEveryCommand) {
   }
 }
 
-TEST_F(Cli, AReaderThatWentAwayIsToldToo) {
-  std::string many;
-  for (int i = 0; i < 2000; ++i) many += std::string(kObservation) + "\n";
-  const std::string name = file("many.obs", many);
-  const std::string command = "cd '" + folder_.string() + "' && (env -i " + KAVREL_CLI +
-                              " encode " + name + " 2>stderr; echo $? >status) | true";
+TEST_F(Cli, ACommandThatOnlyPrintsEndsQuietlyWithItsReader) {
+  std::string observed;
+  std::string reports;
+  for (int i = 0; i < 2000; ++i) {
+    observed += std::string(kObservation) + "\n";
+    reports += kReport + std::string("\n");
+  }
+  const std::string many = file("many.obs", observed);
+  const std::string names = file("many.tlx", reports);
+  run("save --replace --reports reports --logbook logbook " + file("a.obs", kObservation));
+  std::string lines;
+  for (int i = 0; i < 2000; ++i) lines += slurp(folder_ / "logbook" / "immt5.log");
+  const std::string log = file("many.log", lines);
+  for (const std::string& command :
+       {"encode " + many, "read " + names, "explain " + names, "explain --language ja " + names,
+        "logbook " + log, "logbook --format csv " + log, "logbook --check --json " + log}) {
+    EXPECT_EQ(status_before_a_leaving_reader(command), "141\n") << command;
+    EXPECT_EQ(slurp(folder_ / "stderr"), "") << command;
+    const std::string first = slurp(folder_ / "head");
+    EXPECT_EQ(std::count(first.begin(), first.end(), '\n'), 1) << command;
+  }
+}
+
+TEST_F(Cli, ASaveWhoseReaderWentAwayIsTold) {
+  const std::string observed = file("a.obs", kObservation);
+  const std::string command = "cd '" + folder_.string() + "' && (sleep 0.3; env -i " + KAVREL_CLI +
+                              " save --reports reports --logbook logbook " + observed +
+                              " 2>stderr; echo $? >status) | true";
   EXPECT_EQ(std::system(command.c_str()), 0);
   EXPECT_EQ(slurp(folder_ / "status"), "2\n");
-  EXPECT_NE(slurp(folder_ / "stderr").find("standard output cannot be written"), std::string::npos);
+  EXPECT_NE(slurp(folder_ / "stderr").find("saved, but standard output cannot be written"),
+            std::string::npos);
+  EXPECT_EQ(slurp(folder_ / "reports" / "14111512.tlx"), kReport);
 }
 
 TEST_F(Cli, WithoutStandardOutputNothingIsWrittenIntoTheFiles) {

@@ -173,6 +173,14 @@ std::string number(std::uint64_t n) {
   return text::format_int(static_cast<long long>(n));
 }
 
+// "1 character", "90 characters", "1000+ characters".
+std::string characters(std::size_t count, text::Language language) {
+  constexpr std::size_t kLongestTold = 1000;
+  const std::string figures = count > kLongestTold ? std::string("1000+") : number(count);
+  return text::fill(
+      text::bilingual(count == 1 ? id::kLogOneCharacter : id::kLogCharacters, language), {figures});
+}
+
 }  // namespace
 
 std::string_view name_of(Severity severity) {
@@ -293,10 +301,8 @@ void LogbookCheck::take(std::string_view text) {
   const auto read = line ? observation::record_of_line(text, {}, {}) : std::nullopt;
   read_ = read ? &*read : nullptr;
   hour_ = read ? line->hour() : std::nullopt;
-  constexpr std::size_t kLongestTold = 1000;
   if (!line || (text.size() != observation::kLogbookColumns && (!read || !has_a_gap_alone(*read))))
-    find(kLength, {}, {},
-         {text.size() > kLongestTold ? std::string("1000+") : number(text.size())});
+    find(kLength, {}, {}, {characters(text.size(), language_)});
   else if (!read)
     // Every column of it would be wrong, and none of it is the officer's doing.
     find(kShifted, {}, {}, {});

@@ -8,8 +8,8 @@
 #include "codetables/tables/pressure_tendency.h"
 #include "codetables/tables/quadrant.h"
 #include "codetables/tables/sea_temperature_figures.h"
+#include "codetables/tables/sea_waves.h"
 #include "codetables/tables/temperature_figures.h"
-#include "codetables/tables/wind_figures.h"
 #include "platform/calendar.h"
 #include "text/ids.h"
 #include "text/numbers.h"
@@ -145,18 +145,6 @@ void say_clouds(Sentence& s, const Heard& heard) {
 
 // ---- Wind
 
-// "18 knots (force 5)"; without a unit no force.
-std::string speed_words(const Sentence& s, const Heard& heard, double speed) {
-  const std::string figures = text::format_fixed(speed, 0);
-  const std::string& iw = heard.record.iw;
-  if (!s.meaning_of("iw", iw)) return s.filled(id::kPlainNoUnit, {figures});
-  const auto knots = codetables::knots_of(figures, iw);
-  const std::string force = text::format_int(codetables::beaufort_force(*knots));
-  return s.filled(
-      codetables::is_metres_per_second(iw) ? id::kPlainMetresPerSecond : id::kPlainKnots,
-      {figures, force});
-}
-
 void doubt_strong_wind(Sentence& s, const Heard& heard) {
   if (!s.meaning_of("iw", heard.record.iw)) return;
   const auto knots = observation::knots_of(heard.values);
@@ -172,18 +160,22 @@ std::string speed_of_nddff(Sentence& s, const Heard& heard) {
   return heard.values.wind_speed ? speed_words(s, heard, *heard.values.wind_speed) : std::string();
 }
 
+void say_wind_from(Sentence& s, int direction, const std::string& speed) {
+  const std::string_view point = s.point(direction);
+  const std::string degrees = Sentence::degrees(direction);
+  if (speed.empty())
+    s.say(id::kPlainWindFrom, {point, degrees});
+  else
+    s.say(id::kPlainWindBoth, {point, degrees, speed});
+}
+
 void say_wind(Sentence& s, const Heard& heard) {
   const auto& [record, values, when] = heard;
   s.code(id::kPlainNameCloud, "N", record.N);
   const std::string speed = speed_of_nddff(s, heard);
-  const auto both_or_one = [&](text::Id both, text::Id alone, std::string_view direction) {
-    if (speed.empty())
-      s.say(alone, {direction});
-    else
-      s.say(both, {direction, speed});
-  };
   if (values.wind_direction) {
-    both_or_one(id::kPlainWindBoth, id::kPlainWindFrom, s.compass(*values.wind_direction));
+    say_wind_from(s, *values.wind_direction, speed);
+    if (record.fff.empty() && record.ff == kNone) s.unusual(id::kPlainDirectionOfCalm);
   } else if (values.wind_variable) {
     if (speed.empty())
       s.say(id::kPlainWindVariable);
@@ -191,10 +183,15 @@ void say_wind(Sentence& s, const Heard& heard) {
       s.say(id::kPlainWindVariableAt, {speed});
   } else if (record.dd == kNone) {
     const bool calm = values.wind_calm && record.fff.empty();
-    if (calm || speed.empty())
+    if (calm || speed.empty()) {
       s.say(id::kPlainCalm);
-    else
-      s.say(id::kPlainCalmAt, {speed});
+    } else {
+      if (record.fff.empty())
+        s.say(id::kPlainWindSpeedOf, {speed});
+      else
+        s.say(speed);
+      s.unusual(id::kPlainSpeedOfCalm);
+    }
   } else {
     if (is_not_reported(record.dd))
       s.not_reported(id::kPlainNameDirection);
@@ -286,6 +283,7 @@ void say_sea(Sentence& s, const Heard& heard) {
   s.say(id::kPlainDegreesBy,
         {s.get(id::kPlainNameSea), tenths(*values.sea),
          Sentence::within(s.get(kMethods.at(static_cast<std::size_t>(*values.sea_method))))});
+  if (!codetables::sea_temperature(tenths(*values.sea))) s.unusual(id::kPlainOutsidePressures);
   if (!values.air || !is_readable(record.SnT)) return;
   const double difference = std::abs(*values.sea - *values.air);
   if (difference > kLargestAirSea) s.unusual(id::kPlainFarFromAir, {tenths(difference)});
@@ -343,6 +341,9 @@ void say_tendency(Sentence& s, const Heard& heard) {
                                                                           : id::kPlainLower;
     s.say(id::kPlainColon, {s.filled(compared, {amount}), *characteristic});
     if (check == TendencyCheck::kSteadyWithAmount) s.unusual(id::kPlainSteadyWithChange);
+    const std::string_view unchanged = codetables::characteristics(codetables::TendencyKind::kSame);
+    if (change == 0.0 && unchanged.find(record.a) == std::string_view::npos)
+      s.unusual(id::kPlainNoChange);
     if (check == TendencyCheck::kAsks || check == TendencyCheck::kTooLarge)
       s.unusual(id::kPlainLargeChange);
     return;
@@ -404,6 +405,7 @@ void say_movement(Sentence& s, const Heard& heard) {
 
 struct WaveGroup {
   text::Id name;
+  text::Id missing;  ///< the name where the group is all solidi
   const std::string& period;
   const std::string& height;
   const WaveValues& values;
@@ -418,18 +420,20 @@ std::string height_words(const Sentence& s, double height) {
 void say_waves(Sentence& s, const WaveGroup& waves) {
   constexpr std::string_view kConfused = "99";
   if (is_not_reported(waves.period) && is_not_reported(waves.height)) {
-    s.not_reported(waves.name);
+    s.not_reported(waves.missing);
     return;
   }
-  if (waves.period == kNone && waves.height == kNone) {
+  if (waves.period == kNone && (waves.height == kNone || is_not_reported(waves.height))) {
     s.say(id::kPlainColon, {s.get(waves.name), s.get(id::kWordsNoWaves)});
+    if (waves.height != kNone) s.not_reported(id::kPlainNameHeight);
     return;
   }
   std::string piece;
   if (waves.period == kConfused)
     piece = s.get(id::kWordsConfusedSea);
   else if (waves.values.period)
-    piece = s.filled(id::kPlainPeriod, {text::format_int(*waves.values.period)});
+    piece = s.filled(*waves.values.period == 1 ? id::kPlainPeriodOfOne : id::kPlainPeriod,
+                     {text::format_int(*waves.values.period)});
   if (waves.values.height) {
     if (!piece.empty()) piece.append(s.get(id::kSpokenBetween));
     piece.append(height_words(s, *waves.values.height));
@@ -443,25 +447,30 @@ void say_waves(Sentence& s, const WaveGroup& waves) {
     s.not_reported(id::kPlainNameHeight);
   else if (!waves.values.height)
     s.unreadable(id::kPlainNameHeight, waves.height);
+  if (waves.values.period == 0) s.unusual(id::kPlainNoPeriod);
+  if (waves.values.period > codetables::kLongestWavePeriodOffered)
+    s.unusual(id::kPlainOverSeconds, {text::format_int(codetables::kLongestWavePeriodOffered)});
   if (waves.values.height && *waves.values.height > kHighWaves)
     s.unusual(id::kPlainOverMetres, {text::format_int(kHighWaves)});
 }
 
 void say_instrument_waves(Sentence& s, const Heard& heard) {
   const Struct_Weather& record = heard.record;
-  say_waves(s, {id::kPlainNameInstrumentWaves, record.PwaPwa, record.HwaHwa,
-                heard.values.measured_waves});
+  say_waves(s, {id::kPlainNameInstrumentWaves, id::kPlainNameInstrumentWaves, record.PwaPwa,
+                record.HwaHwa, heard.values.measured_waves});
 }
 
 void say_wind_waves(Sentence& s, const Heard& heard) {
   const Struct_Weather& record = heard.record;
-  say_waves(s, {id::kPlainNameWindWaves, record.PwPw, record.HwHw, heard.values.wind_waves});
+  say_waves(s, {id::kPlainNameWindWaves, id::kPlainNameWindWaves, record.PwPw, record.HwHw,
+                heard.values.wind_waves});
 }
 
 void say_swell_from(Sentence& s, text::Id name, text::Id direction_name, std::string_view symbol,
                     const std::string& figures, const WaveValues& values) {
   if (values.direction)
-    s.say(id::kPlainFrom, {s.get(name), s.compass(*values.direction)});
+    s.say(id::kPlainFrom,
+          {s.get(name), s.point(*values.direction), Sentence::degrees(*values.direction)});
   else if (is_not_reported(figures))
     s.not_reported(direction_name);
   else
@@ -474,29 +483,35 @@ void say_swell_directions(Sentence& s, const Heard& heard) {
     s.not_reported(id::kPlainNameSwell);
     return;
   }
-  if (record.dw1dw1 == kNone && record.dw2dw2 == kNone) {
+  const bool has_second = !is_not_reported(record.Pw2Pw2) || !is_not_reported(record.Hw2Hw2);
+  const bool open = is_not_reported(record.dw2dw2) && !has_second;
+  if (record.dw1dw1 == kNone && (record.dw2dw2 == kNone || open)) {
     s.meaning(id::kPlainNameSwell, "dw1dw1", record.dw1dw1);
     return;
   }
   say_swell_from(s, id::kPlainNameSwell1, id::kPlainNameDirectionOf1, "dw1dw1", record.dw1dw1,
                  values.swell1);
-  if (record.dw2dw2 == kNone)
+  // Solidi stand for the direction both where there is one swell and where nobody looked for more.
+  if (open)
+    s.say(id::kPlainSecondSwellOpen);
+  else if (record.dw2dw2 == kNone)
     s.say(id::kPlainNoSecondSwell);
-  else if (is_not_reported(record.dw2dw2))
-    s.not_reported(id::kPlainNameSwell2);
   else
     say_swell_from(s, id::kPlainNameSwell2, id::kPlainNameDirectionOf2, "dw2dw2", record.dw2dw2,
                    values.swell2);
+  if (record.dw1dw1 == kNone && values.swell2.direction) s.unusual(id::kPlainSecondAlone);
 }
 
 void say_swell1(Sentence& s, const Heard& heard) {
   const Struct_Weather& record = heard.record;
-  say_waves(s, {id::kPlainNameSwell1, record.Pw1Pw1, record.Hw1Hw1, heard.values.swell1});
+  say_waves(s, {id::kPlainNameSwell1, id::kPlainNameWavesOf1, record.Pw1Pw1, record.Hw1Hw1,
+                heard.values.swell1});
 }
 
 void say_swell2(Sentence& s, const Heard& heard) {
   const Struct_Weather& record = heard.record;
-  say_waves(s, {id::kPlainNameSwell2, record.Pw2Pw2, record.Hw2Hw2, heard.values.swell2});
+  say_waves(s, {id::kPlainNameSwell2, id::kPlainNameWavesOf2, record.Pw2Pw2, record.Hw2Hw2,
+                heard.values.swell2});
 }
 
 // ---- Ice
@@ -549,6 +564,10 @@ bool swell_is_there(const Heard& heard) {
   return heard.values.swell1.direction.has_value();
 }
 
+bool second_swell_is_there(const Heard& heard) {
+  return heard.values.swell2.direction.has_value();
+}
+
 struct GroupSays {
   Group group;
   void (*say)(Sentence&, const Heard&);
@@ -575,8 +594,8 @@ constexpr GroupSays kSays[] = {
     {Group::k1PwaPwaHwaHwa, say_instrument_waves, id::kPlainNameInstrumentWaves, never},
     {Group::k2PwPwHwHw, say_wind_waves, id::kPlainNameWindWaves, always},
     {Group::k3dw1dw1dw2dw2, say_swell_directions, id::kPlainNameSwell, always},
-    {Group::k4Pw1Pw1Hw1Hw1, say_swell1, id::kPlainNameSwell1, swell_is_there},
-    {Group::k5Pw2Pw2Hw2Hw2, say_swell2, id::kPlainNameSwell2, never},
+    {Group::k4Pw1Pw1Hw1Hw1, say_swell1, id::kPlainNameWavesOf1, swell_is_there},
+    {Group::k5Pw2Pw2Hw2Hw2, say_swell2, id::kPlainNameWavesOf2, second_swell_is_there},
     {Group::k6IsEsEsRs, say_icing, id::kPlainNameIcingCause, never},
     {Group::k8SwTbTbTb, say_wet_bulb, id::kPlainNameWetBulb, never},
     {Group::kICE, say_sea_ice, id::kPlainNameIce, never},

@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "codetables/tables/pressure_figures.h"
-#include "codetables/tables/wind_figures.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -118,6 +117,10 @@ void say_extreme(Sentence& s, text::Id name, std::string_view figures) {
 // 4E'sss; 997 and above are no centimetres (code table 3889).
 void say_snow(Sentence& s, std::string_view figures) {
   constexpr int kDeepest = 996;
+  if (is_not_reported(figures.substr(1))) {
+    s.not_reported(id::kPlainGround);
+    return;
+  }
   const std::string_view depth = figures.substr(2);
   const auto value = number(depth);
   if (value && *value > 0 && *value <= kDeepest)
@@ -182,21 +185,12 @@ void say_layer(Sentence& s, std::string_view figures) {
          type ? kTypes[*type] : s.get(id::kPlainCloudUnseen), base});
 }
 
-std::string wind_words(const Sentence& s, const Heard& heard, std::string_view figures) {
-  const std::string& iw = heard.record.iw;
-  const std::string speed = text::format_int(*number(figures));
-  const auto knots = codetables::knots_of(speed, iw);
-  if (!s.meaning_of("iw", iw) || !knots) return s.filled(id::kPlainNoUnit, {speed});
-  return s.filled(
-      codetables::is_metres_per_second(iw) ? id::kPlainMetresPerSecond : id::kPlainKnots,
-      {speed, text::format_int(codetables::beaufort_force(*knots))});
-}
-
 void say_speed(Sentence& s, const Heard& heard, text::Id name, std::string_view figures) {
   if (says_nothing(s, name, figures)) return;
   constexpr std::string_view kInNext = "99";
-  s.say(id::kPlainColon, {s.get(name), figures == kInNext ? std::string(s.get(id::kPlainSpeedNext))
-                                                          : wind_words(s, heard, figures)});
+  s.say(id::kPlainColon,
+        {s.get(name), figures == kInNext ? std::string(s.get(id::kPlainSpeedNext))
+                                         : speed_words(s, heard, *number(figures))});
 }
 
 void say_direction(Sentence& s, text::Id name, std::string_view figures) {
@@ -219,7 +213,57 @@ void say_period(Sentence& s, std::string_view figures) {
     s.say(s.get(id::kPlainNamePeriodOf));
 }
 
-// 9SpSpspsp, of which the winds are said and the others named by their tens.
+/// An amount or a diameter of two figures, 930 to 937.
+struct Amount {
+  int kind;
+  text::Id name;
+  text::Id unit;  ///< of one in the figures
+  int step;       ///< that unit in tenths of a millimetre
+};
+
+constexpr int kMillimetre = 10;
+constexpr int kCentimetre = 100;
+
+// RR (code table 3570) in millimetres and ss (3870) in centimetres: single units up to 55, tens of
+// them up to 90, then tenths of one.
+constexpr Amount kAmounts[] = {{30, id::kPlainNameRain, id::kPlainMillimetresAlone, kMillimetre},
+                               {31, id::kPlainFreshSnow, id::kPlainCentimetresAlone, kCentimetre},
+                               {32, id::kPlainHail, id::kPlainMillimetresAlone, kMillimetre},
+                               {33, id::kPlainSolidWater, id::kPlainMillimetresAlone, kMillimetre},
+                               {34, id::kPlainGlaze, id::kPlainMillimetresAlone, kMillimetre},
+                               {35, id::kPlainRime, id::kPlainMillimetresAlone, kMillimetre},
+                               {36, id::kPlainCompound, id::kPlainMillimetresAlone, kMillimetre},
+                               {37, id::kPlainWetSnow, id::kPlainMillimetresAlone, kMillimetre}};
+
+std::string amount_words(const Sentence& s, const Amount& amount, int figures) {
+  constexpr int kLastSingle = 55;
+  constexpr int kFirstTens = 50;  // beyond kLastSingle each one above this is ten units
+  constexpr int kMost = 90;
+  constexpr int kLittle = 97;
+  constexpr int kMore = 98;
+  constexpr int kNotMeasured = 99;
+  const auto whole = [&](int units) { return s.filled(amount.unit, {text::format_int(units)}); };
+  // Parts of a unit are millimetres of snow and tenths of a millimetre of anything else.
+  const auto part = [&](int tenths_of_a_unit) {
+    const int tenths = tenths_of_a_unit * amount.step / 10;
+    return s.filled(
+        id::kPlainMillimetresAlone,
+        {tenths % 10 == 0 ? text::format_int(tenths / 10) : text::format_fixed(tenths / 10.0, 1)});
+  };
+  if (figures <= kLastSingle) return whole(figures);
+  if (figures <= kMost) return whole((figures - kFirstTens) * 10);
+  if (figures < kLittle) return part(figures - kMost);
+  if (figures == kMore) return s.filled(id::kPlainOver, {whole((kMost - kFirstTens) * 10)});
+  if (figures == kNotMeasured) return std::string(s.get(id::kPlainNotMeasured));
+  return s.filled(id::kPlainUnder, {part(1)});
+}
+
+void say_amount(Sentence& s, const Amount& amount, std::string_view figures) {
+  if (says_nothing(s, amount.name, figures)) return;
+  s.say(id::kPlainColon, {s.get(amount.name), amount_words(s, amount, *number(figures))});
+}
+
+// 9SpSpspsp, of which winds and amounts are said and the others named by their tens.
 void say_special(Sentence& s, const Heard& heard, std::string_view figures) {
   struct Row {
     int first, last;
@@ -248,8 +292,12 @@ void say_special(Sentence& s, const Heard& heard, std::string_view figures) {
   }
   const auto* const speed = std::find_if(std::begin(kSpeeds), std::end(kSpeeds),
                                          [&](const Speed& each) { return each.kind == *kind; });
+  const auto* const amount = std::find_if(std::begin(kAmounts), std::end(kAmounts),
+                                          [&](const Amount& each) { return each.kind == *kind; });
   if (speed != std::end(kSpeeds)) {
     say_speed(s, heard, speed->name, rest);
+  } else if (amount != std::end(kAmounts)) {
+    say_amount(s, *amount, rest);
   } else if (*kind == kDirection) {
     say_direction(s, id::kPlainDirectionOfThat, rest);
   } else if (*kind == kPeriod) {
@@ -272,7 +320,7 @@ void say_section_3(Sentence& s, const Heard& heard, std::string_view figures,
   switch (figures.front()) {
     case '0':
       if (is_high_wind(figures, before) && number(figures.substr(2)))
-        s.say(id::kPlainWindSpeedOf, {wind_words(s, heard, figures.substr(2))});
+        s.say(id::kPlainWindSpeedOf, {speed_words(s, heard, *number(figures.substr(2)))});
       else
         s.say(id::kPlainRegional);
       break;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "codetables/tables/code_tables.h"
+#include "codetables/tables/wind_figures.h"
 #include "text/ids.h"
 #include "text/numbers.h"
 #include "text/strings.h"
@@ -56,10 +57,70 @@ std::string limits_in_words(const Sentence& sentence, std::string meaning,
                          {quantity(std::string_view(limits).substr(0, at_least)), high});
 }
 
+// In a list the words of a table stand under a heading, which some repeat in brackets: "Clouds
+// generally dissolving … (Characteristic change of the state of sky)". Said alone it tells nothing.
+// "9/10 or more (, but not 10/10)" lacks what stood in front of its comma.
+void take_brackets_of_a_list(const Sentence& sentence, std::string_view symbol, std::string& says) {
+  if (symbol == "ww") {
+    // "00-03  Characteristic change of the state of sky"
+    std::string_view heading = text::trim(sentence.get(id::kPresentWeatherGroup00));
+    heading.remove_prefix(std::min(heading.find(' '), heading.size()));
+    const bool english = sentence.language() == text::Language::kEnglish;
+    const std::string_view open = english ? " (" : "（";
+    const std::string_view close = english ? ")" : "）";
+    std::string bracket(open);
+    bracket.append(text::trim(heading)).append(close);
+    if (says.ends_with(bracket)) says.erase(says.size() - bracket.size());
+  }
+  constexpr std::string_view kDangling = "(, ";
+  if (const auto at = says.find(kDangling); at != std::string::npos)
+    says.erase(at + 1, kDangling.size() - 1);
+}
+
+// Figures whose words name the element themselves: "No CL clouds", "Icing from ocean spray".
+bool names_its_element(std::string_view symbol, std::string_view figures) {
+  struct Row {
+    std::string_view symbol;
+    std::string_view figures;
+  };
+  constexpr Row kRows[] = {{"CL", "0"},     {"CM", "0"},      {"CH", "0"}, {"Is", "12345"},
+                           {"Rs", "01234"}, {"ci", "016789"}, {"bi", "0"}, {"Di", "12345678"}};
+  return std::any_of(std::begin(kRows), std::end(kRows), [&](const Row& row) {
+    return row.symbol == symbol && row.figures.find(figures) != std::string_view::npos;
+  });
+}
+
+// How much of the words the end of the name tells already: "concentration" of "sea ice
+// concentration" and "concentration less than 3/10". Whole words only; in Japanese two characters
+// at least, for single ones meet by chance.
+std::size_t repeated_at(std::string_view name, std::string_view words) {
+  constexpr std::size_t kTwoCharacters = 6;
+  for (std::size_t at = 0; at + kTwoCharacters <= name.size(); ++at) {
+    const std::string_view end = name.substr(at);
+    if (!words.starts_with(end)) continue;
+    const bool is_latin = is_small(end.front());
+    if (is_latin && at > 0 && name[at - 1] != ' ') continue;
+    if (is_latin && !words.substr(end.size()).starts_with(' ')) continue;
+    return end.size();
+  }
+  return 0;
+}
+
 }  // namespace
 
 bool is_not_reported(std::string_view figures) {
   return figures.find_first_not_of('/') == std::string_view::npos;
+}
+
+std::string speed_words(const Sentence& sentence, const Heard& heard, double speed) {
+  const std::string figures = text::format_fixed(speed, 0);
+  const std::string& iw = heard.record.iw;
+  const auto knots = codetables::knots_of(figures, iw);
+  if (!sentence.meaning_of("iw", iw) || !knots) return sentence.filled(id::kPlainNoUnit, {figures});
+  const text::Id words = codetables::is_metres_per_second(iw) ? id::kPlainMetresPerSecond
+                         : figures == "1"                     ? id::kPlainOneKnot
+                                                              : id::kPlainKnots;
+  return sentence.filled(words, {figures, text::format_int(codetables::beaufort_force(*knots))});
 }
 
 std::string Sentence::within(std::string_view words) {
@@ -112,7 +173,9 @@ std::optional<std::string> Sentence::meaning_of(std::string_view symbol,
   std::string says(text::trim(*words));
   // Long lines of a table are broken for their dialog.
   std::replace(says.begin(), says.end(), '\n', ' ');
-  if (symbol == "VV" || symbol == "h") return limits_in_words(*this, std::move(says), symbol);
+  if (symbol == "VV" || symbol == "h")
+    return within(limits_in_words(*this, std::move(says), symbol));
+  take_brackets_of_a_list(*this, symbol, says);
   return within(says);
 }
 
@@ -120,7 +183,12 @@ void Sentence::code(text::Id name, std::string_view symbol, std::string_view fig
   if (is_not_reported(figures)) {
     not_reported(name);
   } else if (const auto words = meaning_of(symbol, figures)) {
-    say(id::kPlainColon, {get(name), *words});
+    if (names_its_element(symbol, figures))
+      say(*words);
+    else if (const auto repeated = repeated_at(get(name), *words); repeated > 0)
+      say(std::string(get(name)).append(*words, repeated));
+    else
+      say(id::kPlainColon, {get(name), *words});
   } else if (!text::is_all_digits(figures)) {
     unreadable(name, figures);
   } else {
@@ -137,11 +205,19 @@ void Sentence::meaning(text::Id name, std::string_view symbol, std::string_view 
     code(name, symbol, figures);
 }
 
-std::string Sentence::compass(int degrees) const {
+std::string_view Sentence::point(int degrees) const {
   constexpr int kPoints = 16;
   constexpr int kHalfDegreesInAPoint = 45;
   const int point = (degrees * 2 + kHalfDegreesInAPoint / 2) / kHalfDegreesInAPoint % kPoints;
-  return filled(id::kPlainPoint, {get(id::kPlainNorth + point), text::format_int(degrees, 3, '0')});
+  return get(id::kPlainNorth + point);
+}
+
+std::string Sentence::degrees(int degrees) {
+  return text::format_int(degrees, 3, '0');
+}
+
+std::string Sentence::compass(int degrees) const {
+  return filled(id::kPlainPoint, {point(degrees), Sentence::degrees(degrees)});
 }
 
 Told Sentence::told() const {

@@ -44,7 +44,8 @@ class Sentence {
   void unreadable(text::Id name, std::string_view figures);
   /// Figures that are a number but none that can be.
   void impossible(text::Id name, std::string_view figures);
-  /// What a code stands for: "visibility: 10 km to under 20 km". `symbol` as in table_of().
+  /// What a code stands for: "visibility: 10 km to under 20 km". `symbol` as in table_of(). What the
+  /// table's words tell of the name themselves is not said twice.
   void code(text::Id name, std::string_view symbol, std::string_view figures);
   /// The same without the name in front.
   void meaning(text::Id name, std::string_view symbol, std::string_view figures);
@@ -52,7 +53,10 @@ class Sentence {
   /// What the figures stand for, as it is said within a sentence; nothing when the table lacks them.
   [[nodiscard]] std::optional<std::string> meaning_of(std::string_view symbol,
                                                       std::string_view figures) const;
-  /// "west (270°)" of degrees from 10 to 360.
+  /// "west" of degrees from 10 to 360, and the degrees in three figures.
+  [[nodiscard]] std::string_view point(int degrees) const;
+  [[nodiscard]] static std::string degrees(int degrees);
+  /// "west (270°)".
   [[nodiscard]] std::string compass(int degrees) const;
 
   [[nodiscard]] Told told() const;
@@ -67,6 +71,9 @@ class Sentence {
   bool unusual_ = false;
   bool wrong_ = false;
 };
+
+/// A speed of the wind: "18 knots (force 5)"; without a unit no force.
+[[nodiscard]] std::string speed_words(const Sentence& sentence, const Heard& heard, double speed);
 
 /// True for a text of solidi alone; an empty one is.
 [[nodiscard]] bool is_not_reported(std::string_view figures);
