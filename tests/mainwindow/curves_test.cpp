@@ -195,6 +195,28 @@ std::vector<double> curve(Opened& opened) {
   return values;
 }
 
+// They are wide for its days, and stand below the scale.
+TEST(CurveBesideTheForm, LeavesTheNamesOfTheDaysWithoutALineThroughThem) {
+  const auto opened = with_reports();
+  enter_date(*opened);
+  const ui::Drawing& drawing = *opened->control("curve").drawing;
+  int days = 0;
+  double lowest_day = drawing.y.last;
+  double lowest_value = drawing.y.last;
+  for (const ui::Shape& shape : drawing.ground) {
+    const auto* const line = std::get_if<ui::Polyline>(&shape);
+    if (line == nullptr) continue;
+    const double low = std::min(line->points.front().y, line->points.back().y);
+    const bool is_day = line->points.front().x == line->points.back().x;
+    days += is_day ? 1 : 0;
+    double& lowest = is_day ? lowest_day : lowest_value;
+    lowest = std::min(lowest, low);
+  }
+  EXPECT_GE(days, 10) << "two a day";
+  EXPECT_EQ(lowest_day, lowest_value);
+  EXPECT_GT(lowest_day, drawing.y.first);
+}
+
 TEST(CurveBesideTheForm, FollowsEachKeyOfAPressure) {
   const auto opened = with_reports();
   enter_date(*opened);
