@@ -20,6 +20,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QStyleOptionViewItem>
 #include <QTextLayout>
 #include <QTreeWidget>
 #include <QWheelEvent>
@@ -404,11 +405,22 @@ class ShortList : public QListWidget {
         widest_ = std::max(widest_, fontMetrics().horizontalAdvance(item(row)->text()));
     const int line = fontMetrics().height();
     const int box = ticks ? style()->pixelMetric(QStyle::PM_IndicatorWidth) : 0;
-    return {std::max(widest_, 0) + box + line * 2, line * lines + line / 2};
+    // Whole lines: half of one more would pass for the last one, badly drawn.
+    return {std::max(widest_, 0) + box + line * 2, line_height() * lines + frameWidth() * 2};
   }
   void measure_anew() {
     widest_ = -1;
     updateGeometry();
+  }
+  /// A line of one row, as its delegate draws it.
+  [[nodiscard]] int line_height() const {
+    QStyleOptionViewItem line;
+    initViewItemOption(&line);
+    line.features = QStyleOptionViewItem::HasDisplay;
+    if (ticks) line.features |= QStyleOptionViewItem::HasCheckIndicator;
+    // A letter of another font may make it higher.
+    line.text = count() > 0 ? item(0)->text() : QStringLiteral("0");
+    return style()->sizeFromContents(QStyle::CT_ItemViewItem, &line, {}, this).height();
   }
   bool ticks = false;  ///< the lines have boxes
   [[nodiscard]] QSize minimumSizeHint() const override {

@@ -5,11 +5,13 @@
 #include <QClipboard>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QSpacerItem>
 #include <QTimer>
 #include <algorithm>
 #include <clocale>
@@ -86,6 +88,17 @@ class Box : public QMessageBox {
  private:
   const QWidget* of_;
 };
+
+// A short message is narrower than the title above it, which would be cut. The toolkit counts with
+// less than a title bar takes, which others draw: bold letters, a sign, buttons.
+void make_room_for_title(QMessageBox& box) {
+  constexpr int kBesideTitle = 110;
+  QFont bold = QApplication::font("QMdiSubWindowTitleBar");
+  bold.setBold(true);
+  const int width = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + kBesideTitle;
+  if (auto* const grid = qobject_cast<QGridLayout*>(box.layout()))
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
 
 // One button alone is pressed by Enter.
 std::vector<char> access_keys_of(const ui::MessageBox& box) {
@@ -183,6 +196,7 @@ int DesktopWindows::show_message(const ui::MessageBox& box) {
     if (results.size() == 1) window.setDefaultButton(made);
     if (button.result == box.close_result) window.setEscapeButton(made);
   }
+  make_room_for_title(window);
   window.exec();
   const auto at = results.find(window.clickedButton());
   return at == results.end() ? box.close_result : at->second;

@@ -78,6 +78,15 @@ bool does_nothing(const QKeyEvent& event) {
          (event.key() == Qt::Key_F10 || event.key() == Qt::Key_F12);
 }
 
+bool is_key_or_click(const QEvent& event) {
+  return event.type() == QEvent::KeyPress || event.type() == QEvent::MouseButtonPress;
+}
+
+bool is_tab(const QEvent& event) {
+  return event.type() == QEvent::KeyPress &&
+         static_cast<const QKeyEvent&>(event).key() == Qt::Key_Tab;
+}
+
 // A menu bar does not write the keys behind its titles, so they stand in the tip as well.
 void show_shortcut(QAction& action, std::string_view label, std::string_view keys) {
   const QString shortcut = QString::fromLatin1(keys.data(), static_cast<qsizetype>(keys.size()));
@@ -584,6 +593,8 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
   if (const QEvent::Type type = event->type(); type == QEvent::Move || type == QEvent::Resize ||
                                                type == QEvent::Show || type == QEvent::Hide)
     for (FocusFrame* const frame : focus_frames_) frame->place();
+  // What the screen is told of below, it counts itself.
+  if (is_key_or_click(*event) && !is_tab(*event)) screen_.did_something_else();
   if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
   const auto* const widget = qobject_cast<QWidget*>(watched);
   const auto& pressed = *static_cast<QKeyEvent*>(event);

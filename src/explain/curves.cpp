@@ -226,7 +226,9 @@ void add_value_lines(ui::Drawing& drawing, const Scale& scale, long named_each) 
 }
 
 // A line at each midnight, named by the day that begins, and one at each noon.
-void add_days(ui::Drawing& drawing, const Days& days, double top, const text::Texts& texts) {
+// The lines of the days end at `bottom`.
+void add_days(ui::Drawing& drawing, const Days& days, double bottom, double top,
+              const text::Texts& texts) {
   constexpr int kNoon = kHoursOfDay / 2;
   constexpr std::size_t kBriefMonth = 3;  // "Nov", and all of a Japanese one
   std::vector<ui::Shape> noons;
@@ -236,7 +238,7 @@ void add_days(ui::Drawing& drawing, const Days& days, double top, const text::Te
     if (x < -kHoursShown || hour < 0) continue;
     const bool midnight = hour % kHoursOfDay == 0;
     drawing.ground.emplace_back(
-        ui::Polyline{{{x, drawing.y.first}, {x, top}}, Ink::kFaint, false, !midnight});
+        ui::Polyline{{{x, bottom}, {x, top}}, Ink::kFaint, false, !midnight});
     ShortText name{
         {x, drawing.y.first}, {}, ShortText::Side::kCentre, Ink::kText, ShortText::Edge::kBottom};
     name.text = midnight ? day_name(hour, texts, kBriefMonth) : std::string("12 UTC");
@@ -560,7 +562,7 @@ ui::Drawing drawing_of(const Days& days, Chart chart, const text::Texts& texts,
   const std::vector<Curve> curves = curves_of(days, chart);
   if (curves.empty()) return drawing;
   add_value_lines(drawing, frame.scale, 1);
-  add_days(drawing, days, frame.scale.high, texts);
+  add_days(drawing, days, drawing.y.first, frame.scale.high, texts);
   if (chosen) add_chosen(drawing, days, chart, *chosen, frame, knots);
   for (const Curve curve : curves) add_line(drawing, days, curve, knots);
   for (const Curve curve : curves) add_entered(drawing, days, curve, frame, knots);
@@ -589,7 +591,8 @@ ui::Drawing small_drawing_of(const Days& days, Chart chart, const text::Texts& t
   if (curves.empty()) return drawing;
   const long steps = std::lround((frame.scale.high - frame.scale.low) / frame.scale.step);
   add_value_lines(drawing, frame.scale, steps % 2 == 0 ? steps / 2 : steps);
-  add_days(drawing, days, frame.scale.high, texts);
+  // The names of the days are as wide as half a day and more: a line would go through them.
+  add_days(drawing, days, frame.scale.low, frame.scale.high, texts);
   for (const Curve curve : curves) add_line(drawing, days, curve, knots);
   for (const Curve curve : curves) add_entered(drawing, days, curve, frame, knots);
   return drawing;

@@ -59,6 +59,26 @@ std::string_view element_label(const StatusOf& of, const FieldRow& row) {
   return of.texts.get(elements::label_ref(found == nullptr ? text::Id() : found->label));
 }
 
+// How a line is chosen where nothing can be typed in.
+std::string choice_words(const text::Texts& texts, FieldKind kind) {
+  const auto letters = [&](text::Id one, text::Id other) {
+    return text::fill(texts.get(id::kStatusLetters),
+                      {texts.get(elements::label_ref(one)), texts.get(elements::label_ref(other))});
+  };
+  switch (kind) {
+    case FieldKind::kNorthSouth:
+      return letters(id::kLabelNorth, id::kLabelSouth);
+    case FieldKind::kEastWest:
+      return letters(id::kLabelEast, id::kLabelWest);
+    case FieldKind::kLoadingState:
+      return std::string(texts.get(id::kStatusArrows));
+    case FieldKind::kEdit:
+    case FieldKind::kFreeze:
+      break;
+  }
+  return {};
+}
+
 }  // namespace
 
 std::string field_status(const StatusOf& of, const FieldRow& row, std::string_view typed,
@@ -76,6 +96,7 @@ std::string field_status(const StatusOf& of, const FieldRow& row, std::string_vi
     add(line, filled(of.texts, id::kStatusAllowed,
                      elements::accepted_texts(row.field->field, of.form.record(), of.around.clock,
                                               of.texts.language)));
+  add(line, choice_words(of.texts, row.kind));
   if (const std::string_view label = element_label(of, row); !label.empty())
     add(line, filled(of.texts, id::kStatusHelp, label));
   return line;

@@ -12,9 +12,6 @@
 namespace observation {
 namespace {
 
-constexpr double kMetresInAMile = 1852.0;
-constexpr double kSecondsInAnHour = 3600.0;
-
 // Figures alone: nothing for any missing form, and for one figure that is missing among others.
 std::optional<int> number(std::string_view figures) {
   return text::whole_number(figures, 0, 99999);
@@ -131,13 +128,13 @@ Values values_of(const Struct_Weather& record) {
 std::optional<double> knots_of(const Values& values) {
   if (!values.wind_speed) return std::nullopt;
   if (values.wind_in_knots) return values.wind_speed;
-  return *values.wind_speed * kSecondsInAnHour / kMetresInAMile;
+  return codetables::knots_of_metres_a_second(*values.wind_speed);
 }
 
 std::optional<double> metres_per_second_of(const Values& values) {
   if (!values.wind_speed) return std::nullopt;
   if (!values.wind_in_knots) return values.wind_speed;
-  return *values.wind_speed * kMetresInAMile / kSecondsInAnHour;
+  return codetables::metres_a_second_of({*values.wind_speed});
 }
 
 }  // namespace observation

@@ -1283,6 +1283,8 @@ inline constexpr Id kStatusHelp{44202};
 inline constexpr Id kStatusNoValue{44203};
 inline constexpr Id kStatusSaved{44204};
 inline constexpr Id kStatusOfGroup{44205};
+inline constexpr Id kStatusLetters{46154};
+inline constexpr Id kStatusArrows{46155};
 
 // Words of values
 inline constexpr Id kWordsNotObserved{44210};

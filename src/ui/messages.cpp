@@ -62,10 +62,16 @@ CMessageBox3::CMessageBox3(std::string text, std::string yes, std::string no, st
            {},
            Sign::kQuestion} {}
 
+// The one road of all that is shown.
+int Messages::show_box(const MessageBox& box) {
+  ++told_;
+  return windows_.show_message(box);
+}
+
 // The one road of every notice.
 void Messages::notice(std::string title, std::string shown, text::Id id, Sign sign) {
   if (quiet) return;
-  windows_.show_message({std::move(title), std::move(shown), {{"OK", "ok", kOk}}, kOk, id, sign});
+  show_box({std::move(title), std::move(shown), {{"OK", "ok", kOk}}, kOk, id, sign});
 }
 
 std::string Messages::filled(text::Id id, std::initializer_list<std::string_view> arguments,
@@ -144,15 +150,15 @@ int Messages::question(std::string_view text, std::string_view title, QuestionMo
 
 int Messages::show(const CMessageBox1& box) {
   const Raised open(message_box_open);
-  return windows_.show_message(box.box());
+  return show_box(box.box());
 }
 
 int Messages::show(const CMessageBox2& box) {
-  return windows_.show_message(box.box());
+  return show_box(box.box());
 }
 
 int Messages::show(const CMessageBox3& box) {
-  return windows_.show_message(box.box());
+  return show_box(box.box());
 }
 
 }  // namespace ui

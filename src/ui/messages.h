@@ -61,6 +61,9 @@ class Messages {
   bool question_open = false;     ///< a question is on the screen
   bool message_box_open = false;  ///< a CMessageBox1 is on the screen
 
+  /// How many messages and questions the person has been shown so far.
+  [[nodiscard]] unsigned told() const { return told_; }
+
   /// Error notice: the bilingual text of the id when it is at least 1, else the literal, else
   /// "Check Error".
   void error(text::Id id, std::string_view literal = {});
@@ -99,6 +102,7 @@ class Messages {
   int show(const CMessageBox3& box);
 
  private:
+  int show_box(const MessageBox& box);
   void notice(std::string title, std::string shown, text::Id id, Sign sign);
   [[nodiscard]] std::string filled(text::Id id, std::initializer_list<std::string_view> arguments,
                                    std::string_view below) const;
@@ -107,6 +111,7 @@ class Messages {
   text::Texts& texts_;
   Windows& windows_;
   std::set<text::Id> told_once_;
+  unsigned told_ = 0;
 };
 
 }  // namespace ui

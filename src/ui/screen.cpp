@@ -66,6 +66,7 @@ class Screen::Handling {
     if (!first_) return;
     screen_.handling_ = true;
     looked_for_.swap(screen_.looked_for_);
+    std::swap(moved_on_, screen_.moved_on_);
   }
   ~Handling() {
     if (first_) screen_.handling_ = false;
@@ -75,11 +76,14 @@ class Screen::Handling {
   explicit operator bool() const { return first_; }
   /// What had been typed before this event to find a line.
   [[nodiscard]] const std::string& looked_for() const { return looked_for_; }
+  /// The focus moved on by itself with the event before.
+  [[nodiscard]] bool moved_on() const { return moved_on_; }
 
  private:
   Screen& screen_;
   bool first_;
   std::string looked_for_;
+  bool moved_on_ = false;
 };
 
 Screen::Screen(Services& services, std::string_view class_name, text::Ref title)
@@ -144,8 +148,11 @@ void Screen::type_by_key(Control& control, std::string_view text) {
   if (!services_.moves_on || !is_full(*typed_into)) return;
   // Enter behind the last figure means OK, and no other button that Tab would come to.
   const Control* const next = neighbour(focused_, true);
-  if (next != nullptr && (next->kind != Kind::kButton || next->role == Role::kAccept))
-    tab(Key::kTab);
+  if (next == nullptr || (next->kind == Kind::kButton && next->role != Role::kAccept)) return;
+  const unsigned told = services_.messages.told();
+  tab(Key::kTab);
+  // Who has answered a message on the way has seen where the focus is.
+  moved_on_ = focused_ != typed_into && services_.messages.told() == told;
 }
 
 bool Screen::is_full(const Control& control) const {
@@ -376,6 +383,9 @@ void Screen::key(Key key) {
       on_f1(focused_);
       return;
     case Key::kTab:
+      // There is no time limit: to press Tab once more is less than an element left out.
+      if (!handling.moved_on()) tab(key);
+      return;
     case Key::kShiftTab:
       tab(key);
       return;
@@ -496,12 +506,15 @@ void Screen::close_box() {
 
 void Screen::idle() {
   if (!opened_ || result_) return;
-  const std::string looked_for = looked_for_;  // a pause is no event: half a code may go on
+  // A pause is no event: half a code may go on, and a Tab be late.
+  const std::string looked_for = looked_for_;
+  const bool moved_on = moved_on_;
   {
     const Handling handling(*this);
     on_idle(static_cast<bool>(handling));
   }
   looked_for_ = looked_for;
+  moved_on_ = moved_on;
 }
 
 void Screen::event_failed(const std::exception_ptr& thrown) {

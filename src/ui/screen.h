@@ -95,8 +95,10 @@ class Screen {
   /// The same, where the last character was typed by a key or given by an input method at the end
   /// of the text. When that made a field full whose figures always fill it
   /// (Control::moves_on_when_full; counted as half-width figures), the focus moves on as Tab moves
-  /// it: a refused field keeps it. It stays before a button other than OK. Front ends tell a correction in the middle of a text, what is
-  /// pasted, dropped or taken back as type().
+  /// it: a refused field keeps it. It stays before a button other than OK. A Tab that comes next,
+  /// with nothing else in between, is the one that a hand presses behind every figure: it does
+  /// nothing, once. Front ends tell a correction in the middle of a text, what is pasted, dropped or
+  /// taken back as type().
   void type_by_key(Control& control, std::string_view text);
   /// Picked a line; an index outside the lines picks none.
   void choose(Control& control, int index);
@@ -126,6 +128,9 @@ class Screen {
   /// thing.
   bool reveal(Control& tree, std::string_view path);
   void close_box();
+  /// A key or a click that none of these tells of: it moved the caret, or went to a menu or to
+  /// another window. A Tab behind it is meant.
+  void did_something_else() { moved_on_ = false; }
 
   /// A front end could not bring one of these to its end, because something threw: tells the person
   /// why. What has been entered stays. Events that the message brings along are dropped.
@@ -230,6 +235,7 @@ class Screen {
   std::optional<int> result_;
   bool opened_ = false;
   bool handling_ = false;
+  bool moved_on_ = false;  ///< by itself, with the event before; every other event forgets it
 };
 
 }  // namespace ui

@@ -50,10 +50,7 @@ struct Computer {
 /// step is taken when its window is on top. What the boxes said.
 Lines run(Computer& computer, int arrows, std::deque<tests::Step> steps) {
   tests::DesktopWorld world;
-  ui::Services services = {world.fake.clock, world.fake.locale,    world.fake.drives,
-                           computer.files,   world.fake.code_page, world.fake.printer,
-                           world.windows,    world.fake.texts,     world.messages,
-                           world.fake.help};
+  ui::Services services = world.over(computer.files);
   CVelmaranDlg screen(services, {computer.ship, computer.items, computer.folders, {}});
   tests::Officer officer(std::move(steps));
   world.windows.on_shown = [&](desktop::ScreenWindow& window) {

@@ -79,10 +79,7 @@ void open_the_list() {
 void run(Computer& computer, const std::function<void(desktop::ScreenWindow&)>& in_list,
          const std::function<void(CVelmaranDlg&, desktop::ScreenWindow&)>& in_form) {
   tests::DesktopWorld world;
-  ui::Services services = {world.fake.clock, world.fake.locale,    world.fake.drives,
-                           computer.files,   world.fake.code_page, world.fake.printer,
-                           world.windows,    world.fake.texts,     world.messages,
-                           world.fake.help};
+  ui::Services services = world.over(computer.files);
   CVelmaranDlg screen(services, {computer.ship, computer.items, computer.folders, {}});
   int shown = 0;
   world.windows.on_shown = [&](desktop::ScreenWindow& window) {

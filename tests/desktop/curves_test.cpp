@@ -124,17 +124,7 @@ struct OwnedByTheProgram {
   ShipFixedData ship = fakes::sample_ship();
   KeyObservationItems items;
   mainwindow::Folders folders;
-  ui::Services services{world.fake.clock,
-                        world.fake.locale,
-                        world.fake.drives,
-                        files,
-                        world.fake.code_page,
-                        world.fake.printer,
-                        world.windows,
-                        world.fake.texts,
-                        world.messages,
-                        world.fake.help,
-                        false};
+  ui::Services services = world.over(files);
 };
 
 TEST(CurvesFromTheMainWindow, LeaveAHalfTypedFieldAsItIs) {

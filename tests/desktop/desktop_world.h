@@ -30,6 +30,12 @@ struct DesktopWorld {
                         fake.printer, windows, fake.texts, messages, fake.help,
                         // Tests tell each Tab themselves; those of moving on switch it on.
                         false};
+
+  /// The same over files of its own.
+  [[nodiscard]] ui::Services over(platform::Files& files) {
+    return {fake.clock, fake.locale, fake.drives, files,     fake.code_page, fake.printer,
+            windows,    fake.texts,  messages,    fake.help, false};
+  }
 };
 
 /// What has the focus; a real display gives it a moment after it was asked to.

@@ -39,17 +39,7 @@ struct Computer {
 /// window is gone after it as if the program had been killed.
 void run(Computer& computer, const std::function<void(CVelmaranDlg&)>& act) {
   tests::DesktopWorld world;
-  ui::Services services = {world.fake.clock,
-                           world.fake.locale,
-                           world.fake.drives,
-                           computer.files,
-                           world.fake.code_page,
-                           world.fake.printer,
-                           world.windows,
-                           world.fake.texts,
-                           world.messages,
-                           world.fake.help,
-                           false};
+  ui::Services services = world.over(computer.files);
   CVelmaranDlg screen(services, {computer.ship, computer.items, computer.folders, {}});
   bool seen = false;
   world.windows.on_shown = [&](desktop::ScreenWindow& window) {

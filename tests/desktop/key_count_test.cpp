@@ -91,10 +91,7 @@ class CountedWindow {
 
   tests::DesktopWorld world;
   fakes::FakeFiles files;
-  ui::Services services{
-      world.fake.clock,     world.fake.locale,  world.fake.drives, files,
-      world.fake.code_page, world.fake.printer, world.windows,     world.fake.texts,
-      world.messages,       world.fake.help};
+  ui::Services services = world.over(files);
   ShipFixedData ship = ship_of_the_sample();
   KeyObservationItems items = without_ice();
   mainwindow::Folders folders;

@@ -62,17 +62,7 @@ struct OwnLog {
 /// The dialog in a window, over files of its own.
 struct LogbookKeys : OwnLog {
   tests::DesktopWorld world;
-  ui::Services services{world.fake.clock,
-                        world.fake.locale,
-                        world.fake.drives,
-                        files,
-                        world.fake.code_page,
-                        world.fake.printer,
-                        world.windows,
-                        world.fake.texts,
-                        world.messages,
-                        world.fake.help,
-                        false};
+  ui::Services services = world.over(files);
   std::unique_ptr<CLogbookDlg> screen;
   std::unique_ptr<desktop::ScreenWindow> window;
 
@@ -262,17 +252,7 @@ TEST_F(LogbookInAWindow, SaysWhyThereIsNothingAndIsLeftByEitherKey) {
 struct Voyage : OwnLog {
   tests::DesktopWorld world;
   mainwindow::Folders folders;
-  ui::Services services{world.fake.clock,
-                        world.fake.locale,
-                        world.fake.drives,
-                        files,
-                        world.fake.code_page,
-                        world.fake.printer,
-                        world.windows,
-                        world.fake.texts,
-                        world.messages,
-                        world.fake.help,
-                        false};
+  ui::Services services = world.over(files);
 };
 
 TEST(LogbookFromTheMainWindow, LeavesAHalfTypedFieldAsItIs) {

@@ -69,6 +69,23 @@ TEST(MessageBoxes, AskYesAndNoInThatOrder) {
   EXPECT_EQ(ui::kNo, answered(ask, kClose));
 }
 
+// "Save success" is shorter than the name of the program above it.
+TEST(MessageBoxes, AreWideEnoughForTheirTitle) {
+  DesktopWorld world;
+  for (const char* const title : {"KAVREL for WIN", "A title that is longer than all below it"}) {
+    const ui::CMessageBox1 box("Yes?", {}, {}, title);
+    answered([&] { return world.messages.show(box); },
+             [&](QMessageBox& shown) {
+               const QFontMetrics letters(QApplication::font());
+               EXPECT_GT(shown.width(), letters.horizontalAdvance(shown.windowTitle()) + 100);
+               EXPECT_LT(shown.width(), letters.horizontalAdvance(shown.windowTitle()) + 250);
+               for (const QAbstractButton* const button : shown.buttons())
+                 EXPECT_TRUE(shown.rect().contains(button->geometry()));
+               shown.close();
+             });
+  }
+}
+
 TEST(MessageBoxes, GiveThreeButtonsTheCallersLabels) {
   DesktopWorld world;
   Seen seen;

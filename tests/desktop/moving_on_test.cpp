@@ -75,6 +75,41 @@ TEST_P(Fields, MoveOnBehindTheLastFigure) {
   EXPECT_TRUE(s.window->binding(*s.screen->focused())->owns(QApplication::focusWidget()));
 }
 
+TEST_P(Fields, TakeTheTabOfAHandThatDoesNotLookForTheirOwn) {
+  type("07");
+  const ui::Control* const next = s.screen->focused();
+  ASSERT_NE(next, &field());
+  press(Qt::Key_Tab);
+  EXPECT_EQ(s.screen->focused(), next);
+  EXPECT_TRUE(s.window->binding(*next)->owns(QApplication::focusWidget()));
+  press(Qt::Key_Tab);
+  EXPECT_NE(s.screen->focused(), next);
+}
+
+// No screen hears of these.
+TEST_P(Fields, LetATabBehindAnotherKeyGoOn) {
+  for (const auto& [key, with] : {std::pair{Qt::Key_End, Qt::ShiftModifier},
+                                  {Qt::Key_Shift, Qt::NoModifier},
+                                  {Qt::Key_Control, Qt::NoModifier}}) {
+    s.screen->move_focus(field());
+    s.window->refresh();
+    press(Qt::Key_A, Qt::ControlModifier);
+    type("07");
+    const ui::Control* const next = s.screen->focused();
+    ASSERT_NE(next, &field());
+    press(key, with);
+    ASSERT_EQ(s.screen->focused(), next);
+    press(Qt::Key_Tab);
+    EXPECT_NE(s.screen->focused(), next) << key;
+  }
+}
+
+TEST_P(Fields, LeadBackWithShiftTabAtOnce) {
+  type("07");
+  press(Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_TRUE(has_focus());
+}
+
 TEST_P(Fields, StayWithTheirTextSelectedAtARefusal) {
   const auto told = tests::messages_of([] { type("99"); });
   EXPECT_EQ(1U, told.size());
@@ -169,6 +204,19 @@ TEST_P(Fields, AskTheInputMethodForFigures) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, Fields, testing::Values("edit", "combo"),
                          [](const auto& kind) { return std::string(kind.param); });
+
+TEST(MovingOn, LetsATabBehindAClickGoOn) {
+  Shown<CCodesDlg> s;
+  s.world.services.moves_on = true;
+  type("07");
+  ASSERT_EQ(s.screen->focused(), &s.screen->combo);
+  auto* const line = qobject_cast<QComboBox*>(s.window->binding("combo")->widget())->lineEdit();
+  QTest::mouseClick(line, Qt::LeftButton);
+  QApplication::processEvents();
+  ASSERT_EQ(s.screen->focused(), &s.screen->combo);
+  press(Qt::Key_Tab);
+  EXPECT_EQ(s.screen->focused(), &s.screen->drop_down);
+}
 
 void turn(QWidget& widget, QPointF at) {
   QWheelEvent wheel(at, widget.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <memory>
 #include <string>
 
@@ -54,6 +55,31 @@ TEST_F(PlainWordsKeys, ShowAndHideTheWordsAndTheyFollowEachKey) {
   press(Qt::Key_F2);
   EXPECT_FALSE(list->isVisible());
   EXPECT_EQ(screen->find("PPPP")->content, "1009.8") << "what is typed stays";
+}
+
+TEST_F(PlainWordsKeys, StandInWholeLines) {
+  for (const text::Language language : {text::Language::kEnglish, text::Language::kJapanese}) {
+    world.fake.texts.language = language;
+    window->refresh();
+    if (!list->isVisible()) press(Qt::Key_F2);
+    ASSERT_TRUE(list->isVisible());
+    window->binding("PPPP")->widget()->setFocus();
+    QApplication::processEvents();
+    ASSERT_FALSE(list->horizontalScrollBar()->isVisible());
+    const int above = list->viewport()->rect().top();
+    const int below = list->viewport()->rect().bottom();
+    int last = 0;
+    for (int row = 0; row < list->count(); ++row) {
+      const QRect line = list->visualItemRect(list->item(row));
+      if (line.bottom() < above || line.top() > below) continue;
+      EXPECT_GE(line.top(), above) << row;
+      EXPECT_LE(line.bottom(), below) << row;
+      last = line.bottom();
+    }
+    EXPECT_EQ(last, below) << "and no room is left for half of another one";
+    // Nor is its frame cut by what it stands in.
+    EXPECT_TRUE(list->parentWidget()->rect().contains(list->geometry()));
+  }
 }
 
 TEST_F(PlainWordsKeys, F6AndTheArrowsGoThroughTheLines) {

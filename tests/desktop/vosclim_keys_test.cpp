@@ -109,10 +109,7 @@ struct Ship {
 void run_command(Ship& on, const char* command,
                  const std::vector<std::function<void(desktop::ScreenWindow&)>>& acts) {
   tests::DesktopWorld world;
-  ui::Services services = {world.fake.clock, world.fake.locale,    world.fake.drives,
-                           on.files,         world.fake.code_page, world.fake.printer,
-                           world.windows,    world.fake.texts,     world.messages,
-                           world.fake.help};
+  ui::Services services = world.over(on.files);
   CVelmaranDlg screen(services, {on.ship, on.items, on.folders, [&on] { ++on.written; }});
   std::size_t opened = 0;
   world.windows.on_shown = [&](desktop::ScreenWindow& window) {

@@ -170,6 +170,31 @@ TEST_F(StatusLine, NamesTheDialogThatF1Opens) {
   EXPECT_EQ(at("freeze"), "F1: Temp by dry and wet bulb");
 }
 
+TEST_F(StatusLine, SaysHowALineIsChosen) {
+  EXPECT_EQ(at("north_south"), "Choose with N, S or the arrows | F1: Latitude");
+  EXPECT_EQ(at("east_west"), "Choose with E, W or the arrows | F1: Longitude");
+  // As with a barometer card for each loading state.
+  screen.find("loading_state")->enabled = true;
+  EXPECT_TRUE(at("loading_state").starts_with("Choose with the arrows")) << line();
+  world.texts.language = Language::kJapanese;
+  EXPECT_EQ(at("north_south"), "N、S または矢印キーで選択 | F1：緯度");
+  EXPECT_EQ(at("east_west"), "E、W または矢印キーで選択 | F1：経度");
+  EXPECT_TRUE(at("loading_state").starts_with("矢印キーで選択")) << line();
+  // And it is so, in both languages.
+  for (const Language language : kLanguages) {
+    world.texts.language = language;
+    for (const auto& [name, second] : {std::pair{"north_south", "S"}, {"east_west", "w"}}) {
+      at(name);
+      screen.key(ui::Key::kHome);
+      ASSERT_EQ(screen.find(name)->selected, 0);
+      screen.find_line(second);
+      EXPECT_EQ(screen.find(name)->selected, 1) << name;
+      screen.key(ui::Key::kUp);
+      EXPECT_EQ(screen.find(name)->selected, 0) << name;
+    }
+  }
+}
+
 TEST_F(StatusLine, FollowsTheTyping) {
   at("VV");
   ui::Control& field = *screen.find("VV");

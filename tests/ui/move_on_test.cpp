@@ -156,6 +156,68 @@ TEST_F(MoveOn, ToWhatIsAskedOnceTheFieldWasTaken) {
   }
 }
 
+// The Tab that a hand presses behind every figure.
+TEST_F(MoveOn, TakesTheNextTabForItsOwnOnce) {
+  screen.type_by_key(screen.two, "07");
+  screen.key(Key::kTab);
+  EXPECT_EQ(focus(), "whole");
+  EXPECT_EQ(screen.tabs, "T") << "the first one was pressed by nobody, the second did nothing";
+  screen.key(Key::kTab);
+  EXPECT_EQ(focus(), "tenths");
+  EXPECT_EQ(screen.tabs, "TT");
+}
+
+// The officer may look up between the two, and a script pauses before each line.
+TEST_F(MoveOn, TakesALateTabForItsOwn) {
+  screen.type_by_key(screen.two, "07");
+  screen.idle();
+  screen.key(Key::kTab);
+  EXPECT_EQ(focus(), "whole");
+}
+
+TEST_F(MoveOn, LeavesEveryOtherTabAsItIs) {
+  const auto focus_after = [this](const auto& between) {
+    CCodesDlg fresh(world.services);
+    fresh.open();
+    fresh.type_by_key(fresh.two, "07");
+    between(fresh);
+    fresh.key(Key::kTab);
+    return fresh.focused()->name;
+  };
+  EXPECT_EQ(focus_after([](CCodesDlg&) {}), "whole");
+  EXPECT_EQ(focus_after([](CCodesDlg& s) { s.key(Key::kShiftTab); }), "whole") << "to two and back";
+  EXPECT_EQ(focus_after([](CCodesDlg& s) { s.type_by_key(s.whole, "1"); }), "tenths");
+  EXPECT_EQ(focus_after([](CCodesDlg& s) { s.key(Key::kDown); }), "tenths");
+  EXPECT_EQ(focus_after([](CCodesDlg& s) { s.move_focus(s.whole); }), "tenths") << "a click";
+  EXPECT_EQ(focus_after([](CCodesDlg& s) { s.did_something_else(); }), "tenths");
+}
+
+TEST_F(MoveOn, LeavesATabBehindAFieldThatStayed) {
+  screen.type_by_key(screen.two, "99");
+  screen.two.on_leave = nullptr;
+  screen.key(Key::kTab);
+  EXPECT_EQ(focus(), "whole") << "it was refused, and is taken now";
+  world.services.moves_on = false;
+  CCodesDlg fresh(world.services);
+  fresh.open();
+  fresh.type_by_key(fresh.two, "07");
+  fresh.key(Key::kTab);
+  EXPECT_EQ(fresh.focused()->name, "whole") << "switched off";
+}
+
+TEST_F(MoveOn, LeavesATabBehindAMessage) {
+  screen.two.on_leave = [this] {
+    world.messages.error(text::id::kInputError);
+    return true;
+  };
+  world.windows.expect(text::id::kInputError);
+  screen.type_by_key(screen.two, "07");
+  ASSERT_EQ(focus(), "whole");
+  screen.two.on_leave = nullptr;
+  screen.key(Key::kTab);
+  EXPECT_EQ(focus(), "tenths");
+}
+
 TEST_F(MoveOn, StaysWhereEverythingElseIsPassedOver) {
   for (ui::Control* const control : screen.controls()) control->passed_over = true;
   screen.two.passed_over = false;

@@ -26,12 +26,9 @@ double whole_units(Knot speed) {
 }
 
 std::optional<Knot> knots_of(std::string_view speed, std::string_view iw) {
-  constexpr double kMetresInAMile = 1852.0;
-  constexpr double kSecondsInAnHour = 3600.0;
   const auto value = text::number_at_start(speed);
   if (!value) return std::nullopt;
-  const bool metres_a_second = iw == "0" || iw == "1";
-  return Knot{metres_a_second ? *value * kSecondsInAnHour / kMetresInAMile : *value};
+  return Knot{is_metres_per_second(iw) ? knots_of_metres_a_second(*value) : *value};
 }
 
 int beaufort_force(Knot wind) {

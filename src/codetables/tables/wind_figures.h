@@ -35,6 +35,14 @@ struct WindFigures {
   return iw == "0" || iw == "1";
 }
 
+/// The two units that a wind is reported in, from one to the other: a knot is 1852 metres an hour.
+[[nodiscard]] constexpr double knots_of_metres_a_second(double speed) {
+  return speed * 3600.0 / 1852.0;
+}
+[[nodiscard]] constexpr double metres_a_second_of(Knot speed) {
+  return speed.value * 1852.0 / 3600.0;
+}
+
 /// A wind speed of the record in knots: `speed` is in the unit that iw tells (code table 1855; metres
 /// a second for "0" and "1", knots for any other). Nothing when it is no number.
 [[nodiscard]] std::optional<Knot> knots_of(std::string_view speed, std::string_view iw);
