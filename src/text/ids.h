@@ -1562,6 +1562,9 @@ inline constexpr Id kDoubtIcingInWarmAir{45649};
 inline constexpr Id kDoubtSeaIceInWarmWater{45650};
 inline constexpr Id kDoubtIcebergsInWarmWater{45651};
 inline constexpr Id kDoubtSeaIceFarFromThePoles{45652};
+inline constexpr Id kDoubtVisibleSkyInFog{45760};
+inline constexpr Id kDoubtNorthForSouth{45761};
+inline constexpr Id kDoubtEastForWest{45762};
 // CCurvesDlg
 inline constexpr Id kCurvesTitle{46000};
 inline constexpr Id kChartPressure{46001};
