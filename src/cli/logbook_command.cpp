@@ -260,9 +260,12 @@ std::string json_line(const Input& input, const explain::Finding& finding) {
   nlohmann::ordered_json line;
   line["file"] = input.name();
   line["line"] = finding.line;
-  line["first_column"] = finding.columns.first;
-  line["last_column"] = finding.columns.last;
-  line["element"] = finding.element;
+  const auto& columns = finding.place.columns;
+  line["first_column"] = columns.empty() ? 0 : columns.front().first;
+  line["last_column"] = columns.empty() ? 0 : columns.front().last;
+  line["columns"] = nlohmann::ordered_json::array();
+  for (const auto& [first, last] : columns) line["columns"].push_back({first, last});
+  line["element"] = finding.place.symbols;
   line["kind"] = finding.kind->name;
   line["rule"] = finding.rule;
   line["severity"] = explain::name_of(finding.kind->severity);
@@ -298,13 +301,13 @@ int check_lines(const Words& words) {
   const int status = for_each_line(
       input, [&](std::size_t /*number*/, std::string_view line) { check.take(line); });
   if (status != kOk) return status;
-  if (!words.json) std::cout << check.summary().words();
+  if (!words.json) std::cout << check.finish().words();
   if (list.is_open() && !list.flush()) {
     std::cerr << "kavrel-cli: " << words.list << " cannot be written\n";
     return kWrong;
   }
   // Notes call for nothing. A log without a line may have been lost on its way.
-  return check.summary().is_sound() && check.summary().lines() > 0 ? kOk : kFound;
+  return check.finish().is_sound() && check.finish().lines() > 0 ? kOk : kFound;
 }
 
 /// Why the words are no command; empty when they are.

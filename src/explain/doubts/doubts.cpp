@@ -82,7 +82,8 @@ constexpr DoubtRow kRows[] = {
      [](const V& now, const Before& before) {
        return words(whole(rules::knots_between(now, before)));
      },
-     "MQCS-7, time sequence: latitude and longitude; 25 knots from the other hemisphere: own choice",
+     "MQCS-7, time sequence: latitude and longitude; 25 knots from the other hemisphere: own "
+     "choice",
      {&W::Qc, &W::LaDeg, &W::LaMin}},
     {"east_for_west",
      kAgainstThePast,
@@ -91,7 +92,8 @@ constexpr DoubtRow kRows[] = {
      [](const V& now, const Before& before) {
        return words(whole(rules::knots_between(now, before)));
      },
-     "MQCS-7, time sequence: latitude and longitude; 25 knots from the other hemisphere: own choice",
+     "MQCS-7, time sequence: latitude and longitude; 25 knots from the other hemisphere: own "
+     "choice",
      {&W::Qc, &W::LoDeg, &W::LoMin}},
     {"speed_against_positions",
      kAgainstThePast,
