@@ -28,7 +28,7 @@ void read_back(std::string_view line) {
 std::string check(std::string_view text, text::Language language) {
   std::string told;
   explain::LogbookCheck check(language, [&](const explain::Finding& finding) {
-    told.append(finding.kind->name).append(finding.rule).append(finding.element);
+    told.append(finding.kind->name).append(finding.rule).append(finding.place.symbols);
     told.append(finding.text).append("\n");
   });
   while (!text.empty()) {
@@ -38,7 +38,7 @@ std::string check(std::string_view text, text::Language language) {
     check.take(line);
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
   }
-  return told + check.summary().words();
+  return told + check.finish().words();
 }
 
 }  // namespace

@@ -260,9 +260,12 @@ std::string json_line(const Input& input, const explain::Finding& finding) {
   nlohmann::ordered_json line;
   line["file"] = input.name();
   line["line"] = finding.line;
-  line["first_column"] = finding.columns.first;
-  line["last_column"] = finding.columns.last;
-  line["element"] = finding.element;
+  const auto& columns = finding.place.columns;
+  line["first_column"] = columns.empty() ? 0 : columns.front().first;
+  line["last_column"] = columns.empty() ? 0 : columns.front().last;
+  line["columns"] = nlohmann::ordered_json::array();
+  for (const auto& [first, last] : columns) line["columns"].push_back({first, last});
+  line["element"] = finding.place.symbols;
   line["kind"] = finding.kind->name;
   line["rule"] = finding.rule;
   line["severity"] = explain::name_of(finding.kind->severity);
@@ -299,14 +302,15 @@ int check_lines(const Words& words) {
       input, [&](std::size_t /*number*/, std::string_view line) { check.take(line); });
   if (status != kOk) return status;
   // The list first, so that it is whole when nobody reads the summary to its end.
+  const explain::Summary& summary = check.finish();
   const bool list_is_written = !list.is_open() || list.flush();
-  if (!words.json) std::cout << check.summary().words();
+  if (!words.json) std::cout << summary.words();
   if (!list_is_written) {
     std::cerr << "kavrel-cli: " << words.list << " cannot be written\n";
     return kWrong;
   }
   // Notes call for nothing. A log without a line may have been lost on its way.
-  return check.summary().is_sound() && check.summary().lines() > 0 ? kOk : kFound;
+  return summary.is_sound() && summary.lines() > 0 ? kOk : kFound;
 }
 
 /// Why the words are no command; empty when they are.

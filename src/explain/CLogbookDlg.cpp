@@ -145,6 +145,6 @@ void CLogbookDlg::run_check() {
     const CShowStatusDlg notice(services());
     for (const std::string& line : list_.lines()) checked.take(line);
   }
-  CLogbookCheckDlg dialog(services(), checked.summary().words());
+  CLogbookCheckDlg dialog(services(), checked.finish().words());
   services().windows.run_modal(dialog);
 }

@@ -421,6 +421,14 @@ void CVelmaranDlg::lead_to(const std::vector<SaveError>& errors) {
   tab_flags_.arm();
 }
 
+// The question whether to replace it says neither which hour it is nor which file.
+void CVelmaranDlg::tell_exists(const std::string& report) {
+  const text::Texts& texts = services().texts;
+  tell_in_status_line(
+      text::fill(texts.get(id::kFileAndReason),
+                 {report, texts.get(text::reason_of(platform::FileError::kExists))}));
+}
+
 bool CVelmaranDlg::save() {
   if (!settle_focused()) return false;
   std::optional<Speaking> of;
@@ -431,7 +439,8 @@ bool CVelmaranDlg::save() {
   const mainwindow::SaveEnd end = mainwindow::save_observation(
       services(), {form_.record(), context_.ship, context_.items, context_.folders, save_remarks(),
                    [this] { keeper_.drop(draft()); },
-                   [this](const std::vector<SaveError>& errors) { lead_to(errors); }});
+                   [this](const std::vector<SaveError>& errors) { lead_to(errors); },
+                   [this](const std::string& report) { tell_exists(report); }});
   if (end != mainwindow::SaveEnd::kSaved) return false;
   // The officer has seen in the list what was refused, and saved without it.
   form_.saved();

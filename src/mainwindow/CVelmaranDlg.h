@@ -208,6 +208,7 @@ class CVelmaranDlg : public ui::Screen, public ui::ObservationView {
   /// Says which tiles of the sea map cannot be used, each once.
   void tell_map_troubles();
   void tell_doubts();
+  void tell_exists(const std::string& report);
 
   // Drafts: entries that outlive the program.
   void offer_drafts();

@@ -82,7 +82,7 @@ class CopyLogbook {
     const auto error = observation::for_each_line(services_.files, from_,
                                                   [&](std::string_view line) { check.take(line); });
     if (error != FileError::kNone) return true;
-    const explain::Summary& found = check.summary();
+    const explain::Summary& found = check.finish();
     if (found.is_sound()) return true;
     for (;;) {
       switch (messages_.ask_about_faults(found)) {

@@ -131,6 +131,7 @@ std::optional<observation::SaveResult> write(ui::Services& services, const Savin
       // The Yes is for the report that is there now; one that cannot be read cannot be told from
       // another.
       request.replaces = services.files.read(request.report_path).value;
+      if (saving.exists) saving.exists(request.report_path);
       if (!may_replace(services)) return std::nullopt;
       request.replace = true;
     }

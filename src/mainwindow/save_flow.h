@@ -40,6 +40,8 @@ struct Saving {
   /// Called when the officer goes back to correct, with the line that he chose, or with all of them;
   /// then without the doubts, where there is more than doubts.
   std::function<void(const std::vector<SaveError>& errors)> correct = {};
+  /// Called before the question about a report that is there already, which does not name it.
+  std::function<void(const std::string& report)> exists = {};
 };
 
 /// The observation has a date and an hour that there are: without them nothing is saved.

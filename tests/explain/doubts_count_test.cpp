@@ -191,6 +191,14 @@ constexpr Slip kSlips[] = {
        now.weather = 2;
        return true;
      }},
+    {"Total cloud 8 in fog that hides the sky",
+     [](Values& now, const Values& /*last*/) {
+       if (!now.weather || !now.cloud || *now.weather < 43 || *now.weather > 49 ||
+           *now.weather % 2 == 0)
+         return false;
+       now.cloud = 8;
+       return true;
+     }},
     {"The last observation left standing",
      [](Values& now, const Values& last) {
        const Values entered = now;

@@ -151,6 +151,27 @@ TEST(Doubts, SayWhatWasEnteredAndWhatItIsHeldAgainst) {
             "The wind was 20 knots 3 hours ago and is 61 knots now.");
 }
 
+// Only where the other hemisphere gives a run that a ship makes: 1.3 degrees are 78 miles, 26 knots,
+// of which 8.5 miles are unsure; 1.4 degrees are 84.
+TEST(Doubts, AskForAnExchangedHemisphereOnlyWhereTheOtherOneFits) {
+  constexpr std::string_view kBefore = "Qc=1 LaDeg=35 LaMin=00 LoDeg=165 LoMin=00";
+  struct Row {
+    std::string_view place;
+    std::string_view doubt;
+  };
+  constexpr Row kRows[] = {
+      {"Qc=3 LaDeg=36 LaMin=18 LoDeg=165 LoMin=00", "north_for_south"},
+      {"Qc=3 LaDeg=36 LaMin=24 LoDeg=165 LoMin=00", "ship_too_fast"},
+      {"Qc=5 LaDeg=35 LaMin=30 LoDeg=165 LoMin=00", "ship_too_fast"},
+      {"Qc=7 LaDeg=35 LaMin=00 LoDeg=166 LoMin=00", "east_for_west"},
+      {"Qc=7 LaDeg=36 LaMin=24 LoDeg=165 LoMin=00", "ship_too_fast"},
+  };
+  for (const Row& row : kRows)
+    EXPECT_EQ(raised_by(record_of(row.place), {"", "", "", kBefore}),
+              std::vector{std::string(row.doubt)})
+        << row.place;
+}
+
 // A habit of reading whole degrees is no slip.
 TEST(Doubts, TakeWholeDegreesForAHabitWhereTheLastObservationHadThem) {
   const std::string_view whole = "PPPP=0130 SnT=0 TTT=150 Ss=0 TwTwTw=160";

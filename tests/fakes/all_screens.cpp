@@ -112,7 +112,7 @@ std::string sample_summary(const ui::Services& services) {
   const std::string log = sample_log();
   for (std::string_view rest = log; !rest.empty(); rest.remove_prefix(rest.find('\n') + 1))
     check.take(rest.substr(0, rest.find('\n')));
-  return check.summary().words();
+  return check.finish().words();
 }
 
 class LargerMap : private SampleSeaMap, public CSeaMapDlg {

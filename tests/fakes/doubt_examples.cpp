@@ -18,6 +18,12 @@ constexpr Example kExamples[] = {
     // Across the date line: twelve minutes of longitude each side.
     {"ship_too_fast", "Qc=1 LaDeg=40 LaMin=00 LoDeg=179 LoMin=48",
      "Qc=7 LaDeg=35 LaMin=00 LoDeg=179 LoMin=48", "Qc=1 LaDeg=35 LaMin=00 LoDeg=179 LoMin=48"},
+    // South for north: 70 degrees off, and half a degree from where she was.
+    {"north_for_south", "Qc=3 LaDeg=35 LaMin=30 LoDeg=165 LoMin=00",
+     "Qc=1 LaDeg=35 LaMin=30 LoDeg=165 LoMin=00", kPlace},
+    // West for east: 29 degrees off across the date line.
+    {"east_for_west", "Qc=7 LaDeg=35 LaMin=00 LoDeg=165 LoMin=30",
+     "Qc=1 LaDeg=35 LaMin=00 LoDeg=165 LoMin=30", kPlace},
     // 60 miles: 20 knots, code 4; code 2 ends at 11.
     {"speed_against_positions", "Qc=1 LaDeg=36 LaMin=00 LoDeg=165 LoMin=00 Vs=2",
      "Qc=1 LaDeg=36 LaMin=00 LoDeg=165 LoMin=00 Vs=3", kPlace},
@@ -74,6 +80,10 @@ constexpr Example kExamples[] = {
      "ww=61 SnT=0 TTT=202 SnTd=0 TdTdTd=082"},
     {"hidden_sky_without_cause", "N=9 VV=96 ww=02", "N=9 VV=96 ww=05"},
     {"hidden_sky_with_amount", "N=9 Nh=8", "N=9 Nh=9"},
+    {"visible_sky_in_fog", "N=8 ww=45", "N=9 ww=45"},
+    {"visible_sky_in_fog", "N=0 ww=43", "N=0 ww=42"},
+    {"visible_sky_in_fog", "N=5 ww=47", "N=/ ww=47"},
+    {"visible_sky_in_fog", "N=3 ww=49", "ww=49"},
     {"clear_sky_with_CL", "N=0 CL=1", "N=0 CL=0"},
     {"clear_sky_with_CM", "N=0 CM=3", "N=1 CM=3"},
     {"clear_sky_with_CH", "N=0 CH=1", "N=0 CH=0"},

@@ -131,9 +131,14 @@ std::string words_of(Group group, const W& record, const ShipFixedData& ship,
 
 std::string accepted_texts(Field field, const W& record, const platform::Clock& clock,
                            text::Language language) {
+  const Editor& editor = row_of(field).editor;
+  return accepted_texts(
+      field, bounds_of(field, record, clock).value_or(Bounds{editor.low, editor.high}), language);
+}
+
+std::string accepted_texts(Field field, Bounds bounds, text::Language language) {
   const FieldRow& row = row_of(field);
   const Editor& editor = row.editor;
-  Bounds bounds = bounds_of(field, record, clock).value_or(Bounds{editor.low, editor.high});
   // A reading is judged by the pressure that it gives.
   if (field == Field::kPPPP || field == Field::kReading)
     bounds = {codetables::kLowestPressure, codetables::kBeyondPressures - 0.1};

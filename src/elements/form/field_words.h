@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "elements/form/entries.h"
+#include "elements/form/field_editors.h"
 #include "elements/form/fields.h"
 #include "observation/report_groups.h"
 #include "text/texts.h"
@@ -26,6 +27,9 @@ namespace elements {
 /// What the field accepts on this day: "90 to 99, //", "-2.0 to 37.0 °C".
 [[nodiscard]] std::string accepted_texts(Field field, const Struct_Weather& record,
                                          const platform::Clock& clock, text::Language language);
+
+/// The same between these bounds.
+[[nodiscard]] std::string accepted_texts(Field field, Bounds bounds, text::Language language);
 
 /// The group of the report that the field goes to; nothing for one that only the logbook or nobody
 /// has.

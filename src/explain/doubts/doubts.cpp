@@ -75,6 +75,26 @@ constexpr DoubtRow kRows[] = {
      "MQCS-7, time sequence: latitude and longitude; 40 knots: own choice, no ship that observes "
      "is faster",
      {&W::LaDeg, &W::LaMin, &W::LoDeg, &W::LoMin, &W::Qc}},
+    {"north_for_south",
+     kAgainstThePast,
+     id::kDoubtNorthForSouth,
+     rules::north_for_south,
+     [](const V& now, const Before& before) {
+       return words(whole(rules::knots_between(now, before)));
+     },
+     "MQCS-7, time sequence: latitude and longitude; 25 knots from the other hemisphere: own "
+     "choice",
+     {&W::Qc, &W::LaDeg, &W::LaMin}},
+    {"east_for_west",
+     kAgainstThePast,
+     id::kDoubtEastForWest,
+     rules::east_for_west,
+     [](const V& now, const Before& before) {
+       return words(whole(rules::knots_between(now, before)));
+     },
+     "MQCS-7, time sequence: latitude and longitude; 25 knots from the other hemisphere: own "
+     "choice",
+     {&W::Qc, &W::LoDeg, &W::LoMin}},
     {"speed_against_positions",
      kAgainstThePast,
      id::kDoubtSpeedAgainstPositions,
@@ -301,6 +321,15 @@ constexpr DoubtRow kRows[] = {
      [](const V& now, const Before& /*before*/) { return words(figure(now.low_cloud)); },
      "MQCS-7, elements N and Nh",
      {&W::N, &W::Nh}},
+    {"visible_sky_in_fog",
+     kBetweenElements,
+     id::kDoubtVisibleSkyInFog,
+     rules::visible_sky_in_fog,
+     [](const V& now, const Before& /*before*/) {
+       return words(figures(now.weather), figure(now.cloud));
+     },
+     "WMO-No. 306, code tables 4677 and 2700: a sky that cannot be seen is N 9",
+     {&W::N, &W::ww}},
     {"clear_sky_with_CL",
      kBetweenElements,
      id::kDoubtClearSkyWithCL,

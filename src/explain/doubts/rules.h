@@ -25,6 +25,7 @@ bool fog_in_dry_air(const Values& now, const Before& before);
 bool rain_in_dry_air(const Values& now, const Before& before);
 bool hidden_sky_without_cause(const Values& now, const Before& before);
 bool hidden_sky_with_amount(const Values& now, const Before& before);
+bool visible_sky_in_fog(const Values& now, const Before& before);
 bool clear_sky_with_CL(const Values& now, const Before& before);
 bool clear_sky_with_CM(const Values& now, const Before& before);
 bool clear_sky_with_CH(const Values& now, const Before& before);
@@ -64,6 +65,8 @@ bool sea_ice_far_from_the_poles(const Values& now, const Before& before);
 
 // Against the past.
 bool ship_too_fast(const Values& now, const Before& before);
+bool north_for_south(const Values& now, const Before& before);
+bool east_for_west(const Values& now, const Before& before);
 bool speed_against_positions(const Values& now, const Before& before);
 bool course_against_positions(const Values& now, const Before& before);
 bool tendency_against_last(const Values& now, const Before& before);

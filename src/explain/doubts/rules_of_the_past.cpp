@@ -68,6 +68,28 @@ std::optional<Leg> leg(const Values& now, const Before& before) {
   return Leg{miles(*before.last, now), static_cast<double>(before.hours)};
 }
 
+bool is_out_of_reach(const Values& now, const Before& before) {
+  constexpr double kFastest = 40.0;
+  const auto run = leg(now, before);
+  return run && (run->run - kPositionsUnsure) / run->hours > kFastest;
+}
+
+// A ship of usual speed comes to the same place of the other hemisphere, and none to the one that
+// was entered. Never so of both hemispheres: in a rectangle the squares of the ways from a point to
+// two opposite corners and to the other two are the same, and twice 25 squared is less than 40
+// squared.
+bool is_of_the_other_side(const Values& now, const Before& before,
+                          std::optional<double> Values::*angle) {
+  constexpr double kUsual = 25.0;
+  if (!is_out_of_reach(now, before)) return false;
+  Values mirrored;
+  mirrored.latitude = now.latitude;
+  mirrored.longitude = now.longitude;
+  mirrored.*angle = -(now.*angle).value_or(0.0);
+  const auto run = leg(mirrored, before);
+  return run && (run->run - kPositionsUnsure) / run->hours <= kUsual;
+}
+
 // Course and speed are those of the three hours before the observation. They say something of six
 // hours too, from one main hour to the next, where more may have happened.
 constexpr int kHoursOfCourse = 3;
@@ -87,9 +109,16 @@ std::optional<double> bearing_between(const Values& now, const Before& before) {
 }
 
 bool ship_too_fast(const Values& now, const Before& before) {
-  constexpr double kFastest = 40.0;
-  const auto run = leg(now, before);
-  return run && (run->run - kPositionsUnsure) / run->hours > kFastest;
+  return is_out_of_reach(now, before) && !north_for_south(now, before) &&
+         !east_for_west(now, before);
+}
+
+bool north_for_south(const Values& now, const Before& before) {
+  return is_of_the_other_side(now, before, &Values::latitude);
+}
+
+bool east_for_west(const Values& now, const Before& before) {
+  return is_of_the_other_side(now, before, &Values::longitude);
 }
 
 // Code table 4451: 0 is less than a knot, 1 from 1 to less than 6, and so on; 9 has no upper bound.
@@ -97,7 +126,7 @@ bool speed_against_positions(const Values& now, const Before& before) {
   constexpr double kClass = 5.0;
   constexpr int kOpenClass = 9;
   const auto run = leg(now, before);
-  if (!run || before.hours > kTwiceThat || !now.speed || ship_too_fast(now, before)) return false;
+  if (!run || before.hours > kTwiceThat || !now.speed || is_out_of_reach(now, before)) return false;
   const double unsure = before.hours > kHoursOfCourse ? 10.0 : 5.0;
   const double lowest = *now.speed == 0 ? 0.0 : 1.0 + kClass * (*now.speed - 1);
   const double highest = 1.0 + kClass * *now.speed;
@@ -114,7 +143,7 @@ bool course_against_positions(const Values& now, const Before& before) {
   constexpr int kNorth = 8;
   const auto run = leg(now, before);
   if (!run || before.hours > kTwiceThat || !now.course || *now.course < 1 || *now.course > kNorth ||
-      run->run < kFarEnough || ship_too_fast(now, before))
+      run->run < kFarEnough || is_out_of_reach(now, before))
     return false;
   const double most = before.hours > kHoursOfCourse ? 120.0 : 90.0;
   const double apart = std::abs(bearing(*before.last, now) - kClass * *now.course);

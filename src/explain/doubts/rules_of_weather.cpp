@@ -94,6 +94,13 @@ bool hidden_sky_with_amount(const Values& now, const Before& /*before*/) {
   return now.cloud == kSkyHidden && now.low_cloud && *now.low_cloud != kSkyHidden;
 }
 
+// Code table 4677 has two figures for each kind of fog: the odd one from 43 on says that the sky
+// cannot be seen.
+bool visible_sky_in_fog(const Values& now, const Before& /*before*/) {
+  constexpr std::array kSkyInvisible = {43, 45, 47, 49};
+  return is_one_of(now.weather, kSkyInvisible) && now.cloud && *now.cloud != kSkyHidden;
+}
+
 bool clear_sky_with_CL(const Values& now, const Before& /*before*/) {
   return now.cloud == 0 && is_some_cloud(now.CL);
 }

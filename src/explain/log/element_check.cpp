@@ -34,11 +34,12 @@ struct Place {
   ColumnRange columns;
 };
 constexpr Place kPlaces[] = {
-    {&W::LaDeg, {13, 15}},   {&W::LaMin, {13, 15}},    {&W::LoDeg, {16, 19}},
-    {&W::LoMin, {16, 19}},   {&W::SnTd, {34, 34}},     {&W::Ss, {50, 50}},
-    {&W::PwPw, {56, 57}},    {&W::HwHw, {58, 59}},     {&W::PwaPwa, {56, 57}},
-    {&W::HwaHwa, {58, 59}},  {&W::Pw1Pw1, {62, 63}},   {&W::Hw1Hw1, {64, 65}},
-    {&W::dw2dw2, {99, 100}}, {&W::Pw2Pw2, {101, 102}}, {&W::Hw2Hw2, {103, 104}},
+    {&W::LaDeg, {13, 15}},       {&W::LaMin, {13, 15}},    {&W::LoDeg, {16, 19}},
+    {&W::LoMin, {16, 19}},       {&W::SnTd, {34, 34}},     {&W::Ss, {50, 50}},
+    {&W::PwPw, {56, 57}},        {&W::HwHw, {58, 59}},     {&W::PwaPwa, {56, 57}},
+    {&W::HwaHwa, {58, 59}},      {&W::Pw1Pw1, {62, 63}},   {&W::Hw1Hw1, {64, 65}},
+    {&W::dw2dw2, {99, 100}},     {&W::Pw2Pw2, {101, 102}}, {&W::Hw2Hw2, {103, 104}},
+    {&W::ShipFixed, {166, 172}},
 };
 
 // ---- What is tested
@@ -215,12 +216,8 @@ void ElementCheck::check(const Struct_Weather& record,
         element.sign == nullptr ? std::string_view() : std::string_view(record.*element.sign);
     const ElementFault fault = judge(row, sign, figures);
     if (fault == ElementFault::kNone) continue;
-    ElementFinding finding{fault, element.member, figures, {}, {}};
+    ElementFinding finding{fault, element.member, figures, {}, element.field};
     if (const auto* const table = code_table_of(element)) finding.code_table = table->number;
-    if (element.field != nullptr) {
-      const elements::Editor& editor = element.field->editor;
-      finding.limits = editor.message ? editor.message : editor.check_text;
-    }
     found(finding);
   }
 }

@@ -9,9 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "elements/form/fields.h"
 #include "observation/logbook_record.h"
-#include "text/id.h"
-#include "text/texts.h"
 
 namespace explain {
 
@@ -38,8 +37,8 @@ struct ElementFinding {
   ElementFault fault = ElementFault::kNone;
   std::string Struct_Weather::*member = nullptr;
   std::string_view figures;  ///< as they stand, with the sign in front where that has a part in it
-  std::string_view code_table;  ///< number of the code table for kCode
-  text::Id limits = {};         ///< a text that says what is accepted, for kLimit
+  std::string_view code_table;                ///< number of the code table for kCode
+  const elements::FieldRow* field = nullptr;  ///< whose limits they are, for kLimit
 };
 
 /// Remembers what it has judged, for a line has forty elements and most values come again.

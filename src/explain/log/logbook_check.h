@@ -11,7 +11,6 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
-#include <list>
 #include <map>
 #include <optional>
 #include <span>
@@ -21,7 +20,10 @@
 #include <utility>
 #include <vector>
 
+#include "explain/doubts/doubts.h"
 #include "explain/log/element_check.h"
+#include "explain/log/identity_check.h"
+#include "explain/log/recent.h"
 #include "observation/values.h"
 #include "text/texts.h"
 
@@ -48,14 +50,20 @@ struct FindingKind {
 };
 [[nodiscard]] std::span<const FindingKind> finding_kinds();
 
+/// What of a line a finding is about.
+struct LinePlace {
+  std::vector<ColumnRange> columns;  ///< none for the line as a whole
+  std::string symbols;  ///< of its elements, separated by a blank; empty where there are none
+  std::string named;    ///< these as a person calls them, in the check's language
+};
+
 struct Finding {
   std::uint64_t line = 0;  ///< number of the line, from 1
   const FindingKind* kind = nullptr;
   std::string rule;  ///< which one of its kind: the name of a doubt; else empty
-  ColumnRange columns;
-  std::string element;  ///< symbols, separated by a blank; empty for the line as a whole
-  std::string text;     ///< in the check's language, printable, one line
-  std::string when;     ///< date and hour of the observation; empty where they cannot be read
+  LinePlace place;
+  std::string text;  ///< in the check's language, printable, one line
+  std::string when;  ///< date and hour of the observation; empty where they cannot be read
 };
 
 /// Findings counted: how many lines, how many sound, which faults how often and where.
@@ -88,6 +96,7 @@ class Summary {
     std::vector<std::uint64_t> lines;
     std::vector<std::string> hours;  ///< of these lines, see Finding::when
     Finding first;
+    bool same_text = true;  ///< in all of them
   };
   struct Ship {
     std::string call_sign;
@@ -104,7 +113,7 @@ class Summary {
   std::uint64_t doubts_ = 0;
   std::uint64_t other_ships_ = 0;  ///< lines of ships that are not named
   std::vector<Ship> ships_;
-  /// By severity and kind, rule and element: as many as the tables have.
+  /// By kind, rule and elements: as many as the tables have.
   std::map<std::pair<const FindingKind*, std::string>, Group> groups_;
 };
 
@@ -116,19 +125,18 @@ class LogbookCheck {
 
   /// The next line, without its end; any bytes, any length.
   void take(std::string_view line);
-  [[nodiscard]] const Summary& summary() const { return summary_; }
+  /// No line comes any more: what is known only then is found now.
+  const Summary& finish();
 
  private:
   /// What is remembered of a ship: its last observations in the order of their hours.
   struct Ship {
     struct Past {
       int hour;
-      std::uint64_t line;
+      PassedLine at;
       observation::Values values;
-      bool error = false;  ///< its line has one
-      bool doubt = false;
+      bool elsewhere = false;  ///< where the ship cannot have come to
     };
-    std::string call_sign;
     std::deque<Past> past;
     std::uint64_t last_line = 0;
   };
@@ -138,33 +146,44 @@ class LogbookCheck {
     std::uint64_t mark;
   };
 
-  void find(std::size_t kind, ColumnRange columns, std::string element,
-            std::initializer_list<std::string_view> words, std::string_view rule = {});
+  using Members = std::span<std::string Struct_Weather::*const>;
+  [[nodiscard]] LinePlace place_of(Members members) const;
+  [[nodiscard]] LinePlace place_of(std::string Struct_Weather::*member) const;
+  void find(std::size_t kind, LinePlace place, std::initializer_list<std::string_view> words,
+            std::string_view rule = {});
+  /// Of a line that others were read behind.
+  void find_in_passed(std::size_t kind, const PassedLine& line, LinePlace place,
+                      std::initializer_list<std::string_view> words);
   void check_layout(const observation::LogbookLine& line, const observation::LogbookRecord& read);
   void check_column(const observation::LogbookLine& line, const observation::LogbookColumn& column);
   void tell(const Finding& finding);
   void check_read(std::string_view text, const observation::LogbookLine& line,
                   const observation::LogbookRecord& read);
+  void check_identity(const Struct_Weather& record);
+  void tell_identity(const IdentityFinding& found);
   [[nodiscard]] bool has_a_gap_alone(const observation::LogbookRecord& read);
   void check_elements(const observation::LogbookLine& line, const observation::LogbookRecord& read);
+  void tell_element(const ElementFinding& found, const Struct_Weather& record);
   void check_rules(const Struct_Weather& record);
   void check_sequence(std::string_view line, const observation::LogbookRecord& read, int hour);
+  [[nodiscard]] static Before before_line(const Ship& ship, int hour, bool with_those_elsewhere);
   void check_told(std::string_view line, const std::string& call_sign, int hour);
   void check_order(Ship& ship, int hour);
-  Ship& ship_of(const std::string& call_sign);
 
   text::Language language_;
   Found found_;
   Summary summary_;
   ElementCheck elements_;
-  std::list<Ship> ships_;  ///< the one seen last in front
-  std::unordered_map<std::string, std::list<Ship>::iterator> by_call_sign_;
+  Recent<Ship> ships_{kMostShips};
+  IdentityCheck identity_{kMostShips};
+  std::deque<PassedLine> passed_;  ///< of which something was found, the last ones
   std::unordered_map<std::string, Told> told_;
   std::deque<std::string> told_order_;
   /// Of the line at hand; nothing when it cannot be read.
   const observation::LogbookRecord* read_ = nullptr;
   std::optional<int> hour_;
-  bool error_ = false;  ///< of the line at hand
+  std::vector<std::string Struct_Weather::*> refused_;  ///< of the line at hand
+  bool error_ = false;                                  ///< of the line at hand
   bool doubt_ = false;
 };
 
