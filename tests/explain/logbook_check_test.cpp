@@ -8,6 +8,7 @@
 #include <random>
 #include <set>
 
+#include "elements/form/cross_rules.h"
 #include "explain/log/element_words.h"
 #include "explain/log/identity_check.h"
 #include "observation/logbook_encoder.h"
@@ -263,6 +264,16 @@ TEST(LogbookCheck, TellsValuesInThePersonsWords) {
       EXPECT_NE(std::ranges::find(texts, wanted), texts.end())
           << wanted << " is not in " << testing::PrintToString(texts);
     }
+  }
+}
+
+// What stands in front of the first colon is cut off, so it must be that word in every message.
+TEST(LogbookCheck, CutsNothingButTheWordErrorOffAMessage) {
+  for (const elements::CrossRule& rule : elements::cross_rules()) {
+    EXPECT_TRUE(text::bilingual(rule.message, text::Language::kEnglish).starts_with("Error: "))
+        << rule.message.number;
+    EXPECT_TRUE(text::bilingual(rule.message, text::Language::kJapanese).starts_with("エラー："))
+        << rule.message.number;
   }
 }
 

@@ -124,10 +124,12 @@ std::uint64_t mark_of(std::string_view line) {
   return mark;
 }
 
-// The given messages of the form begin so; in a list of errors each is one.
+// The messages of the rules begin with "Error:" in either language; in a list of errors each is one.
 std::string_view without_heading(std::string_view message) {
-  for (const std::string_view heading : {"Error: ", "エラー："})
-    if (message.starts_with(heading)) message.remove_prefix(heading.size());
+  constexpr std::string_view kColons[] = {": ", "\uFF1A"};
+  for (const std::string_view colon : kColons)
+    if (const auto at = message.find(colon); at != std::string_view::npos)
+      return message.substr(at + colon.size());
   return message;
 }
 
