@@ -40,10 +40,11 @@ KNOWS = DATA | {
     "mainwindow": {"ui", "explain", "ship", "elements", "codetables", "archive", "media", "map"} | ALL_DATA,
     "app": {"ui", "ship", "archive", "media", "mainwindow", "map/tiles", "text", "platform", "observation", "ship/data"},
     "headless": {"text", "platform", "ui", "app", "observation", "ship/data"},
-    "platform/posix": {"platform", "text"},
-    "desktop": {"text", "platform", "ui", "app", "platform/posix"},
+    "platform/system": {"platform", "text"},
+    "platform/posix": {"platform", "platform/system", "text"},
+    "desktop": {"text", "platform", "ui", "app", "platform/system"},
     "bufr": {"text", "platform", "observation", "ship/data", "codetables/tables", "cli"},
-    "cli": {"text", "platform", "platform/posix", "observation", "ship/data", "ui", "app", "headless",
+    "cli": {"text", "platform", "platform/system", "observation", "ship/data", "ui", "app", "headless",
             "codetables/tables", "explain/plain", "explain/doubts", "explain/log"},
 }
 
