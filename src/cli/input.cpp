@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <filesystem>
 #include <iostream>
 
 #include "platform/system/process.h"
@@ -10,11 +9,16 @@
 
 namespace cli {
 
+std::filesystem::path file_path(const std::string& name) {
+  return std::u8string(name.begin(), name.end());
+}
+
 std::string open_file(const std::string& name, std::ifstream& file) {
   std::error_code ignored;
-  if (std::filesystem::is_directory(name, ignored)) return "is a folder";
+  const std::filesystem::path path = file_path(name);
+  if (std::filesystem::is_directory(path, ignored)) return "is a folder";
   errno = 0;
-  file.open(std::filesystem::path(name), std::ios::binary);
+  file.open(path, std::ios::binary);
   if (file) return {};
   return errno == 0 ? "cannot be opened" : std::strerror(errno);
 }
@@ -30,7 +34,7 @@ Input::Input(const std::string& name) : name_(name), in_(&file_) {
   }
   problem_ = open_file(name, file_);
   std::error_code ignored;
-  can_rewind_ = std::filesystem::is_regular_file(name, ignored);
+  can_rewind_ = std::filesystem::is_regular_file(file_path(name), ignored);
 }
 
 Input::Line Input::next(std::string& line, std::size_t longest) {

@@ -14,6 +14,8 @@ namespace {
 constexpr int kTries = 1000;
 constexpr DWORD kQuotaExceeded = 1295;  // ERROR_DISK_QUOTA_EXCEEDED, which not every header has
 constexpr int kLongestPause = 50;       // milliseconds
+/// With a virus scanner that looks at what was just written.
+constexpr int kScannersPatience = 1000;
 /// What a file keeps when its content is replaced.
 constexpr DWORD kKeptAttributes =
     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
@@ -200,8 +202,9 @@ class Win32Files::Log : public LockedLog {
 
   [[nodiscard]] FileError append(std::string_view content) override {
     // With the room set aside the write cannot stop half-way on a full disk. Not every file system
-    // can do it; then the cutting back below has to serve.
-    if (!content.empty() && !calls_.reserve(open_->file(), size_ + content.size()) &&
+    // can do it; then the cutting back below has to serve. Without a lock it is left: room for less
+    // than there is meanwhile would cut off what somebody else wrote.
+    if (is_locked_ && !content.empty() && !calls_.reserve(open_->file(), size_ + content.size()) &&
         file_error(::GetLastError()) == FileError::kNoSpace)
       return FileError::kNoSpace;
     const FileError error = write_once(content);
@@ -401,10 +404,15 @@ Result<StagedFile> Win32Files::stage_pieces(const std::string& path, const NextP
 }
 
 FileError Win32Files::why_protected(const std::wstring& path) const {
-  // A move asks the folder only, so a file that is protected would be replaced. One that another
-  // program keeps to itself is found here, before anything is written.
-  const Open old(calls_, path, GENERIC_WRITE, OPEN_EXISTING);
-  return old.ok() ? FileError::kNone : old.error();
+  // A file that nobody may write is not to be replaced either, and one that another program keeps to
+  // itself is found here, before anything is written: the move would only say that it is denied.
+  const std::int64_t until = calls_.now() + kScannersPatience;
+  for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
+    const Open old(calls_, path, GENERIC_WRITE | DELETE, OPEN_EXISTING);
+    if (old.ok()) return FileError::kNone;
+    if (old.error() != FileError::kLocked || calls_.now() >= until) return old.error();
+    calls_.pause(pause);
+  }
 }
 
 Result<StagedFile> Win32Files::stage_with(const std::string& path, const Write& write) {
@@ -448,12 +456,11 @@ Result<StagedFile> Win32Files::stage_with(const std::string& path, const Write& 
 }
 
 FileError Win32Files::move(const StagedFile& staged, DWORD flags) const {
-  constexpr int kPatience = 1000;  // milliseconds
   const auto from = os(staged.temporary);
   const auto to = os(staged.path);
   if (!from.ok()) return from.error;
   if (!to.ok()) return to.error;
-  const std::int64_t until = calls_.now() + kPatience;
+  const std::int64_t until = calls_.now() + kScannersPatience;
   for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
     if (calls_.move(from.value->c_str(), to.value->c_str(), flags)) return FileError::kNone;
     const DWORD why = ::GetLastError();
@@ -634,12 +641,16 @@ Result<std::vector<FolderEntry>> Win32Files::list(const std::string& folder) con
       const auto name = to_utf8(static_cast<const wchar_t*>(entry.cFileName));
       if (!name || *name == "." || *name == "..") continue;
       bool is_folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-      bool is_other = (entry.dwFileAttributes & FILE_ATTRIBUTE_DEVICE) != 0;
+      // What is both hidden and the system's is nobody's to choose, such as the folder of what was
+      // deleted. Files of ours may be hidden, and are found.
+      constexpr DWORD kSystems = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+      bool is_other = (entry.dwFileAttributes & FILE_ATTRIBUTE_DEVICE) != 0 ||
+                      (entry.dwFileAttributes & kSystems) == kSystems;
       // A link is what it leads to.
       if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
         const Look target = look(join(folder, *name));
         if (target.there == There::kFolder) is_folder = true;
-        is_other = target.there == There::kOther;
+        is_other = is_other || target.there == There::kOther;
       }
       if (!is_other) entries.push_back({*name, is_folder});
     } while (calls_.find_next(search, entry));

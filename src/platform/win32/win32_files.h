@@ -62,7 +62,8 @@ class Win32Files : public Files {
   /// goes with a claim that is given up, and stays after a crash.
   [[nodiscard]] Result<std::unique_ptr<Claim>> claim(const std::string& path) override;
   [[nodiscard]] std::optional<DateTime> modified(const std::string& path) const override;
-  /// A name that is no text (half a character) cannot be said in the program and is left out.
+  /// A name that is no text (half a character) cannot be said in the program and is left out, and so
+  /// is what the system hides for itself.
   [[nodiscard]] Result<std::vector<FolderEntry>> list(const std::string& folder) const override;
   [[nodiscard]] FileError create_folder(const std::string& path) override;
   [[nodiscard]] FileError copy(const std::string& from, const std::string& to) override;

@@ -58,6 +58,12 @@ class Held {
   HANDLE file_;
 };
 
+/// False where the file system under the folder keeps no attributes.
+bool set_attributes(const std::wstring& path, DWORD attributes) {
+  return ::SetFileAttributesW(path.c_str(), attributes) != 0 &&
+         (::GetFileAttributesW(path.c_str()) & attributes) == attributes;
+}
+
 using Work = std::function<FileError(Win32Files&)>;
 
 FileError replace_report(Win32Files& files) {
@@ -319,6 +325,32 @@ TEST(Win32Files, WhatAnotherProgramKeepsToItselfIsToldAsHeld) {
   EXPECT_EQ(place.temp.names("out").size(), 2U);
 }
 
+TEST(Win32Files, AReportThatAnotherProgramHasOpenIsReplacedOnceItIsClosed) {
+  for (const bool closes : {false, true}) {
+    Place place(true);
+    // As a viewer has it: everybody may read and write it, but not take it away.
+    Held viewer(place.wide(kReport), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    if (closes) place.calls.while_paused = [&](std::int64_t) { viewer.let_go(); };
+    EXPECT_EQ(replace_report(place.files), closes ? FileError::kNone : FileError::kLocked);
+    EXPECT_EQ(place.contents().at("14111512.tlx"), closes ? "new content" : "old");
+    EXPECT_EQ(place.temp.names("out").size(), 2U) << "nothing is left beside it";
+  }
+}
+
+TEST(Win32Files, WithoutALockNoRoomIsSetAside) {
+  Place place(true);
+  place.calls.fail_all("lock", ERROR_NOT_SUPPORTED);
+  const auto log = place.files.lock_log(kLog);
+  ASSERT_TRUE(log.ok());
+  // Somebody else, whom no lock keeps out, writes more than the line is long.
+  place.temp.write("out/immt5.log", "old\nsomebody else's line, which is longer\n");
+  EXPECT_EQ((*log.value)->append("mine\n"), FileError::kNone);
+  EXPECT_EQ(place.temp.content("out/immt5.log"),
+            "old\nsomebody else's line, which is longer\nmine\n");
+  const auto& log_of_calls = place.calls.log();
+  EXPECT_EQ(std::count(log_of_calls.begin(), log_of_calls.end(), "reserve"), 0);
+}
+
 TEST(Win32Files, AMoveThatAScannerForbidsIsTriedAgain) {
   Place place(true);
   const auto staged = place.files.stage(kReport, "new content");
@@ -391,10 +423,24 @@ TEST(Win32Files, DevicesAreNeitherReadNorWritten) {
 
 TEST(Win32Files, AReplacedFileKeepsItsAttributes) {
   Place place(true);
-  ASSERT_TRUE(::SetFileAttributesW(place.wide(kReport).c_str(), FILE_ATTRIBUTE_HIDDEN));
+  if (!set_attributes(place.wide(kReport), FILE_ATTRIBUTE_HIDDEN))
+    GTEST_SKIP() << "no attributes here";
   ASSERT_EQ(replace_report(place.files), FileError::kNone);
   EXPECT_NE(::GetFileAttributesW(place.wide(kReport).c_str()) & FILE_ATTRIBUTE_HIDDEN, 0U);
   EXPECT_EQ(place.temp.content("out/14111512.tlx"), "new content");
+}
+
+TEST(Win32Files, WhatTheSystemHidesForItselfIsNotListed) {
+  Place place(true);
+  ASSERT_EQ(place.files.create_folder("C:\\out\\deleted"), FileError::kNone);
+  if (!set_attributes(place.wide("C:\\out\\deleted"),
+                      FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM) ||
+      !set_attributes(place.wide(kReport), FILE_ATTRIBUTE_HIDDEN))
+    GTEST_SKIP() << "no attributes here";
+  const auto entries = place.files.list("C:\\out");
+  ASSERT_TRUE(entries.ok());
+  EXPECT_EQ(entries.value->size(), 2U) << "report and logbook";
+  EXPECT_EQ(place.files.look("C:\\out\\deleted").there, There::kFolder) << "it can be named";
 }
 
 TEST(Win32Files, OnlyTheAnswerNoSuchNameMeansThatNothingIsThere) {
