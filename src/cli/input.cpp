@@ -2,18 +2,23 @@
 
 #include <cerrno>
 #include <cstring>
-#include <filesystem>
 #include <iostream>
 
+#include "platform/system/process.h"
 #include "text/strings.h"
 
 namespace cli {
 
+std::filesystem::path file_path(const std::string& name) {
+  return std::u8string(name.begin(), name.end());
+}
+
 std::string open_file(const std::string& name, std::ifstream& file) {
   std::error_code ignored;
-  if (std::filesystem::is_directory(name, ignored)) return "is a folder";
+  const std::filesystem::path path = file_path(name);
+  if (std::filesystem::is_directory(path, ignored)) return "is a folder";
   errno = 0;
-  file.open(name, std::ios::binary);
+  file.open(path, std::ios::binary);
   if (file) return {};
   return errno == 0 ? "cannot be opened" : std::strerror(errno);
 }
@@ -24,12 +29,12 @@ Input::Input(const std::string& name) : name_(name), in_(&file_) {
     in_ = &std::cin;
     start_ = std::cin.tellg();  // nowhere for a pipe or a terminal
     std::cin.clear();
-    can_rewind_ = start_ != std::streampos(-1);
+    can_rewind_ = start_ != std::streampos(-1) && platform::standard_input_may_rewind();
     return;
   }
   problem_ = open_file(name, file_);
   std::error_code ignored;
-  can_rewind_ = std::filesystem::is_regular_file(name, ignored);
+  can_rewind_ = std::filesystem::is_regular_file(file_path(name), ignored);
 }
 
 Input::Line Input::next(std::string& line, std::size_t longest) {

@@ -2,11 +2,17 @@
 // The text that a command reads, line by line, from a file or from standard input.
 
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
 #include <istream>
 #include <string>
 
 namespace cli {
+
+/// A file's name as it was given, for the standard library: its bytes are the name, or UTF-8 where
+/// the system has its names in Unicode. From a plain string the library would take them for text of
+/// the user's locale there.
+[[nodiscard]] std::filesystem::path file_path(const std::string& name);
 
 /// Opens a file for reading. Empty when it could be; else why not ("is a folder").
 [[nodiscard]] std::string open_file(const std::string& name, std::ifstream& file);

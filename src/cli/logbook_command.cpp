@@ -277,7 +277,7 @@ std::string json_line(const Input& input, const explain::Finding& finding) {
 // Opening the list would empty it.
 bool is_the_input(const std::string& list, const std::string& file) {
   std::error_code ignored;
-  return !file.empty() && std::filesystem::equivalent(list, file, ignored);
+  return !file.empty() && std::filesystem::equivalent(file_path(list), file_path(file), ignored);
 }
 
 int check_lines(const Words& words) {
@@ -289,7 +289,7 @@ int check_lines(const Words& words) {
   }
   if (!words.list.empty()) {
     if (is_the_input(words.list, words.file)) return usage("the list is the logbook", kUsage);
-    list.open(words.list, std::ios::binary | std::ios::trunc);
+    list.open(file_path(words.list), std::ios::binary | std::ios::trunc);
     if (!list) return usage(words.list + " cannot be written", kUsage);
   }
   const bool japanese = words.language == "ja";
