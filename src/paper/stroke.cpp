@@ -44,6 +44,14 @@ Points without_repeats(const Points& line) {
   return kept;
 }
 
+// A line far beyond what is shown; no sheet of paper has so many.
+bool has_too_many_dashes(const Points& line, double width) {
+  constexpr double kMost = 20'000;
+  double rest = kMost * width * (kDash + kGap);
+  for (std::size_t i = 1; i < line.size() && rest >= 0; ++i) rest -= length(line[i] - line[i - 1]);
+  return rest < 0;
+}
+
 std::vector<Points> dashes_of(const Points& line, double width) {
   std::vector<Points> dashes;
   Points dash{line.front()};
@@ -128,7 +136,7 @@ std::vector<Points> outlines_of(const Points& line, const Pen& pen) {
   const Points points = without_repeats(line);
   if (points.size() < 2 || !(pen.width > 0)) return {};
   Stroke stroke(pen);
-  if (!pen.dashed) {
+  if (!pen.dashed || has_too_many_dashes(points, pen.width)) {
     stroke.draw(points);
   } else {
     for (const Points& dash : dashes_of(points, pen.width)) stroke.draw(dash);

@@ -295,6 +295,7 @@ TEST_P(Drawn, PointsThatAreNoNumbersOrFarAwayDoNoHarm) {
   drawing.shapes = {ui::Area{{{nan, 0}, {1, nan}, {5, 5}}},
                     ui::Polyline{{{nan, nan}, {1, 1}}},
                     ui::Polyline{{{-1e12, 5}, {1e12, 5}}},
+                    ui::Polyline{{{-1e12, 5}, {1e12, 5}}, Ink::kMark, true, true},
                     ui::Area{{{-1e9, -1e9}, {1e9, -1e9}, {0, 1e9}}, Ink::kWater},
                     ui::Polyline{{{3, 3}, {3, 3}}},
                     ui::Marker{{nan, 1}},
