@@ -60,7 +60,7 @@ class Folder {
  private:
   std::string path_;
   std::vector<std::string> files_;
-  platform::posix::DriveMap drives_{"/"};
+  platform::posix::PosixDriveMap drives_{"/"};
   platform::posix::SystemCalls calls_;
   platform::posix::PosixFiles port_{drives_, calls_};
 };

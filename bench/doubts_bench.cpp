@@ -86,7 +86,7 @@ class Ship {
   ShipFixedData ship_ = fakes::sample_ship();
   KeyObservationItems items_;
   platform::posix::SystemCalls calls_;
-  platform::posix::DriveMap map_{root_};
+  platform::posix::PosixDriveMap map_{root_};
   platform::posix::PosixFiles files_{map_, calls_};
 };
 

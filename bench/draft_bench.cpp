@@ -58,7 +58,7 @@ BENCHMARK(decode);
 void pause_without_an_entry(benchmark::State& state) {
   const Folder folder;
   platform::posix::SystemCalls calls;
-  const platform::posix::DriveMap map{folder.path()};
+  const platform::posix::PosixDriveMap map{folder.path()};
   platform::posix::PosixFiles files{map, calls};
   mainwindow::DraftKeeper keeper(files, "C:\\file");
   (void)keeper.next_left();
@@ -72,7 +72,7 @@ BENCHMARK(pause_without_an_entry);
 void pause_after_an_entry(benchmark::State& state) {
   const Folder folder;
   platform::posix::SystemCalls calls;
-  const platform::posix::DriveMap map{folder.path()};
+  const platform::posix::PosixDriveMap map{folder.path()};
   platform::posix::PosixFiles files{map, calls};
   mainwindow::DraftKeeper keeper(files, "C:\\file");
   (void)keeper.next_left();
@@ -88,7 +88,7 @@ BENCHMARK(pause_after_an_entry)->UseRealTime();
 void floor_of_a_pause_after_an_entry(benchmark::State& state) {
   const Folder folder;
   platform::posix::SystemCalls calls;
-  const platform::posix::DriveMap map{folder.path()};
+  const platform::posix::PosixDriveMap map{folder.path()};
   platform::posix::PosixFiles files{map, calls};
   const std::string text = elements::encode_draft(draft());
   for (auto _ : state) {

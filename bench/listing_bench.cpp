@@ -58,7 +58,7 @@ void listing_page_by_page(benchmark::State& state) {
   constexpr std::size_t kPage = 58;
   const Logbook logbook;
   platform::posix::SystemCalls calls;
-  const platform::posix::DriveMap map{logbook.root()};
+  const platform::posix::PosixDriveMap map{logbook.root()};
   const CountedFiles files{map, calls};
   for (auto _ : state) {
     const archive::LogbookListing listing(files, "C:\\immt5.log", {2014, 11, 15, 11, 50, 0});
@@ -75,7 +75,7 @@ BENCHMARK(listing_page_by_page)->UseRealTime()->Unit(benchmark::kMillisecond);
 void page_in_the_middle(benchmark::State& state) {
   const Logbook logbook;
   platform::posix::SystemCalls calls;
-  const platform::posix::DriveMap map{logbook.root()};
+  const platform::posix::PosixDriveMap map{logbook.root()};
   const CountedFiles files{map, calls};
   const archive::LogbookListing listing(files, "C:\\immt5.log", {2014, 11, 15, 11, 50, 0});
   std::size_t page = 0;

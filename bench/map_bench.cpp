@@ -34,7 +34,7 @@ void BM_SumTile_Floor(benchmark::State& state, const map::Tile& tile) {
 BENCHMARK_CAPTURE(BM_SumTile_Floor, largest, kLargest);
 
 void BM_LoadTile(benchmark::State& state, const map::Tile& tile) {
-  const platform::posix::DriveMap drives("/");
+  const platform::posix::PosixDriveMap drives("/");
   platform::posix::SystemCalls calls;
   const platform::posix::PosixFiles files(drives, calls);
   for (auto _ : state) {
@@ -46,7 +46,7 @@ BENCHMARK_CAPTURE(BM_LoadTile, largest, kLargest);
 BENCHMARK_CAPTURE(BM_LoadTile, typical, kTypical);
 
 void BM_IsLand(benchmark::State& state, map::Place place, map::Land expected) {
-  const platform::posix::DriveMap drives("/");
+  const platform::posix::PosixDriveMap drives("/");
   platform::posix::SystemCalls calls;
   const platform::posix::PosixFiles files(drives, calls);
   map::SeaMap map(files, "Z:" KAVREL_SEA_MAP);

@@ -16,7 +16,7 @@ constexpr int kSmall = 400;
 constexpr int kLarge = 1000;
 
 struct Sea {
-  platform::posix::DriveMap drives{"/"};
+  platform::posix::PosixDriveMap drives{"/"};
   platform::posix::SystemCalls calls;
   platform::posix::PosixFiles files{drives, calls};
   map::SeaMap sea_map{files, "Z:" KAVREL_SEA_MAP};

@@ -66,7 +66,7 @@ void measure(benchmark::State& state,
   const Place place;
   if (place.root().empty()) return state.SkipWithError("no temporary folder");
   CountedCalls calls;
-  const platform::posix::DriveMap map(place.root());
+  const platform::posix::PosixDriveMap map(place.root());
   platform::posix::PosixFiles files(map, calls);
   const auto wanted = request();
   for (auto _ : state)

@@ -41,10 +41,12 @@ KNOWS = DATA | {
     "mainwindow": {"ui", "explain", "ship", "elements", "codetables", "archive", "media", "map"} | ALL_DATA,
     "app": {"ui", "ship", "archive", "media", "mainwindow", "map/tiles", "text", "platform", "observation", "ship/data"},
     "headless": {"text", "platform", "ui", "app", "observation", "ship/data"},
-    "platform/posix": {"platform", "text"},
-    "desktop": {"text", "platform", "ui", "app", "platform/posix"},
+    "platform/system": {"platform", "text"},
+    "platform/posix": {"platform", "platform/system", "text"},
+    "platform/win32": {"platform", "platform/system", "text"},
+    "desktop": {"text", "platform", "ui", "app", "platform/system"},
     "bufr": {"text", "platform", "observation", "ship/data", "codetables/tables", "cli"},
-    "cli": {"text", "platform", "platform/posix", "observation", "ship/data", "ui", "app", "headless",
+    "cli": {"text", "platform", "platform/system", "observation", "ship/data", "ui", "app", "headless",
             "codetables/tables", "explain/plain", "explain/doubts", "explain/log"},
 }
 
@@ -53,7 +55,7 @@ cstdint cstdio cstdlib cstring deque exception filesystem fstream functional ini
 istream iterator limits list map memory memory_resource mutex new numbers numeric optional ostream queue random ranges
 ratio set source_location span sstream stdexcept string string_view system_error thread tuple type_traits typeindex
 unordered_map unordered_set utility variant vector""".split())
-OUTSIDE_CORE = {"platform/posix", "desktop", "cli", "bufr"}
+OUTSIDE_CORE = {"platform/posix", "platform/win32", "desktop", "cli", "bufr"}
 # The core reaches files, clock and environment only through its ports.
 NOT_IN_CORE = {"filesystem", "fstream", "iostream", "cstdio", "chrono", "thread", "mutex"}
 

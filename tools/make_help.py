@@ -158,7 +158,10 @@ def read_texts(strings, ids):
 
 def read_facts(program, examples):
     lines = "".join(f"{name} {entries}\n" for name, entries in examples.items())
-    done = subprocess.run([program], input=lines, capture_output=True, text=True, check=False)
+    # A program for another system is run by what KAVREL_EMULATOR names.
+    emulator = os.environ.get("KAVREL_EMULATOR")
+    command = [emulator, program] if emulator else [program]
+    done = subprocess.run(command, input=lines, capture_output=True, text=True, check=False)
     if done.returncode != 0:
         fail(done.stderr.strip())
     return json.loads(done.stdout)

@@ -3,12 +3,12 @@
 #include <iostream>
 
 #include "cli/commands.h"
-#include "platform/posix/program_beside.h"
+#include "platform/system/process.h"
 
 namespace cli {
 
 int bufr_command(const std::vector<std::string>& arguments) {
-  const int error = platform::posix::go_on_as_program_beside("kavrel-bufr", arguments);
+  const int error = platform::go_on_as_program_beside("kavrel-bufr", arguments);
   std::cerr << "kavrel-cli: bufr needs the program kavrel-bufr beside this one, ";
   if (error == ENOENT)
     std::cerr << "which is not there; it is built where ecCodes is installed (libeccodes-dev)\n";

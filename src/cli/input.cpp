@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "platform/system/process.h"
 #include "text/strings.h"
 
 namespace cli {
@@ -13,7 +14,7 @@ std::string open_file(const std::string& name, std::ifstream& file) {
   std::error_code ignored;
   if (std::filesystem::is_directory(name, ignored)) return "is a folder";
   errno = 0;
-  file.open(name, std::ios::binary);
+  file.open(std::filesystem::path(name), std::ios::binary);
   if (file) return {};
   return errno == 0 ? "cannot be opened" : std::strerror(errno);
 }
@@ -24,7 +25,7 @@ Input::Input(const std::string& name) : name_(name), in_(&file_) {
     in_ = &std::cin;
     start_ = std::cin.tellg();  // nowhere for a pipe or a terminal
     std::cin.clear();
-    can_rewind_ = start_ != std::streampos(-1);
+    can_rewind_ = start_ != std::streampos(-1) && platform::standard_input_may_rewind();
     return;
   }
   problem_ = open_file(name, file_);

@@ -286,7 +286,7 @@ int check_lines(const Words& words) {
   }
   if (!words.list.empty()) {
     if (is_the_input(words.list, words.file)) return usage("the list is the logbook", kUsage);
-    list.open(words.list, std::ios::binary | std::ios::trunc);
+    list.open(std::filesystem::path(words.list), std::ios::binary | std::ios::trunc);
     if (!list) return usage(words.list + " cannot be written", kUsage);
   }
   const bool japanese = words.language == "ja";

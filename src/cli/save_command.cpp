@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <iostream>
 #include <map>
+#include <memory>
 
 #include "cli/commands.h"
 #include "cli/file_reasons.h"
@@ -9,9 +10,7 @@
 #include "observation/report_encoder.h"
 #include "observation/report_file.h"
 #include "platform/paths.h"
-#include "platform/posix/drive_map.h"
-#include "platform/posix/posix_files.h"
-#include "platform/posix/system.h"
+#include "platform/system/system.h"
 
 namespace cli {
 namespace {
@@ -38,8 +37,7 @@ std::string* place_of(std::string_view option, Arguments& arguments) {
 class Saver {
  public:
   explicit Saver(const Arguments& arguments)
-      : drives_(platform::posix::root_of(arguments.root)),
-        files_(drives_, calls_),
+      : system_(platform::open_files(arguments.root)),
         reports_(folder(arguments.reports)),
         logbook_(folder(arguments.logbook)),
         replace_(arguments.replace) {}
@@ -50,7 +48,7 @@ class Saver {
          {std::pair(&reports_, &arguments.reports), std::pair(&logbook_, &arguments.logbook)}) {
       // In a program path it would be the end of a name.
       std::error_code error;
-      if (!*path &&
+      if (!*path && std::filesystem::path::preferred_separator != '\\' &&
           std::filesystem::absolute(*given, error).string().find('\\') != std::string::npos)
         return *given + R"( cannot be used: a "\" stands in its path)";
       const platform::Look found = *path ? files_.look(**path) : platform::Look{};
@@ -191,9 +189,9 @@ class Saver {
     return why;
   }
 
-  platform::posix::SystemCalls calls_;
-  platform::posix::DriveMap drives_;
-  platform::posix::PosixFiles files_;
+  std::unique_ptr<platform::SystemFiles> system_;
+  platform::Files& files_ = system_->files();
+  const platform::PathMap& drives_ = system_->map();
   std::optional<std::string> reports_;
   std::optional<std::string> logbook_;
   bool replace_;

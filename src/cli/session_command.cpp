@@ -7,7 +7,7 @@
 #include "app/CVelmaranApp.h"
 #include "cli/input.h"
 #include "headless/session.h"
-#include "platform/posix/system.h"
+#include "platform/system/system.h"
 
 namespace cli {
 namespace {
@@ -17,13 +17,13 @@ constexpr std::string_view kUsage =
     "                          [--clock 2014-11-15T11:50] [--printer none|fails] [SCRIPT]\n";
 
 struct SessionArguments {
-  platform::posix::SystemOptions system;
+  platform::SystemOptions system;
   headless::Options session;
   std::string script;  ///< empty: standard input
 };
 
 // Where the value of an option goes; null for a word that is no option.
-std::string* place_of(std::string_view option, platform::posix::SystemOptions& system) {
+std::string* place_of(std::string_view option, platform::SystemOptions& system) {
   if (option == "--root") return &system.root;
   if (option == "--program") return &system.program;
   if (option == "--locale") return &system.locale;
@@ -53,7 +53,7 @@ std::optional<SessionArguments> read_arguments(const std::vector<std::string>& a
   return result;
 }
 
-headless::Status play(std::istream& script, platform::posix::System& system,
+headless::Status play(std::istream& script, platform::System& system,
                       const headless::Options& options) {
   const auto program = [&system](const headless::Doors& doors) {
     app::CVelmaranApp app({system.clock(), system.locale(), system.drives(), system.files(),
@@ -73,7 +73,8 @@ int session_command(const std::vector<std::string>& arguments) {
     std::cerr << kUsage;
     return kWrongArguments;
   }
-  platform::posix::System system(read->system);
+  const auto made = platform::make_system(read->system);
+  platform::System& system = *made;
   for (const std::string& problem : system.problems()) std::cerr << "session: " << problem << '\n';
   if (!system.problems().empty()) return kWrongArguments;
   if (read->script.empty() || read->script == "-")

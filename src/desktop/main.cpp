@@ -13,13 +13,13 @@
 #include "desktop/last_catch.h"
 #include "desktop/picture_label.h"
 #include "platform/paths.h"
-#include "platform/posix/system.h"
-#include "platform/posix/system_calls.h"
+#include "platform/system/process.h"
+#include "platform/system/system.h"
 #include "text/reasons.h"
 
 namespace {
 
-platform::posix::SystemOptions read_options(const QApplication& application) {
+platform::SystemOptions read_options(const QApplication& application) {
   QCommandLineParser parser;
   const QCommandLineOption root("root", "Folder that is the program's drive C:.", "folder");
   const QCommandLineOption program("program", "Folder that holds the program's own files.",
@@ -33,14 +33,15 @@ platform::posix::SystemOptions read_options(const QApplication& application) {
           parser.value(locale).toStdString(), parser.value(clock).toStdString()};
 }
 
-desktop::PathMap path_map(const platform::posix::System& system) {
+desktop::PathMap path_map(const platform::System& system) {
   return {
       [&system](const std::string& path) { return system.map().to_os(path).value.value_or(""); },
       [&system](const std::string& path) { return system.map().to_program(path).value_or(""); }};
 }
 
 int start(const QApplication& application) {
-  platform::posix::System system(read_options(application));
+  const auto made = platform::make_system(read_options(application));
+  platform::System& system = *made;
   for (const std::string& problem : system.problems())
     std::fprintf(stderr, "kavrel: %s\n", problem.c_str());
   if (!system.problems().empty()) return 2;
@@ -61,7 +62,7 @@ int start(const QApplication& application) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  platform::posix::prepare_process();
+  platform::prepare_process();
   QApplication application(argc, argv);
   QApplication::setApplicationName("kavrel");
   try {

@@ -29,9 +29,20 @@ FileError Files::replace(const std::string& path, std::string_view content) {
   return error;
 }
 
+namespace {
+
+constexpr std::string_view kBegin = ".kavrel-";
+constexpr std::string_view kEnd = ".part";
+
+}  // namespace
+
+std::string staged_name(std::uint64_t process, unsigned number) {
+  std::string name(kBegin);
+  name.append(std::to_string(process)).append("-").append(std::to_string(number)).append(kEnd);
+  return name;
+}
+
 std::optional<std::uint64_t> staged_by(std::string_view name) {
-  constexpr std::string_view kBegin = ".kavrel-";
-  constexpr std::string_view kEnd = ".part";
   // No number that could wrap: a file of another program is not taken for a staged one.
   constexpr std::size_t kMostFigures = 9;
   if (!name.starts_with(kBegin) || !name.ends_with(kEnd) ||

@@ -159,6 +159,8 @@ struct StagedFile {
 /// The next piece of a content, empty behind its end; an error ends whatever asked for it.
 using NextPiece = std::function<Result<std::string>()>;
 
+/// The name under which stage() of that process makes its file of that number.
+[[nodiscard]] std::string staged_name(std::uint64_t process, unsigned number);
 /// The process whose stage() made a file of that name (".kavrel-PID-N.part", without a folder), or
 /// nothing for any other name.
 [[nodiscard]] std::optional<std::uint64_t> staged_by(std::string_view name);

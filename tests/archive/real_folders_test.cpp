@@ -33,7 +33,7 @@ class RealFolders : public testing::Test {
 
   fakes::TempFolder folder;
   platform::posix::SystemCalls calls;
-  platform::posix::DriveMap map{folder.path()};
+  platform::posix::PosixDriveMap map{folder.path()};
   platform::posix::PosixFiles files{map, calls};
   fakes::World world{files};
 };

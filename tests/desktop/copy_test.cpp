@@ -27,7 +27,7 @@ const std::string kLogbook = fakes::logbook_line(14, 0) + "\n" + fakes::logbook_
 struct Computer {
   fakes::TempFolder temp;
   platform::posix::SystemCalls calls;
-  platform::posix::DriveMap map{temp.path()};
+  platform::posix::PosixDriveMap map{temp.path()};
   platform::posix::PosixFiles files{map, calls};
   ShipFixedData ship;
   KeyObservationItems items;

@@ -25,13 +25,14 @@
 #include "fakes/fake_ports.h"
 #include "fakes/temp_folder.h"
 #include "palettes.h"
+#include "platform/posix/posix_drive_map.h"
 #include "platform/posix/posix_ports.h"
 
 namespace {
 
 struct Viewer {
   fakes::TempFolder temp;
-  platform::posix::DriveMap map{temp.path()};
+  platform::posix::PosixDriveMap map{temp.path()};
   platform::posix::PosixHelp pages{map};
   desktop::DesktopHelp help{[this](const std::string& path) { return pages.page(path); }};
 
@@ -337,7 +338,7 @@ TEST(HelpWindow, ShowsLinksThatCanBeReadInTheLightAndInTheDark) {
 // The pages that lie beside the program.
 TEST(HelpWindow, HasAPageForTheFixedDataBesideTheProgram) {
   Viewer viewer;
-  const platform::posix::DriveMap whole("/");
+  const platform::posix::PosixDriveMap whole("/");
   const platform::posix::PosixHelp pages(whole);
   std::string folder = KAVREL_HELP;
   for (char& c : folder)

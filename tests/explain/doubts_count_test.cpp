@@ -68,7 +68,7 @@ Count count_plausible() {
 // They came from many ships, so none is another's past.
 Count count_real() {
   Count count;
-  std::ifstream in(std::string(KAVREL_TEST_DATA) + "/ship_reports.txt");
+  std::ifstream in(KAVREL_TEST_DATA "/ship_reports.txt");
   const Struct_Weather start(fakes::sample_ship(), KeyObservationItems());
   for (std::string line; std::getline(in, line);) {
     if (line.empty() || line.front() == '#') continue;
@@ -259,7 +259,7 @@ TEST(DoubtCounts, NoDoubtCriesInMoreThanOneOfTwoHundredGoodObservations) {
 }
 
 TEST(DoubtCounts, StandInTheDocument) {
-  std::ifstream in(std::string(KAVREL_SOURCE) + "/docs/doubts.md");
+  std::ifstream in(KAVREL_SOURCE "/docs/doubts.md");
   std::stringstream document;
   document << in.rdbuf();
   const std::string wanted = tables();

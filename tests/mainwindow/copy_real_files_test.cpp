@@ -25,7 +25,7 @@ using Names = std::vector<std::string>;
 struct Computer {
   fakes::TempFolder temp;
   platform::posix::SystemCalls calls;
-  platform::posix::DriveMap map{temp.path()};
+  platform::posix::PosixDriveMap map{temp.path()};
   platform::posix::PosixFiles files{map, calls};
   fakes::World world{files};
   ShipFixedData ship;

@@ -14,8 +14,9 @@
 
 #include "fakes/fake_files.h"
 #include "fakes/temp_folder.h"
-#include "platform/failing_calls.h"
+#include "platform/posix/failing_calls.h"
 #include "platform/posix/posix_files.h"
+#include "platform/system/process.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ using media::look_at_place;
 using media::Place;
 using media::remove_copied;
 using platform::FileError;
-using platform::posix::DriveMap;
+using DriveMap = platform::posix::PosixDriveMap;
 using platform::posix::PosixFiles;
 using tests::FailingCalls;
 
@@ -298,7 +299,7 @@ TEST(VerifiedCopy, AFileThatGrowsBeyondTheLimitOfTheSystemLeavesNothing) {
   const OnDisk disk(true);
   const pid_t child = ::fork();
   if (child == 0) {
-    platform::posix::prepare_process();
+    platform::prepare_process();
     const rlimit limit{1U << 20U, 1U << 20U};
     (void)::setrlimit(RLIMIT_FSIZE, &limit);
     platform::posix::SystemCalls calls;

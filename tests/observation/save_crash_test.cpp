@@ -8,7 +8,7 @@
 
 #include "fakes/temp_folder.h"
 #include "observation/report_file.h"
-#include "platform/failing_calls.h"
+#include "platform/posix/failing_calls.h"
 #include "platform/posix/posix_files.h"
 
 namespace {
@@ -20,7 +20,7 @@ using observation::SaveOutcome;
 using observation::SaveRequest;
 using observation::SaveResult;
 using platform::FileError;
-using platform::posix::DriveMap;
+using DriveMap = platform::posix::PosixDriveMap;
 using platform::posix::PosixFiles;
 using tests::FailingCalls;
 

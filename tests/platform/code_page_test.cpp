@@ -5,17 +5,17 @@
 
 #include <clocale>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 
 #include "fakes/fake_code_page.h"
-#include "platform/posix/code_page.h"
+#include "platform/system/system.h"
 #include "text/strings.h"
 
 namespace {
 
 using platform::kNoCharacter;
-using platform::posix::PosixCodePage;
 
 std::string byte(unsigned value) {
   return std::string(1, static_cast<char>(value));
@@ -38,13 +38,27 @@ std::string encoded(const platform::CodePage& code_page, std::string_view text) 
   return bytes;
 }
 
+/// This computer's.
+class RealCodePage : public platform::CodePage {
+ public:
+  [[nodiscard]] std::string decode(std::string_view bytes) const override {
+    return made_->decode(bytes);
+  }
+  [[nodiscard]] std::optional<std::string> encode(std::string_view character) const override {
+    return made_->encode(character);
+  }
+
+ private:
+  std::unique_ptr<platform::CodePage> made_ = platform::make_code_page();
+};
+
 template <class Kind>
 class CodePageSuite : public ::testing::Test {
  protected:
   Kind code_page;
 };
 
-using Kinds = ::testing::Types<fakes::FakeCodePage, PosixCodePage>;
+using Kinds = ::testing::Types<fakes::FakeCodePage, RealCodePage>;
 TYPED_TEST_SUITE(CodePageSuite, Kinds);
 
 TYPED_TEST(CodePageSuite, KeepsAsciiAsItIs) {
@@ -124,12 +138,8 @@ bool is_double(unsigned lead) {
   return lead == 0x87 || lead == 0xED || lead == 0xEE || lead == 0xFA;
 }
 
-TEST(RealCodePage, IsInstalled) {
-  EXPECT_TRUE(PosixCodePage().is_installed());
-}
-
-TEST(RealCodePage, GivesEveryCharacterItsBytesBack) {
-  const PosixCodePage code_page;
+TEST(CodePageOfTheComputer, GivesEveryCharacterItsBytesBack) {
+  const RealCodePage code_page;
   int characters = 0;
   int doubles = 0;
   for (unsigned lead = 0x80; lead <= 0xFF; ++lead) {
@@ -153,11 +163,11 @@ TEST(RealCodePage, GivesEveryCharacterItsBytesBack) {
 }
 
 // What is not kept as it was typed comes back as its twin, and these are all.
-TEST(RealCodePage, ChangesOnlyTheKnownTwins) {
+TEST(CodePageOfTheComputer, ChangesOnlyTheKnownTwins) {
   const std::map<std::string, std::string> twins = {
       {"〜", "～"}, {"−", "－"}, {"‖", "∥"}, {"—", "―"}, {"¢", "￠"}, {"£", "￡"}, {"¬", "￢"},
   };
-  const PosixCodePage code_page;
+  const RealCodePage code_page;
   std::map<std::string, std::string> changed;
   for (unsigned code = 0x80; code <= 0xFFFF; ++code) {
     if (code >= 0xD800 && code <= 0xDFFF) continue;
@@ -175,8 +185,8 @@ TEST(RealCodePage, ChangesOnlyTheKnownTwins) {
   EXPECT_EQ(changed, twins);
 }
 
-TEST(RealCodePage, TakesBackslashAndTildeForThemselvesOnly) {
-  const PosixCodePage code_page;
+TEST(CodePageOfTheComputer, TakesBackslashAndTildeForThemselvesOnly) {
+  const RealCodePage code_page;
   EXPECT_EQ(code_page.decode("\x5C\x7E"), "\\~");
   EXPECT_EQ(code_page.encode("\\"), "\\");
   EXPECT_EQ(code_page.encode("~"), "~");
@@ -184,14 +194,15 @@ TEST(RealCodePage, TakesBackslashAndTildeForThemselvesOnly) {
   EXPECT_EQ(code_page.encode("￣"), "\x81\x50");
 }
 
-// Whatever locale the process is in; "C.UTF-8" is always there.
-TEST(RealCodePage, AsksNoLocale) {
+// Whatever locale the process is in; "C" and another one are always there.
+TEST(CodePageOfTheComputer, AsksNoLocale) {
   const std::string before = std::setlocale(LC_ALL, nullptr);
   int tried = 0;
-  for (const char* name : {"C", "C.UTF-8", "ja_JP.UTF-8", "ja_JP.eucJP", "de_DE.UTF-8"}) {
+  for (const char* name :
+       {"C", "C.UTF-8", "ja_JP.UTF-8", "ja_JP.eucJP", "de_DE.UTF-8", "Japanese", "German"}) {
     if (std::setlocale(LC_ALL, name) == nullptr) continue;
     ++tried;
-    const PosixCodePage code_page;
+    const RealCodePage code_page;
     EXPECT_EQ(code_page.decode("\x89\xA1\x95\x6C\xD6"), "横浜ﾖ") << name;
     EXPECT_EQ(code_page.encode("能"), "\x94\x5C") << name;
     EXPECT_EQ(code_page.encode("é"), std::nullopt) << name;

@@ -6,9 +6,7 @@
 #include <memory>
 
 #include "fakes/fake_files.h"
-#include "fakes/temp_folder.h"
-#include "platform/failing_calls.h"
-#include "platform/posix/posix_files.h"
+#include "platform/port_under_test.h"
 
 namespace {
 
@@ -19,8 +17,14 @@ class InMemory {
  public:
   platform::Files& files() { return files_; }
   void read_only(const std::string& path) { files_.set_read_only(path); }
-  void pipe(const std::string& path) { files_.add_other(path); }
-  void cannot_tell(const std::string& path) { files_.fail_look(path, FileError::kBadLink); }
+  std::string other() {
+    files_.add_other("C:\\out\\pipe.tlx");
+    return "C:\\out\\pipe.tlx";
+  }
+  std::pair<std::string, FileError> hidden() {
+    files_.fail_look("C:\\out\\hidden", FileError::kBadLink);
+    return {"C:\\out\\hidden", FileError::kBadLink};
+  }
 
  private:
   /// A: holds no medium in either world.
@@ -34,24 +38,13 @@ class InMemory {
 
 class Real {
  public:
-  platform::Files& files() { return files_; }
-  void read_only(const std::string& path) {
-    std::filesystem::permissions(*map_.to_os(path).value, std::filesystem::perms::owner_read |
-                                                              std::filesystem::perms::owner_exec);
-  }
-  void pipe(const std::string& path) {
-    constexpr mode_t kMode = 0600;
-    ASSERT_EQ(::mkfifo(map_.to_os(path).value->c_str(), kMode), 0);
-  }
-  void cannot_tell(const std::string& path) {
-    std::filesystem::create_symlink("leads-nowhere", *map_.to_os(path).value);
-  }
+  platform::Files& files() { return port_.files; }
+  void read_only(const std::string& path) { port_.read_only(path); }
+  std::string other() { return port_.other("C:\\out"); }
+  std::pair<std::string, FileError> hidden() { return port_.hidden("C:\\out"); }
 
  private:
-  fakes::TempFolder temp_;
-  tests::FailingCalls calls_;  // whose clock needs no waiting
-  platform::posix::DriveMap map_{temp_.path()};
-  platform::posix::PosixFiles files_{map_, calls_};
+  tests::PortUnderTest port_;
 };
 
 template <class Kind>
@@ -60,8 +53,10 @@ class FilesSuite : public ::testing::Test {
   FilesSuite() { EXPECT_EQ(files().create_folder("C:\\out"), FileError::kNone); }
   platform::Files& files() { return kind_.files(); }
   void read_only(const std::string& path) { kind_.read_only(path); }
-  void pipe(const std::string& path) { kind_.pipe(path); }
-  void cannot_tell(const std::string& path) { kind_.cannot_tell(path); }
+  /// Path in C:\out of something that is neither a file nor a folder.
+  std::string other() { return kind_.other(); }
+  /// Path in C:\out of which one cannot tell what lies there, and why.
+  std::pair<std::string, FileError> hidden() { return kind_.hidden(); }
   std::string content(const std::string& path) {
     auto read = files().read(path);
     return read.ok() ? *read.value : "(none)";
@@ -158,8 +153,10 @@ TYPED_TEST(FilesSuite, FolderIsNotTakenForAFile) {
 
 TYPED_TEST(FilesSuite, ALookTellsWhatIsThereAndWhenItCannotTell) {
   EXPECT_EQ(this->files().replace("C:\\out\\a", "123"), FileError::kNone);
+  const std::string other = this->other();
+  const auto [hidden, why] = this->hidden();
   const struct {
-    const char* path;
+    std::string path;
     There there;
     FileError error;
     std::uint64_t size;
@@ -170,12 +167,10 @@ TYPED_TEST(FilesSuite, ALookTellsWhatIsThereAndWhenItCannotTell) {
       {"C:\\out\\none", There::kNo, FileError::kNone, 0},
       {"C:\\none\\a", There::kNo, FileError::kNone, 0},
       {"C:\\out\\a\\b", There::kNo, FileError::kNone, 0},
-      {"C:\\out\\pipe", There::kOther, FileError::kNone, 0},
-      {"C:\\out\\hidden", There::kCannotTell, FileError::kBadLink, 0},
+      {other, There::kOther, FileError::kNone, 0},
+      {hidden, There::kCannotTell, why, 0},
       {"A:\\x", There::kCannotTell, FileError::kMediumMissing, 0},
   };
-  this->pipe("C:\\out\\pipe");
-  this->cannot_tell("C:\\out\\hidden");
   for (const auto& row : rows) {
     const platform::Look found = this->files().look(row.path);
     EXPECT_EQ(found.there, row.there) << row.path;
@@ -245,8 +240,7 @@ TYPED_TEST(FilesSuite, ALogIsHeldByOneAtATime) {
 }
 
 TYPED_TEST(FilesSuite, OnlyRegularFilesAreReadAndWritten) {
-  const std::string pipe = "C:\\out\\pipe.tlx";
-  this->pipe(pipe);
+  const std::string pipe = this->other();
   EXPECT_EQ(this->files().read(pipe).error, FileError::kNotAFile);
   EXPECT_EQ(this->files().stage(pipe, "x").error, FileError::kNotAFile);
   EXPECT_EQ(this->files().note(pipe, "x"), FileError::kNotAFile);
@@ -335,8 +329,7 @@ TYPED_TEST(FilesSuite, APartIsWhatThereIsOfIt) {
 }
 
 TYPED_TEST(FilesSuite, APartIsReadOfRegularFilesOnly) {
-  this->pipe("C:\\out\\pipe");
-  EXPECT_EQ(this->files().read_part("C:\\out\\pipe", 0, 1).error, FileError::kNotAFile);
+  EXPECT_EQ(this->files().read_part(this->other(), 0, 1).error, FileError::kNotAFile);
   EXPECT_EQ(this->files().read_part("C:\\out", 0, 1).error, FileError::kAccessDenied);
   EXPECT_EQ(this->files().read_part("A:\\x", 0, 1).error, FileError::kMediumMissing);
 }
@@ -367,8 +360,7 @@ TYPED_TEST(FilesSuite, APieceThatCannotBeHadLeavesNothingStaged) {
   EXPECT_EQ(this->names(), Names{"a"});
   EXPECT_EQ(this->content("C:\\out\\a"), "old");
   const auto nothing = [] { return platform::Result(std::string()); };
-  this->pipe("C:\\out\\pipe");
-  EXPECT_EQ(this->files().stage_pieces("C:\\out\\pipe", nothing).error, FileError::kNotAFile);
+  EXPECT_EQ(this->files().stage_pieces(this->other(), nothing).error, FileError::kNotAFile);
   EXPECT_EQ(this->files().stage_pieces("C:\\none\\a", nothing).error, FileError::kNotFound);
   this->read_only("C:\\out\\a");
   EXPECT_EQ(this->files().stage_pieces("C:\\out\\a", nothing).error, FileError::kAccessDenied);

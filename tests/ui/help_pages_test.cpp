@@ -41,7 +41,7 @@ const fakes::ScreenCase* find_screen(std::string_view class_name) {
 }
 
 std::string topics_file() {
-  const std::ifstream file(std::string(KAVREL_SOURCE) + "/resources/help/topics.txt");
+  const std::ifstream file(KAVREL_SOURCE "/resources/help/topics.txt");
   std::ostringstream text;
   text << file.rdbuf();
   return text.str();

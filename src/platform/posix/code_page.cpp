@@ -2,7 +2,6 @@
 
 #include <iconv.h>
 
-#include <algorithm>
 #include <array>
 
 namespace platform::posix {
@@ -12,13 +11,8 @@ namespace {
 constexpr const char* kCodePage = "CP932";
 constexpr const char* kText = "UTF-8";
 
-bool is_ascii(char c) {
-  return static_cast<unsigned char>(c) < 0x80;
-}
-
 }  // namespace
 
-// One character at a time: it is short text, and so a wrong byte is told from its neighbours.
 class PosixCodePage::Conversion {
  public:
   Conversion(const char* to, const char* from) : handle_(::iconv_open(to, from)) {}
@@ -61,37 +55,12 @@ bool PosixCodePage::is_installed() const {
   return to_text_->is_open() && to_bytes_->is_open();
 }
 
-std::string PosixCodePage::decode(std::string_view bytes) const {
-  std::string text;
-  while (!bytes.empty()) {
-    std::size_t used = 1;
-    std::optional<std::string> one;
-    if (is_ascii(bytes.front())) {
-      one = bytes.substr(0, 1);
-    } else {
-      // One byte first: half-width kana are single bytes above ASCII.
-      one = to_text_->convert(bytes.substr(0, 1));
-      if (!one && bytes.size() > 1) {
-        one = to_text_->convert(bytes.substr(0, 2));
-        used = one ? 2 : 1;
-      }
-    }
-    text += one ? std::string_view(*one) : kNoCharacter;
-    bytes.remove_prefix(used);
-  }
-  return text;
+std::optional<std::string> PosixCodePage::to_text(std::string_view bytes) const {
+  return to_text_->convert(bytes);
 }
 
-std::optional<std::string> PosixCodePage::encode(std::string_view character) const {
-  if (character.empty()) return std::nullopt;
-  if (is_ascii(character.front()))
-    return character.size() == 1 ? std::optional<std::string>(character) : std::nullopt;
-  const auto continues = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
-  if (!std::all_of(character.begin() + 1, character.end(), continues)) return std::nullopt;
-  auto bytes = to_bytes_->convert(character);
-  // The conversion would give a yen sign the backslash's byte and an overline the tilde's.
-  if (bytes && (bytes->empty() || is_ascii(bytes->front()))) return std::nullopt;
-  return bytes;
+std::optional<std::string> PosixCodePage::to_bytes(std::string_view character) const {
+  return to_bytes_->convert(character);
 }
 
 }  // namespace platform::posix

@@ -6,12 +6,12 @@
 #include <string>
 #include <string_view>
 
-#include "platform/ports.h"
+#include "platform/system/code_page_932.h"
 
 namespace platform::posix {
 
 /// One object serves one thread: the system's conversion has a state while it works.
-class PosixCodePage : public CodePage {
+class PosixCodePage : public CodePage932 {
  public:
   PosixCodePage();
   ~PosixCodePage() override;
@@ -21,10 +21,10 @@ class PosixCodePage : public CodePage {
   /// False when this computer's conversion does not know code page 932; then only ASCII is had.
   [[nodiscard]] bool is_installed() const;
 
-  [[nodiscard]] std::string decode(std::string_view bytes) const override;
-  [[nodiscard]] std::optional<std::string> encode(std::string_view character) const override;
-
  private:
+  [[nodiscard]] std::optional<std::string> to_text(std::string_view bytes) const override;
+  [[nodiscard]] std::optional<std::string> to_bytes(std::string_view character) const override;
+
   class Conversion;
   std::unique_ptr<const Conversion> to_text_;
   std::unique_ptr<const Conversion> to_bytes_;

@@ -269,7 +269,7 @@ class PosixFiles::Log : public LockedLog {
   FileError error_ = FileError::kNone;
 };
 
-PosixFiles::PosixFiles(const DriveMap& drives, SystemCalls& calls)
+PosixFiles::PosixFiles(const PathMap& drives, SystemCalls& calls)
     : drives_(drives), calls_(calls), current_folder_("C:\\") {
   std::error_code error;
   const auto here = std::filesystem::current_path(error);
@@ -452,8 +452,7 @@ Result<StagedFile> PosixFiles::stage_with(const std::string& path, const Write& 
   const std::string folder(folder_part(path));
   for (int i = 0; i < kTries; ++i) {
     // Never the name of the file: no search for reports or logbooks may find a half-written one.
-    const std::string name =
-        ".kavrel-" + std::to_string(::getpid()) + "-" + std::to_string(staged_count_++) + ".part";
+    const std::string name = staged_name(static_cast<std::uint64_t>(::getpid()), staged_count_++);
     const std::string beside =
         (folder_of(*target.value) == "/" ? "" : folder_of(*target.value)) + "/" + name;
     // Never a file or link that somebody else put there.

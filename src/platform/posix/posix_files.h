@@ -29,7 +29,7 @@
 #include <string>
 
 #include "platform/ports.h"
-#include "platform/posix/drive_map.h"
+#include "platform/posix/posix_drive_map.h"
 #include "platform/posix/system_calls.h"
 
 namespace platform::posix {
@@ -40,7 +40,7 @@ namespace platform::posix {
 class PosixFiles : public Files {
  public:
   /// Both must outlive the object. The current folder is at first that of the process.
-  PosixFiles(const DriveMap& drives, SystemCalls& calls);
+  PosixFiles(const PathMap& drives, SystemCalls& calls);
 
   [[nodiscard]] Result<std::string> read(const std::string& path,
                                          std::uint64_t largest = 64U << 20U) const override;
@@ -97,7 +97,7 @@ class PosixFiles : public Files {
   void let_owner_use(int file) const;
   [[nodiscard]] FileError flush_folder(const std::string& os_path) const;
 
-  const DriveMap& drives_;
+  const PathMap& drives_;
   SystemCalls& calls_;
   std::string current_folder_;
   unsigned staged_count_ = 0;

@@ -1,13 +1,14 @@
 #pragma once
 // Clock, locale, drives and help viewer on this operating system.
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/ports.h"
-#include "platform/posix/drive_map.h"
+#include "platform/system/drive_map.h"
+#include "platform/system/help_pages.h"
+#include "platform/system/options.h"
 
 namespace platform::posix {
 
@@ -24,11 +25,6 @@ class PosixClock : public Clock {
   std::optional<long long> stopped_;  ///< seconds since 1970-01-01 00:00 UTC
 };
 
-/// "2014-11-15T11:50" or with ":SS"; nothing for any other text and for a time that does not exist.
-[[nodiscard]] std::optional<DateTime> parse_date_time(std::string_view text);
-
-/// 0x0411 when the language of a locale name ("ja_JP.UTF-8", "ja") is Japanese, else 0x0409.
-[[nodiscard]] unsigned locale_id_of(std::string_view name);
 /// The name in force for messages: LC_ALL, LC_MESSAGES or LANG, the first that is not empty.
 [[nodiscard]] std::string environment_locale();
 
@@ -59,25 +55,12 @@ class PosixDrives : public Drives {
   std::string program_path_;
 };
 
-/// This system has no viewer for compiled help files. A help file "help\Kavrel_E.CHM" is looked for
-/// unpacked: topic "X.htm" as help/Kavrel_E/X.htm or help/X.htm, the file itself as
-/// help/Kavrel_E/index.htm or help/Kavrel_E.htm. The page is handed to the person's browser.
-class PosixHelp : public HelpViewer {
+/// Help pages in the person's browser.
+class PosixHelp : public UnpackedHelp {
  public:
-  /// Opens a page of this computer; true when something was opened.
-  using Open = std::function<bool(const std::string& os_path)>;
-  explicit PosixHelp(const DriveMap& map, Open open = open_in_browser)
-      : map_(map), open_(std::move(open)) {}
-  /// False when there is no such page or nothing to show it with.
-  bool show(const std::string& path) override;
-  /// The page for a help path, or nothing when there is none.
-  [[nodiscard]] std::optional<std::string> page(const std::string& path) const;
+  explicit PosixHelp(const PathMap& map, Open open = open_in_browser);
 
   static bool open_in_browser(const std::string& os_path);
-
- private:
-  const DriveMap& map_;
-  Open open_;
 };
 
 }  // namespace platform::posix

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/posix/drive_map.h"
+#include "platform/system/drive_map.h"
 
 namespace platform::posix {
 

@@ -9,8 +9,8 @@
 #include <fstream>
 #include <iterator>
 
-#include "platform/posix/drives_file.h"
 #include "platform/posix/removable_media.h"
+#include "platform/system/drives_file.h"
 #include "text/reasons.h"
 
 namespace platform::posix {
@@ -82,7 +82,7 @@ System::System(const SystemOptions& options) {
   choose_locale(options);
   if (!code_page_.is_installed())
     problems_.emplace_back("code page 932, in which the ship's files are kept, is not installed");
-  map_ = std::make_unique<DriveMap>(root_, [this] { return find_media(); });
+  map_ = std::make_unique<PosixDriveMap>(root_, [this] { return find_media(); });
   drives_ = std::make_unique<PosixDrives>(*map_, choose_program(options));
   files_ = std::make_unique<PosixFiles>(*map_, calls_);
   help_ = std::make_unique<PosixHelp>(*map_);
@@ -100,14 +100,14 @@ void System::choose_root(const SystemOptions& options) {
     problems_.push_back("drives.txt: cannot be read: " + std::string(why));
   }
   if (!text.ok()) return;
-  for (const std::string& problem : read_drives(*text.value, root_).problems)
+  for (const std::string& problem : read_drives(*text.value, root_, computer_paths()).problems)
     problems_.push_back("drives.txt: " + problem);
 }
 
 std::vector<Medium> System::find_media() const {
   const auto text = content_of(drives_file_of(root_));
   if (text.ok()) {
-    media_ = read_drives(*text.value, root_).media;
+    media_ = read_drives(*text.value, root_, computer_paths()).media;
   } else if (text.error == FileError::kNotFound) {
     // Only then: a drives.txt that cannot be read leaves the drives as they were found last.
     media_ = removable_media();
@@ -136,3 +136,30 @@ std::string System::choose_program(const SystemOptions& options) {
 }
 
 }  // namespace platform::posix
+
+namespace platform {
+
+std::unique_ptr<System> make_system(const SystemOptions& options) {
+  return std::make_unique<posix::System>(options);
+}
+
+std::unique_ptr<SystemFiles> open_files(const std::string& root) {
+  class Opened : public SystemFiles {
+   public:
+    explicit Opened(const std::string& folder) : map_(folder) {}
+    [[nodiscard]] Files& files() override { return files_; }
+    [[nodiscard]] const PathMap& map() const override { return map_; }
+
+   private:
+    posix::SystemCalls calls_;
+    posix::PosixDriveMap map_;
+    posix::PosixFiles files_{map_, calls_};
+  };
+  return std::make_unique<Opened>(posix::root_of(root));
+}
+
+std::unique_ptr<CodePage> make_code_page() {
+  return std::make_unique<posix::PosixCodePage>();
+}
+
+}  // namespace platform

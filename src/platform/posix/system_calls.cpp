@@ -11,11 +11,6 @@
 
 namespace platform::posix {
 
-void prepare_process() {
-  // The write then fails with EFBIG.
-  (void)::signal(SIGXFSZ, SIG_IGN);
-}
-
 int SystemCalls::open(const char* path, int flags, mode_t mode) {
   // The help viewer is another process: it must not inherit the logbook, and with it the lock.
   return ::open(path, flags | O_CLOEXEC, mode);

@@ -12,10 +12,6 @@
 
 namespace platform::posix {
 
-/// For a program's start: a write above the limit of a file's size becomes an error like a full
-/// disk, instead of a signal that ends the program in the middle of a save.
-void prepare_process();
-
 /// Each function is the system call of its name and reports as it does: -1 (a null pointer) and
 /// errno.
 class SystemCalls {

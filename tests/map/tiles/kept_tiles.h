@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "fakes/real_files.h"
 #include "map/tiles/SeaMap.h"
-#include "platform/posix/posix_files.h"
 
 namespace kept_tiles {
 
@@ -20,10 +20,8 @@ class Map {
   map::SeaMap* operator->() { return &map_; }
 
  private:
-  platform::posix::DriveMap drives_{"/"};
-  platform::posix::SystemCalls calls_;
-  platform::posix::PosixFiles files_{drives_, calls_};
-  map::SeaMap map_{files_, std::string("Z:").append(KAVREL_SOURCE).append("/resources/SeaMap")};
+  fakes::RealFiles real_{KAVREL_SOURCE};
+  map::SeaMap map_{real_.files(), "C:\\resources\\SeaMap"};
 };
 
 }  // namespace kept_tiles

@@ -5,10 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "platform/posix/code_page.h"
+#include "platform/system/system.h"
 #include "ship/data/ship_files.h"
 #include "text/strings.h"
 
@@ -17,7 +18,8 @@ namespace {
 constexpr platform::DateTime kNow{2014, 11, 15, 11, 50, 0};
 constexpr std::size_t kPortAt = 21;
 constexpr std::size_t kPortWidth = 24;
-const platform::posix::PosixCodePage kCodePage;
+const std::unique_ptr<platform::CodePage> kMadeCodePage = platform::make_code_page();
+const platform::CodePage& kCodePage = *kMadeCodePage;
 
 struct Port {
   std::string name;

@@ -12,9 +12,8 @@ namespace {
 
 using platform::DateTime;
 using platform::DriveType;
-using platform::posix::parse_date_time;
+using platform::SystemOptions;
 using platform::posix::System;
-using platform::posix::SystemOptions;
 
 /// Sets an environment variable for one test.
 class Environment {
@@ -37,16 +36,6 @@ class Environment {
 };
 
 // ---- Clock
-
-TEST(Clock, TimesOfTheCommandLineAreReadStrictly) {
-  EXPECT_EQ(parse_date_time("2014-11-15T11:50"), (DateTime{2014, 11, 15, 11, 50, 0}));
-  EXPECT_EQ(parse_date_time("2016-02-29T23:59:58"), (DateTime{2016, 2, 29, 23, 59, 58}));
-  for (const char* wrong :
-       {"", "2014-11-15", "2014-11-15 11:50", "2014-11-15T11:50Z", "2014-11-15T11:5",
-        "2014-13-15T11:50", "2015-02-29T11:50", "2014-11-15T24:00", "2014-11-15T11:60",
-        "2014-11-15T11:50:60", "2014-11-15T1a:50", "-014-11-15T11:50", "2014-11-00T11:50"})
-    EXPECT_EQ(parse_date_time(wrong), std::nullopt) << wrong;
-}
 
 TEST(Clock, AStoppedClockTellsUtcAndTheZonesLocalTime) {
   const DateTime utc{2014, 11, 15, 20, 50, 0};
@@ -75,17 +64,6 @@ TEST(Clock, TheComputersClockGoesOn) {
 
 // ---- Locale
 
-TEST(Locale, OnlyTheLanguageOfTheNameCounts) {
-  const struct {
-    const char* name;
-    unsigned id;
-  } rows[] = {{"ja", 0x0411},    {"ja_JP.UTF-8", 0x0411}, {"ja_JP@x", 0x0411}, {"ja.eucJP", 0x0411},
-              {"ja-JP", 0x0411}, {"en", 0x0409},          {"", 0x0409},        {"C", 0x0409},
-              {"jav", 0x0409},   {"JA", 0x0409},          {"de_JA", 0x0409},   {"C.UTF-8", 0x0409}};
-  for (const auto& row : rows)
-    EXPECT_EQ(platform::posix::PosixLocale(row.name).locale_id(), row.id) << row.name;
-}
-
 TEST(Locale, FirstVariableThatIsNotEmptyCounts) {
   const Environment all("LC_ALL", "");
   const Environment messages("LC_MESSAGES", nullptr);
@@ -106,7 +84,7 @@ TEST(Help, PageOfATopicIsLookedForInTheHelpFolder) {
   temp.write("program/help/Kavrel_E.htm", "");
   temp.write("program/help/Kavrel_J/index.htm", "");
   temp.folder("program/help/folder.htm");
-  const platform::posix::DriveMap map(temp.path());
+  const platform::posix::PosixDriveMap map(temp.path());
   std::vector<std::string> opened;
   bool works = true;
   platform::posix::PosixHelp help(map, [&](const std::string& page) {
@@ -146,7 +124,7 @@ TEST(System, OptionsChooseRootProgramLocaleAndClock) {
   EXPECT_EQ(system.locale().locale_id(), 0x0411U);
   EXPECT_EQ(system.drives().system_folder().substr(0, 3), "C:\\");
   const std::string program = system.drives().program_path();
-  EXPECT_EQ(program, *system.program_path_of(temp / "program/kavrel"));
+  EXPECT_EQ(program, *system.map().to_program(temp / "program/kavrel"));
   EXPECT_EQ(system.files().replace("C:\\x", "y"), platform::FileError::kNone);
   EXPECT_EQ(temp.content("new/root/x"), "y");
 }
@@ -207,7 +185,7 @@ TEST(System, ProgramFolderIsThatOfTheExecutable) {
   const fakes::TempFolder temp;
   System system({temp.path(), {}, {}, {}});
   const auto here = std::filesystem::read_symlink("/proc/self/exe").string();
-  EXPECT_EQ(system.drives().program_path(), *system.program_path_of(here));
+  EXPECT_EQ(system.drives().program_path(), *system.map().to_program(here));
 }
 
 }  // namespace

@@ -1,42 +1,14 @@
-#include "platform/posix/drive_map.h"
-
-#include <sys/stat.h>
+#include "platform/system/drive_map.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <filesystem>
 #include <string_view>
 
-#include "platform/posix/posix_files.h"
-
-namespace platform::posix {
+namespace platform {
 
 namespace {
 
-constexpr int kFixedMedium = 12;
-
 bool is_separator(char c) {
   return c == '\\' || c == '/';
-}
-
-bool is_os_folder(const std::string& path) {
-  struct stat about {};
-  return ::stat(path.c_str(), &about) == 0 && S_ISDIR(about.st_mode);
-}
-
-/// kMediumMissing only where the folder of a drive is not there: a refusal or an input error says
-/// nothing about that.
-FileError why_no_medium(const std::string& folder) {
-  struct stat about {};
-  if (::stat(folder.c_str(), &about) == 0)
-    return S_ISDIR(about.st_mode) ? FileError::kNone : FileError::kMediumMissing;
-  return errno == ENOENT || errno == ENOTDIR ? FileError::kMediumMissing : file_error(errno);
-}
-
-/// Without a final "/": "" for the root of the file system.
-std::string without_final_slash(std::string folder) {
-  while (!folder.empty() && folder.back() == '/') folder.pop_back();
-  return folder;
 }
 
 /// Names of a path as the officer's system reads them: ".." is a matter of text, not of links.
@@ -56,12 +28,11 @@ std::vector<std::string_view> names_of(std::string_view path) {
   return names;
 }
 
-/// What of `path` lies below `folder` (both without a final "/"), or nothing.
-std::optional<std::string_view> below(std::string_view path, std::string_view folder) {
-  if (!path.starts_with(folder)) return std::nullopt;
-  const auto rest = path.substr(folder.size());
-  if (!rest.empty() && rest.front() != '/') return std::nullopt;
-  return rest;
+bool same_character(char a, char b, bool ignores_case) {
+  const auto lower = [](char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  };
+  return a == b || (ignores_case && lower(a) == lower(b));
 }
 
 }  // namespace
@@ -71,15 +42,42 @@ char drive_letter(char c) {
   return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : '\0';
 }
 
-DriveMap::DriveMap(std::string root, std::function<std::vector<Medium>()> find_media)
-    : root_(without_final_slash(std::move(root))), find_media_(std::move(find_media)) {
+DriveMap::DriveMap(const ComputerPaths& paths, std::vector<Medium> always,
+                   std::function<std::vector<Medium>()> find_media)
+    : paths_(paths), always_(std::move(always)), find_media_(std::move(find_media)) {
+  for (Medium& medium : always_)
+    if (medium.folder) medium.folder = without_final_separator(*medium.folder);
   look();
 }
 
+// "" is the top of a file system that has one.
+std::string DriveMap::without_final_separator(std::string folder) const {
+  while (!folder.empty() && folder.back() == paths_.separator) folder.pop_back();
+  return folder;
+}
+
+// The folder of a whole drive is kept without what parts names, and is no folder then.
+std::string DriveMap::top(const std::string& folder) const {
+  return folder + paths_.separator;
+}
+
+bool DriveMap::same_name(std::string_view a, std::string_view b) const {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char first, char second) {
+    return same_character(first, second, paths_.ignores_case);
+  });
+}
+
+/// What of `path` lies below `folder` (both without a final separator), or nothing.
+std::optional<std::string_view> DriveMap::below(std::string_view path,
+                                                std::string_view folder) const {
+  if (!same_name(path.substr(0, folder.size()), folder)) return std::nullopt;
+  const auto rest = path.substr(folder.size());
+  if (!rest.empty() && rest.front() != paths_.separator) return std::nullopt;
+  return rest;
+}
+
 void DriveMap::look() const {
-  std::vector<Medium> media;
-  media.push_back({"C", 'C', DriveType::kFixed, kFixedMedium, root_});
-  media.push_back({"Z", 'Z', DriveType::kFixed, kFixedMedium, ""});
+  std::vector<Medium> media = always_;
   auto found = find_media_ ? find_media_() : std::vector<Medium>();
   // Those that insist on a letter, or had one before, come before newcomers.
   for (Medium& medium : found)
@@ -91,7 +89,7 @@ void DriveMap::look() const {
     const bool taken = std::any_of(media.begin(), media.end(),
                                    [&](const Medium& m) { return m.letter == medium.letter; });
     if (medium.letter == 0 || taken) continue;
-    if (medium.folder) medium.folder = without_final_slash(*medium.folder);
+    if (medium.folder) medium.folder = without_final_separator(*medium.folder);
     letters_[medium.device] = medium.letter;
     media.push_back(std::move(medium));
   }
@@ -130,8 +128,8 @@ std::vector<Drive> DriveMap::drives() const {
 bool DriveMap::medium_present(char letter) const {
   look();
   const Medium* medium = find(letter);
-  // The folder of Z: is written "": the "/" makes it the root of the file system.
-  return medium != nullptr && medium->folder && is_os_folder(*medium->folder + "/");
+  return medium != nullptr && medium->folder &&
+         paths_.why_no_medium(top(*medium->folder)) == FileError::kNone;
 }
 
 Result<std::string> DriveMap::to_os(const std::string& path,
@@ -141,6 +139,11 @@ Result<std::string> DriveMap::to_os(const std::string& path,
   std::string whole = path;
   // From the top is on the current folder's drive, as the officer's system has it.
   if (!has_drive) whole = (from_top ? current_folder.substr(0, 2) : current_folder + "\\") + path;
+  if (paths_.is_share != nullptr && (paths_.is_share(path) || paths_.is_share(whole))) {
+    std::string share = paths_.is_share(path) ? path : whole;
+    std::replace(share.begin(), share.end(), '/', '\\');
+    return share;
+  }
   if (whole.size() < 2 || whole[1] != ':' || whole.find('\0') != std::string::npos)
     return FileError::kNotFound;
 
@@ -150,39 +153,52 @@ Result<std::string> DriveMap::to_os(const std::string& path,
     medium = find(whole[0]);
   }
   if (medium == nullptr || !medium->folder) return FileError::kMediumMissing;
-  if (const FileError error = why_no_medium(*medium->folder + "/"); error != FileError::kNone)
+  if (const FileError error = paths_.why_no_medium(top(*medium->folder)); error != FileError::kNone)
     return error;
+  auto names = names_of(std::string_view(whole).substr(2));
+  // A name that holds ":" would be another drive, or a part of a file that nobody sees.
+  if (paths_.separator == '\\' && std::any_of(names.begin(), names.end(), [](auto name) {
+        return name.find(':') != std::string_view::npos;
+      }))
+    return FileError::kBadName;
   std::string result = *medium->folder;
-  for (const std::string_view name : names_of(std::string_view(whole).substr(2)))
-    result.append("/").append(name);
-  return result.empty() ? std::string("/") : result;
+  if (elsewhere_ && medium->letter == elsewhere_->letter && !names.empty() &&
+      same_name(names.front(), elsewhere_->name)) {
+    result = elsewhere_->folder;
+    names.erase(names.begin());
+  }
+  for (const std::string_view name : names) {
+    result.push_back(paths_.separator);
+    result.append(name);
+  }
+  const bool is_top = result.find(paths_.separator) == std::string::npos;
+  return is_top ? top(result) : result;
 }
 
 std::optional<std::string> DriveMap::to_program(const std::string& os_path) const {
-  namespace fs = std::filesystem;
-  std::error_code error;
-  fs::path absolute = fs::absolute(os_path, error);
-  if (error || os_path.empty()) return std::nullopt;
-  // Only the file system knows what ".." behind a link means.
-  if (std::find(absolute.begin(), absolute.end(), "..") != absolute.end())
-    absolute = fs::weakly_canonical(absolute, error);
-  if (error) return std::nullopt;
-  const std::string path = without_final_slash(absolute.lexically_normal().string());
-  if (path.find('\\') != std::string::npos || path.find('\0') != std::string::npos)
-    return std::nullopt;
+  if (os_path.empty() || os_path.find('\0') != std::string::npos) return std::nullopt;
+  const auto normal = paths_.normal(os_path);
+  if (!normal) return std::nullopt;
+  if (paths_.is_share != nullptr && paths_.is_share(*normal)) return normal;
+  const std::string path = without_final_separator(*normal);
+  if (paths_.separator != '\\' && path.find('\\') != std::string::npos) return std::nullopt;
 
-  // Z: holds everything, and a medium may be mounted below C:.
+  const auto in_words = [&](std::string result, std::string_view rest) {
+    for (const char c : rest) result.push_back(c == paths_.separator ? '\\' : c);
+    return result;
+  };
+  if (elsewhere_)
+    if (const auto rest = below(path, elsewhere_->folder))
+      return in_words(std::string(1, elsewhere_->letter) + ":\\" + elsewhere_->name, *rest);
+  // One drive may hold everything, and a medium may lie below C:.
   const Medium* nearest = nullptr;
   for (const Medium& medium : media_) {
     if (!medium.folder || !below(path, *medium.folder)) continue;
     if (nearest == nullptr || medium.folder->size() > nearest->folder->size()) nearest = &medium;
   }
   if (nearest == nullptr) return std::nullopt;
-  std::string result = std::string(1, nearest->letter) + ":";
   const auto rest = *below(path, *nearest->folder);
-  for (const char c : rest.empty() ? std::string_view("/") : rest)
-    result.push_back(c == '/' ? '\\' : c);
-  return result;
+  return in_words(std::string(1, nearest->letter) + (rest.empty() ? ":\\" : ":"), rest);
 }
 
-}  // namespace platform::posix
+}  // namespace platform

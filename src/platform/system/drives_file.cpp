@@ -1,4 +1,4 @@
-#include "platform/posix/drives_file.h"
+#include "platform/system/drives_file.h"
 
 #include <algorithm>
 #include <optional>
@@ -6,7 +6,7 @@
 #include "text/numbers.h"
 #include "text/strings.h"
 
-namespace platform::posix {
+namespace platform {
 
 namespace {
 
@@ -49,7 +49,7 @@ std::optional<int> media_type_of(std::string_view name) {
 
 /// The drive of a line, or what is wrong with it.
 std::optional<Medium> read_line(std::string_view line, const std::string& root,
-                                std::string& problem) {
+                                const ComputerPaths& paths, std::string& problem) {
   const auto letter = next_word(line);
   const auto type_name = next_word(line);
   const auto medium_name = next_word(line);
@@ -70,13 +70,15 @@ std::optional<Medium> read_line(std::string_view line, const std::string& root,
   medium.type = *type;
   medium.media_type = *media_type;
   if (line != "absent")
-    medium.folder = line.front() == '/' ? std::string(line) : root + "/" + std::string(line);
+    medium.folder =
+        paths.is_absolute(line) ? std::string(line) : root + paths.separator + std::string(line);
   return medium;
 }
 
 }  // namespace
 
-GivenDrives read_drives(std::string_view text, const std::string& root) {
+GivenDrives read_drives(std::string_view text, const std::string& root,
+                        const ComputerPaths& paths) {
   GivenDrives result;
   text = text::without_byte_order_mark(text);
   for (int number = 1; !text.empty(); ++number) {
@@ -85,7 +87,7 @@ GivenDrives read_drives(std::string_view text, const std::string& root) {
     text.remove_prefix(std::min(text.size(), end + 1));
     if (line.empty() || line.front() == '#') continue;
     std::string problem;
-    if (auto medium = read_line(line, root, problem))
+    if (auto medium = read_line(line, root, paths, problem))
       result.media.push_back(std::move(*medium));
     else
       result.problems.push_back("line " + std::to_string(number) + ": " + problem);
@@ -93,4 +95,4 @@ GivenDrives read_drives(std::string_view text, const std::string& root) {
   return result;
 }
 
-}  // namespace platform::posix
+}  // namespace platform

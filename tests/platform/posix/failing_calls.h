@@ -14,6 +14,12 @@
 
 namespace tests {
 
+/// What a lock says where the file system has none to give.
+inline constexpr int kNoLocks[] = {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL};
+/// The call that locks a claim.
+inline constexpr const char* kClaimLock = "try_lock";
+inline constexpr int kBrokenDisk = EIO;
+
 class FailingCalls : public platform::posix::SystemCalls {
  public:
   static constexpr int kKilled = 99;  ///< exit status of a process that ended at kill_at()

@@ -43,8 +43,8 @@ class NoMemory : public platform::posix::SystemCalls {
   }
 };
 
-platform::posix::SystemOptions rooted(const fakes::TempFolder& temp) {
-  platform::posix::SystemOptions options;
+platform::SystemOptions rooted(const fakes::TempFolder& temp) {
+  platform::SystemOptions options;
   options.root = temp.path();
   return options;
 }
@@ -53,7 +53,7 @@ TEST(NoException, MemoryThatRunsOutIsAnErrorAndLeavesNothingOpen) {
   const fakes::TempFolder temp;
   temp.write("a", "content");
   NoMemory calls;
-  const platform::posix::DriveMap drives(temp.path());
+  const platform::posix::PosixDriveMap drives(temp.path());
   const platform::posix::PosixFiles files(drives, calls);
   EXPECT_EQ(files.read("C:\\a").error, FileError::kNoMemory);
   EXPECT_EQ(files.read_part("C:\\a", 0, 1).error, FileError::kNoMemory);

@@ -13,14 +13,15 @@
 #include <map>
 
 #include "fakes/temp_folder.h"
-#include "platform/failing_calls.h"
+#include "platform/posix/failing_calls.h"
+#include "platform/system/process.h"
 
 namespace {
 
 using fakes::TempFolder;
 using platform::FileError;
 using platform::There;
-using platform::posix::DriveMap;
+using DriveMap = platform::posix::PosixDriveMap;
 using platform::posix::PosixFiles;
 using tests::FailingCalls;
 
@@ -455,7 +456,7 @@ TEST(PosixFiles, AFileAboveTheLimitOfSizeIsAFullDiskAndNoSignal) {
   Place place(true);
   const pid_t child = ::fork();
   if (child == 0) {
-    platform::posix::prepare_process();
+    platform::prepare_process();
     const rlimit limit{4, 4};  // what the logbook has
     ::setrlimit(RLIMIT_FSIZE, &limit);
     platform::posix::SystemCalls calls;

@@ -10,15 +10,15 @@
 //
 // TYPE is removable, fixed, remote, cdrom or ramdisk; MEDIUM is floppy, other (removable but no
 // floppy), fixed, unknown, or a medium kind's number. FOLDER may come and go while the program
-// runs. Where there is the file, it says it all: the kernel is not asked.
+// runs. Where there is the file, it says it all: the computer is not asked.
 
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/posix/drive_map.h"
+#include "platform/system/drive_map.h"
 
-namespace platform::posix {
+namespace platform {
 
 struct GivenDrives {
   std::vector<Medium> media;
@@ -26,7 +26,9 @@ struct GivenDrives {
   std::vector<std::string> problems;
 };
 
-/// Reads the text of the file; `root` is where relative folders start.
-[[nodiscard]] GivenDrives read_drives(std::string_view text, const std::string& root);
+/// Reads the text of the file; `root` is where relative folders start, and `paths` what absolute ones
+/// are like.
+[[nodiscard]] GivenDrives read_drives(std::string_view text, const std::string& root,
+                                      const ComputerPaths& paths);
 
-}  // namespace platform::posix
+}  // namespace platform

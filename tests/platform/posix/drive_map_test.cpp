@@ -1,4 +1,4 @@
-#include "platform/posix/drive_map.h"
+#include "platform/posix/posix_drive_map.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +8,8 @@ namespace {
 
 using platform::DriveType;
 using platform::FileError;
-using platform::posix::DriveMap;
-using platform::posix::Medium;
+using DriveMap = platform::posix::PosixDriveMap;
+using platform::Medium;
 
 std::string letters(const DriveMap& map) {
   std::string result;

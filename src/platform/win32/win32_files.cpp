@@ -1,0 +1,737 @@
+#include "platform/win32/win32_files.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+#include "platform/paths.h"
+#include "platform/win32/wide.h"
+
+namespace platform::win32 {
+
+namespace {
+
+constexpr int kTries = 1000;
+constexpr DWORD kQuotaExceeded = 1295;  // ERROR_DISK_QUOTA_EXCEEDED, which not every header has
+constexpr int kLongestPause = 50;       // milliseconds
+/// What a file keeps when its content is replaced.
+constexpr DWORD kKeptAttributes =
+    FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+
+/// What a lock says where the file system has none to give.
+bool knows_no_locks(DWORD error_number) {
+  return error_number == ERROR_NOT_SUPPORTED || error_number == ERROR_INVALID_FUNCTION ||
+         error_number == ERROR_CALL_NOT_IMPLEMENTED;
+}
+
+bool is_missing(DWORD error_number) {
+  return error_number == ERROR_FILE_NOT_FOUND || error_number == ERROR_PATH_NOT_FOUND;
+}
+
+bool same_file(const BY_HANDLE_FILE_INFORMATION& a, const BY_HANDLE_FILE_INFORMATION& b) {
+  return a.dwVolumeSerialNumber == b.dwVolumeSerialNumber && a.nFileIndexHigh == b.nFileIndexHigh &&
+         a.nFileIndexLow == b.nFileIndexLow;
+}
+
+std::uint64_t whole_of(DWORD high, DWORD low) {
+  constexpr unsigned kHalf = 32;
+  return std::uint64_t{high} << kHalf | low;
+}
+
+std::wstring folder_of(const std::wstring& path) {
+  const auto at = path.find_last_of(L"\\/");
+  return at == std::wstring::npos ? std::wstring(L".") : path.substr(0, at + 1);
+}
+
+bool equal_names(const std::wstring& a, const std::wstring& b) {
+  return ::CompareStringOrdinal(a.c_str(), static_cast<int>(a.size()), b.c_str(),
+                                static_cast<int>(b.size()), TRUE) == CSTR_EQUAL;
+}
+
+}  // namespace
+
+FileError file_error(DWORD error_number) {
+  // A computer or share that does not answer is a drive that is not there.
+  static constexpr struct {
+    DWORD error_number;
+    FileError error;
+  } kReasons[] = {
+      {ERROR_FILE_NOT_FOUND, FileError::kNotFound},
+      {ERROR_PATH_NOT_FOUND, FileError::kNotFound},
+      {ERROR_DIRECTORY, FileError::kNotFound},
+      {ERROR_NO_MORE_FILES, FileError::kNotFound},
+      {ERROR_ACCESS_DENIED, FileError::kAccessDenied},
+      {ERROR_WRITE_PROTECT, FileError::kAccessDenied},
+      {ERROR_NETWORK_ACCESS_DENIED, FileError::kAccessDenied},
+      {ERROR_PRIVILEGE_NOT_HELD, FileError::kAccessDenied},
+      {ERROR_DISK_FULL, FileError::kNoSpace},
+      {ERROR_HANDLE_DISK_FULL, FileError::kNoSpace},
+      {kQuotaExceeded, FileError::kNoSpace},
+      {ERROR_FILE_TOO_LARGE, FileError::kNoSpace},
+      {ERROR_NOT_READY, FileError::kMediumMissing},
+      {ERROR_INVALID_DRIVE, FileError::kMediumMissing},
+      {ERROR_NO_MEDIA_IN_DRIVE, FileError::kMediumMissing},
+      {ERROR_WRONG_DISK, FileError::kMediumMissing},
+      {ERROR_DEVICE_NOT_CONNECTED, FileError::kMediumMissing},
+      {ERROR_DEV_NOT_EXIST, FileError::kMediumMissing},
+      {ERROR_BAD_NETPATH, FileError::kMediumMissing},
+      {ERROR_BAD_NET_NAME, FileError::kMediumMissing},
+      {ERROR_NETNAME_DELETED, FileError::kMediumMissing},
+      {ERROR_NETWORK_UNREACHABLE, FileError::kMediumMissing},
+      {ERROR_CANT_RESOLVE_FILENAME, FileError::kBadLink},
+      {ERROR_TOO_MANY_OPEN_FILES, FileError::kTooManyOpen},
+      {ERROR_INVALID_NAME, FileError::kBadName},
+      {ERROR_BAD_PATHNAME, FileError::kBadName},
+      {ERROR_FILENAME_EXCED_RANGE, FileError::kBadName},
+      {ERROR_BUFFER_OVERFLOW, FileError::kBadName},
+      {ERROR_SHARING_VIOLATION, FileError::kLocked},
+      {ERROR_LOCK_VIOLATION, FileError::kLocked},
+      {ERROR_USER_MAPPED_FILE, FileError::kLocked},
+      {ERROR_DELETE_PENDING, FileError::kLocked},
+      {ERROR_FILE_EXISTS, FileError::kExists},
+      {ERROR_ALREADY_EXISTS, FileError::kExists},
+      {ERROR_NOT_ENOUGH_MEMORY, FileError::kNoMemory},
+      {ERROR_OUTOFMEMORY, FileError::kNoMemory},
+      {ERROR_NO_SYSTEM_RESOURCES, FileError::kNoMemory},
+  };
+  const auto* const row =
+      std::find_if(std::begin(kReasons), std::end(kReasons),
+                   [&](const auto& each) { return each.error_number == error_number; });
+  return row == std::end(kReasons) ? FileError::kOther : row->error;
+}
+
+/// A file that closes itself.
+class Win32Files::Open {
+ public:
+  Open(SystemCalls& calls, const std::wstring& path, DWORD access, DWORD disposition,
+       DWORD flags = FILE_ATTRIBUTE_NORMAL)
+      : calls_(calls), file_(calls.create_file(path.c_str(), access, disposition, flags)) {
+    if (ok()) return;
+    error_number_ = ::GetLastError();
+    is_being_deleted_ = calls.is_being_deleted();
+  }
+  ~Open() { (void)close(); }
+  Open(const Open&) = delete;
+  Open& operator=(const Open&) = delete;
+
+  [[nodiscard]] bool ok() const { return file_ != INVALID_HANDLE_VALUE; }
+  [[nodiscard]] HANDLE file() const { return file_; }
+  [[nodiscard]] DWORD error_number() const { return error_number_; }
+  [[nodiscard]] bool is_being_deleted() const { return !ok() && is_being_deleted_; }
+  [[nodiscard]] FileError error() const {
+    return is_being_deleted() ? FileError::kLocked : file_error(error_number_);
+  }
+  FileError close() {
+    if (!ok()) return FileError::kNone;
+    const bool closed = calls_.close(file_);
+    file_ = INVALID_HANDLE_VALUE;
+    return closed ? FileError::kNone : file_error(::GetLastError());
+  }
+
+ private:
+  SystemCalls& calls_;
+  HANDLE file_;
+  DWORD error_number_ = 0;
+  bool is_being_deleted_ = false;
+};
+
+/// The file under its path, open and locked.
+class Win32Files::Log : public LockedLog {
+ public:
+  /// Creates the file when there is none. Between opening and locking another copy of the program
+  /// may have removed or replaced the file; then what was opened is no longer what the path names,
+  /// and the whole is done again.
+  Log(const Win32Files& files, std::wstring path)
+      : files_(files), calls_(files.calls_), path_(std::move(path)) {
+    constexpr DWORD kAccess = GENERIC_READ | GENERIC_WRITE;
+    const std::int64_t until = calls_.now() + kPatience;
+    for (int i = 0; i < kTries; ++i) {
+      created_ = false;
+      open_.emplace(calls_, path_, kAccess, OPEN_EXISTING);
+      if (!open_->ok() && open_->error_number() == ERROR_FILE_NOT_FOUND) {
+        created_ = true;
+        open_.emplace(calls_, path_, kAccess, CREATE_NEW);
+        if (!open_->ok() && file_error(open_->error_number()) == FileError::kExists) {
+          // There and not there: a link that leads nowhere, or somebody was quicker.
+          const auto found = files_.look_at(path_);
+          if (found.there == There::kCannotTell) {
+            error_ = found.error;
+            return;
+          }
+          continue;
+        }
+      }
+      // Of a file that was removed the name stays for as long as somebody has it open.
+      if (!open_->ok() && open_->error() == FileError::kLocked && calls_.now() < until) {
+        calls_.pause(kLongestPause);
+        continue;
+      }
+      if (!open_->ok()) {
+        error_ = open_->error();
+        return;
+      }
+      if (lock(until)) {
+        drop_ = created_ && error_ == FileError::kNone;
+        return;
+      }
+    }
+    error_ = FileError::kOther;
+  }
+  ~Log() override {
+    BY_HANDLE_FILE_INFORMATION now{};
+    // Without locks somebody may have written since.
+    if (drop_ && size_ == 0 && calls_.about(open_->file(), now) &&
+        whole_of(now.nFileSizeHigh, now.nFileSizeLow) == 0)
+      files_.take_away(path_);
+  }
+  Log(const Log&) = delete;
+  Log& operator=(const Log&) = delete;
+
+  [[nodiscard]] FileError error() const { return error_; }
+
+  [[nodiscard]] bool is_locked() const override { return is_locked_; }
+  [[nodiscard]] bool created() const override { return created_; }
+  [[nodiscard]] std::uint64_t size() const override { return size_; }
+  void drop_if_empty() override { drop_ = true; }
+
+  [[nodiscard]] Result<std::string> read(std::uint64_t from, std::uint64_t count) const override {
+    return files_.part_of(open_->file(), from, count);
+  }
+
+  [[nodiscard]] FileError append(std::string_view content) override {
+    // With the room set aside the write cannot stop half-way on a full disk. Not every file system
+    // can do it; then the cutting back below has to serve.
+    if (!content.empty() && !calls_.reserve(open_->file(), size_ + content.size()) &&
+        file_error(::GetLastError()) == FileError::kNoSpace)
+      return FileError::kNoSpace;
+    const FileError error = write_once(content);
+    if (error == FileError::kNone) {
+      size_ += content.size();
+      return error;
+    }
+    if (cut(size_) != FileError::kNone) {
+      BY_HANDLE_FILE_INFORMATION now{};
+      size_ = calls_.about(open_->file(), now) ? whole_of(now.nFileSizeHigh, now.nFileSizeLow)
+                                               : size_ + content.size();
+    }
+    return error;
+  }
+
+  [[nodiscard]] FileError cut(std::uint64_t size) override {
+    if (!calls_.set_size(open_->file(), size)) return file_error(::GetLastError());
+    size_ = size;
+    // It is cut, flushed or not: a refusal would say that the line is still there.
+    (void)calls_.flush(open_->file());
+    return FileError::kNone;
+  }
+
+ private:
+  static constexpr int kPatience = 3000;  // milliseconds
+
+  /// True when the matter is settled, well or not.
+  bool lock(std::int64_t until) {
+    if (const FileError error = files_.regular(*open_); error != FileError::kNone)
+      return settled(error);
+    // An empty file that this call created stays when it cannot be locked: nobody can tell whether
+    // another copy of the program has begun to write into it.
+    for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
+      if (calls_.lock(open_->file())) break;
+      const DWORD why = ::GetLastError();
+      if (knows_no_locks(why)) {
+        is_locked_ = false;
+        break;
+      }
+      // Anything but "somebody has it" does not get better by waiting.
+      if (file_error(why) != FileError::kLocked) return settled(file_error(why));
+      if (calls_.now() >= until) return settled(FileError::kLocked);
+      calls_.pause(pause);
+    }
+    // Looked at again: others wrote until the lock was had.
+    BY_HANDLE_FILE_INFORMATION opened{};
+    if (!calls_.about(open_->file(), opened)) return settled(file_error(::GetLastError()));
+    const Open name(calls_, path_, FILE_READ_ATTRIBUTES, OPEN_EXISTING);
+    // Gone meanwhile: not settled, so it is opened and locked anew.
+    if (!name.ok())
+      return !is_missing(name.error_number()) && !name.is_being_deleted() && settled(name.error());
+    BY_HANDLE_FILE_INFORMATION named{};
+    if (!calls_.about(name.file(), named)) return settled(file_error(::GetLastError()));
+    if (!same_file(opened, named)) return false;
+    size_ = whole_of(opened.nFileSizeHigh, opened.nFileSizeLow);
+    // Another copy may have written between our creating the file and locking it.
+    if (size_ > 0) created_ = false;
+    return true;
+  }
+  bool settled(FileError error) {
+    error_ = error;
+    return true;
+  }
+
+  [[nodiscard]] FileError write_once(std::string_view content) const {
+    DWORD count = 0;
+    if (!calls_.write_at_end(open_->file(), content.data(), static_cast<DWORD>(content.size()),
+                             count))
+      return file_error(::GetLastError());
+    // What went in is not gone on with: a line is one write or none.
+    if (count != content.size()) return FileError::kNoSpace;
+    return calls_.flush(open_->file()) ? FileError::kNone : file_error(::GetLastError());
+  }
+
+  const Win32Files& files_;
+  SystemCalls& calls_;
+  std::wstring path_;
+  std::optional<Open> open_;
+  std::uint64_t size_ = 0;
+  bool is_locked_ = true;
+  bool created_ = false;
+  bool drop_ = false;
+  FileError error_ = FileError::kNone;
+};
+
+Win32Files::Win32Files(const PathMap& drives, SystemCalls& calls)
+    : drives_(drives), calls_(calls), current_folder_("C:\\") {
+  // Where the process was started; the process itself stays there, whatever is set later.
+  current_folder_ = drives.to_program(".").value_or(current_folder_);
+}
+
+Result<std::wstring> Win32Files::os(const std::string& path) const {
+  const auto os_path = drives_.to_os(path, current_folder_);
+  return os_path.ok() ? wide_path(*os_path.value) : Result<std::wstring>(os_path.error);
+}
+
+std::optional<BY_HANDLE_FILE_INFORMATION> Win32Files::about(const std::wstring& path) const {
+  // With this flag folders are opened too.
+  const Open found(calls_, path, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+  BY_HANDLE_FILE_INFORMATION result{};
+  if (!found.ok() || !calls_.about(found.file(), result)) return std::nullopt;
+  return result;
+}
+
+// ---- Reading
+
+FileError Win32Files::regular(const Open& file) const {
+  if (!file.ok()) return file.error();
+  if (calls_.file_type(file.file()) != FILE_TYPE_DISK) return FileError::kNotAFile;
+  BY_HANDLE_FILE_INFORMATION found{};
+  if (!calls_.about(file.file(), found)) return file_error(::GetLastError());
+  return (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileError::kAccessDenied
+                                                                  : FileError::kNone;
+}
+
+Result<std::string> Win32Files::part_of(HANDLE file, std::uint64_t from,
+                                        std::uint64_t count) const {
+  // The end may be asked for as "as much as there is": no room is taken for what is not there.
+  constexpr std::size_t kBlock = 1U << 16U;
+  constexpr auto kBeyond = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+  std::string content;
+  try {
+    while (content.size() < count && content.size() < kBeyond - std::min(from, kBeyond)) {
+      const std::size_t done = content.size();
+      const auto size = std::min<std::uint64_t>(count - done, kBlock);
+      content.resize(done + static_cast<std::size_t>(size));
+      DWORD got = 0;
+      if (!calls_.read_at(file, content.data() + done, static_cast<DWORD>(size), from + done, got))
+        return file_error(::GetLastError());
+      content.resize(done + got);
+      if (got == 0) break;
+    }
+  } catch (const std::bad_alloc&) {
+    return FileError::kNoMemory;
+  }
+  return content;
+}
+
+Result<std::string> Win32Files::read_part(const std::string& path, std::uint64_t from,
+                                          std::uint64_t count) const {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  const Open file(calls_, *os_path.value, GENERIC_READ, OPEN_EXISTING);
+  if (const auto error = regular(file); error != FileError::kNone) return error;
+  return part_of(file.file(), from, count);
+}
+
+Result<std::string> Win32Files::read(const std::string& path, std::uint64_t largest) const {
+  // One byte more than is taken tells that there is more, however the file grows meanwhile.
+  const std::uint64_t count = largest + (largest < ~std::uint64_t{0} ? 1 : 0);
+  auto content = read_part(path, 0, count);
+  if (content.ok() && content.value->size() > largest) return FileError::kOther;
+  return content;
+}
+
+// ---- Replacing
+
+FileError Win32Files::write_all(HANDLE file, std::string_view content) const {
+  constexpr std::size_t kLargest = 1U << 24U;
+  while (!content.empty()) {
+    DWORD count = 0;
+    if (!calls_.write_at_end(file, content.data(),
+                             static_cast<DWORD>(std::min(content.size(), kLargest)), count))
+      return file_error(::GetLastError());
+    // A write of nothing would be tried for ever.
+    if (count == 0) return FileError::kNoSpace;
+    content.remove_prefix(count);
+  }
+  return FileError::kNone;
+}
+
+Result<StagedFile> Win32Files::stage(const std::string& path, std::string_view content) {
+  return stage_with(path, [&](HANDLE file) { return write_all(file, content); });
+}
+
+Result<StagedFile> Win32Files::stage_pieces(const std::string& path, const NextPiece& next) {
+  const auto write = [&](HANDLE file) {
+    try {
+      while (true) {
+        const auto piece = next();
+        if (!piece.ok() || piece.value->empty()) return piece.error;
+        if (const auto error = write_all(file, *piece.value); error != FileError::kNone)
+          return error;
+      }
+    } catch (const std::bad_alloc&) {
+      return FileError::kNoMemory;
+    }
+  };
+  auto staged = stage_with(path, write);
+  if (!staged.ok()) return staged;
+  // Read back from memory, a medium that keeps nothing would pass for a good one. Where a file that
+  // nobody has open is opened past the memory, what the memory holds of it is given up.
+  if (const auto beside = os(staged.value->temporary); beside.ok())
+    const Open past_memory(calls_, *beside.value, GENERIC_READ, OPEN_EXISTING,
+                           FILE_FLAG_NO_BUFFERING);
+  return staged;
+}
+
+FileError Win32Files::why_protected(const std::wstring& path) const {
+  // A move asks the folder only, so a file that is protected would be replaced. One that another
+  // program keeps to itself is found here, before anything is written.
+  const Open old(calls_, path, GENERIC_WRITE, OPEN_EXISTING);
+  return old.ok() ? FileError::kNone : old.error();
+}
+
+Result<StagedFile> Win32Files::stage_with(const std::string& path, const Write& write) {
+  const auto target = os(path);
+  if (!target.ok()) return target.error;
+  const Look there = look_at(*target.value);
+  if (there.there == There::kCannotTell) return there.error;
+  if (there.there == There::kOther) return FileError::kNotAFile;
+  if (there.there == There::kFolder) return FileError::kAccessDenied;
+  std::optional<BY_HANDLE_FILE_INFORMATION> old;
+  if (there.there == There::kFile) {
+    if (const auto error = why_protected(*target.value); error != FileError::kNone) return error;
+    old = about(*target.value);
+  }
+
+  const std::string folder(folder_part(path));
+  for (int i = 0; i < kTries; ++i) {
+    // Never the name of the file: no search for reports or logbooks may find a half-written one.
+    const std::string name = staged_name(::GetCurrentProcessId(), staged_count_++);
+    const auto beside = os(folder + name);
+    if (!beside.ok()) return beside.error;
+    Open file(calls_, *beside.value, GENERIC_WRITE, CREATE_NEW);
+    if (!file.ok() && file_error(file.error_number()) == FileError::kExists)
+      continue;  // left by an earlier crash
+    if (!file.ok()) return file.error();
+    FileError error = write(file.file());
+    if (error == FileError::kNone && !calls_.flush(file.file()))
+      error = file_error(::GetLastError());
+    const FileError closing = file.close();
+    if (error == FileError::kNone) error = closing;
+    if (error != FileError::kNone) {
+      (void)calls_.delete_file(beside.value->c_str());
+      return error;
+    }
+    // A medium without attributes refuses this; the file itself is none the worse for it.
+    if (old && (old->dwFileAttributes & kKeptAttributes) != 0)
+      (void)calls_.set_attributes(beside.value->c_str(), old->dwFileAttributes & kKeptAttributes);
+    return StagedFile{path, folder + name};
+  }
+  return FileError::kOther;
+}
+
+FileError Win32Files::move(const StagedFile& staged, DWORD flags) const {
+  constexpr int kPatience = 1000;  // milliseconds
+  const auto from = os(staged.temporary);
+  const auto to = os(staged.path);
+  if (!from.ok()) return from.error;
+  if (!to.ok()) return to.error;
+  const std::int64_t until = calls_.now() + kPatience;
+  for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
+    if (calls_.move(from.value->c_str(), to.value->c_str(), flags)) return FileError::kNone;
+    const DWORD why = ::GetLastError();
+    // That somebody has the old file open without leave to replace it is told as "denied".
+    const bool may_pass = why == ERROR_SHARING_VIOLATION || why == ERROR_LOCK_VIOLATION ||
+                          (why == ERROR_ACCESS_DENIED && look_at(*to.value).there == There::kFile);
+    if (!may_pass || calls_.now() >= until) return file_error(why);
+    calls_.pause(pause);
+  }
+}
+
+FileError Win32Files::commit(const StagedFile& staged, Over over) {
+  return move(staged,
+              MOVEFILE_WRITE_THROUGH | (over == Over::kReplace ? MOVEFILE_REPLACE_EXISTING : 0U));
+}
+
+FileError Win32Files::note(const std::string& path, std::string_view content) {
+  const auto staged = stage(path, content);
+  if (!staged.ok()) return staged.error;
+  const FileError error = move(*staged.value, MOVEFILE_REPLACE_EXISTING);
+  if (error != FileError::kNone) discard(*staged.value);
+  return error;
+}
+
+void Win32Files::discard(const StagedFile& staged) {
+  if (const auto os_path = os(staged.temporary); os_path.ok())
+    (void)calls_.delete_file(os_path.value->c_str());
+}
+
+void Win32Files::take_away(const std::wstring& path) const {
+  for (int i = 0; i < kTries; ++i) {
+    const auto name = to_wide(staged_name(::GetCurrentProcessId(), staged_count_++));
+    const std::wstring aside = folder_of(path) + name.value_or(L"");
+    if (calls_.move(path.c_str(), aside.c_str(), 0)) {
+      (void)calls_.delete_file(aside.c_str());
+      return;
+    }
+    if (file_error(::GetLastError()) == FileError::kExists) continue;
+    (void)calls_.delete_file(path.c_str());
+    return;
+  }
+}
+
+// ---- The logbook
+
+Result<std::unique_ptr<LockedLog>> Win32Files::lock_log(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  auto log = std::make_unique<Log>(*this, *os_path.value);
+  if (log->error() != FileError::kNone) return log->error();
+  return {std::move(log)};
+}
+
+bool Win32Files::is_running(std::uint64_t process) const {
+  constexpr std::uint64_t kLargest = std::numeric_limits<DWORD>::max();
+  return process != 0 && process <= kLargest && calls_.is_running(static_cast<DWORD>(process));
+}
+
+// ---- Claiming
+
+/// An open file that is locked, and removed before the lock goes.
+class Win32Files::LockClaim : public Claim {
+ public:
+  LockClaim(const Win32Files& files, std::wstring path)
+      : files_(files),
+        calls_(files.calls_),
+        path_(std::move(path)),
+        // Not a new one only: the file of a copy that was killed stays, and its lock does not.
+        open_(calls_, path_, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS) {
+    error_ = make();
+  }
+  ~LockClaim() override {
+    if (error_ == FileError::kNone) files_.take_away(path_);
+  }
+  LockClaim(const LockClaim&) = delete;
+  LockClaim& operator=(const LockClaim&) = delete;
+
+  [[nodiscard]] FileError error() const { return error_; }
+  [[nodiscard]] bool is_locked() const override { return is_locked_; }
+
+ private:
+  [[nodiscard]] FileError make() {
+    if (const FileError error = files_.regular(open_); error != FileError::kNone) return error;
+    if (!calls_.lock(open_.file())) {
+      const DWORD why = ::GetLastError();
+      if (!knows_no_locks(why)) return file_error(why);
+      is_locked_ = false;
+    }
+    BY_HANDLE_FILE_INFORMATION opened{};
+    if (!calls_.about(open_.file(), opened)) return file_error(::GetLastError());
+    const Open name(calls_, path_, FILE_READ_ATTRIBUTES, OPEN_EXISTING);
+    BY_HANDLE_FILE_INFORMATION named{};
+    const bool found = name.ok() && calls_.about(name.file(), named);
+    if (!found && !is_missing(name.error_number()) && !name.is_being_deleted())
+      return name.ok() ? file_error(::GetLastError()) : name.error();
+    // Between our opening the file and locking it another copy gave up its claim: what we hold is
+    // no longer what the path names.
+    return found && same_file(opened, named) ? FileError::kNone : FileError::kLocked;
+  }
+
+  const Win32Files& files_;
+  SystemCalls& calls_;
+  std::wstring path_;
+  Open open_;
+  bool is_locked_ = true;
+  FileError error_ = FileError::kNone;
+};
+
+Result<std::unique_ptr<Claim>> Win32Files::claim(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  auto claim = std::make_unique<LockClaim>(*this, *os_path.value);
+  if (claim->error() != FileError::kNone) return claim->error();
+  return {std::move(claim)};
+}
+
+// ---- What is there
+
+Look Win32Files::look(const std::string& path) const {
+  const auto os_path = os(path);
+  if (os_path.ok()) return look_at(*os_path.value);
+  if (os_path.error == FileError::kNotFound) return {};
+  return {There::kCannotTell, os_path.error};
+}
+
+Look Win32Files::look_at(const std::wstring& path) const {
+  const Open found(calls_, path, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+  if (found.ok()) {
+    if (calls_.file_type(found.file()) != FILE_TYPE_DISK) return {There::kOther};
+    BY_HANDLE_FILE_INFORMATION about{};
+    if (!calls_.about(found.file(), about))
+      return {There::kCannotTell, file_error(::GetLastError())};
+    if ((about.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return {There::kFolder};
+    return {There::kFile, FileError::kNone, whole_of(about.nFileSizeHigh, about.nFileSizeLow)};
+  }
+  // A name that somebody has removed and somebody still holds is on its way out.
+  if (found.error() != FileError::kNotFound) return {There::kCannotTell, found.error()};
+  // A link may lead to a share that is not there now: what it names is not gone for that.
+  WIN32_FILE_ATTRIBUTE_DATA name{};
+  if (calls_.attributes(path.c_str(), name)) {
+    const bool is_link = (name.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    return {There::kCannotTell, is_link ? FileError::kBadLink : FileError::kOther};
+  }
+  if (const FileError error = file_error(::GetLastError()); error != FileError::kNotFound)
+    return {There::kCannotTell, error};
+  return {};
+}
+
+std::optional<DateTime> Win32Files::modified(const std::string& path) const {
+  const auto os_path = os(path);
+  const auto found = os_path.ok() ? about(*os_path.value) : std::nullopt;
+  SYSTEMTIME utc{};
+  SYSTEMTIME local{};
+  if (!found || ::FileTimeToSystemTime(&found->ftLastWriteTime, &utc) == 0 ||
+      ::SystemTimeToTzSpecificLocalTime(nullptr, &utc, &local) == 0)
+    return std::nullopt;
+  return DateTime{local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
+}
+
+Result<std::vector<FolderEntry>> Win32Files::list(const std::string& folder) const {
+  const auto os_path = drives_.to_os(folder, current_folder_);
+  if (!os_path.ok()) return os_path.error;
+  const bool ends = os_path.value->ends_with('\\');
+  const auto pattern = wide_path(*os_path.value + (ends ? "*" : "\\*"));
+  if (!pattern.ok()) return pattern.error;
+  std::vector<FolderEntry> entries;
+  WIN32_FIND_DATAW entry{};
+  const HANDLE search = calls_.find_first(pattern.value->c_str(), entry);
+  if (search == INVALID_HANDLE_VALUE) {
+    // The top of a drive holds not even "." when it is empty.
+    const DWORD why = ::GetLastError();
+    if (why == ERROR_FILE_NOT_FOUND && look(folder).there == There::kFolder) return entries;
+    return file_error(why);
+  }
+  DWORD why = ERROR_NO_MORE_FILES;
+  try {
+    do {
+      const auto name = to_utf8(static_cast<const wchar_t*>(entry.cFileName));
+      if (!name || *name == "." || *name == "..") continue;
+      bool is_folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+      bool is_other = (entry.dwFileAttributes & FILE_ATTRIBUTE_DEVICE) != 0;
+      // A link is what it leads to.
+      if ((entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+        const Look target = look(join(folder, *name));
+        if (target.there == There::kFolder) is_folder = true;
+        is_other = target.there == There::kOther;
+      }
+      if (!is_other) entries.push_back({*name, is_folder});
+    } while (calls_.find_next(search, entry));
+    why = ::GetLastError();
+  } catch (const std::bad_alloc&) {
+    why = ERROR_NOT_ENOUGH_MEMORY;
+  }
+  (void)calls_.find_close(search);
+  if (why != ERROR_NO_MORE_FILES) return file_error(why);
+  return entries;
+}
+
+// ---- Changing what is there
+
+FileError Win32Files::create_folder(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  if (const Look found = look_at(*os_path.value); found.there != There::kNo) {
+    if (found.there == There::kFolder) return FileError::kNone;
+    return found.there == There::kCannotTell ? found.error : FileError::kAccessDenied;
+  }
+  if (calls_.create_folder(os_path.value->c_str())) return FileError::kNone;
+  const FileError error = file_error(::GetLastError());
+  // Another copy of the program may have made it since the look.
+  return error == FileError::kExists && is_folder(path) ? FileError::kNone : error;
+}
+
+FileError Win32Files::copy(const std::string& from, const std::string& to) {
+  constexpr std::uint64_t kLargest = 1U << 30U;
+  const auto content = read(from, kLargest);
+  return content.ok() ? replace(to, *content.value) : content.error;
+}
+
+FileError Win32Files::remove(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  const bool is_a_folder = look_at(*os_path.value).there == There::kFolder;
+  const bool gone = is_a_folder ? calls_.remove_folder(os_path.value->c_str())
+                                : calls_.delete_file(os_path.value->c_str());
+  return gone ? FileError::kNone : file_error(::GetLastError());
+}
+
+FileError Win32Files::clear_read_only(const std::string& path) {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return os_path.error;
+  WIN32_FILE_ATTRIBUTE_DATA found{};
+  if (!calls_.attributes(os_path.value->c_str(), found)) return file_error(::GetLastError());
+  if ((found.dwFileAttributes & FILE_ATTRIBUTE_READONLY) == 0) return FileError::kNone;
+  const DWORD left = found.dwFileAttributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY);
+  const DWORD wanted = left == 0 ? static_cast<DWORD>(FILE_ATTRIBUTE_NORMAL) : left;
+  return calls_.set_attributes(os_path.value->c_str(), wanted) ? FileError::kNone
+                                                               : file_error(::GetLastError());
+}
+
+std::optional<std::uint64_t> Win32Files::free_space(const std::string& path) const {
+  const auto os_path = os(path);
+  if (!os_path.ok()) return std::nullopt;
+  // A file will lie on its folder's disk, there or not yet.
+  const bool is_a_folder = look_at(*os_path.value).there == There::kFolder;
+  const std::wstring folder = is_a_folder ? *os_path.value : folder_of(*os_path.value);
+  std::uint64_t room = 0;
+  return calls_.free_space(folder.c_str(), room) ? std::optional(room) : std::nullopt;
+}
+
+bool Win32Files::same(const std::string& a, const std::string& b) const {
+  const auto os_a = os(a);
+  const auto os_b = os(b);
+  if (!os_a.ok() || !os_b.ok()) return false;
+  // Equal paths are one file also where it does not exist yet.
+  if (equal_names(*os_a.value, *os_b.value)) return true;
+  const auto found_a = about(*os_a.value);
+  const auto found_b = about(*os_b.value);
+  if (found_a && found_b) return same_file(*found_a, *found_b);
+  const std::wstring folder_a = folder_of(*os_a.value);
+  const std::wstring folder_b = folder_of(*os_b.value);
+  if (found_a || found_b ||
+      !equal_names(os_a.value->substr(folder_a.size()), os_b.value->substr(folder_b.size())))
+    return false;
+  const auto above_a = about(folder_a);
+  const auto above_b = about(folder_b);
+  return above_a && above_b && same_file(*above_a, *above_b);
+}
+
+void Win32Files::set_current_folder(const std::string& folder) {
+  if (!is_folder(folder)) return;
+  // Kept as the person named it: the way back from this computer's path may lead to another drive.
+  const bool has_drive = folder.size() >= 2 && folder[1] == ':';
+  const auto os_path = drives_.to_os(folder, current_folder_);
+  if (has_drive)
+    current_folder_ = folder;
+  else if (os_path.ok())
+    current_folder_ = drives_.to_program(*os_path.value).value_or(current_folder_);
+}
+
+}  // namespace platform::win32
