@@ -65,6 +65,7 @@ class Brush {
     const double shaft = letter_ * 1.7;
     const auto placed = [&](const std::vector<ui::Point>& points) {
       std::vector<ui::Point> dots;
+      dots.reserve(points.size());
       for (const ui::Point point : points)
         dots.push_back({at.x + point.x * shaft, at.y - point.y * shaft});
       return dots;

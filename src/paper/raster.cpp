@@ -44,7 +44,7 @@ struct Crossing {
 
 // Adds what a piece of a row covers of each of its pixels.
 void cover(std::vector<float>& row, double from, double to, double share) {
-  const double last = static_cast<double>(row.size());
+  const auto last = static_cast<double>(row.size());
   from = std::clamp(from, 0.0, last);
   to = std::clamp(to, 0.0, last);
   if (!(to > from)) return;
@@ -63,9 +63,9 @@ void cover(std::vector<float>& row, double from, double to, double share) {
 }  // namespace
 
 Raster::Raster(Pixels pixels)
-    : pixels_(pixels), cover_(static_cast<std::size_t>(std::max(0, pixels.width))) {
-  clip_no_more();
-}
+    : pixels_(pixels),
+      clip_{0, 0, static_cast<double>(pixels.width), static_cast<double>(pixels.height)},
+      cover_(static_cast<std::size_t>(std::max(0, pixels.width))) {}
 
 void Raster::clip(const Box& box) {
   const auto whole = [](double edge, int most) {

@@ -59,6 +59,11 @@ TEST(TrueType, KeepsAFewGlyphsWithTheirWidthsAndParts) {
   EXPECT_EQ(word(tables("hhea"), 34), 5U);
   EXPECT_EQ(tables("loca").size(), 6U * 4);
   EXPECT_EQ(tables("hmtx").size(), 5U * 4);
+  // The first part of "é", which was asked for third, came fourth.
+  const std::string outline = tables("glyf").substr((std::size_t{word(tables("loca"), 8)} << 16U) +
+                                                    word(tables("loca"), 10));
+  EXPECT_EQ(word(outline, 0), 0xFFFFU);
+  EXPECT_EQ(word(outline, 12), 3U);
   const double em = word(tables("head"), 18);
   EXPECT_DOUBLE_EQ(word(tables("hmtx"), 4) / em, face.advance(face.glyph_of(U'W')));
 }
