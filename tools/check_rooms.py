@@ -30,6 +30,7 @@ ALL_DATA = set(DATA)
 ELEMENT_DATA = ALL_DATA - {"elements/form", "map/tiles", "explain/plain", "explain/doubts", "explain/log"}
 KNOWS = DATA | {
     "ui": {"text", "platform"},
+    "paper": {"ui", "text"},
     "ship": {"ui"} | ELEMENT_DATA - {"observation"},
     "elements": {"ui"} | ELEMENT_DATA,
     "codetables": {"ui"} | ELEMENT_DATA,
