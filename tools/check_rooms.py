@@ -30,6 +30,7 @@ ALL_DATA = set(DATA)
 ELEMENT_DATA = ALL_DATA - {"elements/form", "map/tiles", "explain/plain", "explain/doubts", "explain/log"}
 KNOWS = DATA | {
     "ui": {"text", "platform"},
+    "paper": {"ui", "text"},
     "ship": {"ui"} | ELEMENT_DATA - {"observation"},
     "elements": {"ui"} | ELEMENT_DATA,
     "codetables": {"ui"} | ELEMENT_DATA,
@@ -44,6 +45,7 @@ KNOWS = DATA | {
     "platform/posix": {"platform", "platform/system", "text"},
     "platform/win32": {"platform", "platform/system", "text"},
     "desktop": {"text", "platform", "ui", "app", "platform/system"},
+    "win32": {"text", "platform", "ui", "app", "paper", "platform/system"},
     "bufr": {"text", "platform", "observation", "ship/data", "codetables/tables", "cli"},
     "cli": {"text", "platform", "platform/system", "observation", "ship/data", "ui", "app", "headless",
             "codetables/tables", "explain/plain", "explain/doubts", "explain/log"},
@@ -54,7 +56,7 @@ cstdint cstdio cstdlib cstring deque exception filesystem fstream functional ini
 istream iterator limits list map memory memory_resource mutex new numbers numeric optional ostream queue random ranges
 ratio set source_location span sstream stdexcept string string_view system_error thread tuple type_traits typeindex
 unordered_map unordered_set utility variant vector""".split())
-OUTSIDE_CORE = {"platform/posix", "platform/win32", "desktop", "cli", "bufr"}
+OUTSIDE_CORE = {"platform/posix", "platform/win32", "desktop", "win32", "cli", "bufr"}
 # The core reaches files, clock and environment only through its ports.
 NOT_IN_CORE = {"filesystem", "fstream", "iostream", "cstdio", "chrono", "thread", "mutex"}
 
