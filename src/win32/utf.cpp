@@ -1,6 +1,6 @@
 #include "win32/utf.h"
 
-#include <windows.h>
+#include "win32/system.h"
 
 namespace win32 {
 
