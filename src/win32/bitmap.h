@@ -1,9 +1,9 @@
 #pragma once
 // Pixels in memory that the system draws on as well.
 
-#include <windows.h>
-
 #include <cstdint>
+
+#include "win32/system.h"
 
 namespace win32 {
 

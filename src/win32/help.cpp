@@ -1,13 +1,12 @@
 #include "win32/help.h"
 
-#include <windows.h>
-// Of the system's shell, which builds on the above.
-#include <shellapi.h>
-
 #include <algorithm>
 
 #include "text/ids.h"
+#include "win32/system.h"
 #include "win32/utf.h"
+// Of the system's shell, which builds on its other declarations.
+#include <shellapi.h>
 
 namespace win32 {
 namespace {

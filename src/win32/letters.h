@@ -1,13 +1,12 @@
 #pragma once
 // The letters of what goes to paper: a fixed pitch with Japanese, from the fonts of this computer.
 
-#include <windows.h>
-
 #include <string>
 #include <string_view>
 
 #include "paper/pdf.h"
 #include "ui/drawing.h"
+#include "win32/system.h"
 
 namespace win32 {
 

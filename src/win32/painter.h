@@ -1,9 +1,8 @@
 #pragma once
 // Paints a drawing in the system's windows and pictures.
 
-#include <windows.h>
-
 #include "ui/drawing.h"
+#include "win32/system.h"
 
 namespace win32 {
 

@@ -1,8 +1,6 @@
 #pragma once
 // A picture on a window: a file's, a drawing, or a text where there is neither.
 
-#include <windows.h>
-
 #include <functional>
 #include <memory>
 #include <optional>
@@ -11,6 +9,7 @@
 
 #include "ui/drawing.h"
 #include "win32/painter.h"
+#include "win32/system.h"
 
 namespace win32 {
 

@@ -2,14 +2,13 @@
 // The printer port on this system: the default printer, the system's print dialog, and pages drawn
 // on the printer that was chosen in it. What is kept as a file is a PDF with the same pages.
 
-#include <windows.h>
-
 #include <chrono>
 #include <functional>
 #include <optional>
 
 #include "paper/pages.h"
 #include "ui/printer.h"
+#include "win32/system.h"
 
 namespace win32 {
 

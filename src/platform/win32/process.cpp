@@ -36,9 +36,6 @@ void prepare_process() {
 // A file that is opened takes the lowest number that is free. Without standard output or error that
 // would be a file of the commands' own; so each that is missing is taken by something that fails
 // when it is used.
-// There is no such signal here.
-void end_with_the_reader() {}
-
 void prepare_standard_files() {
   for (const int number : {0, 1, 2}) {
     if (::_get_osfhandle(number) < 0) {
@@ -52,6 +49,9 @@ void prepare_standard_files() {
   }
   speak_utf8();
 }
+
+// There is no such signal here.
+void end_with_the_reader() {}
 
 std::vector<std::string> program_arguments(int /*count*/, char** /*words*/) {
   // Those of main() are in the user's code page.
