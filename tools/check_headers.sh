@@ -15,15 +15,8 @@ check_one() {
 }
 export -f check_one
 
-<<<<<<< HEAD
 others=(-path './platform/win32/*' -o '(' -path './win32/*' -not -name boxes.h ')')
 case $("$compiler" -dumpmachine) in *mingw*) others=(-path './platform/posix/*') ;; esac
 headers=$(cd "$src" && find . -name '*.h' -not -path './desktop/*' -not \( "${others[@]}" \) | sed 's|^\./||' | sort)
-=======
-other=win32
-case $("$compiler" -dumpmachine) in *mingw*) other=posix ;; esac
-headers=$(cd "$src" && find . -name '*.h' -not -path './desktop/*' -not -path "./platform/$other/*" \
-  \( -not -path "./$other/*" -o -name boxes.h \) | sed 's|^\./||' | sort)
->>>>>>> h-winB
 [ -n "$headers" ] || { echo "no headers in $src"; exit 1; }
 xargs -P2 -I{} bash -c 'check_one "$1"' - {} <<<"$headers"
