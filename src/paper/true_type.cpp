@@ -268,7 +268,8 @@ bool keeps_columns(const TrueType& face) {
       return std::abs(width(letter) - columns * column) < 0.001;
     });
   };
-  return column > 0 && are(U"iW._-(/ｱｶ", 1) && are(U"漢字あアＡ９　。", 2);
+  return column > 0 && are(U"iW._-(/\uFF71\uFF76", 1) &&
+         are(U"\u6F22\u5B57\u3042\u30A2\uFF21\uFF19\u3000\u3002", 2);
 }
 
 }  // namespace paper
