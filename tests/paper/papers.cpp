@@ -4,12 +4,13 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <memory>
-#include <regex>
+#include <string_view>
 #include <utility>
 
 #include "fakes/temp_folder.h"
@@ -45,28 +46,50 @@ const paper::Faces& faces() {
   return kFaces;
 }
 
+namespace {
+
+/// The number of an attribute, `name="12.5"`; a line without it fails the test.
+double number_in(std::string_view line, std::string_view name) {
+  const std::string start = " " + std::string(name) + "=\"";
+  const std::size_t at = line.find(start);
+  double number = 0;
+  const char* const last = line.data() + line.size();
+  if (at == std::string_view::npos ||
+      std::from_chars(line.data() + at + start.size(), last, number).ec != std::errc())
+    ADD_FAILURE() << "no " << name << " in " << line;
+  return number;
+}
+
+/// What stands between the tags of `<word …>…</word>`, its entities written as letters.
+std::string word_in(std::string_view line) {
+  const std::size_t from = line.find('>') + 1;
+  std::string word(line.substr(from, line.rfind("</word>") - from));
+  for (const auto& [entity, letter] : {std::pair<std::string_view, std::string_view>{"&lt;", "<"},
+                                       {"&gt;", ">"},
+                                       {"&quot;", "\""},
+                                       {"&apos;", "'"},
+                                       {"&amp;", "&"}})
+    for (std::size_t at = 0; (at = word.find(entity, at)) != std::string::npos; at += letter.size())
+      word.replace(at, entity.size(), letter);
+  return word;
+}
+
+}  // namespace
+
 std::vector<PrintedPage> pages_of_pdf(const std::string& pdf) {
   const fakes::TempFolder folder;
   folder.write("pages.pdf", pdf);
   const std::string text = output_of("pdftotext -bbox '" + folder.path() + "/pages.pdf' -");
-  static const std::regex kPage(R"re(<page width="([0-9.]+)" height="([0-9.]+)">)re");
-  static const std::regex kWord(
-      R"re(<word xMin="([0-9.-]+)" yMin="([0-9.-]+)" xMax="([0-9.-]+)" yMax="([0-9.-]+)">(.*)</word>)re");
   std::vector<PrintedPage> pages;
   for (std::size_t from = 0; from < text.size();) {
     const std::size_t end = std::min(text.find('\n', from), text.size());
-    const std::string line = text.substr(from, end - from);
+    const std::string_view line = std::string_view(text).substr(from, end - from);
     from = end + 1;
-    std::smatch found;
-    if (std::regex_search(line, found, kPage))
-      pages.push_back({std::stod(found[1]), std::stod(found[2]), {}});
-    if (pages.empty() || !std::regex_search(line, found, kWord)) continue;
-    std::string word = found[5];
-    for (const auto& [entity, letter] :
-         {std::pair{"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&apos;", "'"}, {"&amp;", "&"}})
-      word = std::regex_replace(word, std::regex(entity), letter);
-    pages.back().words.push_back(
-        {std::stod(found[1]), std::stod(found[2]), std::stod(found[3]), std::stod(found[4]), word});
+    if (line.find("<page ") != std::string_view::npos)
+      pages.push_back({number_in(line, "width"), number_in(line, "height"), {}});
+    if (pages.empty() || line.find("<word ") == std::string_view::npos) continue;
+    pages.back().words.push_back({number_in(line, "xMin"), number_in(line, "yMin"),
+                                  number_in(line, "xMax"), number_in(line, "yMax"), word_in(line)});
   }
   return pages;
 }
