@@ -46,9 +46,11 @@ ScreenWindow* active_screen() {
   return qobject_cast<ScreenWindow*>(QApplication::activeWindow());
 }
 
-// Behind a question about an entry stands what was entered, not what stood there before the key.
+// Behind a question about an entry stands what was entered, not what stood there before the key. Not
+// only in the active window: that may be a notice of work that is going on.
 void show_what_was_taken() {
-  if (ScreenWindow* const window = active_screen()) window->show_controls();
+  for (QWidget* const widget : QApplication::topLevelWidgets())
+    if (auto* const window = qobject_cast<ScreenWindow*>(widget)) window->show_controls();
 }
 
 // Where a box of this size stands beside the field and leaves it in sight: right of it, below, above
