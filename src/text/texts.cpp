@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <iterator>
+#include <limits>
 
 #include "text/ids.h"
 
@@ -19,10 +21,26 @@ constexpr Entry kTable[] = {
 #include "string_table.inc"
 };
 
+// Numbers of texts lie close together: among the few of one page a search is short.
+constexpr int kPage = 16;
+constexpr auto kFirstOfPage = [] {
+  std::array<std::uint16_t, (std::end(kTable) - 1)->id / kPage + 2> first{};
+  std::size_t page = 0;
+  for (std::size_t at = 0; at < std::size(kTable); ++at)
+    for (; page <= static_cast<std::size_t>(kTable[at].id / kPage); ++page)
+      first.at(page) = static_cast<std::uint16_t>(at);
+  for (; page < first.size(); ++page) first.at(page) = std::size(kTable);
+  return first;
+}();
+static_assert(std::size(kTable) <= std::numeric_limits<std::uint16_t>::max());
+
 const Entry* find(Id id) {
-  const auto* const at = std::lower_bound(std::begin(kTable), std::end(kTable), id.number,
+  if (id.number < 0 || id.number > (std::end(kTable) - 1)->id) return nullptr;
+  const auto page = static_cast<std::size_t>(id.number / kPage);
+  const Entry* const end = kTable + kFirstOfPage[page + 1];
+  const auto* const at = std::lower_bound(kTable + kFirstOfPage[page], end, id.number,
                                           [](const Entry& e, int wanted) { return e.id < wanted; });
-  return at != std::end(kTable) && at->id == id.number ? at : nullptr;
+  return at != end && at->id == id.number ? at : nullptr;
 }
 
 }  // namespace
@@ -55,20 +73,24 @@ std::string_view resolve(Ref ref, Language language) {
   return entry(language == Language::kJapanese ? ref.id : ref.id + ref.english_offset);
 }
 
+void append_filled(std::string& result, std::string_view format,
+                   std::initializer_list<std::string_view> arguments) {
+  for (const std::string_view argument : arguments) {
+    auto place = format.find('%');
+    while (place != std::string_view::npos && !format.substr(place).starts_with("%s") &&
+           !format.substr(place).starts_with("%d"))
+      place = format.find('%', place + 1);
+    if (place == std::string_view::npos) break;
+    result.append(format.substr(0, place)).append(argument);
+    format.remove_prefix(place + 2);
+  }
+  // A place without an argument stays as it is, to be seen.
+  result.append(format);
+}
+
 std::string fill(std::string_view format, std::initializer_list<std::string_view> arguments) {
   std::string result;
-  const auto* next = arguments.begin();
-  while (!format.empty()) {
-    // A place without an argument stays as it is, to be seen.
-    const bool place = format.starts_with("%s") || format.starts_with("%d");
-    if (place && next != arguments.end()) {
-      result.append(*next++);
-      format.remove_prefix(2);
-    } else {
-      result.push_back(format.front());
-      format.remove_prefix(1);
-    }
-  }
+  append_filled(result, format, arguments);
   return result;
 }
 

@@ -134,16 +134,20 @@ std::string Sentence::within(std::string_view words) {
 }
 
 void Sentence::say(std::string_view piece) {
-  if (!text_.empty()) text_.append(get(id::kPlainBetween));
-  const std::size_t start = text_.size();
-  text_.append(piece);
-  if (start < text_.size() && is_small(text_[start]))
-    text_[start] = static_cast<char>(text_[start] - 'a' + 'A');
-  said_ = true;
+  fill_in(piece, {});
 }
 
 void Sentence::say(text::Id id, std::initializer_list<std::string_view> arguments) {
-  say(filled(id, arguments));
+  fill_in(get(id), arguments);
+}
+
+void Sentence::fill_in(std::string_view format, std::initializer_list<std::string_view> arguments) {
+  if (!text_.empty()) text_.append(get(id::kPlainBetween));
+  const std::size_t start = text_.size();
+  text::append_filled(text_, format, arguments);
+  if (start < text_.size() && is_small(text_[start]))
+    text_[start] = static_cast<char>(text_[start] - 'a' + 'A');
+  said_ = true;
 }
 
 void Sentence::not_reported(text::Id name) {
