@@ -237,8 +237,8 @@ TEST(SaveErrors, ADoubtAboutTheHemisphereLeadsToItsChoice) {
       opened->type(name, text);
     opened->window.choose(opened->control(slip.other), 0);
     // In the middle of nowhere she is warned about as soon as she is there.
-    opened->world.windows.expect_screen(
-        "CHour3ErrorDlg", [](ui::Screen& screen) { screen.key(ui::Key::kEnter); });
+    opened->world.windows.expect_screen("CHour3ErrorDlg",
+                                        [](ui::Screen& screen) { screen.key(ui::Key::kEnter); });
     opened->window.choose(opened->control(slip.half), 1);
     correct(*opened, "Doubt: By her positions the ship would");
     EXPECT_EQ(slip.half, opened->window.focused()->name);
