@@ -44,7 +44,7 @@ KNOWS = DATA | {
     "platform/system": {"platform", "text"},
     "platform/posix": {"platform", "platform/system", "text"},
     "platform/win32": {"platform", "platform/system", "text"},
-    "desktop": {"text", "platform", "ui", "app", "platform/system"},
+    "desktop": {"text", "platform", "ui", "app", "paper", "platform/system"},
     "win32": {"text", "platform", "ui", "app", "paper", "platform/system"},
     "bufr": {"text", "platform", "observation", "ship/data", "codetables/tables", "cli"},
     "cli": {"text", "platform", "platform/system", "observation", "ship/data", "ui", "app", "headless",
