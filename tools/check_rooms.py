@@ -45,7 +45,7 @@ KNOWS = DATA | {
     "platform/posix": {"platform", "platform/system", "text"},
     "platform/win32": {"platform", "platform/system", "text"},
     "desktop": {"text", "platform", "ui", "app", "paper", "platform/system"},
-    "win32": {"text", "platform", "ui", "app", "paper", "platform/system"},
+    "win32": {"text", "platform", "ui", "app", "paper", "platform/system", "platform/win32"},
     "bufr": {"text", "platform", "observation", "ship/data", "codetables/tables", "cli"},
     "cli": {"text", "platform", "platform/system", "observation", "ship/data", "ui", "app", "headless",
             "codetables/tables", "explain/plain", "explain/doubts", "explain/log"},
