@@ -21,7 +21,7 @@
 #include "desktop/screen_window.h"
 #include "desktop/style.h"
 #include "ui/access_keys.h"
-#include "ui/dump.h"
+#include "ui/front_end.h"
 
 namespace desktop {
 namespace {
@@ -102,15 +102,6 @@ void make_room_for_title(QMessageBox& box) {
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-// One button alone is pressed by Enter.
-std::vector<char> access_keys_of(const ui::MessageBox& box) {
-  if (box.buttons.size() < 2) return std::vector<char>(box.buttons.size(), '\0');
-  std::vector<std::string> english;
-  for (const ui::BoxButton& button : box.buttons)
-    english.push_back(ui::access_key(button.label) == '\0' ? button.name : button.label);
-  return ui::access_keys(english);
-}
-
 QIcon program_icon() {
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64})
@@ -163,17 +154,8 @@ void prepare_application() {
   take_palette();
 }
 
-DesktopWindows::DesktopWindows(PathMap paths)
-    : paths_(std::move(paths)), idle_([this] {
-        // A copy: a message that a screen shows may be there for long.
-        for (ui::Screen* const screen : std::vector(open_)) {
-          try {
-            screen->idle();
-          } catch (...) {  // nothing may cross the windowing system's loop
-            screen->event_failed(std::current_exception());
-          }
-        }
-      }) {}
+DesktopWindows::DesktopWindows(platform::Paths paths)
+    : paths_(std::move(paths)), idle_([this] { ui::tell_idle(open_); }) {}
 
 DesktopWindows::~DesktopWindows() = default;
 
@@ -189,7 +171,7 @@ int DesktopWindows::show_message(const ui::MessageBox& box) {
   window.setIcon(icon_of(box.sign));
   // One role for all: the buttons stay in the given order on every platform.
   std::map<QAbstractButton*, int> results;
-  const std::vector<char> keys = access_keys_of(box);
+  const std::vector<char> keys = ui::access_keys_of(box);
   for (std::size_t at = 0; at < box.buttons.size(); ++at) {
     const ui::BoxButton& button = box.buttons[at];
     QPushButton* const made = window.addButton(text_of(ui::with_access_key(button.label, keys[at])),

@@ -33,12 +33,6 @@ platform::SystemOptions read_options(const QApplication& application) {
           parser.value(locale).toStdString(), parser.value(clock).toStdString()};
 }
 
-desktop::PathMap path_map(const platform::System& system) {
-  return {
-      [&system](const std::string& path) { return system.map().to_os(path).value.value_or(""); },
-      [&system](const std::string& path) { return system.map().to_program(path).value_or(""); }};
-}
-
 int start(const QApplication& application) {
   const auto made = platform::make_system(read_options(application));
   platform::System& system = *made;
@@ -46,7 +40,7 @@ int start(const QApplication& application) {
     std::fprintf(stderr, "kavrel: %s\n", problem.c_str());
   if (!system.problems().empty()) return 2;
 
-  const desktop::PathMap paths = path_map(system);
+  const platform::Paths paths = platform::paths_by(system.map());
   const app::CAssistantClass program_files(system.drives(), system.files());
   desktop::set_picture_folder(QString::fromStdString(
       paths.to_system(platform::join(program_files.program_folder(), "pictures"))));

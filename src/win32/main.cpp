@@ -76,12 +76,6 @@ void tell(ui::Windows& windows, const std::string& title, const std::string& wor
   windows.show_message(box);
 }
 
-win32::PathMap path_map(const platform::System& system) {
-  return {
-      [&system](const std::string& path) { return system.map().to_os(path).value.value_or(""); },
-      [&system](const std::string& path) { return system.map().to_program(path).value_or(""); }};
-}
-
 // What is thrown outside any event of a window: the person is told before the program ends.
 int run(app::CVelmaranApp& program) {
   try {
@@ -97,7 +91,8 @@ int run(app::CVelmaranApp& program) {
 
 int start(const Options& options) {
   const auto system = platform::make_system(options.system);
-  win32::WindowsPort windows(path_map(*system));
+  const platform::Paths paths = platform::paths_by(system->map());
+  win32::WindowsPort windows(paths);
   std::string problems = options.problem;
   for (const std::string& problem : system->problems()) problems.append(problem).append("\n");
   if (!problems.empty()) {
@@ -106,9 +101,7 @@ int start(const Options& options) {
   }
   const app::CAssistantClass program_files(system->drives(), system->files());
   win32::set_picture_folder(
-      win32::wide(system->map()
-                      .to_os(platform::join(program_files.program_folder(), "pictures"))
-                      .value.value_or("")));
+      win32::wide(paths.to_system(platform::join(program_files.program_folder(), "pictures"))));
   win32::Printer printer;
   win32::Help help([&system](const std::string& path) { return system->help().page(path); },
                    [&windows](const std::string& title, const std::string& words) {

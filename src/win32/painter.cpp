@@ -1,9 +1,6 @@
 #include "win32/painter.h"
 
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
-#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -15,17 +12,6 @@
 
 namespace win32 {
 namespace {
-
-paper::Colour colour_of(COLORREF colour) {
-  return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
-}
-
-paper::Inks inks_of(const Inks& inks) {
-  paper::Inks all;
-  std::transform(std::begin(inks.ink), std::end(inks.ink), all.ink.begin(), colour_of);
-  all.paper = colour_of(inks.paper);
-  return all;
-}
 
 // Shapes go into the pixels, letters through the system.
 class BitmapCanvas : public paper::Raster {
@@ -73,7 +59,7 @@ class BitmapCanvas : public paper::Raster {
 }  // namespace
 
 void paint(HDC dc, const ui::Drawing& drawing, const RECT& room, HFONT font, double /*scale*/,
-           const Inks& inks) {
+           const paper::Inks& inks) {
   const int width = room.right - room.left;
   const int height = room.bottom - room.top;
   if (width <= 0 || height <= 0) return;
@@ -82,7 +68,7 @@ void paint(HDC dc, const ui::Drawing& drawing, const RECT& room, HFONT font, dou
   {
     BitmapCanvas canvas(bitmap, font);
     const paper::Box whole{0, 0, static_cast<double>(width), static_cast<double>(height)};
-    paper::paint(canvas, whole, drawing, inks_of(inks));
+    paper::paint(canvas, whole, drawing, inks);
   }
   BitBlt(dc, room.left, room.top, width, height, bitmap.dc(), 0, 0, SRCCOPY);
 }
