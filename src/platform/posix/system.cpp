@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "platform/posix/program_folder.h"
 #include "platform/posix/removable_media.h"
 #include "platform/system/drives_file.h"
 #include "platform/system/options.h"
@@ -120,8 +121,9 @@ void System::choose_locale(const SystemOptions& options) {
 
 std::string System::choose_program(const SystemOptions& options) {
   std::error_code error;
-  std::string os_path = options.program.empty() ? fs::read_symlink("/proc/self/exe", error).string()
-                                                : absolute(options.program) + "/kavrel";
+  std::string os_path = options.program.empty()
+                            ? program_path(fs::read_symlink("/proc/self/exe", error).string())
+                            : absolute(options.program) + "/kavrel";
   // Without a path the program's folder is the current one.
   return map_->to_program(os_path).value_or("kavrel");
 }
