@@ -13,7 +13,8 @@ using platform::posix::program_path;
 TEST(ProgramFolder, AnInstalledProgramFindsItsFilesInShare) {
   const fakes::TempFolder room;
   std::filesystem::create_directories(room.path() + "/usr/share/kavrel");
-  EXPECT_EQ(program_path(room.path() + "/usr/bin/kavrel"), room.path() + "/usr/share/kavrel/kavrel");
+  EXPECT_EQ(program_path(room.path() + "/usr/bin/kavrel"),
+            room.path() + "/usr/share/kavrel/kavrel");
   EXPECT_EQ(program_path(room.path() + "/usr/bin/kavrel-cli"),
             room.path() + "/usr/share/kavrel/kavrel-cli");
 }
