@@ -9,7 +9,7 @@
 #include <cmath>
 #include <functional>
 
-#include "paper/colour.h"
+#include "desktop/qt_canvas.h"
 
 namespace desktop {
 namespace {
@@ -121,11 +121,13 @@ QStyle* make_style() {
   return new FramedStyle;
 }
 
+paper::Inks inks_of(const QPalette& palette) {
+  return paper::inks_on(parts_of(palette.color(QPalette::Base)),
+                        parts_of(palette.color(QPalette::Text)));
+}
+
 QColor colour_of(ui::Ink ink, const QPalette& palette) {
-  const paper::Colour colour = paper::inks_on(parts_of(palette.color(QPalette::Base)),
-                                              parts_of(palette.color(QPalette::Text)))
-                                   .of(ink);
-  return {colour.red, colour.green, colour.blue};
+  return colour_of(inks_of(palette).of(ink));
 }
 
 double contrast(const QColor& a, const QColor& b) {

@@ -7,7 +7,6 @@
 #include "paper/drawing_painter.h"
 #include "paper/raster.h"
 #include "win32/bitmap.h"
-#include "win32/letters.h"
 #include "win32/utf.h"
 
 namespace win32 {
@@ -34,12 +33,6 @@ class BitmapCanvas : public paper::Raster {
     ExtTextOutW(dc_, static_cast<int>(std::lround(at.x)), static_cast<int>(std::lround(at.y)),
                 ETO_CLIPPED, &within, words.c_str(), static_cast<UINT>(words.size()), nullptr);
     GdiFlush();  // the next shape goes past the system
-  }
-  void write_in_columns(std::string_view text, ui::Point at, double column,
-                        paper::Colour colour) override {
-    SetTextColor(dc_, RGB(colour.red, colour.green, colour.blue));
-    write_columns(dc_, text, at, column);
-    GdiFlush();
   }
   [[nodiscard]] double width_of(std::string_view text) const override {
     const std::wstring words = wide(text);
