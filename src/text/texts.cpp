@@ -1,6 +1,5 @@
 #include "text/texts.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <iterator>
@@ -21,26 +20,38 @@ constexpr Entry kTable[] = {
 #include "string_table.inc"
 };
 
-// Numbers of texts lie close together: among the few of one page a search is short.
-constexpr int kPage = 16;
-constexpr auto kFirstOfPage = [] {
-  std::array<std::uint16_t, (std::end(kTable) - 1)->id / kPage + 2> first{};
-  std::size_t page = 0;
+// Where the text of each number stands in the table, counted from 1.
+constexpr auto kPlaceOf = [] {
+  std::array<std::uint16_t, (std::end(kTable) - 1)->id + 1> place{};
   for (std::size_t at = 0; at < std::size(kTable); ++at)
-    for (; page <= static_cast<std::size_t>(kTable[at].id / kPage); ++page)
-      first.at(page) = static_cast<std::uint16_t>(at);
-  for (; page < first.size(); ++page) first.at(page) = std::size(kTable);
-  return first;
+    place.at(static_cast<std::size_t>(kTable[at].id)) = static_cast<std::uint16_t>(at + 1);
+  return place;
 }();
-static_assert(std::size(kTable) <= std::numeric_limits<std::uint16_t>::max());
+static_assert(std::size(kTable) < std::numeric_limits<std::uint16_t>::max());
 
-const Entry* find(Id id) {
-  if (id.number < 0 || id.number > (std::end(kTable) - 1)->id) return nullptr;
-  const auto page = static_cast<std::size_t>(id.number / kPage);
-  const Entry* const end = kTable + kFirstOfPage[page + 1];
-  const auto* const at = std::lower_bound(kTable + kFirstOfPage[page], end, id.number,
-                                          [](const Entry& e, int wanted) { return e.id < wanted; });
-  return at != end && at->id == id.number ? at : nullptr;
+constexpr const Entry* find(Id id) {
+  if (id.number < 0 || static_cast<std::size_t>(id.number) >= kPlaceOf.size()) return nullptr;
+  const std::size_t place = kPlaceOf[static_cast<std::size_t>(id.number)];
+  return place == 0 ? nullptr : &kTable[place - 1];
+}
+
+constexpr std::string_view kMarker = find(id::kLanguageMarker)->text;
+
+// How long the English half of each text is; npos where there is no other.
+constexpr auto kEnglishOf = [] {
+  std::array<std::size_t, std::size(kTable)> length{};
+  for (std::size_t at = 0; at < std::size(kTable); ++at) {
+    const bool is_marker = kTable[at].id == id::kLanguageMarker.number;
+    // The marker's own entry is nothing but the marker, and is the one text that must not be split.
+    length.at(at) = is_marker ? std::string_view::npos : kTable[at].text.find(kMarker);
+  }
+  return length;
+}();
+
+std::string_view half_at(std::string_view combined, std::size_t english, Language language) {
+  if (english == std::string_view::npos) return combined;
+  return language == Language::kEnglish ? combined.substr(0, english)
+                                        : combined.substr(english + kMarker.size());
 }
 
 }  // namespace
@@ -55,16 +66,13 @@ bool has_entry(Id id) {
 }
 
 std::string_view half(std::string_view combined, Language language) {
-  static const std::string_view marker = entry(id::kLanguageMarker);
-  const auto at = combined.find(marker);
-  if (at == std::string_view::npos) return combined;
-  return language == Language::kEnglish ? combined.substr(0, at)
-                                        : combined.substr(at + marker.size());
+  return half_at(combined, combined.find(kMarker), language);
 }
 
 std::string_view bilingual(Id id, Language language) {
-  // The marker's own entry is nothing but the marker, and is the one text that must not be split.
-  return id == id::kLanguageMarker ? entry(id) : half(entry(id), language);
+  const Entry* const found = find(id);
+  if (found == nullptr) return {};
+  return half_at(found->text, kEnglishOf[static_cast<std::size_t>(found - kTable)], language);
 }
 
 std::string_view resolve(Ref ref, Language language) {

@@ -36,7 +36,7 @@ class Sentence {
   }
 
   /// "rain" of "Rain", as it is written within a sentence; names such as "Cu" stay.
-  [[nodiscard]] static std::string within(std::string_view words);
+  [[nodiscard]] static std::string within(std::string words);
 
   void say(std::string_view piece);
   void say(text::Id id, std::initializer_list<std::string_view> arguments = {});
