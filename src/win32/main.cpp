@@ -66,16 +66,6 @@ Options read_options(const std::vector<std::string>& words) {
   return options;
 }
 
-// There is no standard output that anybody sees.
-void tell(ui::Windows& windows, const std::string& title, const std::string& words) {
-  ui::MessageBox box;
-  box.title = title;
-  box.text = words;
-  box.buttons = {{"OK", "ok", ui::kOk}};
-  box.close_result = ui::kOk;
-  windows.show_message(box);
-}
-
 win32::PathMap path_map(const platform::System& system) {
   return {
       [&system](const std::string& path) { return system.map().to_os(path).value.value_or(""); },
@@ -101,7 +91,7 @@ int start(const Options& options) {
   std::string problems = options.problem;
   for (const std::string& problem : system->problems()) problems.append(problem).append("\n");
   if (!problems.empty()) {
-    tell(windows, kProgram, problems);
+    windows.tell(kProgram, problems);
     return kHadToEnd;
   }
   const app::CAssistantClass program_files(system->drives(), system->files());
@@ -112,7 +102,7 @@ int start(const Options& options) {
   win32::Printer printer;
   win32::Help help([&system](const std::string& path) { return system->help().page(path); },
                    [&windows](const std::string& title, const std::string& words) {
-                     tell(windows, title, words);
+                     windows.tell(title, words);
                    });
   app::CVelmaranApp program({system->clock(), system->locale(), system->drives(), system->files(),
                              system->code_page(), printer, windows, help});
