@@ -18,9 +18,13 @@
 #include "desktop/picture_label.h"
 #include "desktop/printed_pages.h"
 #include "desktop/screen_window.h"
+#include "explain/CLogbookDlg.h"
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
+#include "fakes/sample_logbook.h"
 #include "fakes/sample_observation.h"
+#include "fakes/sample_ship.h"
+#include "text/numbers.h"
 
 namespace {
 
@@ -110,6 +114,21 @@ void key_in_main_window(benchmark::State& state) {
 }
 BENCHMARK(key_in_main_window)->Unit(benchmark::kMillisecond);
 
+// The same with the plain words and the small curve open, which follow each key.
+void key_with_words_and_curve(benchmark::State& state) {
+  Filled filled;
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F2);
+  if (!filled.screen.find("plain_words")->visible) std::abort();
+  filled.go_to("HwHw");
+  for ([[maybe_unused]] auto round : state) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_5);
+    QApplication::processEvents();
+  }
+  state.SetItemsProcessed(2 * state.iterations());
+}
+BENCHMARK(key_with_words_and_curve)->Unit(benchmark::kMillisecond);
+
 // A figure typed and left by Tab: check, record, report groups; and back with Shift.
 void entry_in_main_window(benchmark::State& state) {
   Filled filled;
@@ -186,6 +205,66 @@ void floor_of_the_logbook_on_paper(benchmark::State& state) {
   }
 }
 BENCHMARK(floor_of_the_logbook_on_paper)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// A logbook of 100,000 lines as a table: from the key that opens it to the painted window, in
+// another order, and its check.
+struct LongLogbook {
+  static constexpr int kLines = 100'000;
+  fakes::FakeFiles files;
+  fakes::World world{files};
+  ShipFixedData ship = fakes::sample_ship();
+  KeyObservationItems items;
+
+  LongLogbook() {
+    std::string lines;
+    for (int n = 0; n < kLines; ++n)
+      lines
+          .append(fakes::logbook_line(1 + n / 8 % 28, n % 8 * 3,
+                                      {{"PPPP", text::format_int(100 + n % 100, 4, '0')}}))
+          .append("\n");
+    files.add_file("C:\\log\\immt5.log", lines);
+  }
+  std::unique_ptr<CLogbookDlg> open() {
+    auto screen = std::make_unique<CLogbookDlg>(world.services, "C:\\log\\", ship, items);
+    screen->open();
+    return screen;
+  }
+};
+
+void long_logbook_opened(benchmark::State& state) {
+  LongLogbook logbook;
+  for ([[maybe_unused]] auto round : state) {
+    const auto screen = logbook.open();
+    desktop::ScreenWindow window(*screen, nullptr);
+    show(window);
+  }
+}
+BENCHMARK(long_logbook_opened)->Unit(benchmark::kMillisecond);
+
+void long_logbook_sorted(benchmark::State& state) {
+  LongLogbook logbook;
+  const auto screen = logbook.open();
+  desktop::ScreenWindow window(*screen, nullptr);
+  show(window);
+  for ([[maybe_unused]] auto round : state) {
+    screen->order.selected = screen->order.selected == 0 ? 5 : 0;
+    screen->order.on_change();
+    window.refresh();
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(long_logbook_sorted)->Unit(benchmark::kMillisecond);
+
+void long_logbook_checked(benchmark::State& state) {
+  LongLogbook logbook;
+  const auto screen = logbook.open();
+  for ([[maybe_unused]] auto round : state) {
+    logbook.world.windows.expect_screen("CLogbookCheckDlg",
+                                        [](ui::Screen& shown) { shown.key(ui::Key::kEscape); });
+    screen->check.on_press();
+  }
+}
+BENCHMARK(long_logbook_checked)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -14,6 +14,7 @@ import sys
 DATA = {
     "text": {"platform"},
     "platform": set(),
+    "usage": {"text"},
     "codetables/tables": {"text"},
     "ship/data": {"text", "platform", "codetables/tables"},
     "elements/formulas": {"text", "codetables/tables", "ship/data"},
@@ -27,7 +28,7 @@ DATA = {
 }
 ALL_DATA = set(DATA)
 # Dialogs of elements and of the ship do not look at whole observations.
-ELEMENT_DATA = ALL_DATA - {"elements/form", "map/tiles", "explain/plain", "explain/doubts", "explain/log"}
+ELEMENT_DATA = ALL_DATA - {"usage", "elements/form", "map/tiles", "explain/plain", "explain/doubts", "explain/log"}
 KNOWS = DATA | {
     "ui": {"text", "platform"},
     "paper": {"ui", "text"},
@@ -44,10 +45,10 @@ KNOWS = DATA | {
     "platform/system": {"platform", "text"},
     "platform/posix": {"platform", "platform/system", "text"},
     "platform/win32": {"platform", "platform/system", "text"},
-    "desktop": {"text", "platform", "ui", "app", "platform/system"},
-    "win32": {"text", "platform", "ui", "app", "paper", "platform/system"},
-    "bufr": {"text", "platform", "observation", "ship/data", "codetables/tables", "cli"},
-    "cli": {"text", "platform", "platform/system", "observation", "ship/data", "ui", "app", "headless",
+    "desktop": {"text", "platform", "ui", "app", "paper", "platform/system", "usage"},
+    "win32": {"text", "platform", "ui", "app", "paper", "platform/system", "platform/win32", "usage"},
+    "bufr": {"text", "platform", "observation", "ship/data", "codetables/tables", "cli", "usage"},
+    "cli": {"text", "usage", "platform", "platform/system", "observation", "ship/data", "ui", "app", "headless",
             "codetables/tables", "explain/plain", "explain/doubts", "explain/log"},
 }
 

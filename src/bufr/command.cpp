@@ -22,10 +22,6 @@
 namespace bufr {
 namespace {
 
-constexpr const char* kUsage =
-    "kavrel-cli bufr [--wigos 0-22000-0-XXXXXXX] [--date YYYY-MM] [--output FILE|-] [FILE]\n"
-    "       FILE holds observations; with --date, or named YYMMDDHH.tlx, it holds reports";
-
 struct Arguments {
   std::optional<WigosIdentifier> wigos;
   std::optional<std::string> date;  ///< "YYYY-MM"
@@ -34,29 +30,17 @@ struct Arguments {
 };
 
 /// The arguments, or what is wrong with them.
-std::variant<Arguments, std::string> parsed(const std::vector<std::string>& words) {
+std::variant<Arguments, std::string> arguments_of(const usage::Words& words) {
   Arguments arguments;
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    const std::string& word = words[i];
-    if (word == "--wigos" || word == "--date" || word == "--output") {
-      if (++i == words.size()) return word + " wants a value";
-      const std::string& value = words[i];
-      if (word == "--output") {
-        arguments.output = value;
-      } else if (word == "--date") {
-        if (!cli::is_year_and_month(value)) return "--date is a year and a month, YYYY-MM";
-        arguments.date = value;
-      } else {
-        auto identifier = wigos_identifier(value);
-        if (const auto* wrong = std::get_if<std::string>(&identifier))
-          return "--wigos " + cli::shown(value) + ": " + *wrong;
-        arguments.wigos = std::get<WigosIdentifier>(std::move(identifier));
-      }
-    } else if (word.starts_with("--") || !arguments.file.empty()) {
-      return "unknown argument " + cli::shown(word);
-    } else {
-      arguments.file = word;
-    }
+  arguments.file = words.file();
+  if (words.has("--output")) arguments.output = words.value("--output");
+  if (words.has("--date")) arguments.date = words.value("--date");
+  if (words.has("--wigos")) {
+    const std::string& value = words.value("--wigos");
+    auto identifier = wigos_identifier(value);
+    if (const auto* wrong = std::get_if<std::string>(&identifier))
+      return "--wigos " + value + ": " + *wrong;
+    arguments.wigos = std::get<WigosIdentifier>(std::move(identifier));
   }
   return arguments;
 }
@@ -188,9 +172,11 @@ std::optional<ReportMonth> month_of_reports(const Arguments& arguments) {
 
 }  // namespace
 
-int command(const std::vector<std::string>& arguments) {
-  const auto result = parsed(arguments);
-  if (const auto* wrong = std::get_if<std::string>(&result)) return cli::usage(*wrong, kUsage);
+int command(const usage::Words& words) {
+  if (const auto status = cli::answered(words)) return *status;
+  const auto result = arguments_of(words);
+  if (const auto* wrong = std::get_if<std::string>(&result))
+    return cli::refused(words.command(), *wrong);
   const auto& wanted = std::get<Arguments>(result);
   if (wanted.output == "-") cli::end_with_the_reader();
   cli::Input input(wanted.file);

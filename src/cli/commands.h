@@ -1,12 +1,14 @@
 #pragma once
-// The commands that work on observations without any dialog. Each takes the words behind its name
-// and gives the exit status: 0, 1 where a check found something, or 2 for wrong arguments and wrong input, told on standard error as
+// The commands that work on observations without any dialog. Each takes the words behind its name,
+// which are as its row in usage/programs.h has them, and gives the exit status: 0, 1 where a check
+// found something, or 2 for wrong arguments and wrong input, told on standard error as
 // "FILE:LINE: reason". The same for output that cannot be written, but for a reader that went away:
 // a command that only prints then ends by SIGPIPE.
 
-#include <span>
 #include <string>
 #include <vector>
+
+#include "usage/command.h"
 
 namespace cli {
 
@@ -17,35 +19,29 @@ inline constexpr int kWrong = 2;
 /// at the end; a command that goes on for long asks before.
 inline constexpr const char* kOutputLost = "standard output cannot be written";
 
-/// encode [--language en|ja] [FILE]: each observation becomes a line of JSON with its report, the
-/// missing groups and the logbook line.
-int encode_command(const std::vector<std::string>& arguments);
+/// Each observation becomes a line of JSON with its report, the missing groups and the logbook line.
+int encode_command(const usage::Words& words);
 
-/// read [FILE]: each report becomes the lines of an observation file, with a comment for every word
-/// that could not be placed.
-int read_command(const std::vector<std::string>& arguments);
+/// Each report becomes the lines of an observation file, with a comment for every word that could
+/// not be placed.
+int read_command(const usage::Words& words);
 
-/// logbook [--format json|csv|names] [FILE]: each line of the logbook becomes an observation. A line
-/// or a column that cannot be read is named on standard error and stops nothing.
+/// Each line of the logbook becomes an observation. A line or a column that cannot be read is named
+/// on standard error and stops nothing.
 ///
-/// logbook --check [--language en|ja] [--list FILE | --json] [FILE]: tells what is wrong in the
-/// lines and between them: a summary for a person, and in FILE or instead of the summary a line of
-/// JSON for each finding.
-int logbook_command(const std::vector<std::string>& arguments);
+/// With --check: tells what is wrong in the lines and between them: a summary for a person, and in
+/// the file of --list or instead of the summary a line of JSON for each finding.
+int logbook_command(const usage::Words& words);
 
-/// explain [--language en|ja] [--date YYYY-MM] [FILE]: each report in plain words, a line for each
-/// group. Year and month are those of a file named YYMMDDHH.tlx, else those that are given.
-int explain_command(const std::vector<std::string>& arguments);
+/// Each report in plain words, a line for each group. Year and month are those of a file named
+/// YYMMDDHH.tlx, else those that are given.
+int explain_command(const usage::Words& words);
 
-/// save --reports DIR --logbook DIR [--replace] [FILE]: writes both files of each observation and
-/// tells where.
-int save_command(const std::vector<std::string>& arguments);
+/// Writes both files of each observation and tells where.
+int save_command(const usage::Words& words);
 
-/// bufr [--wigos IDENTIFIER] [--date YYYY-MM] [--output FILE|-] [FILE]: starts kavrel-bufr, which
-/// writes each observation as a BUFR message and lies beside this program where ecCodes is there.
+/// Starts kavrel-bufr, which writes each observation as a BUFR message and lies beside this program
+/// where ecCodes is there. Takes the words as they were given.
 int bufr_command(const std::vector<std::string>& arguments);
-
-/// "kavrel-cli: REASON" on standard error, with the command's usage.
-int usage(const std::string& reason, const char* usage);
 
 }  // namespace cli

@@ -7,6 +7,7 @@
 
 #include "cli/commands.h"
 #include "cli/observations.h"
+#include "cli/program.h"
 #include "explain/log/logbook_check.h"
 #include "observation/logbook_record.h"
 #include "observation/observation_file.h"
@@ -15,9 +16,6 @@
 namespace cli {
 namespace {
 
-constexpr const char* kUsage =
-    "kavrel-cli logbook [--format json|csv|names] [FILE]\n"
-    "       kavrel-cli logbook --check [--language en|ja] [--list FILE | --json] [FILE]";
 /// Of a line that is longer than any of the layout only so much is looked at.
 constexpr std::size_t kLongestLine = 1024;
 
@@ -246,16 +244,6 @@ int read_lines(Input& input) {
 
 // ---- The check
 
-struct Words {
-  std::string file;
-  std::string format = "json";
-  bool has_format = false;
-  bool check = false;
-  bool json = false;
-  std::string list;
-  std::string language;
-};
-
 std::string json_line(const Input& input, const explain::Finding& finding) {
   nlohmann::ordered_json line;
   line["file"] = input.name();
@@ -280,22 +268,23 @@ bool is_the_input(const std::string& list, const std::string& file) {
   return !file.empty() && std::filesystem::equivalent(file_path(list), file_path(file), ignored);
 }
 
-int check_lines(const Words& words) {
-  Input input(words.file);
+int check_lines(const usage::Words& words) {
+  const std::string& list_name = words.value("--list");
+  const bool json = words.has("--json");
+  Input input(words.file());
   std::ofstream list;
   if (!input.problem().empty()) {
     complain(input, 0, input.problem());
     return kWrong;
   }
-  if (!words.list.empty()) {
-    if (is_the_input(words.list, words.file)) return usage("the list is the logbook", kUsage);
-    list.open(file_path(words.list), std::ios::binary | std::ios::trunc);
-    if (!list) return usage(words.list + " cannot be written", kUsage);
+  if (!list_name.empty()) {
+    if (is_the_input(list_name, words.file()))
+      return refused(words.command(), "--list is the logbook");
+    list.open(file_path(list_name), std::ios::binary | std::ios::trunc);
+    if (!list) return refused(words.command(), "--list: " + list_name + " cannot be written");
   }
-  const bool japanese = words.language == "ja";
-  const auto language = japanese ? text::Language::kJapanese : text::Language::kEnglish;
-  explain::LogbookCheck check(language, [&](const explain::Finding& finding) {
-    if (words.json) std::cout << json_line(input, finding);
+  explain::LogbookCheck check(words.language(), [&](const explain::Finding& finding) {
+    if (json) std::cout << json_line(input, finding);
     if (list.is_open()) list << json_line(input, finding);
   });
   const int status = for_each_line(
@@ -304,68 +293,45 @@ int check_lines(const Words& words) {
   // The list first, so that it is whole when nobody reads the summary to its end.
   const explain::Summary& summary = check.finish();
   const bool list_is_written = !list.is_open() || list.flush();
-  if (!words.json) std::cout << summary.words();
+  if (!json) std::cout << summary.words();
   if (!list_is_written) {
-    std::cerr << "kavrel-cli: " << words.list << " cannot be written\n";
+    std::cerr << "kavrel-cli: " << list_name << " cannot be written\n";
     return kWrong;
   }
   // Notes call for nothing. A log without a line may have been lost on its way.
   return summary.is_sound() && summary.lines() > 0 ? kOk : kFound;
 }
 
-/// Why the words are no command; empty when they are.
-std::string take_words(const std::vector<std::string>& arguments, Words& words) {
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& word = arguments[i];
-    std::string* value = word == "--format"     ? &words.format
-                         : word == "--list"     ? &words.list
-                         : word == "--language" ? &words.language
-                                                : nullptr;
-    if (value != nullptr) {
-      if (++i == arguments.size() || arguments[i].empty()) return word + " wants a value";
-      *value = arguments[i];
-      if (value == &words.format) words.has_format = true;
-    } else if (word == "--check") {
-      words.check = true;
-    } else if (word == "--json") {
-      words.json = true;
-    } else if (word.starts_with("--") || !words.file.empty()) {
-      return "unknown argument " + word;
-    } else {
-      words.file = word;
-    }
-  }
-  const bool has_language = !words.language.empty();
-  if (has_language && words.language != "en" && words.language != "ja")
-    return "unknown language " + words.language;
-  if (words.check && words.has_format) return "--check has no --format";
-  if (words.check && words.json && !words.list.empty()) return "--json is the list";
-  if (!words.check && (words.json || has_language || !words.list.empty()))
+/// Which options do not go with each other; empty when all do.
+std::string contradiction(const usage::Words& words) {
+  const bool has_list = words.has("--list");
+  if (words.has("--check") && words.has("--format")) return "--check has no --format";
+  if (words.has("--json") && has_list) return "--json is the list, so --list has none";
+  if (!words.has("--check") && (words.has("--json") || words.has("--language") || has_list))
     return "--json, --list and --language go with --check";
   return {};
 }
 
 }  // namespace
 
-int logbook_command(const std::vector<std::string>& arguments) {
-  Words words;
-  if (const std::string reason = take_words(arguments, words); !reason.empty())
-    return usage(reason, kUsage);
-  if (words.check) return check_lines(words);
+int logbook_command(const usage::Words& words) {
+  if (const std::string reason = contradiction(words); !reason.empty())
+    return refused(words.command(), reason);
+  if (words.has("--check")) return check_lines(words);
   struct Row {
     const char* name;
     int (*read)(Input& input);
   };
   constexpr Row kFormats[] = {
       {"json", read_lines<Json>}, {"csv", read_lines<Csv>}, {"names", read_lines<Names>}};
+  const std::string format = words.has("--format") ? words.value("--format") : kFormats[0].name;
   for (const Row& row : kFormats) {
-    if (words.format != row.name) continue;
-    Input input(words.file);
+    if (format != row.name) continue;
+    Input input(words.file());
     if (input.problem().empty()) return row.read(input);
     complain(input, 0, input.problem());
-    return kWrong;
   }
-  return usage("unknown format " + words.format, kUsage);
+  return kWrong;
 }
 
 }  // namespace cli

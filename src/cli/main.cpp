@@ -1,5 +1,6 @@
 // kavrel-cli: the program without windows.
 
+#include <functional>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -8,50 +9,50 @@
 #include "cli/last_catch.h"
 #include "cli/program.h"
 #include "cli/session_command.h"
+#include "usage/programs.h"
 
 namespace {
 
-struct Command {
-  const char* name;
-  int (*run)(const std::vector<std::string>& arguments);
-  const char* help;
+using Arguments = std::vector<std::string>;
+
+/// Which function carries a command out; what may stand behind its name says its row.
+struct Row {
+  std::string_view name;
+  int (*run)(const usage::Words& words);
   bool only_prints = false;  ///< so that it ends with its reader
 };
 
-constexpr Command kCommands[] = {
-    {"encode", cli::encode_command, "observations to reports and logbook lines, as JSON", true},
-    {"read", cli::read_command, "reports back to observations", true},
-    {"logbook", cli::logbook_command, "lines of the logbook back to observations; or checks them",
-     true},
-    {"explain", cli::explain_command, "reports in plain words", true},
-    {"save", cli::save_command, "observations to report files and the logbook"},
-    {"bufr", cli::bufr_command, "observations and reports as WMO BUFR messages"},
-    {"session", cli::session_command, "the whole program, steered by a script"},
+constexpr Row kRows[] = {
+    {"encode", cli::encode_command, true},
+    {"read", cli::read_command, true},
+    {"logbook", cli::logbook_command, true},
+    {"explain", cli::explain_command, true},
+    {"save", cli::save_command},
+    {"session", cli::session_command},
 };
 
-int help(std::ostream& out, int status) {
-  out << "usage: kavrel-cli COMMAND [ARGUMENTS]\n";
-  for (const Command& command : kCommands)
-    out << "  " << command.name << std::string(9 - std::string(command.name).size(), ' ')
-        << command.help << "\n";
-  return status;
+int carry_out(const usage::Command& command, const Arguments& arguments) {
+  const usage::Words words(command, arguments);
+  if (const auto status = cli::answered(words)) return *status;
+  for (const Row& row : kRows) {
+    if (row.name != command.name) continue;
+    if (row.only_prints) cli::end_with_the_reader();
+    return cli::with_last_catch([&] { return row.run(words); });
+  }
+  return cli::with_last_catch([&] { return cli::bufr_command(arguments); });
 }
 
-int run(const std::vector<std::string>& arguments) {
-  if (arguments.empty()) return help(std::cerr, cli::kWrong);
-  if (arguments.front() == "--help") {
-    cli::end_with_the_reader();
-    return help(std::cout, cli::kOk);
+int run(const Arguments& arguments) {
+  const usage::Command& program = usage::cli_program();
+  // The program's own words; "--language ja" takes two.
+  if (arguments.empty()) return cli::refused(program, "a command is wanted");
+  if (arguments.front().starts_with('-')) {
+    const auto status = cli::answered(usage::Words(program, arguments), usage::cli_commands());
+    return status.value_or(cli::kWrong);
   }
-  for (const Command& command : kCommands) {
-    if (arguments.front() != command.name) continue;
-    if (command.only_prints) cli::end_with_the_reader();
-    return cli::with_last_catch([&] {
-      return command.run({arguments.begin() + 1, arguments.end()});
-    });
-  }
-  std::cerr << "kavrel-cli: unknown command " << arguments.front() << "\n";
-  return help(std::cerr, cli::kWrong);
+  if (const usage::Command* command = usage::cli_command(arguments.front()))
+    return carry_out(*command, {arguments.begin() + 1, arguments.end()});
+  return cli::refused(program, "unknown command " + arguments.front());
 }
 
 }  // namespace

@@ -3,13 +3,26 @@
 #include <iostream>
 
 #include "cli/commands.h"
+#include "cli/observations.h"
 #include "platform/system/process.h"
+#include "usage/help.h"
 
 namespace cli {
 
-int usage(const std::string& reason, const char* usage) {
-  std::cerr << "kavrel-cli: " << reason << "\nusage: " << usage << "\n";
+int refused(const usage::Command& command, const std::string& reason) {
+  std::cerr << usage::refusal(command, shown(reason));
   return kWrong;
+}
+
+std::optional<int> answered(const usage::Words& words, std::span<const usage::Command> commands) {
+  const std::string answer = usage::answer_of(words, commands);
+  if (answer.empty()) {
+    if (words.wrong().empty()) return std::nullopt;
+    return refused(words.command(), words.wrong());
+  }
+  end_with_the_reader();
+  std::cout << answer;
+  return kOk;
 }
 
 int run_program(int count, char** words,

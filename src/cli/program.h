@@ -2,8 +2,12 @@
 // What every program without windows does around its commands.
 
 #include <functional>
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
+
+#include "usage/command.h"
 
 namespace cli {
 
@@ -16,5 +20,13 @@ int run_program(int count, char** words,
 /// "| head", it ends there and says nothing (SIGPIPE), as every filter does. A command that writes
 /// files must not be ended between two of them and is told instead that its output is lost.
 void end_with_the_reader();
+
+/// What is told of words that cannot be followed, on standard error; kWrong.
+int refused(const usage::Command& command, const std::string& reason);
+
+/// The status, when the words ask for help or version, which has been printed, or cannot be
+/// followed, which has been told; nothing when the command is to be carried out.
+[[nodiscard]] std::optional<int> answered(const usage::Words& words,
+                                          std::span<const usage::Command> commands = {});
 
 }  // namespace cli

@@ -10,8 +10,6 @@
 namespace cli {
 namespace {
 
-constexpr const char* kUsage = "kavrel-cli read [FILE]";
-
 using observation::Unplaced;
 
 std::string_view reason_of(Unplaced why) {
@@ -58,13 +56,8 @@ class Printer {
 
 }  // namespace
 
-int read_command(const std::vector<std::string>& arguments) {
-  std::string file;
-  for (const std::string& word : arguments) {
-    if (word.starts_with("--") || !file.empty()) return usage("unknown argument " + word, kUsage);
-    file = word;
-  }
-  Input input(file);
+int read_command(const usage::Words& words) {
+  Input input(words.file());
   Printer printer(std::cout);
   return for_each_report(
       input, [&](std::string_view text) { printer.print(text); },

@@ -84,13 +84,6 @@ class Cutter {
 
 }  // namespace
 
-bool is_year_and_month(std::string_view text) {
-  constexpr std::size_t kYear = 4;
-  return text.size() == 7 && text[kYear] == '-' && text::is_all_digits(text.substr(0, kYear)) &&
-         text::is_all_digits(text.substr(kYear + 1)) && text.substr(kYear + 1) >= "01" &&
-         text.substr(kYear + 1) <= "12" && !text.starts_with("0000");
-}
-
 int for_each_numbered_report(Input& input, const UseReport& use, const UseText& outside) {
   if (!input.problem().empty()) {
     complain(input, 0, input.problem());

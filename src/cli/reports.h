@@ -9,9 +9,6 @@
 
 namespace cli {
 
-/// True for "YYYY-MM", the year and month that no report holds, as --date tells them.
-[[nodiscard]] bool is_year_and_month(std::string_view text);
-
 /// What to do with the text of a report, or with text that stands outside every report.
 using UseText = std::function<void(std::string_view)>;
 

@@ -6,6 +6,7 @@
 #include "cli/commands.h"
 #include "cli/file_reasons.h"
 #include "cli/observations.h"
+#include "cli/program.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_encoder.h"
 #include "observation/report_file.h"
@@ -15,23 +16,10 @@
 namespace cli {
 namespace {
 
-constexpr const char* kUsage =
-    "kavrel-cli save [--root DIR] --reports DIR --logbook DIR [--replace] [FILE]\n"
-    "       --root: C: of the program whose interrupted save is to be found; its other drives\n"
-    "       are not known here, so a save into them is told and left to the program";
-
 struct Arguments {
-  std::string root, reports, logbook, file;
+  std::string root, reports, logbook;
   bool replace = false;
 };
-
-// Where the folder behind an option goes; null for a word that is no option with a folder.
-std::string* place_of(std::string_view option, Arguments& arguments) {
-  if (option == "--root") return &arguments.root;
-  if (option == "--reports") return &arguments.reports;
-  if (option == "--logbook") return &arguments.logbook;
-  return nullptr;
-}
 
 /// Saves observations into two folders of this computer.
 class Saver {
@@ -203,23 +191,11 @@ class Saver {
 
 }  // namespace
 
-int save_command(const std::vector<std::string>& words) {
-  Arguments arguments;
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    const std::string& word = words[i];
-    if (word == "--replace") {
-      arguments.replace = true;
-    } else if (std::string* const place = place_of(word, arguments)) {
-      if (++i == words.size()) return usage(word + " wants a folder", kUsage);
-      *place = words[i];
-    } else if (word.starts_with("--") || !arguments.file.empty()) {
-      return usage("unknown argument " + word, kUsage);
-    } else {
-      arguments.file = word;
-    }
-  }
+int save_command(const usage::Words& words) {
+  const Arguments arguments{words.value("--root"), words.value("--reports"),
+                            words.value("--logbook"), words.has("--replace")};
   if (arguments.reports.empty() || arguments.logbook.empty())
-    return usage("--reports and --logbook are wanted", kUsage);
+    return refused(words.command(), "--reports and --logbook are wanted");
 
   Saver saver(arguments);
   if (const auto problem = saver.problem(arguments)) {
@@ -228,7 +204,7 @@ int save_command(const std::vector<std::string>& words) {
   }
   // Before anything is checked: a report that this finishes is then one that exists.
   saver.recover();
-  Input input(arguments.file);
+  Input input(words.file());
   const bool done = for_each_observation(
       input, [&](const auto& observed) { return saver.check(observed); },
       [&](const auto& observed) { return saver.save(observed); });

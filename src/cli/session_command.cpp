@@ -2,9 +2,9 @@
 
 #include <fstream>
 #include <iostream>
-#include <optional>
 
 #include "app/CVelmaranApp.h"
+#include "cli/commands.h"
 #include "cli/input.h"
 #include "headless/session.h"
 #include "platform/system/system.h"
@@ -12,45 +12,17 @@
 namespace cli {
 namespace {
 
-constexpr std::string_view kUsage =
-    "usage: kavrel-cli session [--root DIR] [--program DIR] [--locale en|ja]\n"
-    "                          [--clock 2014-11-15T11:50] [--printer none|fails] [SCRIPT]\n";
-
-struct SessionArguments {
-  platform::SystemOptions system;
-  headless::Options session;
-  std::string script;  ///< empty: standard input
-};
-
-// Where the value of an option goes; null for a word that is no option.
-std::string* place_of(std::string_view option, platform::SystemOptions& system) {
-  if (option == "--root") return &system.root;
-  if (option == "--program") return &system.program;
-  if (option == "--locale") return &system.locale;
-  if (option == "--clock") return &system.clock;
-  return nullptr;
+platform::SystemOptions system_options(const usage::Words& words) {
+  return {words.value("--root"), words.value("--program"), words.value("--locale"),
+          words.value("--clock")};
 }
 
-std::optional<SessionArguments> read_arguments(const std::vector<std::string>& arguments) {
-  SessionArguments result;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& word = arguments[i];
-    if (word == "--printer") {
-      if (++i == arguments.size()) return std::nullopt;
-      const std::string& printer = arguments[i];
-      if (printer != "none" && printer != "fails") return std::nullopt;
-      result.session.paper =
-          printer == "none" ? headless::Paper::kNoPrinter : headless::Paper::kFails;
-    } else if (std::string* const place = place_of(word, result.system)) {
-      if (++i == arguments.size()) return std::nullopt;
-      *place = arguments[i];
-    } else if ((word.starts_with("--") && word != "-") || !result.script.empty()) {
-      return std::nullopt;
-    } else {
-      result.script = word;
-    }
-  }
-  return result;
+headless::Options session_options(const usage::Words& words) {
+  headless::Options options;
+  if (words.has("--printer"))
+    options.paper =
+        words.value("--printer") == "none" ? headless::Paper::kNoPrinter : headless::Paper::kFails;
+  return options;
 }
 
 headless::Status play(std::istream& script, platform::System& system,
@@ -66,25 +38,20 @@ headless::Status play(std::istream& script, platform::System& system,
 
 }  // namespace
 
-int session_command(const std::vector<std::string>& arguments) {
-  constexpr int kWrongArguments = 2;
-  const auto read = read_arguments(arguments);
-  if (!read) {
-    std::cerr << kUsage;
-    return kWrongArguments;
-  }
-  const auto made = platform::make_system(read->system);
+int session_command(const usage::Words& words) {
+  const auto made = platform::make_system(system_options(words));
   platform::System& system = *made;
   for (const std::string& problem : system.problems()) std::cerr << "session: " << problem << '\n';
-  if (!system.problems().empty()) return kWrongArguments;
-  if (read->script.empty() || read->script == "-")
-    return static_cast<int>(play(std::cin, system, read->session));
+  if (!system.problems().empty()) return kWrong;
+  const headless::Options options = session_options(words);
+  const std::string& name = words.file();
+  if (name.empty() || name == "-") return static_cast<int>(play(std::cin, system, options));
   std::ifstream script;
-  if (const std::string problem = open_file(read->script, script); !problem.empty()) {
-    std::cerr << "session: cannot read " << read->script << ": " << problem << '\n';
-    return kWrongArguments;
+  if (const std::string problem = open_file(name, script); !problem.empty()) {
+    std::cerr << "session: cannot read " << name << ": " << problem << '\n';
+    return kWrong;
   }
-  return static_cast<int>(play(script, system, read->session));
+  return static_cast<int>(play(script, system, options));
 }
 
 }  // namespace cli

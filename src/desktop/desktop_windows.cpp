@@ -21,7 +21,7 @@
 #include "desktop/screen_window.h"
 #include "desktop/style.h"
 #include "ui/access_keys.h"
-#include "ui/dump.h"
+#include "ui/front_end.h"
 
 namespace desktop {
 namespace {
@@ -46,9 +46,11 @@ ScreenWindow* active_screen() {
   return qobject_cast<ScreenWindow*>(QApplication::activeWindow());
 }
 
-// Behind a question about an entry stands what was entered, not what stood there before the key.
+// Behind a question about an entry stands what was entered, not what stood there before the key. Not
+// only in the active window: that may be a notice of work that is going on.
 void show_what_was_taken() {
-  if (ScreenWindow* const window = active_screen()) window->show_controls();
+  for (QWidget* const widget : QApplication::topLevelWidgets())
+    if (auto* const window = qobject_cast<ScreenWindow*>(widget)) window->show_controls();
 }
 
 // Where a box of this size stands beside the field and leaves it in sight: right of it, below, above
@@ -98,15 +100,6 @@ void make_room_for_title(QMessageBox& box) {
   const int width = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + kBesideTitle;
   if (auto* const grid = qobject_cast<QGridLayout*>(box.layout()))
     grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
-}
-
-// One button alone is pressed by Enter.
-std::vector<char> access_keys_of(const ui::MessageBox& box) {
-  if (box.buttons.size() < 2) return std::vector<char>(box.buttons.size(), '\0');
-  std::vector<std::string> english;
-  for (const ui::BoxButton& button : box.buttons)
-    english.push_back(ui::access_key(button.label) == '\0' ? button.name : button.label);
-  return ui::access_keys(english);
 }
 
 QIcon program_icon() {
@@ -161,17 +154,8 @@ void prepare_application() {
   take_palette();
 }
 
-DesktopWindows::DesktopWindows(PathMap paths)
-    : paths_(std::move(paths)), idle_([this] {
-        // A copy: a message that a screen shows may be there for long.
-        for (ui::Screen* const screen : std::vector(open_)) {
-          try {
-            screen->idle();
-          } catch (...) {  // nothing may cross the windowing system's loop
-            screen->event_failed(std::current_exception());
-          }
-        }
-      }) {}
+DesktopWindows::DesktopWindows(platform::Paths paths)
+    : paths_(std::move(paths)), idle_([this] { ui::tell_idle(open_); }) {}
 
 DesktopWindows::~DesktopWindows() = default;
 
@@ -187,7 +171,7 @@ int DesktopWindows::show_message(const ui::MessageBox& box) {
   window.setIcon(icon_of(box.sign));
   // One role for all: the buttons stay in the given order on every platform.
   std::map<QAbstractButton*, int> results;
-  const std::vector<char> keys = access_keys_of(box);
+  const std::vector<char> keys = ui::access_keys_of(box);
   for (std::size_t at = 0; at < box.buttons.size(); ++at) {
     const ui::BoxButton& button = box.buttons[at];
     QPushButton* const made = window.addButton(text_of(ui::with_access_key(button.label, keys[at])),

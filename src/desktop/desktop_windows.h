@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "desktop/idle_timer.h"
+#include "platform/system/system.h"
 #include "ui/windows.h"
 
 class QWidget;
@@ -18,16 +19,10 @@ namespace desktop {
 
 class ScreenWindow;
 
-/// Between the program's paths ("C:\…") and this computer's, for the system's folder browser.
-struct PathMap {
-  std::function<std::string(const std::string&)> to_system;
-  std::function<std::string(const std::string&)> from_system;
-};
-
 class DesktopWindows : public ui::Windows {
  public:
-  /// There must be a QApplication.
-  explicit DesktopWindows(PathMap paths);
+  /// There must be a QApplication. The paths are for the system's folder browser.
+  explicit DesktopWindows(platform::Paths paths);
   ~DesktopWindows() override;
   DesktopWindows(const DesktopWindows&) = delete;
   DesktopWindows& operator=(const DesktopWindows&) = delete;
@@ -45,7 +40,7 @@ class DesktopWindows : public ui::Windows {
   std::function<void(ScreenWindow&)> on_shown;
 
  private:
-  PathMap paths_;
+  platform::Paths paths_;
   std::vector<ui::Screen*> open_;
   IdleTimer idle_;
   std::map<ui::Screen*, std::unique_ptr<ScreenWindow>> notices_;

@@ -2,14 +2,11 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <algorithm>
+
+#include "ui/front_end.h"
 
 namespace desktop {
 namespace {
-
-// Milliseconds; who never pauses is not waited for longer than the second.
-constexpr qint64 kPause = 500;
-constexpr qint64 kLongest = 1500;
 
 bool is_of_the_person(QEvent::Type type) {
   switch (type) {
@@ -40,8 +37,7 @@ IdleTimer::IdleTimer(std::function<void()> told) {
 bool IdleTimer::eventFilter(QObject* watched, QEvent* event) {
   if (is_of_the_person(event->type())) {
     if (!since_.isValid()) since_.start();
-    const qint64 left = std::max<qint64>(kLongest - since_.elapsed(), 0);
-    timer_.start(static_cast<int>(std::min(kPause, left)));
+    timer_.start(ui::until_pause(since_.elapsed()));
   }
   return QObject::eventFilter(watched, event);
 }

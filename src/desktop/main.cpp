@@ -1,8 +1,6 @@
-// The desktop program: kavrel [--root DIR] [--program DIR] [--locale en|ja] [--clock
-// 2014-11-15T11:50]
+// The desktop program; usage/programs.h says what may stand behind its name.
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <cstdio>
 
 #include "app/CAssistantClass.h"
@@ -16,37 +14,22 @@
 #include "platform/system/process.h"
 #include "platform/system/system.h"
 #include "text/reasons.h"
+#include "usage/help.h"
+#include "usage/programs.h"
 
 namespace {
 
-platform::SystemOptions read_options(const QApplication& application) {
-  QCommandLineParser parser;
-  const QCommandLineOption root("root", "Folder that is the program's drive C:.", "folder");
-  const QCommandLineOption program("program", "Folder that holds the program's own files.",
-                                   "folder");
-  const QCommandLineOption locale("locale", "Language of the session: en or ja.", "locale");
-  const QCommandLineOption clock("clock", "A clock that stands still, UTC.", "2014-11-15T11:50");
-  parser.addOptions({root, program, locale, clock});
-  parser.addHelpOption();
-  parser.process(application);
-  return {parser.value(root).toStdString(), parser.value(program).toStdString(),
-          parser.value(locale).toStdString(), parser.value(clock).toStdString()};
-}
+constexpr int kWrongWords = 2;
 
-desktop::PathMap path_map(const platform::System& system) {
-  return {
-      [&system](const std::string& path) { return system.map().to_os(path).value.value_or(""); },
-      [&system](const std::string& path) { return system.map().to_program(path).value_or(""); }};
-}
-
-int start(const QApplication& application) {
-  const auto made = platform::make_system(read_options(application));
+int start(const usage::Words& words) {
+  const auto made = platform::make_system({words.value("--root"), words.value("--program"),
+                                           words.value("--locale"), words.value("--clock")});
   platform::System& system = *made;
   for (const std::string& problem : system.problems())
     std::fprintf(stderr, "kavrel: %s\n", problem.c_str());
-  if (!system.problems().empty()) return 2;
+  if (!system.problems().empty()) return kWrongWords;
 
-  const desktop::PathMap paths = path_map(system);
+  const platform::Paths paths = platform::paths_by(system.map());
   const app::CAssistantClass program_files(system.drives(), system.files());
   desktop::set_picture_folder(QString::fromStdString(
       paths.to_system(platform::join(program_files.program_folder(), "pictures"))));
@@ -63,11 +46,23 @@ int start(const QApplication& application) {
 
 int main(int argc, char** argv) {
   platform::prepare_process();
-  QApplication application(argc, argv);
-  QApplication::setApplicationName("kavrel");
   try {
+    // Help and version ask for no display. Qt takes its own words away from the others, so those
+    // that nobody knows are told afterwards.
+    const usage::Words asked(usage::desktop_program(), platform::program_arguments(argc, argv));
+    if (const std::string answer = usage::answer_of(asked); !answer.empty())
+      return std::fputs(answer.c_str(), stdout) < 0 || std::fflush(stdout) != 0 ? kWrongWords : 0;
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("kavrel");
+    // The window's icon on displays that take it from the menu entry.
+    QGuiApplication::setDesktopFileName("kavrel");
+    const usage::Words words(usage::desktop_program(), platform::program_arguments(argc, argv));
+    if (!words.wrong().empty()) {
+      std::fputs(usage::refusal(words.command(), words.wrong()).c_str(), stderr);
+      return kWrongWords;
+    }
     desktop::prepare_application();
-    return start(application);
+    return start(words);
   } catch (...) {  // before there was anything to tell it with
     const std::string why = text::reason_of(std::current_exception(), text::Language::kEnglish);
     std::fprintf(stderr, "kavrel: %s\n", why.c_str());

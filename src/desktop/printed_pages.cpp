@@ -4,35 +4,16 @@
 #include <QFontMetricsF>
 #include <QIODevice>
 #include <QPainter>
-#include <QPalette>
 #include <QPdfWriter>
 #include <QRawFont>
 #include <algorithm>
-#include <cmath>
-#include <utility>
-#include <vector>
+#include <optional>
 
-#include "desktop/drawing_painter.h"
 #include "desktop/fixed_pitch.h"
-#include "text/ids.h"
-#include "text/texts.h"
+#include "desktop/qt_canvas.h"
 
 namespace desktop {
 namespace {
-
-constexpr double kLeastMargin = 10;  // millimetres
-constexpr double kPointsOfAnInch = 72;
-constexpr double kMillimetresOfAPoint = 25.4 / kPointsOfAnInch;
-// Below the lines of a page: a blank line and the one with the page's number.
-constexpr std::size_t kLinesOfFooter = 2;
-// What stands beside the lines, the number of the page and the texts of drawings: never larger, in
-// points.
-constexpr int kSmallLetters = 8;
-
-QPalette white_paper() {
-  return {Qt::black, Qt::white, Qt::white, Qt::darkGray, Qt::gray,
-          Qt::black, Qt::white, Qt::white, Qt::white};
-}
 
 // Widths are fractions of the height only where nothing is fitted to the dots of a screen.
 QFont font_of(const QString& family, int dots) {
@@ -43,18 +24,19 @@ QFont font_of(const QString& family, int dots) {
   return font;
 }
 
-// A family's measures for letters one dot high, taken from letters so high that rounding is
-// nothing.
-struct Proportions {
-  double column = 0.5;
-  double line = 1;
-};
-constexpr int kMeasured = 1000;
-
-Proportions proportions_of(const QString& family) {
+// Taken from letters so high that rounding is nothing.
+paper::Proportions proportions_of(const QString& family) {
+  constexpr int kMeasured = 1000;
   const QFontMetricsF metrics(font_of(family, kMeasured));
   return {metrics.horizontalAdvance(QLatin1Char('0')) / kMeasured,
           metrics.lineSpacing() / kMeasured};
+}
+
+// What there is to print on, in whole dots.
+paper::SheetSize sheet_of(const ui::Sheets& sheets, const QPageLayout& paper) {
+  const QSizeF room = paper.paintRectPixels(sheets.size.dots_per_inch).size();
+  const double points = paper::kPointsOfAnInch / sheets.size.dots_per_inch;
+  return {room.width() * points, room.height() * points, {}};
 }
 
 // One character of a text, which may take two units.
@@ -74,8 +56,8 @@ Character character_at(const QString& text, qsizetype at) {
 }
 
 // A line on paper: what would move the print head or the text behind it takes one blank column.
-QString shown(const std::string& line) {
-  QString text = QString::fromStdString(line);
+QString shown(std::string_view line) {
+  QString text = QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
   for (QChar& c : text)
     if (c.category() == QChar::Other_Control) c = QLatin1Char(' ');
   return text;
@@ -87,13 +69,12 @@ QString shown(const std::string& line) {
 class LinePainter {
  public:
   /// In the painter's font.
-  LinePainter(QPainter& painter, bool wide_in_columns, double column)
+  LinePainter(QPainter& painter, bool wide_in_columns)
       : painter_(painter),
         raw_(QRawFont::fromFont(painter.font(), QFontDatabase::Japanese)),
-        column_(column),
         wide_in_columns_(wide_in_columns) {}
 
-  void draw(const QString& line, double left, double baseline) {
+  void draw(const QString& line, QPointF at_left, double width_of_column) {
     std::size_t column = 0;
     for (qsizetype at = 0; at < line.size();) {
       const qsizetype from = at;
@@ -106,7 +87,7 @@ class LinePainter {
         column += wide ? 2 : 1;
         if (at < line.size()) next = character_at(line, at);
       } while (at < line.size() && !alone && next.wide == wide && !stands_alone(next));
-      painter_.drawText(QPointF(left + static_cast<double>(first_column) * column_, baseline),
+      painter_.drawText(at_left + QPointF(static_cast<double>(first_column) * width_of_column, 0),
                         line.mid(from, at - from));
     }
   }
@@ -119,120 +100,37 @@ class LinePainter {
 
   QPainter& painter_;
   QRawFont raw_;
-  double column_;
   bool wide_in_columns_;
 };
 
-// Of a drawing on the width of a page: the shape that it has on the screen.
-double height_of(const ui::Drawing& drawing, double width, const QFontMetricsF& metrics) {
-  if (drawing.same_scale)
-    return width * std::abs((drawing.y.last - drawing.y.first) /
-                            ((drawing.x.last - drawing.x.first) * drawing.x_unit));
-  return width * drawing.lines * metrics.height() /
-         (drawing.characters * metrics.horizontalAdvance(QLatin1Char('0')));
-}
-
-// Where a drawing stands: pages count from 0.
-struct Spot {
-  std::size_t page = 0;
-  QRectF room;
-};
-
-// The layout of a whole document, from which its number of pages is known before the first is
-// drawn.
-class Pages {
+// The pages of a file that is written.
+class PdfCanvas : public QtCanvas<paper::PageCanvas> {
  public:
-  Pages(const ui::Sheets& sheets, const QPageLayout& paper)
-      : sheets_(sheets),
-        measures_(measure_page(sheets, paper)),
-        lines_(ui::folded(sheets.lines, measures_.room.columns)),
+  /// `goes_well` says whether what comes is of any use.
+  PdfCanvas(QPainter& painter, QPdfWriter& writer, const std::function<bool()>& goes_well)
+      : QtCanvas(painter),
+        writer_(writer),
+        goes_well_(goes_well),
         family_(fixed_pitch_family()),
-        wide_in_columns_(keeps_columns(family_)),
-        paper_(paper.paintRectPixels(sheets.size.dots_per_inch).size()) {}
+        wide_in_columns_(keeps_columns(family_)) {}
 
-  /// Ends early, with false, when `goes_well` says that the rest is of no use.
-  [[nodiscard]] bool draw(QPdfWriter& writer, const std::function<bool()>& goes_well) {
-    QPainter painter;
-    if (!painter.begin(&writer)) return false;
-    painter.setFont(font_of(family_, small_letters()));
-    const std::vector<Spot> spots = place_drawings(QFontMetricsF(painter.font(), &writer));
-    const std::size_t count = spots.empty() ? pages_of_lines() : spots.back().page + 1;
-    for (std::size_t page = 0; page < count; ++page) {
-      if (!goes_well() || (page > 0 && !writer.newPage())) return false;
-      draw_lines(painter, page);
-      painter.setFont(font_of(family_, small_letters()));
-      for (std::size_t i = 0; i < spots.size(); ++i)
-        if (spots[i].page == page)
-          paint(painter, spots[i].room, sheets_.drawings[i], white_paper());
-      if (count > 1) draw_footer(painter, page + 1, count);
-    }
-    return painter.end();
+  void set_letters(double dots) override {
+    set_font(font_of(family_, static_cast<int>(dots)));
+    lines_.emplace(painter(), wide_in_columns_);
+  }
+  [[nodiscard]] bool next_page() override { return goes_well_() && writer_.newPage(); }
+  void write_in_columns(std::string_view text, ui::Point at, double column,
+                        paper::Colour colour) override {
+    painter().setPen(colour_of(colour));
+    lines_->draw(shown(text), {at.x, at.y}, column);
   }
 
  private:
-  [[nodiscard]] std::size_t line_count() const { return lines_ == nullptr ? 0 : lines_->size(); }
-  [[nodiscard]] std::size_t pages_of_lines() const {
-    const std::size_t per_page = measures_.room.lines;
-    return std::max<std::size_t>(1, (line_count() + per_page - 1) / per_page);
-  }
-
-  // Below the last line, each whole on one page; what comes first never begins with an empty sheet.
-  [[nodiscard]] std::vector<Spot> place_drawings(const QFontMetricsF& metrics) const {
-    std::vector<Spot> spots;
-    const double width = paper_.width();
-    const double most =
-        paper_.height() - static_cast<double>(kLinesOfFooter) * measures_.line_height;
-    std::size_t page = pages_of_lines() - 1;
-    double y =
-        static_cast<double>(line_count() - page * measures_.room.lines) * measures_.line_height;
-    for (const ui::Drawing& drawing : sheets_.drawings) {
-      if (y > 0) y += measures_.line_height;
-      const double height = std::min(height_of(drawing, width, metrics), most);
-      if (y > 0 && y + height > most) {
-        ++page;
-        y = 0;
-      }
-      spots.push_back({page, {0, y, width, height}});
-      y += height;
-    }
-    return spots;
-  }
-
-  void draw_lines(QPainter& painter, std::size_t page) const {
-    const std::size_t first = page * measures_.room.lines;
-    if (first >= line_count()) return;
-    painter.setFont(font_of(family_, measures_.letter_height));
-    LinePainter columns(painter, wide_in_columns_, measures_.column);
-    double baseline = QFontMetricsF(painter.font(), painter.device()).ascent();
-    for (const std::string& line : lines_->lines(first, measures_.room.lines)) {
-      columns.draw(shown(line), 0, baseline);
-      baseline += measures_.line_height;
-    }
-  }
-
-  // On a line of its own at the foot of the paper.
-  void draw_footer(QPainter& painter, std::size_t page, std::size_t count) const {
-    painter.setFont(font_of(family_, small_letters()));
-    const std::string words = text::fill(text::bilingual(text::id::kPageOf, sheets_.language),
-                                         {std::to_string(page), std::to_string(count)});
-    const double column = proportions_of(family_).column * small_letters();
-    const double width = static_cast<double>(ui::columns_of(words)) * column;
-    LinePainter(painter, wide_in_columns_, column)
-        .draw(shown(words), (paper_.width() - width) / 2,
-              paper_.height() - QFontMetricsF(painter.font(), painter.device()).descent());
-  }
-
-  [[nodiscard]] int small_letters() const {
-    const double dots = kSmallLetters * sheets_.size.dots_per_inch / kPointsOfAnInch;
-    return std::min(measures_.letter_height, static_cast<int>(dots));
-  }
-
-  const ui::Sheets& sheets_;
-  PageMeasures measures_;
-  std::shared_ptr<const ui::Document> lines_;
+  QPdfWriter& writer_;
+  const std::function<bool()>& goes_well_;
   QString family_;
   bool wide_in_columns_;
-  QSizeF paper_;
+  std::optional<LinePainter> lines_;  ///< in these letters
 };
 
 // Hands on what is written, and remembers that something was not taken: who draws the pages does
@@ -259,7 +157,7 @@ class Outlet : public QIODevice {
 QPageLayout paper_of(const QPageSize& size, const QMarginsF& least,
                      QPageLayout::Orientation orientation) {
   const auto margin = [](double points) {
-    return std::max(kLeastMargin, points * kMillimetresOfAPoint);
+    return std::max(paper::kLeastMargin, points / paper::kPointsOfAMillimetre);
   };
   const QMarginsF margins(margin(least.left()), margin(least.top()), margin(least.right()),
                           margin(least.bottom()));
@@ -267,24 +165,7 @@ QPageLayout paper_of(const QPageSize& size, const QMarginsF& least,
 }
 
 PageMeasures measure_page(const ui::Sheets& sheets, const QPageLayout& paper) {
-  const Proportions proportions = proportions_of(fixed_pitch_family());
-  const double dots_of_a_point = sheets.size.dots_per_inch / kPointsOfAnInch;
-  const int least = static_cast<int>(std::ceil(sheets.size.least_points * dots_of_a_point));
-  const int most = static_cast<int>(sheets.size.most_points * dots_of_a_point);
-  const QSizeF room = paper.paintRectPixels(sheets.size.dots_per_inch).size();
-  const std::size_t widest =
-      std::max<std::size_t>(1, sheets.lines == nullptr ? 1 : sheets.lines->widest());
-  const double fitting = room.width() / (static_cast<double>(widest) * proportions.column);
-  PageMeasures measures;
-  measures.letter_height =
-      fitting >= most ? most : std::max(least, static_cast<int>(std::floor(fitting)));
-  measures.column = proportions.column * measures.letter_height;
-  measures.line_height = proportions.line * measures.letter_height;
-  const auto whole = [](double number) { return static_cast<std::size_t>(std::max(0.0, number)); };
-  const std::size_t lines = whole(room.height() / measures.line_height);
-  measures.room.lines = lines > kLinesOfFooter ? lines - kLinesOfFooter : 1;
-  measures.room.columns = std::max<std::size_t>(2, whole(room.width() / measures.column));
-  return measures;
+  return paper::measure_page(sheets, sheet_of(sheets, paper), proportions_of(fixed_pitch_family()));
 }
 
 bool write_pdf(const ui::Sheets& sheets, const QPageLayout& paper, const TakeBytes& take) {
@@ -294,7 +175,14 @@ bool write_pdf(const ui::Sheets& sheets, const QPageLayout& paper, const TakeByt
     writer.setPageLayout(paper);
     writer.setResolution(sheets.size.dots_per_inch);
     writer.setTitle(QString::fromStdString(sheets.name));
-    if (!Pages(sheets, paper).draw(writer, [&outlet] { return outlet.whole(); })) return false;
+    QPainter painter;
+    if (!painter.begin(&writer)) return false;
+    const std::function<bool()> goes_well = [&outlet] { return outlet.whole(); };
+    PdfCanvas canvas(painter, writer, goes_well);
+    if (!paper::draw_pages(sheets, sheet_of(sheets, paper), proportions_of(fixed_pitch_family()),
+                           canvas) ||
+        !painter.end())
+      return false;
   }
   return outlet.whole();
 }

@@ -6,10 +6,10 @@
 #include <QPageLayout>
 #include <QPageSize>
 #include <QString>
-#include <cstddef>
 #include <functional>
 #include <string_view>
 
+#include "paper/pages.h"
 #include "ui/printer.h"
 
 namespace desktop {
@@ -19,12 +19,7 @@ namespace desktop {
                                    QPageLayout::Orientation orientation = QPageLayout::Portrait);
 
 /// What one page has room for, and how large its letters are (ui::PrintSize).
-struct PageMeasures {
-  ui::PageRoom room;
-  int letter_height = 1;   ///< of the font, in dots
-  double column = 1;       ///< width of one, in dots
-  double line_height = 1;  ///< in dots
-};
+using PageMeasures = paper::PageMeasures;
 [[nodiscard]] PageMeasures measure_page(const ui::Sheets& sheets, const QPageLayout& paper);
 
 /// Takes the next bytes of a file; false when they have no room.

@@ -18,6 +18,7 @@
 #include "desktop/flow_layout.h"
 #include "desktop/qt_words.h"
 #include "ui/access_keys.h"
+#include "ui/front_end.h"
 #include "ui/line_keys.h"
 #include "ui/spoken.h"
 
@@ -45,15 +46,6 @@ constexpr KeyRow kLineKeys[] = {
     {Qt::Key_PageUp, ui::Key::kPageUp}, {Qt::Key_PageDown, ui::Key::kPageDown},
     {Qt::Key_Space, ui::Key::kSpace},
 };
-
-// Where it is a control's own key, and no widget's.
-bool means_line(const ui::Control& control, ui::Key key) {
-  if (key == ui::Key::kSpace) return ui::ticks_lines(control);
-  if (control.on_arrow && control.read_only) return true;
-  const bool page = key == ui::Key::kPageUp || key == ui::Key::kPageDown;
-  if (control.kind == ui::Kind::kMemo) return page && control.on_page;
-  return ui::goes_through_lines(control.kind, key);
-}
 
 std::optional<ui::Key> key_in(std::span<const KeyRow> rows, const QKeyEvent& event) {
   // The keypad's arrows and Enter are keys like the others.
@@ -187,19 +179,12 @@ void ScreenWindow::build_part(const ui::PlanNode& part, QWidget& on) {
 }
 
 void ScreenWindow::watch(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (...) {
+  ui::watched(screen_, call, [this] {
     // The toolkit may have moved the focus before the screen was asked.
     const Binding* const entered = binding_of(focusWidget());
     if (entered == nullptr || &entered->control() != screen_.focused())
       focus_serial_ = screen_.focus_serial() - 1;
-    try {
-      screen_.event_failed(std::current_exception());
-    } catch (...) {  // NOLINT(bugprone-empty-catch)
-      // There is no room even for the message; what was entered is in the screen all the same.
-    }
-  }
+  });
 }
 
 void ScreenWindow::hand(const std::function<void()>& event) {
@@ -312,33 +297,26 @@ void ScreenWindow::build_flow(const ui::PlanNode& node, QBoxLayout& into) {
   }
 }
 
-// Each control has two of the grid's columns, so that captions and values line up; without a
-// caption in a column of its own it takes both.
 void ScreenWindow::build_grid(const ui::PlanNode& node, QBoxLayout& into) {
   auto* const grid = new QGridLayout;
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(compact_ ? 3 : 6);
   into.addLayout(grid);
-  int row = 0;
-  for (const ui::PlanNode& line : node.children) {
-    if (line.type != ui::PlanNode::Type::kLine) {
-      auto* const box = new QVBoxLayout;
-      grid->addLayout(box, row++, 0, 1, node.columns * 2);
-      build_node(line, *box);
-      continue;
-    }
-    int column = 0;
-    for (const ui::PlanNode& cell : line.children) {
-      if (cell.caption == ui::CaptionPlace::kColumn) {
-        grid->addWidget(caption_of(*binding(cell.name)), row, column,
+  for (const ui::GridCell& cell : ui::cells_of(node)) {
+    switch (cell.holds) {
+      case ui::GridCell::Holds::kCaption:
+        grid->addWidget(caption_of(*binding(cell.node->name)), cell.row, cell.column,
                         Qt::AlignLeft | Qt::AlignVCenter);
-        grid->addWidget(placed(cell), row, column + 1);
-      } else {
-        grid->addWidget(placed(cell), row, column, 1, 2);
-      }
-      column += 2;
+        break;
+      case ui::GridCell::Holds::kControl:
+        grid->addWidget(placed(*cell.node), cell.row, cell.column, 1, cell.columns);
+        break;
+      case ui::GridCell::Holds::kPart:
+        auto* const box = new QVBoxLayout;
+        grid->addLayout(box, cell.row, cell.column, 1, cell.columns);
+        build_node(*cell.node, *box);
+        break;
     }
-    ++row;
   }
   grid->setColumnStretch(node.columns * 2, 1);
 }
@@ -542,7 +520,7 @@ bool ScreenWindow::choose_line(const QWidget& widget, const QKeyEvent& pressed) 
   if (target == nullptr) return false;
   const ui::Kind kind = target->control().kind;
   const auto key = key_in(kLineKeys, pressed);
-  const bool steps = key && means_line(target->control(), *key);
+  const bool steps = key && ui::means_line(target->control(), *key);
   const QString character = ui::finds_lines(kind) ? character_of(pressed) : QString();
   if (!steps && character.isEmpty()) return false;
   if (steps && target->scrolls(*key)) return true;

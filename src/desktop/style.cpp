@@ -6,9 +6,10 @@
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <functional>
+
+#include "desktop/qt_canvas.h"
 
 namespace desktop {
 namespace {
@@ -24,39 +25,20 @@ struct Colours {
   const char* locked;    ///< paper of a value that is shown and not typed
   const char* selected;  ///< paper of selected lines and texts
   const char* selected_text;
-  /// Of a drawing, as ui::Ink has them; no name is the palette's own.
-  std::array<const char*, ui::kInks> inks;
 };
 
-// Lines, signs and texts of a drawing are read on its paper, land, water and ice alike.
-constexpr Colours kLight = {
-    "#1565c0",
-    "#0b4a8f",
-    "#fff4cc",
-    "#000000",
-    "#ffdcdc",
-    "#000000",
-    "#c00000",
-    "#e2e6ea",
-    "#1565c0",
-    "#ffffff",
-    {"", "#b0b0b0", "#0b4a8f", "#efe4c4", "#d8ebf8", "#f7fbff", "#7a4a00", "#b00000", "#8a7a55"}};
-constexpr Colours kDark = {
-    "#64b5f6",
-    "#8ec7ff",
-    "#4d431c",
-    "#fff4cc",
-    "#5c1a1a",
-    "#ffffff",
-    "#ff6b6b",
-    "#45484d",
-    "#1565c0",
-    "#ffffff",
-    {"", "#6a6a6a", "#8ec7ff", "#4a4530", "#1c3448", "#38434c", "#ffd27f", "#ff9c9c", "#a89a6c"}};
+constexpr Colours kLight = {"#1565c0", "#0b4a8f", "#fff4cc", "#000000", "#ffdcdc",
+                            "#000000", "#c00000", "#e2e6ea", "#1565c0", "#ffffff"};
+constexpr Colours kDark = {"#64b5f6", "#8ec7ff", "#4d431c", "#fff4cc", "#5c1a1a",
+                           "#ffffff", "#ff6b6b", "#45484d", "#1565c0", "#ffffff"};
+
+paper::Colour parts_of(const QColor& colour) {
+  return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
+          static_cast<std::uint8_t>(colour.blue())};
+}
 
 const Colours& colours_for(const QPalette& palette) {
-  constexpr int kHalf = 128;
-  return palette.color(QPalette::Window).lightness() < kHalf ? kDark : kLight;
+  return paper::is_dark(parts_of(palette.color(QPalette::Window))) ? kDark : kLight;
 }
 
 // How bright a colour is to the eye, 0 to 1 (relative luminance of sRGB).
@@ -139,9 +121,13 @@ QStyle* make_style() {
   return new FramedStyle;
 }
 
+paper::Inks inks_of(const QPalette& palette) {
+  return paper::inks_on(parts_of(palette.color(QPalette::Base)),
+                        parts_of(palette.color(QPalette::Text)));
+}
+
 QColor colour_of(ui::Ink ink, const QPalette& palette) {
-  const QLatin1String name(colours_for(palette).inks[static_cast<std::size_t>(ink)]);
-  return name.isEmpty() ? palette.color(QPalette::Text) : QColor(name);
+  return colour_of(inks_of(palette).of(ink));
 }
 
 double contrast(const QColor& a, const QColor& b) {

@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <cstdint>
 
+#include "paper/colour.h"
 #include "ui/drawing.h"
 
 namespace desktop {
@@ -47,7 +48,9 @@ void show_titles_reached(QMenuBar& bar);
 /// The frame of what is disabled is dotted.
 [[nodiscard]] QStyle* make_style();
 
-/// The colour of what a drawing says with this ink, on paper of this palette (QPalette::Base).
+/// The colours of a drawing on paper of this palette (QPalette::Base).
+[[nodiscard]] paper::Inks inks_of(const QPalette& palette);
+/// The one of what it says with this ink.
 [[nodiscard]] QColor colour_of(ui::Ink ink, const QPalette& palette);
 
 /// Contrast of a text's colour with its paper's, from 1 (none) to 21 (black and white).

@@ -225,17 +225,17 @@ void add_value_lines(ui::Drawing& drawing, const Scale& scale, long named_each) 
   }
 }
 
-// A line at each midnight, named by the day that begins, and one at each noon.
+// A line at each midnight, named by the day that begins, and one at each noon. The newest come
+// first: where there is not room for all names, those are left out that matter least.
 // The lines of the days end at `bottom`.
 void add_days(ui::Drawing& drawing, const Days& days, double bottom, double top,
               const text::Texts& texts) {
   constexpr int kNoon = kHoursOfDay / 2;
   constexpr std::size_t kBriefMonth = 3;  // "Nov", and all of a Japanese one
   std::vector<ui::Shape> noons;
-  for (int hour = floored(days.last - kHoursShown + kNoon - 1, kNoon); hour <= days.last;
-       hour += kNoon) {
+  for (int hour = floored(days.last, kNoon); hour >= std::max(days.last - kHoursShown, 0);
+       hour -= kNoon) {
     const double x = hour - days.last;
-    if (x < -kHoursShown || hour < 0) continue;
     const bool midnight = hour % kHoursOfDay == 0;
     drawing.ground.emplace_back(
         ui::Polyline{{{x, bottom}, {x, top}}, Ink::kFaint, false, !midnight});

@@ -40,6 +40,26 @@ std::vector<std::string_view> fields_of(std::string W::*figures) {
   return names;
 }
 
+// A quadrant is two choices; a doubt about one of them leads to that one, not to the degrees beside.
+struct HalfOfQuadrant {
+  std::string_view doubt;
+  std::string_view control;
+};
+constexpr HalfOfQuadrant kHalvesOfQuadrant[] = {{"north_for_south", "north_south"},
+                                                {"east_for_west", "east_west"}};
+
+std::vector<std::string_view> fields_of(const explain::DoubtRow& row) {
+  for (const HalfOfQuadrant& half : kHalvesOfQuadrant)
+    if (half.doubt == row.name) return {half.control};
+  std::vector<std::string_view> names;
+  for (std::string W::*const figures : row.about) {
+    if (figures == nullptr) break;
+    const auto more = fields_of(figures);
+    names.insert(names.end(), more.begin(), more.end());
+  }
+  return names;
+}
+
 std::vector<std::string_view> fields_lacking(const W& record, observation::Group group) {
   std::vector<std::string_view> names;
   for (const observation::Symbol& symbol : observation::row_of(group).used()) {
@@ -81,13 +101,8 @@ std::vector<SaveError> doubts_about(const Struct_Weather& record,
   std::vector<SaveError> errors;
   for (const explain::Doubt& doubt :
        explain::doubts_of(observation::values_of(record), past, texts.language)) {
-    SaveError error{text::fill(texts.get(text::id::kDoubt), {doubt.text}), {}, true};
-    for (std::string W::*const figures : doubt.row->about) {
-      if (figures == nullptr) break;
-      const auto names = fields_of(figures);
-      error.where.insert(error.where.end(), names.begin(), names.end());
-    }
-    errors.push_back(std::move(error));
+    errors.push_back(
+        {text::fill(texts.get(text::id::kDoubt), {doubt.text}), fields_of(*doubt.row), true});
   }
   return errors;
 }

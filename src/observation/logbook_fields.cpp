@@ -1,10 +1,14 @@
 #include "observation/logbook_fields.h"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace observation {
 namespace {
 
 void append_replacing_spaces(std::string& line, std::string_view text, char instead) {
-  for (const char c : text) line.push_back(c == ' ' ? instead : c);
+  line.append(text);
+  std::replace(line.end() - static_cast<std::ptrdiff_t>(text.size()), line.end(), ' ', instead);
 }
 
 void write_filled(std::string& line, std::string_view text, std::size_t width, char for_space) {

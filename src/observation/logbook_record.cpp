@@ -92,9 +92,10 @@ std::string_view LogbookLine::call_sign() const {
 
 std::optional<LogbookRecord> record_of_line(std::string_view line, const ShipFixedData& ship,
                                             const KeyObservationItems& items) {
+  std::optional<LogbookRecord> read;
   const auto columns = LogbookLine::of(line);
-  if (!columns) return std::nullopt;
-  std::optional<LogbookRecord> read(std::in_place, ship, items);
+  if (!columns) return read;
+  read.emplace(ship, items);
   for (const bool first : {true, false}) {
     for (const LogbookColumn& column : logbook_columns())
       if (comes_first(column) == first) take_column(*read, column, columns->text_of(column));
@@ -109,7 +110,7 @@ std::optional<LogbookRecord> record_of_line(std::string_view line, const ShipFix
   }
   constexpr std::ptrdiff_t kFixedTextsWrong = 1;
   if (std::ranges::count(read->unread, Writer::kText, &LogbookColumn::writer) > kFixedTextsWrong)
-    return std::nullopt;
+    read.reset();
   return read;
 }
 

@@ -45,9 +45,6 @@ class Canvas {
   virtual void stroke_circle(ui::Point centre, double radius, const Pen& pen) = 0;
   /// UTF-8, on one line, from `at` on, which is on its base line.
   virtual void write(std::string_view text, ui::Point at, Colour colour) = 0;
-  /// The same, each character at the left of its own columns of so many dots.
-  virtual void write_in_columns(std::string_view text, ui::Point at, double column,
-                                Colour colour) = 0;
 
   // Of the letters in use:
   [[nodiscard]] virtual double width_of(std::string_view text) const = 0;

@@ -23,14 +23,13 @@ constexpr std::array<Colour, ui::kInks - 1> kDark{{{0x6A, 0x6A, 0x6A},
                                                    {0xFF, 0x9C, 0x9C},
                                                    {0xA8, 0x9A, 0x6C}}};
 
-// Between black and white, by what is seen first: the largest and the smallest part of the colour.
+}  // namespace
+
 bool is_dark(Colour colour) {
   const auto [least, most] = std::minmax({colour.red, colour.green, colour.blue});
   constexpr int kHalf = 128;
   return (most + least) / 2 < kHalf;
 }
-
-}  // namespace
 
 Inks inks_on(Colour paper, Colour text) {
   const auto& inks = is_dark(paper) ? kDark : kLight;

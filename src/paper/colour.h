@@ -24,6 +24,9 @@ struct Inks {
   [[nodiscard]] Colour of(ui::Ink which) const { return ink[static_cast<std::size_t>(which)]; }
 };
 
+/// Between black and white, by what is seen first: the largest and the smallest part of the colour.
+[[nodiscard]] bool is_dark(Colour colour);
+
 /// For a window with such texts on such paper. Lines, signs and texts of a drawing are read on its
 /// paper, land, water and ice alike.
 [[nodiscard]] Inks inks_on(Colour paper, Colour text);

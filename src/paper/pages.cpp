@@ -14,7 +14,6 @@
 namespace paper {
 namespace {
 
-constexpr double kLeastMargin = 10 * kPointsOfAMillimetre;
 // Below the lines of a page: a blank line and the one with the page's number.
 constexpr std::size_t kLinesOfFooter = 2;
 // What stands beside the lines, the number of the page and the texts of drawings: never larger, in
@@ -131,7 +130,9 @@ class Pages {
 }  // namespace
 
 SheetSize sheet_of(double width, double height, const Margins& least) {
-  const auto margin = [](double points) { return std::max(kLeastMargin, points); };
+  const auto margin = [](double points) {
+    return std::max(kLeastMargin * kPointsOfAMillimetre, points);
+  };
   return {width,
           height,
           {margin(least.left), margin(least.top), margin(least.right), margin(least.bottom)}};

@@ -29,7 +29,9 @@ inline constexpr double kPointsOfAMillimetre = kPointsOfAnInch / 25.4;
 inline constexpr double kA4Width = 210 * kPointsOfAMillimetre;
 inline constexpr double kA4Height = 297 * kPointsOfAMillimetre;
 
-/// Paper of this size whose margins are the least ones, but nowhere less than ten millimetres.
+/// Of a margin, in millimetres.
+inline constexpr double kLeastMargin = 10;
+/// Paper of this size whose margins are the least ones, but nowhere less than kLeastMargin.
 [[nodiscard]] SheetSize sheet_of(double width, double height, const Margins& least = {});
 
 /// Of a family whose letters stand in columns, for letters one dot high.
@@ -54,6 +56,9 @@ class PageCanvas : public Canvas {
  public:
   /// Letters of this height, in the family that the proportions are of.
   virtual void set_letters(double dots) = 0;
+  /// write(), each character at the left of its own columns of so many dots.
+  virtual void write_in_columns(std::string_view text, ui::Point at, double column,
+                                Colour colour) = 0;
   /// False when what comes is of no use any more.
   [[nodiscard]] virtual bool next_page() = 0;
 };

@@ -35,6 +35,9 @@ struct Ref {
 /// Replaces each "%s" and "%d" of the text by the next argument, in order; "%%" stays as it is.
 [[nodiscard]] std::string fill(std::string_view format,
                                std::initializer_list<std::string_view> arguments);
+/// The same behind what `result` holds.
+void append_filled(std::string& result, std::string_view format,
+                   std::initializer_list<std::string_view> arguments);
 
 /// The language flag of the run. One object, handed to everything that shows a text.
 class Texts {

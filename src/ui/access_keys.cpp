@@ -120,4 +120,12 @@ std::map<const Control*, char> access_keys_of(const Screen& screen, const Plan& 
   return keys;
 }
 
+std::vector<char> access_keys_of(const MessageBox& box) {
+  if (box.buttons.size() < 2) return std::vector<char>(box.buttons.size(), '\0');
+  std::vector<std::string> english;
+  for (const BoxButton& button : box.buttons)
+    english.push_back(access_key(button.label) == '\0' ? button.name : button.label);
+  return access_keys(english);
+}
+
 }  // namespace ui

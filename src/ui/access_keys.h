@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "ui/plan.h"
+#include "ui/windows.h"
 
 namespace ui {
 
@@ -25,5 +26,7 @@ namespace ui {
 /// caption stands beside them. OK, Cancel and Help have Enter, Escape and F1. A window with a menu
 /// leaves the letters to its menus.
 [[nodiscard]] std::map<const Control*, char> access_keys_of(const Screen& screen, const Plan& plan);
+/// Of a message's buttons, 0 for one that is alone: Enter presses it.
+[[nodiscard]] std::vector<char> access_keys_of(const MessageBox& box);
 
 }  // namespace ui

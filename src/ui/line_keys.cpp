@@ -90,6 +90,13 @@ bool finds_lines(Kind kind) {
   return kind == Kind::kChoice || kind == Kind::kList || kind == Kind::kDropDown;
 }
 
+bool means_line(const Control& control, Key key) {
+  if (key == Key::kSpace) return ticks_lines(control);
+  if (control.on_arrow && control.read_only) return true;
+  if (control.kind == Kind::kMemo) return is_page_key(key) && control.on_page;
+  return goes_through_lines(control.kind, key);
+}
+
 std::optional<int> line_after(const Control& control, Key key) {
   const int count = number_of_lines(control);
   if (is_page_key(key) && control.selected >= 0) {

@@ -21,6 +21,10 @@ namespace ui {
 /// True for a list whose lines have boxes that Space ticks.
 [[nodiscard]] bool ticks_lines(const Control& control);
 
+/// True where the key is the control's own, and no widget's for its text: it goes through the lines,
+/// ticks one, turns a page, or has a handler.
+[[nodiscard]] bool means_line(const Control& control, Key key);
+
 /// Lines that a page key goes on by.
 inline constexpr int kLinesOfPage = 10;
 

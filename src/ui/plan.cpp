@@ -257,6 +257,28 @@ Plan plan_of(const Screen& screen, const LayoutNode& root) {
   return Planner(screen).plan(root);
 }
 
+std::vector<GridCell> cells_of(const PlanNode& grid) {
+  using Holds = GridCell::Holds;
+  std::vector<GridCell> cells;
+  int row = 0;
+  for (const PlanNode& line : grid.children) {
+    if (line.type != PlanNode::Type::kLine) {
+      cells.push_back({Holds::kPart, &line, row++, 0, grid.columns * 2});
+      continue;
+    }
+    int column = 0;
+    for (const PlanNode& control : line.children) {
+      const bool captioned = control.caption == CaptionPlace::kColumn;
+      if (captioned) cells.push_back({Holds::kCaption, &control, row, column});
+      const int own = captioned ? 1 : 0;
+      cells.push_back({Holds::kControl, &control, row, column + own, 2 - own});
+      column += 2;
+    }
+    ++row;
+  }
+  return cells;
+}
+
 bool shows_own_caption(Kind kind) {
   return kind == Kind::kLabel || kind == Kind::kTick || kind == Kind::kButton ||
          kind == Kind::kPicture;

@@ -66,6 +66,22 @@ struct Plan {
 /// The same by this layout.
 [[nodiscard]] Plan plan_of(const Screen& screen, const LayoutNode& root);
 
+/// What stands in a grid, and where. Each control has two of its columns, so that captions and
+/// values line up; without a caption in a column of its own it takes both.
+struct GridCell {
+  enum class Holds {
+    kCaption,  ///< that of the control `node`
+    kControl,
+    kPart,  ///< of any type, over the grid's whole width
+  };
+  Holds holds = Holds::kControl;
+  const PlanNode* node = nullptr;  ///< of the grid that was asked for
+  int row = 0;
+  int column = 0;
+  int columns = 1;  ///< that it takes
+};
+[[nodiscard]] std::vector<GridCell> cells_of(const PlanNode& grid);
+
 /// True when the control shows its caption itself, as a button does.
 [[nodiscard]] bool shows_own_caption(Kind kind);
 

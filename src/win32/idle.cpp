@@ -1,16 +1,12 @@
 #include "win32/idle.h"
 
-#include <algorithm>
 #include <utility>
 
+#include "ui/front_end.h"
 #include "win32/loop.h"
 
 namespace win32 {
 namespace {
-
-// Milliseconds; who never pauses is not waited for longer than the second.
-constexpr ULONGLONG kPause = 500;
-constexpr ULONGLONG kLongest = 1500;
 
 Idle* the_one = nullptr;
 
@@ -49,9 +45,8 @@ void Idle::see(const MSG& message) {
   if (!is_of_the_person(message.message)) return;
   const ULONGLONG now = GetTickCount64();
   if (since_ == 0) since_ = now;
-  const ULONGLONG gone = now - since_;
-  const ULONGLONG left = gone < kLongest ? kLongest - gone : 0;
-  timer_ = SetTimer(nullptr, timer_, static_cast<UINT>(std::min(kPause, left)), over);
+  const int left = ui::until_pause(static_cast<long long>(now - since_));
+  timer_ = SetTimer(nullptr, timer_, static_cast<UINT>(left), over);
 }
 
 void CALLBACK Idle::over(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*now*/) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <span>
 
-#include "ui/line_keys.h"
 #include "win32/utf.h"
 
 namespace win32 {
@@ -73,14 +72,6 @@ std::optional<ui::Key> line_key(const Pressed& pressed) {
 std::optional<ui::Key> tab_key(const Pressed& pressed) {
   if (pressed.key != VK_TAB || pressed.control || pressed.alt) return std::nullopt;
   return pressed.shift ? ui::Key::kShiftTab : ui::Key::kTab;
-}
-
-bool means_line(const ui::Control& control, ui::Key key) {
-  if (key == ui::Key::kSpace) return ui::ticks_lines(control);
-  if (control.on_arrow && control.read_only) return true;
-  const bool page = key == ui::Key::kPageUp || key == ui::Key::kPageDown;
-  if (control.kind == ui::Kind::kMemo) return page && control.on_page;
-  return ui::goes_through_lines(control.kind, key);
 }
 
 std::string written(const MSG& message) {

@@ -32,9 +32,6 @@ struct Pressed {
 /// Tab, or Tab with Shift.
 [[nodiscard]] std::optional<ui::Key> tab_key(const Pressed& pressed);
 
-/// True where the line key is the control's own, and not the system's for the field.
-[[nodiscard]] bool means_line(const ui::Control& control, ui::Key key);
-
 /// What a WM_CHAR writes, empty for what writes nothing. Space is not among it: it presses.
 [[nodiscard]] std::string written(const MSG& message);
 

@@ -22,12 +22,9 @@ constexpr COLORREF rgb(unsigned colour) {
   return ((colour & 0xFFU) << 16U) | (colour & 0xFF00U) | (colour >> 16U);
 }
 
-// Ink by ink as ui::Ink has them; the first is the text's own.
-using InkRow = std::array<unsigned, ui::kInks>;
-constexpr InkRow kLightInks = {0,        0xb0b0b0, 0x0b4a8f, 0xefe4c4, 0xd8ebf8,
-                               0xf7fbff, 0x7a4a00, 0xb00000, 0x8a7a55};
-constexpr InkRow kDarkInks = {0,        0x6a6a6a, 0x8ec7ff, 0x4a4530, 0x1c3448,
-                              0x38434c, 0xffd27f, 0xff9c9c, 0xa89a6c};
+paper::Colour parts_of(COLORREF colour) {
+  return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
+}
 
 // The system's own colours, also those that a person with weak eyes chose.
 Colours light_colours() {
@@ -72,17 +69,12 @@ Colours dark_colours() {
   return c;
 }
 
-bool is_dark(COLORREF colour) {
-  constexpr int kHalf = 3 * 128;
-  return GetRValue(colour) + GetGValue(colour) + GetBValue(colour) < kHalf;
-}
-
 // What is written in the system's colours must be read on them: with a dark scheme of the person's
 // own, colours that are made for a light one are not.
 Colours colours_for(bool dark) {
   if (dark) return dark_colours();
   Colours own = light_colours();
-  if (!is_dark(own.paper)) return own;
+  if (!paper::is_dark(parts_of(own.paper))) return own;
   Colours mended = dark_colours();
   mended.window = own.window;
   mended.text = own.text;
@@ -289,13 +281,8 @@ HBRUSH Look::brush(COLORREF colour) const {
   return at->second;
 }
 
-Inks Look::inks() const {
-  Inks inks{};
-  const InkRow& row = is_dark(colours_.paper) ? kDarkInks : kLightInks;
-  std::transform(row.begin(), row.end(), std::begin(inks.ink), rgb);
-  inks.ink[static_cast<std::size_t>(ui::Ink::kText)] = colours_.ink;
-  inks.paper = colours_.paper;
-  return inks;
+paper::Inks Look::inks() const {
+  return paper::inks_on(parts_of(colours_.paper), parts_of(colours_.ink));
 }
 
 SIZE Look::size_of(HFONT font, const std::wstring& text) const {

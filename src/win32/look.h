@@ -5,15 +5,13 @@
 
 #include "win32/system.h"
 
-#include <array>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 
+#include "paper/colour.h"
 #include "text/texts.h"
-#include "ui/drawing.h"
-#include "win32/painter.h"
 
 namespace win32 {
 
@@ -76,7 +74,7 @@ class Look {
   /// The same as a brush, which the look keeps.
   [[nodiscard]] HBRUSH brush(COLORREF colour) const;
   /// Of drawings on the window's paper.
-  [[nodiscard]] Inks inks() const;
+  [[nodiscard]] paper::Inks inks() const;
 
   // Measures, in pixels.
   [[nodiscard]] SIZE size_of(HFONT font, const std::wstring& text) const;

@@ -8,7 +8,6 @@
 #include <string>
 
 #include "ui/access_keys.h"
-#include "ui/dump.h"
 #include "win32/keys.h"
 #include "win32/spoken_words.h"
 #include "win32/utf.h"
@@ -30,15 +29,6 @@ const wchar_t* icon_of(ui::Sign sign) {
       break;
   }
   return IDI_WARNING;
-}
-
-// One button alone is pressed by Enter.
-std::vector<char> keys_of(const ui::MessageBox& box) {
-  if (box.buttons.size() < 2) return std::vector<char>(box.buttons.size(), '\0');
-  std::vector<std::string> english;
-  for (const ui::BoxButton& button : box.buttons)
-    english.push_back(ui::access_key(button.label) == '\0' ? button.name : button.label);
-  return ui::access_keys(english);
 }
 
 void register_kind(WNDPROC proc) {
@@ -76,7 +66,7 @@ MessageWindow::MessageWindow(const ui::MessageBox& box, HWND owner, text::Langua
       look_(owner == nullptr ? GetDpiForSystem() : GetDpiForWindow(owner), language,
             system_is_dark()),
       owner_(owner),
-      keys_(keys_of(box)) {
+      keys_(ui::access_keys_of(box)) {
   static const bool registered = [] {
     register_kind(proc);
     return true;

@@ -1,31 +1,16 @@
 #include "win32/painter.h"
 
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
-#include <iterator>
 #include <string>
 #include <string_view>
 
 #include "paper/drawing_painter.h"
 #include "paper/raster.h"
 #include "win32/bitmap.h"
-#include "win32/letters.h"
 #include "win32/utf.h"
 
 namespace win32 {
 namespace {
-
-paper::Colour colour_of(COLORREF colour) {
-  return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
-}
-
-paper::Inks inks_of(const Inks& inks) {
-  paper::Inks all;
-  std::transform(std::begin(inks.ink), std::end(inks.ink), all.ink.begin(), colour_of);
-  all.paper = colour_of(inks.paper);
-  return all;
-}
 
 // Shapes go into the pixels, letters through the system.
 class BitmapCanvas : public paper::Raster {
@@ -49,12 +34,6 @@ class BitmapCanvas : public paper::Raster {
                 ETO_CLIPPED, &within, words.c_str(), static_cast<UINT>(words.size()), nullptr);
     GdiFlush();  // the next shape goes past the system
   }
-  void write_in_columns(std::string_view text, ui::Point at, double column,
-                        paper::Colour colour) override {
-    SetTextColor(dc_, RGB(colour.red, colour.green, colour.blue));
-    write_columns(dc_, text, at, column);
-    GdiFlush();
-  }
   [[nodiscard]] double width_of(std::string_view text) const override {
     const std::wstring words = wide(text);
     SIZE size{};
@@ -73,7 +52,7 @@ class BitmapCanvas : public paper::Raster {
 }  // namespace
 
 void paint(HDC dc, const ui::Drawing& drawing, const RECT& room, HFONT font, double /*scale*/,
-           const Inks& inks) {
+           const paper::Inks& inks) {
   const int width = room.right - room.left;
   const int height = room.bottom - room.top;
   if (width <= 0 || height <= 0) return;
@@ -82,7 +61,7 @@ void paint(HDC dc, const ui::Drawing& drawing, const RECT& room, HFONT font, dou
   {
     BitmapCanvas canvas(bitmap, font);
     const paper::Box whole{0, 0, static_cast<double>(width), static_cast<double>(height)};
-    paper::paint(canvas, whole, drawing, inks_of(inks));
+    paper::paint(canvas, whole, drawing, inks);
   }
   BitBlt(dc, room.left, room.top, width, height, bitmap.dc(), 0, 0, SRCCOPY);
 }

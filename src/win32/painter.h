@@ -1,21 +1,16 @@
 #pragma once
 // Paints a drawing in the system's windows and pictures.
 
+#include "paper/colour.h"
 #include "ui/drawing.h"
 #include "win32/system.h"
 
 namespace win32 {
 
-/// The colours of a drawing, by ui::Ink.
-struct Inks {
-  COLORREF ink[ui::kInks];
-  COLORREF paper;
-};
-
 /// Fills the room (pixels) with paper and paints the drawing in it (ui::DrawingPlace). Lines, markers
 /// and texts have the size of the font, whose letters are as large as the display wants them.
 void paint(HDC dc, const ui::Drawing& drawing, const RECT& room, HFONT font, double scale,
-           const Inks& inks);
+           const paper::Inks& inks);
 
 /// Pixels that the drawing wants at least with this font.
 [[nodiscard]] SIZE room_of(const ui::Drawing& drawing, HDC dc, HFONT font);

@@ -190,7 +190,7 @@ void Picture::set_clickable(bool on) {
   clickable_ = on;
 }
 
-void Picture::set_look(HFONT font, double scale, const Inks& inks) {
+void Picture::set_look(HFONT font, double scale, const paper::Inks& inks) {
   font_ = font;
   scale_ = scale;
   inks_ = inks;

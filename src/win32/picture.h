@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "paper/colour.h"
 #include "ui/drawing.h"
 #include "win32/painter.h"
 #include "win32/system.h"
@@ -42,7 +43,7 @@ class Picture {
   [[nodiscard]] const std::wstring& text() const { return text_; }
   void set_clickable(bool on);
   /// The font is the caller's; `scale` is 1 on a display of 96 dots an inch.
-  void set_look(HFONT font, double scale, const Inks& inks);
+  void set_look(HFONT font, double scale, const paper::Inks& inks);
 
   /// Pixels that what is shown asks for, a drawing at least.
   [[nodiscard]] SIZE wanted(HFONT font) const;
@@ -76,7 +77,7 @@ class Picture {
   bool pressed_ = false;
   HFONT font_ = nullptr;
   double scale_ = 1;
-  Inks inks_{};
+  paper::Inks inks_;
 };
 
 }  // namespace win32

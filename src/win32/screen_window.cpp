@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "ui/dump.h"
+#include "ui/front_end.h"
 #include "ui/line_keys.h"
 #include "ui/spoken.h"
 #include "win32/utf.h"
@@ -246,30 +247,25 @@ void ScreenWindow::build_flow(const ui::PlanNode& node, Holder& into, int gap) {
   for (const ui::PlanNode& child : node.children) build_node(child, flow, gap);
 }
 
-// Each control has two of the grid's columns, so that captions and values line up; without a caption
-// in a column of its own it takes both.
 void ScreenWindow::build_grid(const ui::PlanNode& node, Holder& into, int gap) {
   Grid& grid =
       into.add<Grid>(look_->pixels(8), look_->pixels(compact_ ? 3 : 6), Grid::Rest::kBehind);
-  int row = 0;
-  for (const ui::PlanNode& line : node.children) {
-    if (line.type != ui::PlanNode::Type::kLine) {
-      auto box = std::make_unique<Column>(gap);
-      build_node(line, *box, gap);
-      grid.add_cell(std::move(box), row++, 0, node.columns * 2);
-      continue;
+  for (const ui::GridCell& cell : ui::cells_of(node)) {
+    std::unique_ptr<Box> box;
+    switch (cell.holds) {
+      case ui::GridCell::Holds::kCaption:
+        box = caption_of(*widget(cell.node->name));
+        break;
+      case ui::GridCell::Holds::kControl:
+        box = placed(*cell.node);
+        break;
+      case ui::GridCell::Holds::kPart:
+        auto column = std::make_unique<Column>(gap);
+        build_node(*cell.node, *column, gap);
+        box = std::move(column);
+        break;
     }
-    int column = 0;
-    for (const ui::PlanNode& cell : line.children) {
-      if (cell.caption == ui::CaptionPlace::kColumn) {
-        grid.add_cell(caption_of(*widget(cell.name)), row, column);
-        grid.add_cell(placed(cell), row, column + 1);
-      } else {
-        grid.add_cell(placed(cell), row, column, 2);
-      }
-      column += 2;
-    }
-    ++row;
+    grid.add_cell(std::move(box), cell.row, cell.column, cell.columns);
   }
 }
 
@@ -429,19 +425,12 @@ Widget* ScreenWindow::widget_of(HWND part) const {
 }
 
 void ScreenWindow::watch(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (...) {
+  ui::watched(screen_, call, [this] {
     // The system may have moved the focus before the screen was asked.
     const Widget* const entered = widget_of(GetFocus());
     if (entered == nullptr || &entered->control() != screen_.focused())
       focus_serial_ = screen_.focus_serial() - 1;
-    try {
-      screen_.event_failed(std::current_exception());
-    } catch (...) {  // NOLINT(bugprone-empty-catch)
-      // There is no room even for the message; what was entered is in the screen all the same.
-    }
-  }
+  });
 }
 
 void ScreenWindow::hand(const std::function<void()>& event) {
@@ -851,7 +840,7 @@ bool ScreenWindow::key_down(const MSG& message) {
 bool ScreenWindow::choose_line(const MSG& message, const Pressed& pressed) {
   Widget* const target = widget_of(message.hwnd);
   const auto key = line_key(pressed);
-  if (target == nullptr || !key || !means_line(target->control(), *key)) return false;
+  if (target == nullptr || !key || !ui::means_line(target->control(), *key)) return false;
   const bool page = *key == ui::Key::kPageUp || *key == ui::Key::kPageDown;
   if (page && target->scrolls(*key)) return true;
   settle_focus();

@@ -1,13 +1,11 @@
 #pragma once
-// Between the program's texts (UTF-8) and the system's (UTF-16). What is not well-formed becomes the
-// sign for that, so that the rest of a text is shown all the same.
+// Between the program's texts and the system's.
 
-#include <string>
-#include <string_view>
+#include "platform/win32/wide.h"
 
 namespace win32 {
 
-[[nodiscard]] std::wstring wide(std::string_view utf8);
-[[nodiscard]] std::string narrow(std::wstring_view utf16);
+using platform::win32::narrow;
+using platform::win32::wide;
 
 }  // namespace win32

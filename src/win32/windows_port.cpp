@@ -8,6 +8,7 @@
 #include <cstring>
 #include <utility>
 
+#include "ui/front_end.h"
 #include "win32/message_window.h"
 #include "win32/screen_window.h"
 #include "win32/utf.h"
@@ -68,22 +69,17 @@ void paint_waiting() {
 
 }  // namespace
 
-WindowsPort::WindowsPort(PathMap paths) : paths_(std::move(paths)), idle_([this] { tell_idle(); }) {
+WindowsPort::WindowsPort(platform::Paths paths)
+    : paths_(std::move(paths)), idle_([this] { tell_idle(); }) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
 }
 
 WindowsPort::~WindowsPort() = default;
 
 void WindowsPort::tell_idle() {
-  // A copy: a message that a screen shows may be there for long.
-  for (ScreenWindow* const window : std::vector(open_)) {
-    ui::Screen& screen = window->shown_screen();
-    try {
-      screen.idle();
-    } catch (...) {  // nothing may cross the system's own code
-      screen.event_failed(std::current_exception());
-    }
-  }
+  std::vector<ui::Screen*> screens;
+  for (const ScreenWindow* const window : open_) screens.push_back(&window->shown_screen());
+  ui::tell_idle(std::move(screens));
 }
 
 HWND WindowsPort::owner() const {

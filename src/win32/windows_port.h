@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/system/system.h"
 #include "text/texts.h"
 #include "ui/windows.h"
 #include "win32/idle.h"
@@ -19,15 +20,10 @@ namespace win32 {
 class MessageWindow;
 class ScreenWindow;
 
-/// Between the program's paths and this computer's, for the system's folder browser.
-struct PathMap {
-  std::function<std::string(const std::string&)> to_system;
-  std::function<std::string(const std::string&)> from_system;
-};
-
 class WindowsPort : public ui::Windows {
  public:
-  explicit WindowsPort(PathMap paths);
+  /// The paths are for the system's folder browser.
+  explicit WindowsPort(platform::Paths paths);
   ~WindowsPort() override;
   WindowsPort(const WindowsPort&) = delete;
   WindowsPort& operator=(const WindowsPort&) = delete;
@@ -57,7 +53,7 @@ class WindowsPort : public ui::Windows {
   [[nodiscard]] HWND owner() const;
   void tell_idle();
 
-  PathMap paths_;
+  platform::Paths paths_;
   std::vector<ScreenWindow*> open_;
   std::map<ui::Screen*, std::unique_ptr<ScreenWindow>> notices_;
   std::function<text::Language()> language_;

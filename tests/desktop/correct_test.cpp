@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTimer>
@@ -131,10 +132,15 @@ TEST(CorrectingOnTheDesktop, GoesByKeysFromTheMenuToBothFiles) {
         tests::type("96");
         tests::press(Qt::Key_Tab);
         std::vector<std::string> asked;
+        // The question names neither the file nor the hour: the line behind it does.
+        std::string behind;
+        const auto* const line = qobject_cast<QLineEdit*>(window.binding("status_line")->widget());
+        ASSERT_NE(line, nullptr);
         QTimer answers;
-        QObject::connect(&answers, &QTimer::timeout, [&asked] {
+        QObject::connect(&answers, &QTimer::timeout, [&asked, &behind, line] {
           auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
           if (box == nullptr) return;
+          if (asked.empty()) behind = line->text().toStdString();
           asked.push_back(box->text().toStdString());
           QTest::keyClick(box->buttons().front(), Qt::Key_Space);
         });
@@ -143,6 +149,7 @@ TEST(CorrectingOnTheDesktop, GoesByKeysFromTheMenuToBothFiles) {
         answers.stop();
         EXPECT_EQ(asked, (std::vector<std::string>{"Weather report file exist. Replace it? ",
                                                    "Save success"}));
+        EXPECT_NE(behind.find("14111512.tlx"), std::string::npos) << behind;
         EXPECT_EQ(window.windowTitle().toStdString(), "KAVREL for WIN - report saved");
       });
   std::string report = kText;

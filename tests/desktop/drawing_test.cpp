@@ -150,6 +150,18 @@ TEST_P(Drawn, EveryInkIsReadOnEveryPaper) {
   }
 }
 
+// Some desktops write on dark paper in light windows.
+TEST(DrawnOnPaperOfItsOwn, InksAreReadOnThePaperWhateverTheWindowIs) {
+  for (const bool dark : {false, true}) {
+    QPalette palette = tests::palette_of(dark);
+    palette.setColor(QPalette::Base, dark ? Qt::white : Qt::black);
+    for (const Ink ink : {Ink::kMark, Ink::kCaution, Ink::kAlarm})
+      EXPECT_GE(desktop::contrast(desktop::colour_of(ink, palette), palette.color(QPalette::Base)),
+                desktop::kReadable)
+          << ui::name_of(ink) << " in a " << (dark ? "dark" : "light") << " window";
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Desktop, Drawn, testing::Values(false, true),
                          [](const auto& row) { return row.param ? "dark" : "light"; });
 

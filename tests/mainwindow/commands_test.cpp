@@ -107,7 +107,7 @@ TEST(MainWindowMenu, ShowsTheVersion) {
     if (japanese) opened->world.japanese();
     opened->world.windows.expect_screen("CAboutDlg", [&](ui::Screen& screen) {
       EXPECT_EQ(screen.caption(*screen.find("program")),
-                japanese ? "KAVREL for WIN\nバージョン 1.0" : "KAVREL for WIN\nVersion 1.0");
+                japanese ? "KAVREL for WIN\nバージョン 1.0.0" : "KAVREL for WIN\nVersion 1.0.0");
       const std::string& sources = screen.find("sources")->content;
       for (const char* const named :
            {"FM 13", "IMMT-5", "Goff-Gratch", "Natural Earth", "Qt", "CUPS"})

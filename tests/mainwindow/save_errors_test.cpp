@@ -220,4 +220,29 @@ TEST(SaveErrors, ADoubtLeadsToItsField) {
   EXPECT_EQ("PPPP", opened->window.focused()->name);
 }
 
+// Of the two choices that make the quadrant, the one that is doubted: not the other, which stands
+// first on the form, nor the degrees.
+TEST(SaveErrors, ADoubtAboutTheHemisphereLeadsToItsChoice) {
+  struct Slip {
+    const char* half;
+    const char* other;
+  };
+  for (const Slip& slip : {Slip{"north_south", "east_west"}, {"east_west", "north_south"}}) {
+    const auto opened = std::make_unique<Opened>();
+    opened->files.add_file("C:\\out\\14111509.tlx",
+                           "BBXX JXKV 15094 99353 11442 41/// ///// 40232 .....");
+    enter_date(*opened);
+    for (const auto& [name, text] :
+         {std::pair{"LaDeg", "35"}, {"LaMin", "18"}, {"LoDeg", "144"}, {"LoMin", "30"}})
+      opened->type(name, text);
+    opened->window.choose(opened->control(slip.other), 0);
+    // In the middle of nowhere she is warned about as soon as she is there.
+    opened->world.windows.expect_screen("CHour3ErrorDlg",
+                                        [](ui::Screen& screen) { screen.key(ui::Key::kEnter); });
+    opened->window.choose(opened->control(slip.half), 1);
+    correct(*opened, "Doubt: By her positions the ship would");
+    EXPECT_EQ(slip.half, opened->window.focused()->name);
+  }
+}
+
 }  // namespace

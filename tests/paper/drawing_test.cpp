@@ -46,10 +46,6 @@ class Image : public paper::Raster {
     const double bottom = at.y + descent();
     fill({{at.x, top}, {right, top}, {right, bottom}, {at.x, bottom}}, colour, true);
   }
-  void write_in_columns(std::string_view text, ui::Point at, double /*column*/,
-                        Colour colour) override {
-    write(text, at, colour);
-  }
   [[nodiscard]] double width_of(std::string_view text) const override {
     return static_cast<double>(paper::characters_of(text).size()) * kLetter / 2;
   }

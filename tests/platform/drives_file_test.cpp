@@ -67,4 +67,19 @@ TEST(GivenDrives, LinesThatSayNothingAreNamed) {
   }
 }
 
+TEST(GivenDrives, AFileThatIsNotThereIsNoProblemButOneThatCannotBeReadIs) {
+  using platform::FileError;
+  using Problems = std::vector<std::string>;
+  const auto problems = [](const platform::Result<std::string>& text) {
+    return platform::problems_of_drives(text, "/root", kPaths);
+  };
+  EXPECT_EQ(problems(FileError::kNotFound), Problems{});
+  EXPECT_EQ(problems(std::string("A removable floppy absent\n")), Problems{});
+  EXPECT_EQ(problems(FileError::kNotAFile),
+            Problems{"drives.txt: cannot be read: a folder or a device, not a file"});
+  const auto told = problems(std::string("A removable floppy absent\nnonsense\n"));
+  ASSERT_EQ(told.size(), 1U);
+  EXPECT_EQ(told[0].substr(0, 20), "drives.txt: line 2: ");
+}
+
 }  // namespace

@@ -17,6 +17,17 @@ TEST(Options, TimesOfTheCommandLineAreReadStrictly) {
     EXPECT_EQ(parse_date_time(wrong), std::nullopt) << wrong;
 }
 
+TEST(Options, AClockThatIsNoTimeIsAProblemAndNoneIsNot) {
+  std::vector<std::string> problems;
+  EXPECT_EQ(platform::given_time("", problems), std::nullopt);
+  EXPECT_EQ(platform::given_time("2014-11-15T11:50", problems),
+            (DateTime{2014, 11, 15, 11, 50, 0}));
+  EXPECT_TRUE(problems.empty());
+  EXPECT_EQ(platform::given_time("noon", problems), std::nullopt);
+  EXPECT_EQ(problems,
+            std::vector<std::string>{"--clock: \"noon\" is no time such as 2014-11-15T11:50"});
+}
+
 TEST(Options, OnlyTheLanguageOfTheNameCounts) {
   const struct {
     const char* name;

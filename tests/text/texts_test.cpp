@@ -2,9 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <set>
+#include <string>
+
 #include "fakes/fake_ports.h"
 #include "text/help.h"
 #include "text/ids.h"
+#include "text/numbers.h"
 
 namespace {
 
@@ -25,13 +30,27 @@ TEST(Texts, TextWithoutMarkerIsTheSameInBothLanguages) {
 
 TEST(Texts, AnUnknownIdIsEmpty) {
   EXPECT_EQ(text::bilingual(text::Id{1}, Language::kEnglish), "");
-  EXPECT_EQ(text::resolve({0, 74}, Language::kEnglish), "");
+  // Before the first, behind the last, and in a gap between two.
+  for (const int number : {-1, 0, 15, 16, 17, 65535, 1'000'000})
+    EXPECT_FALSE(text::has_entry(text::Id{number})) << number;
+}
+
+TEST(Texts, EveryTextIsFoundAndNoOther) {
+  std::ifstream strings(std::string(KAVREL_SOURCE).append("/resources/strings.txt"));
+  std::set<int> ids;
+  for (std::string line; std::getline(strings, line);)
+    if (!line.empty() && line[0] != '#') ids.insert(text::leading_int(line));
+  ASSERT_GT(ids.size(), 1000U);
+  for (int number = 0; number < *ids.rbegin() + 1000; ++number)
+    EXPECT_EQ(text::has_entry(text::Id{number}), ids.contains(number)) << number;
 }
 
 TEST(Texts, FillPutsArgumentsInOrderAndLeavesTheRest) {
   EXPECT_EQ(text::fill("01<=DAY<=%d", {"28"}), "01<=DAY<=28");
   EXPECT_EQ(text::fill("%s and %s", {"%s"}), "%s and %s");
   EXPECT_EQ(text::fill("100%", {}), "100%");
+  EXPECT_EQ(text::fill("%s%%d%", {"a", "b", "c"}), "a%b%");
+  EXPECT_EQ(text::fill("%x %d", {"1"}), "%x 1");
 }
 
 TEST(Help, PathHoldsLanguageAndTopic) {

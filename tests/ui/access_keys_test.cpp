@@ -54,6 +54,15 @@ TEST(AccessKeys, StandInTheTextOrBehindIt) {
 
 // Every dialog, in both languages: what is pressed, ticked or typed into has a letter of its own,
 // the same in both, and without it the caption is the one of the table.
+// By its name where the label, which may be Japanese, names no letter.
+TEST(AccessKeys, OfAMessageAreThoseOfItsButtonsWhereItHasSeveral) {
+  ui::MessageBox box;
+  box.buttons = {{"はい(&Y)", "yes", ui::kYes}, {"キャンセル", "cancel", ui::kCancel}};
+  EXPECT_EQ(ui::access_keys_of(box), (std::vector<char>{'Y', 'C'}));
+  box.buttons = {{"OK", "ok", ui::kOk}};
+  EXPECT_EQ(ui::access_keys_of(box), std::vector<char>{'\0'});
+}
+
 TEST(AccessKeys, OfEveryDialogAreUniqueAndTheSameInBothLanguages) {
   std::size_t dialogs = 0;
   for (const fakes::ScreenCase& row : fakes::all_screens()) {

@@ -33,6 +33,7 @@ class CLinesDlg : public ui::Screen {
   ui::Edit edit{*this, "edit"};
   ui::Choice codes{*this, "codes", {}, {}};
   ui::List list{*this, "list"};
+  ui::Memo pages{*this, "pages"};
   int changes = 0;
 };
 
@@ -83,6 +84,24 @@ TEST(LineKeys, LeaveACombosTextAndATreesRowsTheirOwnKeys) {
     EXPECT_TRUE(keys_of(kind).empty()) << ui::name_of(kind);
   EXPECT_FALSE(ui::finds_lines(Kind::kCombo));
   EXPECT_FALSE(ui::finds_lines(Kind::kEdit));
+}
+
+TEST_F(ALine, HasKeysThatAWidgetLeavesToTheScreen) {
+  EXPECT_TRUE(ui::means_line(screen.list, Key::kUp));
+  EXPECT_FALSE(ui::means_line(screen.list, Key::kSpace));
+  screen.list.item_ticked.assign(4, false);
+  EXPECT_TRUE(ui::means_line(screen.list, Key::kSpace));
+  // In a text the keys move the caret, unless it is only read and somebody asks for them.
+  EXPECT_FALSE(ui::means_line(screen.edit, Key::kUp));
+  screen.edit.on_arrow = [](Key) {};
+  EXPECT_FALSE(ui::means_line(screen.edit, Key::kUp));
+  screen.edit.read_only = true;
+  EXPECT_TRUE(ui::means_line(screen.edit, Key::kUp));
+  EXPECT_FALSE(ui::means_line(screen.edit, Key::kSpace));
+  EXPECT_FALSE(ui::means_line(screen.pages, Key::kPageDown));
+  screen.pages.on_page = [](bool) {};
+  EXPECT_TRUE(ui::means_line(screen.pages, Key::kPageDown));
+  EXPECT_FALSE(ui::means_line(screen.pages, Key::kDown));
 }
 
 TEST_F(ALine, IsNotReachedWhereNoLineIsOpen) {

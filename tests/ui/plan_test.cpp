@@ -65,6 +65,22 @@ class Fields : public ui::OkCancelDialog {
   ui::Tick tick{*this, "tick", {text::id::kHelpLabel}};
 };
 
+// What stands in a grid, row by row: "number:0 number@1 | bare@0+2".
+std::string cells(const ui::PlanNode& grid) {
+  std::string out;
+  int row = 0;
+  for (const ui::GridCell& cell : ui::cells_of(grid)) {
+    for (; row < cell.row; ++row) out += " |";
+    if (!out.empty()) out += " ";
+    const bool part = cell.holds == ui::GridCell::Holds::kPart;
+    out += part ? written(*cell.node) : cell.node->name;
+    out += cell.holds == ui::GridCell::Holds::kCaption ? ":" : "@";
+    out += std::to_string(cell.column);
+    if (cell.columns > 1) out += "+" + std::to_string(cell.columns);
+  }
+  return out;
+}
+
 class APlan : public testing::Test {
  protected:
   APlan() { screen.open(); }
@@ -100,6 +116,17 @@ TEST_F(APlan, GoesOnInTheNextLineOfAGridThatIsFull) {
                "row title remark\nbuttons ok cancel\n"),
             "rows(grid 1(line(number|+unit+room) line(value|) rows(line(tick space)) line(bare)) "
             "line(title remark<) buttons(space ok cancel))");
+}
+
+TEST_F(APlan, GivesEachControlOfAGridTwoOfItsColumns) {
+  const auto in_grid = [this](const std::string& layout) {
+    const ui::Plan plan = ui::plan_of(screen, ui::parse_layout(layout).root);
+    return cells(plan.body.children.front());
+  };
+  EXPECT_EQ(in_grid("grid 2\n  number value\n  bare tick\n  remark^ title-\nend\nok cancel\n"),
+            "number:0 number@1 value:2 value@3 | bare@0+2 tick@2+2 | remark@0+2 title@2+2");
+  EXPECT_EQ(in_grid("grid 2\n  number\n  rows\n    tick\n  end\n  bare\nend\nok cancel\n"),
+            "number:0 number@1 | rows(line(tick space))@0+4 | bare@0+2");
 }
 
 TEST_F(APlan, KeepsRowsBesideAColumnTogether) {

@@ -4,8 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <iterator>
+#include <cstddef>
 
 #include "painted.h"
 #include "win32/letters.h"
@@ -17,13 +16,12 @@ using ui::Ink;
 
 constexpr std::uint32_t kPaper = 0xFAF0E0;
 
-// Blue is last in a pixel and first in the system's colours.
-win32::Inks inks() {
-  win32::Inks all{};
-  std::fill(std::begin(all.ink), std::end(all.ink), RGB(1, 2, 3));
-  all.ink[static_cast<int>(Ink::kWater)] = RGB(0x10, 0x20, 0xC0);
-  all.ink[static_cast<int>(Ink::kText)] = RGB(0, 0, 0);
-  all.paper = RGB(0xFA, 0xF0, 0xE0);
+paper::Inks inks() {
+  paper::Inks all;
+  all.ink.fill({1, 2, 3});
+  all.ink[static_cast<std::size_t>(Ink::kWater)] = {0x10, 0x20, 0xC0};
+  all.ink[static_cast<std::size_t>(Ink::kText)] = paper::kBlack;
+  all.paper = {0xFA, 0xF0, 0xE0};
   return all;
 }
 

@@ -69,9 +69,9 @@ class PictureOnAWindow : public testing::Test {
                            nullptr, GetModuleHandleW(nullptr), nullptr);
     picture = std::make_unique<win32::Picture>(
         parent, [this](ui::Point at) { clicked.push_back(at); }, [this] { ++pressed; });
-    win32::Inks inks{};
-    inks.paper = RGB(0xFA, 0xF0, 0xE0);
-    inks.ink[static_cast<int>(ui::Ink::kWater)] = RGB(0x10, 0x20, 0xC0);
+    paper::Inks inks;
+    inks.paper = {0xFA, 0xF0, 0xE0};
+    inks.ink[static_cast<std::size_t>(ui::Ink::kWater)] = {0x10, 0x20, 0xC0};
     picture->set_look(font.get(), 1, inks);
     room(200, 100);
   }
@@ -137,8 +137,7 @@ TEST_F(PictureOnAWindow, OfAFileStandsAtTheLeftHalfWayUpInItsOwnSize) {
 }
 
 TEST_F(PictureOnAWindow, OfAFileIsLargerOnAFineDisplay) {
-  win32::Inks inks{};
-  picture->set_look(font.get(), 1.5, inks);
+  picture->set_look(font.get(), 1.5, {});
   ASSERT_TRUE(picture->show_file(L"quarters.bmp", false));
   EXPECT_EQ(picture->wanted(font.get()).cx, 60);
   EXPECT_EQ(shown()->at(58, 64), kWhite);

@@ -1,6 +1,7 @@
 #include "codetables/tables/code_tables.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "text/ids.h"
 #include "text/numbers.h"
@@ -302,12 +303,23 @@ std::span<const CodeTable> code_tables() {
 }
 
 const CodeTable* table_of(std::string_view symbol) {
-  if (symbol.empty()) return nullptr;
-  for (const CodeTable& table : kTables) {
-    if (std::find(table.symbols.begin(), table.symbols.end(), symbol) != table.symbols.end())
-      return &table;
-  }
-  return nullptr;
+  struct Row {
+    std::string_view symbol;
+    const CodeTable* table;
+  };
+  static const std::vector<Row> kBySymbol = [] {
+    std::vector<Row> rows;
+    for (const CodeTable& table : kTables)
+      for (const std::string_view each : table.symbols)
+        if (!each.empty()) rows.push_back({each, &table});
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const Row& a, const Row& b) { return a.symbol < b.symbol; });
+    return rows;
+  }();
+  const auto at =
+      std::lower_bound(kBySymbol.begin(), kBySymbol.end(), symbol,
+                       [](const Row& row, std::string_view wanted) { return row.symbol < wanted; });
+  return at != kBySymbol.end() && at->symbol == symbol ? at->table : nullptr;
 }
 
 const CodeTable* table_numbered(std::string_view number) {

@@ -280,9 +280,9 @@ void say_sea(Sentence& s, const Heard& heard) {
     return;
   }
   constexpr std::array kMethods{id::kFixIntake, id::kFixBucket, id::kFixHullSensor, id::kFixOther};
-  s.say(id::kPlainDegreesBy,
-        {s.get(id::kPlainNameSea), tenths(*values.sea),
-         Sentence::within(s.get(kMethods.at(static_cast<std::size_t>(*values.sea_method))))});
+  s.say(id::kPlainDegreesBy, {s.get(id::kPlainNameSea), tenths(*values.sea),
+                              Sentence::within(std::string(s.get(
+                                  kMethods.at(static_cast<std::size_t>(*values.sea_method)))))});
   if (!codetables::sea_temperature(tenths(*values.sea))) s.unusual(id::kPlainOutsidePressures);
   if (!values.air || !is_readable(record.SnT)) return;
   const double difference = std::abs(*values.sea - *values.air);

@@ -1,6 +1,7 @@
 #include "explain/plain/sentence.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "codetables/tables/code_tables.h"
 #include "codetables/tables/wind_figures.h"
@@ -123,27 +124,30 @@ std::string speed_words(const Sentence& sentence, const Heard& heard, double spe
   return sentence.filled(words, {figures, text::format_int(codetables::beaufort_force(*knots))});
 }
 
-std::string Sentence::within(std::string_view words) {
-  std::string small(words);
-  const bool is_word = small.size() > 2 && is_capital(small[0]) && is_small(small[1]) &&
-                       (is_small(small[2]) || small[2] == ' ');
+std::string Sentence::within(std::string words) {
+  const bool is_word = words.size() > 2 && is_capital(words[0]) && is_small(words[1]) &&
+                       (is_small(words[2]) || words[2] == ' ');
   const bool is_cloud =
-      small.size() > 2 && small[2] == ' ' && !small.starts_with("No ") && !small.starts_with("Up ");
-  if (is_word && !is_cloud) small[0] = static_cast<char>(small[0] - 'A' + 'a');
-  return small;
+      words.size() > 2 && words[2] == ' ' && !words.starts_with("No ") && !words.starts_with("Up ");
+  if (is_word && !is_cloud) words[0] = static_cast<char>(words[0] - 'A' + 'a');
+  return words;
 }
 
 void Sentence::say(std::string_view piece) {
-  if (!text_.empty()) text_.append(get(id::kPlainBetween));
-  const std::size_t start = text_.size();
-  text_.append(piece);
-  if (start < text_.size() && is_small(text_[start]))
-    text_[start] = static_cast<char>(text_[start] - 'a' + 'A');
-  said_ = true;
+  fill_in(piece, {});
 }
 
 void Sentence::say(text::Id id, std::initializer_list<std::string_view> arguments) {
-  say(filled(id, arguments));
+  fill_in(get(id), arguments);
+}
+
+void Sentence::fill_in(std::string_view format, std::initializer_list<std::string_view> arguments) {
+  if (!text_.empty()) text_.append(get(id::kPlainBetween));
+  const std::size_t start = text_.size();
+  text::append_filled(text_, format, arguments);
+  if (start < text_.size() && is_small(text_[start]))
+    text_[start] = static_cast<char>(text_[start] - 'a' + 'A');
+  said_ = true;
 }
 
 void Sentence::not_reported(text::Id name) {
@@ -176,7 +180,7 @@ std::optional<std::string> Sentence::meaning_of(std::string_view symbol,
   if (symbol == "VV" || symbol == "h")
     return within(limits_in_words(*this, std::move(says), symbol));
   take_brackets_of_a_list(*this, symbol, says);
-  return within(says);
+  return within(std::move(says));
 }
 
 void Sentence::code(text::Id name, std::string_view symbol, std::string_view figures) {

@@ -23,7 +23,10 @@ struct Heard {
 /// Pieces begin with a small letter in the table; each becomes a sentence.
 class Sentence {
  public:
-  explicit Sentence(text::Language language) : language_(language) {}
+  explicit Sentence(text::Language language) : language_(language) {
+    constexpr std::size_t kUsualLength = 120;
+    text_.reserve(kUsualLength);
+  }
 
   [[nodiscard]] text::Language language() const { return language_; }
   [[nodiscard]] std::string_view get(text::Id id) const { return text::bilingual(id, language_); }
@@ -33,7 +36,7 @@ class Sentence {
   }
 
   /// "rain" of "Rain", as it is written within a sentence; names such as "Cu" stay.
-  [[nodiscard]] static std::string within(std::string_view words);
+  [[nodiscard]] static std::string within(std::string words);
 
   void say(std::string_view piece);
   void say(text::Id id, std::initializer_list<std::string_view> arguments = {});
@@ -64,6 +67,8 @@ class Sentence {
   [[nodiscard]] std::string take();
 
  private:
+  void fill_in(std::string_view format, std::initializer_list<std::string_view> arguments);
+
   text::Language language_;
   std::string text_;
   std::string missing_;

@@ -7,12 +7,9 @@
 #include <array>
 #include <cerrno>
 #include <ctime>
-#include <filesystem>
 #include <limits>
 #include <memory>
 #include <new>
-
-#include "platform/paths.h"
 
 namespace platform::posix {
 
@@ -21,7 +18,6 @@ namespace {
 constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t kNewFile = 0666;    // less the user's mask
 constexpr mode_t kNewFolder = 0777;  // less the user's mask
-constexpr int kTries = 1000;
 
 /// Repeats a call for as long as a signal interrupts it.
 template <class Call>
@@ -270,19 +266,10 @@ class PosixFiles::Log : public LockedLog {
 };
 
 PosixFiles::PosixFiles(const PathMap& drives, SystemCalls& calls)
-    : drives_(drives), calls_(calls), current_folder_("C:\\") {
-  std::error_code error;
-  const auto here = std::filesystem::current_path(error);
-  // Where the process was started; the process itself stays there, whatever is set later.
-  if (!error) current_folder_ = drives.to_program(here.string()).value_or(current_folder_);
-}
-
-Result<std::string> PosixFiles::os(const std::string& path) const {
-  return drives_.to_os(path, current_folder_);
-}
+    : StagedFiles(drives), calls_(calls) {}
 
 std::optional<struct stat> PosixFiles::about(const std::string& path) const {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   struct stat result {};
   if (!os_path.ok() || unbroken([&] { return calls_.stat(os_path.value->c_str(), &result); }) == -1)
     return std::nullopt;
@@ -342,7 +329,7 @@ Result<std::string> PosixFiles::part_of(int file, std::uint64_t from, std::uint6
 
 Result<std::string> PosixFiles::read_part(const std::string& path, std::uint64_t from,
                                           std::uint64_t count) const {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   if (!os_path.ok()) return os_path.error;
   const Open file(calls_, *os_path.value, O_RDONLY | O_NOCTTY | O_NONBLOCK);
   if (const auto error = regular(file); error != FileError::kNone) return error;
@@ -350,7 +337,7 @@ Result<std::string> PosixFiles::read_part(const std::string& path, std::uint64_t
 }
 
 Result<std::string> PosixFiles::read(const std::string& path, std::uint64_t largest) const {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   if (!os_path.ok()) return os_path.error;
   // Without waiting: opening a pipe would last until somebody writes into it.
   const Open file(calls_, *os_path.value, O_RDONLY | O_NOCTTY | O_NONBLOCK);
@@ -374,17 +361,6 @@ Result<std::string> PosixFiles::read(const std::string& path, std::uint64_t larg
 
 // ---- Replacing
 
-FileError PosixFiles::write_all(int file, std::string_view content) const {
-  while (!content.empty()) {
-    const auto count = unbroken([&] { return calls_.write(file, content.data(), content.size()); });
-    if (count == -1) return file_error(errno);
-    // A write of nothing would be tried for ever.
-    if (count == 0) return FileError::kNoSpace;
-    content.remove_prefix(static_cast<std::size_t>(count));
-  }
-  return FileError::kNone;
-}
-
 void PosixFiles::let_owner_use(int file) const {
   constexpr mode_t kOwner = S_IRUSR | S_IWUSR;
   constexpr mode_t kPermissions = 07777;
@@ -393,54 +369,51 @@ void PosixFiles::let_owner_use(int file) const {
     (void)calls_.fchmod(file, (about.st_mode & kPermissions) | kOwner);
 }
 
-FileError PosixFiles::fill(int file, const Write& write,
-                           const std::optional<struct stat>& old) const {
-  if (const auto error = write(file); error != FileError::kNone) return error;
-  constexpr mode_t kPermissions = 0777;
-  // A medium without permissions refuses this; the file itself is none the worse for it.
-  if (old)
-    // Renamed over, the old file's rights would be gone with it.
-    (void)calls_.fchmod(file, old->st_mode & kPermissions);
-  else
-    let_owner_use(file);
-  if (unbroken([&] { return calls_.fsync(file); }) == -1) return file_error(errno);
-  return FileError::kNone;
-}
+/// A new file that will be renamed.
+class PosixFiles::New : public Beside {
+ public:
+  /// `old` is what it replaces.
+  New(const PosixFiles& files, std::optional<struct stat> old)
+      : files_(files), calls_(files.calls_), old_(old) {}
 
-Result<StagedFile> PosixFiles::stage(const std::string& path, std::string_view content) {
-  return stage_with(path, [&](int file) { return write_all(file, content); });
-}
+  [[nodiscard]] FileError make(const std::string& path) override {
+    const auto os_path = files_.to_os(path);
+    if (!os_path.ok()) return os_path.error;
+    // Never a file or link that somebody else put there.
+    open_.emplace(calls_, *os_path.value, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
+    return open_->ok() ? FileError::kNone : open_->error();
+  }
+  [[nodiscard]] Result<std::size_t> write(std::string_view content) override {
+    const auto count =
+        unbroken([&] { return calls_.write(open_->file(), content.data(), content.size()); });
+    if (count == -1) return file_error(errno);
+    return static_cast<std::size_t>(count);
+  }
+  [[nodiscard]] FileError finish() override {
+    constexpr mode_t kPermissions = 0777;
+    // A medium without permissions refuses this; the file itself is none the worse for it.
+    if (old_)
+      // Renamed over, the old file's rights would be gone with it.
+      (void)calls_.fchmod(open_->file(), old_->st_mode & kPermissions);
+    else
+      files_.let_owner_use(open_->file());
+    if (unbroken([&] { return calls_.fsync(open_->file()); }) == -1) return file_error(errno);
+    return open_->close();
+  }
 
-Result<StagedFile> PosixFiles::stage_pieces(const std::string& path, const NextPiece& next) {
-  const auto write = [&](int file) {
-    try {
-      while (true) {
-        const auto piece = next();
-        if (!piece.ok() || piece.value->empty()) return piece.error;
-        if (const auto error = write_all(file, *piece.value); error != FileError::kNone)
-          return error;
-      }
-    } catch (const std::bad_alloc&) {
-      return FileError::kNoMemory;
-    }
-  };
-  auto staged = stage_with(path, write);
-  if (!staged.ok()) return staged;
-  const auto beside = os(staged.value->temporary);
-  // Read back from memory, a medium that keeps nothing would pass for a good one.
-  if (const Open file(calls_, beside.ok() ? *beside.value : "", O_RDONLY); file.ok())
-    (void)calls_.forget_cached(file.file());
-  return staged;
-}
+ private:
+  const PosixFiles& files_;
+  SystemCalls& calls_;
+  std::optional<struct stat> old_;
+  std::optional<Open> open_;
+};
 
-Result<StagedFile> PosixFiles::stage_with(const std::string& path, const Write& write) {
-  const auto target = os(path);
+Result<std::unique_ptr<StagedFiles::Beside>> PosixFiles::beside(const std::string& path) {
+  const auto target = to_os(path);
   if (!target.ok()) return target.error;
   if (const auto error = folder_writable(*target.value); error != FileError::kNone) return error;
   const Look there = look_at(*target.value);
-  if (there.there == There::kCannotTell) return there.error;
-  if (there.there == There::kOther) return FileError::kNotAFile;
-  if (there.there == There::kFolder) return FileError::kAccessDenied;
+  if (const auto error = why_no_place(there); error != FileError::kNone) return error;
   std::optional<struct stat> old;
   if (there.there == There::kFile) {
     old = about(path);
@@ -448,42 +421,30 @@ Result<StagedFile> PosixFiles::stage_with(const std::string& path, const Write& 
     if (!old || (old->st_mode & kAnyWrite) == 0 || calls_.access(target.value->c_str(), W_OK) == -1)
       return FileError::kAccessDenied;
   }
+  return std::unique_ptr<Beside>(std::make_unique<New>(*this, old));
+}
 
-  const std::string folder(folder_part(path));
-  for (int i = 0; i < kTries; ++i) {
-    // Never the name of the file: no search for reports or logbooks may find a half-written one.
-    const std::string name = staged_name(static_cast<std::uint64_t>(::getpid()), staged_count_++);
-    const std::string beside =
-        (folder_of(*target.value) == "/" ? "" : folder_of(*target.value)) + "/" + name;
-    // Never a file or link that somebody else put there.
-    Open file(calls_, beside, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
-    if (!file.ok() && file.error_number() == EEXIST) continue;  // left by an earlier crash
-    if (!file.ok()) return file.error();
-    FileError error = fill(file.file(), write, old);
-    const FileError closing = file.close();
-    if (error == FileError::kNone) error = closing;
-    if (error == FileError::kNone) return StagedFile{path, folder + name};
-    (void)calls_.unlink(beside.c_str());
-    return error;
-  }
-  return FileError::kOther;
+void PosixFiles::forget_cached(const std::string& path) {
+  const auto os_path = to_os(path);
+  if (const Open file(calls_, os_path.ok() ? *os_path.value : "", O_RDONLY); file.ok())
+    (void)calls_.forget_cached(file.file());
+}
+
+std::uint64_t PosixFiles::process() const {
+  return static_cast<std::uint64_t>(::getpid());
 }
 
 FileError PosixFiles::commit(const StagedFile& staged, Over over) {
-  const auto from = os(staged.temporary);
-  const auto to = os(staged.path);
+  const auto from = to_os(staged.temporary);
+  const auto to = to_os(staged.path);
   if (!from.ok()) return from.error;
   if (!to.ok()) return to.error;
   // Opened first: whatever can be refused is refused before anything has changed.
   const Open folder(calls_, folder_of(*to.value), O_RDONLY | O_DIRECTORY);
   if (!folder.ok()) return folder.error();
-  if (over == Over::kRefuse) {
-    if (const auto error = rename_new(*from.value, *to.value); error != FileError::kNone)
-      return error;
-  } else if (unbroken([&] { return calls_.rename(from.value->c_str(), to.value->c_str()); }) ==
-             -1) {
-    return file_error(errno);
-  }
+  const FileError error =
+      over == Over::kRefuse ? rename_new(*from.value, *to.value) : move_over(staged);
+  if (error != FileError::kNone) return error;
   // The new file is in its place from here on. Should the folder not be flushed, a power failure
   // may still bring back the old one, whole as well; to call that a failed save would be untrue.
   (void)unbroken([&] { return calls_.fsync(folder.file()); });
@@ -514,28 +475,24 @@ FileError PosixFiles::rename_new(const std::string& from, const std::string& to)
   return renamed == -1 ? file_error(errno) : FileError::kNone;
 }
 
-FileError PosixFiles::note(const std::string& path, std::string_view content) {
-  const auto staged = stage(path, content);
-  if (!staged.ok()) return staged.error;
-  const auto from = os(staged.value->temporary);
-  const auto to = os(path);
-  FileError error = from.ok() ? to.error : from.error;
-  if (error == FileError::kNone &&
-      unbroken([&] { return calls_.rename(from.value->c_str(), to.value->c_str()); }) == -1)
-    error = file_error(errno);
-  if (error != FileError::kNone) discard(*staged.value);
-  return error;
+FileError PosixFiles::move_over(const StagedFile& staged) {
+  const auto from = to_os(staged.temporary);
+  const auto to = to_os(staged.path);
+  if (!from.ok()) return from.error;
+  if (!to.ok()) return to.error;
+  const int moved = unbroken([&] { return calls_.rename(from.value->c_str(), to.value->c_str()); });
+  return moved == -1 ? file_error(errno) : FileError::kNone;
 }
 
 void PosixFiles::discard(const StagedFile& staged) {
-  if (const auto os_path = os(staged.temporary); os_path.ok())
+  if (const auto os_path = to_os(staged.temporary); os_path.ok())
     (void)unbroken([&] { return calls_.unlink(os_path.value->c_str()); });
 }
 
 // ---- The logbook
 
 Result<std::unique_ptr<LockedLog>> PosixFiles::lock_log(const std::string& path) {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   if (!os_path.ok()) return os_path.error;
   // Only a logbook that is to be made needs a folder that can be written.
   if (look_at(*os_path.value).there == There::kNo) {
@@ -600,7 +557,7 @@ class PosixFiles::LockClaim : public Claim {
 };
 
 Result<std::unique_ptr<Claim>> PosixFiles::claim(const std::string& path) {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   if (!os_path.ok()) return os_path.error;
   if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
   auto claim = std::make_unique<LockClaim>(calls_, *os_path.value);
@@ -611,7 +568,7 @@ Result<std::unique_ptr<Claim>> PosixFiles::claim(const std::string& path) {
 // ---- What is there
 
 Look PosixFiles::look(const std::string& path) const {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   if (!os_path.ok()) {
     if (os_path.error == FileError::kNotFound) return {};
     return {There::kCannotTell, os_path.error};
@@ -645,7 +602,7 @@ std::optional<DateTime> PosixFiles::modified(const std::string& path) const {
 }
 
 Result<std::vector<FolderEntry>> PosixFiles::list(const std::string& folder) const {
-  const auto os_path = os(folder);
+  const auto os_path = to_os(folder);
   if (!os_path.ok()) return os_path.error;
   const auto close = [this](DIR* opened) { (void)calls_.closedir(opened); };
   const std::unique_ptr<DIR, decltype(close)> open(calls_.opendir(os_path.value->c_str()), close);
@@ -676,7 +633,7 @@ Result<std::vector<FolderEntry>> PosixFiles::list(const std::string& folder) con
 // ---- Changing what is there
 
 FileError PosixFiles::create_folder(const std::string& path) {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   if (!os_path.ok()) return os_path.error;
   if (const auto found = about(path))
     return S_ISDIR(found->st_mode) ? FileError::kNone : FileError::kAccessDenied;
@@ -687,14 +644,8 @@ FileError PosixFiles::create_folder(const std::string& path) {
   return FileError::kNone;
 }
 
-FileError PosixFiles::copy(const std::string& from, const std::string& to) {
-  constexpr std::uint64_t kLargest = 1U << 30U;
-  const auto content = read(from, kLargest);
-  return content.ok() ? replace(to, *content.value) : content.error;
-}
-
 FileError PosixFiles::remove(const std::string& path) {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   if (!os_path.ok()) return os_path.error;
   const auto found = about(path);
   if (found && (found->st_mode & kAnyWrite) == 0) return FileError::kAccessDenied;
@@ -708,7 +659,7 @@ FileError PosixFiles::remove(const std::string& path) {
 }
 
 FileError PosixFiles::clear_read_only(const std::string& path) {
-  const auto os_path = os(path);
+  const auto os_path = to_os(path);
   if (!os_path.ok()) return os_path.error;
   const auto found = about(path);
   if (!found) return FileError::kNotFound;
@@ -719,7 +670,7 @@ FileError PosixFiles::clear_read_only(const std::string& path) {
 }
 
 std::optional<std::uint64_t> PosixFiles::free_space(const std::string& path) const {
-  auto os_path = os(path);
+  auto os_path = to_os(path);
   if (!os_path.ok()) return std::nullopt;
   struct statvfs room {};
   // A file that is not there yet will lie on its folder's disk.
@@ -730,8 +681,8 @@ std::optional<std::uint64_t> PosixFiles::free_space(const std::string& path) con
 }
 
 bool PosixFiles::same(const std::string& a, const std::string& b) const {
-  const auto os_a = os(a);
-  const auto os_b = os(b);
+  const auto os_a = to_os(a);
+  const auto os_b = to_os(b);
   if (!os_a.ok() || !os_b.ok()) return false;
   // Equal paths are one file also where it does not exist yet.
   if (*os_a.value == *os_b.value) return true;
@@ -744,17 +695,6 @@ bool PosixFiles::same(const std::string& a, const std::string& b) const {
   return calls_.stat(folder_of(*os_a.value).c_str(), &folder_a) == 0 &&
          calls_.stat(folder_of(*os_b.value).c_str(), &folder_b) == 0 &&
          same_file(folder_a, folder_b);
-}
-
-void PosixFiles::set_current_folder(const std::string& folder) {
-  if (!is_folder(folder)) return;
-  // Kept as the person named it: the way back from this computer's path may lead to another drive.
-  const bool has_drive = folder.size() >= 2 && folder[1] == ':';
-  const auto os_path = os(folder);
-  if (has_drive)
-    current_folder_ = folder;
-  else if (os_path.ok())
-    current_folder_ = drives_.to_program(*os_path.value).value_or(current_folder_);
 }
 
 }  // namespace platform::posix

@@ -24,20 +24,20 @@
 //
 // A file or folder that nobody may write counts as read-only for the system's administrator too.
 
-#include <functional>
 #include <memory>
 #include <string>
 
 #include "platform/ports.h"
 #include "platform/posix/posix_drive_map.h"
 #include "platform/posix/system_calls.h"
+#include "platform/system/staged_files.h"
 
 namespace platform::posix {
 
 /// What an errno value means to the program.
 [[nodiscard]] FileError file_error(int error_number);
 
-class PosixFiles : public Files {
+class PosixFiles : public StagedFiles {
  public:
   /// Both must outlive the object. The current folder is at first that of the process.
   PosixFiles(const PathMap& drives, SystemCalls& calls);
@@ -46,13 +46,8 @@ class PosixFiles : public Files {
                                          std::uint64_t largest = 64U << 20U) const override;
   [[nodiscard]] Result<std::string> read_part(const std::string& path, std::uint64_t from,
                                               std::uint64_t count) const override;
-  [[nodiscard]] Result<StagedFile> stage(const std::string& path,
-                                         std::string_view content) override;
-  [[nodiscard]] Result<StagedFile> stage_pieces(const std::string& path,
-                                                const NextPiece& next) override;
   [[nodiscard]] FileError commit(const StagedFile& staged, Over over = Over::kReplace) override;
   void discard(const StagedFile& staged) override;
-  [[nodiscard]] FileError note(const std::string& path, std::string_view content) override;
   [[nodiscard]] Result<std::unique_ptr<LockedLog>> lock_log(const std::string& path) override;
   [[nodiscard]] bool is_running(std::uint64_t process) const override;
   [[nodiscard]] Look look(const std::string& path) const override;
@@ -63,21 +58,23 @@ class PosixFiles : public Files {
   /// A name that holds a "\" cannot be said in a program path and is left out.
   [[nodiscard]] Result<std::vector<FolderEntry>> list(const std::string& folder) const override;
   [[nodiscard]] FileError create_folder(const std::string& path) override;
-  [[nodiscard]] FileError copy(const std::string& from, const std::string& to) override;
   [[nodiscard]] FileError remove(const std::string& path) override;
   [[nodiscard]] FileError clear_read_only(const std::string& path) override;
   [[nodiscard]] std::optional<std::uint64_t> free_space(const std::string& path) const override;
   [[nodiscard]] bool same(const std::string& a, const std::string& b) const override;
-  [[nodiscard]] std::string current_folder() const override { return current_folder_; }
-  /// Nothing happens when there is no such folder.
-  void set_current_folder(const std::string& folder) override;
+
+ protected:
+  [[nodiscard]] Result<std::unique_ptr<Beside>> beside(const std::string& path) override;
+  void forget_cached(const std::string& path) override;
+  [[nodiscard]] FileError move_over(const StagedFile& staged) override;
+  [[nodiscard]] std::uint64_t process() const override;
 
  private:
   class Open;
+  class New;
   class Log;
   class LockClaim;
 
-  [[nodiscard]] Result<std::string> os(const std::string& path) const;
   /// kNone for a regular file that was opened for reading.
   [[nodiscard]] FileError regular(const Open& file) const;
   [[nodiscard]] Result<std::string> part_of(int file, std::uint64_t from,
@@ -85,22 +82,13 @@ class PosixFiles : public Files {
   [[nodiscard]] std::optional<struct stat> about(const std::string& path) const;
   [[nodiscard]] Look look_at(const std::string& os_path) const;
   [[nodiscard]] FileError folder_writable(const std::string& os_path) const;
-  [[nodiscard]] FileError write_all(int file, std::string_view content) const;
-  /// Puts a content into a file that is open for it.
-  using Write = std::function<FileError(int file)>;
-  [[nodiscard]] FileError fill(int file, const Write& write,
-                               const std::optional<struct stat>& old) const;
-  [[nodiscard]] Result<StagedFile> stage_with(const std::string& path, const Write& write);
   /// Renames where nothing of the new name is, with whatever the file system can do.
   [[nodiscard]] FileError rename_new(const std::string& from, const std::string& to) const;
   /// A file that was just created, with no less than its owner needs.
   void let_owner_use(int file) const;
   [[nodiscard]] FileError flush_folder(const std::string& os_path) const;
 
-  const PathMap& drives_;
   SystemCalls& calls_;
-  std::string current_folder_;
-  unsigned staged_count_ = 0;
 };
 
 }  // namespace platform::posix

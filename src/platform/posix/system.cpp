@@ -9,9 +9,10 @@
 #include <fstream>
 #include <iterator>
 
+#include "platform/posix/program_folder.h"
 #include "platform/posix/removable_media.h"
 #include "platform/system/drives_file.h"
-#include "text/reasons.h"
+#include "platform/system/options.h"
 
 namespace platform::posix {
 
@@ -80,8 +81,7 @@ System::System(const SystemOptions& options) {
   choose_root(options);
   choose_clock(options);
   choose_locale(options);
-  if (!code_page_.is_installed())
-    problems_.emplace_back("code page 932, in which the ship's files are kept, is not installed");
+  if (!code_page_.is_installed()) problems_.emplace_back(kNoCodePageProblem);
   map_ = std::make_unique<PosixDriveMap>(root_, [this] { return find_media(); });
   drives_ = std::make_unique<PosixDrives>(*map_, choose_program(options));
   files_ = std::make_unique<PosixFiles>(*map_, calls_);
@@ -92,16 +92,10 @@ void System::choose_root(const SystemOptions& options) {
   root_ = root_of(options.root);
   std::error_code error;
   fs::create_directories(root_, error);
-  if (!fs::is_directory(root_, error))
-    problems_.push_back("--root: \"" + root_ + "\" is not a folder and could not be made one");
-  const auto text = content_of(drives_file_of(root_));
-  if (!text.ok() && text.error != FileError::kNotFound) {
-    const auto why = text::resolve({text::reason_of(text.error)}, text::Language::kEnglish);
-    problems_.push_back("drives.txt: cannot be read: " + std::string(why));
-  }
-  if (!text.ok()) return;
-  for (const std::string& problem : read_drives(*text.value, root_, computer_paths()).problems)
-    problems_.push_back("drives.txt: " + problem);
+  if (!fs::is_directory(root_, error)) problems_.push_back(no_folder_problem(root_));
+  for (std::string& problem :
+       problems_of_drives(content_of(drives_file_of(root_)), root_, computer_paths()))
+    problems_.push_back(std::move(problem));
 }
 
 std::vector<Medium> System::find_media() const {
@@ -116,9 +110,7 @@ std::vector<Medium> System::find_media() const {
 }
 
 void System::choose_clock(const SystemOptions& options) {
-  const auto time = parse_date_time(options.clock);
-  if (!options.clock.empty() && !time)
-    problems_.push_back("--clock: \"" + options.clock + "\" is no time such as 2014-11-15T11:50");
+  const auto time = given_time(options.clock, problems_);
   clock_ = time ? std::make_unique<PosixClock>(*time) : std::make_unique<PosixClock>();
 }
 
@@ -129,8 +121,9 @@ void System::choose_locale(const SystemOptions& options) {
 
 std::string System::choose_program(const SystemOptions& options) {
   std::error_code error;
-  std::string os_path = options.program.empty() ? fs::read_symlink("/proc/self/exe", error).string()
-                                                : absolute(options.program) + "/kavrel";
+  std::string os_path = options.program.empty()
+                            ? program_path(fs::read_symlink("/proc/self/exe", error).string())
+                            : absolute(options.program) + "/kavrel";
   // Without a path the program's folder is the current one.
   return map_->to_program(os_path).value_or("kavrel");
 }

@@ -4,7 +4,9 @@
 #include <optional>
 
 #include "text/numbers.h"
+#include "text/reasons.h"
 #include "text/strings.h"
+#include "text/texts.h"
 
 namespace platform {
 
@@ -93,6 +95,20 @@ GivenDrives read_drives(std::string_view text, const std::string& root,
       result.problems.push_back("line " + std::to_string(number) + ": " + problem);
   }
   return result;
+}
+
+std::vector<std::string> problems_of_drives(const Result<std::string>& text,
+                                            const std::string& root, const ComputerPaths& paths) {
+  constexpr const char* kFile = "drives.txt: ";
+  std::vector<std::string> problems;
+  if (text.ok()) {
+    for (const std::string& problem : read_drives(*text.value, root, paths).problems)
+      problems.push_back(kFile + problem);
+  } else if (text.error != FileError::kNotFound) {
+    const auto why = text::resolve({text::reason_of(text.error)}, text::Language::kEnglish);
+    problems.push_back(std::string(kFile).append("cannot be read: ").append(why));
+  }
+  return problems;
 }
 
 }  // namespace platform

@@ -31,4 +31,10 @@ struct GivenDrives {
 [[nodiscard]] GivenDrives read_drives(std::string_view text, const std::string& root,
                                       const ComputerPaths& paths);
 
+/// What was wrong with the file, one line each: with reading it, which is fine where it is not there,
+/// or with its own lines.
+[[nodiscard]] std::vector<std::string> problems_of_drives(const Result<std::string>& text,
+                                                          const std::string& root,
+                                                          const ComputerPaths& paths);
+
 }  // namespace platform

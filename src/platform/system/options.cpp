@@ -32,6 +32,17 @@ std::optional<DateTime> parse_date_time(std::string_view text) {
   return exists ? std::optional(wanted) : std::nullopt;
 }
 
+std::optional<DateTime> given_time(const std::string& clock, std::vector<std::string>& problems) {
+  auto time = parse_date_time(clock);
+  if (!clock.empty() && !time)
+    problems.push_back("--clock: \"" + clock + "\" is no time such as 2014-11-15T11:50");
+  return time;
+}
+
+std::string no_folder_problem(const std::string& root) {
+  return "--root: \"" + root + "\" is not a folder and could not be made one";
+}
+
 unsigned locale_id_of(std::string_view name) {
   // "ja_JP.UTF-8", "ja@..." and "ja-JP" are Japanese; "jam" is another language.
   const auto language = name.substr(0, name.find_first_of("_.@-"));

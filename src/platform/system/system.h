@@ -3,6 +3,7 @@
 // the room of that system (platform/posix, platform/win32). The printer and the windows are a front
 // end's.
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -35,6 +36,17 @@ class PathMap {
   /// drive that holds it. Nothing for a path that the program cannot say.
   [[nodiscard]] virtual std::optional<std::string> to_program(const std::string& os_path) const = 0;
 };
+
+/// The same for who has no use for the reason: empty for a path that the other side cannot say.
+struct Paths {
+  std::function<std::string(const std::string&)> to_system;
+  std::function<std::string(const std::string&)> from_system;
+};
+/// The map must outlive them.
+[[nodiscard]] inline Paths paths_by(const PathMap& map) {
+  return {[&map](const std::string& path) { return map.to_os(path).value.value_or(""); },
+          [&map](const std::string& path) { return map.to_program(path).value_or(""); }};
+}
 
 /// Help pages by the paths under which the program knows them.
 class HelpPages : public HelpViewer {

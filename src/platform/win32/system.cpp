@@ -13,7 +13,6 @@
 #include "platform/system/options.h"
 #include "platform/win32/wide.h"
 #include "platform/win32/win32_program.h"
-#include "text/reasons.h"
 
 namespace platform::win32 {
 
@@ -126,8 +125,7 @@ System::System(const SystemOptions& options) : root_(root_of(options.root)) {
   if (!root_.empty()) prepare_root();
   choose_clock(options);
   locale_ = std::make_unique<Win32Locale>(options.locale);
-  if (!Win32CodePage::is_installed())
-    problems_.emplace_back("code page 932, in which the ship's files are kept, is not installed");
+  if (!Win32CodePage::is_installed()) problems_.emplace_back(kNoCodePageProblem);
   map_ = map_of(
       root_, [this] { return find_media(); }, FirstTime::kMake);
   const std::string program = options.program.empty() ? executable().value_or("")
@@ -143,16 +141,9 @@ void System::prepare_root() {
   const fs::path folder(to_wide(root_).value_or(L""));
   std::error_code error;
   fs::create_directories(folder, error);
-  if (!fs::is_directory(folder, error))
-    problems_.push_back("--root: \"" + root_ + "\" is not a folder and could not be made one");
-  const auto text = drives_text(root_);
-  if (!text.ok() && text.error != FileError::kNotFound) {
-    const auto why = text::resolve({text::reason_of(text.error)}, text::Language::kEnglish);
-    problems_.push_back("drives.txt: cannot be read: " + std::string(why));
-  }
-  if (!text.ok()) return;
-  for (const std::string& problem : read_drives(*text.value, root_, computer_paths()).problems)
-    problems_.push_back("drives.txt: " + problem);
+  if (!fs::is_directory(folder, error)) problems_.push_back(no_folder_problem(root_));
+  for (std::string& problem : problems_of_drives(drives_text(root_), root_, computer_paths()))
+    problems_.push_back(std::move(problem));
 }
 
 std::vector<Medium> System::find_media() const {
@@ -172,9 +163,7 @@ std::vector<Medium> System::find_media() const {
 }
 
 void System::choose_clock(const SystemOptions& options) {
-  const auto time = parse_date_time(options.clock);
-  if (!options.clock.empty() && !time)
-    problems_.push_back("--clock: \"" + options.clock + "\" is no time such as 2014-11-15T11:50");
+  const auto time = given_time(options.clock, problems_);
   clock_ = time ? std::make_unique<Win32Clock>(*time) : std::make_unique<Win32Clock>();
 }
 

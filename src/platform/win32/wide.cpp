@@ -6,28 +6,47 @@
 
 namespace platform::win32 {
 
-std::optional<std::wstring> to_wide(std::string_view text) {
+namespace {
+
+// Nothing where the system refuses it by these flags.
+std::optional<std::wstring> to_utf16_by(DWORD flags, std::string_view text) {
   if (text.empty()) return std::wstring();
   const int size = static_cast<int>(text.size());
-  const int length =
-      ::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, nullptr, 0);
+  const int length = ::MultiByteToWideChar(CP_UTF8, flags, text.data(), size, nullptr, 0);
   if (length <= 0) return std::nullopt;
   std::wstring result(static_cast<std::size_t>(length), L'\0');
-  (void)::MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, result.data(),
-                              length);
+  (void)::MultiByteToWideChar(CP_UTF8, flags, text.data(), size, result.data(), length);
   return result;
 }
 
-std::optional<std::string> to_utf8(std::wstring_view text) {
+std::optional<std::string> to_utf8_by(DWORD flags, std::wstring_view text) {
   if (text.empty()) return std::string();
   const int size = static_cast<int>(text.size());
-  const int length = ::WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text.data(), size,
-                                           nullptr, 0, nullptr, nullptr);
+  const int length =
+      ::WideCharToMultiByte(CP_UTF8, flags, text.data(), size, nullptr, 0, nullptr, nullptr);
   if (length <= 0) return std::nullopt;
   std::string result(static_cast<std::size_t>(length), '\0');
-  (void)::WideCharToMultiByte(CP_UTF8, WC_ERR_INVALID_CHARS, text.data(), size, result.data(),
-                              length, nullptr, nullptr);
+  (void)::WideCharToMultiByte(CP_UTF8, flags, text.data(), size, result.data(), length, nullptr,
+                              nullptr);
   return result;
+}
+
+}  // namespace
+
+std::optional<std::wstring> to_wide(std::string_view text) {
+  return to_utf16_by(MB_ERR_INVALID_CHARS, text);
+}
+
+std::optional<std::string> to_utf8(std::wstring_view text) {
+  return to_utf8_by(WC_ERR_INVALID_CHARS, text);
+}
+
+std::wstring wide(std::string_view text) {
+  return to_utf16_by(0, text).value_or(L"");
+}
+
+std::string narrow(std::wstring_view text) {
+  return to_utf8_by(0, text).value_or("");
 }
 
 namespace {

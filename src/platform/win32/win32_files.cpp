@@ -11,7 +11,6 @@ namespace platform::win32 {
 
 namespace {
 
-constexpr int kTries = 1000;
 constexpr DWORD kQuotaExceeded = 1295;  // ERROR_DISK_QUOTA_EXCEEDED, which not every header has
 constexpr int kLongestPause = 50;       // milliseconds
 /// With a virus scanner that looks at what was just written.
@@ -291,13 +290,10 @@ class Win32Files::Log : public LockedLog {
 };
 
 Win32Files::Win32Files(const PathMap& drives, SystemCalls& calls)
-    : drives_(drives), calls_(calls), current_folder_("C:\\") {
-  // Where the process was started; the process itself stays there, whatever is set later.
-  current_folder_ = drives.to_program(".").value_or(current_folder_);
-}
+    : StagedFiles(drives), calls_(calls) {}
 
 Result<std::wstring> Win32Files::os(const std::string& path) const {
-  const auto os_path = drives_.to_os(path, current_folder_);
+  const auto os_path = to_os(path);
   return os_path.ok() ? wide_path(*os_path.value) : Result<std::wstring>(os_path.error);
 }
 
@@ -362,45 +358,68 @@ Result<std::string> Win32Files::read(const std::string& path, std::uint64_t larg
 
 // ---- Replacing
 
-FileError Win32Files::write_all(HANDLE file, std::string_view content) const {
-  constexpr std::size_t kLargest = 1U << 24U;
-  while (!content.empty()) {
+/// A new file that will be moved.
+class Win32Files::New : public Beside {
+ public:
+  /// `kept`: attributes of what it replaces.
+  New(const Win32Files& files, DWORD kept) : files_(files), calls_(files.calls_), kept_(kept) {}
+
+  [[nodiscard]] FileError make(const std::string& path) override {
+    const auto os_path = files_.os(path);
+    if (!os_path.ok()) return os_path.error;
+    path_ = *os_path.value;
+    open_.emplace(calls_, path_, GENERIC_WRITE, CREATE_NEW);
+    if (open_->ok()) return FileError::kNone;
+    const bool exists = file_error(open_->error_number()) == FileError::kExists;
+    return exists ? FileError::kExists : open_->error();
+  }
+  [[nodiscard]] Result<std::size_t> write(std::string_view content) override {
+    constexpr std::size_t kLargest = 1U << 24U;
     DWORD count = 0;
-    if (!calls_.write_at_end(file, content.data(),
+    if (!calls_.write_at_end(open_->file(), content.data(),
                              static_cast<DWORD>(std::min(content.size(), kLargest)), count))
       return file_error(::GetLastError());
-    // A write of nothing would be tried for ever.
-    if (count == 0) return FileError::kNoSpace;
-    content.remove_prefix(count);
+    return std::size_t{count};
   }
-  return FileError::kNone;
+  [[nodiscard]] FileError finish() override {
+    if (!calls_.flush(open_->file())) return file_error(::GetLastError());
+    if (const FileError error = open_->close(); error != FileError::kNone) return error;
+    // A medium without attributes refuses this; the file itself is none the worse for it.
+    if (kept_ != 0) (void)calls_.set_attributes(path_.c_str(), kept_);
+    return FileError::kNone;
+  }
+
+ private:
+  const Win32Files& files_;
+  SystemCalls& calls_;
+  DWORD kept_;
+  std::wstring path_;
+  std::optional<Open> open_;
+};
+
+Result<std::unique_ptr<StagedFiles::Beside>> Win32Files::beside(const std::string& path) {
+  const auto target = os(path);
+  if (!target.ok()) return target.error;
+  const Look there = look_at(*target.value);
+  if (const auto error = why_no_place(there); error != FileError::kNone) return error;
+  DWORD kept = 0;
+  if (there.there == There::kFile) {
+    if (const auto error = why_protected(*target.value); error != FileError::kNone) return error;
+    if (const auto old = about(*target.value)) kept = old->dwFileAttributes & kKeptAttributes;
+  }
+  return std::unique_ptr<Beside>(std::make_unique<New>(*this, kept));
 }
 
-Result<StagedFile> Win32Files::stage(const std::string& path, std::string_view content) {
-  return stage_with(path, [&](HANDLE file) { return write_all(file, content); });
-}
-
-Result<StagedFile> Win32Files::stage_pieces(const std::string& path, const NextPiece& next) {
-  const auto write = [&](HANDLE file) {
-    try {
-      while (true) {
-        const auto piece = next();
-        if (!piece.ok() || piece.value->empty()) return piece.error;
-        if (const auto error = write_all(file, *piece.value); error != FileError::kNone)
-          return error;
-      }
-    } catch (const std::bad_alloc&) {
-      return FileError::kNoMemory;
-    }
-  };
-  auto staged = stage_with(path, write);
-  if (!staged.ok()) return staged;
-  // Read back from memory, a medium that keeps nothing would pass for a good one. Where a file that
-  // nobody has open is opened past the memory, what the memory holds of it is given up.
-  if (const auto beside = os(staged.value->temporary); beside.ok())
-    const Open past_memory(calls_, *beside.value, GENERIC_READ, OPEN_EXISTING,
+// Where a file that nobody has open is opened past the memory, what the memory holds of it is given
+// up.
+void Win32Files::forget_cached(const std::string& path) {
+  if (const auto os_path = os(path); os_path.ok())
+    const Open past_memory(calls_, *os_path.value, GENERIC_READ, OPEN_EXISTING,
                            FILE_FLAG_NO_BUFFERING);
-  return staged;
+}
+
+std::uint64_t Win32Files::process() const {
+  return ::GetCurrentProcessId();
 }
 
 FileError Win32Files::why_protected(const std::wstring& path) const {
@@ -413,46 +432,6 @@ FileError Win32Files::why_protected(const std::wstring& path) const {
     if (old.error() != FileError::kLocked || calls_.now() >= until) return old.error();
     calls_.pause(pause);
   }
-}
-
-Result<StagedFile> Win32Files::stage_with(const std::string& path, const Write& write) {
-  const auto target = os(path);
-  if (!target.ok()) return target.error;
-  const Look there = look_at(*target.value);
-  if (there.there == There::kCannotTell) return there.error;
-  if (there.there == There::kOther) return FileError::kNotAFile;
-  if (there.there == There::kFolder) return FileError::kAccessDenied;
-  std::optional<BY_HANDLE_FILE_INFORMATION> old;
-  if (there.there == There::kFile) {
-    if (const auto error = why_protected(*target.value); error != FileError::kNone) return error;
-    old = about(*target.value);
-  }
-
-  const std::string folder(folder_part(path));
-  for (int i = 0; i < kTries; ++i) {
-    // Never the name of the file: no search for reports or logbooks may find a half-written one.
-    const std::string name = staged_name(::GetCurrentProcessId(), staged_count_++);
-    const auto beside = os(folder + name);
-    if (!beside.ok()) return beside.error;
-    Open file(calls_, *beside.value, GENERIC_WRITE, CREATE_NEW);
-    if (!file.ok() && file_error(file.error_number()) == FileError::kExists)
-      continue;  // left by an earlier crash
-    if (!file.ok()) return file.error();
-    FileError error = write(file.file());
-    if (error == FileError::kNone && !calls_.flush(file.file()))
-      error = file_error(::GetLastError());
-    const FileError closing = file.close();
-    if (error == FileError::kNone) error = closing;
-    if (error != FileError::kNone) {
-      (void)calls_.delete_file(beside.value->c_str());
-      return error;
-    }
-    // A medium without attributes refuses this; the file itself is none the worse for it.
-    if (old && (old->dwFileAttributes & kKeptAttributes) != 0)
-      (void)calls_.set_attributes(beside.value->c_str(), old->dwFileAttributes & kKeptAttributes);
-    return StagedFile{path, folder + name};
-  }
-  return FileError::kOther;
 }
 
 FileError Win32Files::move(const StagedFile& staged, DWORD flags) const {
@@ -477,12 +456,8 @@ FileError Win32Files::commit(const StagedFile& staged, Over over) {
               MOVEFILE_WRITE_THROUGH | (over == Over::kReplace ? MOVEFILE_REPLACE_EXISTING : 0U));
 }
 
-FileError Win32Files::note(const std::string& path, std::string_view content) {
-  const auto staged = stage(path, content);
-  if (!staged.ok()) return staged.error;
-  const FileError error = move(*staged.value, MOVEFILE_REPLACE_EXISTING);
-  if (error != FileError::kNone) discard(*staged.value);
-  return error;
+FileError Win32Files::move_over(const StagedFile& staged) {
+  return move(staged, MOVEFILE_REPLACE_EXISTING);
 }
 
 void Win32Files::discard(const StagedFile& staged) {
@@ -492,7 +467,7 @@ void Win32Files::discard(const StagedFile& staged) {
 
 void Win32Files::take_away(const std::wstring& path) const {
   for (int i = 0; i < kTries; ++i) {
-    const auto name = to_wide(staged_name(::GetCurrentProcessId(), staged_count_++));
+    const auto name = to_wide(next_name());
     const std::wstring aside = folder_of(path) + name.value_or(L"");
     if (calls_.move(path.c_str(), aside.c_str(), 0)) {
       (void)calls_.delete_file(aside.c_str());
@@ -621,7 +596,7 @@ std::optional<DateTime> Win32Files::modified(const std::string& path) const {
 }
 
 Result<std::vector<FolderEntry>> Win32Files::list(const std::string& folder) const {
-  const auto os_path = drives_.to_os(folder, current_folder_);
+  const auto os_path = to_os(folder);
   if (!os_path.ok()) return os_path.error;
   const bool ends = os_path.value->ends_with('\\');
   const auto pattern = wide_path(*os_path.value + (ends ? "*" : "\\*"));
@@ -678,12 +653,6 @@ FileError Win32Files::create_folder(const std::string& path) {
   return error == FileError::kExists && is_folder(path) ? FileError::kNone : error;
 }
 
-FileError Win32Files::copy(const std::string& from, const std::string& to) {
-  constexpr std::uint64_t kLargest = 1U << 30U;
-  const auto content = read(from, kLargest);
-  return content.ok() ? replace(to, *content.value) : content.error;
-}
-
 FileError Win32Files::remove(const std::string& path) {
   const auto os_path = os(path);
   if (!os_path.ok()) return os_path.error;
@@ -732,17 +701,6 @@ bool Win32Files::same(const std::string& a, const std::string& b) const {
   const auto above_a = about(folder_a);
   const auto above_b = about(folder_b);
   return above_a && above_b && same_file(*above_a, *above_b);
-}
-
-void Win32Files::set_current_folder(const std::string& folder) {
-  if (!is_folder(folder)) return;
-  // Kept as the person named it: the way back from this computer's path may lead to another drive.
-  const bool has_drive = folder.size() >= 2 && folder[1] == ':';
-  const auto os_path = drives_.to_os(folder, current_folder_);
-  if (has_drive)
-    current_folder_ = folder;
-  else if (os_path.ok())
-    current_folder_ = drives_.to_program(*os_path.value).value_or(current_folder_);
 }
 
 }  // namespace platform::win32

@@ -27,11 +27,10 @@
 // every folder. Whether a folder may be written is asked by writing, for the read-only mark of a
 // folder means something else here.
 
-#include <functional>
 #include <memory>
 #include <string>
 
-#include "platform/system/system.h"
+#include "platform/system/staged_files.h"
 #include "platform/win32/system_calls.h"
 
 namespace platform::win32 {
@@ -39,7 +38,7 @@ namespace platform::win32 {
 /// What an error of the system means to the program.
 [[nodiscard]] FileError file_error(DWORD error_number);
 
-class Win32Files : public Files {
+class Win32Files : public StagedFiles {
  public:
   /// Both must outlive the object. The current folder is at first that of the process.
   Win32Files(const PathMap& drives, SystemCalls& calls);
@@ -48,13 +47,8 @@ class Win32Files : public Files {
                                          std::uint64_t largest = 64U << 20U) const override;
   [[nodiscard]] Result<std::string> read_part(const std::string& path, std::uint64_t from,
                                               std::uint64_t count) const override;
-  [[nodiscard]] Result<StagedFile> stage(const std::string& path,
-                                         std::string_view content) override;
-  [[nodiscard]] Result<StagedFile> stage_pieces(const std::string& path,
-                                                const NextPiece& next) override;
   [[nodiscard]] FileError commit(const StagedFile& staged, Over over = Over::kReplace) override;
   void discard(const StagedFile& staged) override;
-  [[nodiscard]] FileError note(const std::string& path, std::string_view content) override;
   [[nodiscard]] Result<std::unique_ptr<LockedLog>> lock_log(const std::string& path) override;
   [[nodiscard]] bool is_running(std::uint64_t process) const override;
   [[nodiscard]] Look look(const std::string& path) const override;
@@ -66,17 +60,20 @@ class Win32Files : public Files {
   /// is what the system hides for itself.
   [[nodiscard]] Result<std::vector<FolderEntry>> list(const std::string& folder) const override;
   [[nodiscard]] FileError create_folder(const std::string& path) override;
-  [[nodiscard]] FileError copy(const std::string& from, const std::string& to) override;
   [[nodiscard]] FileError remove(const std::string& path) override;
   [[nodiscard]] FileError clear_read_only(const std::string& path) override;
   [[nodiscard]] std::optional<std::uint64_t> free_space(const std::string& path) const override;
   [[nodiscard]] bool same(const std::string& a, const std::string& b) const override;
-  [[nodiscard]] std::string current_folder() const override { return current_folder_; }
-  /// Nothing happens when there is no such folder.
-  void set_current_folder(const std::string& folder) override;
+
+ protected:
+  [[nodiscard]] Result<std::unique_ptr<Beside>> beside(const std::string& path) override;
+  void forget_cached(const std::string& path) override;
+  [[nodiscard]] FileError move_over(const StagedFile& staged) override;
+  [[nodiscard]] std::uint64_t process() const override;
 
  private:
   class Open;
+  class New;
   class Log;
   class LockClaim;
 
@@ -88,10 +85,6 @@ class Win32Files : public Files {
   /// Of what the path leads to.
   [[nodiscard]] std::optional<BY_HANDLE_FILE_INFORMATION> about(const std::wstring& path) const;
   [[nodiscard]] Look look_at(const std::wstring& path) const;
-  [[nodiscard]] FileError write_all(HANDLE file, std::string_view content) const;
-  /// Puts a content into a file that is open for it.
-  using Write = std::function<FileError(HANDLE file)>;
-  [[nodiscard]] Result<StagedFile> stage_with(const std::string& path, const Write& write);
   /// Why an existing file may not be replaced.
   [[nodiscard]] FileError why_protected(const std::wstring& path) const;
   [[nodiscard]] FileError move(const StagedFile& staged, DWORD flags) const;
@@ -99,10 +92,7 @@ class Win32Files : public Files {
   /// path no longer names it.
   void take_away(const std::wstring& path) const;
 
-  const PathMap& drives_;
   SystemCalls& calls_;
-  std::string current_folder_;
-  mutable unsigned staged_count_ = 0;
 };
 
 }  // namespace platform::win32

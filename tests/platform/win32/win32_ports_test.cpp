@@ -283,4 +283,19 @@ TEST(System, ListOfDrivesThatCannotBeReadAnyMoreLeavesTheDrivesAsTheyWere) {
   EXPECT_EQ(system.drives().drives().size(), 3U);
 }
 
+// Half a character, and a byte that no text has.
+TEST(TextsOfTheSystem, AreRefusedAsPathsAndShownAllTheSameWhereTheyAreNotWellFormed) {
+  using namespace platform::win32;
+  const std::wstring half = L"a\xD800z";
+  EXPECT_EQ(to_utf8(half), std::nullopt);
+  EXPECT_EQ(narrow(half), "a\xEF\xBF\xBDz");
+  EXPECT_EQ(to_wide("a\xFFz"), std::nullopt);
+  EXPECT_EQ(wide("a\xFFz"), L"a\xFFFDz");
+  for (const char* const right : {"", "a", "\xE6\xB5\xB7"}) {
+    EXPECT_EQ(to_wide(right), wide(right));
+    EXPECT_EQ(narrow(wide(right)), right);
+    EXPECT_EQ(to_utf8(wide(right)), right);
+  }
+}
+
 }  // namespace
