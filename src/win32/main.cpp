@@ -68,10 +68,9 @@ int start(const usage::Words& words) {
   win32::set_picture_folder(
       win32::wide(paths.to_system(platform::join(program_files.program_folder(), "pictures"))));
   win32::Printer printer;
-  win32::Help help([&system](const std::string& path) { return system->help().page(path); },
-                   [&windows](const std::string& title, const std::string& words) {
-                     windows.tell(title, words);
-                   });
+  win32::Help help(
+      [&system](const std::string& path) { return system->help().page(path); },
+      [&windows](const std::string& title, const std::string& said) { windows.tell(title, said); });
   app::CVelmaranApp program({system->clock(), system->locale(), system->drives(), system->files(),
                              system->code_page(), printer, windows, help});
   windows.set_language([&program] { return program.services().texts.language; });
