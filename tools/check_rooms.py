@@ -46,7 +46,7 @@ KNOWS = DATA | {
     "platform/posix": {"platform", "platform/system", "text"},
     "platform/win32": {"platform", "platform/system", "text"},
     "desktop": {"text", "platform", "ui", "app", "paper", "platform/system", "usage"},
-    "win32": {"text", "platform", "ui", "app", "paper", "platform/system", "platform/win32"},
+    "win32": {"text", "platform", "ui", "app", "paper", "platform/system", "platform/win32", "usage"},
     "bufr": {"text", "platform", "observation", "ship/data", "codetables/tables", "cli", "usage"},
     "cli": {"text", "usage", "platform", "platform/system", "observation", "ship/data", "ui", "app", "headless",
             "codetables/tables", "explain/plain", "explain/doubts", "explain/log"},

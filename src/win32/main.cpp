@@ -20,6 +20,8 @@
 #include "platform/system/system.h"
 #include "text/ids.h"
 #include "text/reasons.h"
+#include "usage/help.h"
+#include "usage/programs.h"
 #include "win32/help.h"
 #include "win32/picture.h"
 #include "win32/printer.h"
@@ -31,50 +33,6 @@ namespace {
 /// Exit status of a program that had to end, like that of wrong options.
 constexpr int kHadToEnd = 2;
 constexpr const char* kProgram = "kavrel";
-
-struct Options {
-  platform::SystemOptions system;
-  std::string problem;
-};
-
-Options read_options(const std::vector<std::string>& words) {
-  Options options;
-  struct Row {
-    std::string_view name;
-    std::string* value;
-  };
-  const Row rows[] = {{"--root", &options.system.root},
-                      {"--program", &options.system.program},
-                      {"--locale", &options.system.locale},
-                      {"--clock", &options.system.clock}};
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    const std::string_view word = words[i];
-    const std::string_view name = word.substr(0, word.find('='));
-    std::string* value = nullptr;
-    for (const Row& row : rows)
-      if (row.name == name) value = row.value;
-    if (value == nullptr) {
-      options.problem = words[i];
-    } else if (name.size() < word.size()) {
-      *value = word.substr(name.size() + 1);
-    } else if (++i < words.size()) {
-      *value = words[i];
-    } else {
-      options.problem = word;
-    }
-  }
-  return options;
-}
-
-// There is no standard output that anybody sees.
-void tell(ui::Windows& windows, const std::string& title, const std::string& words) {
-  ui::MessageBox box;
-  box.title = title;
-  box.text = words;
-  box.buttons = {{"OK", "ok", ui::kOk}};
-  box.close_result = ui::kOk;
-  windows.show_message(box);
-}
 
 // What is thrown outside any event of a window: the person is told before the program ends.
 int run(app::CVelmaranApp& program) {
@@ -89,24 +47,30 @@ int run(app::CVelmaranApp& program) {
   }
 }
 
-int start(const Options& options) {
-  const auto system = platform::make_system(options.system);
+int start(const usage::Words& words) {
+  const auto system = platform::make_system({words.value("--root"), words.value("--program"),
+                                             words.value("--locale"), words.value("--clock")});
   const platform::Paths paths = platform::paths_by(system->map());
   win32::WindowsPort windows(paths);
-  std::string problems = options.problem;
+  // Nobody sees the standard output of a program with windows.
+  if (const std::string answer = usage::answer_of(words); !answer.empty()) {
+    windows.tell(kProgram, answer);
+    return 0;
+  }
+  std::string problems;
+  if (!words.wrong().empty()) problems = usage::refusal(words.command(), words.wrong());
   for (const std::string& problem : system->problems()) problems.append(problem).append("\n");
   if (!problems.empty()) {
-    tell(windows, kProgram, problems);
+    windows.tell(kProgram, problems);
     return kHadToEnd;
   }
   const app::CAssistantClass program_files(system->drives(), system->files());
   win32::set_picture_folder(
       win32::wide(paths.to_system(platform::join(program_files.program_folder(), "pictures"))));
   win32::Printer printer;
-  win32::Help help([&system](const std::string& path) { return system->help().page(path); },
-                   [&windows](const std::string& title, const std::string& words) {
-                     tell(windows, title, words);
-                   });
+  win32::Help help(
+      [&system](const std::string& path) { return system->help().page(path); },
+      [&windows](const std::string& title, const std::string& said) { windows.tell(title, said); });
   app::CVelmaranApp program({system->clock(), system->locale(), system->drives(), system->files(),
                              system->code_page(), printer, windows, help});
   windows.set_language([&program] { return program.services().texts.language; });
@@ -122,7 +86,7 @@ int main(int argc, char** argv) {
                              ICC_STANDARD_CLASSES | ICC_TREEVIEW_CLASSES | ICC_BAR_CLASSES};
   InitCommonControlsEx(&kinds);
   try {
-    return start(read_options(platform::program_arguments(argc, argv)));
+    return start(usage::Words(usage::desktop_program(), platform::program_arguments(argc, argv)));
   } catch (...) {  // before there was anything to tell it with
     const std::string why = text::reason_of(std::current_exception(), text::Language::kEnglish);
     std::fprintf(stderr, "kavrel: %s\n", why.c_str());

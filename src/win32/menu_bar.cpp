@@ -62,7 +62,8 @@ HMENU MenuBar::made_of(std::span<const ui::MenuItem> items, text::Language langu
       AppendMenuW(menu, MF_POPUP | MF_STRING, reinterpret_cast<UINT_PTR>(below), label.c_str());
       continue;
     }
-    if (!item.shortcut.empty()) {
+    // A title of the bar has no room for it.
+    if (!item.shortcut.empty() && !bar) {
       label += L'\t';
       label += wide(item.shortcut);
     }

@@ -68,6 +68,22 @@ RECT room_of_display(HMONITOR display) {
   return info.rcWork;
 }
 
+// What the person does, Tab excepted, whether the screen is told of it or not.
+bool is_key_or_click(const MSG& message) {
+  switch (message.message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      return message.wParam != VK_TAB || GetKeyState(VK_SHIFT) < 0;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDOWN:
+    case WM_NCLBUTTONDOWN:
+      return true;
+    default:
+      return false;
+  }
+}
+
 void draw_frame(HDC canvas, RECT around, int width, HBRUSH brush) {
   for (int i = 0; i < width; ++i) {
     FrameRect(canvas, &around, brush);
@@ -109,6 +125,10 @@ ScreenWindow::ScreenWindow(ui::Screen& screen, HWND owner) : screen_(screen) {
   built_ = true;
   refresh();
   take_place();
+  // Once for all that was asked for meanwhile: there are hundreds of windows to move.
+  placed_ = true;
+  room_changed_ = false;
+  lay_out();
 }
 
 ScreenWindow::~ScreenWindow() {
@@ -485,7 +505,7 @@ void ScreenWindow::room_changed() {
 }
 
 void ScreenWindow::lay_out_now() {
-  if (!built_ || !room_changed_) return;
+  if (!placed_ || !room_changed_) return;
   room_changed_ = false;
   if (IsWindowVisible(frame_) != FALSE) grow_to_content();
   lay_out();
@@ -496,7 +516,7 @@ int ScreenWindow::foot_height(int width) const {
 }
 
 void ScreenWindow::lay_out() {
-  if (laying_out_ || !built_) return;
+  if (laying_out_ || !placed_) return;
   laying_out_ = true;
   const SIZE room = client_size(frame_);
   const int foot = foot_height(room.cx);
@@ -658,7 +678,6 @@ SIZE ScreenWindow::fitting_size() const {
 }
 
 void ScreenWindow::take_place() {
-  room_changed_ = false;
   const auto kept = screen_.kept_place();
   if (kept && take_kept_place(*kept)) return;
   const SIZE size = fitting_size();
@@ -674,7 +693,6 @@ void ScreenWindow::take_place() {
                middle(around.left, around.right, size.cx, display.left, display.right),
                middle(around.top, around.bottom, size.cy, display.top, display.bottom), size.cx,
                size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
-  lay_out();
 }
 
 // A display may have gone since, or be smaller now. The title bar must be where it can be reached.
@@ -688,7 +706,6 @@ bool ScreenWindow::take_kept_place(const ui::WindowPlace& place) {
   const int left = std::clamp<int>(place.left, room.left, room.right - width);
   const int top = std::clamp<int>(place.top, room.top, room.bottom - height);
   SetWindowPos(frame_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
-  lay_out();
   return true;
 }
 
@@ -781,6 +798,8 @@ void ScreenWindow::give_focus() {
 
 bool ScreenWindow::filter(const MSG& message) {
   if (finished_) return false;
+  // What the screen is told of below, it counts itself.
+  if (is_key_or_click(message)) screen_.did_something_else();
   switch (message.message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
@@ -910,7 +929,7 @@ LRESULT ScreenWindow::on_frame(UINT message, WPARAM w, LPARAM l) {
       give_focus();
       return 0;
     case WM_SIZE:
-      if (built_ && w != SIZE_MINIMIZED) lay_out();
+      if (w != SIZE_MINIMIZED) lay_out();
       return 0;
     case WM_CLOSE:
       // The screen says whether it closes.
@@ -921,6 +940,11 @@ LRESULT ScreenWindow::on_frame(UINT message, WPARAM w, LPARAM l) {
         if (const auto item = menu_bar_->item(LOWORD(w))) run_command(*item);
         return 0;
       }
+      break;
+    case WM_MENUCHAR:
+      // A slip on Alt must not beep. Who is in the menu already stays there.
+      if (reinterpret_cast<HMENU>(l) == GetMenu(frame_) && GetKeyState(VK_MENU) < 0)
+        return MAKELRESULT(0, MNC_CLOSE);
       break;
     case WM_DPICHANGED: {
       const RECT& wanted = *reinterpret_cast<const RECT*>(l);

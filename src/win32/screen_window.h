@@ -157,6 +157,7 @@ class ScreenWindow : public Host, public Filter {
   HWND framed_ = nullptr;  ///< has the frame of the focus
   bool compact_ = false;   ///< a form of many fields has small gaps
   bool built_ = false;
+  bool placed_ = false;  ///< its frame stands, and what is in it follows
   bool room_changed_ = false;
   bool laying_out_ = false;
   bool finished_ = false;

@@ -35,8 +35,11 @@ class Typed {
  public:
   using Told = std::function<void(const std::string& text, bool by_key)>;
 
-  Typed(HWND edit, Told told) : edit_(edit), told_(std::move(told)) {}
-
+  /// A widget has it before it makes its windows: they get messages while they are being made.
+  void begin(HWND edit, Told told) {
+    edit_ = edit;
+    told_ = std::move(told);
+  }
   [[nodiscard]] HWND edit() const { return edit_; }
   /// The control says that its text is another.
   void changed() { changed_ = !writing_; }
@@ -89,7 +92,7 @@ class Typed {
   }
 
  private:
-  HWND edit_;
+  HWND edit_ = nullptr;
   Told told_;
   int depth_ = 0;
   int limit_ = 0;
@@ -123,9 +126,8 @@ void ask_for_figures(HWND edit) {
 
 class LineWidget : public Widget {
  public:
-  LineWidget(ui::Screen& s, ui::Control& c, Host& host, HWND parent)
-      : Widget(s, c, host, parent),
-        typed_(make(WC_EDITW, WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL), teller(s, c, host)) {
+  LineWidget(ui::Screen& s, ui::Control& c, Host& host, HWND parent) : Widget(s, c, host, parent) {
+    typed_.begin(make(WC_EDITW, WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL), teller(s, c, host));
     if (c.figures) ask_for_figures(window());
   }
   void select(int length) override { typed_.select(length); }
@@ -209,8 +211,8 @@ class MemoWidget : public Widget {
 // With a line that is typed into, or of fixed lines.
 class ComboWidget : public Widget {
  public:
-  ComboWidget(ui::Screen& s, ui::Control& c, Host& host, HWND parent)
-      : Widget(s, c, host, parent), typed_(make_box(), teller(s, c, host)) {
+  ComboWidget(ui::Screen& s, ui::Control& c, Host& host, HWND parent) : Widget(s, c, host, parent) {
+    typed_.begin(make_box(), teller(s, c, host));
     if (typed_.edit() != nullptr) {
       listen(typed_.edit());
       typed_.limit(largest_length(c));

@@ -99,6 +99,15 @@ int WindowsPort::show_message(const ui::MessageBox& box) {
   return window.ask();
 }
 
+void WindowsPort::tell(const std::string& title, const std::string& words) {
+  ui::MessageBox box;
+  box.title = title;
+  box.text = words;
+  box.buttons = {{"OK", "ok", ui::kOk}};
+  box.close_result = ui::kOk;
+  show_message(box);
+}
+
 int WindowsPort::run_modal(ui::Screen& screen) {
   screen.open();
   if (screen.result()) return *screen.result();

@@ -37,6 +37,10 @@ class WindowsPort : public ui::Windows {
   std::optional<std::string> browse_for_folder(const std::string& caption,
                                                const std::string& initial) override;
 
+  /// A message that is no text of the table: of a start that failed, of a help page. There is no
+  /// standard output that anybody sees.
+  void tell(const std::string& title, const std::string& words);
+
   /// The language of messages that come before there is a window.
   void set_language(std::function<text::Language()> language) { language_ = std::move(language); }
 

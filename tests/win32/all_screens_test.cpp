@@ -12,6 +12,7 @@
 #include "fakes/all_screens.h"
 #include "fakes/fake_ports.h"
 #include "keyboard.h"
+#include "room.h"
 #include "widget_views.h"
 #include "win32/screen_window.h"
 #include "win32/utf.h"
@@ -94,33 +95,22 @@ TEST_P(EveryScreen, TypingIntoEveryFieldReachesItsControl) {
   }
 }
 
-// What the system's control is given to draw, in the room that it has.
-void expect_whole(HWND window, bool has_keys, const std::string& name) {
-  if (window == nullptr || !win32::is_shown(window)) return;
-  const std::wstring text = win32::text_on(window);
-  const HDC canvas = GetDC(window);
-  const HGDIOBJ before =
-      SelectObject(canvas, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
-  RECT wanted{};
-  const auto keys = static_cast<UINT>(has_keys ? 0 : DT_NOPREFIX);
-  DrawTextW(canvas, text.c_str(), -1, &wanted, DT_CALCRECT | keys);
-  SelectObject(canvas, before);
-  ReleaseDC(window, canvas);
-  RECT room{};
-  GetClientRect(window, &room);
-  EXPECT_LE(wanted.right, room.right) << name << ": " << win32::narrow(text);
-  EXPECT_LE(wanted.bottom, room.bottom) << name << ": " << win32::narrow(text);
+TEST_P(EveryScreen, ShowsItsTextsWhole) {
+  tests::expect_texts_whole(*window);
 }
 
-TEST_P(EveryScreen, ShowsItsTextsWhole) {
-  for (const auto& widget : window->widgets()) {
-    const ui::Control& control = widget->control();
-    expect_whole(widget->caption_label, true, control.name);
-    expect_whole(widget->unit_label, false, control.name);
-    if (control.kind == ui::Kind::kLabel) expect_whole(widget->window(), false, control.name);
-    if (control.kind == ui::Kind::kButton || control.kind == ui::Kind::kTick)
-      expect_whole(widget->window(), true, control.name);
-  }
+TEST_P(EveryScreen, ShowsItsTextsWholeOnAFinerDisplay) {
+  RECT frame{};
+  GetWindowRect(window->frame(), &frame);
+  constexpr int kPercent = 150;
+  constexpr WORD kDpi = 96 * kPercent / 100;
+  const RECT wanted{0, 0, (frame.right - frame.left) * kPercent / 100,
+                    (frame.bottom - frame.top) * kPercent / 100};
+  SendMessageW(window->frame(), WM_DPICHANGED, MAKEWPARAM(kDpi, kDpi),
+               reinterpret_cast<LPARAM>(&wanted));
+  EXPECT_EQ(window->look().dpi(), kDpi);
+  tests::expect_texts_whole(*window);
+  expect_equal("on a finer display");
 }
 
 TEST_P(EveryScreen, FitsASmallLaptop) {

@@ -1,0 +1,138 @@
+// What the port does beside screens and messages: notices, pauses, the clipboard, and the tips of a
+// window.
+
+#include "win32/windows_port.h"
+
+#include <commctrl.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "real_world.h"
+#include "text/ids.h"
+#include "ui/dialog.h"
+#include "win32/utf.h"
+
+namespace {
+
+class CTipsDlg : public ui::OkCancelDialog {
+ public:
+  explicit CTipsDlg(ui::Services& services)
+      : OkCancelDialog(services, "CTipsDlg", {text::id::kHelpLabel}) {
+    name.literal_caption = "Name";
+    go.literal_caption = "Go";
+    go.shortcut = "F9";
+  }
+  ui::Edit name{*this, "name", {}, 20};
+  ui::Button go{*this, "go", {}};
+};
+
+class Port : public testing::Test {
+ protected:
+  [[nodiscard]] HWND window_of(const ui::Control& control) const {
+    return shown.window.widget(control)->window();
+  }
+  tests::RealWorld world;
+  CTipsDlg screen{world.services};
+  tests::OnDisplay shown{screen};
+};
+
+// ---- Notices and pauses
+
+class CNotice : public ui::Screen {
+ public:
+  explicit CNotice(ui::Services& services) : Screen(services, "CNotice", {text::id::kHelpLabel}) {
+    words.literal_caption = "Calculating";
+  }
+  ui::Label words{*this, "words"};
+};
+
+std::vector<HWND> windows_shown() {
+  std::vector<HWND> all;
+  const auto add = [](HWND window, LPARAM into) -> BOOL {
+    wchar_t kind[32]{};
+    GetClassNameW(window, kind, 31);
+    if (std::wstring(kind) == L"KavrelWindow" && IsWindowVisible(window) != FALSE)
+      reinterpret_cast<std::vector<HWND>*>(into)->push_back(window);
+    return TRUE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), add, reinterpret_cast<LPARAM>(&all));
+  return all;
+}
+
+TEST_F(Port, ShowsANoticeThatTakesNoKeysUntilItIsHidden) {
+  const HWND focus = GetFocus();
+  CNotice notice(world.services);
+  ASSERT_EQ(windows_shown().size(), 1U);
+  world.windows.show_notice(notice);
+  EXPECT_EQ(windows_shown().size(), 2U);
+  EXPECT_EQ(GetFocus(), focus);
+  world.windows.hide_notice(notice);
+  EXPECT_EQ(windows_shown(), std::vector<HWND>{shown.window.frame()});
+}
+
+TEST_F(Port, PausesAndLeavesKeysForWhatComesThen) {
+  PostMessageW(window_of(screen.name), WM_CHAR, L'a', 1);
+  InvalidateRect(shown.window.content(), nullptr, TRUE);
+  const ULONGLONG begin = GetTickCount64();
+  constexpr int kPause = 150;
+  world.windows.pause(kPause);
+  // The system's clock goes in steps.
+  EXPECT_GE(GetTickCount64() - begin, static_cast<ULONGLONG>(kPause - 16));
+  EXPECT_EQ(screen.name.content, "");
+  EXPECT_EQ(GetUpdateRect(shown.window.content(), nullptr, FALSE), FALSE) << "painted";
+  win32::deal_with_waiting();
+  EXPECT_EQ(screen.name.content, "a");
+}
+
+// ---- The clipboard
+
+TEST_F(Port, CopiesATextThatAFieldPastes) {
+  world.windows.copy_text("\xE9\x9B\xB2 BBXX 15124");
+  tests::press('V', false, true);
+  EXPECT_EQ(screen.name.content, "\xE9\x9B\xB2 BBXX 15124");
+}
+
+// ---- Tips
+
+HWND tips_of_thread() {
+  HWND found = nullptr;
+  const auto look = [](HWND window, LPARAM into) -> BOOL {
+    wchar_t kind[32]{};
+    GetClassNameW(window, kind, 31);
+    if (std::wstring(kind) != TOOLTIPS_CLASSW) return TRUE;
+    *reinterpret_cast<HWND*>(into) = window;
+    return FALSE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+class Tips : public Port {
+ protected:
+  // What is told where the pointer rests on the window, as the person reads it; empty for nothing.
+  [[nodiscard]] std::string told_at(HWND window) const {
+    const HWND tips = tips_of_thread();
+    SendMessageW(tips, TTM_SETDELAYTIME, TTDT_INITIAL, 10);
+    RECT place{};
+    GetWindowRect(window, &place);
+    const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    SetCursorPos(middle.x, middle.y);
+    POINT at = middle;
+    ScreenToClient(window, &at);
+    const ULONGLONG end = GetTickCount64() + 2000;
+    while (GetTickCount64() < end && IsWindowVisible(tips) == FALSE) {
+      PostMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y));
+      win32::deal_with_waiting();
+      Sleep(20);
+    }
+    return IsWindowVisible(tips) == FALSE ? std::string() : win32::narrow(win32::text_on(tips));
+  }
+};
+
+TEST_F(Tips, TellTheKeysOfAButton) {
+  EXPECT_EQ(told_at(window_of(screen.go)), "Go (F9)");
+}
+
+}  // namespace
