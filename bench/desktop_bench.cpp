@@ -102,8 +102,7 @@ struct Filled {
   }
 };
 
-void key_in_main_window(benchmark::State& state) {
-  Filled filled;
+void type_keys(benchmark::State& state, Filled& filled) {
   filled.go_to("HwHw");
   for ([[maybe_unused]] auto round : state) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
@@ -112,6 +111,11 @@ void key_in_main_window(benchmark::State& state) {
   }
   state.SetItemsProcessed(2 * state.iterations());
 }
+
+void key_in_main_window(benchmark::State& state) {
+  Filled filled;
+  type_keys(state, filled);
+}
 BENCHMARK(key_in_main_window)->Unit(benchmark::kMillisecond);
 
 // The same with the plain words and the small curve open, which follow each key.
@@ -119,13 +123,7 @@ void key_with_words_and_curve(benchmark::State& state) {
   Filled filled;
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_F2);
   if (!filled.screen.find("plain_words")->visible) std::abort();
-  filled.go_to("HwHw");
-  for ([[maybe_unused]] auto round : state) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_5);
-    QApplication::processEvents();
-  }
-  state.SetItemsProcessed(2 * state.iterations());
+  type_keys(state, filled);
 }
 BENCHMARK(key_with_words_and_curve)->Unit(benchmark::kMillisecond);
 
