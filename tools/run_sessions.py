@@ -284,7 +284,8 @@ def check(cli, folder, play):
         with contextlib.suppress(PermissionError), open(left, "wb") as file:
             file.write(printed)
     elif os.path.exists(left):
-        os.remove(left)
+        with contextlib.suppress(PermissionError):
+            os.remove(left)
     return reasons
 
 

@@ -53,22 +53,6 @@ void show_what_was_taken() {
     if (auto* const window = qobject_cast<ScreenWindow*>(widget)) window->show_controls();
 }
 
-// Where a box of this size stands beside the field and leaves it in sight: right of it, below, above
-// or left, the first that the display has room for. Nothing where none has.
-std::optional<QPoint> beside(const QRect& field, const QSize& box, const QRect& display) {
-  constexpr int kGap = 12;
-  if (box.width() > display.width() || box.height() > display.height()) return std::nullopt;
-  const int across = std::clamp(field.left(), display.left(), display.right() + 1 - box.width());
-  const int down = std::clamp(field.top(), display.top(), display.bottom() + 1 - box.height());
-  const QPoint places[] = {{field.right() + 1 + kGap, down},
-                           {across, field.bottom() + 1 + kGap},
-                           {across, field.top() - kGap - box.height()},
-                           {field.left() - kGap - box.width(), down}};
-  const auto* const at = std::ranges::find_if(
-      places, [&](const QPoint& place) { return display.contains(QRect(place, box)); });
-  return at == std::end(places) ? std::nullopt : std::optional(*at);
-}
-
 // A message that opens beside what it is about.
 class Box : public QMessageBox {
  public:
@@ -81,10 +65,12 @@ class Box : public QMessageBox {
     if (of_ == nullptr) return;
     const QWidget& window = *of_->window();
     // The frame of a window that is not there yet is as wide as that of the one that is.
-    const QSize frame = window.frameGeometry().size() - window.size();
+    const QSize whole = size() + window.frameGeometry().size() - window.size();
     const QRect field(of_->mapToGlobal(QPoint(0, 0)), of_->size());
-    if (const auto place = beside(field, size() + frame, of_->screen()->availableGeometry()))
-      move(*place);
+    constexpr int kGap = 12;
+    const auto corner = ui::place_beside(place_of(field), {whole.width(), whole.height()},
+                                         place_of(of_->screen()->availableGeometry()), kGap);
+    if (corner) move(corner->left, corner->top);
   }
 
  private:

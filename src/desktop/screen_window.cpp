@@ -670,29 +670,23 @@ int ScreenWindow::height_around(int width) const {
 void ScreenWindow::take_place() {
   fit_to_screen();
   const auto kept = screen_.kept_place();
-  if (kept && take_kept_place(*kept) && kept->maximised)
+  if (kept && take_kept_place(kept->place) && kept->maximised)
     setWindowState(windowState() | Qt::WindowMaximized);
 }
 
-// A display may have gone since, or be smaller now. The title bar must be where it can be reached.
-bool ScreenWindow::take_kept_place(const ui::WindowPlace& place) {
-  const QRect wanted(place.left, place.top, place.width, place.height);
-  const QScreen* const display =
-      QGuiApplication::screenAt(QPoint(wanted.center().x(), wanted.top()));
+bool ScreenWindow::take_kept_place(const ui::Place& kept) {
+  const ui::Corner title = ui::title_of(kept);
+  const QScreen* const display = QGuiApplication::screenAt(QPoint(title.left, title.top));
   if (display == nullptr) return false;
-  const QRect room = display->availableGeometry();
-  const QSize size = wanted.size().boundedTo(room.size()).expandedTo(minimumSizeHint());
-  const int left = std::clamp(wanted.left(), room.left(),
-                              std::max(room.left(), room.right() + 1 - size.width()));
-  const int top =
-      std::clamp(wanted.top(), room.top(), std::max(room.top(), room.bottom() + 1 - size.height()));
-  setGeometry(QRect(QPoint(left, top), size));
+  const QSize least = minimumSizeHint();
+  const ui::Place place =
+      ui::fitted(kept, place_of(display->availableGeometry()), {least.width(), least.height()});
+  setGeometry(place.left, place.top, place.width, place.height);
   return true;
 }
 
 ui::WindowPlace ScreenWindow::place_now() const {
-  const QRect place = isMaximized() ? normalGeometry() : geometry();
-  return {place.left(), place.top(), place.width(), place.height(), isMaximized()};
+  return {place_of(isMaximized() ? normalGeometry() : geometry()), isMaximized()};
 }
 
 void ScreenWindow::fit_to_screen() {
@@ -707,14 +701,10 @@ void ScreenWindow::grow_to_content() {
   const QSize wanted = size().expandedTo(fitting_size());
   if (wanted == size()) return;
   resize(wanted);
-  // It grows to the right and downwards; its buttons must not end up beyond the display.
-  const QRect room = screen()->availableGeometry();
-  const QRect frame = frameGeometry();
-  const QPoint beyond(std::max(0, frame.right() - room.right()),
-                      std::max(0, frame.bottom() - room.bottom()));
-  if (!beyond.isNull())
-    move(std::max(room.left(), frame.left() - beyond.x()),
-         std::max(room.top(), frame.top() - beyond.y()));
+  // It grows to the right and downwards.
+  const ui::Place frame = place_of(frameGeometry());
+  const ui::Corner corner = ui::drawn_back(frame, place_of(screen()->availableGeometry()));
+  if (corner != frame.corner()) move(corner.left, corner.top);
 }
 
 }  // namespace desktop

@@ -4,6 +4,7 @@
 
 #include <QBoxLayout>
 #include <QDialog>
+#include <QRect>
 #include <functional>
 #include <memory>
 #include <span>
@@ -11,12 +12,17 @@
 
 #include "desktop/binding.h"
 #include "desktop/style.h"
+#include "ui/placing.h"
 #include "ui/plan.h"
 
 class QMenuBar;
 class QScrollArea;
 
 namespace desktop {
+
+[[nodiscard]] inline ui::Place place_of(const QRect& rect) {
+  return {rect.x(), rect.y(), rect.width(), rect.height()};
+}
 
 class ScreenWindow : public QDialog {
   Q_OBJECT
@@ -85,7 +91,7 @@ class ScreenWindow : public QDialog {
   [[nodiscard]] QSize fitting_size() const;
   /// Its kept place, as far as a display has it; else as large as its content on this display.
   void take_place();
-  [[nodiscard]] bool take_kept_place(const ui::WindowPlace& place);
+  [[nodiscard]] bool take_kept_place(const ui::Place& kept);
   [[nodiscard]] ui::WindowPlace place_now() const;
   void fit_to_screen();
   /// A window never shrinks under the person's hands.

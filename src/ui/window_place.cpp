@@ -13,11 +13,12 @@ constexpr std::size_t kMostFigures = 5;  // and a sign
 
 }  // namespace
 
-std::string text_of(const WindowPlace& place) {
+std::string text_of(const WindowPlace& window) {
+  const Place& place = window.place;
   std::string text;
   for (const int number : {place.left, place.top, place.width, place.height})
     text.append(text::format_int(number)).push_back(' ');
-  text.push_back(place.maximised ? '1' : '0');
+  text.push_back(window.maximised ? '1' : '0');
   return text;
 }
 
@@ -34,7 +35,7 @@ std::optional<WindowPlace> window_place(std::string_view text) {
   }
   const auto [left, top, width, height, maximised] = numbers;
   if (width <= 0 || height <= 0 || maximised < 0 || maximised > 1) return std::nullopt;
-  return WindowPlace{left, top, width, height, maximised == 1};
+  return WindowPlace{{left, top, width, height}, maximised == 1};
 }
 
 }  // namespace ui

@@ -11,17 +11,11 @@
 #include <span>
 #include <vector>
 
+#include "ui/placing.h"
+
 namespace win32 {
 
-struct Place {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-  [[nodiscard]] int right() const { return left + width; }
-  [[nodiscard]] int bottom() const { return top + height; }
-  bool operator==(const Place&) const = default;
-};
+using ui::Place;
 
 inline constexpr int kNoLimit = 1 << 24;
 

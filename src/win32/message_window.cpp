@@ -18,6 +18,7 @@ namespace {
 
 constexpr const wchar_t* kKind = L"KavrelMessage";
 constexpr int kWidestText = 560;
+constexpr int kBesideField = 12;
 
 const wchar_t* icon_of(ui::Sign sign) {
   switch (sign) {
@@ -42,23 +43,6 @@ void register_kind(WNDPROC proc) {
 }
 
 }  // namespace
-
-std::optional<POINT> place_beside(const RECT& field, SIZE box, const RECT& display, int gap) {
-  if (box.cx > display.right - display.left || box.cy > display.bottom - display.top)
-    return std::nullopt;
-  const LONG across = std::clamp(field.left, display.left, display.right - box.cx);
-  const LONG down = std::clamp(field.top, display.top, display.bottom - box.cy);
-  const POINT places[] = {{field.right + gap, down},
-                          {across, field.bottom + gap},
-                          {across, field.top - gap - box.cy},
-                          {field.left - gap - box.cx, down}};
-  const auto* const at =
-      std::find_if(std::begin(places), std::end(places), [&](const POINT& place) {
-        return place.x >= display.left && place.x + box.cx <= display.right &&
-               place.y >= display.top && place.y + box.cy <= display.bottom;
-      });
-  return at == std::end(places) ? std::nullopt : std::optional(*at);
-}
 
 MessageWindow::MessageWindow(const ui::MessageBox& box, HWND owner, text::Language language,
                              std::optional<RECT> of)
@@ -145,7 +129,9 @@ void MessageWindow::lay_out(std::optional<RECT> of) {
   POINT at{std::max((around.left + around.right - size.cx) / 2, display.rcWork.left),
            std::max((around.top + around.bottom - size.cy) / 2, display.rcWork.top)};
   if (of) {
-    if (const auto place = place_beside(*of, size, display.rcWork, look_.pixels(12))) at = *place;
+    const auto beside = ui::place_beside(place_of(*of), {size.cx, size.cy},
+                                         place_of(display.rcWork), look_.pixels(kBesideField));
+    if (beside) at = {beside->left, beside->top};
   }
   SetWindowPos(frame_, nullptr, at.x, at.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -50,9 +50,4 @@ class MessageWindow : public Filter {
   std::optional<int> result_;
 };
 
-/// Where a box of this size stands beside the field and leaves it in sight: right of it, below, above
-/// or left, the first that the display has room for. Nothing where none has.
-[[nodiscard]] std::optional<POINT> place_beside(const RECT& field, SIZE box, const RECT& display,
-                                                int gap);
-
 }  // namespace win32

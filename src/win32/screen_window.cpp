@@ -679,7 +679,7 @@ SIZE ScreenWindow::fitting_size() const {
 
 void ScreenWindow::take_place() {
   const auto kept = screen_.kept_place();
-  if (kept && take_kept_place(*kept)) return;
+  if (kept && take_kept_place(kept->place)) return;
   const SIZE size = fitting_size();
   const HWND owner = GetWindow(frame_, GW_OWNER);
   const RECT display = room_of_display(
@@ -695,17 +695,13 @@ void ScreenWindow::take_place() {
                size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// A display may have gone since, or be smaller now. The title bar must be where it can be reached.
-bool ScreenWindow::take_kept_place(const ui::WindowPlace& place) {
-  const POINT title{place.left + place.width / 2, place.top};
-  const HMONITOR found = MonitorFromPoint(title, MONITOR_DEFAULTTONULL);
+bool ScreenWindow::take_kept_place(const Place& kept) {
+  const ui::Corner title = ui::title_of(kept);
+  const HMONITOR found = MonitorFromPoint({title.left, title.top}, MONITOR_DEFAULTTONULL);
   if (found == nullptr) return false;
-  const RECT room = room_of_display(found);
-  const int width = std::min<int>(place.width, room.right - room.left);
-  const int height = std::min<int>(place.height, room.bottom - room.top);
-  const int left = std::clamp<int>(place.left, room.left, room.right - width);
-  const int top = std::clamp<int>(place.top, room.top, room.bottom - height);
-  SetWindowPos(frame_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  const Place place = ui::fitted(kept, place_of(room_of_display(found)));
+  SetWindowPos(frame_, nullptr, place.left, place.top, place.width, place.height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
   return true;
 }
 
@@ -719,7 +715,7 @@ ui::WindowPlace ScreenWindow::place_now() const {
     GetWindowPlacement(frame_, &placement);
     now = placement.rcNormalPosition;
   }
-  return {now.left, now.top, now.right - now.left, now.bottom - now.top, maximised};
+  return {place_of(now), maximised};
 }
 
 // A window never shrinks under the person's hands. A main window has the size that the person gave
@@ -729,14 +725,15 @@ void ScreenWindow::grow_to_content() {
   RECT now{};
   GetWindowRect(frame_, &now);
   const SIZE wanted = fitting_size();
-  const LONG width = std::max(wanted.cx, now.right - now.left);
-  const LONG height = std::max(wanted.cy, now.bottom - now.top);
+  const int width = std::max(wanted.cx, now.right - now.left);
+  const int height = std::max(wanted.cy, now.bottom - now.top);
   if (width == now.right - now.left && height == now.bottom - now.top) return;
-  // It grows to the right and downwards; its buttons must not end up beyond the display.
-  const RECT room = room_of_display(MonitorFromWindow(frame_, MONITOR_DEFAULTTOPRIMARY));
-  const LONG left = std::max(room.left, std::min(now.left, room.right - width));
-  const LONG top = std::max(room.top, std::min(now.top, room.bottom - height));
-  SetWindowPos(frame_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+  // It grows to the right and downwards.
+  const HMONITOR display = MonitorFromWindow(frame_, MONITOR_DEFAULTTOPRIMARY);
+  const ui::Corner corner =
+      ui::drawn_back({now.left, now.top, width, height}, place_of(room_of_display(display)));
+  SetWindowPos(frame_, nullptr, corner.left, corner.top, width, height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // The focus.

@@ -107,7 +107,7 @@ class ScreenWindow : public Host, public Filter {
   void bring_into_view(const Widget& target);
   [[nodiscard]] SIZE fitting_size() const;
   void take_place();
-  [[nodiscard]] bool take_kept_place(const ui::WindowPlace& place);
+  [[nodiscard]] bool take_kept_place(const Place& kept);
   [[nodiscard]] ui::WindowPlace place_now() const;
   void grow_to_content();
   /// In other fonts or colours.

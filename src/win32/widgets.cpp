@@ -165,9 +165,7 @@ HFONT Widget::font() const {
 }
 
 bool Widget::owns(HWND part) const {
-  return part != nullptr && std::any_of(windows_.begin(), windows_.end(), [part](HWND own) {
-           return part == own || IsChild(own, part) != FALSE;
-         });
+  return part != nullptr && std::find(listened_.begin(), listened_.end(), part) != listened_.end();
 }
 
 RECT Widget::stands() const {

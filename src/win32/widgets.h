@@ -188,6 +188,9 @@ std::unique_ptr<Widget> make_picture(ui::Screen&, ui::Control&, Host&, HWND);
 bool put_text(HWND window, const std::wstring& text);
 /// Moves the window where it does not stand there already.
 void move_to(HWND window, const Place& place);
+[[nodiscard]] inline Place place_of(const RECT& rect) {
+  return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
 /// The text with line ends as the system's controls want them; and back.
 [[nodiscard]] std::wstring with_system_ends(std::string_view text);
 [[nodiscard]] std::string with_plain_ends(std::wstring_view text);

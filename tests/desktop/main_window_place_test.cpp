@@ -76,8 +76,8 @@ TEST(MainWindowPlace, IsMaximisedAgainAndHasItsOwnSizeBehindThat) {
   const auto kept = ui::window_place(first.kept);
   ASSERT_TRUE(kept.has_value()) << first.kept;
   EXPECT_TRUE(kept->maximised);
-  EXPECT_EQ(kept->width, 700);
-  EXPECT_EQ(kept->height, 600);
+  EXPECT_EQ(kept->place.width, 700);
+  EXPECT_EQ(kept->place.height, 600);
   const Started next(first.kept);
   EXPECT_TRUE(next.window->isMaximized());
 }

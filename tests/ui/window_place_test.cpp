@@ -8,13 +8,13 @@ namespace {
 
 TEST(WindowPlace, IsKeptAsFiguresAndReadBack) {
   for (const ui::WindowPlace& place :
-       {ui::WindowPlace{100, 50, 1200, 700, false}, ui::WindowPlace{-1920, -5, 1, 1, true},
-        ui::WindowPlace{0, 0, 99999, 99999, false}}) {
+       {ui::WindowPlace{{100, 50, 1200, 700}, false}, ui::WindowPlace{{-1920, -5, 1, 1}, true},
+        ui::WindowPlace{{0, 0, 99999, 99999}, false}}) {
     const auto read = ui::window_place(ui::text_of(place));
     ASSERT_TRUE(read.has_value()) << ui::text_of(place);
     EXPECT_TRUE(*read == place) << ui::text_of(place);
   }
-  EXPECT_EQ(ui::text_of({100, 50, 1200, 700, true}), "100 50 1200 700 1");
+  EXPECT_EQ(ui::text_of({{100, 50, 1200, 700}, true}), "100 50 1200 700 1");
 }
 
 TEST(WindowPlace, IsNothingWhereTheTextIsNone) {
@@ -34,7 +34,7 @@ TEST(WindowPlace, SurvivesEveryByte) {
       damaged[at] = static_cast<char>(byte);
       const auto read = ui::window_place(damaged);
       if (read) {
-        EXPECT_TRUE(read->width > 0 && read->height > 0);
+        EXPECT_TRUE(read->place.width > 0 && read->place.height > 0);
       }
     }
   }

@@ -71,20 +71,6 @@ TEST(MessageWindow, GivesItsOnlyButtonNoLetter) {
   EXPECT_EQ(win32::narrow(win32::text_on(window.buttons().front())), "OK");
 }
 
-TEST(MessageWindow, StandsBesideWhatItIsAboutWhereTheDisplayHasRoom) {
-  const RECT display{0, 0, 1000, 700};
-  const SIZE box{300, 100};
-  const auto at = [&](const RECT& field) { return win32::place_beside(field, box, display, 10); };
-  // Right of it; below; above; left.
-  EXPECT_EQ(at({100, 200, 200, 220})->x, 210);
-  EXPECT_EQ(at({100, 200, 200, 220})->y, 200);
-  EXPECT_EQ(at({600, 200, 900, 220})->x, 600);
-  EXPECT_EQ(at({600, 200, 900, 220})->y, 230);
-  EXPECT_EQ(at({600, 650, 900, 670})->y, 540);
-  EXPECT_EQ(at({600, 20, 900, 680})->x, 290);
-  EXPECT_FALSE(at({10, 10, 990, 690}).has_value());
-}
-
 class CAskingDlg : public ui::OkCancelDialog {
  public:
   explicit CAskingDlg(ui::Services& services)

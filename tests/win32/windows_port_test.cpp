@@ -96,24 +96,30 @@ TEST_F(Port, CopiesATextThatAFieldPastes) {
 
 // ---- Tips
 
-HWND tips_of_thread() {
-  HWND found = nullptr;
+// The window's own: a list or a tree may have some for itself.
+HWND tips_of(HWND frame) {
+  struct Search {
+    HWND frame;
+    HWND found;
+  } search{frame, nullptr};
   const auto look = [](HWND window, LPARAM into) -> BOOL {
+    auto& wanted = *reinterpret_cast<Search*>(into);
     wchar_t kind[32]{};
     GetClassNameW(window, kind, 31);
-    if (std::wstring(kind) != TOOLTIPS_CLASSW) return TRUE;
-    *reinterpret_cast<HWND*>(into) = window;
+    if (std::wstring(kind) != TOOLTIPS_CLASSW || GetWindow(window, GW_OWNER) != wanted.frame)
+      return TRUE;
+    wanted.found = window;
     return FALSE;
   };
-  EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&found));
-  return found;
+  EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&search));
+  return search.found;
 }
 
 class Tips : public Port {
  protected:
   // What is told where the pointer rests on the window, as the person reads it; empty for nothing.
   [[nodiscard]] std::string told_at(HWND window) const {
-    const HWND tips = tips_of_thread();
+    const HWND tips = tips_of(shown.window.frame());
     SendMessageW(tips, TTM_SETDELAYTIME, TTDT_INITIAL, 10);
     RECT place{};
     GetWindowRect(window, &place);

@@ -11,6 +11,8 @@
 #include <memory>
 #include <new>
 
+#include "platform/system/appended_log.h"
+
 namespace platform::posix {
 
 namespace {
@@ -109,160 +111,101 @@ class PosixFiles::Open {
 };
 
 /// The file under its path, open at its end and locked.
-class PosixFiles::Log : public LockedLog {
+class PosixFiles::Log : public AppendedLog {
  public:
-  /// Creates the file when there is none. Between opening and locking another copy of the program
-  /// may have removed or replaced the file; then what was opened is no longer what the path names,
-  /// and the whole is done again.
   Log(const PosixFiles& files, std::string os_path)
-      : files_(files), calls_(files.calls_), os_path_(std::move(os_path)) {
-    // A pipe or terminal of the logbook's name must neither hold the program up nor steer it.
-    constexpr int kFlags = O_RDWR | O_APPEND | O_NONBLOCK | O_NOCTTY;
-    const std::int64_t until = calls_.now() + kPatience;
-    for (int i = 0; i < kTries; ++i) {
-      created_ = false;
-      open_.emplace(calls_, os_path_, kFlags);
-      if (!open_->ok() && open_->error_number() == ENOENT) {
-        created_ = true;
-        open_.emplace(calls_, os_path_, kFlags | O_CREAT | O_EXCL);
-        if (!open_->ok() && open_->error_number() == EEXIST) {
-          // There and not there: a link that leads nowhere, or somebody was quicker.
-          const auto found = files_.look_at(os_path_);
-          if (found.there == There::kCannotTell) {
-            error_ = found.error;
-            return;
-          }
-          continue;
-        }
-        // A mask may take the owner's rights too, and the next save could not open its logbook.
-        if (open_->ok()) files_.let_owner_use(open_->file());
-      }
-      if (!open_->ok()) {
-        error_ = open_->error();
-        return;
-      }
-      if (lock(until)) {
-        drop_ = created_ && error_ == FileError::kNone;
-        return;
-      }
-    }
-    error_ = FileError::kOther;
-  }
+      : files_(files), calls_(files.calls_), os_path_(std::move(os_path)) {}
   ~Log() override {
-    struct stat now {};
-    // Without locks somebody may have written since.
-    if (drop_ && size_ == 0 && calls_.fstat(open_->file(), &now) == 0 && now.st_size == 0)
-      (void)unbroken([&] { return calls_.unlink(os_path_.c_str()); });
+    if (goes_with_lock()) (void)unbroken([&] { return calls_.unlink(os_path_.c_str()); });
   }
   Log(const Log&) = delete;
   Log& operator=(const Log&) = delete;
-
-  [[nodiscard]] FileError error() const { return error_; }
-
-  [[nodiscard]] bool is_locked() const override { return is_locked_; }
-  [[nodiscard]] bool created() const override { return created_; }
-  [[nodiscard]] std::uint64_t size() const override { return size_; }
-  void drop_if_empty() override { drop_ = true; }
 
   [[nodiscard]] Result<std::string> read(std::uint64_t from, std::uint64_t count) const override {
     return files_.part_of(open_->file(), from, count);
   }
 
-  [[nodiscard]] FileError append(std::string_view content) override {
-    const auto end = static_cast<off_t>(size_);
-    const auto length = static_cast<off_t>(content.size());
-    // With the room set aside the write cannot stop half-way on a full disk. Not every file system
-    // can do it; then the cutting back below has to serve.
-    if (length > 0 && unbroken([&] { return calls_.reserve(open_->file(), end, length); }) == -1 &&
-        file_error(errno) == FileError::kNoSpace)
-      return FileError::kNoSpace;
-    const FileError error = write_once(content);
-    if (error == FileError::kNone) {
-      size_ += content.size();
-      return error;
-    }
-    if (cut(size_) != FileError::kNone) {
-      struct stat now {};
-      const bool known = unbroken([&] { return calls_.fstat(open_->file(), &now); }) == 0;
-      size_ = known ? static_cast<std::uint64_t>(now.st_size) : size_ + content.size();
-    }
-    return error;
+ protected:
+  [[nodiscard]] Outcome open_old() override {
+    open_.emplace(calls_, os_path_, kFlags);
+    if (open_->ok()) return {};
+    return {open_->error_number() == ENOENT ? Step::kMissing : Step::kFailed, open_->error()};
   }
-
-  [[nodiscard]] FileError cut(std::uint64_t size) override {
-    const auto end = static_cast<off_t>(size);
-    if (unbroken([&] { return calls_.ftruncate(open_->file(), end); }) == -1)
-      return file_error(errno);
-    size_ = size;
-    // It is cut, flushed or not: a refusal would say that the line is still there.
-    (void)unbroken([&] { return calls_.fsync(open_->file()); });
-    return FileError::kNone;
+  [[nodiscard]] Outcome make_new() override {
+    open_.emplace(calls_, os_path_, kFlags | O_CREAT | O_EXCL);
+    if (open_->ok()) {
+      // A mask may take the owner's rights too, and the next save could not open its logbook.
+      files_.let_owner_use(open_->file());
+      return {};
+    }
+    if (open_->error_number() != EEXIST) return {Step::kFailed, open_->error()};
+    return {Step::kInTheWay, files_.look_at(os_path_).error};
   }
-
- private:
-  static constexpr int kPatience = 3000;  // milliseconds
-  static constexpr int kLongestPause = 50;
-
-  /// True when the matter is settled, well or not.
-  bool lock(std::int64_t until) {
+  [[nodiscard]] FileError why_unfit() const override {
+    struct stat about {};
+    if (!tell(about)) return file_error(errno);
+    if (S_ISDIR(about.st_mode)) return FileError::kAccessDenied;
+    return S_ISREG(about.st_mode) ? FileError::kNone : FileError::kNotAFile;
+  }
+  [[nodiscard]] Outcome lock_once() override {
+    if (unbroken([&] { return calls_.lock(open_->file()); }) == 0) return {};
+    if (knows_no_locks(errno)) return {Step::kMissing};
+    return {errno == EWOULDBLOCK ? Step::kBusy : Step::kFailed, file_error(errno)};
+  }
+  [[nodiscard]] Result<std::optional<std::uint64_t>> look_again() const override {
     struct stat about {};
     struct stat named {};
-    if (unbroken([&] { return calls_.fstat(open_->file(), &about); }) == -1)
-      return settled(file_error(errno));
-    if (S_ISDIR(about.st_mode)) return settled(FileError::kAccessDenied);
-    if (!S_ISREG(about.st_mode)) return settled(FileError::kNotAFile);
-    // An empty file that this call created stays when it cannot be locked: nobody can tell whether
-    // another copy of the program has begun to write into it.
-    for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
-      if (unbroken([&] { return calls_.lock(open_->file()); }) == 0) break;
-      if (knows_no_locks(errno)) {
-        is_locked_ = false;
-        break;
-      }
-      // Anything but "somebody has it" does not get better by waiting.
-      if (errno != EWOULDBLOCK) return settled(file_error(errno));
-      if (calls_.now() >= until) return settled(FileError::kLocked);
-      calls_.pause(pause);
+    if (!tell(about)) return file_error(errno);
+    if (unbroken([&] { return calls_.stat(os_path_.c_str(), &named); }) == -1) {
+      if (errno != ENOENT) return file_error(errno);
+      return std::optional<std::uint64_t>();
     }
-    // Looked at again: others wrote until the lock was had.
-    if (unbroken([&] { return calls_.fstat(open_->file(), &about); }) == -1)
-      return settled(file_error(errno));
-    if (unbroken([&] { return calls_.stat(os_path_.c_str(), &named); }) == -1)
-      // Gone meanwhile: not settled, so it is opened and locked anew.
-      return errno != ENOENT && settled(file_error(errno));
-    if (!same_file(about, named)) return false;
+    if (!same_file(about, named)) return std::optional<std::uint64_t>();
     // The system's root may write what is marked read-only; the mark is meant all the same.
-    if ((about.st_mode & kAnyWrite) == 0) return settled(FileError::kAccessDenied);
-    size_ = static_cast<std::uint64_t>(about.st_size);
-    // Another copy may have written between our creating the file and locking it.
-    if (size_ > 0) created_ = false;
-    return true;
+    if ((about.st_mode & kAnyWrite) == 0) return FileError::kAccessDenied;
+    return std::optional(static_cast<std::uint64_t>(about.st_size));
   }
-  bool settled(FileError error) {
-    error_ = error;
-    return true;
+  [[nodiscard]] std::optional<std::uint64_t> size_now() const override {
+    struct stat about {};
+    if (!tell(about)) return std::nullopt;
+    return static_cast<std::uint64_t>(about.st_size);
   }
-
-  [[nodiscard]] FileError write_once(std::string_view content) const {
+  [[nodiscard]] bool set_room_aside(std::size_t count) override {
+    const auto end = static_cast<off_t>(size());
+    const auto length = static_cast<off_t>(count);
+    return unbroken([&] { return calls_.reserve(open_->file(), end, length); }) != -1 ||
+           file_error(errno) != FileError::kNoSpace;
+  }
+  [[nodiscard]] Result<std::size_t> write_once(std::string_view content) override {
     const auto count =
         unbroken([&] { return calls_.write(open_->file(), content.data(), content.size()); });
     if (count == -1) return file_error(errno);
-    // What went in is not gone on with: a line is one write or none.
-    if (static_cast<std::size_t>(count) != content.size()) return FileError::kNoSpace;
-    if (unbroken([&] { return calls_.fsync(open_->file()); }) == -1) return file_error(errno);
-    // A new name is safe only with its folder; the bytes of an old file need no more.
-    return created_ ? files_.flush_folder(os_path_) : FileError::kNone;
+    return static_cast<std::size_t>(count);
+  }
+  [[nodiscard]] FileError set_size(std::uint64_t size) override {
+    const auto end = static_cast<off_t>(size);
+    return why(unbroken([&] { return calls_.ftruncate(open_->file(), end); }));
+  }
+  [[nodiscard]] FileError flush() override {
+    return why(unbroken([&] { return calls_.fsync(open_->file()); }));
+  }
+  [[nodiscard]] FileError flush_name() override { return files_.flush_folder(os_path_); }
+  [[nodiscard]] std::int64_t now() const override { return calls_.now(); }
+  void pause(int milliseconds) const override { calls_.pause(milliseconds); }
+
+ private:
+  // A pipe or terminal of the logbook's name must neither hold the program up nor steer it.
+  static constexpr int kFlags = O_RDWR | O_APPEND | O_NONBLOCK | O_NOCTTY;
+
+  static FileError why(int result) { return result == -1 ? file_error(errno) : FileError::kNone; }
+  [[nodiscard]] bool tell(struct stat& about) const {
+    return unbroken([&] { return calls_.fstat(open_->file(), &about); }) == 0;
   }
 
   const PosixFiles& files_;
   SystemCalls& calls_;
   std::string os_path_;
   std::optional<Open> open_;
-  std::uint64_t size_ = 0;
-  bool is_locked_ = true;
-  bool created_ = false;
-  bool drop_ = false;
-  FileError error_ = FileError::kNone;
 };
 
 PosixFiles::PosixFiles(const PathMap& drives, SystemCalls& calls)
@@ -499,7 +442,7 @@ Result<std::unique_ptr<LockedLog>> PosixFiles::lock_log(const std::string& path)
     if (const auto error = folder_writable(*os_path.value); error != FileError::kNone) return error;
   }
   auto log = std::make_unique<Log>(*this, *os_path.value);
-  if (log->error() != FileError::kNone) return log->error();
+  if (const FileError error = log->open(); error != FileError::kNone) return error;
   return {std::move(log)};
 }
 

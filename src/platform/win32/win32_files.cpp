@@ -5,6 +5,7 @@
 #include <new>
 
 #include "platform/paths.h"
+#include "platform/system/appended_log.h"
 #include "platform/win32/wide.h"
 
 namespace platform::win32 {
@@ -137,156 +138,93 @@ class Win32Files::Open {
 };
 
 /// The file under its path, open and locked.
-class Win32Files::Log : public LockedLog {
+class Win32Files::Log : public AppendedLog {
  public:
-  /// Creates the file when there is none. Between opening and locking another copy of the program
-  /// may have removed or replaced the file; then what was opened is no longer what the path names,
-  /// and the whole is done again.
   Log(const Win32Files& files, std::wstring path)
-      : files_(files), calls_(files.calls_), path_(std::move(path)) {
-    constexpr DWORD kAccess = GENERIC_READ | GENERIC_WRITE;
-    const std::int64_t until = calls_.now() + kPatience;
-    for (int i = 0; i < kTries; ++i) {
-      created_ = false;
-      open_.emplace(calls_, path_, kAccess, OPEN_EXISTING);
-      if (!open_->ok() && open_->error_number() == ERROR_FILE_NOT_FOUND) {
-        created_ = true;
-        open_.emplace(calls_, path_, kAccess, CREATE_NEW);
-        if (!open_->ok() && file_error(open_->error_number()) == FileError::kExists) {
-          // There and not there: a link that leads nowhere, or somebody was quicker.
-          const auto found = files_.look_at(path_);
-          if (found.there == There::kCannotTell) {
-            error_ = found.error;
-            return;
-          }
-          continue;
-        }
-      }
-      // Of a file that was removed the name stays for as long as somebody has it open.
-      if (!open_->ok() && open_->error() == FileError::kLocked && calls_.now() < until) {
-        calls_.pause(kLongestPause);
-        continue;
-      }
-      if (!open_->ok()) {
-        error_ = open_->error();
-        return;
-      }
-      if (lock(until)) {
-        drop_ = created_ && error_ == FileError::kNone;
-        return;
-      }
-    }
-    error_ = FileError::kOther;
-  }
+      : files_(files), calls_(files.calls_), path_(std::move(path)) {}
   ~Log() override {
-    BY_HANDLE_FILE_INFORMATION now{};
-    // Without locks somebody may have written since.
-    if (drop_ && size_ == 0 && calls_.about(open_->file(), now) &&
-        whole_of(now.nFileSizeHigh, now.nFileSizeLow) == 0)
-      files_.take_away(path_);
+    if (goes_with_lock()) files_.take_away(path_);
   }
   Log(const Log&) = delete;
   Log& operator=(const Log&) = delete;
-
-  [[nodiscard]] FileError error() const { return error_; }
-
-  [[nodiscard]] bool is_locked() const override { return is_locked_; }
-  [[nodiscard]] bool created() const override { return created_; }
-  [[nodiscard]] std::uint64_t size() const override { return size_; }
-  void drop_if_empty() override { drop_ = true; }
 
   [[nodiscard]] Result<std::string> read(std::uint64_t from, std::uint64_t count) const override {
     return files_.part_of(open_->file(), from, count);
   }
 
-  [[nodiscard]] FileError append(std::string_view content) override {
-    // With the room set aside the write cannot stop half-way on a full disk. Not every file system
-    // can do it; then the cutting back below has to serve. Without a lock it is left: room for less
-    // than there is meanwhile would cut off what somebody else wrote.
-    if (is_locked_ && !content.empty() && !calls_.reserve(open_->file(), size_ + content.size()) &&
-        file_error(::GetLastError()) == FileError::kNoSpace)
-      return FileError::kNoSpace;
-    const FileError error = write_once(content);
-    if (error == FileError::kNone) {
-      size_ += content.size();
-      return error;
-    }
-    if (cut(size_) != FileError::kNone) {
-      BY_HANDLE_FILE_INFORMATION now{};
-      size_ = calls_.about(open_->file(), now) ? whole_of(now.nFileSizeHigh, now.nFileSizeLow)
-                                               : size_ + content.size();
-    }
-    return error;
+ protected:
+  [[nodiscard]] Outcome open_old() override {
+    open_.emplace(calls_, path_, kAccess, OPEN_EXISTING);
+    return opened(ERROR_FILE_NOT_FOUND);
   }
-
-  [[nodiscard]] FileError cut(std::uint64_t size) override {
-    if (!calls_.set_size(open_->file(), size)) return file_error(::GetLastError());
-    size_ = size;
-    // It is cut, flushed or not: a refusal would say that the line is still there.
-    (void)calls_.flush(open_->file());
-    return FileError::kNone;
+  [[nodiscard]] Outcome make_new() override {
+    open_.emplace(calls_, path_, kAccess, CREATE_NEW);
+    if (!open_->ok() && file_error(open_->error_number()) == FileError::kExists)
+      return {Step::kInTheWay, files_.look_at(path_).error};
+    return opened(ERROR_SUCCESS);
   }
-
- private:
-  static constexpr int kPatience = 3000;  // milliseconds
-
-  /// True when the matter is settled, well or not.
-  bool lock(std::int64_t until) {
-    if (const FileError error = files_.regular(*open_); error != FileError::kNone)
-      return settled(error);
-    // An empty file that this call created stays when it cannot be locked: nobody can tell whether
-    // another copy of the program has begun to write into it.
-    for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
-      if (calls_.lock(open_->file())) break;
-      const DWORD why = ::GetLastError();
-      if (knows_no_locks(why)) {
-        is_locked_ = false;
-        break;
-      }
-      // Anything but "somebody has it" does not get better by waiting.
-      if (file_error(why) != FileError::kLocked) return settled(file_error(why));
-      if (calls_.now() >= until) return settled(FileError::kLocked);
-      calls_.pause(pause);
-    }
-    // Looked at again: others wrote until the lock was had.
-    BY_HANDLE_FILE_INFORMATION opened{};
-    if (!calls_.about(open_->file(), opened)) return settled(file_error(::GetLastError()));
+  [[nodiscard]] FileError why_unfit() const override { return files_.regular(*open_); }
+  [[nodiscard]] Outcome lock_once() override {
+    if (calls_.lock(open_->file())) return {};
+    const DWORD why = ::GetLastError();
+    if (knows_no_locks(why)) return {Step::kMissing};
+    return {file_error(why) == FileError::kLocked ? Step::kBusy : Step::kFailed, file_error(why)};
+  }
+  [[nodiscard]] Result<std::optional<std::uint64_t>> look_again() const override {
+    BY_HANDLE_FILE_INFORMATION held{};
+    if (!calls_.about(open_->file(), held)) return file_error(::GetLastError());
     const Open name(calls_, path_, FILE_READ_ATTRIBUTES, OPEN_EXISTING);
-    // Gone meanwhile: not settled, so it is opened and locked anew.
-    if (!name.ok())
-      return !is_missing(name.error_number()) && !name.is_being_deleted() && settled(name.error());
+    if (!name.ok()) {
+      if (!is_missing(name.error_number()) && !name.is_being_deleted()) return name.error();
+      return std::optional<std::uint64_t>();
+    }
     BY_HANDLE_FILE_INFORMATION named{};
-    if (!calls_.about(name.file(), named)) return settled(file_error(::GetLastError()));
-    if (!same_file(opened, named)) return false;
-    size_ = whole_of(opened.nFileSizeHigh, opened.nFileSizeLow);
-    // Another copy may have written between our creating the file and locking it.
-    if (size_ > 0) created_ = false;
-    return true;
+    if (!calls_.about(name.file(), named)) return file_error(::GetLastError());
+    if (!same_file(held, named)) return std::optional<std::uint64_t>();
+    return std::optional(whole_of(held.nFileSizeHigh, held.nFileSizeLow));
   }
-  bool settled(FileError error) {
-    error_ = error;
-    return true;
+  [[nodiscard]] std::optional<std::uint64_t> size_now() const override {
+    BY_HANDLE_FILE_INFORMATION now{};
+    if (!calls_.about(open_->file(), now)) return std::nullopt;
+    return whole_of(now.nFileSizeHigh, now.nFileSizeLow);
   }
-
-  [[nodiscard]] FileError write_once(std::string_view content) const {
+  // Without a lock it is left: room for less than there is meanwhile would cut off what somebody else
+  // wrote.
+  [[nodiscard]] bool set_room_aside(std::size_t count) override {
+    return !is_locked() || calls_.reserve(open_->file(), size() + count) ||
+           file_error(::GetLastError()) != FileError::kNoSpace;
+  }
+  [[nodiscard]] Result<std::size_t> write_once(std::string_view content) override {
     DWORD count = 0;
     if (!calls_.write_at_end(open_->file(), content.data(), static_cast<DWORD>(content.size()),
                              count))
       return file_error(::GetLastError());
-    // What went in is not gone on with: a line is one write or none.
-    if (count != content.size()) return FileError::kNoSpace;
+    return static_cast<std::size_t>(count);
+  }
+  [[nodiscard]] FileError set_size(std::uint64_t size) override {
+    return calls_.set_size(open_->file(), size) ? FileError::kNone : file_error(::GetLastError());
+  }
+  [[nodiscard]] FileError flush() override {
     return calls_.flush(open_->file()) ? FileError::kNone : file_error(::GetLastError());
+  }
+  [[nodiscard]] std::int64_t now() const override { return calls_.now(); }
+  void pause(int milliseconds) const override { calls_.pause(milliseconds); }
+
+ private:
+  static constexpr DWORD kAccess = GENERIC_READ | GENERIC_WRITE;
+
+  [[nodiscard]] Outcome opened(DWORD missing) const {
+    if (open_->ok()) return {};
+    if (missing != ERROR_SUCCESS && open_->error_number() == missing)
+      return {Step::kMissing, open_->error()};
+    // Of a file that was removed the name stays for as long as somebody has it open.
+    return {open_->error() == FileError::kLocked ? Step::kBusy : Step::kFailed, open_->error()};
   }
 
   const Win32Files& files_;
   SystemCalls& calls_;
   std::wstring path_;
   std::optional<Open> open_;
-  std::uint64_t size_ = 0;
-  bool is_locked_ = true;
-  bool created_ = false;
-  bool drop_ = false;
-  FileError error_ = FileError::kNone;
 };
 
 Win32Files::Win32Files(const PathMap& drives, SystemCalls& calls)
@@ -485,7 +423,7 @@ Result<std::unique_ptr<LockedLog>> Win32Files::lock_log(const std::string& path)
   const auto os_path = os(path);
   if (!os_path.ok()) return os_path.error;
   auto log = std::make_unique<Log>(*this, *os_path.value);
-  if (log->error() != FileError::kNone) return log->error();
+  if (const FileError error = log->open(); error != FileError::kNone) return error;
   return {std::move(log)};
 }
 
