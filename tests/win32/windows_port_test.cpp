@@ -125,13 +125,22 @@ class Tips : public Port {
     GetWindowRect(window, &place);
     const POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
     SetCursorPos(middle.x, middle.y);
+    // What is disabled hears nothing of the pointer; the system tells what is around it.
+    const HWND hears = IsWindowEnabled(window) != FALSE ? window : GetParent(window);
     POINT at = middle;
-    ScreenToClient(window, &at);
-    const ULONGLONG end = GetTickCount64() + 2000;
+    ScreenToClient(hears, &at);
+    // Each move begins the delay anew: a pointer that rests moves no more.
+    constexpr ULONGLONG kPatience = 10'000;
+    constexpr ULONGLONG kRest = 500;
+    const ULONGLONG end = GetTickCount64() + kPatience;
+    ULONGLONG next_move = 0;
     while (GetTickCount64() < end && IsWindowVisible(tips) == FALSE) {
-      PostMessageW(window, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y));
+      if (GetTickCount64() >= next_move) {
+        PostMessageW(hears, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y));
+        next_move = GetTickCount64() + kRest;
+      }
       win32::deal_with_waiting();
-      Sleep(20);
+      Sleep(5);
     }
     return IsWindowVisible(tips) == FALSE ? std::string() : win32::narrow(win32::text_on(tips));
   }
@@ -139,6 +148,20 @@ class Tips : public Port {
 
 TEST_F(Tips, TellTheKeysOfAButton) {
   EXPECT_EQ(told_at(window_of(screen.go)), "Go (F9)");
+}
+
+TEST_F(Tips, TellWhyAFieldIsLocked) {
+  screen.name.read_only = true;
+  screen.name.why_locked = "Computed";
+  shown.window.show_controls();
+  EXPECT_EQ(told_at(window_of(screen.name)), "Computed");
+}
+
+TEST_F(Tips, TellWhyADisabledFieldIsLocked) {
+  screen.name.enabled = false;
+  screen.name.why_locked = "No wave is observed";
+  shown.window.show_controls();
+  EXPECT_EQ(told_at(window_of(screen.name)), "No wave is observed");
 }
 
 }  // namespace
