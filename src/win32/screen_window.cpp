@@ -129,6 +129,7 @@ ScreenWindow::ScreenWindow(ui::Screen& screen, HWND owner) : screen_(screen) {
   placed_ = true;
   room_changed_ = false;
   lay_out();
+  apply_focus();
 }
 
 ScreenWindow::~ScreenWindow() {
@@ -765,7 +766,8 @@ void ScreenWindow::frame_focus() {
 }
 
 void ScreenWindow::apply_focus() {
-  if (screen_.focused() == nullptr || focus_serial_ == screen_.focus_serial()) return;
+  // A field without a width would be scrolled to the end of its text, and stay so.
+  if (!placed_ || screen_.focused() == nullptr || focus_serial_ == screen_.focus_serial()) return;
   focus_serial_ = screen_.focus_serial();
   Widget* const target = widget(*screen_.focused());
   if (target == nullptr || target->focus_window() == nullptr) return;

@@ -29,12 +29,29 @@ inline void expect_whole(HWND window, bool has_keys, const std::string& name) {
   EXPECT_LE(wanted.bottom, room.bottom) << name << ": " << win32::narrow(text);
 }
 
-/// Captions, units, labels, buttons and tick boxes.
+/// A field that is as wide as its text shows it from its first letter.
+inline void expect_from_beginning(HWND field, const std::string& name) {
+  if (field == nullptr || !win32::is_shown(field)) return;
+  wchar_t kind[32]{};
+  GetClassNameW(field, kind, 31);
+  if (std::wstring(kind) != L"Edit" || GetWindowTextLengthW(field) == 0) return;
+  const auto left_of = [field](int letter) {
+    const auto place = SendMessageW(field, EM_POSFROMCHAR, static_cast<WPARAM>(letter), 0);
+    return static_cast<short>(LOWORD(place));
+  };
+  RECT room{};
+  GetClientRect(field, &room);
+  if (left_of(GetWindowTextLengthW(field) - 1) - left_of(0) >= room.right) return;
+  EXPECT_GE(left_of(0), 0) << name << ": " << win32::narrow(win32::text_on(field));
+}
+
+/// Captions, units, labels, buttons, tick boxes and fields.
 inline void expect_texts_whole(const win32::ScreenWindow& window) {
   for (const auto& widget : window.widgets()) {
     const ui::Control& control = widget->control();
     expect_whole(widget->caption_label, true, control.name);
     expect_whole(widget->unit_label, false, control.name);
+    expect_from_beginning(widget->focus_window(), control.name);
     if (control.kind == ui::Kind::kLabel) expect_whole(widget->window(), false, control.name);
     if (control.kind == ui::Kind::kButton || control.kind == ui::Kind::kTick)
       expect_whole(widget->window(), true, control.name);
