@@ -20,6 +20,8 @@ namespace {
 
 class QtWords : public testing::Test {
  protected:
+  // The toolkit speaks what the window before spoke, and a language that it speaks is not looked for.
+  void SetUp() override { desktop::speak_qt(text::Language::kEnglish); }
   void TearDown() override { desktop::speak_qt(text::Language::kEnglish); }
 };
 

@@ -12,6 +12,7 @@
 
 #include "elements/form/form_under_test.h"
 #include "elements/form/random_entries.h"
+#include "fakes/rounds.h"
 #include "mainwindow/element_openers.h"
 #include "mainwindow/form_rows.h"
 #include "text/numbers.h"
@@ -416,11 +417,11 @@ std::vector<Values> combinations(const Element& element, unsigned seed) {
     }
     result = std::move(longer);
   }
-  constexpr std::size_t kMost = 150;
-  if (result.size() <= kMost) return result;
+  const auto most = static_cast<std::size_t>(fakes::rounds(150));
+  if (result.size() <= most) return result;
   std::mt19937 random(seed);
   std::shuffle(result.begin(), result.end(), random);
-  result.resize(kMost);
+  result.resize(most);
   return result;
 }
 
@@ -510,6 +511,8 @@ TEST(TwoRoads, WhatTheDialogTakesIsWhatTheFormTakes) {
       }
     }
   }
+  // Some combinations do not show every difference.
+  if (fakes::soon()) return;
   for (const Element& element : elements_of_both_roads())
     EXPECT_GT(taken[element.name], 100) << element.name;
   for (std::size_t i = 0; i < seen.size(); ++i)

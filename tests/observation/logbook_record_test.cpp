@@ -10,6 +10,7 @@
 #include <random>
 #include <set>
 
+#include "fakes/rounds.h"
 #include "observation/logbook_encoder.h"
 #include "records.h"
 
@@ -20,7 +21,7 @@ using observation::LogbookLine;
 using observation::LogbookRecord;
 using observation::record_of_line;
 
-constexpr int kRecords = 100'000;
+const int kRecords = fakes::rounds(100'000);
 
 class Random {
  public:

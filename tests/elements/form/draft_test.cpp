@@ -11,6 +11,7 @@
 #include <string>
 
 #include "elements/form/random_entries.h"
+#include "fakes/rounds.h"
 #include "text/strings.h"
 
 namespace {
@@ -53,7 +54,8 @@ std::unique_ptr<Form> taken_over(const Form& from, const std::string& text) {
 }
 
 TEST(Draft, OfAnyFormIsThatFormAndGoesOnLikeIt) {
-  for (unsigned seed = 1; seed <= 60; ++seed) {
+  const auto forms = static_cast<unsigned>(fakes::rounds(60));
+  for (unsigned seed = 1; seed <= forms; ++seed) {
     SCOPED_TRACE(seed);
     Form written;
     RandomEntries entries(seed);

@@ -11,6 +11,7 @@
 
 #include "codetables/tables/wind_figures.h"
 #include "elements/form/random_entries.h"
+#include "fakes/rounds.h"
 #include "observation/logbook_encoder.h"
 #include "text/strings.h"
 
@@ -178,7 +179,8 @@ TEST(VosclimValues, FollowRegistrationAndMethod) {
 // and a report that is corrected has them from its line again.
 TEST(VosclimValues, AreWholeFiguresOrNothingWhateverIsEntered) {
   int filled = 0;
-  for (unsigned seed = 1; seed <= 200; ++seed) {
+  const auto forms = static_cast<unsigned>(fakes::rounds(200));
+  for (unsigned seed = 1; seed <= forms; ++seed) {
     Form form;
     RandomEntries entries(seed);
     entries.set_up(form);
@@ -212,7 +214,7 @@ TEST(VosclimValues, AreWholeFiguresOrNothingWhateverIsEntered) {
       ASSERT_EQ(values_of(shown.record), values_of(r)) << "what the fields show says the same";
     }
   }
-  EXPECT_GT(filled, 10000);
+  EXPECT_GT(filled, fakes::rounds(10000));
 }
 
 // ---- A report that is corrected

@@ -8,6 +8,7 @@
 
 #include "fakes/fake_files.h"
 #include "fakes/fake_ports.h"
+#include "fakes/rounds.h"
 #include "ship/data/ship_files.h"
 #include "ship/ship_data.h"
 
@@ -336,7 +337,8 @@ TEST(FixedDataLine, HoldsNoControlCharacterWhateverWasTyped) {
 TEST(FixedDataLine, IsStableAfterTheFirstReadingOfAnyBytes) {
   std::mt19937 random(155);
   const std::string likely = "0123456789 +-./_AZ*";
-  for (int round = 0; round < 20000; ++round) {
+  const int rounds = fakes::rounds(20000);
+  for (int round = 0; round < rounds; ++round) {
     std::string line(kFixedDataSize, ' ');
     for (char& c : line) {
       c = round % 2 == 0 ? any_byte_but_controls(random) : likely[random() % likely.size()];
