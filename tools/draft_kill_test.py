@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Kills the program after each entry and starts it again: nothing that was accepted may be lost.
 
-  draft_kill_test.py KAVREL_CLI SESSIONS_FOLDER
+  draft_kill_test.py KAVREL_CLI SESSIONS_FOLDER [EMULATOR]
 
 The program is fed through a pipe, one command at a time, and killed with SIGKILL while it waits for the next: once after the
 entry was taken, once in the middle of the next field. A second start must offer the draft, and Yes must show every entry.
@@ -17,6 +17,8 @@ import tempfile
 ENTRIES = [("Year", "2014"), ("Month", "11"), ("YY", "15"), ("GG", "12"), ("LaDeg", "35"), ("LaMin", "42"),
            ("LoDeg", "165"), ("LoMin", "18"), ("reading", "1010.8"), ("dry_bulb", "15.2"), ("wet_bulb", "13.0"),
            ("TwTwTw", "17.8"), ("N", "6"), ("Nh", "4"), ("h", "300"), ("ww", "25"), ("W1", "8"), ("W2", "2")]
+# Where an emulator keeps its settings.
+OF_EMULATOR = {key: value for key, value in os.environ.items() if key.startswith("KAVREL_WINE")}
 
 
 class Program:
@@ -25,11 +27,11 @@ class Program:
     def __init__(self, cli, room):
         program = os.path.join(room, "program")
         if not os.path.exists(os.path.join(program, "SeaMap")):
-            os.symlink(os.path.join(os.path.dirname(os.path.abspath(cli)), "SeaMap"), os.path.join(program, "SeaMap"))
-        command = [cli, "session", "--root", os.path.join(room, "root"), "--program", program,
+            os.symlink(os.path.join(os.path.dirname(cli[-1]), "SeaMap"), os.path.join(program, "SeaMap"))
+        command = [*cli, "session", "--root", os.path.join(room, "root"), "--program", program,
                    "--locale", "en", "--clock", "2014-11-15T11:50"]
         self.process = subprocess.Popen(command, stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
-                                        env={"PATH": os.defpath, "HOME": room, "TZ": "UTC0", "LC_ALL": "C"})
+                                        env={"PATH": os.defpath, "HOME": room, "TZ": "UTC0", "LC_ALL": "C", **OF_EMULATOR})
 
     def tell(self, *commands):
         """Hands the commands over and returns what was printed until the program waits again."""
@@ -114,7 +116,7 @@ def two_copies(cli, room, reasons):
 
 
 def main():
-    cli, sessions = os.path.abspath(sys.argv[1]), sys.argv[2]
+    cli, sessions = [os.path.abspath(program) for program in (*sys.argv[3:4], sys.argv[1])], sys.argv[2]
     reasons = []
     for play in (killed_after_each_entry, two_copies):
         with tempfile.TemporaryDirectory(prefix="kavrel-kill-") as room:

@@ -133,6 +133,18 @@ class HelpThenOk : public testing::Test {
   std::vector<std::string> told;
 };
 
+TEST_F(HelpThenOk, ASlipOnAltLeavesTheFieldAsItIs) {
+  const HWND degrees = shown.window.widget(screen.latitude_degrees)->focus_window();
+  ASSERT_EQ(GetFocus(), degrees);
+  type("12");
+  const std::string before = ui::dump(screen);
+  // No caption of this dialog has the letter.
+  tests::press_with_alt('z');
+  EXPECT_EQ(ui::dump(screen), before);
+  EXPECT_EQ(GetFocus(), degrees);
+  EXPECT_EQ(win32::narrow(win32::text_on(degrees)), "12");
+}
+
 // Help lets a wrong field be left, to be read about; OK does not.
 TEST_F(HelpThenOk, StillChecksTheFieldThatHelpLetPass) {
   type("99");

@@ -192,6 +192,14 @@ TEST_P(MainKeys, F3OpensTheCurvesAndEscapeLeadsBack) {
   EXPECT_EQ(ui::dump(*screen), before);
 }
 
+TEST_P(MainKeys, F4OpensTheLogbookAndEscapeLeadsBack) {
+  const std::string before = ui::dump(*screen);
+  tests::press(VK_F4);
+  EXPECT_EQ(opened, std::vector<std::string>{"CLogbookDlg"});
+  EXPECT_TRUE(has_focus("VV"));
+  EXPECT_EQ(ui::dump(*screen), before);
+}
+
 TEST_P(MainKeys, CtrlPPrintsTheReport) {
   tests::press('P', false, true);
   EXPECT_EQ(world.fake.printer.printed.size(), 1U);
