@@ -40,6 +40,7 @@ import contextlib
 import datetime
 import difflib
 import fnmatch
+import functools
 import os
 import re
 import shutil
@@ -94,6 +95,7 @@ def read_options(path):
     return options
 
 
+@functools.cache
 def scripts_of(folder):
     """The scripts in all folders, by name: their paths without an ending."""
     scripts, twice = {}, []

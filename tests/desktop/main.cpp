@@ -19,6 +19,8 @@ int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
+  // A text cursor that blinks would make two pictures of one window differ by when they are taken.
+  QApplication::setCursorFlashTime(0);
   desktop::prepare_application();
   return RUN_ALL_TESTS();
 }

@@ -13,6 +13,7 @@
 
 #include "codetables/tables/code_tables.h"
 #include "explain/plain/plain_words.h"
+#include "fakes/rounds.h"
 #include "observation/random_records.h"
 #include "observation/records.h"
 #include "observation/report_encoder.h"
@@ -212,9 +213,9 @@ std::optional<Group> only_group(const PlainLine& line) {
 }
 
 TEST(PlainWordsProperty, EveryWordIsInOneLineAndEveryFigureIsTheReports) {
-  constexpr int kReports = 10000;
+  const int reports = fakes::rounds(10000);
   records::Random random(16);
-  for (int i = 0; i < kReports; ++i) {
+  for (int i = 0; i < reports; ++i) {
     const Struct_Weather record = records::random_record(random);
     const bool wet_bulb_wanted = random.one_in(2);
     const observation::Report report = observation::make_report(record, wet_bulb_wanted);

@@ -6,8 +6,8 @@
 
 namespace fakes {
 
-/// Whether an answer is wanted soon, as tests/CMakeLists.txt asks of a room's tests in one process. A program that is run by
-/// hand, and every long run, tries everything.
+/// Whether an answer is wanted soon, as "ctest --preset quick" tells by its environment. A program that is run by hand, and
+/// every long run, tries everything.
 [[nodiscard]] inline bool soon() {
   const char* const wanted = std::getenv("KAVREL_TESTS");
   return wanted != nullptr && std::string_view(wanted) == "soon";

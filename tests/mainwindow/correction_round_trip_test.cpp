@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "elements/form/random_entries.h"
+#include "fakes/rounds.h"
 #include "mainwindow/correction.h"
 #include "mainwindow/save_flow.h"
 #include "observation/logbook_encoder.h"
@@ -130,13 +131,13 @@ struct Computer {
 };
 
 TEST(CorrectedWithoutAChange, AnyObservationIsTheSameReportAndLine) {
-  constexpr std::size_t kObservations = 10000;
+  const auto observations = static_cast<std::size_t>(fakes::rounds(10000));
   constexpr int kOfAnOfficer = 50;
   Computer computer;
   std::set<std::string> different;
   std::unique_ptr<Officer> officer;
   int with_vosclim = 0;
-  for (int i = 0; different.size() < kObservations; ++i) {
+  for (int i = 0; different.size() < observations; ++i) {
     if (i % kOfAnOfficer == 0) officer = std::make_unique<Officer>(static_cast<unsigned>(i + 1));
     const Struct_Weather record = officer->observe();
     Form& form = officer->form;
@@ -175,7 +176,7 @@ TEST(CorrectedWithoutAChange, AnyObservationIsTheSameReportAndLine) {
     ASSERT_EQ(observation::encode_logbook(corrected.record(), form.ship, form.items), line)
         << report;
   }
-  EXPECT_GT(with_vosclim, 1000);
+  EXPECT_GT(with_vosclim, fakes::rounds(1000));
 }
 
 TEST(CorrectedWithoutAChange, EveryRealReportIsTheSameReportAndLine) {
