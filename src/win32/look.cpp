@@ -330,6 +330,10 @@ void darken_frame(HWND window, bool dark) {
   DwmSetWindowAttribute(window, kImmersiveDark, &on, sizeof on);
 }
 
+void lighten_control(HWND control) {
+  SetWindowTheme(control, nullptr, nullptr);
+}
+
 void darken_control(HWND control, bool dark) {
   if (!dark) return;
   wchar_t kind[32]{};

@@ -106,5 +106,7 @@ class Look {
 /// lists and scroll bars as well.
 void darken_frame(HWND window, bool dark);
 void darken_control(HWND control, bool dark);
+/// Takes back what darken_control() did, where a person changes to light while the program runs.
+void lighten_control(HWND control);
 
 }  // namespace win32

@@ -63,6 +63,7 @@ MessageWindow::MessageWindow(const ui::MessageBox& box, HWND owner, text::Langua
 MessageWindow::~MessageWindow() {
   set_filter(frame_, nullptr);
   SetWindowLongPtrW(frame_, GWLP_USERDATA, 0);
+  say_no_more(frame_);
   DestroyWindow(frame_);
 }
 
@@ -79,6 +80,7 @@ void MessageWindow::make() {
                                       0, frame_, nullptr, program, nullptr);
     SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(look_.usual()), FALSE);
     darken_control(made, look_.dark());
+    keep_input_method_out(made);
     return made;
   };
   text_ = make_one(WC_STATICW, with_system_ends(box_.text), SS_LEFT | SS_NOPREFIX);
@@ -126,14 +128,15 @@ void MessageWindow::lay_out(std::optional<RECT> of) {
   GetMonitorInfoW(MonitorFromWindow(owner_, MONITOR_DEFAULTTOPRIMARY), &display);
   RECT around = display.rcWork;
   if (owner_ != nullptr) GetWindowRect(owner_, &around);
-  POINT at{std::max((around.left + around.right - size.cx) / 2, display.rcWork.left),
-           std::max((around.top + around.bottom - size.cy) / 2, display.rcWork.top)};
-  if (of) {
-    const auto beside = ui::place_beside(place_of(*of), {size.cx, size.cy},
-                                         place_of(display.rcWork), look_.pixels(kBesideField));
-    if (beside) at = {beside->left, beside->top};
-  }
-  SetWindowPos(frame_, nullptr, at.x, at.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+  const Place room = place_of(display.rcWork);
+  ui::Corner at = ui::fitted({(around.left + around.right - size.cx) / 2,
+                              (around.top + around.bottom - size.cy) / 2, size.cx, size.cy},
+                             room)
+                      .corner();
+  if (of)
+    at = ui::place_beside(place_of(*of), {size.cx, size.cy}, room, look_.pixels(kBesideField))
+             .value_or(at);
+  SetWindowPos(frame_, nullptr, at.left, at.top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 int MessageWindow::ask() {
@@ -221,15 +224,18 @@ LRESULT MessageWindow::on_message(UINT message, WPARAM w, LPARAM l) {
   switch (message) {
     case WM_COMMAND: {
       const auto at = std::find(buttons_.begin(), buttons_.end(), reinterpret_cast<HWND>(l));
-      if (HIWORD(w) == BN_CLICKED && at != buttons_.end())
-        press(static_cast<std::size_t>(at - buttons_.begin()));
+      if (at == buttons_.end()) return 0;
+      const auto button = static_cast<std::size_t>(at - buttons_.begin());
+      if (HIWORD(w) == BN_SETFOCUS) at_ = button;
+      if (HIWORD(w) == BN_CLICKED) press(button);
       return 0;
     }
     case WM_CLOSE:
       result_ = box_.close_result;
       return 0;
     case WM_SETFOCUS:
-      if (!buttons_.empty()) SetFocus(buttons_.front());
+      // Whoever looked into another program finds the button again on which he was.
+      if (!buttons_.empty()) SetFocus(buttons_[at_]);
       return 0;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:

@@ -46,6 +46,7 @@ class MessageWindow : public Filter {
   HWND frame_ = nullptr;
   HWND text_ = nullptr;
   std::vector<HWND> buttons_;
+  std::size_t at_ = 0;  ///< the button that has the focus, or had it last
   std::vector<char> keys_;
   std::optional<int> result_;
 };

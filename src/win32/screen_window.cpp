@@ -154,6 +154,7 @@ HWND ScreenWindow::make_part(HWND parent, DWORD style) {
 void ScreenWindow::show_up() {
   const auto kept = screen_.kept_place();
   ShowWindow(frame_, kept && kept->maximised ? SW_SHOWMAXIMIZED : SW_SHOW);
+  is_being_put_ = false;
   SetForegroundWindow(frame_);
   lay_out_now();
   give_focus();
@@ -701,6 +702,7 @@ bool ScreenWindow::take_kept_place(const Place& kept) {
   const HMONITOR found = MonitorFromPoint({title.left, title.top}, MONITOR_DEFAULTTONULL);
   if (found == nullptr) return false;
   const Place place = ui::fitted(kept, place_of(room_of_display(found)));
+  is_being_put_ = true;
   SetWindowPos(frame_, nullptr, place.left, place.top, place.width, place.height,
                SWP_NOZORDER | SWP_NOACTIVATE);
   return true;
@@ -715,6 +717,12 @@ ui::WindowPlace ScreenWindow::place_now() const {
     placement.length = sizeof placement;
     GetWindowPlacement(frame_, &placement);
     now = placement.rcNormalPosition;
+    // It counts from where the task bar leaves off.
+    MONITORINFO display{};
+    display.cbSize = sizeof display;
+    GetMonitorInfoW(MonitorFromWindow(frame_, MONITOR_DEFAULTTOPRIMARY), &display);
+    OffsetRect(&now, display.rcWork.left - display.rcMonitor.left,
+               display.rcWork.top - display.rcMonitor.top);
   }
   return {place_of(now), maximised};
 }
@@ -813,8 +821,12 @@ bool ScreenWindow::filter(const MSG& message) {
 }
 
 bool ScreenWindow::key_down(const MSG& message) {
-  const Widget* const at = widget_of(message.hwnd);
-  if (at != nullptr && at->keeps_keys()) return false;
+  Widget* const at = widget_of(message.hwnd);
+  if (at != nullptr && at->keeps_keys()) {
+    // Tab takes the line on which the list stands, and goes on.
+    if (message.wParam != VK_TAB) return false;
+    at->take_open_line();
+  }
   const Pressed key = pressed(message);
   const std::string name = name_of(key);
   // They would open a field's own menu.
@@ -869,6 +881,9 @@ bool ScreenWindow::character(const MSG& message) {
 // A letter with Alt: in a window with a menu it is the menu's.
 bool ScreenWindow::access_key(const MSG& message) {
   if (!screen_.menu().empty() || message.wParam == VK_SPACE) return false;
+  // Where nothing has the focus the system says of each letter that it came so; this bit tells.
+  constexpr LPARAM kWithAlt = 1 << 29;
+  if ((message.lParam & kWithAlt) == 0) return false;
   auto letter = static_cast<char>(message.wParam < 0x80 ? message.wParam : 0);
   if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
   const auto at = std::find_if(widgets_.begin(), widgets_.end(), [letter](const auto& candidate) {
@@ -948,8 +963,10 @@ LRESULT ScreenWindow::on_frame(UINT message, WPARAM w, LPARAM l) {
     case WM_DPICHANGED: {
       const RECT& wanted = *reinterpret_cast<const RECT*>(l);
       look_anew(HIWORD(w));
-      SetWindowPos(frame_, nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
-                   wanted.bottom - wanted.top, SWP_NOZORDER | SWP_NOACTIVATE);
+      // A window that is put onto another display has its size there already.
+      if (!is_being_put_)
+        SetWindowPos(frame_, nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
+                     wanted.bottom - wanted.top, SWP_NOZORDER | SWP_NOACTIVATE);
       lay_out_now();
       return 0;
     }
@@ -1006,7 +1023,10 @@ LRESULT ScreenWindow::on_part(HWND window, UINT message, WPARAM w, LPARAM l) {
       return 0;
     case WM_MOUSEWHEEL:
       if (window == viewport_) {
-        const int notches = GET_WHEEL_DELTA_WPARAM(w) / WHEEL_DELTA;
+        // A touchpad turns by less than a notch at a time.
+        wheel_ += GET_WHEEL_DELTA_WPARAM(w);
+        const int notches = wheel_ / WHEEL_DELTA;
+        wheel_ -= notches * WHEEL_DELTA;
         for (int i = 0; i < std::abs(notches); ++i)
           scroll(SB_VERT, notches > 0 ? SB_LINEUP : SB_LINEDOWN);
         return 0;

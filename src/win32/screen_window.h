@@ -160,6 +160,8 @@ class ScreenWindow : public Host, public Filter {
   bool placed_ = false;  ///< its frame stands, and what is in it follows
   bool room_changed_ = false;
   bool laying_out_ = false;
+  bool is_being_put_ = false;  ///< onto a display, which may have another scale
+  int wheel_ = 0;              ///< turned, less than a notch
   bool finished_ = false;
 };
 

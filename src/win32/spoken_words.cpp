@@ -4,6 +4,8 @@
 // The names of what is told of a window are defined here alone.
 #include <oleacc.h>
 
+#include <iterator>
+
 #include "win32/spoken_words.h"
 
 namespace win32 {
@@ -28,6 +30,14 @@ void say_of(HWND window, const std::wstring& name, const std::wstring& state) {
   const auto object = static_cast<DWORD>(OBJID_CLIENT);
   told->SetHwndPropStr(window, object, CHILDID_SELF, PROPID_ACC_NAME, name.c_str());
   told->SetHwndPropStr(window, object, CHILDID_SELF, PROPID_ACC_DESCRIPTION, state.c_str());
+}
+
+void say_no_more(HWND window) {
+  IAccPropServices* const told = services();
+  if (told == nullptr) return;
+  static constexpr MSAAPROPID kSaid[] = {PROPID_ACC_NAME, PROPID_ACC_DESCRIPTION};
+  told->ClearHwndProps(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, kSaid,
+                       static_cast<int>(std::size(kSaid)));
 }
 
 }  // namespace win32

@@ -3,9 +3,11 @@
 #include "win32/system.h"
 
 #include <commctrl.h>
+#include <imm.h>
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "ui/dump.h"
 #include "ui/spoken.h"
@@ -117,6 +119,10 @@ std::wstring drawn(std::string_view text) {
   return without_signs(with_system_ends(text));
 }
 
+void keep_input_method_out(HWND window) {
+  ImmAssociateContextEx(window, nullptr, 0);
+}
+
 // Its own mark: IsWindowVisible() asks the windows around it, too.
 bool is_shown(HWND window) {
   return (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
@@ -130,7 +136,10 @@ Widget::Widget(ui::Screen& screen, ui::Control& control, Host& host, HWND parent
     : screen_(screen), control_(control), host_(host), parent_(parent) {}
 
 Widget::~Widget() {
-  for (const HWND window : listened_) RemoveWindowSubclass(window, part_proc, kListening);
+  for (const HWND window : listened_) {
+    RemoveWindowSubclass(window, part_proc, kListening);
+    say_no_more(window);
+  }
   for (const HWND window : windows_) DestroyWindow(window);
 }
 
@@ -139,6 +148,8 @@ HWND Widget::make(const wchar_t* kind, DWORD style, DWORD extended) {
                                       0, parent_, nullptr, GetModuleHandleW(nullptr), nullptr);
   windows_.push_back(window);
   listen(window);
+  if (const std::wstring_view name = kind; name != WC_EDITW && name != WC_COMBOBOXW)
+    keep_input_method_out(window);
   take_font(window);
   darken_control(window, look().dark());
   return window;
@@ -151,6 +162,7 @@ void Widget::listen(HWND window) {
 
 void Widget::unmake(HWND window) {
   RemoveWindowSubclass(window, part_proc, kListening);
+  say_no_more(window);
   std::erase(windows_, window);
   std::erase(listened_, window);
   DestroyWindow(window);
@@ -233,6 +245,7 @@ void Widget::place(const Place& place) {
 void Widget::dress_anew() {
   for (const HWND window : windows_) {
     take_font(window);
+    if (!look().dark()) lighten_control(window);
     darken_control(window, look().dark());
   }
   dressed_ = false;

@@ -70,6 +70,8 @@ class Widget {
   [[nodiscard]] virtual bool scrolls(ui::Key /*page_key*/) { return false; }
   /// Its list is open and has all keys.
   [[nodiscard]] virtual bool keeps_keys() const { return false; }
+  /// Closes it; the line on which it stands is chosen.
+  virtual void take_open_line() {}
 
   /// The control's state on the widget.
   void show();
@@ -188,6 +190,9 @@ std::unique_ptr<Widget> make_picture(ui::Screen&, ui::Control&, Host&, HWND);
 bool put_text(HWND window, const std::wstring& text);
 /// Moves the window where it does not stand there already.
 void move_to(HWND window, const Place& place);
+/// Where nothing is written a key is what it is: with a Japanese input method on, the figure that
+/// chooses a line would go to that.
+void keep_input_method_out(HWND window);
 [[nodiscard]] inline Place place_of(const RECT& rect) {
   return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
 }

@@ -229,11 +229,19 @@ class ComboWidget : public Widget {
   [[nodiscard]] bool keeps_keys() const override {
     return SendMessageW(window(), CB_GETDROPPEDSTATE, 0, 0) != 0;
   }
+  void take_open_line() override {
+    const int line = line_of_box();
+    SendMessageW(window(), CB_SHOWDROPDOWN, FALSE, 0);
+    if (line >= 0) host().hand([&] { screen().choose(control(), line); });
+  }
   void command(HWND from, WORD code) override {
     if (from != window()) return;
     if (code == CBN_EDITCHANGE) typed_.changed();
-    if (code != CBN_SELENDOK) return;
-    host().hand_later([this, line = line_of_box()] { screen().choose(control(), line); });
+    if (code == CBN_SELENDOK)
+      host().hand_later([this, line = line_of_box()] { screen().choose(control(), line); });
+    // A list that is left by Escape or by going elsewhere keeps the line it was led to: what the screen
+    // holds is shown again.
+    if (code == CBN_CLOSEUP) host().hand_later([] {});
   }
   void dress_anew() override {
     Widget::dress_anew();
@@ -295,9 +303,9 @@ class ComboWidget : public Widget {
     typed_.lock(control().read_only);
   }
   LRESULT on_message(HWND window, UINT message, WPARAM w, LPARAM l) override {
-    // A wheel that turns over a box on the way through a form would change an observation unseen:
-    // only one that has the focus, with the pointer on it, listens.
-    if (message == WM_MOUSEWHEEL && !keeps_keys() && !is_under_pointer(l))
+    // A wheel that turns over a closed box on the way through a form would change an observation
+    // unseen, most of all in the box that was just clicked: it scrolls the form.
+    if (message == WM_MOUSEWHEEL && !keeps_keys())
       return SendMessageW(GetParent(this->window()), message, w, l);
     if (window != typed_.edit()) return Widget::on_message(window, message, w, l);
     return typed_.take(message, w, l, [&] { return Widget::on_message(window, message, w, l); });
@@ -333,14 +341,6 @@ class ComboWidget : public Widget {
     GetWindowRect(window(), &now);
     height_ = std::max(static_cast<int>(now.bottom - now.top), look().field_height(font()));
     open_height_ = 0;
-  }
-
-  [[nodiscard]] bool is_under_pointer(LPARAM where) const {
-    if (!owns(GetFocus())) return false;
-    const POINT at{static_cast<short>(LOWORD(where)), static_cast<short>(HIWORD(where))};
-    RECT box{};
-    GetWindowRect(window(), &box);
-    return PtInRect(&box, at) != FALSE;
   }
 
   [[nodiscard]] int line_of_box() const {

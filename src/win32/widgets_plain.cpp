@@ -69,8 +69,7 @@ class ButtonWidget : public Widget {
       : Widget(s, c, host, parent) {
     // Shown as the one that Enter presses; what Enter does is the screen's.
     const bool accepts = c.role == ui::Role::kAccept;
-    make(WC_BUTTONW,
-         WS_TABSTOP | BS_NOTIFY | static_cast<DWORD>(accepts ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON));
+    make(WC_BUTTONW, WS_TABSTOP | static_cast<DWORD>(accepts ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON));
   }
   void command(HWND /*from*/, WORD code) override {
     if (code == BN_CLICKED) host().hand([this] { screen().press(control()); });
@@ -99,7 +98,7 @@ class ButtonWidget : public Widget {
 class TickWidget : public Widget {
  public:
   TickWidget(ui::Screen& s, ui::Control& c, Host& host, HWND parent) : Widget(s, c, host, parent) {
-    make(WC_BUTTONW, WS_TABSTOP | BS_NOTIFY | BS_CHECKBOX | BS_MULTILINE);
+    make(WC_BUTTONW, WS_TABSTOP | BS_CHECKBOX | BS_MULTILINE);
   }
   void command(HWND /*from*/, WORD code) override {
     if (code == BN_CLICKED) host().hand([this] { screen().tick(control(), !control().checked); });

@@ -44,7 +44,8 @@ std::optional<std::wstring> chosen_folder(HWND owner, const std::wstring& captio
     return std::nullopt;
   FILEOPENDIALOGOPTIONS options = 0;
   dialog->GetOptions(&options);
-  dialog->SetOptions(options | FOS_PICKFOLDERS | FOS_FORCEFILESYSTEM);
+  dialog->SetOptions(options | FOS_PICKFOLDERS | FOS_FORCEFILESYSTEM | FOS_PATHMUSTEXIST |
+                     FOS_NOCHANGEDIR);
   dialog->SetTitle(caption.c_str());
   Held<IShellItem> begin;
   if (!initial.empty() && SUCCEEDED(SHCreateItemFromParsingName(initial.c_str(), nullptr,
@@ -160,7 +161,14 @@ void WindowsPort::pause(int milliseconds) {
 
 void WindowsPort::copy_text(const std::string& text) {
   const std::wstring copied = wide(text);
-  if (OpenClipboard(owner()) == FALSE) return;
+  // Programs that keep what was copied look into it for a moment each time.
+  constexpr int kTries = 25;
+  constexpr DWORD kPause = 20;
+  int tries = 1;
+  while (OpenClipboard(owner()) == FALSE) {
+    if (tries++ == kTries) return;
+    Sleep(kPause);
+  }
   EmptyClipboard();
   const std::size_t bytes = (copied.size() + 1) * sizeof(wchar_t);
   if (const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, bytes)) {

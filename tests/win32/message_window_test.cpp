@@ -71,6 +71,18 @@ TEST(MessageWindow, GivesItsOnlyButtonNoLetter) {
   EXPECT_EQ(win32::narrow(win32::text_on(window.buttons().front())), "OK");
 }
 
+TEST(MessageWindow, FindsItsButtonAgainBehindALookIntoAnotherProgram) {
+  win32::MessageWindow window(question(), nullptr, text::Language::kEnglish, std::nullopt);
+  ShowWindow(window.frame(), SW_SHOW);
+  SetFocus(window.buttons().front());
+  EXPECT_TRUE(window.filter({window.buttons().front(), WM_KEYDOWN, VK_TAB, 1, 0, {}}));
+  ASSERT_EQ(GetFocus(), window.buttons()[1]);
+  SetFocus(nullptr);
+  // What the system does when the person comes back.
+  SetFocus(window.frame());
+  EXPECT_EQ(GetFocus(), window.buttons()[1]);
+}
+
 class CAskingDlg : public ui::OkCancelDialog {
  public:
   explicit CAskingDlg(ui::Services& services)

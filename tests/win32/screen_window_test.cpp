@@ -4,7 +4,9 @@
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
+#include <imm.h>
 
+#include <initializer_list>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -103,6 +105,21 @@ TEST_F(Keys, TakeWhatAnInputMethodGives) {
   tests::type("雲量");
   EXPECT_EQ(screen.name.content, "雲量");
   in_step();
+}
+
+TEST_F(Keys, AreNoInputMethodsWhereNothingIsWritten) {
+  const auto has_method = [](HWND window) {
+    const HIMC context = ImmGetContext(window);
+    if (context != nullptr) ImmReleaseContext(window, context);
+    return context != nullptr;
+  };
+  EXPECT_TRUE(has_method(window_of(screen.name)));
+  EXPECT_TRUE(has_method(shown.window.widget(screen.box)->focus_window()));
+  for (const ui::Control* const control :
+       std::initializer_list<const ui::Control*>{&screen.lines, &screen.tick, &screen.go})
+    EXPECT_FALSE(has_method(window_of(*control))) << control->name;
+  for (const HWND line : shown.window.widget(screen.kind)->windows())
+    EXPECT_FALSE(has_method(line));
 }
 
 TEST_F(Keys, PutFiguresIntoADropDownWithoutCompletingThem) {
@@ -234,6 +251,84 @@ TEST_F(Keys, WhatTheProgramWritesIsNoTyping) {
   win32::deal_with_waiting();
   EXPECT_FALSE(screen.name.unchecked);
   in_step();
+}
+
+// What the window's own part hears of a wheel, whose pointer is on this control.
+void turn_wheel(HWND window, int by) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  PostMessageW(window, WM_MOUSEWHEEL, MAKEWPARAM(0, by), MAKELPARAM(place.left + 3, place.top + 3));
+  win32::deal_with_waiting();
+}
+
+TEST_F(Keys, AListThatIsLeftWithoutChoosingShowsAgainWhatIsHeld) {
+  screen.box.content = "10";
+  screen.box.selected = 0;
+  focus(screen.box);
+  const HWND box = window_of(screen.box);
+  SendMessageW(box, CB_SHOWDROPDOWN, TRUE, 0);
+  tests::press(VK_DOWN);
+  tests::press(VK_ESCAPE);
+  EXPECT_FALSE(screen.result()) << "Escape is the list's";
+  EXPECT_EQ(screen.box.content, "10");
+  in_step();
+  // And where it is closed from elsewhere.
+  SendMessageW(box, CB_SHOWDROPDOWN, TRUE, 0);
+  SendMessageW(box, CB_SETCURSEL, 2, 0);
+  SendMessageW(box, CB_SHOWDROPDOWN, FALSE, 0);
+  win32::deal_with_waiting();
+  EXPECT_EQ(screen.box.content, "10");
+  in_step();
+}
+
+TEST_F(Keys, TabTakesTheLineOnWhichAnOpenListStands) {
+  focus(screen.box);
+  SendMessageW(window_of(screen.box), CB_SHOWDROPDOWN, TRUE, 0);
+  tests::press(VK_DOWN);
+  tests::press(VK_DOWN);
+  tests::press(VK_TAB);
+  EXPECT_EQ(screen.box.content, "20");
+  EXPECT_EQ(screen.focused(), &screen.lines);
+  in_step();
+}
+
+TEST_F(Keys, AWheelOverAClosedListChangesNoObservation) {
+  screen.box.content = "10";
+  screen.box.selected = 0;
+  focus(screen.box);
+  turn_wheel(window_of(screen.box), -WHEEL_DELTA);
+  EXPECT_EQ(screen.box.content, "10");
+  in_step();
+}
+
+TEST_F(Keys, SmallTurnsOfAWheelAddUpAndScroll) {
+  SetWindowPos(shown.window.frame(), nullptr, 0, 0, 300, 160, SWP_NOMOVE | SWP_NOZORDER);
+  win32::deal_with_waiting();
+  const HWND viewport = GetParent(shown.window.content());
+  const int before = GetScrollPos(viewport, SB_VERT);
+  turn_wheel(viewport, -WHEEL_DELTA / 3);
+  turn_wheel(viewport, -WHEEL_DELTA / 3);
+  EXPECT_EQ(GetScrollPos(viewport, SB_VERT), before);
+  turn_wheel(viewport, -WHEEL_DELTA / 3);
+  EXPECT_GT(GetScrollPos(viewport, SB_VERT), before);
+}
+
+TEST_F(Keys, TheSecondOfTwoQuickClicksCountsToo) {
+  const HWND tick = window_of(screen.tick);
+  tests::click(tick);
+  ASSERT_TRUE(screen.tick.checked);
+  PostMessageW(tick, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(3, 3));
+  PostMessageW(tick, WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+  win32::deal_with_waiting();
+  EXPECT_FALSE(screen.tick.checked);
+  in_step();
+}
+
+TEST_F(Keys, ALetterWithoutAltPressesNothing) {
+  const char letter = shown.window.widget(screen.tick)->access_key;
+  PostMessageW(GetFocus(), WM_SYSCHAR, static_cast<WPARAM>(letter), 1);
+  win32::deal_with_waiting();
+  EXPECT_FALSE(screen.tick.checked);
 }
 
 TEST_F(Keys, BringAFieldIntoViewWhereTheWindowIsLow) {

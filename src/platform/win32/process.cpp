@@ -20,8 +20,12 @@ namespace {
 /// Puts what is printed to a console in UTF-8, and the console back at the end.
 void speak_utf8() {
   static UINT before = 0;
-  DWORD mode = 0;
-  if (before != 0 || ::GetConsoleMode(::GetStdHandle(STD_OUTPUT_HANDLE), &mode) == 0) return;
+  const auto is_console = [](DWORD which) {
+    DWORD mode = 0;
+    return ::GetConsoleMode(::GetStdHandle(which), &mode) != 0;
+  };
+  // What goes wrong is told on the console also where the rest goes into a file.
+  if (before != 0 || (!is_console(STD_OUTPUT_HANDLE) && !is_console(STD_ERROR_HANDLE))) return;
   before = ::GetConsoleOutputCP();
   (void)::SetConsoleOutputCP(CP_UTF8);
   (void)std::atexit([] { (void)::SetConsoleOutputCP(before); });

@@ -12,8 +12,10 @@ namespace platform::win32 {
 
 namespace {
 
-constexpr DWORD kQuotaExceeded = 1295;  // ERROR_DISK_QUOTA_EXCEEDED, which not every header has
-constexpr int kLongestPause = 50;       // milliseconds
+// ERROR_DISK_QUOTA_EXCEEDED and ERROR_NO_SUCH_DEVICE, which not every header has.
+constexpr DWORD kQuotaExceeded = 1295;
+constexpr DWORD kNoSuchDevice = 433;
+constexpr int kLongestPause = 50;  // milliseconds
 /// With a virus scanner that looks at what was just written.
 constexpr int kScannersPatience = 1000;
 /// What a file keeps when its content is replaced.
@@ -80,6 +82,17 @@ FileError file_error(DWORD error_number) {
       {ERROR_BAD_NET_NAME, FileError::kMediumMissing},
       {ERROR_NETNAME_DELETED, FileError::kMediumMissing},
       {ERROR_NETWORK_UNREACHABLE, FileError::kMediumMissing},
+      {ERROR_HOST_UNREACHABLE, FileError::kMediumMissing},
+      {ERROR_UNEXP_NET_ERR, FileError::kMediumMissing},
+      {ERROR_SEM_TIMEOUT, FileError::kMediumMissing},
+      {ERROR_REM_NOT_LIST, FileError::kMediumMissing},
+      {ERROR_NO_NET_OR_BAD_PATH, FileError::kMediumMissing},
+      {ERROR_NO_NETWORK, FileError::kMediumMissing},
+      {ERROR_NOT_CONNECTED, FileError::kMediumMissing},
+      {kNoSuchDevice, FileError::kMediumMissing},
+      {ERROR_FILE_INVALID, FileError::kMediumMissing},
+      {ERROR_UNRECOGNIZED_VOLUME, FileError::kMediumMissing},
+      {ERROR_NOT_DOS_DISK, FileError::kMediumMissing},
       {ERROR_CANT_RESOLVE_FILENAME, FileError::kBadLink},
       {ERROR_TOO_MANY_OPEN_FILES, FileError::kTooManyOpen},
       {ERROR_INVALID_NAME, FileError::kBadName},
@@ -181,7 +194,9 @@ class Win32Files::Log : public AppendedLog {
     BY_HANDLE_FILE_INFORMATION named{};
     if (!calls_.about(name.file(), named)) return file_error(::GetLastError());
     if (!same_file(held, named)) return std::optional<std::uint64_t>();
-    return std::optional(whole_of(held.nFileSizeHigh, held.nFileSizeLow));
+    // Of a share it is the name, opened after the lock was had, that is asked about of the other
+    // computer anew.
+    return std::optional(whole_of(named.nFileSizeHigh, named.nFileSizeLow));
   }
   [[nodiscard]] std::optional<std::uint64_t> size_now() const override {
     BY_HANDLE_FILE_INFORMATION now{};

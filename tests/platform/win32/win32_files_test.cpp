@@ -516,6 +516,13 @@ TEST(Win32Errors, NumbersBecomeReasons) {
       {ERROR_FILE_EXISTS, FileError::kExists},
       {ERROR_NOT_ENOUGH_MEMORY, FileError::kNoMemory},
       {ERROR_CRC, FileError::kOther},
+      // A stick that was pulled out, a cable that was.
+      {433, FileError::kMediumMissing},
+      {ERROR_FILE_INVALID, FileError::kMediumMissing},
+      {ERROR_UNRECOGNIZED_VOLUME, FileError::kMediumMissing},
+      {ERROR_UNEXP_NET_ERR, FileError::kMediumMissing},
+      {ERROR_SEM_TIMEOUT, FileError::kMediumMissing},
+      {ERROR_NO_NETWORK, FileError::kMediumMissing},
       {ERROR_DIR_NOT_EMPTY, FileError::kOther},
   };
   for (const auto& row : rows)
