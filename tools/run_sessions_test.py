@@ -65,6 +65,35 @@ class Sessions(unittest.TestCase):
                 with open(os.path.join(self.folder, "a", "one.actual"), encoding="utf-8") as left:
                     self.assertEqual(left.read(), "start\n")
 
+    def emulator(self, falls, first=""):
+        """One under which the first so many programs end with status 1, having printed only `first`."""
+        path = self.write("../emulator", f"""#!/bin/sh
+echo run >> {self.room.name}/runs
+if [ $(wc -l < {self.room.name}/runs) -le {falls} ]; then printf '{first}'; exit 1; fi
+exec cat
+""")
+        os.chmod(path, 0o755)
+        return path
+
+    def runs(self):
+        with open(os.path.join(self.room.name, "runs"), encoding="utf-8") as file:
+            return len(file.readlines())
+
+    def test_what_an_emulator_lets_fall_before_it_began_is_started_again(self):
+        self.session("start\n", "start\n")
+        self.assertEqual(self.run_it("--emulator", self.emulator(2), "one"), (0, "1 sessions, 0 failures\n"))
+        self.assertEqual(self.runs(), 3)
+
+    def test_what_never_begins_fails(self):
+        self.session("start\n", "start\n")
+        self.assert_fails("one: exit status 1, expected 0", "--emulator", self.emulator(99), "one")
+        self.assertEqual(self.runs(), 4)
+
+    def test_what_began_is_not_started_again(self):
+        self.session("start\n", "start\n")
+        self.assert_fails("one: exit status 1, expected 0", "--emulator", self.emulator(1, "start"), "one")
+        self.assertEqual(self.runs(), 1)
+
     def test_missing_transcript_fails(self):
         self.session("")
         self.assert_fails("one: no transcript", "one")
