@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <numeric>
 #include <random>
 #include <string>
 #include <vector>
@@ -144,7 +145,7 @@ TEST(TwoRoads, ADialogConfirmedAsItOpensLeavesTheRecord) {
   std::map<std::string, int> confirmed;
   unsigned seed = 0;
   for (const ShipFixedData& ship : ships()) {
-    for (int round = 0; round < 4 && !HasFailure(); ++round) {
+    for (int round = 0; round < fakes::rounds(4) && !HasFailure(); ++round) {
       SCOPED_TRACE("seed " + std::to_string(seed));
       Roads roads;
       form_test::RandomEntries entries(seed++);
@@ -404,24 +405,27 @@ std::string joined(const Values& values) {
   return result;
 }
 
-// Every combination, or some of them where there are very many; the same ones for the same seed.
+// Every combination, or some of them where there are very many; the same ones for the same seed. They are numbered, as the
+// figures of a number are: to make all of them first took longer than to try the few.
 std::vector<Values> combinations(const Element& element, unsigned seed) {
-  std::vector<Values> result = {{}};
-  for (const Values& part : element.values) {
-    std::vector<Values> longer;
-    for (const Values& begun : result) {
-      for (const std::string& value : part) {
-        longer.push_back(begun);
-        longer.back().push_back(value);
-      }
-    }
-    result = std::move(longer);
-  }
+  std::size_t all = 1;
+  for (const Values& part : element.values) all *= part.size();
+  std::vector<std::size_t> numbers(all);
+  std::iota(numbers.begin(), numbers.end(), std::size_t{0});
   const auto most = static_cast<std::size_t>(fakes::rounds(150));
-  if (result.size() <= most) return result;
-  std::mt19937 random(seed);
-  std::shuffle(result.begin(), result.end(), random);
-  result.resize(most);
+  if (all > most) {
+    std::mt19937 random(seed);
+    std::shuffle(numbers.begin(), numbers.end(), random);
+    numbers.resize(most);
+  }
+  std::vector<Values> result;
+  for (std::size_t number : numbers) {
+    Values& values = result.emplace_back();
+    for (const Values& part : element.values) {
+      values.push_back(part[number % part.size()]);
+      number /= part.size();
+    }
+  }
   return result;
 }
 
