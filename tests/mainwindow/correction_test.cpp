@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "fakes/rounds.h"
 #include "mainwindow/correction.h"
 #include "observation/logbook_encoder.h"
 #include "observation/report_file.h"
@@ -580,7 +581,7 @@ TEST(Correcting, SurvivesAnyBytesInTheFile) {
   files.add_file(kLogbook, line_of("0780", "00") + "\n");
   world.windows.answer_all("ok");
   int opened_files = 0;
-  for (int i = 0; i < 3000; ++i) {
+  for (int i = 0; i < fakes::rounds(3000); ++i) {
     std::string text = kText;
     for (std::size_t changes = 1 + pick(6); changes > 0 && !text.empty(); --changes) {
       const std::size_t at = pick(text.size());
@@ -635,7 +636,7 @@ TEST(Correcting, SurvivesAnyBytesInTheFile) {
           << report;
     }
   }
-  EXPECT_GT(opened_files, 2000);
+  EXPECT_GT(opened_files, fakes::rounds(2000));
 }
 
 }  // namespace

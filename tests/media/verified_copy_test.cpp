@@ -13,6 +13,7 @@
 #include <map>
 
 #include "fakes/fake_files.h"
+#include "fakes/rounds.h"
 #include "fakes/temp_folder.h"
 #include "platform/posix/failing_calls.h"
 #include "platform/posix/posix_files.h"
@@ -377,7 +378,7 @@ TEST(VerifiedCopy, FailureOfAnyOperationLeavesSourceAndCopyWhole) {
                                 FileError::kExists, FileError::kNotFound}) {
     for (const bool with_old : {true, false}) {
       int n = 1;
-      for (bool through = false; !through; ++n) {
+      for (bool through = false; !through; n += fakes::stride()) {
         FakeFiles files;
         files.add_file(kFrom, source());
         files.add_folder("C:\\copy");
@@ -403,7 +404,7 @@ TEST(VerifiedCopy, AProgramKilledAtAnyOperationLeavesSourceAndCopyWhole) {
   for (const auto kill : {&FakeFiles::kill_before, &FakeFiles::kill_after}) {
     for (const bool with_old : {true, false}) {
       int n = 1;
-      for (bool through = false; !through; ++n) {
+      for (bool through = false; !through; n += fakes::stride()) {
         FakeFiles files;
         files.add_file(kFrom, source());
         files.add_folder("C:\\copy");
@@ -434,7 +435,7 @@ void at_every_call(bool with_old, const Trouble& trouble) {
   // Short, for each of its calls is a process.
   const std::string logbook = "LINE1\nLINE2\n";
   int n = 1;
-  for (bool through = false; !through; ++n) {
+  for (bool through = false; !through; n += fakes::stride()) {
     const OnDisk disk(with_old, logbook);
     const pid_t child = ::fork();
     if (child == 0) {
