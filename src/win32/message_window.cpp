@@ -123,9 +123,7 @@ void MessageWindow::lay_out(std::optional<RECT> of) {
   AdjustWindowRectExForDpi(&frame, static_cast<DWORD>(GetWindowLongPtrW(frame_, GWL_STYLE)), FALSE,
                            static_cast<DWORD>(GetWindowLongPtrW(frame_, GWL_EXSTYLE)), look_.dpi());
   const SIZE size{frame.right - frame.left, frame.bottom - frame.top};
-  MONITORINFO display{};
-  display.cbSize = sizeof display;
-  GetMonitorInfoW(MonitorFromWindow(owner_, MONITOR_DEFAULTTOPRIMARY), &display);
+  const MONITORINFO display = info_of(MonitorFromWindow(owner_, MONITOR_DEFAULTTOPRIMARY));
   RECT around = display.rcWork;
   if (owner_ != nullptr) GetWindowRect(owner_, &around);
   const Place room = place_of(display.rcWork);

@@ -61,13 +61,6 @@ SIZE client_size(HWND window) {
   return {rect.right, rect.bottom};
 }
 
-RECT room_of_display(HMONITOR display) {
-  MONITORINFO info{};
-  info.cbSize = sizeof info;
-  GetMonitorInfoW(display, &info);
-  return info.rcWork;
-}
-
 // What the person does, Tab excepted, whether the screen is told of it or not.
 bool is_key_or_click(const MSG& message) {
   switch (message.message) {
@@ -653,7 +646,7 @@ std::optional<RECT> ScreenWindow::spoken_of() {
 // All of the content, as far as the display has room. Where one direction is cut, the scroll bar that
 // this takes must not cut the other.
 SIZE ScreenWindow::fitting_size() const {
-  const RECT display = room_of_display(MonitorFromWindow(frame_, MONITOR_DEFAULTTOPRIMARY));
+  const RECT display = info_of(MonitorFromWindow(frame_, MONITOR_DEFAULTTOPRIMARY)).rcWork;
   RECT around{0, 0, 0, 0};
   AdjustWindowRectExForDpi(&around, static_cast<DWORD>(GetWindowLongPtrW(frame_, GWL_STYLE)),
                            plan_.has_menu ? TRUE : FALSE,
@@ -684,8 +677,8 @@ void ScreenWindow::take_place() {
   if (kept && take_kept_place(kept->place)) return;
   const SIZE size = fitting_size();
   const HWND owner = GetWindow(frame_, GW_OWNER);
-  const RECT display = room_of_display(
-      MonitorFromWindow(owner == nullptr ? frame_ : owner, MONITOR_DEFAULTTOPRIMARY));
+  const HWND on_display = owner == nullptr ? frame_ : owner;
+  const RECT display = info_of(MonitorFromWindow(on_display, MONITOR_DEFAULTTOPRIMARY)).rcWork;
   RECT around = display;
   if (owner != nullptr && IsWindowVisible(owner) != FALSE) GetWindowRect(owner, &around);
   const auto middle = [](LONG from, LONG to, LONG own, LONG first, LONG last) {
@@ -701,7 +694,7 @@ bool ScreenWindow::take_kept_place(const Place& kept) {
   const ui::Corner title = ui::title_of(kept);
   const HMONITOR found = MonitorFromPoint({title.left, title.top}, MONITOR_DEFAULTTONULL);
   if (found == nullptr) return false;
-  const Place place = ui::fitted(kept, place_of(room_of_display(found)));
+  const Place place = ui::fitted(kept, place_of(info_of(found).rcWork));
   is_being_put_ = true;
   SetWindowPos(frame_, nullptr, place.left, place.top, place.width, place.height,
                SWP_NOZORDER | SWP_NOACTIVATE);
@@ -718,9 +711,7 @@ ui::WindowPlace ScreenWindow::place_now() const {
     GetWindowPlacement(frame_, &placement);
     now = placement.rcNormalPosition;
     // It counts from where the task bar leaves off.
-    MONITORINFO display{};
-    display.cbSize = sizeof display;
-    GetMonitorInfoW(MonitorFromWindow(frame_, MONITOR_DEFAULTTOPRIMARY), &display);
+    const MONITORINFO display = info_of(MonitorFromWindow(frame_, MONITOR_DEFAULTTOPRIMARY));
     OffsetRect(&now, display.rcWork.left - display.rcMonitor.left,
                display.rcWork.top - display.rcMonitor.top);
   }
@@ -740,7 +731,7 @@ void ScreenWindow::grow_to_content() {
   // It grows to the right and downwards.
   const HMONITOR display = MonitorFromWindow(frame_, MONITOR_DEFAULTTOPRIMARY);
   const ui::Corner corner =
-      ui::drawn_back({now.left, now.top, width, height}, place_of(room_of_display(display)));
+      ui::drawn_back({now.left, now.top, width, height}, place_of(info_of(display).rcWork));
   SetWindowPos(frame_, nullptr, corner.left, corner.top, width, height,
                SWP_NOZORDER | SWP_NOACTIVATE);
 }

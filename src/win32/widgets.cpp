@@ -73,6 +73,13 @@ bool put_text(HWND window, const std::wstring& text) {
   return true;
 }
 
+MONITORINFO info_of(HMONITOR display) {
+  MONITORINFO info{};
+  info.cbSize = sizeof info;
+  GetMonitorInfoW(display, &info);
+  return info;
+}
+
 void move_to(HWND window, const Place& place) {
   RECT now{};
   GetWindowRect(window, &now);

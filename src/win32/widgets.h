@@ -196,6 +196,8 @@ void keep_input_method_out(HWND window);
 [[nodiscard]] inline Place place_of(const RECT& rect) {
   return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
 }
+/// Where a display lies, and what of it the task bar leaves.
+[[nodiscard]] MONITORINFO info_of(HMONITOR display);
 /// The text with line ends as the system's controls want them; and back.
 [[nodiscard]] std::wstring with_system_ends(std::string_view text);
 [[nodiscard]] std::string with_plain_ends(std::wstring_view text);

@@ -1,6 +1,6 @@
 #include "platform/system/appended_log.h"
 
-#include <algorithm>
+#include "platform/system/patience.h"
 
 namespace platform {
 
@@ -9,12 +9,11 @@ namespace {
 constexpr int kTries = 1000;
 // Milliseconds.
 constexpr int kPatience = 3000;
-constexpr int kLongestPause = 50;
 
 }  // namespace
 
 FileError AppendedLog::open() {
-  const std::int64_t until = now() + kPatience;
+  Patience patience(now() + kPatience);
   for (int i = 0; i < kTries; ++i) {
     Outcome opened = open_old();
     created_ = opened.step == Step::kMissing;
@@ -24,12 +23,14 @@ FileError AppendedLog::open() {
       if (opened.error != FileError::kNone) return opened.error;
       continue;
     }
-    if (opened.step == Step::kBusy && now() < until) {
-      pause(kLongestPause);
-      continue;
+    if (opened.step == Step::kBusy) {
+      if (const int wait = patience.next_pause(now()); wait > 0) {
+        pause(wait);
+        continue;
+      }
     }
     if (opened.step != Step::kDone) return opened.error;
-    const auto locked = lock(until);
+    const auto locked = lock(patience);
     if (!locked.ok()) return locked.error;
     if (!*locked.value) continue;
     drop_ = created_;
@@ -39,17 +40,18 @@ FileError AppendedLog::open() {
 }
 
 // False when the whole is to be done again.
-Result<bool> AppendedLog::lock(std::int64_t until) {
+Result<bool> AppendedLog::lock(Patience& patience) {
   if (const FileError error = why_unfit(); error != FileError::kNone) return error;
   // An empty file that this object created stays when it cannot be locked: nobody can tell whether
   // another copy of the program has begun to write into it.
-  for (int wait = 1;; wait = std::min(2 * wait, kLongestPause)) {
+  for (;;) {
     const Outcome asked = lock_once();
     is_locked_ = is_locked_ && asked.step != Step::kMissing;
     if (asked.step == Step::kDone || asked.step == Step::kMissing) break;
     // Anything but "somebody has it" does not get better by waiting.
     if (asked.step != Step::kBusy) return asked.error;
-    if (now() >= until) return FileError::kLocked;
+    const int wait = patience.next_pause(now());
+    if (wait == 0) return FileError::kLocked;
     pause(wait);
   }
   const auto seen = look_again();

@@ -12,6 +12,8 @@
 
 namespace platform {
 
+class Patience;
+
 class AppendedLog : public LockedLog {
  public:
   /// Opens and locks the file, and makes it when there is none. Between opening and locking another
@@ -74,7 +76,7 @@ class AppendedLog : public LockedLog {
   [[nodiscard]] bool goes_with_lock() const { return drop_ && size_ == 0 && size_now() == 0U; }
 
  private:
-  [[nodiscard]] Result<bool> lock(std::int64_t until);
+  [[nodiscard]] Result<bool> lock(Patience& patience);
   [[nodiscard]] FileError put_behind_end(std::string_view content);
 
   std::uint64_t size_ = 0;

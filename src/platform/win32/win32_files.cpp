@@ -6,6 +6,7 @@
 
 #include "platform/paths.h"
 #include "platform/system/appended_log.h"
+#include "platform/system/patience.h"
 #include "platform/win32/wide.h"
 
 namespace platform::win32 {
@@ -15,8 +16,7 @@ namespace {
 // ERROR_DISK_QUOTA_EXCEEDED and ERROR_NO_SUCH_DEVICE, which not every header has.
 constexpr DWORD kQuotaExceeded = 1295;
 constexpr DWORD kNoSuchDevice = 433;
-constexpr int kLongestPause = 50;  // milliseconds
-/// With a virus scanner that looks at what was just written.
+/// With a virus scanner that looks at what was just written; milliseconds.
 constexpr int kScannersPatience = 1000;
 /// What a file keeps when its content is replaced.
 constexpr DWORD kKeptAttributes =
@@ -378,11 +378,13 @@ std::uint64_t Win32Files::process() const {
 FileError Win32Files::why_protected(const std::wstring& path) const {
   // A file that nobody may write is not to be replaced either, and one that another program keeps to
   // itself is found here, before anything is written: the move would only say that it is denied.
-  const std::int64_t until = calls_.now() + kScannersPatience;
-  for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
+  Patience patience(calls_.now() + kScannersPatience);
+  for (;;) {
     const Open old(calls_, path, GENERIC_WRITE | DELETE, OPEN_EXISTING);
     if (old.ok()) return FileError::kNone;
-    if (old.error() != FileError::kLocked || calls_.now() >= until) return old.error();
+    if (old.error() != FileError::kLocked) return old.error();
+    const int pause = patience.next_pause(calls_.now());
+    if (pause == 0) return old.error();
     calls_.pause(pause);
   }
 }
@@ -392,14 +394,15 @@ FileError Win32Files::move(const StagedFile& staged, DWORD flags) const {
   const auto to = os(staged.path);
   if (!from.ok()) return from.error;
   if (!to.ok()) return to.error;
-  const std::int64_t until = calls_.now() + kScannersPatience;
-  for (int pause = 1;; pause = std::min(2 * pause, kLongestPause)) {
+  Patience patience(calls_.now() + kScannersPatience);
+  for (;;) {
     if (calls_.move(from.value->c_str(), to.value->c_str(), flags)) return FileError::kNone;
     const DWORD why = ::GetLastError();
     // That somebody has the old file open without leave to replace it is told as "denied".
     const bool may_pass = why == ERROR_SHARING_VIOLATION || why == ERROR_LOCK_VIOLATION ||
                           (why == ERROR_ACCESS_DENIED && look_at(*to.value).there == There::kFile);
-    if (!may_pass || calls_.now() >= until) return file_error(why);
+    const int pause = may_pass ? patience.next_pause(calls_.now()) : 0;
+    if (pause == 0) return file_error(why);
     calls_.pause(pause);
   }
 }
