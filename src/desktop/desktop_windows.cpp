@@ -205,8 +205,10 @@ void DesktopWindows::pause(int milliseconds) {
   loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-void DesktopWindows::copy_text(const std::string& text) {
-  QApplication::clipboard()->setText(text_of(text));
+bool DesktopWindows::copy_text(const std::string& text) {
+  const QString copied = text_of(text);
+  QApplication::clipboard()->setText(copied);
+  return QApplication::clipboard()->text() == copied;
 }
 
 std::optional<std::string> DesktopWindows::browse_for_folder(const std::string& caption,

@@ -32,7 +32,7 @@ class DesktopWindows : public ui::Windows {
   void show_notice(ui::Screen& screen) override;
   void hide_notice(ui::Screen& screen) override;
   void pause(int milliseconds) override;
-  void copy_text(const std::string& text) override;
+  bool copy_text(const std::string& text) override;
   std::optional<std::string> browse_for_folder(const std::string& caption,
                                                const std::string& initial) override;
 

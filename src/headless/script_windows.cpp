@@ -176,8 +176,9 @@ void ScriptWindows::pause(int milliseconds) {
   say("pause " + std::to_string(milliseconds) + " ms");
 }
 
-void ScriptWindows::copy_text(const std::string& text) {
+bool ScriptWindows::copy_text(const std::string& text) {
   say("copied " + ui::quoted(text));
+  return true;
 }
 
 std::optional<std::string> ScriptWindows::browse_for_folder(const std::string& caption,

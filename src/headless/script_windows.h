@@ -36,7 +36,7 @@ class ScriptWindows : public ui::Windows, public platform::HelpViewer, public ui
   void show_notice(ui::Screen& screen) override;
   void hide_notice(ui::Screen& screen) override;
   void pause(int milliseconds) override;
-  void copy_text(const std::string& text) override;
+  bool copy_text(const std::string& text) override;
   std::optional<std::string> browse_for_folder(const std::string& caption,
                                                const std::string& initial) override;
 

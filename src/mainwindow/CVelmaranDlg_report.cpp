@@ -56,7 +56,10 @@ void CVelmaranDlg::print_report() {
 }
 
 void CVelmaranDlg::copy_report() {
-  services().windows.copy_text(observation::report_file_content(report()));
+  if (!services().windows.copy_text(observation::report_file_content(report()))) {
+    services().messages.error(id::kReportTextNotCopied);
+    return;
+  }
   const text::Texts& texts = services().texts;
   std::string told(texts.get(id::kReportTextCopied));
   if (!is_written()) told.append(" ").append(texts.get(id::kPrintedNotSaved));

@@ -1275,6 +1275,7 @@ inline constexpr Id kPrintedNoDate{42836};
 inline constexpr Id kReportTextCopied{42837};
 inline constexpr Id kStatusCaption{42838};
 inline constexpr Id kGroupsLacking{42839};
+inline constexpr Id kReportTextNotCopied{42884};
 
 // Main window: status line
 inline constexpr Id kWordsRange{44200};

@@ -51,8 +51,9 @@ class Windows {
   virtual void show_notice(ui::Screen& screen) = 0;
   virtual void hide_notice(ui::Screen& screen) = 0;
   virtual void pause(int milliseconds) = 0;
-  /// Puts the text on the clipboard, as it is.
-  virtual void copy_text(const std::string& text) = 0;
+  /// Puts the text on the clipboard, as it is. False when another program does not let go of that; what
+  /// lies there then is not this text.
+  [[nodiscard]] virtual bool copy_text(const std::string& text) = 0;
   /// Folder chosen in the system's own folder browser, or nothing when it was cancelled.
   virtual std::optional<std::string> browse_for_folder(const std::string& caption,
                                                        const std::string& initial) = 0;

@@ -159,25 +159,28 @@ void WindowsPort::pause(int milliseconds) {
   }
 }
 
-void WindowsPort::copy_text(const std::string& text) {
+bool WindowsPort::copy_text(const std::string& text) {
   const std::wstring copied = wide(text);
   // Programs that keep what was copied look into it for a moment each time.
   constexpr int kTries = 25;
   constexpr DWORD kPause = 20;
   int tries = 1;
   while (OpenClipboard(owner()) == FALSE) {
-    if (tries++ == kTries) return;
+    if (tries++ == kTries) return false;
     Sleep(kPause);
   }
   EmptyClipboard();
+  bool taken = false;
   const std::size_t bytes = (copied.size() + 1) * sizeof(wchar_t);
   if (const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, bytes)) {
     std::memcpy(GlobalLock(block), copied.c_str(), bytes);
     GlobalUnlock(block);
     // The system owns what it took.
-    if (SetClipboardData(CF_UNICODETEXT, block) == nullptr) GlobalFree(block);
+    taken = SetClipboardData(CF_UNICODETEXT, block) != nullptr;
+    if (!taken) GlobalFree(block);
   }
   CloseClipboard();
+  return taken;
 }
 
 std::optional<std::string> WindowsPort::browse_for_folder(const std::string& caption,

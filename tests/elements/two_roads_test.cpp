@@ -40,7 +40,7 @@ class Officer : public ui::Windows {
   void show_notice(ui::Screen& /*screen*/) override {}
   void hide_notice(ui::Screen& /*screen*/) override {}
   void pause(int /*milliseconds*/) override {}
-  void copy_text(const std::string& /*text*/) override {}
+  bool copy_text(const std::string& /*text*/) override { return true; }
   std::optional<std::string> browse_for_folder(const std::string& /*caption*/,
                                                const std::string& /*initial*/) override {
     return std::nullopt;

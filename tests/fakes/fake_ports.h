@@ -111,6 +111,7 @@ class FakeWindows : public ui::Windows {
   std::vector<std::string> notices;
   std::optional<std::string> browse_answer;
   std::vector<std::string> copied;  ///< to the clipboard, in order
+  bool clipboard_is_held = false;   ///< another program does not let go of it
   /// Called with each box that is open, before it is answered.
   std::function<void()> while_open;
 
@@ -119,7 +120,10 @@ class FakeWindows : public ui::Windows {
   void show_notice(ui::Screen& screen) override;
   void hide_notice(ui::Screen& screen) override;
   void pause(int milliseconds) override;
-  void copy_text(const std::string& text) override { copied.push_back(text); }
+  bool copy_text(const std::string& text) override {
+    if (!clipboard_is_held) copied.push_back(text);
+    return !clipboard_is_held;
+  }
   std::optional<std::string> browse_for_folder(const std::string& caption,
                                                const std::string& initial) override;
 

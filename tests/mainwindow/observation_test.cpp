@@ -230,7 +230,7 @@ class RandomOfficer : public ui::Windows {
   void show_notice(ui::Screen&) override {}
   void hide_notice(ui::Screen&) override {}
   void pause(int) override {}
-  void copy_text(const std::string& /*text*/) override {}
+  bool copy_text(const std::string& /*text*/) override { return true; }
   std::optional<std::string> browse_for_folder(const std::string&, const std::string&) override {
     return std::nullopt;
   }

@@ -60,6 +60,21 @@ TEST(ShownCommands, WaitForAFieldThatIsRefused) {
   }
 }
 
+TEST(CopyReport, IsToldWhereTheClipboardIsHeldByAnotherProgram) {
+  const auto opened = std::make_unique<Opened>();
+  enter_date(*opened);
+  opened->world.windows.clipboard_is_held = true;
+  opened->world.windows.expect(id::kReportTextNotCopied);
+  const std::string before = opened->shown("status_line");
+  press_keys(*opened, "Ctrl+Shift+C");
+  opened->world.windows.verify();
+  EXPECT_EQ(opened->shown("status_line"), before);
+  opened->world.windows.clipboard_is_held = false;
+  press_keys(*opened, "Ctrl+Shift+C");
+  EXPECT_EQ(opened->world.windows.copied.size(), 1U);
+  EXPECT_NE(opened->shown("status_line").find("The report is copied"), std::string::npos);
+}
+
 TEST(CopyReport, GivesTheTextThatASaveWrites) {
   const auto opened = std::make_unique<Opened>();
   enter_date(*opened);

@@ -6,7 +6,9 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include <future>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "real_world.h"
@@ -89,9 +91,30 @@ TEST_F(Port, PausesAndLeavesKeysForWhatComesThen) {
 // ---- The clipboard
 
 TEST_F(Port, CopiesATextThatAFieldPastes) {
-  world.windows.copy_text("\xE9\x9B\xB2 BBXX 15124");
+  EXPECT_TRUE(world.windows.copy_text("\xE9\x9B\xB2 BBXX 15124"));
   tests::press('V', false, true);
   EXPECT_EQ(screen.name.content, "\xE9\x9B\xB2 BBXX 15124");
+}
+
+TEST_F(Port, TellsThatAnotherDoesNotLetGoOfTheClipboard) {
+  ASSERT_TRUE(world.windows.copy_text("before"));
+  std::promise<bool> held;
+  std::promise<void> enough;
+  std::thread other([&] {
+    const HWND own =
+        CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    held.set_value(OpenClipboard(own) != FALSE);
+    enough.get_future().wait();
+    CloseClipboard();
+    DestroyWindow(own);
+  });
+  ASSERT_TRUE(held.get_future().get());
+  EXPECT_FALSE(world.windows.copy_text("BBXX"));
+  enough.set_value();
+  other.join();
+  EXPECT_TRUE(world.windows.copy_text("BBXX"));
+  tests::press('V', false, true);
+  EXPECT_EQ(screen.name.content, "BBXX");
 }
 
 // ---- Tips
